@@ -1,0 +1,259 @@
+#include "values/Coercion.h"
+
+#include <gtest/gtest.h>
+#include <chrono>
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <random>
+
+#include "values/Text.h"
+
+using namespace kel;
+
+namespace {
+
+constexpr auto None = CoercionFault::None;
+constexpr auto Mismatch = CoercionFault::TypeMismatch;
+constexpr auto Overflow = CoercionFault::Overflow;
+constexpr double Infinity = std::numeric_limits<double>::infinity();
+constexpr double NoNumber = std::numeric_limits<double>::quiet_NaN();
+
+template <class T>
+struct Case {
+    const char* what;
+    Variant from;
+    CoercionFault fault;
+    T result{};  ///< after a fault, the variable is as it was
+    std::u16string_view region = u"en-GB";
+};
+
+template <class T, std::size_t Count>
+void check(const Case<T> (&cases)[Count], const T& untouched) {
+    for (const Case<T>& one : cases) {
+        SCOPED_TRACE(one.what);
+        T result = untouched;
+        EXPECT_EQ(coerce(one.from, *findRegion(one.region), result), one.fault);
+        EXPECT_TRUE(result == (one.fault == None ? one.result : untouched)) << ::testing::PrintToString(result);
+    }
+}
+
+Variant text(std::u16string_view value) { return std::u16string(value); }
+
+}  // namespace
+
+TEST(Coercion, ToBoolean) {
+    const Case<bool> cases[] = {
+        {"nothing yet", Empty{}, None, false},
+        {"any number but zero", 0.25, None, true},
+        {"midnight of day 0", Date{0}, None, false},
+        {"a word", text(u"tRUE"), None, true},
+        {"a word between blanks", text(u" False "), None, false},
+        {"a number as text", text(u"-1"), None, true},
+        {"zero as text", text(u"0,0"), None, false, u"de-DE"},
+        {"another word", text(u"yes"), Mismatch},
+        {"an empty text", text(u""), Mismatch},
+        {"an argument left out", Missing{}, Mismatch},
+        {"a list", StringArray{u"1"}, Mismatch},
+    };
+    check(cases, true);
+}
+
+TEST(Coercion, ToIntegers) {
+    const Case<std::int16_t> shorts[] = {
+        {"nothing yet", Empty{}, None, 0},
+        {"True", true, None, -1},
+        {"half to even, down", 12.5, None, 12},
+        {"half to even, up", 13.5, None, 14},
+        {"less than half", 0.49999999999999994, None, 0},
+        {"the largest, rounded down", 32767.4, None, 32767},
+        {"the largest and a half", 32767.5, Overflow},
+        {"the smallest and a half", -32768.5, None, -32768},
+        {"a long integer too large", std::int32_t{32768}, Overflow},
+        {"a day", Date{41639.75}, Overflow},
+        {"text", text(u" 12 "), None, 12},
+        {"text with a decimal comma", text(u"12,5"), None, 12, u"de-DE"},
+        {"text with another region's comma", text(u"12,5"), Mismatch},
+        {"text too large", text(u"1E5"), Overflow},
+        {"infinity", Infinity, Overflow},
+        {"not a number", NoNumber, Overflow},
+        {"no value", Null{}, Mismatch},
+        {"an object", ObjectPtr{}, Mismatch},
+    };
+    check<std::int16_t>(shorts, 77);
+    const Case<std::int32_t> longs[] = {
+        {"the largest", 2147483647.4, None, 2147483647},
+        {"above the largest", 2147483647.5, Overflow},
+        {"the smallest", -2147483648.5, None, std::numeric_limits<std::int32_t>::min()},
+        {"below the smallest", -2147483649.0, Overflow},
+        {"far beyond", 1e300, Overflow},
+    };
+    check<std::int32_t>(longs, 77);
+}
+
+TEST(Coercion, ToDoubleAndDate) {
+    const Case<double> doubles[] = {
+        {"nothing yet", Empty{}, None, 0.0},
+        {"False", false, None, 0.0},
+        {"a date and time", Date{-1.25}, None, -1.25},
+        {"text", text(u"-1,25"), None, -1.25, u"fr-FR"},
+    };
+    check(doubles, 77.0);
+    const Case<Date> dates[] = {
+        {"nothing yet", Empty{}, None, {0}},
+        {"True", true, None, {-1}},
+        {"a serial", 41639.75, None, {41639.75}},
+        {"a serial as text", text(u"41639.75"), None, {41639.75}},
+        {"the last second of the calendar", 2958465.9999, None, {2958465.9999}},
+        {"the day after the calendar", 2958466.0, Overflow},
+        {"evening of the first day", -657434.75, None, {-657434.75}},
+        {"the day before the calendar", -657435.0, Overflow},
+        {"not a number", NoNumber, Overflow},
+        {"a written date", text(u"15/03/2013"), Mismatch},
+        {"no value", Null{}, Mismatch},
+    };
+    check(dates, Date{77});
+}
+
+TEST(Coercion, ToText) {
+    const Case<std::u16string> cases[] = {
+        {"nothing yet", Empty{}, None, u""},
+        {"True", true, None, u"True"},
+        {"the smallest long integer", std::numeric_limits<std::int32_t>::min(), None, u"-2147483648"},
+        {"a number", 0.1, None, u"0.1"},
+        {"a number elsewhere", -12.5, None, u"-12,5", u"de-DE"},
+        {"a number where digits differ", 12.5, None, u"12\u066B5", u"ar-EG"},
+        {"a day serial", Date{41639.75}, None, u"41639.75"},
+        {"no value", Null{}, Mismatch},
+        {"a list", StringArray{u"a"}, Mismatch},
+    };
+    check<std::u16string>(cases, u"untouched");
+}
+
+TEST(Coercion, ListsAndObjectsComeOnlyFromTheirOwnKind) {
+    StringArray list{u"old"};
+    EXPECT_EQ(coerce(text(u"a"), defaultRegion(), list), Mismatch);
+    EXPECT_EQ(coerce(Empty{}, defaultRegion(), list), Mismatch);
+    EXPECT_EQ(list, StringArray{u"old"});
+    EXPECT_EQ(coerce(StringArray{u"a", u""}, defaultRegion(), list), None);
+    EXPECT_EQ(list, (StringArray{u"a", u""}));
+
+    const ObjectPtr object = std::make_shared<Object>();
+    ObjectPtr result;
+    EXPECT_EQ(coerce(object, defaultRegion(), result), None);
+    EXPECT_EQ(result, object);
+    EXPECT_EQ(coerce(Null{}, defaultRegion(), result), Mismatch);
+    EXPECT_EQ(result, object);
+    EXPECT_EQ(coerce(ObjectPtr{}, defaultRegion(), result), None);
+    EXPECT_EQ(result, nullptr);
+}
+
+TEST(ShortestNumber, IsPlainInTheMiddleAndScientificOutside) {
+    const struct {
+        double number;
+        std::u16string_view text;
+    } cases[] = {
+        {0.0, u"0"},
+        {-0.0, u"0"},
+        {-0.1, u"-0.1"},
+        {1e14, u"100000000000000"},
+        {999999999999999.9, u"999999999999999.9"},
+        {1e15, u"1E+15"},
+        {1e20, u"1E+20"},
+        {-1.5e300, u"-1.5E+300"},
+        {0.00001, u"0.00001"},
+        {-0.000012345678901234567, u"-0.000012345678901234568"},
+        {0.0000099, u"9.9E-06"},
+        {5e-324, u"5E-324"},
+    };
+    for (const auto& [number, expected] : cases) EXPECT_EQ(toUtf8(shortestNumber(number)), toUtf8(expected));
+}
+
+TEST(PlainNumber, ReadsWhatIsANumberAndNothingElse) {
+    const struct {
+        std::u16string_view text;
+        std::optional<double> number;
+        std::u16string_view region = u"en-GB";
+    } cases[] = {
+        {u"\t+12.50\u00A0\u202F\r\n", 12.5},
+        {u".5", 0.5},
+        {u"-0", 0.0},
+        {u"\u22125", -5.0},
+        {u"1e3", 1000.0},
+        {u"1.5E-\u0033", 0.0015},
+        {u"000000000000000000000000000012", 12.0},
+        {u"1e400", std::nullopt},
+        {u"1.7976931348623157e308", std::numeric_limits<double>::max()},
+        {u"1.7976931348623159e308", std::nullopt},
+        {u"1e-400", 0.0},
+        {u"0e999999999999999999999", 0.0},
+        {u"1e-999999999999999999999", 0.0},
+        {u"9007199254740993", 9007199254740992.0},
+        {u"9007199254740993.00000000000000000000000000000000000000000000000000000000001", 9007199254740994.0},
+        {u"12.5", std::nullopt, u"de-DE"},
+        {u"12,5", 12.5, u"de-DE"},
+        {u"\u061C-\u0661\u0662\u066B\u0665", -12.5, u"ar-EG"},
+        {u"-1\u0662\u066B5", -12.5, u"ar-EG"},
+        {u"\u06F1", std::nullopt, u"ar-EG"},
+        {u"", std::nullopt},
+        {u"-", std::nullopt},
+        {u"e5", std::nullopt},
+        {u"1e", std::nullopt},
+        {u"1,000", std::nullopt},
+        {u"1 000", std::nullopt},
+        {u"--1", std::nullopt},
+        {u"- 1", std::nullopt},
+        {u"5-", std::nullopt},
+        {u"0x10", std::nullopt},
+        {u"inf", std::nullopt},
+        {u"1\xD835", std::nullopt},
+    };
+    for (const auto& [text, expected, region] : cases) {
+        SCOPED_TRACE(toUtf8(text));
+        double number = 77;
+        EXPECT_EQ(readPlainNumber(text, *findRegion(region), number), expected.has_value());
+        EXPECT_EQ(number, expected.value_or(77));
+        EXPECT_FALSE(number == 0 && std::signbit(number));
+    }
+    RegionalSettings chakma = defaultRegion();
+    chakma.ZeroDigit = U'\U00011136';
+    double number = 0;
+    EXPECT_TRUE(readPlainNumber(u"\U00011137\U0001113F.5", chakma, number));
+    EXPECT_EQ(number, 19.5);
+}
+
+TEST(PlainNumber, ReadsBackWhatWasWritten) {
+    std::mt19937_64 random(20);
+    const RegionalSettings& region = *findRegion(u"fa-IR");
+    for (int round = 0; round < 20000; ++round) {
+        const std::uint64_t bits = random();
+        double number = 0;
+        static_assert(sizeof number == sizeof bits);
+        std::memcpy(&number, &bits, sizeof number);
+        if (!std::isfinite(number)) continue;
+        std::u16string written;
+        ASSERT_EQ(coerce(Variant(number), region, written), None);
+        double read = 0;
+        ASSERT_TRUE(readPlainNumber(written, region, read)) << toUtf8(written);
+        ASSERT_EQ(read, number) << toUtf8(written);
+    }
+}
+
+TEST(PlainNumber, AMegabyteOfDigitsIsReadAtOnce) {
+    constexpr std::size_t Many = 1'000'000;
+    const std::u16string zeros(Many, u'0');
+    const std::u16string nines(Many, u'9');
+    const auto start = std::chrono::steady_clock::now();
+    double number = 0;
+    EXPECT_FALSE(readPlainNumber(nines, defaultRegion(), number));
+    EXPECT_TRUE(readPlainNumber(u"0." + nines, defaultRegion(), number));
+    EXPECT_EQ(number, 1.0);
+    EXPECT_TRUE(readPlainNumber(u"1" + zeros + u"e-1000000", defaultRegion(), number));
+    EXPECT_EQ(number, 1.0);
+    EXPECT_TRUE(readPlainNumber(u"0." + zeros + u"25e1000000", defaultRegion(), number));
+    EXPECT_EQ(number, 0.25);
+    EXPECT_TRUE(readPlainNumber(u"9007199254740993." + zeros + u"1", defaultRegion(), number));
+    EXPECT_EQ(number, 9007199254740994.0);
+    EXPECT_FALSE(readPlainNumber(zeros + u"x", defaultRegion(), number));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
+}

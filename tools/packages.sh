@@ -1,0 +1,6 @@
+# Debian packages by purpose, for the scripts that source this file.
+# shellcheck shell=bash disable=SC2034
+
+build_packages=(g++ cmake ninja-build qt6-base-dev fonts-dejavu-core)
+test_packages=(libgtest-dev clang-14 clang-format-14 xvfb xauth xdotool)
+bench_packages=(libbenchmark-dev)
