@@ -1,0 +1,82 @@
+#include "controls/text/KelText.h"
+
+namespace kel {
+
+namespace {
+
+constexpr MemberRow Members[] = {
+    property<&KelText::get_Caption, &KelText::put_Caption>(u"Caption", 0x6803000E, u"Text of the caption"),
+    property<&KelText::get_CaptionWidth, &KelText::put_CaptionWidth>(u"CaptionWidth", 0x6803000D,
+                                                                     u"Width of the caption in twips"),
+    property<&KelText::get_Changed>(u"Changed", 0x6803000C, u"The text differs from the original text"),
+    property<&KelText::get_ChangedSaved>(u"ChangedSaved", 0x6803000B, u"The text differs from the saved text"),
+    property<&KelText::get_Enabled, &KelText::put_Enabled>(u"Enabled", EnabledId, u"The field takes input"),
+    property<&KelText::get_hWnd>(u"hWnd", 0x6803000A, u"Handle of the control's own window"),
+    property<&KelText::get_InsertMode, &KelText::put_InsertMode>(
+        u"InsertMode", 0x68030009, u"Typing inserts instead of overwriting; the Insert key toggles it"),
+    property<&KelText::get_Locked, &KelText::put_Locked>(u"Locked", 0x68030008,
+                                                         u"The text can be read and copied but not edited"),
+    property<&KelText::get_Mandatory, &KelText::put_Mandatory>(u"Mandatory", 0x68030007,
+                                                               u"The field must not be left empty"),
+    property<&KelText::get_MaxLength, &KelText::put_MaxLength>(
+        u"MaxLength", 0x68030006, u"Most UTF-16 units that can be typed or pasted; 0 for no limit"),
+    property<&KelText::get_MultiLine, &KelText::put_MultiLine>(u"MultiLine", 0x68030005,
+                                                               u"The field holds several lines"),
+    property<&KelText::get_PasswordChar, &KelText::put_PasswordChar>(
+        u"PasswordChar", 0x68030004, u"Character shown in place of each one typed; empty shows the text"),
+    method<&KelText::Refresh>(u"Refresh", 0x6003000F, u"Repaints the field"),
+    property<&KelText::get_SelectOnFocus, &KelText::put_SelectOnFocus>(
+        u"SelectOnFocus", 0x68030003, u"Entering the field with the Tab key selects its text"),
+    property<&KelText::get_Text, &KelText::put_Text>(u"Text", DefaultMemberId,
+                                                     u"The text, a multi-line one without its trailing empty lines"),
+    property<&KelText::get_TextOriginal, &KelText::put_TextOriginal>(u"TextOriginal", 0x68030002,
+                                                                     u"What Changed compares with")
+        .hiddenByReference(),
+    property<&KelText::get_TextSaved, &KelText::put_TextSaved>(u"TextSaved", 0x68030001,
+                                                               u"What ChangedSaved compares with")
+        .hiddenByReference(),
+    method<&KelText::TooltipSet>(u"TooltipSet", 0x60030010, u"Sets the tooltip of the field").arguments(u"Tooltip"),
+    property<&KelText::get_Valid>(u"Valid", 0x68030000, u"The field is not mandatory, or not empty, or locked"),
+    // Came later than the others and so stands last, in nobody's place.
+    property<&KelText::get_TextRaw>(u"TextRaw", 0x68030011, u"The text exactly as it stands in the field"),
+};
+
+constexpr EventRow Events[] = {
+    {u"Change", 1, u"The text changed, by typing or by code"},
+    {u"Click", 2, u"The field was clicked"},
+};
+
+constexpr PersistedRow Persisted[] = {
+    persisted<&KelText::put_Caption, &KelText::get_Caption>(u"Caption", u""),
+    persisted<&KelText::put_CaptionWidth, &KelText::get_CaptionWidth>(u"CaptionWidth", 0),
+    persisted<&KelText::put_Enabled, &KelText::get_Enabled>(u"Enabled", true),
+    persisted<&KelText::put_InsertMode, &KelText::get_InsertMode>(u"InsertMode", true),
+    persisted<&KelText::put_Locked, &KelText::get_Locked>(u"Locked", false),
+    persisted<&KelText::put_Mandatory, &KelText::get_Mandatory>(u"Mandatory", true),
+    persisted<&KelText::put_MaxLength, &KelText::get_MaxLength>(u"MaxLength", 0),
+    persisted<&KelText::put_MultiLine, &KelText::get_MultiLine>(u"MultiLine", false),
+    persisted<&KelText::put_PasswordChar, &KelText::get_PasswordChar>(u"PasswordChar", u""),
+    persisted<&KelText::put_SelectOnFocus, &KelText::get_SelectOnFocus>(u"SelectOnFocus", false),
+    persisted<&KelText::put_Text, &KelText::get_TextRaw>(u"Text", u""),
+};
+
+std::unique_ptr<Control> make(ControlHost& host) { return std::make_unique<KelText>(host); }
+
+}  // namespace
+
+constinit const EventRow KelText::Change = Events[0];
+constinit const EventRow KelText::Click = Events[1];
+
+constinit const ClassModel KelTextModel{
+    .name = u"KelText",
+    .help = u"Free text entry with a caption, single-line or multi-line",
+    .members = Members,
+    .events = Events,
+    .loaded = Persisted,
+    .saved = Persisted,
+    .makeControl = &make,
+};
+
+const ClassModel& KelText::model() const { return KelTextModel; }
+
+}  // namespace kel

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "host/Geometry.h"
+#include "library/TypeModel.h"
+
+namespace kel {
+
+/// The place of one control in its host. Outlives the control.
+class Container {
+public:
+    /// False until the host has given the control a size.
+    virtual bool hasSize() const = 0;
+    /// Twips.
+    virtual Size size() const = 0;
+    /// Calls the control's `Resize` before it returns when the size differs.
+    virtual void setSize(Size size) = 0;
+
+    virtual bool enabled() const = 0;
+    virtual void setEnabled(bool enabled) = 0;
+
+    /// The native handle of the control's own window, 0 where there is none.
+    virtual std::int32_t windowHandle() = 0;
+
+    /// The name the host knows the control by.
+    virtual std::u16string displayName() const = 0;
+
+    /// A persisted property changed: the host's form needs saving.
+    virtual void propertyChanged(std::u16string_view bagName) = 0;
+
+    /// Runs the host's handlers; by-reference arguments come back in `arguments`.
+    virtual void raiseEvent(const EventRow& event, std::span<Variant> arguments) = 0;
+
+    /// "ToolTipText" of the host's extender. Failures are the container's to swallow; none reads as "".
+    virtual std::u16string toolTipText() const = 0;
+    virtual void setToolTipText(std::u16string_view text) = 0;
+
+protected:
+    ~Container() = default;
+};
+
+}  // namespace kel

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstdint>
+
+/// Keys as the controls see them: virtual key codes for key-down, character codes for key-press.
+namespace kel {
+
+namespace keys {
+inline constexpr std::int16_t Backspace = 8;
+inline constexpr std::int16_t Tab = 9;
+inline constexpr std::int16_t Enter = 13;
+inline constexpr std::int16_t Escape = 27;
+inline constexpr std::int16_t Space = 32;
+inline constexpr std::int16_t PageUp = 33;
+inline constexpr std::int16_t PageDown = 34;
+inline constexpr std::int16_t End = 35;
+inline constexpr std::int16_t Home = 36;
+inline constexpr std::int16_t Left = 37;
+inline constexpr std::int16_t Up = 38;
+inline constexpr std::int16_t Right = 39;
+inline constexpr std::int16_t Down = 40;
+inline constexpr std::int16_t Insert = 45;
+inline constexpr std::int16_t Delete = 46;
+inline constexpr std::int16_t Decimal = 110;  ///< the numeric keypad's decimal key
+inline constexpr std::int16_t F4 = 115;
+inline constexpr std::int16_t Packet = 231;  ///< a character that comes from no key of its own
+}  // namespace keys
+
+/// Modifier keys held down, as a sum.
+enum Modifiers : std::uint8_t { NoModifier = 0, ShiftKey = 1, ControlKey = 2, AltKey = 4 };
+
+constexpr Modifiers operator|(Modifiers left, Modifiers right) {
+    return static_cast<Modifiers>(static_cast<unsigned>(left) | static_cast<unsigned>(right));
+}
+
+enum class MouseButton : std::uint8_t { Left = 1, Right = 2, Middle = 4 };
+
+/// A key stroke on its way into a field, the same on every home.
+struct KeyStroke {
+    std::int16_t code = 0;   ///< virtual key code; 0 when only the character is known (an input method)
+    char32_t character = 0;  ///< what the layout makes of it; 0 for a key without a character
+    Modifiers modifiers = NoModifier;
+};
+
+/// The stroke that types `character`.
+KeyStroke strokeFor(char32_t character);
+
+/// The character code that a stroke hands to key-press handlers, 0 when it gives none: Ctrl+V is 22, Enter
+/// 13, Backspace 8, Escape 27; arrows, Delete and Insert give none, nor does Ctrl+Backspace, which deletes
+/// a word.
+char32_t keyPressCharacter(const KeyStroke& stroke);
+
+}  // namespace kel

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "values/Variant.h"
+
+namespace kel {
+
+struct SharedSettings;
+class Container;
+class WidgetFactory;
+
+/// What a control needs of the machine around it.
+class System {
+public:
+    /// The date without a time of day.
+    virtual Date today() const = 0;
+    /// Seconds since midnight.
+    virtual double timer() const = 0;
+
+    /// A modal box; `style` 64 is the information icon with one OK button.
+    virtual void messageBox(std::u16string_view prompt, std::int32_t style, std::u16string_view title) = 0;
+    virtual void beep() = 0;
+
+    /// Whether the Tab key is down at this moment.
+    virtual bool tabKeyDown() const = 0;
+
+    /// Screen resolution across: 15 on a screen of 96 dots per inch.
+    virtual std::int32_t twipsPerPixel() const = 0;
+
+protected:
+    ~System() = default;
+};
+
+/// Everything outside that one control works with. Outlives the control.
+struct ControlHost {
+    Container& container;
+    WidgetFactory& widgets;
+    System& system;
+    SharedSettings& settings;
+};
+
+}  // namespace kel

@@ -1,0 +1,236 @@
+#include "host/editing/EditBuffer.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "values/Text.h"
+#include "values/TextBoundaries.h"
+
+namespace kel {
+
+namespace {
+
+constexpr std::u16string_view LineBreak = u"\r\n";
+constexpr std::u16string_view LineEnds = u"\r\n\u2029";
+
+std::size_t clamped(std::ptrdiff_t position, std::size_t size) {
+    return position <= 0 ? 0 : std::min(static_cast<std::size_t>(position), size);
+}
+
+/// The UTF-16 units of one character.
+class Units {
+public:
+    explicit Units(char32_t character) {
+        if (character < 0x10000) {
+            Units_[0] = static_cast<char16_t>(character);
+            return;
+        }
+        Units_[0] = static_cast<char16_t>(0xD7C0 + (character >> 10));
+        Units_[1] = static_cast<char16_t>(0xDC00 + (character & 0x3FF));
+        Count_ = 2;
+    }
+    std::u16string_view view() const { return {Units_, Count_}; }
+
+private:
+    char16_t Units_[2]{};
+    std::size_t Count_ = 1;
+};
+
+std::u16string_view firstLine(std::u16string_view text) { return text.substr(0, text.find_first_of(LineBreak)); }
+
+/// Line ends of every kind as line breaks.
+std::u16string withLineBreaks(std::u16string_view text) {
+    std::u16string lines;
+    lines.reserve(text.size());
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t end = std::min(text.find_first_of(LineEnds, at), text.size());
+        lines.append(text, at, end - at);
+        if (end == text.size()) break;
+        lines.append(LineBreak);
+        at = end + (text.substr(end).starts_with(LineBreak) ? LineBreak.size() : 1);
+    }
+    return lines;
+}
+
+}  // namespace
+
+std::u16string_view EditBuffer::selectedText() const {
+    return std::u16string_view(Text_).substr(Selection_.start(), Selection_.length());
+}
+
+// ---- By code
+
+bool EditBuffer::put(std::u16string_view text) {
+    const bool differs = Text_ != text;
+    if (differs) Text_.assign(text);
+    History_.clear();
+    select({});
+    return differs;
+}
+
+bool EditBuffer::insert(std::u16string_view text) { return replaceSelection(EditKind::Single, text); }
+
+void EditBuffer::placeCaret(std::ptrdiff_t position) { moveCaret(clamped(position, Text_.size()), false); }
+
+void EditBuffer::selectLength(std::ptrdiff_t length) {
+    const std::size_t start = Selection_.start();
+    select({start, snapped(start + clamped(length, Text_.size() - start))});
+}
+
+// ---- Moving
+
+std::size_t EditBuffer::wordLeft() const { return Masked_ ? 0 : previousWord(Text_, Selection_.caret, MultiLine_); }
+
+std::size_t EditBuffer::wordRight() const {
+    return Masked_ ? Text_.size() : nextWord(Text_, Selection_.caret, MultiLine_);
+}
+
+std::size_t EditBuffer::destination(EditAction motion) const {
+    switch (motion) {
+        case EditAction::Left: return previousCharacter(Text_, Selection_.caret, MultiLine_);
+        case EditAction::Right: return nextCharacter(Text_, Selection_.caret, MultiLine_);
+        case EditAction::WordLeft: return wordLeft();
+        case EditAction::WordRight: return wordRight();
+        case EditAction::LineStart: return lineStart(Text_, Selection_.caret, MultiLine_);
+        case EditAction::LineEnd: return lineEnd(Text_, Selection_.caret, MultiLine_);
+        case EditAction::TextStart: return 0;
+        case EditAction::TextEnd: return Text_.size();
+        default: return Selection_.caret;
+    }
+}
+
+void EditBuffer::move(EditAction motion, bool extend) {
+    const bool collapses = !extend && !Selection_.empty();
+    if (collapses && motion == EditAction::Left)
+        moveCaret(Selection_.start(), false);
+    else if (collapses && motion == EditAction::Right)
+        moveCaret(Selection_.end(), false);
+    else
+        moveCaret(destination(motion), extend);
+}
+
+std::size_t EditBuffer::columnOf(std::size_t position) const {
+    std::size_t column = 0;
+    for (std::size_t at = lineStart(Text_, position, true); at < position; at = nextCharacter(Text_, at, true))
+        ++column;
+    return column;
+}
+
+std::size_t EditBuffer::atColumn(std::size_t line, std::size_t column) const {
+    const std::size_t end = lineEnd(Text_, line, true);
+    std::size_t at = line;
+    for (; column > 0 && at < end; --column) at = nextCharacter(Text_, at, true);
+    return at;
+}
+
+void EditBuffer::moveLines(std::ptrdiff_t lines, bool extend) {
+    if (!MultiLine_) return;
+    beginStep();
+    const std::size_t from = lineStart(Text_, Selection_.caret, true);
+    std::size_t line = from;
+    for (; lines < 0 && line > 0; ++lines) line = lineStart(Text_, line - LineBreak.size(), true);
+    for (; lines > 0; --lines) {
+        const std::size_t end = lineEnd(Text_, line, true);
+        if (end == Text_.size()) break;
+        line = end + LineBreak.size();
+    }
+    if (line == from) return;
+    const std::size_t column = Column_ == NoColumn ? columnOf(Selection_.caret) : Column_;
+    moveCaret(atColumn(line, column), extend);
+    Column_ = column;
+}
+
+void EditBuffer::selectAll() { select({0, Text_.size()}); }
+
+std::size_t EditBuffer::snapped(std::size_t position) const { return snapDown(Text_, position, MultiLine_); }
+
+void EditBuffer::moveCaret(std::size_t position, bool extend) {
+    const std::size_t caret = snapped(position);
+    select({extend ? Selection_.anchor : caret, caret});
+}
+
+void EditBuffer::select(const Selection& selection) {
+    Column_ = NoColumn;
+    if (selection == Selection_) return;
+    Selection_ = selection;
+    History_.endRun();
+}
+
+// ---- Editing
+
+std::size_t EditBuffer::room() const {
+    if (Maximum_ == 0) return std::numeric_limits<std::size_t>::max();
+    const std::size_t kept = Text_.size() - Selection_.length();
+    return Maximum_ > kept ? Maximum_ - kept : 0;
+}
+
+std::u16string_view EditBuffer::fitting(std::u16string_view text) const {
+    return text.substr(0, snapDown(text, std::min(text.size(), room()), MultiLine_));
+}
+
+bool EditBuffer::type(char32_t character) {
+    const Units units(character);
+    return units.view().size() <= room() && replaceSelection(EditKind::Typing, units.view());
+}
+
+bool EditBuffer::breakLine() {
+    return MultiLine_ && LineBreak.size() <= room() && replaceSelection(EditKind::Single, LineBreak);
+}
+
+bool EditBuffer::paste(std::u16string_view text) {
+    if (MultiLine_) return replaceSelection(EditKind::Single, fitting(withLineBreaks(text)));
+    return replaceSelection(EditKind::Single, fitting(firstLine(text)));
+}
+
+bool EditBuffer::eraseBack() {
+    return erase(EditKind::Backspace, previousCodePoint(Text_, Selection_.caret, MultiLine_));
+}
+
+bool EditBuffer::eraseForward() { return erase(EditKind::Delete, nextCodePoint(Text_, Selection_.caret, MultiLine_)); }
+
+bool EditBuffer::eraseWordBack() { return erase(EditKind::Single, wordLeft()); }
+
+bool EditBuffer::eraseWordForward() { return erase(EditKind::Single, wordRight()); }
+
+bool EditBuffer::eraseSelection() { return replaceSelection(EditKind::Single, {}); }
+
+bool EditBuffer::erase(EditKind kind, std::size_t reach) {
+    if (!Selection_.empty()) return replaceSelection(kind, {});
+    return replace(kind, std::min(Selection_.caret, reach), std::max(Selection_.caret, reach), {});
+}
+
+bool EditBuffer::replaceSelection(EditKind kind, std::u16string_view inserted) {
+    return replace(kind, Selection_.start(), Selection_.end(), inserted);
+}
+
+bool EditBuffer::replace(EditKind kind, std::size_t from, std::size_t to, std::u16string_view inserted) {
+    const std::u16string_view removed = std::u16string_view(Text_).substr(from, to - from);
+    const bool differs = removed != inserted;
+    if (differs) {
+        History_.record(kind, from, removed, inserted, Selection_);
+        Text_.replace(from, removed.size(), inserted);
+    }
+    const std::size_t behind = snapped(from + inserted.size());
+    // The caret goes along with the edit: that alone ends no run of typing.
+    if (differs) {
+        Selection_ = {behind, behind};
+        Column_ = NoColumn;
+    } else {
+        select({behind, behind});
+    }
+    return differs;
+}
+
+bool EditBuffer::undo() { return carryOut(History_.undo()); }
+
+bool EditBuffer::redo() { return carryOut(History_.redo()); }
+
+bool EditBuffer::carryOut(const std::optional<EditHistory::Replacement>& replacement) {
+    Column_ = NoColumn;
+    if (!replacement) return false;
+    Text_.replace(replacement->position, replacement->length, replacement->text);
+    Selection_ = {snapped(replacement->after.anchor), snapped(replacement->after.caret)};
+    return replacement->changesText;
+}
+
+}  // namespace kel

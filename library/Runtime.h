@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "values/Variant.h"
+
+namespace kel {
+
+/// The object that a host hands to the library, once for all controls: regional settings, fonts, and the
+/// moving on of the focus. Members may throw AutomationError when the host's object fails.
+class Runtime : public Object {
+public:
+    /// Bits per pixel of the display.
+    virtual std::int32_t ColorDepth() = 0;
+
+    virtual std::u16string DecimalSeparator() = 0;
+    virtual std::int16_t DecimalDigits() = 0;
+
+    virtual std::u16string CaptionFontName() = 0;
+    virtual double CaptionFontSize() = 0;  ///< points
+    virtual std::u16string FieldFontName() = 0;
+    virtual double FieldFontSize() = 0;  ///< points
+
+    /// Presses the key with this virtual key code; the controls send 9, Tab, to move the focus on.
+    virtual void SendKey(std::int16_t keyCode) = 0;
+
+    /// `list` with `item` as a further comma-separated item, quoted where needed.
+    virtual std::u16string ListAppend(const std::u16string& list, const std::u16string& item) = 0;
+
+    /// The field of `text` at `position` (0 for the first); moves `position` on, to a negative value on the
+    /// read after the last field.
+    virtual std::u16string ReadField(const std::u16string& text, std::int32_t& position, std::int16_t separator) = 0;
+};
+
+}  // namespace kel

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+#include "library/Runtime.h"
+#include "values/Color.h"
+
+namespace kel {
+
+/// What all controls of a process share. Written by `KelControlHandler::SetRuntime` and `InitControls` only.
+struct SharedSettings {
+    std::shared_ptr<kel::Runtime> Runtime;  ///< none until a host hands one over or a control is loaded
+
+    Color FieldBackNormal = colors::SystemWindow;
+    Color FieldBackLocked = colors::SystemWindow;
+    Color FieldBackFocus = colors::SystemWindow;
+    Color FieldBackFocusLocked = colors::SystemWindow;
+
+    char16_t DecimalSeparatorCode = u'.';
+    std::int16_t DefaultDecimals = 0;
+
+    /// Width of the combo box's drop-down button. Stays 0 when the host hands its run-time object over
+    /// before any control is loaded.
+    std::int16_t ButtonWidthPixels = 0;
+
+    /// Makes the run-time object that `InitControls` falls back to. Set once, by the platform.
+    std::function<std::shared_ptr<kel::Runtime>()> makeDefaultRuntime;
+};
+
+/// Stores `runtime` in place of any held one, then takes separator, digits and field colours from it.
+void adoptRuntime(SharedSettings& settings, std::shared_ptr<Runtime> runtime);
+
+}  // namespace kel

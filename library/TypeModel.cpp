@@ -1,0 +1,32 @@
+#include "library/TypeModel.h"
+
+#include "values/Text.h"
+
+namespace kel {
+
+std::u16string_view nameOf(TypeTag type) {
+    switch (type) {
+        case TypeTag::None: return u"nothing";
+        case TypeTag::String: return u"string";
+        case TypeTag::Boolean: return u"boolean";
+        case TypeTag::Integer16: return u"16-bit integer";
+        case TypeTag::Integer32: return u"32-bit integer";
+        case TypeTag::Double: return u"double";
+        case TypeTag::Date: return u"date";
+        case TypeTag::Any: return u"variant";
+        case TypeTag::DaysFlag: return u"KelDateDaysFlag";
+        case TypeTag::Object: return u"object";
+        case TypeTag::Strings: return u"array of strings";
+    }
+    return u"unknown";
+}
+
+const MemberRow* MemberIndex::find(std::span<const MemberRow> rows, std::u16string_view name) const {
+    for (std::size_t slot = hashOf(name) % Slots; Rows_[slot] != 0; slot = (slot + 1) % Slots) {
+        const MemberRow& row = rows[Rows_[slot] - 1U];
+        if (equalsIgnoringCase(row.name, name)) return &row;
+    }
+    return nullptr;
+}
+
+}  // namespace kel

@@ -1,0 +1,392 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
+#include "library/KelDateDaysFlag.h"
+#include "values/Coercion.h"
+#include "values/Variant.h"
+
+/// The public surface of the library as data. Each class writes its members, events and persisted
+/// properties once, as rows bound to its C++ accessors; late-bound dispatch, the type library, the Qt
+/// properties and the reference page are made from these rows.
+///
+///     constexpr MemberRow members[] = {
+///         property<&KelText::get_Caption, &KelText::put_Caption>(u"Caption", 0x6803000E, u"Text of the caption"),
+///         method<&KelText::TooltipSet>(u"TooltipSet", 0x60030010, u"Sets the tooltip").arguments(u"Tooltip"),
+///     };
+///
+/// The order of the rows is the order of the interface's function table, get before put.
+namespace kel {
+
+struct ControlHost;
+struct SharedSettings;
+class Control;
+
+enum class TypeTag : std::uint8_t {
+    None,
+    String,
+    Boolean,
+    Integer16,
+    Integer32,
+    Double,
+    Date,
+    Any,
+    DaysFlag,
+    Object,
+    Strings
+};
+
+/// The type's name as documentation and messages call it: "16-bit integer".
+std::u16string_view nameOf(TypeTag type);
+
+struct DispatchFault {
+    enum class Kind : std::uint8_t {
+        None,
+        UnknownName,
+        UnknownMember,
+        NotReadable,
+        NotWritable,
+        NotCallable,
+        ArgumentCount,
+        TypeMismatch,
+        Overflow
+    };
+    Kind kind = Kind::None;
+    int argument = -1;  ///< the argument at fault, counted from 0; the value of a put comes last
+
+    constexpr bool ok() const { return kind == Kind::None; }
+    friend constexpr bool operator==(DispatchFault, DispatchFault) = default;
+};
+
+/// Calls one accessor: coerces `arguments`, runs it, stores the result, writes by-reference arguments back.
+using Thunk = DispatchFault (*)(Object& target, std::span<Variant> arguments, Variant* result,
+                                const RegionalSettings& region);
+
+struct ParameterRow {
+    std::u16string_view name;
+    TypeTag type = TypeTag::None;
+    bool byReference = false;
+    bool optional = false;  ///< left out: 0, False or ""
+};
+
+inline constexpr std::int32_t DefaultMemberId = 0;
+inline constexpr std::int32_t EnabledId = -514;
+inline constexpr std::int32_t CaptionId = -518;
+
+struct MemberRow {
+    std::u16string_view name;
+    std::int32_t id = 0;
+    std::u16string_view help;
+    bool isMethod = false;
+    bool hidden = false;          ///< not listed by browsers and designers
+    bool putByReference = false;  ///< the put's argument is a pointer; the caller's variable never changes
+    TypeTag type = TypeTag::None;
+    Thunk get = nullptr;
+    Thunk put = nullptr;
+    Thunk call = nullptr;
+    std::uint8_t parameterCount = 0;
+    std::array<ParameterRow, 4> parameterRows{};
+
+    constexpr std::span<const ParameterRow> parameters() const { return {parameterRows.data(), parameterCount}; }
+
+    template <class... Names>
+    constexpr MemberRow arguments(Names... names) const {
+        MemberRow row = *this;
+        std::size_t index = 0;
+        ((row.parameterRows.at(index++).name = names), ...);
+        if (index != row.parameterCount) throw "every parameter needs its name";
+        return row;
+    }
+    constexpr MemberRow lastOptional() const {
+        MemberRow row = *this;
+        row.parameterRows.at(row.parameterCount - 1U).optional = true;
+        return row;
+    }
+    constexpr MemberRow hiddenByReference() const {
+        MemberRow row = *this;
+        row.hidden = true;
+        row.putByReference = true;
+        return row;
+    }
+    constexpr MemberRow byReference() const {
+        MemberRow row = *this;
+        row.putByReference = true;
+        return row;
+    }
+};
+
+struct EventRow {
+    std::u16string_view name;
+    std::int32_t id = 0;
+    std::u16string_view help;
+    std::span<const ParameterRow> parameters{};
+};
+
+/// A default as a property bag compares it; text stays a view on static storage.
+using PropertyDefault = std::variant<std::u16string_view, bool, std::int16_t, std::int32_t, double>;
+
+/// One property as a form file or another property bag keeps it.
+struct PersistedRow {
+    std::u16string_view name;      ///< as written
+    std::u16string_view readName;  ///< as read; differs for historical reasons in one case
+    TypeTag type = TypeTag::None;
+    PropertyDefault readDefault;
+    PropertyDefault writeDefault;
+    /// Puts a value of exactly `type` through the public setter.
+    void (*load)(Object& target, const Variant& value) = nullptr;
+    /// The value to save, of exactly `type`.
+    Variant (*save)(const Object& target) = nullptr;
+
+    constexpr PersistedRow readAs(std::u16string_view otherName) const {
+        return {name, otherName, type, readDefault, writeDefault, load, save};
+    }
+    constexpr PersistedRow writtenUnless(PropertyDefault value) const {
+        return {name, readName, type, readDefault, value, load, save};
+    }
+};
+
+namespace detail {
+
+template <class T>
+inline constexpr TypeTag tagOf = TypeTag::None;
+template <>
+inline constexpr TypeTag tagOf<std::u16string> = TypeTag::String;
+template <>
+inline constexpr TypeTag tagOf<bool> = TypeTag::Boolean;
+template <>
+inline constexpr TypeTag tagOf<std::int16_t> = TypeTag::Integer16;
+template <>
+inline constexpr TypeTag tagOf<std::int32_t> = TypeTag::Integer32;
+template <>
+inline constexpr TypeTag tagOf<double> = TypeTag::Double;
+template <>
+inline constexpr TypeTag tagOf<Date> = TypeTag::Date;
+template <>
+inline constexpr TypeTag tagOf<Variant> = TypeTag::Any;
+template <>
+inline constexpr TypeTag tagOf<KelDateDaysFlag> = TypeTag::DaysFlag;
+template <>
+inline constexpr TypeTag tagOf<ObjectPtr> = TypeTag::Object;
+template <>
+inline constexpr TypeTag tagOf<StringArray> = TypeTag::Strings;
+
+template <class T>
+CoercionFault coerceArgument(const Variant& value, const RegionalSettings& region, T& out) {
+    if constexpr (std::is_same_v<T, KelDateDaysFlag>) {
+        std::int32_t number = 0;
+        const CoercionFault fault = coerce(value, region, number);
+        if (fault == CoercionFault::None) out = static_cast<KelDateDaysFlag>(number);
+        return fault;
+    } else {
+        return coerce(value, region, out);
+    }
+}
+
+template <class T>
+Variant toVariant(T&& value) {
+    using Plain = std::remove_cvref_t<T>;
+    if constexpr (std::is_same_v<Plain, KelDateDaysFlag>) {
+        return static_cast<std::int32_t>(value);
+    } else if constexpr (std::is_same_v<Plain, Variant>) {
+        return std::forward<T>(value);
+    } else {
+        return Variant(std::in_place_type<Plain>, std::forward<T>(value));
+    }
+}
+
+/// An accessor taken apart: its class, its result and its parameters.
+template <class F>
+struct Accessor;
+template <class C, class R, class... A>
+struct Accessor<R (C::*)(A...)> {
+    using Class = C;
+    using Result = R;
+    using Values = std::tuple<std::remove_cvref_t<A>...>;
+    static constexpr std::size_t Count = sizeof...(A);
+    static constexpr std::array<ParameterRow, 4> Parameters{
+        ParameterRow{{},
+                     tagOf<std::remove_cvref_t<A>>,
+                     std::is_lvalue_reference_v<A> && !std::is_const_v<std::remove_reference_t<A>>,
+                     false}...};
+};
+template <class C, class R, class... A>
+struct Accessor<R (C::*)(A...) const> : Accessor<R (C::*)(A...)> {};
+
+constexpr DispatchFault argumentFault(CoercionFault fault, std::size_t index) {
+    return {fault == CoercionFault::Overflow ? DispatchFault::Kind::Overflow : DispatchFault::Kind::TypeMismatch,
+            static_cast<int>(index)};
+}
+
+template <class T>
+DispatchFault readArgument(std::span<Variant> arguments, std::size_t index, const RegionalSettings& region, T& out) {
+    if (index >= arguments.size() || std::holds_alternative<Missing>(arguments[index])) return {};
+    const CoercionFault fault = coerceArgument(arguments[index], region, out);
+    return fault == CoercionFault::None ? DispatchFault{} : argumentFault(fault, index);
+}
+
+template <bool ByReference, class T>
+void writeBack([[maybe_unused]] std::span<Variant> arguments, [[maybe_unused]] std::size_t index,
+               [[maybe_unused]] T& value) {
+    if constexpr (ByReference) {
+        if (index < arguments.size()) arguments[index] = toVariant(std::move(value));
+    }
+}
+
+template <auto F, std::size_t... I>
+DispatchFault invokeAccessor(Object& target, [[maybe_unused]] std::span<Variant> arguments,
+                             [[maybe_unused]] Variant* result, [[maybe_unused]] const RegionalSettings& region,
+                             std::index_sequence<I...>) {
+    using Traits = Accessor<decltype(F)>;
+    typename Traits::Values values{};
+    DispatchFault fault;
+    static_cast<void>(((fault = readArgument(arguments, I, region, std::get<I>(values))).ok() && ...));
+    if (!fault.ok()) return fault;
+    auto& object = static_cast<typename Traits::Class&>(target);
+    if constexpr (std::is_void_v<typename Traits::Result>) {
+        (object.*F)(std::get<I>(values)...);
+    } else {
+        Variant value = toVariant((object.*F)(std::get<I>(values)...));
+        if (result != nullptr) *result = std::move(value);
+    }
+    (writeBack<Traits::Parameters[I].byReference>(arguments, I, std::get<I>(values)), ...);
+    return {};
+}
+
+template <auto F>
+DispatchFault invoke(Object& target, std::span<Variant> arguments, Variant* result, const RegionalSettings& region) {
+    return invokeAccessor<F>(target, arguments, result, region,
+                             std::make_index_sequence<Accessor<decltype(F)>::Count>{});
+}
+
+template <auto F>
+constexpr MemberRow rowFor(std::u16string_view name, std::int32_t id, std::u16string_view help) {
+    using Traits = Accessor<decltype(F)>;
+    MemberRow row;
+    row.name = name;
+    row.id = id;
+    row.help = help;
+    row.type = tagOf<std::remove_cvref_t<typename Traits::Result>>;
+    row.parameterCount = static_cast<std::uint8_t>(Traits::Count);
+    row.parameterRows = Traits::Parameters;
+    return row;
+}
+
+}  // namespace detail
+
+template <auto Get>
+constexpr MemberRow property(std::u16string_view name, std::int32_t id, std::u16string_view help) {
+    MemberRow row = detail::rowFor<Get>(name, id, help);
+    row.get = &detail::invoke<Get>;
+    return row;
+}
+
+template <auto Get, auto Put>
+constexpr MemberRow property(std::u16string_view name, std::int32_t id, std::u16string_view help) {
+    using Value = std::remove_cvref_t<typename detail::Accessor<decltype(Get)>::Result>;
+    using Values = typename detail::Accessor<decltype(Put)>::Values;
+    static_assert(std::is_same_v<Values, std::tuple<Value>>, "get and put of a property have one type");
+    MemberRow row = property<Get>(name, id, help);
+    row.put = &detail::invoke<Put>;
+    return row;
+}
+
+template <auto Call>
+constexpr MemberRow method(std::u16string_view name, std::int32_t id, std::u16string_view help) {
+    MemberRow row = detail::rowFor<Call>(name, id, help);
+    row.isMethod = true;
+    row.call = &detail::invoke<Call>;
+    return row;
+}
+
+namespace detail {
+
+template <auto Put>
+void loadProperty(Object& target, const Variant& value) {
+    using Traits = Accessor<decltype(Put)>;
+    (static_cast<typename Traits::Class&>(target).*
+     Put)(std::get<std::tuple_element_t<0, typename Traits::Values>>(value));
+}
+
+template <auto Get>
+Variant saveProperty(const Object& target) {
+    return toVariant((static_cast<const typename Accessor<decltype(Get)>::Class&>(target).*Get)());
+}
+
+template <class T>
+struct DefaultOf {
+    using type = T;
+};
+template <>
+struct DefaultOf<std::u16string> {
+    using type = std::u16string_view;
+};
+
+}  // namespace detail
+
+/// A persisted property, loaded through `Put` and saved from `Get`, with the default for both.
+template <auto Put, auto Get>
+constexpr PersistedRow persisted(
+    std::u16string_view name,
+    typename detail::DefaultOf<std::tuple_element_t<0, typename detail::Accessor<decltype(Put)>::Values>>::type
+        defaultValue) {
+    using Value = std::tuple_element_t<0, typename detail::Accessor<decltype(Put)>::Values>;
+    return {.name = name,
+            .readName = name,
+            .type = detail::tagOf<Value>,
+            .readDefault = defaultValue,
+            .writeDefault = defaultValue,
+            .load = &detail::loadProperty<Put>,
+            .save = &detail::saveProperty<Get>};
+}
+
+/// Finds rows by name without regard to case. Built at compile time.
+class MemberIndex {
+public:
+    constexpr explicit MemberIndex(std::span<const MemberRow> rows) {
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            std::size_t slot = hashOf(rows[i].name) % Slots;
+            while (Rows_[slot] != 0) slot = (slot + 1) % Slots;
+            Rows_[slot] = static_cast<std::uint8_t>(i + 1);
+        }
+    }
+
+    const MemberRow* find(std::span<const MemberRow> rows, std::u16string_view name) const;
+
+private:
+    static constexpr std::size_t Slots = 64;
+    static constexpr std::size_t hashOf(std::u16string_view name) {
+        std::uint32_t hash = 2166136261U;
+        for (const char16_t unit : name) {
+            const char16_t lower = unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
+            hash = (hash ^ lower) * 16777619U;
+        }
+        return hash;
+    }
+    std::array<std::uint8_t, Slots> Rows_{};
+};
+
+/// Everything that a host can know of a class.
+struct ClassModel {
+    std::u16string_view name;
+    std::u16string_view help;
+    std::span<const MemberRow> members;
+    std::span<const EventRow> events{};
+    std::span<const PersistedRow> loaded{};  ///< persisted properties in the order they are read
+    std::span<const PersistedRow> saved{};   ///< the same in the order they are written
+    MemberIndex index{members};
+    /// Makes the control for a host that outlives it; null for a class that is no control.
+    std::unique_ptr<Control> (*makeControl)(ControlHost& host) = nullptr;
+    /// Makes a creatable class that is no control; null for controls.
+    ObjectPtr (*makeObject)(SharedSettings& settings) = nullptr;
+
+    bool isControl() const { return makeControl != nullptr; }
+};
+
+}  // namespace kel

@@ -1,0 +1,37 @@
+#include "runtime/KelRuntime.h"
+
+#include "runtime/ListString.h"
+
+namespace kel {
+
+namespace {
+
+class DefaultRuntime final : public Runtime {
+public:
+    explicit DefaultRuntime(RuntimeServices& services) : Services_(services) {}
+
+    std::int32_t ColorDepth() override { return Services_.colorDepth(); }
+    std::u16string DecimalSeparator() override { return Services_.region().DecimalSeparator; }
+    std::int16_t DecimalDigits() override { return Services_.region().DecimalDigits; }
+    std::u16string CaptionFontName() override { return Services_.captionFont().name; }
+    double CaptionFontSize() override { return Services_.captionFont().size; }
+    std::u16string FieldFontName() override { return Services_.fieldFont().name; }
+    double FieldFontSize() override { return Services_.fieldFont().size; }
+    void SendKey(std::int16_t keyCode) override { Services_.sendKey(keyCode); }
+
+    std::u16string ListAppend(const std::u16string& list, const std::u16string& item) override {
+        return appendListItem(list, item);
+    }
+    std::u16string ReadField(const std::u16string& text, std::int32_t& position, std::int16_t separator) override {
+        return readListField(text, position, static_cast<char16_t>(separator));
+    }
+
+private:
+    RuntimeServices& Services_;
+};
+
+}  // namespace
+
+std::shared_ptr<Runtime> makeRuntime(RuntimeServices& services) { return std::make_shared<DefaultRuntime>(services); }
+
+}  // namespace kel
