@@ -1,0 +1,62 @@
+#include "platform/headless/FocusKeeper.h"
+
+#include <utility>
+
+namespace kel::headless {
+
+void FocusKeeper::moveTo(FocusTarget& target) {
+    if (target.takesInput() && &target != Holder_) move(&target);
+}
+
+void FocusKeeper::recheck() {
+    if (Holder_ != nullptr && !Holder_->takesInput()) move(nullptr);
+}
+
+void FocusKeeper::forget(const FocusTarget& target) {
+    if (Holder_ == &target) Holder_ = nullptr;
+    if (Target_ == &target) Target_ = nullptr;
+}
+
+void FocusKeeper::forget(const Seat& seat) {
+    if (Entered_ == &seat) Entered_ = nullptr;
+}
+
+void FocusKeeper::move(FocusTarget* target) {
+    const std::uint32_t turn = ++Turn_;
+    Target_ = target;
+    if (!leaveHolder(turn) || !leaveSeat(turn) || !enterSeat(turn)) return;
+    if (destination() == nullptr) {
+        leaveSeat(turn);
+        return;
+    }
+    Holder_ = std::exchange(Target_, nullptr);
+    Input_.activate(Window_);
+    Holder_->gotFocus();
+}
+
+/// Where the focus goes, if it can still go there.
+Seat* FocusKeeper::destination() const {
+    return Target_ != nullptr && Target_->takesInput() ? &Target_->seat() : nullptr;
+}
+
+// Each step returns false when somebody it told has moved the focus.
+
+bool FocusKeeper::leaveHolder(std::uint32_t turn) {
+    if (Holder_ != nullptr) std::exchange(Holder_, nullptr)->lostFocus();
+    return turn == Turn_;
+}
+
+bool FocusKeeper::leaveSeat(std::uint32_t turn) {
+    if (Entered_ != nullptr && Entered_ != destination()) std::exchange(Entered_, nullptr)->control->ExitFocus();
+    return turn == Turn_;
+}
+
+bool FocusKeeper::enterSeat(std::uint32_t turn) {
+    if (Entered_ == nullptr && destination() != nullptr) {
+        Entered_ = destination();
+        Entered_->control->EnterFocus();
+    }
+    return turn == Turn_;
+}
+
+}  // namespace kel::headless

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <cstdint>
+
+#include "platform/headless/Input.h"
+
+namespace kel::headless {
+
+class FocusKeeper;
+class FocusTarget;
+class PlacedHeadlessControl;
+
+/// What the widgets of one control know of the place it stands in. Outlives them.
+struct Seat {
+    FocusKeeper& focus;
+    Input& input;
+    PlacedHeadlessControl& owner;
+    Control* control = nullptr;  ///< none while it is being made
+    bool enabled = true;
+    bool visible = true;
+
+    bool takesInput() const { return control != nullptr && enabled && visible; }
+};
+
+/// The focus of one window. Tells widgets and controls in the order they know it: the old widget, the old
+/// control, the new control, the new widget. Any of them may move the focus elsewhere; the later move wins
+/// and the earlier one stops where it is.
+class FocusKeeper {
+public:
+    FocusKeeper(Input& input, FormWindow& window) : Input_(input), Window_(window) {}
+
+    /// The widget with the focus, nullptr while nothing has it.
+    FocusTarget* holder() const { return Holder_; }
+
+    /// Does nothing when `target` takes no input.
+    void moveTo(FocusTarget& target);
+
+    /// A widget or a control was disabled or hidden: the focus leaves what can no longer have it.
+    void recheck();
+
+    /// The widget is about to go, without a word to anybody.
+    void forget(const FocusTarget& target);
+    void forget(const Seat& seat);
+
+private:
+    void move(FocusTarget* target);
+    bool leaveHolder(std::uint32_t turn);
+    bool leaveSeat(std::uint32_t turn);
+    bool enterSeat(std::uint32_t turn);
+    Seat* destination() const;
+
+    Input& Input_;
+    FormWindow& Window_;
+    FocusTarget* Holder_ = nullptr;
+    FocusTarget* Target_ = nullptr;  ///< where the move under way goes
+    Seat* Entered_ = nullptr;        ///< whose control has been entered and not yet left
+    std::uint32_t Turn_ = 0;         ///< counts the moves
+};
+
+/// A widget that can have the focus, as its window works it.
+class FocusTarget {
+public:
+    explicit FocusTarget(Seat& seat) : Seat_(seat) {}
+    FocusTarget(const FocusTarget&) = delete;
+    FocusTarget& operator=(const FocusTarget&) = delete;
+    virtual ~FocusTarget() { Seat_.focus.forget(*this); }
+
+    Seat& seat() const { return Seat_; }
+
+    /// Enabled and visible, control and all.
+    virtual bool takesInput() const = 0;
+
+    virtual void gotFocus() = 0;
+    virtual void lostFocus() = 0;
+    virtual void strike(const KeyStroke& stroke) = 0;
+
+    /// The left mouse button, pressed and released; `position` may be past either end of the text.
+    virtual void click(std::int32_t position) = 0;
+    virtual void rightClick() = 0;
+
+private:
+    Seat& Seat_;
+};
+
+}  // namespace kel::headless

@@ -1,0 +1,101 @@
+#include "platform/headless/HeadlessHome.h"
+
+#include <chrono>
+#include <ctime>
+
+#include "platform/headless/HeadlessWidgets.h"
+#include "platform/headless/HeadlessWindow.h"
+#include "platform/headless/Input.h"
+#include "runtime/KelRuntime.h"
+
+namespace kel::headless {
+
+namespace {
+
+constexpr std::int32_t UsualTwipsPerPixel = 15;
+constexpr std::int32_t UsualColorDepth = 24;
+constexpr std::u16string_view FontName = u"Sans";
+
+using Clock = std::chrono::system_clock;
+
+std::tm localTime(Clock::time_point moment) {
+    const std::time_t seconds = Clock::to_time_t(moment);
+    return *std::localtime(&seconds);
+}
+
+double serialOf(const std::tm& local) {
+    using namespace std::chrono;
+    constexpr sys_days DayZero = 1899y / December / 30;
+    const sys_days day = year(local.tm_year + 1900) / month(static_cast<unsigned>(local.tm_mon + 1)) /
+                         std::chrono::day(static_cast<unsigned>(local.tm_mday));
+    return static_cast<double>((day - DayZero).count());
+}
+
+double secondsSinceMidnight(Clock::time_point moment) {
+    const std::tm local = localTime(moment);
+    const std::chrono::duration<double> fraction = moment - std::chrono::floor<std::chrono::seconds>(moment);
+    return local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec + fraction.count();
+}
+
+class HeadlessSystem final : public System {
+public:
+    HeadlessSystem(const HomeOptions& options, const Input& input)
+        : Input_(input), TwipsPerPixel_(options.twipsPerPixel > 0 ? options.twipsPerPixel : UsualTwipsPerPixel) {}
+
+    Date today() const override { return {serialOf(localTime(Clock::now()))}; }
+    double timer() const override { return secondsSinceMidnight(Clock::now()); }
+    void messageBox(std::u16string_view /*prompt*/, std::int32_t /*style*/, std::u16string_view /*title*/) override {}
+    void beep() override {}
+    bool tabKeyDown() const override { return Input_.tabHeld(); }
+    std::int32_t twipsPerPixel() const override { return TwipsPerPixel_; }
+
+private:
+    const Input& Input_;
+    std::int32_t TwipsPerPixel_;
+};
+
+class HeadlessServices final : public RuntimeServices {
+public:
+    HeadlessServices(const HomeOptions& options, Input& input)
+        : Input_(input),
+          Region_(options.region != nullptr ? *options.region : defaultRegion()),
+          ColorDepth_(options.colorDepth > 0 ? options.colorDepth : UsualColorDepth) {}
+
+    std::int32_t colorDepth() const override { return ColorDepth_; }
+    const RegionalSettings& region() const override { return Region_; }
+    FontChoice captionFont() const override { return {std::u16string(FontName), NewFontSize}; }
+    FontChoice fieldFont() const override { return captionFont(); }
+    void sendKey(std::int16_t keyCode) override { Input_.send(keyCode); }
+
+private:
+    Input& Input_;
+    const RegionalSettings& Region_;
+    std::int32_t ColorDepth_;
+};
+
+class HeadlessHome final : public Home {
+public:
+    explicit HeadlessHome(const HomeOptions& options) : System_(options, Input_), Services_(options, Input_) {
+        Settings_.makeDefaultRuntime = [this] { return makeRuntime(Services_); };
+    }
+
+    SharedSettings& settings() override { return Settings_; }
+    System& system() override { return System_; }
+    const RegionalSettings& region() const override { return Services_.region(); }
+
+    std::unique_ptr<FormWindow> makeWindow(const WindowSpec& /*spec*/, System& system) override {
+        return std::make_unique<HeadlessWindow>(system, Settings_, Input_);
+    }
+
+private:
+    Input Input_;
+    HeadlessSystem System_;
+    HeadlessServices Services_;
+    SharedSettings Settings_;  ///< last: the run-time object in it works on the services
+};
+
+}  // namespace
+
+std::unique_ptr<Home> makeHome(const HomeOptions& options) { return std::make_unique<HeadlessHome>(options); }
+
+}  // namespace kel::headless

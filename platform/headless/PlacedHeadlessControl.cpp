@@ -1,0 +1,55 @@
+#include "platform/headless/PlacedHeadlessControl.h"
+
+#include "platform/headless/HeadlessTextBox.h"
+
+namespace kel::headless {
+
+PlacedHeadlessControl::PlacedHeadlessControl(const ClassModel& model, const Placement& placement, std::size_t order,
+                                             ControlObserver& observer, const WindowServices& services)
+    : Observer_(observer),
+      Name_(placement.name),
+      Bounds_(placement.bounds),
+      TabPlace_{placement.tabIndex, order},
+      TabStop_(placement.tabStop),
+      Seat_{.focus = services.focus, .input = services.input, .owner = *this, .visible = placement.visible} {
+    ControlHost host{*this, *this, services.system, services.settings};
+    Control_ = model.makeControl(host);
+    Seat_.control = Control_.get();
+}
+
+PlacedHeadlessControl::~PlacedHeadlessControl() {
+    Seat_.focus.forget(Seat_);
+    Seat_.control = nullptr;
+}
+
+void PlacedHeadlessControl::setBounds(const Rect& bounds) {
+    Bounds_.left = bounds.left;
+    Bounds_.top = bounds.top;
+    setSize({bounds.width, bounds.height});
+}
+
+void PlacedHeadlessControl::setSize(Size wanted) {
+    if (Sized_ && wanted == size()) return;
+    Bounds_.width = wanted.width;
+    Bounds_.height = wanted.height;
+    Sized_ = true;
+    if (Control_) Control_->Resize();
+}
+
+void PlacedHeadlessControl::setEnabled(bool enabled) {
+    Seat_.enabled = enabled;
+    Seat_.focus.recheck();
+}
+
+FocusTarget* PlacedHeadlessControl::focusTarget() const {
+    auto* const target = dynamic_cast<FocusTarget*>(Control_->widgets().field);
+    return target != nullptr && target->takesInput() ? target : nullptr;
+}
+
+std::unique_ptr<Label> PlacedHeadlessControl::makeLabel() { return std::make_unique<HeadlessLabel>(); }
+
+std::unique_ptr<TextBox> PlacedHeadlessControl::makeTextBox(TextBoxListener& listener, bool multiLine) {
+    return std::make_unique<HeadlessTextBox>(Seat_, listener, multiLine);
+}
+
+}  // namespace kel::headless

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "forms/Home.h"
+#include "platform/headless/FocusKeeper.h"
+
+namespace kel::headless {
+
+/// What the controls of one window have in common.
+struct WindowServices {
+    System& system;
+    SharedSettings& settings;
+    Input& input;
+    FocusKeeper& focus;
+};
+
+/// When the Tab key comes to a control: by tab index, equal ones in the order they were placed.
+using TabPlace = std::pair<std::int32_t, std::size_t>;
+
+/// A control with everything it stands on: its place on the form, its container, the maker of its widgets.
+class PlacedHeadlessControl final : public PlacedControl, private Container, private WidgetFactory {
+public:
+    /// `order` counts the controls placed before.
+    PlacedHeadlessControl(const ClassModel& model, const Placement& placement, std::size_t order,
+                          ControlObserver& observer, const WindowServices& services);
+    ~PlacedHeadlessControl() override;
+
+    Control& control() override { return *Control_; }
+    const std::u16string& name() const override { return Name_; }
+    Rect bounds() const override { return Bounds_; }
+    void setBounds(const Rect& bounds) override;
+    std::u16string toolTipText() const override { return ToolTipText_; }
+    void setToolTipText(std::u16string_view text) override { ToolTipText_.assign(text); }
+
+    const TabPlace& tabPlace() const { return TabPlace_; }
+    bool tabStop() const { return TabStop_; }
+
+    /// The widget that has the focus or would take it; nullptr while the control takes none.
+    FocusTarget* focusTarget() const;
+
+private:
+    bool hasSize() const override { return Sized_; }
+    Size size() const override { return {Bounds_.width, Bounds_.height}; }
+    void setSize(Size size) override;
+    bool enabled() const override { return Seat_.enabled; }
+    void setEnabled(bool enabled) override;
+    std::int32_t windowHandle() override { return 0; }
+    std::u16string displayName() const override { return Name_; }
+    void propertyChanged(std::u16string_view bagName) override { Observer_.propertyReported(*this, bagName); }
+    void raiseEvent(const EventRow& event, std::span<Variant> arguments) override {
+        Observer_.controlEvent(*this, event, arguments);
+    }
+
+    std::unique_ptr<Label> makeLabel() override;
+    std::unique_ptr<TextBox> makeTextBox(TextBoxListener& listener, bool multiLine) override;
+
+    ControlObserver& Observer_;
+    std::u16string Name_;
+    std::u16string ToolTipText_;
+    Rect Bounds_;
+    TabPlace TabPlace_;
+    bool TabStop_;
+    bool Sized_ = false;
+    Seat Seat_;
+    std::unique_ptr<Control> Control_;  ///< last, so that it goes before all it stands on
+};
+
+}  // namespace kel::headless

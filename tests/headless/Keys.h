@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "forms/Home.h"
+
+/// Texts drawn with their caret, and keys written down.
+namespace kel::test {
+
+/// "12.|34", or "1[2.3]4" with a selection.
+std::string drawn(const TextBox& box);
+
+/// Puts a text that is drawn that way; the caret comes to stand at the selection's end.
+void put(TextBox& box, std::string_view drawing);
+
+/// Presses keys, separated by blanks: `'text'` types it, `paste'text'` pastes it, `Ctrl+Left*3` is a key.
+void press(FormWindow& window, std::string_view keys);
+
+}  // namespace kel::test

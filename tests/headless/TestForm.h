@@ -1,0 +1,86 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "forms/Home.h"
+
+namespace kel::test {
+
+/// A control of one edit box that writes down what it is told ("a.GotFocus") and then does what a test wants.
+class ProbeControl final : public Control, private TextBoxListener {
+public:
+    using Handler = std::function<void()>;
+
+    static const ClassModel SingleLine;
+    static const ClassModel MultiLine;
+
+    ProbeControl(ControlHost& host, bool multiLine);
+
+    TextBox& box() { return *Box_; }
+    ControlHost& host() { return Host_; }
+
+    /// Runs when the control is told `what`: "GotFocus".
+    void on(std::string what, Handler handler) { Handlers_[std::move(what)] = std::move(handler); }
+    /// What a key-press handler makes of the character.
+    std::function<char32_t(char32_t)> changeKey;
+    std::function<std::int16_t(std::int16_t)> changeCode;
+
+    /// The notifications since the last call, separated by blanks. Shared by all probes.
+    static std::string takeLog();
+    static int countOf(std::string_view log, std::string_view what);
+
+    const ClassModel& model() const override { return SingleLine; }
+    void Initialize() override { tell("Initialize"); }
+    void InitProperties() override {}
+    void ReadProperties(PropertyBag&) override {}
+    void WriteProperties(PropertyBag&) const override {}
+    void Resize() override { tell("Resize"); }
+    void Show() override { tell("Show"); }
+    void EnterFocus() override { tell("EnterFocus"); }
+    void ExitFocus() override { tell("ExitFocus"); }
+    WidgetSet widgets() override { return {nullptr, Box_.get(), Box_.get()}; }
+
+private:
+    void Text1_Change() override { tell("Change"); }
+    void Text1_Click() override { tell("Click"); }
+    void Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) override;
+    void Text1_KeyPress(char32_t& KeyAscii) override;
+    void Text1_MouseDown(MouseButton Button) override;
+    void Text1_GotFocus() override { tell(Host_.system.tabKeyDown() ? "GotFocusByTab" : "GotFocus"); }
+    void Text1_LostFocus() override { tell("LostFocus"); }
+
+    void tell(const std::string& what);
+
+    ControlHost Host_;
+    std::unique_ptr<TextBox> Box_;
+    std::map<std::string, Handler> Handlers_;
+};
+
+/// A window of the headless home with some probes on it.
+class TestForm final : private ControlObserver {
+public:
+    explicit TestForm(const HomeOptions& options = {});
+
+    Home& home() { return *Home_; }
+    FormWindow& window() { return *Window_; }
+    PlacedControl& place(std::u16string name, const ClassModel& model = ProbeControl::SingleLine,
+                         Placement placement = {});
+
+    /// "a", or "nowhere".
+    std::string focused() const;
+
+private:
+    void controlEvent(PlacedControl& control, const EventRow& event, std::span<Variant> arguments) override;
+    void propertyReported(PlacedControl&, std::u16string_view) override {}
+
+    std::unique_ptr<Home> Home_;
+    std::unique_ptr<FormWindow> Window_;
+};
+
+inline ProbeControl& probe(PlacedControl& placed) { return static_cast<ProbeControl&>(placed.control()); }
+
+}  // namespace kel::test
