@@ -1,0 +1,201 @@
+#include "apps/kelforms/Commands.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+
+#include "apps/kelforms/Homes.h"
+#include "controls/Classes.h"
+#include "forms/Describe.h"
+#include "forms/Player.h"
+#include "values/Calendar.h"
+#include "values/Text.h"
+
+namespace kel::app {
+
+namespace {
+
+/// Listens to nobody's controls.
+class SilentObserver final : public ControlObserver {
+    void controlEvent(PlacedControl&, const EventRow&, std::span<Variant>) override {}
+    void propertyReported(PlacedControl&, std::u16string_view) override {}
+};
+
+std::string readAll(const std::string& path) {
+    if (path == "-") return {std::istreambuf_iterator<char>(std::cin), {}};
+    std::ifstream file(path, std::ios::binary);
+    if (!file) throw UsageError(path + ": the file cannot be read");
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void writeAll(const std::string& path, const std::string& bytes) {
+    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    file << bytes;
+    if (!file.flush()) throw UsageError(path + ": the file cannot be written");
+}
+
+void setClock(PlaySystem& system, const Options& options) {
+    if (options.today) system.setToday(*options.today);
+    if (options.now) system.setTimer(options.now->Serial * SecondsPerDay);
+}
+
+/// Says where the printed lines differ from the expected ones; true when they do not.
+bool compare(const Script& script, const ScriptCommand& command, const std::vector<std::string>& printed) {
+    const std::vector<std::string> expected = script.expected(command);
+    if (printed == expected) return true;
+    std::cout << script.file << ":" << command.line << ": " << script.lines[command.line - 1] << "\n";
+    for (const std::string& line : expected) std::cout << "  wanted  " << line << "\n";
+    for (const std::string& line : printed) std::cout << "  printed " << line << "\n";
+    if (printed.empty()) std::cout << "  printed nothing\n";
+    return false;
+}
+
+ExitStatus playScript(const Options& options) {
+    const std::string& scriptFile = options.files[1];
+    const Script script = readScript(scriptFile == "-" ? "standard input" : scriptFile, readAll(scriptFile));
+    if (options.update && scriptFile == "-") throw UsageError("--update: standard input cannot be rewritten");
+    const auto session = openHome(options.on, options.home, false);
+    Player player(session->home(), options.files[0], [&](PlaySystem& system) { setClock(system, options); });
+
+    bool same = true;
+    std::vector<std::vector<std::string>> printed;
+    for (const ScriptCommand& command : script.commands) {
+        printed.push_back(player.play(command, script.file));
+        if (options.check) same = compare(script, command, printed.back()) && same;
+        if (options.check || options.update) continue;
+        for (const std::string& line : printed.back()) std::cout << line << "\n";
+    }
+    if (!options.shot.empty() && !player.form().window().savePicture(options.shot))
+        throw UsageError("--shot: no picture can be written to " + options.shot + " on " + options.on);
+    if (options.update) writeAll(scriptFile, writeScript(script, printed));
+    return same ? Done : Differed;
+}
+
+ExitStatus runForm(const Options& options) {
+    const auto session = openHome(WindowHome, options.home, true);
+    SilentObserver observer;
+    Form form(session->home(), session->home().system(), observer, readFormFile(options.files[0]));
+    form.show();
+    session->runUntilClosed();
+    return Done;
+}
+
+ExitStatus shootForm(const Options& options) {
+    const auto session = openHome(WindowHome, options.home, false);
+    SilentObserver observer;
+    Form form(session->home(), session->home().system(), observer, readFormFile(options.files[0]));
+    form.show();
+    if (!form.window().savePicture(options.files[1]))
+        throw UsageError(options.files[1] + ": the picture cannot be written");
+    return Done;
+}
+
+ExitStatus saveForm(const Options& options) {
+    const auto session = openHome("headless", options.home, false);
+    SilentObserver observer;
+    const Form form(session->home(), session->home().system(), observer, readFormFile(options.files[0]));
+    form.save(options.files[1]);
+    return Done;
+}
+
+/// Properties that a form gives to every control, whatever its class.
+bool isExtenderProperty(std::u16string_view name) {
+    static constexpr std::u16string_view Names[] = {
+        u"Left",
+        u"Top",
+        u"Width",
+        u"Height",
+        u"TabIndex",
+        u"TabStop",
+        u"Visible",
+        u"Index",
+        u"Tag",
+        u"ToolTipText",
+        u"HelpContextID",
+        u"WhatsThisHelpID",
+        u"CausesValidation",
+        u"Align",
+        u"DragIcon",
+        u"DragMode",
+        u"DataField",
+        u"DataSource",
+        u"DataMember",
+        u"DataFormat",
+        u"Negotiate",
+        u"Object.Tag",
+        u"Object.ToolTipText",
+        u"Object.Visible",
+        u"Object.Width",
+        u"Object.Height",
+    };
+    return name.starts_with(u'_') || std::any_of(std::begin(Names), std::end(Names), [name](std::u16string_view known) {
+               return equalsIgnoringCase(known, name);
+           });
+}
+
+bool isPersisted(const ClassModel& model, std::u16string_view name) {
+    return std::any_of(model.loaded.begin(), model.loaded.end(), [name](const PersistedRow& row) {
+        return equalsIgnoringCase(row.name, name) || equalsIgnoringCase(row.readName, name);
+    });
+}
+
+void printBlock(const FormFile& file, FormBlockId id) {
+    const FormBlock& block = file.block(id);
+    std::size_t depth = 0;
+    for (FormBlockId parent = block.parent; parent != NoFormBlock; parent = file.block(parent).parent) ++depth;
+    std::cout << block.line << ": " << std::string(2 * depth, ' ') << toUtf8(block.className) << " "
+              << toUtf8(block.name);
+    if (block.index) std::cout << "(" << *block.index << ")";
+    std::cout << (id == 0 || isLibraryClass(block) ? "" : ", kept as it is") << "\n";
+    const ClassModel* model = isLibraryClass(block) ? libraryClasses().find(block.className) : nullptr;
+    if (model == nullptr) return;
+    for (const FormProperty& property : file.properties(id))
+        if (!isExtenderProperty(property.name) && !isPersisted(*model, property.name))
+            std::cout << property.line << ": " << std::string(2 * depth + 2, ' ') << toUtf8(property.name)
+                      << " is no property of " << toUtf8(model->name) << "; it is kept as it is\n";
+}
+
+ExitStatus checkForm(const Options& options) {
+    const FormFile file = readFormFile(options.files[0]);
+    const auto session = openHome("headless", options.home, false);
+    SilentObserver observer;
+    // Loading is what finds wrong classes and values.
+    const Form form(session->home(), session->home().system(), observer, file);
+    for (FormBlockId id = 0; id < file.blocks().size(); ++id) printBlock(file, id);
+    return Done;
+}
+
+ExitStatus describe(const Options& options) {
+    std::vector<const ClassModel*> models = libraryClasses().all();
+    if (!options.files.empty()) {
+        const auto name = fromUtf8(options.files[0]);
+        const ClassModel* model = name ? libraryClasses().find(*name) : nullptr;
+        if (model == nullptr) throw UsageError("the library has no class \"" + options.files[0] + "\"");
+        models = {model};
+    }
+    if (options.json)
+        std::cout << describeAsJson(models);
+    else if (options.markdown)
+        std::cout << describeAsMarkdown(models);
+    else
+        for (const ClassModel* model : models)
+            std::cout << (model == models.front() ? "" : "\n") << describeClass(*model);
+    return Done;
+}
+
+constexpr struct {
+    const char* name;
+    ExitStatus (*run)(const Options& options);
+} Commands[] = {{"run", runForm},   {"play", playScript}, {"check", checkForm},
+                {"save", saveForm}, {"shot", shootForm},  {"describe", describe}};
+
+}  // namespace
+
+ExitStatus runCommand(const Options& options) {
+    const auto found = std::find_if(std::begin(Commands), std::end(Commands),
+                                    [&](const auto& row) { return options.command == row.name; });
+    return found->run(options);
+}
+
+}  // namespace kel::app

@@ -1,0 +1,128 @@
+#include "apps/kelforms/Options.h"
+
+#include <algorithm>
+
+#include "forms/ScriptValue.h"
+#include "values/Coercion.h"
+#include "values/Text.h"
+
+namespace kel::app {
+
+const char* const Usage =
+    "kelforms run FORM.frm [--locale L]                   show the form in a window\n"
+    "kelforms play FORM.frm SCRIPT|- [options]            play a script on the form\n"
+    "kelforms check FORM.frm                              say what the file holds and what is wrong with it\n"
+    "kelforms save FORM.frm OUT.frm                       load every control and write the form back\n"
+    "kelforms shot FORM.frm OUT.png [--locale L]          take a picture of the form\n"
+    "kelforms describe [CLASS] [--json|--markdown]        members, events and saved properties\n"
+    "\n"
+    "options of play: --on headless|qt, --locale en-GB, --today 2013-03-15, --now 10:15:30,\n"
+    "  --colour-depth 24, --twips-per-pixel 15, --shot FILE.png, --check, --update\n";
+
+namespace {
+
+struct Reader {
+    const std::vector<std::string>& arguments;
+    std::size_t next = 0;
+
+    std::string value(const std::string& option) {
+        if (next == arguments.size()) throw UsageError(option + ": a value is missing");
+        return arguments[next++];
+    }
+
+    std::u16string wideValue(const std::string& option) {
+        const std::string bytes = value(option);
+        const auto text = fromUtf8(bytes);
+        if (!text) throw UsageError(option + ": the value is not valid UTF-8");
+        return *text;
+    }
+
+    std::int32_t number(const std::string& option, std::int32_t least, std::int32_t most) {
+        const std::u16string text = wideValue(option);
+        double number = 0;
+        if (!readPlainNumber(text, defaultRegion(), number) || number < least || number > most ||
+            number != static_cast<std::int32_t>(number))
+            throw UsageError(option + ": a whole number from " + std::to_string(least) + " to " + std::to_string(most) +
+                             " is wanted, not \"" + toUtf8(text) + "\"");
+        return static_cast<std::int32_t>(number);
+    }
+
+    const RegionalSettings& region(const std::string& option) {
+        const std::u16string name = wideValue(option);
+        const RegionalSettings* region = findRegion(name);
+        if (region == nullptr) throw UsageError(option + ": there is no region \"" + toUtf8(name) + "\"");
+        return *region;
+    }
+
+    Date moment(const std::string& option, std::optional<Date> (*read)(std::u16string_view), const char* example) {
+        const auto moment = read(wideValue(option));
+        if (!moment) throw UsageError(option + ": it is written " + example);
+        return *moment;
+    }
+};
+
+/// False when `word` is no option.
+bool readOption(const std::string& word, Reader& reader, Options& options) {
+    if (word == "--on")
+        options.on = reader.value(word);
+    else if (word == "--locale")
+        options.home.region = &reader.region(word);
+    else if (word == "--today")
+        options.today = reader.moment(word, readScriptDate, "2013-03-15");
+    else if (word == "--now")
+        options.now = reader.moment(word, readScriptTime, "10:15:30");
+    else if (word == "--colour-depth")
+        options.home.colorDepth = reader.number(word, 1, 64);
+    else if (word == "--twips-per-pixel")
+        options.home.twipsPerPixel = reader.number(word, 1, 1440);
+    else if (word == "--shot")
+        options.shot = reader.value(word);
+    else if (word == "--check")
+        options.check = true;
+    else if (word == "--update")
+        options.update = true;
+    else if (word == "--json")
+        options.json = true;
+    else if (word == "--markdown")
+        options.markdown = true;
+    else
+        return false;
+    return true;
+}
+
+struct CommandRow {
+    const char* name;
+    std::size_t leastFiles;
+    std::size_t mostFiles;
+};
+constexpr CommandRow Commands[] = {{"run", 1, 1},  {"play", 2, 2}, {"check", 1, 1},
+                                   {"save", 2, 2}, {"shot", 2, 2}, {"describe", 0, 1}};
+
+void checkCommand(const Options& options) {
+    const auto found = std::find_if(std::begin(Commands), std::end(Commands),
+                                    [&](const CommandRow& row) { return options.command == row.name; });
+    if (found == std::end(Commands)) throw UsageError("there is no command \"" + options.command + "\"");
+    if (options.files.size() < found->leastFiles) throw UsageError(options.command + ": a file is missing");
+    if (options.files.size() > found->mostFiles)
+        throw UsageError(options.command + ": \"" + options.files[found->mostFiles] + "\" is too much");
+}
+
+}  // namespace
+
+Options readOptions(const std::vector<std::string>& arguments) {
+    if (arguments.empty()) throw UsageError("a command is missing");
+    Options options;
+    options.command = arguments.front();
+    Reader reader{arguments, 1};
+    while (reader.next < arguments.size()) {
+        const std::string& word = arguments[reader.next++];
+        if (!word.starts_with("--"))
+            options.files.push_back(word);
+        else if (!readOption(word, reader, options))
+            throw UsageError("there is no option " + word);
+    }
+    checkCommand(options);
+    return options;
+}
+
+}  // namespace kel::app

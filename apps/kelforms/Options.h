@@ -1,0 +1,39 @@
+#pragma once
+
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "forms/Home.h"
+#include "values/Variant.h"
+
+namespace kel::app {
+
+/// What is wrong with the command line.
+class UsageError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// A command line taken apart. Options stand anywhere behind the command.
+struct Options {
+    std::string command;
+    std::vector<std::string> files;  ///< what is no option, in order
+    std::string on = "headless";
+    HomeOptions home;
+    std::optional<Date> today;
+    std::optional<Date> now;
+    std::string shot;
+    bool check = false;
+    bool update = false;
+    bool json = false;
+    bool markdown = false;
+};
+
+/// Throws UsageError.
+Options readOptions(const std::vector<std::string>& arguments);
+
+extern const char* const Usage;
+
+}  // namespace kel::app

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/FormFile.h"
+#include "forms/Home.h"
+
+namespace kel {
+
+/// A form in a window of some home: its controls loaded from the blocks of a form file.
+class Form {
+public:
+    /// Places every block, loads every control and lays it out. Throws FormError when a block names a class
+    /// that the library does not have, or holds a value that its property cannot take. `system` and
+    /// `observer` outlive the form.
+    Form(Home& home, System& system, ControlObserver& observer, FormFile file);
+
+    /// Shows the window with every control.
+    void show() { Window_->show(); }
+
+    FormWindow& window() { return *Window_; }
+
+    /// By its name, case ignored; an element of a control array is "name(index)". nullptr: there is none.
+    PlacedControl* find(std::u16string_view name) const;
+
+    /// Writes the form with its controls' properties as they are now; what did not change stands as it was.
+    /// Throws FormError when it cannot.
+    void save(const std::string& path) const;
+
+private:
+    struct Entry {
+        FormBlockId block;
+        Rect bounds;  ///< as the file has them
+        std::u16string toolTipText;
+        PlacedControl* control;
+    };
+
+    void placeControl(FormBlockId block, const ClassModel& model, const Placement& placement,
+                      ControlObserver& observer);
+    void writeExtender(const Entry& entry, FormFile& file) const;
+
+    FormFile File_;
+    std::unique_ptr<FormWindow> Window_;
+    std::vector<Entry> Entries_;
+};
+
+}  // namespace kel

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "host/Geometry.h"
+#include "library/Control.h"
+
+/// What a person sees of a control, in the words of a script's output.
+namespace kel {
+
+/// `qty "1[2.5]" back 00C0FFC0 fore 00000000 caption 8000000D`
+std::u16string describeLook(std::u16string_view name, Control& control);
+
+/// `qty 120 480 4000 300 label 0 0 1200 195 field 1200 0 2800 300 spinner -`
+std::u16string describeLayout(std::u16string_view name, const Rect& bounds, Control& control);
+
+}  // namespace kel

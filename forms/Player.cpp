@@ -1,0 +1,216 @@
+#include "forms/Player.h"
+
+#include <algorithm>
+
+#include "controls/Classes.h"
+#include "forms/FormBag.h"
+#include "forms/Looks.h"
+#include "forms/ScriptValue.h"
+#include "library/AutomationError.h"
+#include "values/Calendar.h"
+#include "values/Text.h"
+
+namespace kel {
+
+namespace {
+
+using Verb = ScriptCommand::Verb;
+
+/// Keeps what a control saves, in the order it saves it.
+class ListingBag final : public PropertyBag {
+public:
+    Variant readProperty(const PersistedRow& row) override { return toVariant(row.readDefault); }
+    void writeProperty(const PersistedRow& row, const Variant& value) override {
+        if (!equalsDefault(value, row.writeDefault)) Entries.emplace_back(row.name, value);
+    }
+    std::vector<std::pair<std::u16string, Variant>> Entries;
+};
+
+std::size_t repetitions(const ScriptCommand& command) {
+    return command.numbers.empty() ? 1 : static_cast<std::size_t>(std::max(command.numbers.front(), 0));
+}
+
+/// By-reference arguments as they came back.
+std::u16string returnedArguments(const MemberRow& member, std::span<const Variant> arguments) {
+    std::u16string text;
+    const auto parameters = member.parameters();
+    for (std::size_t i = 0; i < parameters.size() && i < arguments.size(); ++i) {
+        if (!parameters[i].byReference) continue;
+        const std::u16string value = writeScriptValue(arguments[i]);
+        if (!value.empty()) text += u" " + value;
+    }
+    return text;
+}
+
+DispatchFault access(Verb verb, LibraryObject& object, const MemberRow& member, std::vector<Variant>& arguments,
+                     Variant& result, const RegionalSettings& region) {
+    switch (verb) {
+        case Verb::Get: return getMember(object, member, arguments, result, region);
+        case Verb::Set: return putMember(object, member, arguments.front(), region);
+        default: return callMember(object, member, arguments, result, region);
+    }
+}
+
+}  // namespace
+
+Player::Player(Home& home, const std::string& formPath, const std::function<void(PlaySystem&)>& prepare)
+    : Home_(home), System_(home.system(), [this](const std::u16string& line) { print(line); }) {
+    prepare(System_);
+    open(formPath);
+}
+
+Player::~Player() = default;
+
+void Player::open(const std::string& path) {
+    FormFile file = readFormFile(path);
+    Form_.reset();
+    Reported_.clear();
+    ControlObserver& observer = *this;
+    Form_ = std::make_unique<Form>(Home_, System_, observer, std::move(file));
+    Form_->show();
+}
+
+void Player::print(const std::u16string& line) { Printed_.push_back(toUtf8(line)); }
+
+std::vector<std::string> Player::play(const ScriptCommand& command, const std::string& scriptFile) {
+    Printed_.clear();
+    try {
+        execute(command, scriptFile);
+    } catch (const AutomationError& error) {
+        throw ScriptError(scriptFile, command.line, error.what());
+    }
+    return std::move(Printed_);
+}
+
+PlacedControl& Player::controlNamed(const ScriptCommand& command, const std::string& scriptFile) {
+    PlacedControl* control = Form_->find(command.name);
+    if (control == nullptr)
+        throw ScriptError(scriptFile, command.line, "the form has no control \"" + toUtf8(command.name) + "\"");
+    return *control;
+}
+
+void Player::execute(const ScriptCommand& command, const std::string& scriptFile) {
+    FormWindow& window = Form_->window();
+    const auto control = [&]() -> PlacedControl& { return controlNamed(command, scriptFile); };
+    switch (command.verb) {
+        case Verb::Tab: press({keys::Tab, 0, NoModifier}, command); break;
+        case Verb::BackTab: press({keys::Tab, 0, ShiftKey}, command); break;
+        case Verb::Key: press(command.stroke, command); break;
+        case Verb::Focus: window.focus(control()); break;
+        case Verb::Click: window.click(control(), command.numbers.empty() ? INT32_MAX : command.numbers[0]); break;
+        case Verb::Menu: window.rightClick(control()); break;
+        case Verb::Type:
+            for (std::u16string_view rest = command.text; !rest.empty();) window.press(strokeFor(takeCodePoint(rest)));
+            break;
+        case Verb::Paste:
+            window.setClipboard(command.text);
+            window.press({u'V', u'V', ControlKey});
+            break;
+        case Verb::Caret: setCaret(command, scriptFile); break;
+        case Verb::Spin: throw ScriptError(scriptFile, command.line, toUtf8(control().name()) + " has no spinner");
+        case Verb::Pick: throw ScriptError(scriptFile, command.line, toUtf8(control().name()) + " has no list");
+        case Verb::Get:
+        case Verb::Set:
+        case Verb::Call: accessMember(control(), command, scriptFile); break;
+        case Verb::Answer: setAnswer(control(), command, scriptFile); break;
+        case Verb::Show: print(describeLook(control().name(), control().control())); break;
+        case Verb::Layout: print(describeLayout(control().name(), control().bounds(), control().control())); break;
+        case Verb::Reported: printReported(control()); break;
+        case Verb::Bag: printBag(control()); break;
+        case Verb::Resize: {
+            const Rect old = control().bounds();
+            control().setBounds({old.left, old.top, command.numbers[0], command.numbers[1]});
+            break;
+        }
+        case Verb::Where: {
+            const PlacedControl* focused = window.focused();
+            print(u"focus " + (focused == nullptr ? std::u16string(u"nowhere") : focused->name()));
+            break;
+        }
+        case Verb::Clock: System_.setTimer(std::get<Date>(command.values[0]).Serial * SecondsPerDay); break;
+        case Verb::Advance: System_.advance(command.numbers[0]); break;
+        case Verb::Runtime: handOverRuntime(); break;
+        case Verb::Save: Form_->save(toUtf8(command.text)); break;
+        case Verb::Load: open(toUtf8(command.text)); break;
+    }
+}
+
+void Player::press(const KeyStroke& stroke, const ScriptCommand& command) {
+    for (std::size_t i = repetitions(command); i > 0; --i) Form_->window().press(stroke);
+}
+
+void Player::setCaret(const ScriptCommand& command, const std::string& scriptFile) {
+    PlacedControl* focused = Form_->window().focused();
+    TextBox* box = focused == nullptr ? nullptr : focused->control().widgets().textBox;
+    if (box == nullptr) throw ScriptError(scriptFile, command.line, "no text field has the focus");
+    box->setSelStart(command.numbers[0]);
+    if (command.numbers.size() > 1) box->setSelLength(command.numbers[1]);
+}
+
+void Player::accessMember(PlacedControl& placed, const ScriptCommand& command, const std::string& scriptFile) {
+    Control& control = placed.control();
+    const ClassModel& model = control.model();
+    const MemberRow* member = findMember(model, command.member);
+    std::vector<Variant> arguments = command.values;
+    Variant result = Missing{};
+    const DispatchFault fault = member == nullptr
+                                    ? DispatchFault{DispatchFault::Kind::UnknownName}
+                                    : access(command.verb, control, *member, arguments, result, Home_.region());
+    if (!fault.ok())
+        throw ScriptError(scriptFile, command.line,
+                          toUtf8(describeFault(fault, model, command.member, command.values)));
+    const std::u16string value = writeScriptValue(result) + returnedArguments(*member, arguments);
+    if (command.verb != Verb::Set && !value.empty())
+        print(placed.name() + u"." + std::u16string(member->name) + u" = " +
+              (value.starts_with(u' ') ? value.substr(1) : value));
+}
+
+void Player::setAnswer(PlacedControl& control, const ScriptCommand& command, const std::string& scriptFile) {
+    const EventRow* event = findEvent(control.control().model(), command.member);
+    const bool* answer = std::get_if<bool>(&command.values[0]);
+    if (event == nullptr || event->parameters.empty())
+        throw ScriptError(scriptFile, command.line,
+                          toUtf8(command.name + u"." + command.member) + " is no event that takes an answer");
+    if (answer == nullptr) throw ScriptError(scriptFile, command.line, "the answer is True or False");
+    Answers_[control.name() + u"." + std::u16string(event->name)] = *answer;
+}
+
+void Player::controlEvent(PlacedControl& control, const EventRow& event, std::span<Variant> arguments) {
+    std::u16string line = control.name() + u"." + std::u16string(event.name);
+    const auto answer = Answers_.find(line);
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        if (answer != Answers_.end() && event.parameters[i].byReference) arguments[i] = answer->second;
+        line += u" " + std::u16string(event.parameters[i].name) + u"=" + writeScriptValue(arguments[i]);
+    }
+    print(u"event " + line);
+}
+
+void Player::propertyReported(PlacedControl& control, std::u16string_view bagName) {
+    Reported_[&control].emplace_back(bagName);
+}
+
+void Player::handOverRuntime() {
+    const ClassModel& model = *libraryClasses().find(u"KelControlHandler");
+    const ObjectPtr handler = model.makeObject(Home_.settings());
+    std::vector<Variant> arguments{ObjectPtr(Home_.settings().makeDefaultRuntime())};
+    Variant result;
+    callMember(static_cast<LibraryObject&>(*handler), *findMember(model, u"SetRuntime"), arguments, result,
+               Home_.region());
+}
+
+void Player::printReported(PlacedControl& control) {
+    std::u16string names;
+    for (const std::u16string& name : Reported_[&control]) names += (names.empty() ? u"" : u",") + name;
+    Reported_[&control].clear();
+    print(control.name() + u" reported " + (names.empty() ? std::u16string(u"nothing") : names));
+}
+
+void Player::printBag(PlacedControl& control) {
+    ListingBag bag;
+    control.control().WriteProperties(bag);
+    for (const auto& [name, value] : bag.Entries)
+        print(control.name() + u" bag " + quoteScriptText(name) + u" = " + writeScriptValue(value));
+    if (bag.Entries.empty()) print(control.name() + u" bag nothing");
+}
+
+}  // namespace kel

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/Form.h"
+#include "forms/PlaySystem.h"
+#include "forms/Script.h"
+
+namespace kel {
+
+/// Plays script commands on a form and writes down what they print.
+class Player final : private ControlObserver {
+public:
+    /// Opens and shows the form, when `prepare` has set the session's clock. Throws FormError when the file
+    /// is wrong.
+    Player(Home& home, const std::string& formPath, const std::function<void(PlaySystem&)>& prepare);
+    ~Player();
+
+    Form& form() { return *Form_; }
+
+    /// Runs one command and gives the lines it printed, in UTF-8. Throws ScriptError (naming `scriptFile`)
+    /// when the command asks for what is not there, FormError when a form to be loaded is wrong.
+    std::vector<std::string> play(const ScriptCommand& command, const std::string& scriptFile);
+
+private:
+    void controlEvent(PlacedControl& control, const EventRow& event, std::span<Variant> arguments) override;
+    void propertyReported(PlacedControl& control, std::u16string_view bagName) override;
+
+    void print(const std::u16string& line);
+    void open(const std::string& path);
+    PlacedControl& controlNamed(const ScriptCommand& command, const std::string& scriptFile);
+    void execute(const ScriptCommand& command, const std::string& scriptFile);
+
+    void press(const KeyStroke& stroke, const ScriptCommand& command);
+    void accessMember(PlacedControl& control, const ScriptCommand& command, const std::string& scriptFile);
+    void setAnswer(PlacedControl& control, const ScriptCommand& command, const std::string& scriptFile);
+    void setCaret(const ScriptCommand& command, const std::string& scriptFile);
+    void handOverRuntime();
+    void printBag(PlacedControl& control);
+    void printReported(PlacedControl& control);
+
+    Home& Home_;
+    std::vector<std::string> Printed_;
+    PlaySystem System_;
+    std::map<std::u16string, bool> Answers_;  ///< by "name.event"
+    std::map<const PlacedControl*, std::vector<std::u16string>> Reported_;
+    std::unique_ptr<Form> Form_;
+};
+
+}  // namespace kel

@@ -1,0 +1,82 @@
+#pragma once
+
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/Keys.h"
+#include "values/Variant.h"
+
+/// Play scripts: one command a line, `> ` lines with what the command above them must print.
+namespace kel {
+
+/// What is wrong with a script, and where: "FILE:LINE: what is wrong".
+class ScriptError : public std::runtime_error {
+public:
+    ScriptError(const std::string& file, std::size_t line, const std::string& message)
+        : std::runtime_error(file + ":" + std::to_string(line) + ": " + message) {}
+};
+
+/// One command, read and found well-formed. Which fields mean something depends on the verb.
+struct ScriptCommand {
+    enum class Verb : std::uint8_t {
+        Tab,
+        BackTab,
+        Focus,
+        Click,
+        Type,
+        Key,
+        Paste,
+        Caret,
+        Spin,
+        Pick,
+        Menu,
+        Get,
+        Set,
+        Call,
+        Answer,
+        Show,
+        Layout,
+        Reported,
+        Bag,
+        Resize,
+        Where,
+        Clock,
+        Advance,
+        Runtime,
+        Save,
+        Load
+    };
+    Verb verb = Verb::Where;
+    std::size_t line = 0;   ///< 1-based
+    std::u16string name;    ///< of a control
+    std::u16string member;  ///< behind the point
+    std::u16string text;    ///< of type and paste; a file of save and load
+    KeyStroke stroke;       ///< of key
+    std::vector<std::int32_t> numbers;
+    std::vector<Variant> values;
+    bool up = false;               ///< of spin
+    std::size_t expectedFrom = 0;  ///< lines of the script, 0-based, half open, that hold what it must print
+    std::size_t expectedTo = 0;
+};
+
+/// A whole script. `lines` are its lines without their ends.
+struct Script {
+    std::string file;
+    std::vector<std::string> lines;
+    std::vector<ScriptCommand> commands;
+    bool crlf = false;  ///< lines end with CR LF
+
+    /// What the command must print.
+    std::vector<std::string> expected(const ScriptCommand& command) const;
+};
+
+/// Reads a script; throws ScriptError at the first line that is not well-formed.
+Script readScript(const std::string& file, std::string_view utf8);
+
+/// The script with each command's `> ` lines replaced by what it printed; `printed` has an entry a command.
+std::string writeScript(const Script& script, const std::vector<std::vector<std::string>>& printed);
+
+}  // namespace kel
