@@ -49,7 +49,23 @@ const FormModel::Edit* FormModel::editOf(LineId line) const {
 
 std::u16string FormModel::nameOf(LineId propertyLine) const {
     if (const Edit* edit = editOf(propertyLine)) return edit->name;
-    return decode(scanFormLine(contentOf(propertyLine)).name, encoding);
+    return decode(nameBytesOf(propertyLine), encoding);
+}
+
+std::string_view FormModel::nameBytesOf(LineId propertyLine) const {
+    return std::string_view(*bytes).substr(lines[propertyLine].nameOffset, lines[propertyLine].nameLength);
+}
+
+bool FormModel::isNamed(LineId propertyLine, std::u16string_view name) const {
+    if (const Edit* edit = editOf(propertyLine)) return equalsIgnoringCase(edit->name, name);
+    const std::string_view own = nameBytesOf(propertyLine);
+    // Decoded only where a byte is no character of its own: this is asked for every line and property.
+    for (std::size_t i = 0; i < own.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(own[i]);
+        if (byte >= 0x80) return equalsIgnoringCase(decode(own, encoding), name);
+        if (i >= name.size() || toLowerAscii(byte) != toLowerAscii(name[i])) return false;
+    }
+    return own.size() == name.size();
 }
 
 FormEntries::FormEntries(const FormModel& model, FormBlockId block)

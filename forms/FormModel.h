@@ -63,6 +63,8 @@ struct FormModel {
     struct Line {
         std::uint32_t offset = 0;  ///< into `bytes`, the line end included in the length
         std::uint32_t length = 0;
+        std::uint32_t nameOffset = 0;  ///< into `bytes`: the name of a property or group
+        std::uint32_t nameLength = 0;
         LineId next = 0;           ///< the line that follows; lines are never moved, only linked
         std::uint32_t number = 0;  ///< 1-based; an added line has the number of the one before it
         std::uint32_t block = 0;   ///< that a Begin begins
@@ -98,6 +100,11 @@ struct FormModel {
 
     const Edit* editOf(LineId line) const;
     std::u16string nameOf(LineId propertyLine) const;
+    /// Whether the property or group of that line has this name, case ignored.
+    bool isNamed(LineId propertyLine, std::u16string_view name) const;
+
+private:
+    std::string_view nameBytesOf(LineId propertyLine) const;
 };
 
 /// How many bytes at the end of `line` end it: LF with the CRs before it, or CRs at the end of the file.

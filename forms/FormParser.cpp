@@ -71,7 +71,7 @@ private:
         const std::string_view content = line.substr(0, line.size() - lineEndLength(line));
         if (content.find('\0') != std::string_view::npos) throw FormFault{"a NUL byte stands in the line"};
         const FormLine scanned = scanFormLine(content);
-        append(line, scanned.kind);
+        append(line, scanned);
         accept(scanned, content);
     }
 
@@ -84,14 +84,22 @@ private:
         return line;
     }
 
-    void append(std::string_view line, FormLine::Kind kind) {
+    void append(std::string_view line, const FormLine& scanned) {
         FormModel::Line entry;
-        entry.offset = static_cast<std::uint32_t>(line.data() - Model_.bytes->data());
+        entry.offset = offsetOf(line);
         entry.length = static_cast<std::uint32_t>(line.size());
         entry.number = static_cast<std::uint32_t>(Number_);
         entry.next = entry.number;
-        entry.kind = kind;
+        entry.kind = scanned.kind;
+        if (!scanned.name.empty()) {
+            entry.nameOffset = offsetOf(scanned.name);
+            entry.nameLength = static_cast<std::uint32_t>(scanned.name.size());
+        }
         Model_.lines.push_back(entry);
+    }
+
+    std::uint32_t offsetOf(std::string_view part) const {
+        return static_cast<std::uint32_t>(part.data() - Model_.bytes->data());
     }
 
     FormModel::LineId current() const { return static_cast<FormModel::LineId>(Model_.lines.size() - 1); }

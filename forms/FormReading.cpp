@@ -26,7 +26,7 @@ std::string shownValue(const FormValue& value) {
 
 std::optional<FormEntries> findEntry(const FormModel& model, FormBlockId block, std::u16string_view name) {
     for (FormEntries entries(model, block); entries.next();) {
-        if (equalsIgnoringCase(model.nameOf(entries.first()), name)) return entries;
+        if (model.isNamed(entries.first(), name)) return entries;
     }
     return std::nullopt;
 }
@@ -36,7 +36,7 @@ FormProperty propertyAt(const FormModel& model, FormModel::LineId line) {
     if (const FormModel::Edit* edit = model.editOf(line))
         return {edit->name, toFormValue(edit->value).value_or(FormRaw{}), number};
     const FormLine scanned = scanFormLine(model.contentOf(line));
-    return {decode(scanned.name, model.encoding), readFormValue(scanned.detail, model.encoding), number};
+    return {model.nameOf(line), readFormValue(scanned.detail, model.encoding), number};
 }
 
 std::optional<FormReference> referenceAt(const FormModel& model, FormModel::LineId line) {
