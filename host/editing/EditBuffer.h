@@ -50,6 +50,8 @@ public:
     /// Down, up when negative; as far as there are lines. The column is kept over lines that are shorter.
     void moveLines(std::ptrdiff_t lines, bool extend);
     void selectAll();
+    /// With both ends where a caret can stand.
+    void take(const Selection& selection) { select({snapped(selection.anchor), snapped(selection.caret)}); }
 
     bool type(char32_t character);
     bool breakLine();
@@ -61,6 +63,8 @@ public:
     bool eraseWordForward();
 
     bool eraseSelection();
+    bool canUndo() const { return History_.canUndo(); }
+    bool canRedo() const { return History_.canRedo(); }
     bool undo();
     bool redo();
 
