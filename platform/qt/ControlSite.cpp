@@ -1,0 +1,225 @@
+#include "platform/qt/ControlSite.h"
+
+#include <algorithm>
+#include <QFontMetrics>
+#include <QKeySequence>
+#include <QWidget>
+
+#include "common/basKelControls.h"
+#include "common/FieldLayout.h"
+#include "library/Dispatch.h"
+#include "library/SharedSettings.h"
+#include "platform/qt/CaptionLabel.h"
+#include "platform/qt/ChildField.h"
+#include "platform/qt/FocusTracker.h"
+#include "platform/qt/KelControlWidget.h"
+#include "platform/qt/QtLineBox.h"
+#include "platform/qt/QtPlainBox.h"
+#include "platform/qt/TextBridge.h"
+
+namespace kel::qt {
+
+namespace {
+
+constexpr std::int32_t TallHeight = 1200;  ///< twips, of a new field of several lines
+
+/// Unless the program has given it a name of its own. Each naming costs as much as a small widget.
+void setSpokenName(QWidget& widget, const QString& before, const QString& now) {
+    if (now != before && widget.accessibleName() == before) widget.setAccessibleName(now);
+}
+
+}  // namespace
+
+ControlSite::ControlSite(KelControlWidget& widget, const Surroundings& surroundings)
+    : Widget_(widget), Surroundings_(surroundings), Grid_(surroundings.system.twipsPerPixel()) {}
+
+ControlSite::~ControlSite() { focus::forget(*this); }
+
+void ControlSite::makeControl(const ClassModel& model) {
+    ControlHost host{*this, *this, Surroundings_.system, Surroundings_.settings};
+    Control_ = model.makeControl(host);
+    Control_->Initialize();
+}
+
+void ControlSite::initNew() {
+    // A form that is loaded does this by its first control.
+    if (!Surroundings_.settings.Runtime) InitControls(Surroundings_.settings, Surroundings_.system);
+    Control_->InitProperties();
+}
+
+// ---- Size
+
+QSize ControlSite::pixelSize() const { return Grid_.pixels({0, 0, Size_.width, Size_.height}, Origin_).size(); }
+
+bool ControlSite::hasSize() const { return Sized_ || Widget_.testAttribute(Qt::WA_Resized); }
+
+Size ControlSite::size() const {
+    // A hidden widget is told of its size late.
+    const bool isStale = hasSize() && pixelSize() != Widget_.size();
+    return isStale ? Grid_.twips(Widget_.size()) : Size_;
+}
+
+void ControlSite::setSize(Size wanted) {
+    if (hasSize() && wanted == size()) return;
+    Size_ = wanted;
+    Sized_ = true;
+    Widget_.resize(pixelSize());
+    if (Control_) Control_->Resize();
+}
+
+void ControlSite::resized() {
+    if (Sized_ && pixelSize() == Widget_.size()) return;
+    Size_ = Grid_.twips(Widget_.size());
+    Sized_ = true;
+    Control_->Resize();
+}
+
+QRect ControlSite::pixelRect(const Rect& bounds) const {
+    QRect pixels = Grid_.pixels(bounds, Origin_);
+    if (Widget_.layoutDirection() == Qt::RightToLeft) pixels.moveLeft(Widget_.width() - pixels.x() - pixels.width());
+    return pixels;
+}
+
+void ControlSite::setOrigin(QPoint twips) {
+    if (twips == Origin_) return;
+    Origin_ = twips;
+    if (Sized_) Widget_.resize(pixelSize());
+    forEachField([](ChildField& field) { field.placeAgain(); });
+}
+
+void ControlSite::mirrored() {
+    forEachField([](ChildField& field) { field.placeAgain(); });
+    Widget_.update();
+}
+
+QSize ControlSite::sizeHint(int characters) const {
+    const bool isTall = Active_ != nullptr && Active_->isTall();
+    const int caption = Label_ != nullptr ? Grid_.pixel(Label_->bounds().width) : 0;
+    const QFontMetrics metrics = Active_ != nullptr ? Active_->widget().fontMetrics() : Widget_.fontMetrics();
+    return {caption + characters * metrics.averageCharWidth(), Grid_.pixel(isTall ? TallHeight : FieldHeight)};
+}
+
+// ---- Enabled
+
+bool ControlSite::enabled() const { return !Widget_.testAttribute(Qt::WA_ForceDisabled); }
+
+void ControlSite::setEnabled(bool enabled) {
+    Enabled_ = enabled;
+    Widget_.QWidget::setEnabled(enabled);
+}
+
+void ControlSite::enabledMayDiffer() {
+    if (!Control_ || enabled() == Enabled_) return;
+    if (const MemberRow* const row = findMember(Control_->model(), u"Enabled"))
+        putMember(*Control_, *row, enabled(), Surroundings_.region);
+}
+
+// ---- Host
+
+std::int32_t ControlSite::windowHandle() { return static_cast<std::int32_t>(Widget_.winId()); }
+
+std::u16string ControlSite::displayName() const { return std::u16string(viewOf(Widget_.objectName())); }
+
+void ControlSite::propertyChanged(std::u16string_view bagName) { Widget_.propertyReported(bagName); }
+
+void ControlSite::raiseEvent(const EventRow& event, std::span<Variant> arguments) {
+    Widget_.controlEvent(event, arguments);
+}
+
+std::u16string ControlSite::toolTipText() const { return std::u16string(viewOf(Widget_.toolTip())); }
+
+void ControlSite::setToolTipText(std::u16string_view text) { setWidgetToolTip(Widget_, text); }
+
+void ControlSite::toolTipChanged() {
+    // Before it shows, the control takes the tooltip over by itself.
+    if (!Shown_) return;
+    const QString text = Widget_.toolTip();
+    forEachField([&text](ChildField& field) { setWidgetToolTip(field.widget(), viewOf(text)); });
+}
+
+void ControlSite::shown() {
+    enabledMayDiffer();
+    if (Shown_) return;
+    Shown_ = true;
+    Control_->Show();
+}
+
+void ControlSite::recolored() {
+    forEachField([](ChildField& field) { field.colorAgain(); });
+    Widget_.update();
+}
+
+// ---- Child widgets
+
+std::unique_ptr<Label> ControlSite::makeLabel() { return std::make_unique<CaptionLabel>(*this); }
+
+std::unique_ptr<TextBox> ControlSite::makeTextBox(TextBoxListener& listener, bool multiLine) {
+    if (!multiLine) return std::make_unique<QtLineBox>(*this, listener, Widget_);
+    auto box = std::make_unique<QtPlainBox>(*this, listener, Widget_);
+    if (Widget_.isVisible()) box->show();
+    return box;
+}
+
+void ControlSite::add(ChildField& field) {
+    *std::find(Fields_.begin(), Fields_.end(), nullptr) = &field;
+    if (Active_ == nullptr) {
+        Active_ = &field;
+        Widget_.setFocusProxy(&field.widget());
+    } else {
+        field.widget().setFocusPolicy(Active_->widget().focusPolicy());
+        field.widget().setAccessibleName(Active_->widget().accessibleName());
+    }
+}
+
+void ControlSite::remove(const ChildField& field) {
+    std::replace_if(
+        Fields_.begin(), Fields_.end(), [&field](const ChildField* known) { return known == &field; }, nullptr);
+    if (Active_ == &field) Active_ = nullptr;
+}
+
+void ControlSite::fieldShown(const ChildField& field, bool shown) {
+    if (!shown || &field == Active_) return;
+    for (ChildField* const known : Fields_)
+        if (known == &field) activate(*known);
+}
+
+/// The field takes the other one's place: what points to the composite finds it, the Tab key as well.
+void ControlSite::activate(ChildField& field) {
+    if (Active_ != nullptr) QWidget::setTabOrder(&Active_->widget(), &field.widget());
+    Active_ = &field;
+    Widget_.setFocusProxy(&field.widget());
+    Widget_.setSizePolicy(QSizePolicy::Expanding, field.isTall() ? QSizePolicy::Expanding : QSizePolicy::Fixed);
+    Widget_.updateGeometry();
+    Widget_.update();
+}
+
+bool ControlSite::owns(const QWidget& widget) const { return Widget_.isAncestorOf(&widget); }
+
+// ---- Caption
+
+void ControlSite::captionChanged(const QString& spokenBefore) {
+    const QString spoken = Label_->spokenCaption();
+    setSpokenName(Widget_, spokenBefore, spoken);
+    forEachField([&](const ChildField& field) { setSpokenName(field.widget(), spokenBefore, spoken); });
+
+    if (Mnemonic_ != 0) Widget_.releaseShortcut(Mnemonic_);
+    Mnemonic_ = 0;
+    if (Label_->caption().find(u'&') == std::u16string::npos) return;
+    const QKeySequence key = QKeySequence::mnemonic(toQString(Label_->caption()));
+    if (!key.isEmpty()) Mnemonic_ = Widget_.grabShortcut(key);
+}
+
+bool ControlSite::mnemonicPressed(int shortcutId) {
+    if (Mnemonic_ == 0 || shortcutId != Mnemonic_) return false;
+    Widget_.setFocus(Qt::ShortcutFocusReason);
+    return true;
+}
+
+void ControlSite::paint(QPainter& painter) const {
+    if (Label_ == nullptr) return;
+    const int baseline = Active_ != nullptr ? Active_->widget().y() + Active_->baseline()
+                                            : (Widget_.height() + Widget_.fontMetrics().ascent()) / 2;
+    Label_->paint(painter, baseline);
+}
+
+}  // namespace kel::qt

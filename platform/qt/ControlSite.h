@@ -1,0 +1,125 @@
+#pragma once
+
+#include <array>
+#include <memory>
+#include <QPoint>
+#include <QRect>
+
+#include "host/Container.h"
+#include "host/System.h"
+#include "host/Widgets.h"
+#include "library/Control.h"
+#include "platform/qt/TwipGrid.h"
+
+class QKeySequence;
+class QPainter;
+class QWidget;
+
+namespace kel::qt {
+
+class CaptionLabel;
+class ChildField;
+class KelControlWidget;
+
+/// What a control on Qt works with. All of it outlives the control.
+struct Surroundings {
+    SharedSettings& settings;
+    System& system;
+    const RegionalSettings& region;
+};
+
+/// The place of a control in its Qt widget: the container that the control sees, and the maker of its child
+/// widgets.
+class ControlSite final : public Container, public WidgetFactory {
+public:
+    ControlSite(KelControlWidget& widget, const Surroundings& surroundings);
+    ControlSite(const ControlSite&) = delete;
+    ControlSite& operator=(const ControlSite&) = delete;
+    ~ControlSite();
+
+    /// Makes the control and runs its `Initialize`.
+    void makeControl(const ClassModel& model);
+    /// As a control that is newly placed.
+    void initNew();
+
+    Control& control() const { return *Control_; }
+    KelControlWidget& widget() const { return Widget_; }
+    const RegionalSettings& region() const { return Surroundings_.region; }
+
+    // ---- The container, as its control sees it
+
+    bool hasSize() const override;
+    Size size() const override;
+    void setSize(Size size) override;
+    bool enabled() const override;
+    void setEnabled(bool enabled) override;
+    std::int32_t windowHandle() override;
+    std::u16string displayName() const override;
+    void propertyChanged(std::u16string_view bagName) override;
+    void raiseEvent(const EventRow& event, std::span<Variant> arguments) override;
+    std::u16string toolTipText() const override;
+    void setToolTipText(std::u16string_view text) override;
+
+    std::unique_ptr<Label> makeLabel() override;
+    std::unique_ptr<TextBox> makeTextBox(TextBoxListener& listener, bool multiLine) override;
+
+    // ---- What the widget tells
+
+    void resized();
+    void mirrored();
+    void recolored();
+    /// Somebody enabled or disabled the widget past its control.
+    void enabledMayDiffer();
+    void toolTipChanged();
+    /// The first time only: the control's `Show`.
+    void shown();
+    /// Somebody pressed the key of a mnemonic. Returns whether it was the caption's.
+    bool mnemonicPressed(int shortcutId);
+    void paint(QPainter& painter) const;
+    QSize sizeHint(int characters) const;
+
+    // ---- What the child widgets tell
+
+    void add(ChildField& field);
+    void remove(const ChildField& field);
+    void fieldShown(const ChildField& field, bool shown);
+    void setLabel(CaptionLabel* label) { Label_ = label; }
+    void captionChanged(const QString& spokenBefore);
+    bool owns(const QWidget& widget) const;
+
+    /// The field that shows, nullptr when there is none.
+    ChildField* activeField() const { return Active_; }
+
+    // ---- Places
+
+    /// Where something inside the control stands in the widget: mirrored from right to left.
+    QRect pixelRect(const Rect& bounds) const;
+    /// The control's own place in a form that counts in twips; no resize follows.
+    void setOrigin(QPoint twips);
+    const TwipGrid& grid() const { return Grid_; }
+
+private:
+    QSize pixelSize() const;
+    void activate(ChildField& field);
+    template <class Action>
+    void forEachField(Action action) const {
+        for (ChildField* const field : Fields_)
+            if (field != nullptr) action(*field);
+    }
+
+    KelControlWidget& Widget_;
+    Surroundings Surroundings_;
+    TwipGrid Grid_;
+    CaptionLabel* Label_ = nullptr;
+    std::array<ChildField*, 2> Fields_{};
+    ChildField* Active_ = nullptr;
+    QPoint Origin_;  ///< twips
+    Size Size_;
+    int Mnemonic_ = 0;  ///< of the widget's shortcuts; 0 for none
+    bool Sized_ = false;
+    bool Enabled_ = true;  ///< as the control knows it
+    bool Shown_ = false;
+    std::unique_ptr<Control> Control_;  ///< last, so that it goes before all it stands on
+};
+
+}  // namespace kel::qt

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "library/AutomationError.h"
+
+namespace kel::qt {
+
+/// Tells the developer of an error that an object of the host has raised.
+void reportHostError(const AutomationError& error);
+
+/// Runs `action`, which handles an event of Qt's. Errors of the host's objects pass through the controls; through
+/// Qt they cannot.
+template <class Action>
+bool atEdge(Action action) {
+    try {
+        return action();
+    } catch (const AutomationError& error) {
+        reportHostError(error);
+        return true;
+    }
+}
+
+}  // namespace kel::qt

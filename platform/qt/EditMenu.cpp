@@ -1,0 +1,54 @@
+#include "platform/qt/EditMenu.h"
+
+#include <QCoreApplication>
+#include <QIcon>
+#include <QKeySequence>
+#include <QMenu>
+
+#include "platform/qt/EditBox.h"
+
+namespace kel::qt {
+
+namespace {
+
+struct Entry {
+    EditAction action;
+    const char* text;  ///< as Qt's own line edit has it translated
+    const char* icon;
+    QKeySequence::StandardKey key;
+    bool beginsGroup;
+};
+
+constexpr Entry Entries[] = {
+    {EditAction::Undo, "&Undo", "edit-undo", QKeySequence::Undo, false},
+    {EditAction::Redo, "&Redo", "edit-redo", QKeySequence::Redo, false},
+    {EditAction::Cut, "Cu&t", "edit-cut", QKeySequence::Cut, true},
+    {EditAction::Copy, "&Copy", "edit-copy", QKeySequence::Copy, false},
+    {EditAction::Paste, "&Paste", "edit-paste", QKeySequence::Paste, false},
+    {EditAction::EraseSelection, "Delete", "edit-delete", QKeySequence::UnknownKey, false},
+    {EditAction::SelectAll, "Select All", "edit-select-all", QKeySequence::SelectAll, true},
+};
+
+void addEntry(QMenu& menu, EditBox& box, const Entry& entry) {
+    if (entry.beginsGroup) menu.addSeparator();
+    QString text = QCoreApplication::translate("QLineEdit", entry.text);
+    const QString key = QKeySequence(entry.key).toString(QKeySequence::NativeText);
+    if (!key.isEmpty()) text += u'\t' + key;
+    QAction* const action = menu.addAction(QIcon::fromTheme(QLatin1String(entry.icon)), text);
+    action->setObjectName(QLatin1String(entry.icon));
+    action->setEnabled(box.offers(entry.action));
+    const EditAction chosen = entry.action;
+    QObject::connect(action, &QAction::triggered, &box.widget(), [&box, chosen] { box.perform(chosen); });
+}
+
+}  // namespace
+
+void showEditMenu(EditBox& box, const QPoint& globalPosition) {
+    auto* const menu = new QMenu(&box.widget());
+    menu->setObjectName(QStringLiteral("qt_edit_menu"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const Entry& entry : Entries) addEntry(*menu, box, entry);
+    menu->popup(globalPosition);
+}
+
+}  // namespace kel::qt

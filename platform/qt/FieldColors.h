@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QColor>
+#include <QPalette>
+
+#include "values/Color.h"
+
+namespace kel::qt {
+
+/// A color of the library on the desktop that `desktop` describes.
+QColor desktopColor(Color color, const QPalette& desktop);
+
+/// `wanted`, or the nearest shade of it that can be read on `background`.
+QColor readableOn(const QColor& wanted, const QColor& background);
+
+/// Of thin lines on the desktop's windows.
+QColor edgeColor(const QPalette& desktop);
+
+/// How the caption is written when it has this colour.
+QColor captionColorOn(const QPalette& desktop, Color color);
+
+struct FieldColors {
+    Color back = colors::SystemWindow;
+    Color fore = colors::SystemWindowText;
+    friend bool operator==(const FieldColors&, const FieldColors&) = default;
+};
+
+/// Only what `wanted` changes of the desktop's palette; nothing for a field in the desktop's own colours.
+QPalette fieldPalette(const FieldColors& wanted, const QPalette& desktop);
+
+}  // namespace kel::qt

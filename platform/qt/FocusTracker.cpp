@@ -1,0 +1,111 @@
+#include "platform/qt/FocusTracker.h"
+
+#include <QApplication>
+#include <QPointer>
+#include <QWidget>
+#include <utility>
+
+#include "library/Control.h"
+#include "platform/qt/ChildField.h"
+#include "platform/qt/ControlSite.h"
+
+namespace kel::qt::focus {
+
+namespace {
+
+ChildField* Holder = nullptr;
+ControlSite* Entered = nullptr;  ///< whose control has been entered and not yet left
+bool Suspended = false;          ///< the holder's focus is away for a while: a popup, another window
+bool ByTab = false;
+int Changing = 0;
+
+bool isTab(Qt::FocusReason reason) { return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason; }
+
+bool isPassing(Qt::FocusReason reason) {
+    return reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason || reason == Qt::MenuBarFocusReason;
+}
+
+/// While somebody is told of a change that `reason` makes.
+class Telling {
+public:
+    explicit Telling(Qt::FocusReason reason) : Before_(std::exchange(ByTab, isTab(reason))) { ++Changing; }
+    ~Telling() {
+        --Changing;
+        ByTab = Before_;
+    }
+    Telling(const Telling&) = delete;
+    Telling& operator=(const Telling&) = delete;
+
+private:
+    bool Before_;
+};
+
+/// `next` is where the focus goes, nullptr when it is none of the controls'.
+void leaveHolder(const ControlSite* next) {
+    Suspended = false;
+    if (Holder != nullptr) std::exchange(Holder, nullptr)->lostFocus();
+    if (Entered != nullptr && Entered != next) std::exchange(Entered, nullptr)->control().ExitFocus();
+}
+
+const ControlSite* siteOf(const QWidget* widget) {
+    if (Entered == nullptr || widget == nullptr) return nullptr;
+    return Entered->owns(*widget) ? Entered : nullptr;
+}
+
+/// While a popup or another window was in front, the focus of the holder's window was moved.
+void focusMoved(const QWidget* now) {
+    if (!Suspended || Holder == nullptr || now == nullptr || now == &Holder->widget()) return;
+    if (now->window() != Holder->widget().window() || QApplication::activePopupWidget() != nullptr) return;
+    const Telling telling(Qt::OtherFocusReason);
+    leaveHolder(siteOf(now));
+}
+
+void watchApplication() {
+    static QPointer<QCoreApplication> watched;
+    if (watched == qApp) return;
+    watched = qApp;
+    QObject::connect(qApp, &QApplication::focusChanged, qApp, [](QWidget* /*old*/, QWidget* now) { focusMoved(now); });
+}
+
+}  // namespace
+
+void arrived(ChildField& field, Qt::FocusReason reason) {
+    watchApplication();
+    if (&field == Holder) {
+        Suspended = false;
+        return;
+    }
+    const Telling telling(reason);
+    leaveHolder(&field.site());
+    if (!field.widget().hasFocus()) return;  // a handler has moved it on
+    Holder = &field;
+    if (Entered == nullptr) {
+        Entered = &field.site();
+        Entered->control().EnterFocus();
+    }
+    if (Holder == &field) field.gotFocus();
+}
+
+void departed(ChildField& field, Qt::FocusReason reason) {
+    if (&field != Holder) return;
+    if (isPassing(reason)) {
+        Suspended = true;
+        return;
+    }
+    const Telling telling(reason);
+    leaveHolder(siteOf(QApplication::focusWidget()));
+}
+
+void forget(const ChildField& field) {
+    if (Holder == &field) Holder = nullptr;
+}
+
+void forget(const ControlSite& site) {
+    if (Entered == &site) Entered = nullptr;
+}
+
+bool movesByTab() { return ByTab; }
+
+bool isChanging() { return Changing > 0; }
+
+}  // namespace kel::qt::focus

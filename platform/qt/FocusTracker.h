@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QtCore/qnamespace.h>
+
+namespace kel::qt {
+
+class ChildField;
+class ControlSite;
+
+/// Tells controls and their widgets of the focus, in the order they know it: the old widget, the old control,
+/// the new control, the new widget. Popups, menus and other windows in front are no change to them.
+namespace focus {
+
+void arrived(ChildField& field, Qt::FocusReason reason);
+void departed(ChildField& field, Qt::FocusReason reason);
+
+/// The field or the control is about to go, without a word to anybody.
+void forget(const ChildField& field);
+void forget(const ControlSite& site);
+
+/// The Tab key moves the focus at this moment.
+bool movesByTab();
+
+/// Somebody is being told of a change; another one has to wait.
+bool isChanging();
+
+}  // namespace focus
+
+}  // namespace kel::qt

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <QWidget>
+#include <span>
+#include <string_view>
+
+#include "values/Variant.h"
+
+namespace kel {
+
+class Control;
+struct ClassModel;
+struct EventRow;
+
+namespace qt {
+
+class ControlSite;
+struct Surroundings;
+
+/// One control of the library as a Qt widget: base of the widget classes, which are made from the type model and
+/// add its properties, slots and signals. It can be laid out, tabbed to, enabled and given a tooltip like any
+/// other widget; `setEnabled` and `setToolTip` reach the control too.
+///
+/// The size counts in twips inside the control, 15 to a logical pixel. A control of fixed height takes it
+/// whatever it is given.
+class KelControlWidget : public QWidget {
+    Q_OBJECT
+
+public:
+    ~KelControlWidget() override;
+
+    /// The control itself, for hosts that work through the library's dispatch. Owned by the widget.
+    Control& control() const;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    /// A control newly placed, with the process-wide settings. Needs a QApplication.
+    explicit KelControlWidget(const ClassModel& model, QWidget* parent = nullptr);
+
+    /// A control on a form: made and initialised, for the form to load.
+    KelControlWidget(const ClassModel& model, const Surroundings& surroundings, QWidget* parent);
+
+    /// The control raises an event. By-reference arguments may be changed.
+    virtual void controlEvent(const EventRow& event, std::span<Variant> arguments);
+    /// A property that is saved has changed.
+    virtual void propertyReported(std::u16string_view bagName);
+
+    /// Members by their place in the type model. A value that does not fit is ignored.
+    Variant readMember(std::size_t member, std::span<Variant> arguments = {}) const;
+    void writeMember(std::size_t member, Variant value);
+    Variant callMember(std::size_t member, std::span<Variant> arguments = {}) const;
+
+    ControlSite& site() const { return *Site_; }
+
+    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    friend class ControlSite;
+
+    std::unique_ptr<ControlSite> Site_;
+};
+
+}  // namespace qt
+}  // namespace kel

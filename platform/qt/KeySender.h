@@ -1,0 +1,17 @@
+#pragma once
+
+#include "host/Keys.h"
+
+namespace kel::qt {
+
+/// Presses and releases a key where the focus is, as the keyboard would: shortcuts are asked first. The focus
+/// may be in `window` only in name, where the platform does not activate windows.
+void strikeKey(const KeyStroke& stroke);
+
+/// The same, after the events that are under way.
+void sendKeyLater(const KeyStroke& stroke);
+
+/// Whether a key is still to be sent.
+bool hasKeysToSend();
+
+}  // namespace kel::qt

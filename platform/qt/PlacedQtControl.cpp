@@ -1,0 +1,28 @@
+#include "platform/qt/PlacedQtControl.h"
+
+#include "platform/qt/ChildField.h"
+#include "platform/qt/TextBridge.h"
+
+namespace kel::qt {
+
+PlacedQtControl::PlacedQtControl(const ClassModel& model, const Placement& placement, const Surroundings& surroundings,
+                                 ControlObserver& observer, QWidget& parent)
+    : KelControlWidget(model, surroundings, &parent), Observer_(observer), Placement_(placement) {
+    setObjectName(toQString(placement.name));
+    if (!placement.tabStop) setFocusPolicy(Qt::ClickFocus);
+    if (!placement.visible) hide();
+}
+
+Rect PlacedQtControl::bounds() const {
+    const Size size = site().hasSize() ? site().size() : Size{Placement_.bounds.width, Placement_.bounds.height};
+    return {Placement_.bounds.left, Placement_.bounds.top, size.width, size.height};
+}
+
+void PlacedQtControl::setBounds(const Rect& bounds) {
+    Placement_.bounds = bounds;
+    move(site().grid().pixels(bounds).topLeft());
+    site().setOrigin({bounds.left, bounds.top});
+    site().setSize({bounds.width, bounds.height});
+}
+
+}  // namespace kel::qt

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "forms/Home.h"
+#include "platform/qt/ControlSite.h"
+#include "platform/qt/KelControlWidget.h"
+
+namespace kel::qt {
+
+/// A control on a form's window, of whichever class.
+class PlacedQtControl final : public KelControlWidget, public PlacedControl {
+public:
+    PlacedQtControl(const ClassModel& model, const Placement& placement, const Surroundings& surroundings,
+                    ControlObserver& observer, QWidget& parent);
+
+    Control& control() override { return KelControlWidget::control(); }
+    const std::u16string& name() const override { return Placement_.name; }
+    Rect bounds() const override;
+    void setBounds(const Rect& bounds) override;
+    std::u16string toolTipText() const override { return site().toolTipText(); }
+    void setToolTipText(std::u16string_view text) override { site().setToolTipText(text); }
+
+    const Placement& placement() const { return Placement_; }
+    /// The control's `Show`, whether or not the form lets it be seen.
+    void showControl() { site().shown(); }
+    bool owns(const QWidget& widget) const { return site().owns(widget); }
+
+private:
+    void controlEvent(const EventRow& event, std::span<Variant> arguments) override {
+        Observer_.controlEvent(*this, event, arguments);
+    }
+    void propertyReported(std::u16string_view bagName) override { Observer_.propertyReported(*this, bagName); }
+
+    ControlObserver& Observer_;
+    Placement Placement_;
+};
+
+}  // namespace kel::qt

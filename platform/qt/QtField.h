@@ -1,0 +1,91 @@
+#pragma once
+
+#include <QWidget>
+
+#include "host/Widgets.h"
+#include "platform/qt/ChildField.h"
+#include "platform/qt/ControlSite.h"
+#include "platform/qt/FocusTracker.h"
+#include "platform/qt/TextBridge.h"
+#include "platform/qt/WidgetLook.h"
+
+namespace kel::qt {
+
+/// What all field widgets on Qt have in common. `Interface` is one of the field widgets of host/Widgets.h.
+template <class Interface>
+class QtField : public Interface, public ChildField {
+public:
+    Rect bounds() const override { return Bounds_; }
+    void move(const Rect& bounds) override {
+        if (bounds == Bounds_) return;
+        Bounds_ = bounds;
+        placeAgain();
+    }
+
+    bool enabled() const override { return !widget().testAttribute(Qt::WA_ForceDisabled); }
+    void setEnabled(bool enabled) override { widget().setEnabled(enabled); }
+
+    Color foreColor() const override { return Colors_.fore; }
+    void setForeColor(Color color) override { setColors({Colors_.back, color}); }
+    Color backColor() const override { return Colors_.back; }
+    void setBackColor(Color color) override { setColors({color, Colors_.fore}); }
+
+    void setFont(std::u16string_view name, double size) override {
+        setWidgetFont(widget(), fontLike(widget().font(), name, size));
+    }
+    bool fontBold() const override { return widget().font().bold(); }
+    void setFontBold(bool bold) override {
+        QFont font = widget().font();
+        font.setBold(bold);
+        setWidgetFont(widget(), font);
+    }
+
+    void refresh() override { widget().update(); }
+
+    bool visible() const override { return Visible_; }
+
+    std::u16string toolTip() const override { return std::u16string(viewOf(widget().toolTip())); }
+    void setToolTip(std::u16string_view text) override { setWidgetToolTip(widget(), text); }
+
+    void setFocus() override { focusWidget(widget()); }
+
+    void placeAgain() override { widget().setGeometry(site().pixelRect(Bounds_)); }
+    void colorAgain() override {
+        if (Colors_ != FieldColors{}) colorWidget(widget(), Colors_);
+    }
+
+protected:
+    QtField(ControlSite& site, QWidget& widget) : ChildField(site, widget) {}
+
+    /// Enabled and shown, its control as well.
+    bool takesInput() const { return Visible_ && widget().isEnabled(); }
+
+    /// For overrides of `setVisible`, which Qt calls too: `show` does the showing and hiding.
+    template <class Show>
+    void changeVisible(bool visible, Show show) {
+        Visible_ = visible;
+        if (!visible) giveUpFocus();
+        show();
+        site().fieldShown(*this, visible);
+    }
+
+    /// For fields that can have it no longer. Qt would hand it on to the next widget, and say nothing while the
+    /// window is inactive.
+    void giveUpFocus() {
+        if (widget().window()->focusWidget() == &widget()) widget().clearFocus();
+        focus::departed(*this, Qt::OtherFocusReason);
+    }
+
+private:
+    void setColors(const FieldColors& colors) {
+        if (colors == Colors_) return;
+        Colors_ = colors;
+        colorWidget(widget(), Colors_);
+    }
+
+    Rect Bounds_;
+    FieldColors Colors_;
+    bool Visible_ = true;
+};
+
+}  // namespace kel::qt

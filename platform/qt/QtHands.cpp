@@ -1,0 +1,116 @@
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMouseEvent>
+#include <QPixmap>
+#include <QPointer>
+
+#include "platform/qt/EditBox.h"
+#include "platform/qt/KeySender.h"
+#include "platform/qt/PlacedQtControl.h"
+#include "platform/qt/QtFormWindow.h"
+#include "platform/qt/TextBridge.h"
+
+/// What a person does at a form's window.
+namespace kel::qt {
+
+namespace {
+
+/// Lets everything happen that follows from what was done.
+void settle() {
+    do {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents();
+    } while (hasKeysToSend());
+}
+
+EditBox* editBoxOf(PlacedControl& control) { return dynamic_cast<EditBox*>(control.control().widgets().textBox); }
+
+/// Qt gives the focus only for events that come from the window system.
+void giveFocusByClick(QWidget& widget) {
+    if (widget.isVisible() && widget.focusPolicy() & Qt::ClickFocus) widget.setFocus(Qt::MouseFocusReason);
+}
+
+void sendMouse(QWidget& area, QEvent::Type type, Qt::MouseButton button) {
+    const QPoint place = area.rect().center();
+    const bool held = type == QEvent::MouseButtonPress;
+    QMouseEvent event(type, place, area.mapToGlobal(place), button, held ? button : Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&area, &event);
+}
+
+void sendMenu(QWidget& area) {
+    const QPoint place = area.rect().center();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, area.mapToGlobal(place), Qt::NoModifier);
+    QApplication::sendEvent(&area, &event);
+}
+
+void closePopups() {
+    while (QWidget* const popup = QApplication::activePopupWidget()) popup->close();
+}
+
+}  // namespace
+
+void QtFormWindow::activate() {
+    if (Window_->isActiveWindow()) return;
+    Window_->activateWindow();
+    QCoreApplication::processEvents();
+    // Without a window manager nobody else does it.
+    if (!Window_->isActiveWindow()) QApplication::setActiveWindow(Window_.get());
+    settle();
+}
+
+void QtFormWindow::press(const KeyStroke& stroke) {
+    activate();
+    strikeKey(stroke);
+    settle();
+}
+
+void QtFormWindow::focus(PlacedControl& control) {
+    activate();
+    static_cast<PlacedQtControl&>(control).setFocus(Qt::OtherFocusReason);
+    settle();
+}
+
+void QtFormWindow::click(PlacedControl& control, std::int32_t position) {
+    activate();
+    if (EditBox* const box = editBoxOf(control)) {
+        const QPointer<QWidget> area = &box->mouseArea();
+        giveFocusByClick(box->widget());
+        box->aim(position);
+        sendMouse(*area, QEvent::MouseButtonPress, Qt::LeftButton);
+        box->aim(-1);
+        if (!area.isNull()) sendMouse(*area, QEvent::MouseButtonRelease, Qt::LeftButton);
+    }
+    settle();
+}
+
+void QtFormWindow::rightClick(PlacedControl& control) {
+    activate();
+    if (EditBox* const box = editBoxOf(control)) {
+        const QPointer<QWidget> area = &box->mouseArea();
+        giveFocusByClick(box->widget());
+        sendMouse(*area, QEvent::MouseButtonPress, Qt::RightButton);
+        if (!area.isNull()) sendMenu(*area);
+        closePopups();
+        if (!area.isNull()) sendMouse(*area, QEvent::MouseButtonRelease, Qt::RightButton);
+    }
+    settle();
+    activate();
+}
+
+void QtFormWindow::setClipboard(std::u16string_view text) { QGuiApplication::clipboard()->setText(toQString(text)); }
+
+PlacedControl* QtFormWindow::focused() const {
+    const QWidget* const widget = Window_->focusWidget();
+    if (widget == nullptr) return nullptr;
+    const auto holder = std::find_if(Controls_.begin(), Controls_.end(),
+                                     [widget](const auto& control) { return control->owns(*widget); });
+    return holder == Controls_.end() ? nullptr : holder->get();
+}
+
+bool QtFormWindow::savePicture(const std::string& utf8Path) {
+    settle();
+    return Window_->grab().save(QString::fromStdString(utf8Path), "PNG");
+}
+
+}  // namespace kel::qt

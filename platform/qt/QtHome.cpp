@@ -1,0 +1,60 @@
+#include "platform/qt/QtHome.h"
+
+#include <QCoreApplication>
+
+#include "platform/qt/ControlSite.h"
+#include "platform/qt/QtFormWindow.h"
+#include "platform/qt/QtServices.h"
+#include "platform/qt/QtSystem.h"
+
+namespace kel::qt {
+
+namespace {
+
+constexpr std::int32_t UsualTwipsPerPixel = 15;
+
+class QtHome final : public Home {
+public:
+    explicit QtHome(const HomeOptions& options)
+        : System_(options.twipsPerPixel > 0 ? options.twipsPerPixel : UsualTwipsPerPixel), Services_(options) {
+        Settings_.makeDefaultRuntime = [this] { return makeRuntime(Services_); };
+    }
+
+    SharedSettings& settings() override { return Settings_; }
+    System& system() override { return System_; }
+    const RegionalSettings& region() const override { return Services_.region(); }
+
+    std::unique_ptr<FormWindow> makeWindow(const WindowSpec& spec, System& system) override {
+        return std::make_unique<QtFormWindow>(spec, Surroundings{Settings_, system, Services_.region()});
+    }
+
+private:
+    QtSystem System_;
+    QtServices Services_;
+    SharedSettings Settings_;  ///< last: the run-time object in it works on the services
+};
+
+std::unique_ptr<Home>& defaultInstance() {
+    static std::unique_ptr<Home> home;
+    return home;
+}
+
+}  // namespace
+
+std::unique_ptr<Home> makeHome(const HomeOptions& options) { return std::make_unique<QtHome>(options); }
+
+Home& defaultHome() {
+    std::unique_ptr<Home>& home = defaultInstance();
+    if (!home) {
+        home = makeHome({});
+        qAddPostRoutine([] { defaultInstance().reset(); });
+    }
+    return *home;
+}
+
+Surroundings defaultSurroundings() {
+    Home& home = defaultHome();
+    return {home.settings(), home.system(), home.region()};
+}
+
+}  // namespace kel::qt

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <memory>
+
+#include "forms/Home.h"
+
+namespace kel::qt {
+
+struct Surroundings;
+
+/// A Linux desktop, or any other that Qt knows. Needs a QApplication, which outlives it.
+std::unique_ptr<Home> makeHome(const HomeOptions& options);
+
+/// The home of the widgets that a program makes by itself. Made when first asked for, with the desktop's own
+/// settings; goes with the QApplication.
+Home& defaultHome();
+Surroundings defaultSurroundings();
+
+}  // namespace kel::qt

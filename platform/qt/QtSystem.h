@@ -1,0 +1,23 @@
+#pragma once
+
+#include "host/System.h"
+
+namespace kel::qt {
+
+/// The desktop's own clock, message boxes and keyboard.
+class QtSystem final : public System {
+public:
+    explicit QtSystem(std::int32_t twipsPerPixel) : TwipsPerPixel_(twipsPerPixel) {}
+
+    Date today() const override;
+    double timer() const override;
+    void messageBox(std::u16string_view prompt, std::int32_t style, std::u16string_view title) override;
+    void beep() override;
+    bool tabKeyDown() const override;
+    std::int32_t twipsPerPixel() const override { return TwipsPerPixel_; }
+
+private:
+    std::int32_t TwipsPerPixel_;
+};
+
+}  // namespace kel::qt

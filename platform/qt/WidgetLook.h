@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QFont>
+#include <string_view>
+
+#include "platform/qt/FieldColors.h"
+
+class QWidget;
+
+/// Looks that the controls give their widgets. None of these costs anything where nothing changes.
+namespace kel::qt {
+
+/// `base` in another family and size (points).
+QFont fontLike(const QFont& base, std::u16string_view family, double size);
+
+void setWidgetFont(QWidget& widget, const QFont& font);
+void setWidgetToolTip(QWidget& widget, std::u16string_view text);
+void colorWidget(QWidget& widget, const FieldColors& colors);
+
+/// Gives it the focus; after the change of focus that is under way, if there is one.
+void focusWidget(QWidget& widget);
+
+}  // namespace kel::qt

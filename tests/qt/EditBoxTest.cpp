@@ -1,0 +1,234 @@
+#include <gtest/gtest.h>
+#include <QApplication>
+#include <QClipboard>
+#include <QDropEvent>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMimeData>
+#include <QPlainTextEdit>
+
+#include "platform/qt/EditBox.h"
+#include "platform/qt/KeyMap.h"
+#include "platform/qt/QtHome.h"
+#include "tests/qt/QtForm.h"
+
+/// The ways into a text that only a desktop has.
+namespace kel::test {
+namespace {
+
+struct OneField {
+    explicit OneField(bool multiLine = false) : form(qt::makeHome({})), placed(form.place(u"a", 900)) {
+        textOf(placed).put_MultiLine(multiLine);
+        form.show();
+        form.window().focus(placed);
+        form.takeLog();
+    }
+    TextBox& box() { return boxOf(placed); }
+    QWidget& widget() { return widgetOf(box()); }
+
+    void compose(const QString& preedit, const QString& commit = {}, int replaceFrom = 0, int replaceLength = 0) {
+        QInputMethodEvent event(preedit, {});
+        event.setCommitString(commit, replaceFrom, replaceLength);
+        QApplication::sendEvent(&widget(), &event);
+    }
+
+    /// At the end of the text, unless the box refuses it.
+    void drop(const QString& text) {
+        QMimeData data;
+        data.setText(text);
+        QWidget& area = dynamic_cast<qt::EditBox&>(box()).mouseArea();
+        const QPoint place(area.width() - 3, area.height() - 3);
+        QDragEnterEvent entered(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&area, &entered);
+        QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&area, &event);
+    }
+
+    QAction* menuEntry(const char* name) {
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
+        QApplication::sendEvent(&widget(), &event);
+        QWidget* const menu = QApplication::activePopupWidget();
+        return menu == nullptr ? nullptr : menu->findChild<QAction*>(QLatin1String(name));
+    }
+
+    TextForm form;
+    PlacedControl& placed;
+};
+
+TEST(InputMethod, CommitsAreTyped) {
+    for (const bool multiLine : {false, true}) {
+        OneField field(multiLine);
+        put(field.box(), "1[2]3");
+        field.compose(QStringLiteral("ni"));
+        EXPECT_EQ(drawn(field.box()), "1|3") << "composing replaces the selection";
+        field.compose({}, QStringLiteral("\u65E5\u672C"));
+        EXPECT_EQ(drawn(field.box()), "1\u65E5\u672C|3");
+        EXPECT_EQ(field.form.takeLog(), "a.Change(123) a.Change(13) a.Change(1\u65E53) a.Change(1\u65E5\u672C3) ");
+        field.form.window().press({'Z', 0, ControlKey});
+        EXPECT_EQ(drawn(field.box()), "1[2]3") << "undone with what it replaced";
+    }
+}
+
+TEST(InputMethod, PassesTheControlsRules) {
+    struct Case {
+        const char* what;
+        const char* before;
+        bool locked;
+        bool insert;
+        std::int16_t maxLength;
+        const char16_t* commit;
+        const char* after;
+    };
+    const Case cases[] = {
+        {"locked", "ab|", true, true, 0, u"x", "ab|"},
+        {"overwriting", "|abc", false, false, 0, u"xy", "xy|c"},
+        {"full", "abc|", false, true, 4, u"xyz", "abcx|"},
+        {"no half pair", "abc|", false, true, 4, u"\U0001F600", "abc|"},
+    };
+    for (const bool multiLine : {false, true}) {
+        for (const Case& row : cases) {
+            OneField field(multiLine);
+            KelText& control = textOf(field.placed);
+            control.put_Locked(row.locked);
+            control.put_InsertMode(row.insert);
+            control.put_MaxLength(row.maxLength);
+            put(field.box(), row.before);
+            field.compose({}, QString::fromUtf16(row.commit));
+            EXPECT_EQ(drawn(field.box()), row.after) << row.what;
+        }
+    }
+}
+
+TEST(InputMethod, CorrectsWhatStandsInFront) {
+    OneField field;
+    put(field.box(), "teh|");
+    field.compose({}, QStringLiteral("the"), -3, 3);
+    EXPECT_EQ(drawn(field.box()), "the|");
+}
+
+TEST(Drop, FollowsTheRulesOfPasting) {
+    struct Case {
+        const char* what;
+        bool multiLine;
+        bool locked;
+        std::int16_t maxLength;
+        const char* after;
+        const char* log;
+    };
+    const Case cases[] = {
+        {"one line", false, false, 0, "abx|", "a.Change(abx) "},
+        {"several lines", true, false, 0, "abx\r\ny|", "a.Change(abx\r\ny) "},
+        {"cut", true, false, 4, "abx|", "a.Change(abx) "},
+        {"locked", true, true, 0, "|ab", ""},
+    };
+    for (const Case& row : cases) {
+        OneField field(row.multiLine);
+        put(field.box(), "|ab");
+        textOf(field.placed).put_MaxLength(row.maxLength);
+        textOf(field.placed).put_Locked(row.locked);
+        field.form.takeLog();
+        field.drop(QStringLiteral("x\ny"));
+        EXPECT_EQ(drawn(field.box()), row.after) << row.what;
+        EXPECT_EQ(field.form.takeLog(), row.log) << row.what;
+    }
+}
+
+TEST(ContextMenu, WorksOnTheControlsTerms) {
+    OneField field;
+    textOf(field.placed).put_MaxLength(4);
+    put(field.box(), "a[b]c");
+    field.form.takeLog();
+    field.form.window().setClipboard(u"xyz\n2");
+    ASSERT_NE(field.menuEntry("edit-paste"), nullptr);
+    field.menuEntry("edit-paste")->trigger();
+    EXPECT_EQ(drawn(field.box()), "axy|c");
+    EXPECT_EQ(field.form.takeLog(), "a.Change(axyc) ");
+
+    field.menuEntry("edit-undo")->trigger();
+    EXPECT_EQ(drawn(field.box()), "a[b]c");
+    field.menuEntry("edit-cut")->trigger();
+    EXPECT_EQ(drawn(field.box()), "a|c");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("b"));
+
+    textOf(field.placed).put_Locked(true);
+    for (const char* const entry : {"edit-paste", "edit-undo", "edit-cut", "edit-delete"})
+        EXPECT_FALSE(field.menuEntry(entry)->isEnabled()) << entry;
+    textOf(field.placed).put_PasswordChar(u"*");
+    field.form.window().press({'A', 0, ControlKey});
+    EXPECT_FALSE(field.menuEntry("edit-copy")->isEnabled()) << "a password is not copied";
+    QApplication::activePopupWidget()->close();
+}
+
+TEST(EditBox, ChangesByOthersAreReported) {
+    OneField line;
+    dynamic_cast<QLineEdit&>(line.widget()).insert(QStringLiteral("spoken"));
+    EXPECT_EQ(line.form.takeLog(), "a.Change(spoken) ");
+
+    OneField several(true);
+    dynamic_cast<QPlainTextEdit&>(several.widget()).insertPlainText(QStringLiteral("spoken"));
+    EXPECT_EQ(several.form.takeLog(), "a.Change(spoken) ");
+}
+
+TEST(EditBox, HoldsMoreThanQtsOwnLimit) {
+    OneField field;
+    const std::u16string text(40000, u'x');
+    field.box().setText(text);
+    EXPECT_TRUE(field.box().textEquals(text));
+    put(field.box(), std::string(32767, 'y') + "|");
+    typeInto(field.form.window(), U"z");
+    EXPECT_EQ(field.box().textLength(), 32768);
+    EXPECT_EQ(field.box().selStart(), 32768);
+}
+
+TEST(EditBox, KeysThatMeanNothingHereGoOn) {
+    struct Case {
+        KeyStroke stroke;
+        bool multiLine;
+        bool locked;
+        bool claimed;  ///< ahead of the window's shortcuts
+        bool used;
+    };
+    const Case cases[] = {
+        {strokeFor(U'x'), false, false, true, true},
+        {strokeFor(U'x'), false, true, false, false},
+        {{keys::Delete, 0, NoModifier}, false, false, true, true},
+        {{'V', 0, ControlKey}, false, false, true, true},
+        {{'S', 0, ControlKey}, false, false, false, false},
+        {{'C', 0, ControlKey}, false, true, true, true},
+        {{keys::Insert, 0, NoModifier}, false, false, true, false},
+        {{keys::Escape, 0, NoModifier}, false, false, false, false},
+        {{keys::Up, 0, NoModifier}, true, true, true, true},
+        {{keys::Tab, 0, ControlKey}, true, false, false, false},
+    };
+    for (const Case& row : cases) {
+        OneField field(row.multiLine);
+        textOf(field.placed).put_Locked(row.locked);
+        const qt::QtKey key = qt::keyFor(row.stroke);
+        QKeyEvent asked(QEvent::ShortcutOverride, key.key, key.modifiers, key.text);
+        asked.ignore();
+        static_cast<QObject&>(field.widget()).event(&asked);
+        EXPECT_EQ(asked.isAccepted(), row.claimed) << row.stroke.code;
+        QKeyEvent pressed(QEvent::KeyPress, key.key, key.modifiers, key.text);
+        static_cast<QObject&>(field.widget()).event(&pressed);
+        EXPECT_EQ(pressed.isAccepted(), row.used) << row.stroke.code;
+    }
+}
+
+TEST(EditBox, HandlersMayDoAnythingToIt) {
+    OneField field;
+    int rounds = 0;
+    field.form.onEvent = [&](PlacedControl&, const EventRow& event) {
+        if (event.id != KelText::Change.id || rounds++ > 0) return;
+        textOf(field.placed).put_Text(u"other");
+        textOf(field.placed).put_MultiLine(true);
+        textOf(field.placed).put_Locked(true);
+        textOf(field.placed).put_Enabled(false);
+    };
+    typeInto(field.form.window(), U"x");
+    EXPECT_EQ(drawn(field.box()), "|other");
+    EXPECT_EQ(field.form.window().focused(), nullptr);
+}
+
+}  // namespace
+}  // namespace kel::test

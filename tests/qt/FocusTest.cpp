@@ -1,0 +1,177 @@
+#include <gtest/gtest.h>
+#include <KelTextWidget.h>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "library/Control.h"
+#include "platform/qt/KeySender.h"
+#include "platform/qt/QtHome.h"
+#include "tests/qt/QtForm.h"
+
+namespace kel::test {
+namespace {
+
+void settle() {
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+}
+
+/// Plain Qt: two of our fields with widgets of Qt's own between and behind them.
+class MixedWindow : public testing::Test {
+protected:
+    MixedWindow() {
+        auto* const layout = new QVBoxLayout(&window);
+        for (QWidget* const widget : {static_cast<QWidget*>(&first), static_cast<QWidget*>(&between),
+                                      static_cast<QWidget*>(&second), static_cast<QWidget*>(&behind)})
+            layout->addWidget(widget);
+        window.show();
+        window.activateWindow();
+        settle();
+    }
+    ~MixedWindow() override {
+        for (QWidget* const widget : {static_cast<QWidget*>(&first), static_cast<QWidget*>(&between),
+                                      static_cast<QWidget*>(&second), static_cast<QWidget*>(&behind)})
+            widget->setParent(nullptr);
+    }
+
+    static QWidget* boxOf(KelTextWidget& field) { return &widgetOf(*field.control().widgets().textBox); }
+    static bool hasFocusColor(KelTextWidget& field) {
+        return field.control().widgets().field->backColor() == qt::defaultHome().settings().FieldBackFocus;
+    }
+    static void tab(Modifiers modifiers = NoModifier) {
+        qt::strikeKey({keys::Tab, 0, modifiers});
+        settle();
+    }
+
+    QWidget window;
+    KelTextWidget first;
+    QLineEdit between;
+    KelTextWidget second;
+    QLineEdit behind;
+};
+
+TEST_F(MixedWindow, TabGoesThroughComposites) {
+    first.setFocus();
+    std::vector<QWidget*> way;
+    for (int i = 0; i < 4; ++i) {
+        way.push_back(QApplication::focusWidget());
+        tab();
+    }
+    EXPECT_EQ(way, (std::vector<QWidget*>{boxOf(first), &between, boxOf(second), &behind}));
+    EXPECT_EQ(QApplication::focusWidget(), boxOf(first)) << "around";
+
+    QWidget::setTabOrder(&second, &first);
+    QWidget::setTabOrder(&first, &behind);
+    second.setFocus();
+    tab();
+    EXPECT_EQ(QApplication::focusWidget(), boxOf(first));
+    tab(ShiftKey);
+    EXPECT_EQ(QApplication::focusWidget(), boxOf(second));
+}
+
+TEST_F(MixedWindow, SeveralLinesKeepTheirPlaceInTheTabOrder) {
+    for (const bool multiLine : {true, false, true}) {
+        first.setMultiLine(multiLine);
+        second.setMultiLine(multiLine);
+        behind.setFocus();
+        tab();
+        EXPECT_EQ(QApplication::focusWidget(), boxOf(first));
+        tab();
+        tab();
+        EXPECT_EQ(QApplication::focusWidget(), boxOf(second));
+        EXPECT_TRUE(second.hasFocus()) << "the composite stands for its box";
+    }
+}
+
+TEST_F(MixedWindow, PopupsAndOtherWindowsAreNoChange) {
+    first.setSelectOnFocus(true);
+    first.setText(QStringLiteral("text"));
+    behind.setFocus();
+    tab();
+    ASSERT_TRUE(hasFocusColor(first));
+    TextBox& box = *first.control().widgets().textBox;
+    box.setSelStart(1);
+    box.setSelLength(2);
+
+    QMenu menu;
+    menu.addAction(QStringLiteral("entry"));
+    menu.popup({});
+    settle();
+    EXPECT_TRUE(hasFocusColor(first)) << "a menu is open";
+    menu.close();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    settle();
+    ASSERT_FALSE(window.isActiveWindow());
+    EXPECT_TRUE(hasFocusColor(first)) << "another window is in front";
+    other.close();
+    window.activateWindow();
+    settle();
+    EXPECT_TRUE(hasFocusColor(first));
+    EXPECT_EQ(drawn(box), "t[ex]t") << "coming back is no entering";
+}
+
+TEST_F(MixedWindow, AFocusThatMovedWhileTheWindowWasAwayHasLeft) {
+    first.setFocus();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    settle();
+    between.setFocus();
+    EXPECT_TRUE(hasFocusColor(first));
+    window.activateWindow();
+    settle();
+    EXPECT_FALSE(hasFocusColor(first));
+}
+
+TEST_F(MixedWindow, DisablingTakesTheFocusAwayAltogether) {
+    first.setFocus();
+    QWidget* const plain = &first;
+    plain->setEnabled(false);
+    EXPECT_EQ(first.control().widgets().field->backColor(), qt::defaultHome().settings().FieldBackLocked);
+    EXPECT_NE(QApplication::focusWidget(), boxOf(first));
+
+    second.setFocus();
+    second.setMultiLine(true);
+    EXPECT_EQ(QApplication::focusWidget(), nullptr) << "the box that had it is hidden";
+}
+
+TEST_F(MixedWindow, MnemonicsLeadToTheField) {
+    first.setCaption(QStringLiteral("&Name && more"));
+    first.setSelectOnFocus(true);
+    first.setText(QStringLiteral("text"));
+    behind.setFocus();
+    QTest::keyClick(window.windowHandle(), Qt::Key_N, Qt::AltModifier);
+    EXPECT_EQ(QApplication::focusWidget(), boxOf(first));
+    EXPECT_EQ(first.control().widgets().textBox->selLength(), 0) << "not by Tab, nothing selected";
+    first.setCaption(QStringLiteral("Na&me"));
+    behind.setFocus();
+    QTest::keyClick(window.windowHandle(), Qt::Key_N, Qt::AltModifier);
+    EXPECT_EQ(QApplication::focusWidget(), &behind) << "the old mnemonic is gone";
+
+    QLabel label(QStringLiteral("&Buddy"), &window);
+    label.setBuddy(&second);
+    label.show();
+    QTest::keyClick(window.windowHandle(), Qt::Key_B, Qt::AltModifier);
+    EXPECT_EQ(QApplication::focusWidget(), boxOf(second));
+}
+
+TEST_F(MixedWindow, EnterMovesOnAsTab) {
+    second.setSelectOnFocus(true);
+    second.setText(QStringLiteral("text"));
+    between.setParent(nullptr);
+    first.setFocus();
+    qt::strikeKey({keys::Enter, 0, NoModifier});
+    settle();
+    EXPECT_EQ(QApplication::focusWidget(), boxOf(second));
+    EXPECT_EQ(second.control().widgets().textBox->selLength(), 4) << "seen as Tab";
+}
+
+}  // namespace
+}  // namespace kel::test

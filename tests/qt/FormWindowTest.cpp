@@ -1,0 +1,147 @@
+#include <gtest/gtest.h>
+#include <QApplication>
+#include <QImage>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include "platform/qt/QtHome.h"
+#include "tests/qt/QtForm.h"
+
+namespace kel::test {
+namespace {
+
+TEST(FormWindow, StartsWithTheFocusNowhere) {
+    TextForm form(qt::makeHome({}));
+    PlacedControl& first = form.place(u"a");
+    PlacedControl& last = form.place(u"b");
+    form.show();
+    EXPECT_EQ(form.window().focused(), nullptr);
+    typeInto(form.window(), U"x");
+    EXPECT_EQ(form.takeLog(), "") << "a key without the focus does nothing";
+    form.window().press({keys::Tab, 0, NoModifier});
+    EXPECT_EQ(form.window().focused(), &first);
+
+    textOf(first).put_Enabled(false);
+    EXPECT_EQ(form.window().focused(), nullptr);
+    form.window().press({keys::Tab, 0, ShiftKey});
+    EXPECT_EQ(form.window().focused(), &last) << "back from nowhere is the last";
+}
+
+TEST(FormWindow, TabFollowsTheIndexNotThePlace) {
+    TextForm form(qt::makeHome({}));
+    ForeignBlock frame;
+    frame.kind = ForeignBlock::Kind::Panel;
+    frame.placement.bounds = {0, 0, 3000, 1500};
+    PlacedPanel* const panel = form.window().placeForeign(frame);
+    ASSERT_NE(panel, nullptr);
+    ForeignBlock button;
+    button.kind = ForeignBlock::Kind::Button;
+    button.placement.bounds = {3000, 0, 600, 300};
+    EXPECT_EQ(form.window().placeForeign(button), nullptr);
+
+    Placement placement{.name = u"third", .bounds = {0, 900, 3000, 300}, .tabIndex = 3};
+    form.placeAt(placement);
+    placement = {.name = u"first", .bounds = {0, 300, 3000, 300}, .parent = panel, .tabIndex = 1};
+    form.placeAt(placement);
+    placement = {.name = u"second", .bounds = {0, 600, 3000, 300}, .tabIndex = 2, .tabStop = false};
+    PlacedControl* const clicked = &form.placeAt(placement);
+    placement = {.name = u"unseen", .bounds = {0, 1200, 3000, 300}, .tabIndex = 2, .visible = false};
+    form.placeAt(placement);
+    form.show();
+
+    std::u16string way;
+    for (int i = 0; i < 3; ++i) {
+        form.window().press({keys::Tab, 0, NoModifier});
+        way += form.window().focused()->name() + u" ";
+    }
+    EXPECT_EQ(way, u"first third first ");
+    form.window().click(*clicked, 0);
+    EXPECT_EQ(form.window().focused(), clicked) << "no tab stop, but it takes clicks";
+}
+
+TEST(FormWindow, ClicksPutTheCaretExactly) {
+    TextForm form(qt::makeHome({}));
+    PlacedControl& line = form.place(u"a");
+    PlacedControl& several = form.place(u"b", 600);
+    textOf(several).put_MultiLine(true);
+    form.show();
+    std::u16string text = u"iWi\U0001F600e\u0301";
+    text += std::u16string(400, u'w');
+    for (PlacedControl* const placed : {&line, &several}) {
+        textOf(*placed).put_Text(text);
+        for (const std::int32_t position : {0, 1, 3, 5, 7, 400, 405, 9999}) {
+            boxOf(*placed).setSelStart(1);
+            boxOf(*placed).setSelLength(200);
+            form.window().click(*placed, position);
+            EXPECT_EQ(boxOf(*placed).selStart(), std::min(position, boxOf(*placed).textLength()));
+            EXPECT_EQ(boxOf(*placed).selLength(), 0);
+        }
+    }
+    form.takeLog();
+    form.window().rightClick(line);
+    EXPECT_EQ(form.takeLog(), "") << "the right button is no click";
+    EXPECT_EQ(form.window().focused(), &line);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    textOf(line).put_Enabled(false);
+    form.takeLog();
+    form.window().click(line, 0);
+    EXPECT_EQ(form.takeLog(), "");
+    EXPECT_EQ(form.window().focused(), nullptr);
+}
+
+/// Twips do not always fill whole pixels: neighbours still touch, and give their sizes back unchanged.
+TEST(FormWindow, KeepsTwipsAndTouchesInPixels) {
+    HomeOptions options;
+    options.twipsPerPixel = 12;
+    TextForm form(qt::makeHome(options));
+    PlacedControl& upper = form.place(u"a");
+    PlacedControl& lower = form.place(u"b");
+    upper.setBounds({7, 5, 3001, 305});
+    lower.setBounds({7, 310, 3001, 305});
+    form.show();
+    EXPECT_EQ(upper.bounds(), (Rect{7, 5, 3001, 305}));
+    EXPECT_EQ(boxOf(upper).bounds(), (Rect{1200, 0, 1801, 305}));
+    const QWidget& above = *widgetOf(boxOf(upper)).parentWidget();
+    const QWidget& below = *widgetOf(boxOf(lower)).parentWidget();
+    EXPECT_EQ(above.y() + above.height(), below.y());
+    EXPECT_EQ(widgetOf(boxOf(upper)).geometry().right(), above.width() - 1);
+    lower.setBounds({7, 310, 3001, 10});
+    EXPECT_EQ(lower.bounds().height, 300) << "its own height";
+}
+
+TEST(FormWindow, SavesAPicture) {
+    const QTemporaryDir folder;
+    TextForm form(qt::makeHome({}));
+    form.place(u"a");
+    form.show();
+    const std::string path = folder.filePath(QStringLiteral("\u00FCber.png")).toStdString();
+    ASSERT_TRUE(form.window().savePicture(path));
+    EXPECT_EQ(QImage(QString::fromStdString(path)).size(), QSize(1000, 500));
+    EXPECT_FALSE(form.window().savePicture(folder.filePath(QStringLiteral("none/a.png")).toStdString()));
+}
+
+TEST(QtSystem, AMessageBoxGivesTheFocusBack) {
+    TextForm form(qt::makeHome({}));
+    PlacedControl& field = form.place(u"a");
+    form.show();
+    form.window().focus(field);
+    QString shown;
+    QTimer::singleShot(0, [&shown] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        shown = box->windowTitle() + u'/' + box->text();
+        EXPECT_EQ(box->icon(), QMessageBox::Information);
+        box->accept();
+    });
+    form.home().system().messageBox(u"Please enter <one>.", 64, u"Invalid Value");
+    EXPECT_EQ(shown, QStringLiteral("Invalid Value/Please enter <one>."));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(QApplication::focusWidget(), &widgetOf(boxOf(field)));
+    EXPECT_EQ(boxOf(field).backColor(), form.home().settings().FieldBackFocus);
+    typeInto(form.window(), U"x");
+    EXPECT_EQ(form.takeLog(), "a.Change(x) ");
+}
+
+}  // namespace
+}  // namespace kel::test

@@ -1,0 +1,149 @@
+#include <gtest/gtest.h>
+#include <KelTextWidget.h>
+#include <cmath>
+#include <QApplication>
+
+#include "library/Control.h"
+#include "platform/qt/FieldColors.h"
+#include "platform/qt/QtHome.h"
+#include "tests/qt/QtForm.h"
+
+namespace kel::test {
+namespace {
+
+QPalette darkDesktop() {
+    QPalette palette(QColor(45, 45, 48));
+    palette.setColor(QPalette::Base, QColor(30, 30, 30));
+    palette.setColor(QPalette::Text, Qt::white);
+    palette.setColor(QPalette::WindowText, Qt::white);
+    palette.setColor(QPalette::Highlight, QColor(20, 60, 120));
+    return palette;
+}
+
+double luminance(const QColor& color) {
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other) {
+    const double first = luminance(one) + 0.05;
+    const double second = luminance(other) + 0.05;
+    return std::max(first, second) / std::min(first, second);
+}
+
+TEST(Looks, FieldsAreReadableOnEveryDesktop) {
+    constexpr Color White = 0x00FFFFFF;
+    constexpr Color PaleGreen = 0x00C0FFC0;
+    constexpr Color Yellow = 0x0000FFFF;
+    for (const QPalette& desktop : {QPalette(), darkDesktop()}) {
+        for (const Color back : {White, PaleGreen, colors::SystemWindow, colors::SystemButtonFace}) {
+            for (const Color fore : {colors::SystemWindowText, colors::SystemHighlight, Yellow}) {
+                QPalette shown = desktop;
+                const QPalette changes = qt::fieldPalette({back, fore}, desktop);
+                if (changes.resolveMask() != 0) shown = changes.resolve(desktop);
+                const QColor base = shown.color(QPalette::Active, QPalette::Base);
+                EXPECT_EQ(base, qt::desktopColor(back, desktop));
+                EXPECT_GE(contrast(shown.color(QPalette::Active, QPalette::Text), base), 4.5) << back << ' ' << fore;
+            }
+        }
+        const QColor mandatory = qt::captionColorOn(desktop, colors::SystemHighlight);
+        EXPECT_GE(contrast(mandatory, desktop.color(QPalette::Window)), 4.5) << "a mandatory field's caption";
+    }
+}
+
+TEST(Looks, ColorsNameRedInTheLowByteAndTheSystemsByIndex) {
+    EXPECT_EQ(qt::desktopColor(0x00C08040, {}), QColor(0x40, 0x80, 0xC0));
+    const QPalette dark = darkDesktop();
+    EXPECT_EQ(qt::desktopColor(0x80000005, dark), dark.color(QPalette::Base));
+    EXPECT_EQ(qt::desktopColor(0x80000011, dark), dark.color(QPalette::Disabled, QPalette::Text));
+    EXPECT_EQ(qt::desktopColor(0x800000FF, dark), dark.color(QPalette::WindowText)) << "no such index";
+}
+
+TEST(Looks, AChangeOfTheDesktopReachesTheFields) {
+    QWidget window;
+    auto* const field = new KelTextWidget(&window);
+    TextBox& box = *field->control().widgets().textBox;
+    const QWidget& shown = widgetOf(box);
+    box.setBackColor(colors::SystemButtonFace);
+    const QPalette light = window.palette();
+    const QPalette dark = darkDesktop();
+
+    window.setPalette(dark);
+    EXPECT_EQ(shown.palette().color(QPalette::Base), dark.color(QPalette::Button));
+    EXPECT_EQ(shown.palette().color(QPalette::Text), QColor(Qt::white));
+    box.setBackColor(0x00FFFFFF);
+    EXPECT_EQ(shown.palette().color(QPalette::Text), QColor(Qt::black));
+    EXPECT_EQ(shown.palette().color(QPalette::Window), dark.color(QPalette::Window));
+    window.setPalette(light);
+    EXPECT_EQ(shown.palette().color(QPalette::Text), light.color(QPalette::Text));
+    box.setBackColor(colors::SystemWindow);
+    EXPECT_EQ(shown.palette().color(QPalette::Base), light.color(QPalette::Base));
+}
+
+/// Rows of the picture that hold ink, between the columns given.
+QRect inkIn(const QImage& picture, int left, int right) {
+    const QColor paper = picture.pixelColor(left, picture.height() / 2);
+    QRect ink;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = left; x < right; ++x)
+            if (picture.pixelColor(x, y) != paper) ink |= QRect(x, y, 1, 1);
+    return ink;
+}
+
+TEST(Looks, CaptionAndTextStandOnOneLine) {
+    for (const bool multiLine : {false, true}) {
+        QWidget window;
+        auto* const field = new KelTextWidget(&window);
+        field->setCaption(QStringLiteral("HHH"));
+        field->setText(QStringLiteral("HHH"));
+        field->setMultiLine(multiLine);
+        field->setGeometry(0, 0, 240, multiLine ? 60 : 20);
+        window.resize(240, 60);
+        window.show();
+        const QImage picture = field->grab().toImage();
+        constexpr int Caption = 80;
+        constexpr int Inset = 3;
+        const QRect caption = inkIn(picture, 0, Caption);
+        const QRect text =
+            inkIn(picture.copy(0, Inset, 240, 20 - 2 * Inset), Caption + Inset, 160).translated(0, Inset);
+        EXPECT_EQ(caption.top(), text.top());
+        EXPECT_EQ(caption.bottom(), text.bottom());
+        EXPECT_LE(caption.left(), 2) << "at the left edge";
+        EXPECT_LE(text.left() - Caption, 8);
+    }
+}
+
+TEST(Looks, FromRightToLeftTheCaptionStandsAtTheRight) {
+    QWidget window;
+    auto* const field = new KelTextWidget(&window);
+    field->setCaption(QStringLiteral("HHH"));
+    field->setGeometry(0, 0, 240, 20);
+    window.show();
+    QWidget& box = widgetOf(*field->control().widgets().textBox);
+    EXPECT_EQ(box.geometry(), QRect(80, 0, 160, 20));
+    window.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(box.geometry(), QRect(0, 0, 160, 20));
+    EXPECT_EQ(field->control().widgets().textBox->bounds(), (Rect{1200, 0, 2400, 300})) << "in twips nothing changes";
+    EXPECT_GE(inkIn(field->grab().toImage(), 162, 240).right(), 236);
+    field->resize(300, 20);
+    EXPECT_EQ(box.geometry(), QRect(0, 0, 220, 20));
+}
+
+TEST(Looks, AClippedTextShowsWhole) {
+    KelTextWidget field;
+    field.setCaptionWidth(0);
+    field.setText(QStringLiteral("\u00C5gjpq"));
+    field.resize(200, 20);
+    field.show();
+    const QImage picture = field.grab().toImage();
+    constexpr int Inset = 3;
+    const QImage inside = picture.copy(Inset, Inset, 100, 20 - 2 * Inset);
+    const QRect ink = inkIn(inside, 0, inside.width());
+    EXPECT_GT(ink.height(), 8);
+    EXPECT_LT(ink.bottom(), inside.height() - 1) << "descenders reach the frame";
+}
+
+}  // namespace
+}  // namespace kel::test

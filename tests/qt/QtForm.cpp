@@ -1,0 +1,75 @@
+#include "tests/qt/QtForm.h"
+
+#include "common/basKelControls.h"
+#include "values/Text.h"
+
+namespace kel::test {
+
+namespace {
+
+constexpr Size ClientSize{15000, 7500};
+constexpr std::int32_t FieldWidth = 14000;  ///< so that nothing the tests type needs a second line
+constexpr std::int32_t Gap = 75;
+
+}  // namespace
+
+TextForm::TextForm(std::unique_ptr<Home> home) : Home_(std::move(home)) {
+    InitControls(Home_->settings(), Home_->system());
+    Window_ = Home_->makeWindow({u"Form", ClientSize, false}, Home_->system());
+    Window_->setClipboard(u"");
+}
+
+PlacedControl& TextForm::place(std::u16string_view name, std::int32_t heightTwips) {
+    const Rect bounds{120, NextTop_, FieldWidth, heightTwips};
+    NextTop_ += heightTwips + Gap;
+    return placeAt({.name = std::u16string(name), .bounds = bounds, .tabIndex = NextTab_++});
+}
+
+PlacedControl& TextForm::placeAt(const Placement& placement) {
+    PlacedControl& placed = Window_->place(KelTextModel, placement, *this);
+    placed.control().InitProperties();
+    placed.setBounds(placement.bounds);
+    textOf(placed).put_Enabled(true);
+    Log_.clear();
+    return placed;
+}
+
+void TextForm::controlEvent(PlacedControl& control, const EventRow& event, std::span<Variant> /*arguments*/) {
+    Log_ += toUtf8(control.name()) + "." + toUtf8(event.name) + "(" + toUtf8(textOf(control).get_TextRaw()) + ") ";
+    if (onEvent) onEvent(control, event);
+}
+
+void TextForm::propertyReported(PlacedControl& control, std::u16string_view bagName) {
+    Log_ += toUtf8(control.name()) + ":" + toUtf8(bagName) + " ";
+}
+
+KelText& textOf(PlacedControl& control) { return static_cast<KelText&>(control.control()); }
+
+TextBox& boxOf(PlacedControl& control) { return *control.control().widgets().textBox; }
+
+QWidget& widgetOf(TextBox& box) { return dynamic_cast<QWidget&>(box); }
+
+std::string drawn(TextBox& box) {
+    std::u16string text = box.text();
+    const auto start = static_cast<std::size_t>(box.selStart());
+    const auto length = static_cast<std::size_t>(box.selLength());
+    if (length == 0) return toUtf8(text.insert(start, u"|"));
+    return toUtf8(text.insert(start + length, u"]").insert(start, u"["));
+}
+
+void put(TextBox& box, std::string_view drawing) {
+    std::u16string text = *fromUtf8(drawing);
+    const std::size_t start = text.find_first_of(u"|[");
+    const std::size_t end = text.find(u']');
+    const std::size_t length = end == std::u16string::npos ? 0 : end - start - 1;
+    std::erase_if(text, [](char16_t unit) { return unit == u'|' || unit == u'[' || unit == u']'; });
+    box.setText(text);
+    box.setSelStart(static_cast<std::int32_t>(start));
+    box.setSelLength(static_cast<std::int32_t>(length));
+}
+
+void typeInto(FormWindow& window, std::u32string_view characters) {
+    for (const char32_t character : characters) window.press(strokeFor(character));
+}
+
+}  // namespace kel::test

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <QWidget>
+#include <string>
+#include <string_view>
+
+#include "controls/text/KelText.h"
+#include "forms/Home.h"
+#include "host/Widgets.h"
+
+namespace kel::test {
+
+/// A form of text fields, one below the other, on the home given. What they tell is written down.
+class TextForm final : private ControlObserver {
+public:
+    explicit TextForm(std::unique_ptr<Home> home);
+
+    PlacedControl& place(std::u16string_view name, std::int32_t heightTwips = 300);
+    PlacedControl& placeAt(const Placement& placement);
+    void show() { Window_->show(); }
+
+    FormWindow& window() { return *Window_; }
+    Home& home() { return *Home_; }
+
+    /// "a.Change(text) b.Click() " since the last time.
+    std::string takeLog() { return std::exchange(Log_, {}); }
+    /// Runs in each event, behind the writing down.
+    std::function<void(PlacedControl&, const EventRow&)> onEvent;
+
+private:
+    void controlEvent(PlacedControl& control, const EventRow& event, std::span<Variant> arguments) override;
+    void propertyReported(PlacedControl& control, std::u16string_view bagName) override;
+
+    std::unique_ptr<Home> Home_;
+    std::unique_ptr<FormWindow> Window_;
+    std::string Log_;
+    std::int32_t NextTop_ = 0;
+    std::int32_t NextTab_ = 0;
+};
+
+KelText& textOf(PlacedControl& control);
+TextBox& boxOf(PlacedControl& control);
+
+/// The Qt widget behind a box.
+QWidget& widgetOf(TextBox& box);
+
+/// The text with its caret or selection: "12.|34", "1[2.3]4".
+std::string drawn(TextBox& box);
+/// Puts text and selection as `drawn` shows them.
+void put(TextBox& box, std::string_view drawing);
+
+void typeInto(FormWindow& window, std::u32string_view characters);
+
+}  // namespace kel::test

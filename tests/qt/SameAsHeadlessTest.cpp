@@ -1,0 +1,138 @@
+#include <gtest/gtest.h>
+#include <random>
+
+#include "platform/headless/HeadlessHome.h"
+#include "platform/qt/QtHome.h"
+#include "tests/qt/QtForm.h"
+#include "values/Text.h"
+
+/// Two forms, one on the screen and one in memory, worked by the same hands: at each step they must tell the
+/// same. Whatever one of them does differently shows here first.
+namespace kel::test {
+namespace {
+
+constexpr std::int32_t Fields = 4;
+
+class Worked {
+public:
+    explicit Worked(std::unique_ptr<Home> home) : Form_(std::move(home)) {
+        for (const char16_t* const name : {u"a", u"b", u"c", u"m"}) Controls_.push_back(&Form_.place(name, 600));
+        text(1).put_MaxLength(6);
+        text(2).put_SelectOnFocus(true);
+        text(3).put_MultiLine(true);
+        Form_.show();
+    }
+
+    FormWindow& window() { return Form_.window(); }
+    PlacedControl& control(std::size_t index) { return *Controls_[index]; }
+    KelText& text(std::size_t index) { return textOf(*Controls_[index]); }
+
+    std::string state() {
+        const PlacedControl* const focused = window().focused();
+        std::string state = Form_.takeLog() + "\nfocus " + (focused == nullptr ? "-" : toUtf8(focused->name()));
+        for (PlacedControl* const placed : Controls_)
+            state += "\n" + drawn(boxOf(*placed)) + " " + std::to_string(boxOf(*placed).backColor());
+        return state;
+    }
+
+private:
+    TextForm Form_;
+    std::vector<PlacedControl*> Controls_;
+};
+
+using Step = std::function<void(Worked&)>;
+
+constexpr std::u16string_view Texts[] = {
+    u"",        u"abc",       u"red, green.",     u"x\r\ny",   u"\U0001F600a\U0001F600",
+    u"a\rb\nc", u"e\u0301 x", u"1\r\n\r\n3\r\n4", u"(a.b)  c",
+};
+
+class Dice {
+public:
+    explicit Dice(unsigned seed) : Random_(seed) {}
+    std::size_t below(std::size_t count) { return Random_() % count; }
+    template <class T, std::size_t Count>
+    const T& oneOf(const T (&choices)[Count]) {
+        return choices[below(Count)];
+    }
+
+private:
+    std::mt19937 Random_;
+};
+
+Step typing(Dice& dice) {
+    const char32_t character = dice.oneOf({U'a', U'b', U'X', U' ', U'.', U'(', U'\u00E9', U'\u0301', U'\U0001F600'});
+    return [character](Worked& form) { form.window().press(strokeFor(character)); };
+}
+
+Step key(Dice& dice) {
+    const std::int16_t code = dice.oneOf({keys::Backspace, keys::Delete, keys::Left, keys::Right, keys::Home, keys::End,
+                                          keys::Enter, keys::Insert, keys::Escape, keys::Tab});
+    const bool plain = code == keys::Enter || dice.below(2) == 0;
+    // Ctrl and Tab mean nothing here.
+    const std::size_t modifiers = plain ? 0 : dice.below(code == keys::Tab ? 2 : 4);
+    return [=](Worked& form) { form.window().press({code, 0, static_cast<Modifiers>(modifiers)}); };
+}
+
+Step command(Dice& dice) {
+    const auto letter = static_cast<std::int16_t>(dice.oneOf({'A', 'C', 'V', 'X', 'Y', 'Z', 'Z'}));
+    const Modifiers modifiers = dice.below(8) == 0 ? ControlKey | ShiftKey : ControlKey;
+    return [=](Worked& form) { form.window().press({letter, 0, modifiers}); };
+}
+
+Step hand(Dice& dice) {
+    const std::size_t field = dice.below(Fields);
+    const auto position = static_cast<std::int32_t>(dice.below(12));
+    const std::u16string_view text = dice.oneOf(Texts);
+    switch (dice.below(4)) {
+        case 0: return [=](Worked& form) { form.window().rightClick(form.control(field)); };
+        case 1: return [=](Worked& form) { form.window().focus(form.control(field)); };
+        case 2: return [=](Worked& form) { form.window().setClipboard(text); };
+        default: return [=](Worked& form) { form.window().click(form.control(field), position); };
+    }
+}
+
+Step program(Dice& dice) {
+    const std::size_t field = dice.below(Fields);
+    const auto number = static_cast<std::int16_t>(dice.below(10));
+    const std::u16string text(dice.oneOf(Texts));
+    switch (dice.below(9)) {
+        case 0: return [=](Worked& form) { form.text(field).put_Locked(!form.text(field).get_Locked()); };
+        case 1: return [=](Worked& form) { form.text(field).put_Enabled(!form.text(field).get_Enabled()); };
+        case 2: return [=](Worked& form) { form.text(field).put_MaxLength(number); };
+        case 3: return [=](Worked& form) { form.text(field).put_MultiLine(!form.text(field).get_MultiLine()); };
+        case 4: return [=](Worked& form) { form.text(field).put_PasswordChar(number < 7 ? u"" : u"*"); };
+        case 5: return [=](Worked& form) { boxOf(form.control(field)).setSelStart(number); };
+        case 6: return [=](Worked& form) { boxOf(form.control(field)).setSelLength(number - 2); };
+        case 7: return [=](Worked& form) { boxOf(form.control(field)).setSelText(text); };
+        default: return [=](Worked& form) { form.text(field).put_Text(text); };
+    }
+}
+
+Step anyStep(Dice& dice) {
+    const std::size_t kind = dice.below(20);
+    if (kind < 7) return typing(dice);
+    if (kind < 12) return key(dice);
+    if (kind < 15) return command(dice);
+    return kind < 18 ? hand(dice) : program(dice);
+}
+
+class SameAsHeadless : public testing::TestWithParam<unsigned> {};
+
+TEST_P(SameAsHeadless, WhateverIsDone) {
+    Dice dice(GetParam());
+    Worked inMemory(headless::makeHome({}));
+    Worked onScreen(qt::makeHome({}));
+    for (int step = 0; step < 200; ++step) {
+        const Step action = anyStep(dice);
+        action(inMemory);
+        action(onScreen);
+        const std::string wanted = inMemory.state();
+        ASSERT_EQ(onScreen.state(), wanted) << "step " << step;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, SameAsHeadless, testing::Range(1U, 9U));
+
+}  // namespace
+}  // namespace kel::test

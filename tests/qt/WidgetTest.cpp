@@ -1,0 +1,194 @@
+#include <gtest/gtest.h>
+#include <KelTextWidget.h>
+#include <QAccessible>
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QMetaProperty>
+#include <QPointer>
+#include <QSignalSpy>
+
+#include "controls/text/KelText.h"
+#include "library/Dispatch.h"
+#include "platform/qt/QtHome.h"
+#include "tests/qt/QtForm.h"
+
+/// A field as a program on Qt, a layout or a designer sees it.
+namespace kel::test {
+namespace {
+
+QWidget& boxOf(KelTextWidget& field) { return widgetOf(*field.control().widgets().textBox); }
+
+QString spoken(QWidget& widget, QAccessible::Text part) {
+    return QAccessible::queryAccessibleInterface(&widget)->text(part);
+}
+
+TEST(Properties, AreThoseOfTheTypeModel) {
+    const QMetaObject& meta = KelTextWidget::staticMetaObject;
+    std::size_t properties = 0;
+    for (const MemberRow& member : KelTextModel.members) {
+        if (member.isMethod) continue;
+        ++properties;
+        QString name = QString::fromStdU16String(std::u16string(member.name));
+        name[0] = name[0].toLower();
+        const int index = meta.indexOfProperty(name.toLatin1());
+        ASSERT_GE(index, meta.propertyOffset()) << name.toStdString();
+        const QMetaProperty property = meta.property(index);
+        const bool isPersisted = std::any_of(KelTextModel.saved.begin(), KelTextModel.saved.end(),
+                                             [&member](const PersistedRow& row) { return row.name == member.name; });
+        EXPECT_EQ(property.isWritable(), member.put != nullptr) << name.toStdString();
+        EXPECT_EQ(property.isDesignable(), member.put != nullptr && !member.hidden) << name.toStdString();
+        EXPECT_EQ(property.isStored(), isPersisted) << name.toStdString();
+    }
+    EXPECT_EQ(static_cast<std::size_t>(meta.propertyCount() - meta.propertyOffset()), properties);
+    EXPECT_STREQ(meta.userProperty().name(), "text");
+    EXPECT_STREQ(meta.userProperty().notifySignal().name(), "change");
+}
+
+TEST(Properties, WriteAndReadTheControl) {
+    KelTextWidget field;
+    const std::pair<const char*, QVariant> values[] = {
+        {"caption", QStringLiteral("&Caption")},
+        {"captionWidth", 1500},
+        {"enabled", false},
+        {"insertMode", false},
+        {"locked", true},
+        {"mandatory", false},
+        {"maxLength", 12},
+        {"multiLine", true},
+        {"passwordChar", QStringLiteral("*")},
+        {"selectOnFocus", true},
+        {"text", QStringLiteral("some text")},
+    };
+    for (const auto& [name, value] : values) {
+        EXPECT_NE(field.property(name), value) << name;
+        EXPECT_TRUE(field.setProperty(name, value));
+        EXPECT_EQ(field.property(name), value) << name;
+    }
+    const auto& control = static_cast<KelText&>(field.control());
+    EXPECT_EQ(control.get_Caption(), u"&Caption");
+    EXPECT_EQ(control.get_CaptionWidth(), 1500);
+
+    field.setMaxLength(70000);
+    EXPECT_EQ(field.maxLength(), 32767) << "the nearest that fits";
+    field.setCaptionWidth(-5);
+    EXPECT_EQ(field.captionWidth(), 1500) << "ignored";
+}
+
+TEST(Properties, SignalsFollowTheControl) {
+    KelTextWidget field;
+    const QSignalSpy changes(&field, &KelTextWidget::change);
+    field.setText(QStringLiteral("a"));
+    field.setText(QStringLiteral("a"));
+    EXPECT_EQ(changes.count(), 1);
+    EXPECT_FALSE(field.changed());
+    EXPECT_TRUE(field.changedSaved());
+}
+
+TEST(Widget, IsEnabledFromEitherSide) {
+    QWidget parent;
+    auto* const field = new KelTextWidget(&parent);
+    QWidget* const plain = field;
+    const Color locked = qt::defaultHome().settings().FieldBackLocked;
+
+    plain->setEnabled(false);
+    EXPECT_FALSE(field->enabled());
+    EXPECT_EQ(field->control().widgets().field->backColor(), locked);
+    field->setEnabled(true);
+    EXPECT_TRUE(plain->isEnabled());
+    EXPECT_TRUE(boxOf(*field).isEnabled());
+
+    parent.setEnabled(false);
+    EXPECT_TRUE(field->enabled()) << "the parent's state is not the control's";
+    plain->setEnabled(false);
+    parent.setEnabled(true);
+    parent.show();
+    EXPECT_FALSE(field->enabled());
+    EXPECT_EQ(field->control().widgets().field->backColor(), locked) << "told late, but told";
+}
+
+TEST(Widget, SpeaksItsCaptionAndTooltip) {
+    KelTextWidget field;
+    field.setCaption(QStringLiteral("&Name && more"));
+    EXPECT_EQ(spoken(field, QAccessible::Name), QStringLiteral("Name & more"));
+    EXPECT_EQ(spoken(boxOf(field), QAccessible::Name), QStringLiteral("Name & more"));
+    field.setMultiLine(true);
+    EXPECT_EQ(spoken(boxOf(field), QAccessible::Name), QStringLiteral("Name & more")) << "the other box";
+    field.setCaption(QStringLiteral("Town"));
+    EXPECT_EQ(spoken(boxOf(field), QAccessible::Name), QStringLiteral("Town"));
+    boxOf(field).setAccessibleName(QStringLiteral("Home town"));
+    field.setCaption(QStringLiteral("City"));
+    EXPECT_EQ(spoken(boxOf(field), QAccessible::Name), QStringLiteral("Home town")) << "the program's own stays";
+
+    field.setToolTip(QStringLiteral("Where you live"));
+    field.show();
+    EXPECT_EQ(boxOf(field).toolTip(), QStringLiteral("Where you live"));
+    EXPECT_EQ(spoken(boxOf(field), QAccessible::Description), QStringLiteral("Where you live"));
+    field.setToolTip(QStringLiteral("Elsewhere"));
+    EXPECT_EQ(boxOf(field).toolTip(), QStringLiteral("Elsewhere"));
+    field.tooltipSet(QStringLiteral("By the control"));
+    EXPECT_EQ(field.toolTip(), QStringLiteral("By the control"));
+}
+
+TEST(Widget, LivesInALayout) {
+    QWidget window;
+    QHBoxLayout layout(&window);
+    auto* const field = new KelTextWidget;
+    layout.addWidget(field);
+    window.resize(400, 200);
+    window.show();
+    EXPECT_EQ(field->height(), 20);
+    EXPECT_EQ(field->sizePolicy().verticalPolicy(), QSizePolicy::Fixed);
+    EXPECT_EQ(boxOf(*field).geometry(), QRect(80, 0, field->width() - 80, 20));
+
+    const int before = field->sizeHint().width();
+    field->setCaptionWidth(2400);
+    EXPECT_EQ(field->sizeHint().width(), before + 80);
+    EXPECT_EQ(boxOf(*field).x(), 160);
+
+    field->setMultiLine(true);
+    QCoreApplication::processEvents();
+    EXPECT_GT(field->height(), 100) << "several lines take the height there is";
+    EXPECT_EQ(boxOf(*field).height(), field->height());
+}
+
+TEST(Widget, TakesItsOwnHeight) {
+    QWidget window;
+    auto* const field = new KelTextWidget(&window);
+    field->setGeometry(0, 0, 200, 10);
+    window.show();
+    EXPECT_EQ(field->height(), 20);
+    field->resize(200, 55);
+    EXPECT_EQ(boxOf(*field).height(), 55);
+    field->resize(40, 20);
+    EXPECT_EQ(field->captionWidth(), 600) << "no wider than the control";
+}
+
+TEST(Widget, MayGoInASlotOfItsOwn) {
+    QPointer<KelTextWidget> field = new KelTextWidget;
+    field->show();
+    field->activateWindow();
+    QCoreApplication::processEvents();
+    field->setFocus();
+    QObject::connect(field, &KelTextWidget::change, field, [&field] { field->deleteLater(); });
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, QStringLiteral("x"));
+    QApplication::sendEvent(&boxOf(*field), &key);
+    EXPECT_EQ(field->text(), QStringLiteral("x"));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(field.isNull());
+}
+
+TEST(Widget, ShowsItsPasswordCharacter) {
+    KelTextWidget field;
+    auto& edit = dynamic_cast<QLineEdit&>(boxOf(field));
+    field.setText(QStringLiteral("abc"));
+    field.setPasswordChar(QStringLiteral("#!"));
+    EXPECT_EQ(edit.displayText(), QStringLiteral("###"));
+    field.setPasswordChar(QStringLiteral("x"));
+    EXPECT_EQ(edit.displayText(), QStringLiteral("xxx"));
+    field.setPasswordChar({});
+    EXPECT_EQ(edit.displayText(), QStringLiteral("abc"));
+}
+
+}  // namespace
+}  // namespace kel::test

@@ -1,0 +1,10 @@
+#include <gtest/gtest.h>
+#include <QApplication>
+
+int main(int count, char** arguments) {
+    testing::InitGoogleTest(&count, arguments);
+    // Only naming the tests needs no screen.
+    if (GTEST_FLAG_GET(list_tests)) return RUN_ALL_TESTS();
+    const QApplication application(count, arguments);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,228 @@
+#include "tools/qtwidgets/WidgetWriter.h"
+
+#include <algorithm>
+#include <set>
+#include <sstream>
+
+#include "tools/qtwidgets/QtType.h"
+#include "values/Text.h"
+
+namespace kel::qtwidgets {
+
+namespace {
+
+constexpr std::string_view Notice = "// Made from the type model by kel-qtwidgets.\n";
+constexpr std::u16string_view ChangeEvent = u"Change";
+
+bool isOptional(const ParameterRow& parameter) { return parameter.optional; }
+
+/// Readable without arguments, as a property of Qt's has to be.
+bool isQtProperty(const MemberRow& member) {
+    return !member.isMethod && std::all_of(member.parameters().begin(), member.parameters().end(), &isOptional);
+}
+
+bool isPersisted(const ClassModel& model, const MemberRow& member) {
+    return std::any_of(model.saved.begin(), model.saved.end(),
+                       [&member](const PersistedRow& row) { return row.name == member.name; });
+}
+
+bool hasChangeEvent(const ClassModel& model) {
+    return std::any_of(model.events.begin(), model.events.end(),
+                       [](const EventRow& event) { return event.name == ChangeEvent; });
+}
+
+std::string returnType(const MemberRow& member) {
+    return member.type == TypeTag::None ? "void" : std::string(qtTypeOf(member.type).name);
+}
+
+std::string parameterList(std::span<const ParameterRow> parameters, bool withDefaults) {
+    std::string list;
+    for (const ParameterRow& parameter : parameters) {
+        if (!list.empty()) list += ", ";
+        list += parameterType(parameter) + lowerName(parameter.name);
+        if (withDefaults && parameter.optional) list += " = " + std::string(qtTypeOf(parameter.type).nothing);
+    }
+    return list;
+}
+
+void addHeaders(std::set<std::string_view>& headers, TypeTag type) {
+    if (type != TypeTag::None && !qtTypeOf(type).header.empty()) headers.insert(qtTypeOf(type).header);
+}
+
+std::set<std::string_view> headersOf(const ClassModel& model) {
+    std::set<std::string_view> headers;
+    for (const MemberRow& member : model.members) {
+        addHeaders(headers, member.type);
+        for (const ParameterRow& parameter : member.parameters()) addHeaders(headers, parameter.type);
+    }
+    for (const EventRow& event : model.events)
+        for (const ParameterRow& parameter : event.parameters) addHeaders(headers, parameter.type);
+    return headers;
+}
+
+// ---- Header
+
+void writeProperty(std::ostream& out, const ClassModel& model, const MemberRow& member) {
+    out << "    Q_PROPERTY(" << qtTypeOf(member.type).name << ' ' << lowerName(member.name) << " READ "
+        << lowerName(member.name);
+    if (member.put != nullptr) out << " WRITE " << setterName(member.name);
+    const bool isDefault = member.id == DefaultMemberId;
+    if (isDefault && hasChangeEvent(model)) out << " NOTIFY change";
+    if (member.hidden || member.put == nullptr) out << " DESIGNABLE false";
+    if (!isPersisted(model, member)) out << " STORED false";
+    if (isDefault) out << " USER true";
+    out << ")\n";
+}
+
+void writeGetter(std::ostream& out, const MemberRow& member) {
+    out << "    /// " << toUtf8(member.help) << ".\n    ";
+    if (!member.parameters().empty()) out << "Q_INVOKABLE ";
+    out << returnType(member) << ' ' << lowerName(member.name) << '(' << parameterList(member.parameters(), true)
+        << ") const;\n";
+}
+
+void writeSlots(std::ostream& out, const ClassModel& model) {
+    for (const MemberRow& member : model.members)
+        if (member.put != nullptr)
+            out << "    void " << setterName(member.name) << '(' << valueParameterType(member.type)
+                << lowerName(member.name) << ");\n";
+    for (const MemberRow& member : model.members)
+        if (member.isMethod)
+            out << "\n    /// " << toUtf8(member.help) << ".\n    " << returnType(member) << ' '
+                << lowerName(member.name) << '(' << parameterList(member.parameters(), true) << ");\n";
+}
+
+void writeSignals(std::ostream& out, const ClassModel& model) {
+    for (const EventRow& event : model.events)
+        out << "    /// " << toUtf8(event.help) << ".\n    void " << lowerName(event.name) << '('
+            << parameterList(event.parameters, false) << ");\n";
+}
+
+// ---- Source
+
+/// The arguments as variants, around a call; those by reference come back.
+class ArgumentCode {
+public:
+    explicit ArgumentCode(std::span<const ParameterRow> parameters) : Parameters_(parameters) {}
+
+    std::string before() const {
+        if (Parameters_.empty()) return {};
+        std::string code = "    std::array<kel::Variant, " + std::to_string(Parameters_.size()) + "> arguments{";
+        for (std::size_t i = 0; i < Parameters_.size(); ++i)
+            code += (i == 0 ? "" : ", ") + ("kel::qt::" + std::string(qtTypeOf(Parameters_[i].type).toVariant)) + '(' +
+                    lowerName(Parameters_[i].name) + ')';
+        return code + "};\n";
+    }
+    std::string pass() const { return Parameters_.empty() ? "" : ", arguments"; }
+    std::string after() const {
+        std::string code;
+        for (std::size_t i = 0; i < Parameters_.size(); ++i)
+            if (Parameters_[i].byReference)
+                code += "    " + lowerName(Parameters_[i].name) +
+                        " = kel::qt::" + std::string(qtTypeOf(Parameters_[i].type).toQt) + "(arguments[" +
+                        std::to_string(i) + "]);\n";
+        return code;
+    }
+
+private:
+    std::span<const ParameterRow> Parameters_;
+};
+
+/// `reader` is the function of the base class that does it.
+void writeCall(std::ostream& out, const ClassModel& model, const MemberRow& member, std::string_view reader) {
+    const auto index = static_cast<std::size_t>(&member - model.members.data());
+    const ArgumentCode arguments(member.parameters());
+    const bool returns = member.type != TypeTag::None;
+    out << '\n'
+        << returnType(member) << ' ' << widgetName(model) << "::" << lowerName(member.name) << '('
+        << parameterList(member.parameters(), false) << ')' << (member.isMethod ? "" : " const") << " {\n"
+        << arguments.before() << "    " << (returns ? "const kel::Variant result = " : "") << reader << '(' << index
+        << arguments.pass() << ");\n"
+        << arguments.after();
+    if (returns) out << "    return kel::qt::" << qtTypeOf(member.type).toQt << "(result);\n";
+    out << "}\n";
+}
+
+void writeSetter(std::ostream& out, const ClassModel& model, const MemberRow& member) {
+    const auto index = static_cast<std::size_t>(&member - model.members.data());
+    const std::string value = lowerName(member.name);
+    out << "\nvoid " << widgetName(model) << "::" << setterName(member.name) << '(' << valueParameterType(member.type)
+        << value << ") {\n    writeMember(" << index << ", kel::qt::" << qtTypeOf(member.type).toVariant << '(' << value
+        << "));\n}\n";
+}
+
+void writeEventCase(std::ostream& out, const EventRow& event) {
+    out << "        case " << event.id << ": {\n";
+    std::string passed;
+    for (std::size_t i = 0; i < event.parameters.size(); ++i) {
+        const ParameterRow& parameter = event.parameters[i];
+        const std::string name = lowerName(parameter.name);
+        out << "            auto " << name << " = kel::qt::" << qtTypeOf(parameter.type).toQt << "(arguments[" << i
+            << "]);\n";
+        passed += (i == 0 ? "" : ", ") + name;
+    }
+    out << "            Q_EMIT " << lowerName(event.name) << '(' << passed << ");\n";
+    for (std::size_t i = 0; i < event.parameters.size(); ++i)
+        if (event.parameters[i].byReference)
+            out << "            arguments[" << i << "] = kel::qt::" << qtTypeOf(event.parameters[i].type).toVariant
+                << '(' << lowerName(event.parameters[i].name) << ");\n";
+    out << "            break;\n        }\n";
+}
+
+void writeEvents(std::ostream& out, const ClassModel& model) {
+    if (model.events.empty()) return;
+    out << "\nvoid " << widgetName(model)
+        << "::controlEvent(const kel::EventRow& event, [[maybe_unused]] std::span<kel::Variant> arguments) {\n"
+           "    switch (event.id) {\n";
+    for (const EventRow& event : model.events) writeEventCase(out, event);
+    out << "        default: break;\n    }\n}\n";
+}
+
+}  // namespace
+
+std::string widgetName(const ClassModel& model) { return toUtf8(model.name) + "Widget"; }
+
+std::string widgetHeader(const ClassModel& model) {
+    std::ostringstream out;
+    out << Notice << "#pragma once\n\n";
+    for (const std::string_view header : headersOf(model)) out << "#include <" << header << ">\n";
+    out << "#include \"platform/qt/KelControlWidget.h\"\n\n/// " << toUtf8(model.help) << ".\nclass "
+        << widgetName(model) << " : public kel::qt::KelControlWidget {\n    Q_OBJECT\n";
+    for (const MemberRow& member : model.members)
+        if (isQtProperty(member)) writeProperty(out, model, member);
+    out << "\npublic:\n    explicit " << widgetName(model) << "(QWidget* parent = nullptr);\n\n";
+    for (const MemberRow& member : model.members)
+        if (!member.isMethod) writeGetter(out, member);
+    out << "\npublic Q_SLOTS:\n";
+    writeSlots(out, model);
+    if (!model.events.empty()) {
+        out << "\nQ_SIGNALS:\n";
+        writeSignals(out, model);
+        out << "\nprotected:\n"
+               "    void controlEvent(const kel::EventRow& event, std::span<kel::Variant> arguments) override;\n";
+    }
+    out << "};\n";
+    return out.str();
+}
+
+std::string widgetSource(const ClassModel& model) {
+    std::ostringstream out;
+    const std::string name = widgetName(model);
+    out << Notice << "#include \"" << name << ".h\"\n\n#include <array>\n\n"
+        << "#include \"controls/Classes.h\"\n#include \"platform/qt/VariantBridge.h\"\n\n"
+        << "namespace {\n\nconst kel::ClassModel& classModel() {\n"
+        << "    static const kel::ClassModel& model = *kel::libraryClasses().find(u\"" << toUtf8(model.name)
+        << "\");\n    return model;\n}\n\n}  // namespace\n\n"
+        << name << "::" << name << "(QWidget* parent) : KelControlWidget(classModel(), parent) {}\n";
+    for (const MemberRow& member : model.members) {
+        if (member.isMethod)
+            writeCall(out, model, member, "callMember");
+        else
+            writeCall(out, model, member, "readMember");
+        if (member.put != nullptr) writeSetter(out, model, member);
+    }
+    writeEvents(out, model);
+    return out.str();
+}
+
+}  // namespace kel::qtwidgets
