@@ -2,5 +2,5 @@
 # shellcheck shell=bash disable=SC2034
 
 build_packages=(g++ cmake ninja-build qt6-base-dev fonts-dejavu-core)
-test_packages=(libgtest-dev clang-14 clang-format-14 xvfb xauth xdotool)
-bench_packages=(libbenchmark-dev)
+test_packages=(libgtest-dev clang-14 clang-format-14 xvfb xauth)
+bench_packages=(libbenchmark-dev libicu-dev)

@@ -89,7 +89,8 @@ void CaptionLabel::paint(QPainter& painter, int baseline) const {
                            : option.palette.color(QPalette::Disabled, QPalette::WindowText));
 
     const bool underlines = style.styleHint(QStyle::SH_UnderlineShortcut, &option, &widget) != 0;
-    int flags = QStyle::visualAlignment(widget.layoutDirection(), Qt::AlignLeft).toInt() | Qt::AlignTop;
+    const Qt::Alignment alignment = QStyle::visualAlignment(widget.layoutDirection(), Qt::AlignLeft) | Qt::AlignTop;
+    int flags = static_cast<int>(alignment.toInt());
     flags |= underlines ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
     flags |= severalLines ? Qt::TextWordWrap : Qt::TextSingleLine;
     area.setTop(baseline - painter.fontMetrics().ascent());
