@@ -145,7 +145,7 @@ public:
 
     /// Controls of the window see `system`, which may be the platform's own or stand before it. It outlives
     /// the window.
-    virtual std::unique_ptr<FormWindow> makeWindow(const WindowSpec& spec, System& system) = 0;
+    virtual std::unique_ptr<FormWindow> makeWindow(const WindowSpec& window, System& system) = 0;
 };
 
 }  // namespace kel

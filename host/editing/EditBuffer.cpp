@@ -58,6 +58,12 @@ std::u16string_view EditBuffer::selectedText() const {
     return std::u16string_view(Text_).substr(Selection_.start(), Selection_.length());
 }
 
+TextLine EditBuffer::lineAt(std::size_t position) const {
+    const std::size_t end = lineEnd(Text_, position, MultiLine_);
+    const bool isLast = end == Text_.size();
+    return {lineStart(Text_, position, MultiLine_), end, isLast ? end : end + LineBreak.size(), isLast};
+}
+
 // ---- By code
 
 bool EditBuffer::put(std::u16string_view text) {
@@ -85,57 +91,51 @@ std::size_t EditBuffer::wordRight() const {
     return Masked_ ? Text_.size() : nextWord(Text_, Selection_.caret, MultiLine_);
 }
 
-std::size_t EditBuffer::destination(EditAction motion) const {
+std::size_t EditBuffer::destination(EditAction motion, const TextLines& view) const {
     switch (motion) {
         case EditAction::Left: return previousCharacter(Text_, Selection_.caret, MultiLine_);
         case EditAction::Right: return nextCharacter(Text_, Selection_.caret, MultiLine_);
         case EditAction::WordLeft: return wordLeft();
         case EditAction::WordRight: return wordRight();
-        case EditAction::LineStart: return lineStart(Text_, Selection_.caret, MultiLine_);
-        case EditAction::LineEnd: return lineEnd(Text_, Selection_.caret, MultiLine_);
+        case EditAction::LineStart: return MultiLine_ ? view.lineAt(Selection_.caret).start : 0;
+        case EditAction::LineEnd: return MultiLine_ ? view.lineAt(Selection_.caret).end : Text_.size();
         case EditAction::TextStart: return 0;
         case EditAction::TextEnd: return Text_.size();
         default: return Selection_.caret;
     }
 }
 
-void EditBuffer::move(EditAction motion, bool extend) {
+void EditBuffer::move(EditAction motion, bool extend, const TextLines& view) {
     const bool collapses = !extend && !Selection_.empty();
     if (collapses && motion == EditAction::Left)
         moveCaret(Selection_.start(), false);
     else if (collapses && motion == EditAction::Right)
         moveCaret(Selection_.end(), false);
     else
-        moveCaret(destination(motion), extend);
+        moveCaret(destination(motion, view), extend);
 }
 
-std::size_t EditBuffer::columnOf(std::size_t position) const {
+std::size_t EditBuffer::columnIn(const TextLine& line, std::size_t position) const {
     std::size_t column = 0;
-    for (std::size_t at = lineStart(Text_, position, true); at < position; at = nextCharacter(Text_, at, true))
-        ++column;
+    for (std::size_t at = line.start; at < position; at = nextCharacter(Text_, at, true)) ++column;
     return column;
 }
 
-std::size_t EditBuffer::atColumn(std::size_t line, std::size_t column) const {
-    const std::size_t end = lineEnd(Text_, line, true);
-    std::size_t at = line;
-    for (; column > 0 && at < end; --column) at = nextCharacter(Text_, at, true);
+std::size_t EditBuffer::atColumn(const TextLine& line, std::size_t column) const {
+    std::size_t at = line.start;
+    for (; column > 0 && at < line.end; --column) at = nextCharacter(Text_, at, true);
     return at;
 }
 
-void EditBuffer::moveLines(std::ptrdiff_t lines, bool extend) {
+void EditBuffer::moveLines(std::ptrdiff_t lines, bool extend, const TextLines& view) {
     if (!MultiLine_) return;
     beginStep();
-    const std::size_t from = lineStart(Text_, Selection_.caret, true);
-    std::size_t line = from;
-    for (; lines < 0 && line > 0; ++lines) line = lineStart(Text_, line - LineBreak.size(), true);
-    for (; lines > 0; --lines) {
-        const std::size_t end = lineEnd(Text_, line, true);
-        if (end == Text_.size()) break;
-        line = end + LineBreak.size();
-    }
-    if (line == from) return;
-    const std::size_t column = Column_ == NoColumn ? columnOf(Selection_.caret) : Column_;
+    const TextLine from = view.lineAt(Selection_.caret);
+    TextLine line = from;
+    for (; lines < 0 && line.start > 0; ++lines) line = view.lineAt(previousCharacter(Text_, line.start, true));
+    for (; lines > 0 && !line.isLast; --lines) line = view.lineAt(line.next);
+    if (line.start == from.start) return;
+    const std::size_t column = Column_ == NoColumn ? columnIn(from, Selection_.caret) : Column_;
     moveCaret(atColumn(line, column), extend);
     Column_ = column;
 }

@@ -10,10 +10,27 @@
 
 namespace kel {
 
+/// A line of a text, as its reader sees it.
+struct TextLine {
+    std::size_t start = 0;
+    std::size_t end = 0;   ///< where the caret goes at its end
+    std::size_t next = 0;  ///< start of the line below
+    bool isLast = false;
+};
+
+/// Where lines begin and end on the screen: a view may break them where the text does not.
+class TextLines {
+public:
+    virtual TextLine lineAt(std::size_t position) const = 0;
+
+protected:
+    ~TextLines() = default;
+};
+
 /// The text of an edit box with its selection, its maximum length and its history. It knows of no widget and
 /// tells nobody: every edit returns whether the text is another one than before. Neither the caret nor the
 /// other end of the selection ever stands inside a surrogate pair or a line break.
-class EditBuffer {
+class EditBuffer final : public TextLines {
 public:
     explicit EditBuffer(bool multiLine) : MultiLine_(multiLine) {}
 
@@ -21,6 +38,8 @@ public:
     const std::u16string& text() const { return Text_; }
     const Selection& selection() const { return Selection_; }
     std::u16string_view selectedText() const;
+    /// From line break to line break.
+    TextLine lineAt(std::size_t position) const override;
 
     // ---- By code
 
@@ -46,9 +65,9 @@ public:
     void beginStep() { History_.endRun(); }
 
     /// A move that stays in its line or goes by the order of the text; not one by lines.
-    void move(EditAction motion, bool extend);
+    void move(EditAction motion, bool extend, const TextLines& view);
     /// Down, up when negative; as far as there are lines. The column is kept over lines that are shorter.
-    void moveLines(std::ptrdiff_t lines, bool extend);
+    void moveLines(std::ptrdiff_t lines, bool extend, const TextLines& view);
     void selectAll();
     /// With both ends where a caret can stand.
     void take(const Selection& selection) { select({snapped(selection.anchor), snapped(selection.caret)}); }
@@ -69,11 +88,11 @@ public:
     bool redo();
 
 private:
-    std::size_t destination(EditAction motion) const;
+    std::size_t destination(EditAction motion, const TextLines& view) const;
     std::size_t wordLeft() const;
     std::size_t wordRight() const;
-    std::size_t columnOf(std::size_t position) const;
-    std::size_t atColumn(std::size_t line, std::size_t column) const;
+    std::size_t columnIn(const TextLine& line, std::size_t position) const;
+    std::size_t atColumn(const TextLine& line, std::size_t column) const;
     std::size_t snapped(std::size_t position) const;
     /// Units that may come in place of the selection.
     std::size_t room() const;

@@ -88,9 +88,14 @@ bool TextBoxEditor::act(EditAction action, char32_t character, bool extend) {
     }
 }
 
+const TextLines& TextBoxEditor::lines() const {
+    const TextLines* const seen = Surroundings_.lines();
+    return seen != nullptr ? *seen : Buffer_;
+}
+
 bool TextBoxEditor::moveCaret(EditAction action, bool extend) {
-    const auto byLines = [&](std::ptrdiff_t lines) {
-        Buffer_.moveLines(lines, extend);
+    const auto byLines = [&](std::ptrdiff_t count) {
+        Buffer_.moveLines(count, extend, lines());
         return Buffer_.multiLine();
     };
     const auto carriedOut = [&] {
@@ -99,7 +104,7 @@ bool TextBoxEditor::moveCaret(EditAction action, bool extend) {
             case EditAction::LineDown: return byLines(1);
             case EditAction::PageUp: return byLines(-Surroundings_.linesOfPage());
             case EditAction::PageDown: return byLines(Surroundings_.linesOfPage());
-            default: Buffer_.move(action, extend); return true;
+            default: Buffer_.move(action, extend, lines()); return true;
         }
     }();
     if (carriedOut) Surroundings_.bufferChanged();

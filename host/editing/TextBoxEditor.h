@@ -25,6 +25,9 @@ public:
     /// At least 1.
     virtual std::ptrdiff_t linesOfPage() const = 0;
 
+    /// Where the widget breaks the lines; nullptr where the text does.
+    virtual const TextLines* lines() const { return nullptr; }
+
 protected:
     ~EditSurroundings() = default;
 };
@@ -81,6 +84,7 @@ public:
 private:
     bool act(EditAction action, char32_t character, bool extend);
     bool moveCaret(EditAction action, bool extend);
+    const TextLines& lines() const;
     bool edit(EditAction action, char32_t character);
     bool cut();
     void copy();

@@ -156,7 +156,8 @@ std::unique_ptr<Label> ControlSite::makeLabel() { return std::make_unique<Captio
 std::unique_ptr<TextBox> ControlSite::makeTextBox(TextBoxListener& listener, bool multiLine) {
     if (!multiLine) return std::make_unique<QtLineBox>(*this, listener, Widget_);
     auto box = std::make_unique<QtPlainBox>(*this, listener, Widget_);
-    if (Widget_.isVisible()) box->show();
+    // Shown as every new box, but not yet in the other one's place: few controls show both.
+    if (Widget_.isVisible()) box->QPlainTextEdit::setVisible(true);
     return box;
 }
 
@@ -177,10 +178,8 @@ void ControlSite::remove(const ChildField& field) {
     if (Active_ == &field) Active_ = nullptr;
 }
 
-void ControlSite::fieldShown(const ChildField& field, bool shown) {
-    if (!shown || &field == Active_) return;
-    for (ChildField* const known : Fields_)
-        if (known == &field) activate(*known);
+void ControlSite::fieldShown(ChildField& field) {
+    if (&field != Active_) activate(field);
 }
 
 /// The field takes the other one's place: what points to the composite finds it, the Tab key as well.

@@ -82,7 +82,7 @@ public:
 
     void add(ChildField& field);
     void remove(const ChildField& field);
-    void fieldShown(const ChildField& field, bool shown);
+    void fieldShown(ChildField& field);
     void setLabel(CaptionLabel* label) { Label_ = label; }
     void captionChanged(const QString& spokenBefore);
     bool owns(const QWidget& widget) const;
@@ -111,7 +111,7 @@ private:
     Surroundings Surroundings_;
     TwipGrid Grid_;
     CaptionLabel* Label_ = nullptr;
-    std::array<ChildField*, 2> Fields_{};
+    std::array<ChildField*, 2> Fields_{};  ///< no control has more
     ChildField* Active_ = nullptr;
     QPoint Origin_;  ///< twips
     Size Size_;

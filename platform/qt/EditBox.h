@@ -1,12 +1,9 @@
 #pragma once
 
 #include <optional>
-#include <QClipboard>
-#include <QString>
-#include <utility>
+#include <QStringView>
 
-#include "host/editing/EditAction.h"
-#include "host/editing/EditHistory.h"
+#include "host/editing/TextBoxEditor.h"
 #include "platform/qt/QtField.h"
 
 class QInputMethodEvent;
@@ -16,30 +13,35 @@ class QPoint;
 
 namespace kel::qt {
 
-/// How an edit box behaves, whichever of Qt's widgets shows it. Every way by which a user can change the text
-/// leads through here: keys, input methods, clipboard, drops, menus. Qt's widget holds and shows text and
-/// selection, no more.
-class EditBox : public QtField<TextBox> {
+/// An edit box, whichever of Qt's widgets shows it. The editor holds text and selection and says what becomes of
+/// them; Qt's widget is made to show both, and what the user or somebody else does to it comes back here.
+class EditBox : public QtField<TextBox>, private EditSurroundings {
 public:
+    std::u16string text() const override { return buffer().text(); }
     void setText(std::u16string_view text) override;
+    bool textEquals(std::u16string_view other) const override { return buffer().text() == other; }
+    std::int32_t textLength() const override { return static_cast<std::int32_t>(buffer().text().size()); }
 
-    std::int32_t selStart() const override { return static_cast<std::int32_t>(selection().start()); }
-    void setSelStart(std::int32_t position) override;
-    std::int32_t selLength() const override { return static_cast<std::int32_t>(selection().length()); }
-    void setSelLength(std::int32_t length) override;
-    std::u16string selText() const override;
-    void setSelText(std::u16string_view text) override;
+    std::int32_t selStart() const override { return static_cast<std::int32_t>(buffer().selection().start()); }
+    void setSelStart(std::int32_t position) override { Editor_.setSelStart(position); }
+    std::int32_t selLength() const override { return static_cast<std::int32_t>(buffer().selection().length()); }
+    void setSelLength(std::int32_t length) override { Editor_.setSelLength(length); }
+    std::u16string selText() const override { return std::u16string(buffer().selectedText()); }
+    void setSelText(std::u16string_view text) override { Editor_.setSelText(text); }
 
-    std::int32_t maxLength() const override { return MaxLength_; }
-    void setMaxLength(std::int32_t units) override { MaxLength_ = units > 0 ? units : 0; }
+    bool locked() const override { return Editor_.locked(); }
+    void setLocked(bool locked) override;
+    std::int32_t maxLength() const override { return Editor_.maxLength(); }
+    void setMaxLength(std::int32_t units) override { Editor_.setMaxLength(units); }
+    char16_t passwordChar() const override { return Editor_.passwordChar(); }
+    void setPasswordChar(char16_t character) override;
 
-    void gotFocus() override { Listener_.Text1_GotFocus(); }
-    void lostFocus() override { Listener_.Text1_LostFocus(); }
+    void gotFocus() override { Editor_.listener().Text1_GotFocus(); }
+    void lostFocus() override { Editor_.listener().Text1_LostFocus(); }
 
     /// Whether a menu should offer it now.
     bool offers(EditAction action) const;
-    /// As a menu does. Returns whether it concerned the box.
-    bool perform(EditAction action);
+    void perform(EditAction action) { Editor_.perform(action); }
 
     /// The next press of a mouse button puts the caret to `position`, wherever in the box it is; -1 withdraws.
     void aim(std::int32_t position) { Aim_ = position; }
@@ -47,34 +49,27 @@ public:
     virtual QWidget& mouseArea() = 0;
 
 protected:
-    EditBox(ControlSite& site, TextBoxListener& listener, QWidget& widget)
-        : QtField(site, widget), Listener_(listener) {}
+    EditBox(ControlSite& site, TextBoxListener& listener, QWidget& widget, bool multiLine)
+        : QtField(site, widget), Editor_(listener, *this, multiLine) {}
 
-    // ---- What Qt's widget does for its box. Positions are the controls'.
+    const EditBuffer& buffer() const { return Editor_.buffer(); }
 
-    virtual Selection selection() const = 0;
-    virtual void select(const Selection& selection) = 0;
-    virtual std::u16string textBetween(std::size_t start, std::size_t end) const = 0;
-    /// The caret comes to stand behind `text`, nothing selected.
-    virtual void replace(std::size_t start, std::size_t end, std::u16string_view text) = 0;
-    /// The caret comes to stand at 0.
-    virtual void replaceAll(std::u16string_view text) = 0;
-    /// Hands it on without what it commits.
+    // ---- What Qt's widget shows. Positions are those of the text.
+
+    virtual std::u16string shownText() = 0;
+    /// A text that came of the one shown: Qt's widget is told the difference only.
+    virtual void showEdited(std::u16string_view text, std::size_t caret) = 0;
+    virtual void showNew(std::u16string_view text) = 0;
+    virtual Selection shownSelection() const = 0;
+    virtual void showSelection(const Selection& selection) = 0;
+    virtual void showLocked(bool locked) = 0;
+    virtual void showPasswordChar(char16_t character) = 0;
+    /// Shows what is being composed; `event` commits nothing.
     virtual void compose(QInputMethodEvent& event) = 0;
+    /// The text at the caret runs from right to left.
+    virtual bool isMirrored() const = 0;
 
-    virtual bool multiLine() const = 0;
-    /// `position`, or the place just in front of it where no caret can stand.
-    virtual std::size_t snapped(std::size_t position) const = 0;
-    virtual std::size_t nextCodePoint(std::size_t position) const = 0;
-    virtual std::size_t previousCodePoint(std::size_t position) const = 0;
-    /// Where a move leads that keeps its line or goes by the order of the text.
-    virtual std::size_t destination(EditAction move, std::size_t position) const = 0;
-    /// Up and down, by lines and pages.
-    virtual void moveByLine(EditAction move, bool extend) = 0;
-    /// What of a pasted text may come in, with line breaks as the box writes them.
-    virtual std::u16string pasteable(QStringView text) const = 0;
-
-    // ---- What Qt's widget hands to its box.
+    // ---- What Qt's widget tells
 
     void keyPressed(QKeyEvent& event);
     void shortcutAsked(QKeyEvent& event) const;
@@ -84,55 +79,44 @@ protected:
     void mousePressed(const QMouseEvent& event);
     void mouseReleased(const QMouseEvent& event);
     void menuAsked(const QPoint& globalPosition);
-    /// The text came by a drag or the middle mouse button; `replaced` gives way to it.
-    void dropped(const Selection& replaced, const QString& text);
-    /// The selected text itself was dragged to `place`.
+    /// Text from elsewhere was let go at `place`.
+    void dropped(std::size_t place, QStringView text);
+    /// The selected text itself was.
     void selectionMoved(std::size_t place);
-    /// Qt's widget changed its text, because the box told it to or because somebody else did.
     void textChangedInWidget();
+    void selectionChangedInWidget();
 
-    bool isPassword() const { return !multiLine() && passwordChar() != 0; }
+    std::ptrdiff_t linesOfPage() const override { return 1; }
 
 private:
-    /// While the box itself has Qt's widget change.
-    class EditScope {
+    /// While Qt's widget is made to show something, what it tells is no news.
+    class ShowingScope {
     public:
-        explicit EditScope(bool& editing) : Editing_(editing), Before_(std::exchange(editing, true)) {}
-        ~EditScope() { Editing_ = Before_; }
-        EditScope(const EditScope&) = delete;
-        EditScope& operator=(const EditScope&) = delete;
+        explicit ShowingScope(bool& showing) : Showing_(showing), Before_(std::exchange(showing, true)) {}
+        ~ShowingScope() { Showing_ = Before_; }
+        ShowingScope(const ShowingScope&) = delete;
+        ShowingScope& operator=(const ShowingScope&) = delete;
 
     private:
-        bool& Editing_;
+        bool& Showing_;
         bool Before_;
     };
 
-    void setSelection(const Selection& wanted);
-    std::size_t room() const;
-    void edit(EditKind kind, std::size_t start, std::size_t end, std::u16string_view text);
-    void replaceSelection(EditKind kind, std::u16string_view text);
+    bool takesInput() const override { return QtField::takesInput(); }
+    void bufferChanged() override;
+    std::u16string clipboardText() override;
+    void setClipboardText(std::u16string_view text) override;
 
-    bool act(EditAction action, char32_t character, bool extend);
-    void moveCaret(EditAction action, bool extend);
-    void type(char32_t character);
-    void breakLine();
-    void erase(EditKind kind, std::size_t reach);
-    void copy() const;
-    void cut();
-    void paste(QStringView text);
-    void takeBack(const std::optional<EditHistory::Replacement>& replacement);
-
-    /// Returns whether the key concerned the box.
-    bool strike(const KeyStroke& stroke, QStringView text);
-    bool strikeCharacter(char32_t character, const KeyStroke& stroke);
-    void typeCommitted(QStringView text);
+    /// Returns whether the key meant anything here.
+    bool strike(const KeyStroke& stroke);
+    void stepMirrored(EditAction step, bool extend);
     void showComposition(QInputMethodEvent& event);
 
-    TextBoxListener& Listener_;
-    EditHistory History_;
-    std::int32_t MaxLength_ = 0;
+    TextBoxEditor Editor_;
+    std::optional<QStringView> Incoming_;  ///< pasted next, in place of what the clipboard holds
     std::int32_t Aim_ = -1;
-    bool Editing_ = false;
+    bool Showing_ = false;
+    bool ShowsNew_ = false;
     bool LeftPressed_ = false;
 };
 

@@ -6,6 +6,7 @@
 #include "platform/qt/EditBox.h"
 #include "platform/qt/EditMenu.h"
 #include "platform/qt/KeyMap.h"
+#include "values/TextBoundaries.h"
 
 /// What the user's hands do to an edit box.
 namespace kel::qt {
@@ -19,6 +20,14 @@ MouseButton buttonOf(Qt::MouseButton button) {
 
 bool isPlainTab(const KeyStroke& stroke) { return stroke.code == keys::Tab && (stroke.modifiers & ControlKey) == 0; }
 
+bool isStep(EditAction action) { return action == EditAction::Left || action == EditAction::Right; }
+
+/// A key of a rich layout may give several characters; all but the first.
+QStringView furtherCharacters(const KeyStroke& stroke, QStringView text) {
+    const qsizetype first = stroke.character > 0xFFFF ? 2 : 1;
+    return keyPressCharacter(stroke) >= U' ' && text.size() > first ? text.sliced(first) : QStringView();
+}
+
 }  // namespace
 
 // ---- Keys
@@ -28,37 +37,29 @@ void EditBox::shortcutAsked(QKeyEvent& event) const { event.setAccepted(claimsKe
 void EditBox::keyPressed(QKeyEvent& event) {
     const KeyStroke stroke = strokeOf(event);
     // Tab arrives here only when there is nowhere to go.
-    event.setAccepted(!isPlainTab(stroke) && strike(stroke, event.text()));
+    event.setAccepted(!isPlainTab(stroke) && strike(stroke));
+    Editor_.typeCommitted(viewOf(furtherCharacters(stroke, event.text())));
 }
 
-bool EditBox::strike(const KeyStroke& stroke, QStringView text) {
-    if (stroke.code != 0) {
-        std::int16_t code = stroke.code;
-        Listener_.Text1_KeyDown(code, stroke.modifiers);
-        if (code == 0 || !takesInput()) return true;
+bool EditBox::strike(const KeyStroke& stroke) {
+    const EditAction action = actionFor(stroke);
+    // The editor does not know which way a text runs.
+    if (!isStep(action) || !isMirrored()) return Editor_.strike(stroke);
+    std::int16_t code = stroke.code;
+    Editor_.listener().Text1_KeyDown(code, stroke.modifiers);
+    if (code != 0 && takesInput()) stepMirrored(action, (stroke.modifiers & ShiftKey) != 0);
+    return true;
+}
+
+void EditBox::stepMirrored(EditAction step, bool extend) {
+    const Selection selection = buffer().selection();
+    const bool forward = step == EditAction::Left;
+    std::size_t caret = forward ? selection.end() : selection.start();
+    if (extend || selection.empty()) {
+        const auto next = forward ? &nextCharacter : &previousCharacter;
+        caret = next(buffer().text(), selection.caret, buffer().multiLine());
     }
-    const char32_t character = keyPressCharacter(stroke);
-    if (character == 0) return act(actionFor(stroke), 0, (stroke.modifiers & ShiftKey) != 0);
-    const bool concernsBox = strikeCharacter(character, stroke);
-    // A key of a rich layout may give several characters.
-    const qsizetype units = character > 0xFFFF ? 2 : 1;
-    if (character >= U' ' && text.size() > units) typeCommitted(text.sliced(units));
-    return concernsBox;
-}
-
-bool EditBox::strikeCharacter(char32_t character, const KeyStroke& stroke) {
-    Listener_.Text1_KeyPress(character);
-    if (character == 0 || !takesInput()) return true;
-    return act(actionFor(character, stroke.modifiers), character, false);
-}
-
-void EditBox::typeCommitted(QStringView text) {
-    const KeyStroke noKey;
-    for (qsizetype at = 0; at < text.size() && takesInput() && !locked();) {
-        const bool isPair = at + 1 < text.size() && text[at].isHighSurrogate() && text[at + 1].isLowSurrogate();
-        strikeCharacter(isPair ? QChar::surrogateToUcs4(text[at], text[at + 1]) : char32_t{text[at].unicode()}, noKey);
-        at += isPair ? 2 : 1;
-    }
+    Editor_.select({extend ? selection.anchor : caret, caret});
 }
 
 // ---- Input methods
@@ -69,69 +70,75 @@ void EditBox::inputMethodSpoke(QInputMethodEvent& event) {
         return;
     }
     const QString committed = event.commitString();
-    const bool replaces = event.replacementLength() > 0;
-    if (!committed.isEmpty() || replaces) {
+    if (!committed.isEmpty() || event.replacementLength() > 0) {
         QInputMethodEvent finished;
         showComposition(finished);
-        if (replaces) {
-            const auto start = static_cast<std::int32_t>(selection().caret) + event.replacementStart();
-            setSelStart(start);
+        if (event.replacementLength() > 0) {
+            setSelStart(static_cast<std::int32_t>(buffer().selection().caret) + event.replacementStart());
             setSelLength(event.replacementLength());
-            if (committed.isEmpty()) replaceSelection(EditKind::Single, {});
+            if (committed.isEmpty()) Editor_.perform(EditAction::EraseSelection);
         }
-        typeCommitted(committed);
+        Editor_.typeCommitted(viewOf(committed));
+        if (event.preeditString().isEmpty()) return;
     }
-    if (!event.preeditString().isEmpty() && !selection().empty()) replaceSelection(EditKind::Typing, {});
-    if (event.preeditString().isEmpty() && !committed.isEmpty()) return;
     QInputMethodEvent composition(event.preeditString(), event.attributes());
     showComposition(composition);
 }
 
+/// In front of the selection, which gives way when the composition is committed and not before: it may yet be
+/// cancelled.
 void EditBox::showComposition(QInputMethodEvent& event) {
-    // What is being composed is no text yet, though Qt reports it as a change of one.
-    const EditScope scope(Editing_);
+    const ShowingScope scope(Showing_);
+    const Selection selection = buffer().selection();
+    const Selection composing{selection.start(), selection.start()};
+    const bool ends = event.preeditString().isEmpty();
+    // Not while something is being composed: that would commit it.
+    if (!ends && shownSelection() != composing) showSelection(composing);
     compose(event);
+    if (ends && shownSelection() != selection) showSelection(selection);
 }
 
 // ---- Mouse
 
 void EditBox::takeAim() {
-    if (Aim_ >= 0) setSelStart(Aim_);
+    if (Aim_ >= 0) Editor_.setSelStart(Aim_);
 }
 
 void EditBox::mousePressed(const QMouseEvent& event) {
     takeAim();
     Aim_ = -1;
-    History_.endRun();
     LeftPressed_ = event.button() == Qt::LeftButton;
-    Listener_.Text1_MouseDown(buttonOf(event.button()));
+    Editor_.pressMouse(buttonOf(event.button()));
 }
 
 void EditBox::mouseReleased(const QMouseEvent& event) {
     if (event.button() != Qt::LeftButton || !std::exchange(LeftPressed_, false)) return;
-    if (takesInput() && mouseArea().rect().contains(event.position().toPoint())) Listener_.Text1_Click();
+    if (mouseArea().rect().contains(event.position().toPoint())) Editor_.click();
 }
 
 void EditBox::menuAsked(const QPoint& globalPosition) { showEditMenu(*this, globalPosition); }
 
-void EditBox::dropped(const Selection& replaced, const QString& text) {
-    if (locked()) return;
-    setSelection(replaced);
-    History_.endRun();
-    paste(text);
+void EditBox::dropped(std::size_t place, QStringView text) {
+    Editor_.select({place, place});
+    Incoming_ = text;
+    Editor_.perform(EditAction::Paste);
+    Incoming_.reset();
 }
 
 /// One edit of all that lies between, so that handlers see the text once and one undo takes it back.
 void EditBox::selectionMoved(std::size_t place) {
-    const Selection moved = selection();
+    const Selection moved = buffer().selection();
+    const std::u16string_view text = buffer().text();
     if (locked() || (place >= moved.start() && place <= moved.end())) return;
+    const std::u16string selected = selText();
     if (place < moved.start()) {
-        const std::u16string passed = textBetween(place, moved.start());
-        edit(EditKind::Single, place, moved.end(), selText() + passed);
-        setSelStart(static_cast<std::int32_t>(place + moved.length()));
+        const std::u16string passed(text.substr(place, moved.start() - place));
+        Editor_.select({place, moved.end()});
+        Editor_.setSelText(selected + passed);
     } else {
-        const std::u16string passed = textBetween(moved.end(), place);
-        edit(EditKind::Single, moved.start(), place, passed + selText());
+        const std::u16string passed(text.substr(moved.end(), place - moved.end()));
+        Editor_.select({moved.start(), place});
+        Editor_.setSelText(passed + selected);
     }
 }
 

@@ -17,6 +17,12 @@ namespace {
 constexpr int UsualCharacters = 20;
 constexpr int FewestCharacters = 5;
 
+Variant run(const ControlSite& site, Thunk accessor, std::span<Variant> arguments) {
+    Variant result;
+    atEdge([&] { return accessor(site.control(), arguments, &result, site.region()).ok(); });
+    return result;
+}
+
 }  // namespace
 
 KelControlWidget::KelControlWidget(const ClassModel& model, QWidget* parent)
@@ -50,22 +56,15 @@ void KelControlWidget::propertyReported(std::u16string_view /*bagName*/) {}
 // ---- Members
 
 Variant KelControlWidget::readMember(std::size_t member, std::span<Variant> arguments) const {
-    Variant result;
-    const MemberRow& row = control().model().members[member];
-    row.get(control(), arguments, &result, Site_->region());
-    return result;
+    return run(*Site_, Site_->control().model().members[member].get, arguments);
 }
 
 void KelControlWidget::writeMember(std::size_t member, Variant value) {
-    const MemberRow& row = control().model().members[member];
-    row.put(control(), {&value, 1}, nullptr, Site_->region());
+    run(*Site_, Site_->control().model().members[member].put, {&value, 1});
 }
 
 Variant KelControlWidget::callMember(std::size_t member, std::span<Variant> arguments) const {
-    Variant result;
-    const MemberRow& row = control().model().members[member];
-    row.call(control(), arguments, &result, Site_->region());
-    return result;
+    return run(*Site_, Site_->control().model().members[member].call, arguments);
 }
 
 // ---- Events

@@ -4,8 +4,7 @@
 
 namespace kel::qt {
 
-/// Presses and releases a key where the focus is, as the keyboard would: shortcuts are asked first. The focus
-/// may be in `window` only in name, where the platform does not activate windows.
+/// Presses and releases a key where the focus is, or on the active window where nothing has it.
 void strikeKey(const KeyStroke& stroke);
 
 /// The same, after the events that are under way.

@@ -13,7 +13,6 @@ namespace kel::qt::plain {
 namespace {
 
 constexpr std::u16string_view LineBreak = u"\r\n";
-constexpr std::u16string_view LineEnds = u"\r\n\u2029";
 
 /// Characters that end a block for Qt, or begin and end its frames, and what stands for them in the document.
 struct StandIn {
@@ -97,12 +96,6 @@ std::size_t length(const QTextDocument& document) {
            static_cast<std::size_t>(document.blockCount() - 1);
 }
 
-std::u16string blockText(const QTextBlock& block) {
-    std::u16string text;
-    appendDecoded(text, block.text());
-    return text;
-}
-
 std::u16string text(const QTextDocument& document) { return textBetween(document, 0, length(document)); }
 
 std::u16string textBetween(const QTextDocument& document, std::size_t start, std::size_t end) {
@@ -162,19 +155,6 @@ QString encoded(std::u16string_view text) {
         }
     }
     return result;
-}
-
-std::u16string withLineBreaks(std::u16string_view text) {
-    std::u16string lines;
-    lines.reserve(text.size());
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t end = std::min(text.find_first_of(LineEnds, at), text.size());
-        lines += text.substr(at, end - at);
-        if (end == text.size()) break;
-        lines += LineBreak;
-        at = end + (text.substr(end).starts_with(LineBreak) ? LineBreak.size() : 1);
-    }
-    return lines;
 }
 
 }  // namespace kel::qt::plain

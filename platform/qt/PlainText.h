@@ -5,7 +5,6 @@
 #include <string>
 #include <string_view>
 
-class QTextBlock;
 class QTextDocument;
 
 /// The text of a plain-text document as the controls see it: a break between two blocks is a carriage return and
@@ -17,7 +16,6 @@ namespace kel::qt::plain {
 std::size_t toText(const QTextDocument& document, int position);
 int toDocument(const QTextDocument& document, std::size_t position);
 
-std::u16string blockText(const QTextBlock& block);
 std::size_t length(const QTextDocument& document);
 std::u16string text(const QTextDocument& document);
 std::u16string textBetween(const QTextDocument& document, std::size_t start, std::size_t end);
@@ -29,8 +27,5 @@ void replace(QTextDocument& document, std::size_t start, std::size_t end, std::u
 
 /// As a document takes it in: blocks end with U+2029.
 QString encoded(std::u16string_view text);
-
-/// Line ends of every kind as line breaks.
-std::u16string withLineBreaks(std::u16string_view text);
 
 }  // namespace kel::qt::plain

@@ -66,7 +66,7 @@ protected:
         Visible_ = visible;
         if (!visible) giveUpFocus();
         show();
-        site().fieldShown(*this, visible);
+        if (visible) site().fieldShown(*this);
     }
 
     /// For fields that can have it no longer. Qt would hand it on to the next widget, and say nothing while the

@@ -44,6 +44,14 @@ void sendMenu(QWidget& area) {
     QApplication::sendEvent(&area, &event);
 }
 
+/// Without a window manager nobody else does it.
+void activateByForce(QWidget& window) {
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    QApplication::setActiveWindow(&window);
+    QT_WARNING_POP
+}
+
 void closePopups() {
     while (QWidget* const popup = QApplication::activePopupWidget()) popup->close();
 }
@@ -54,8 +62,7 @@ void QtFormWindow::activate() {
     if (Window_->isActiveWindow()) return;
     Window_->activateWindow();
     QCoreApplication::processEvents();
-    // Without a window manager nobody else does it.
-    if (!Window_->isActiveWindow()) QApplication::setActiveWindow(Window_.get());
+    if (!Window_->isActiveWindow()) activateByForce(*Window_);
     settle();
 }
 

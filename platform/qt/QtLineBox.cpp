@@ -1,6 +1,7 @@
 #include "platform/qt/QtLineBox.h"
 
 #include <limits>
+#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QGuiApplication>
@@ -12,118 +13,65 @@
 #include "platform/qt/EdgeGuard.h"
 #include "platform/qt/FocusTracker.h"
 #include "platform/qt/PasswordStyle.h"
-#include "values/TextBoundaries.h"
+#include "platform/qt/TextDifference.h"
 
 namespace kel::qt {
 
 namespace {
 
-constexpr bool SingleLine = false;
-
 int toInt(std::size_t position) { return static_cast<int>(position); }
-
-/// Where the caret of a menu opened by key stands.
-QPoint menuPosition(const QContextMenuEvent& event, const QWidget& box, const QRect& caret) {
-    return event.reason() == QContextMenuEvent::Keyboard ? box.mapToGlobal(caret.bottomLeft()) : event.globalPos();
-}
 
 }  // namespace
 
 QtLineBox::QtLineBox(ControlSite& site, TextBoxListener& listener, QWidget& parent)
-    : QLineEdit(&parent), EditBox(site, listener, *this) {
+    : QLineEdit(&parent), EditBox(site, listener, *this, false) {
     connect(this, &QLineEdit::textChanged, this, [this] { textChangedInWidget(); });
+    connect(this, &QLineEdit::cursorPositionChanged, this, [this] { selectionChangedInWidget(); });
+    connect(this, &QLineEdit::selectionChanged, this, [this] { selectionChangedInWidget(); });
 }
 
-// ---- Text and selection
+// ---- What is shown
 
-std::u16string QtLineBox::text() const { return std::u16string(viewOf(QLineEdit::text())); }
+std::u16string QtLineBox::shownText() { return std::u16string(viewOf(QLineEdit::text())); }
 
-bool QtLineBox::textEquals(std::u16string_view other) const { return viewOf(QLineEdit::text()) == other; }
-
-std::int32_t QtLineBox::textLength() const { return static_cast<std::int32_t>(QLineEdit::text().size()); }
-
-std::u16string QtLineBox::textBetween(std::size_t start, std::size_t end) const {
-    return std::u16string(viewOf(QLineEdit::text()).substr(start, end - start));
+void QtLineBox::showEdited(std::u16string_view text, std::size_t caret) {
+    const TextDifference difference = differenceOf(viewOf(QLineEdit::text()), text, caret);
+    if (difference.isNone()) return;
+    makeRoom(text.size());
+    const Selection replaced{difference.start, difference.end};
+    if (shownSelection() != replaced) showSelection(replaced);
+    insert(toQString(text.substr(difference.start, difference.newEnd - difference.start)));
 }
 
-Selection QtLineBox::selection() const {
+void QtLineBox::showNew(std::u16string_view text) {
+    if (viewOf(QLineEdit::text()) == text) return;
+    makeRoom(text.size());
+    QLineEdit::setText(toQString(text));
+}
+
+/// Qt's own limit is 32767 units; lifting it costs a new layout of the text, so it is done when needed.
+void QtLineBox::makeRoom(std::size_t units) {
+    if (units > static_cast<std::size_t>(QLineEdit::maxLength()))
+        QLineEdit::setMaxLength(std::numeric_limits<int>::max());
+}
+
+Selection QtLineBox::shownSelection() const {
     const auto caret = static_cast<std::size_t>(cursorPosition());
     if (!hasSelectedText()) return {caret, caret};
     const auto start = static_cast<std::size_t>(selectionStart());
     return {caret == start ? static_cast<std::size_t>(selectionEnd()) : start, caret};
 }
 
-void QtLineBox::select(const Selection& selection) {
+void QtLineBox::showSelection(const Selection& selection) {
     if (selection.empty())
         setCursorPosition(toInt(selection.caret));
     else
-        QLineEdit::setSelection(toInt(selection.anchor), toInt(selection.caret) - toInt(selection.anchor));
-}
-
-void QtLineBox::replace(std::size_t start, std::size_t end, std::u16string_view text) {
-    makeRoom(static_cast<std::int64_t>(textLength()) - static_cast<std::int64_t>(end - start) +
-             static_cast<std::int64_t>(text.size()));
-    const Selection replaced{start, end};
-    if (selection() != replaced) select(replaced);
-    insert(toQString(text));
-}
-
-void QtLineBox::replaceAll(std::u16string_view text) {
-    makeRoom(static_cast<std::int64_t>(text.size()));
-    QLineEdit::setText(toQString(text));
-    setCursorPosition(0);
-}
-
-/// Qt's own limit is 32767 units; lifting it costs a new layout of the text, so it is done when needed.
-void QtLineBox::makeRoom(std::int64_t units) {
-    if (units <= QLineEdit::maxLength()) return;
-    const Selection selected = selection();
-    QLineEdit::setMaxLength(std::numeric_limits<int>::max());
-    select(selected);
-}
-
-// ---- Places in the text
-
-std::size_t QtLineBox::snapped(std::size_t position) const {
-    return snapDown(viewOf(QLineEdit::text()), position, SingleLine);
-}
-
-std::size_t QtLineBox::nextCodePoint(std::size_t position) const {
-    return kel::nextCodePoint(viewOf(QLineEdit::text()), position, SingleLine);
-}
-
-std::size_t QtLineBox::previousCodePoint(std::size_t position) const {
-    return kel::previousCodePoint(viewOf(QLineEdit::text()), position, SingleLine);
-}
-
-std::size_t QtLineBox::destination(EditAction move, std::size_t position) const {
-    const QString content = QLineEdit::text();
-    const std::u16string_view text = viewOf(content);
-    const bool mirrored = content.isRightToLeft();
-    switch (move) {
-        case EditAction::Left:
-        case EditAction::Right:
-            return (move == EditAction::Left) != mirrored ? previousCharacter(text, position, SingleLine)
-                                                          : nextCharacter(text, position, SingleLine);
-        // A password gives away no words.
-        case EditAction::WordLeft: return isPassword() ? 0 : previousWord(text, position, SingleLine);
-        case EditAction::WordRight: return isPassword() ? text.size() : nextWord(text, position, SingleLine);
-        case EditAction::LineStart:
-        case EditAction::TextStart: return 0;
-        default: return text.size();
-    }
-}
-
-std::u16string QtLineBox::pasteable(QStringView text) const {
-    const std::u16string_view all = viewOf(text);
-    return std::u16string(all.substr(0, all.find_first_of(u"\r\n")));
+        setSelection(toInt(selection.anchor), toInt(selection.caret) - toInt(selection.anchor));
 }
 
 // ---- Looks
 
-void QtLineBox::setPasswordChar(char16_t character) {
-    if (character == PasswordChar_) return;
-    PasswordChar_ = character;
+void QtLineBox::showPasswordChar(char16_t character) {
     setStyle(character == 0 ? nullptr : passwordStyle(character));
     setEchoMode(character == 0 ? Normal : Password);
 }
@@ -183,16 +131,17 @@ void QtLineBox::mousePressEvent(QMouseEvent* event) {
 void QtLineBox::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::MiddleButton) {
         const QClipboard* const clipboard = QGuiApplication::clipboard();
-        if (!clipboard->supportsSelection()) return;
-        const auto caret = static_cast<std::size_t>(cursorPosition());
-        dropped({caret, caret}, clipboard->text(QClipboard::Selection));
+        if (clipboard->supportsSelection()) dropped(buffer().selection().caret, clipboard->text(QClipboard::Selection));
         return;
     }
     QLineEdit::mouseReleaseEvent(event);
     mouseReleased(*event);
 }
 
-void QtLineBox::contextMenuEvent(QContextMenuEvent* event) { menuAsked(menuPosition(*event, *this, cursorRect())); }
+void QtLineBox::contextMenuEvent(QContextMenuEvent* event) {
+    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
+    menuAsked(byKey ? mapToGlobal(cursorRect().bottomLeft()) : event->globalPos());
+}
 
 void QtLineBox::dropEvent(QDropEvent* event) {
     if (locked() || !event->mimeData()->hasText()) {
@@ -201,9 +150,9 @@ void QtLineBox::dropEvent(QDropEvent* event) {
     }
     QDragLeaveEvent leave;
     QLineEdit::dragLeaveEvent(&leave);
-    const std::size_t place = snapped(static_cast<std::size_t>(cursorPositionAt(event->position().toPoint())));
+    const int place = cursorPositionAt(event->position().toPoint());
     event->acceptProposedAction();
-    dropped({place, place}, event->mimeData()->text());
+    dropped(static_cast<std::size_t>(place), event->mimeData()->text());
 }
 
 }  // namespace kel::qt

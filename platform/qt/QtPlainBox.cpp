@@ -1,16 +1,19 @@
 #include "platform/qt/QtPlainBox.h"
 
 #include <algorithm>
+#include <QAbstractTextDocumentLayout>
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QTextLayout>
 
 #include "platform/qt/EdgeGuard.h"
 #include "platform/qt/FocusTracker.h"
 #include "platform/qt/PlainText.h"
+#include "platform/qt/TextDifference.h"
 #include "values/TextBoundaries.h"
 
 namespace kel::qt {
@@ -20,124 +23,82 @@ namespace {
 /// So that text begins where it does in a single-line box, and one line of it fits into the lowest box.
 constexpr int TextIndent = 3;
 
-using Step = std::size_t (*)(std::u16string_view text, std::size_t position, bool multiLine);
-
-/// A step inside a block; from its end into the next one.
-int stepForward(const QTextDocument& document, int position, Step step) {
-    const QTextBlock block = document.findBlock(position);
-    const auto inBlock = static_cast<std::size_t>(position - block.position());
-    const std::u16string text = plain::blockText(block);
-    if (inBlock == text.size()) return block.next().isValid() ? block.next().position() : position;
-    return block.position() + static_cast<int>(step(text, inBlock, false));
-}
-
-int stepBack(const QTextDocument& document, int position, Step step) {
-    const QTextBlock block = document.findBlock(position);
-    const auto inBlock = static_cast<std::size_t>(position - block.position());
-    if (inBlock == 0) return position > 0 ? position - 1 : 0;
-    return block.position() + static_cast<int>(step(plain::blockText(block), inBlock, false));
-}
-
 }  // namespace
 
 QtPlainBox::QtPlainBox(ControlSite& site, TextBoxListener& listener, QWidget& parent)
-    : QPlainTextEdit(&parent), EditBox(site, listener, *this) {
+    : QPlainTextEdit(&parent), EditBox(site, listener, *this, true) {
     setTabChangesFocus(true);
     document()->setUndoRedoEnabled(false);
     document()->setDocumentMargin(std::max(TextIndent - frameWidth(), 1));
     connect(this, &QPlainTextEdit::textChanged, this, [this] { textChangedInWidget(); });
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, [this] { selectionChangedInWidget(); });
+    connect(this, &QPlainTextEdit::selectionChanged, this, [this] { selectionChangedInWidget(); });
 }
 
-// ---- Text and selection
+// ---- What is shown
 
-std::u16string QtPlainBox::text() const { return plain::text(*document()); }
-
-bool QtPlainBox::textEquals(std::u16string_view other) const { return plain::equals(*document(), other); }
-
-std::int32_t QtPlainBox::textLength() const { return static_cast<std::int32_t>(plain::length(*document())); }
-
-std::u16string QtPlainBox::textBetween(std::size_t start, std::size_t end) const {
-    return plain::textBetween(*document(), start, end);
+std::u16string QtPlainBox::shownText() {
+    Shown_ = plain::text(*document());
+    return Shown_;
 }
 
-Selection QtPlainBox::selection() const {
+void QtPlainBox::showEdited(std::u16string_view text, std::size_t caret) {
+    const TextDifference difference = differenceOf(Shown_, text, caret);
+    if (difference.isNone()) return;
+    const std::u16string_view inserted = text.substr(difference.start, difference.newEnd - difference.start);
+    plain::replace(*document(), difference.start, difference.end, inserted);
+    Shown_.replace(difference.start, difference.end - difference.start, inserted);
+    showSelection({caret, caret});
+}
+
+void QtPlainBox::showNew(std::u16string_view text) {
+    if (Shown_ == text) return;
+    setPlainText(plain::encoded(text));
+    Shown_.assign(text);
+}
+
+Selection QtPlainBox::shownSelection() const {
     const QTextCursor cursor = textCursor();
     return {plain::toText(*document(), cursor.anchor()), plain::toText(*document(), cursor.position())};
 }
 
-void QtPlainBox::select(const Selection& selection) {
+void QtPlainBox::showSelection(const Selection& selection) {
     QTextCursor cursor = textCursor();
     cursor.setPosition(plain::toDocument(*document(), selection.anchor));
     cursor.setPosition(plain::toDocument(*document(), selection.caret), QTextCursor::KeepAnchor);
     setTextCursor(cursor);
 }
 
-void QtPlainBox::replace(std::size_t start, std::size_t end, std::u16string_view text) {
-    plain::replace(*document(), start, end, text);
-    const std::size_t behind = snapped(start + text.size());
-    select({behind, behind});
-}
+bool QtPlainBox::isMirrored() const { return textCursor().block().textDirection() == Qt::RightToLeft; }
 
-void QtPlainBox::replaceAll(std::u16string_view text) { setPlainText(plain::encoded(text)); }
-
-// ---- Places in the text
-
-std::size_t QtPlainBox::snapped(std::size_t position) const {
-    const int inDocument = plain::toDocument(*document(), position);
-    const QTextBlock block = document()->findBlock(inDocument);
-    const auto inBlock = static_cast<std::size_t>(inDocument - block.position());
-    const int cut = static_cast<int>(inBlock - snapDown(viewOf(block.text()), inBlock, false));
-    return plain::toText(*document(), inDocument - cut);
-}
-
-std::size_t QtPlainBox::nextCodePoint(std::size_t position) const {
-    const int from = plain::toDocument(*document(), position);
-    return plain::toText(*document(), stepForward(*document(), from, &kel::nextCodePoint));
-}
-
-std::size_t QtPlainBox::previousCodePoint(std::size_t position) const {
-    const int from = plain::toDocument(*document(), position);
-    return plain::toText(*document(), stepBack(*document(), from, &kel::previousCodePoint));
-}
-
-std::size_t QtPlainBox::destination(EditAction move, std::size_t position) const {
+TextLine QtPlainBox::lineAt(std::size_t position) const {
     const QTextDocument& content = *document();
-    const int from = plain::toDocument(content, position);
-    const bool mirrored = content.findBlock(from).textDirection() == Qt::RightToLeft;
-    QTextCursor cursor = textCursor();
-    cursor.setPosition(from);
-    switch (move) {
-        case EditAction::Left:
-        case EditAction::Right:
-            return plain::toText(content, (move == EditAction::Left) != mirrored
-                                              ? stepBack(content, from, &previousCharacter)
-                                              : stepForward(content, from, &nextCharacter));
-        case EditAction::WordLeft: return plain::toText(content, stepBack(content, from, &previousWord));
-        case EditAction::WordRight: return plain::toText(content, stepForward(content, from, &nextWord));
-        case EditAction::LineStart: cursor.movePosition(QTextCursor::StartOfLine); break;
-        case EditAction::LineEnd: cursor.movePosition(QTextCursor::EndOfLine); break;
-        case EditAction::TextStart: return 0;
-        default: return plain::length(content);
+    const int inDocument = plain::toDocument(content, position);
+    const QTextBlock block = content.findBlock(inDocument);
+    content.documentLayout()->blockBoundingRect(block);  // lays it out if nobody has seen it yet
+    const QTextLine line = block.layout()->lineForTextPosition(inDocument - block.position());
+    if (!line.isValid()) return buffer().lineAt(position);
+
+    const int start = block.position() + line.textStart();
+    const int end = start + line.textLength();
+    const bool isWrapped = line.lineNumber() + 1 < block.layout()->lineCount();
+    // At the end of a wrapped line the caret would stand at the start of the next one.
+    if (isWrapped) {
+        const std::size_t next = plain::toText(content, end);
+        return {plain::toText(content, start), previousCharacter(buffer().text(), next, true), next, false};
     }
-    return plain::toText(content, cursor.position());
+    const std::size_t textEnd = plain::toText(content, end);
+    const bool isLast = !block.next().isValid();
+    return {plain::toText(content, start), textEnd, isLast ? textEnd : textEnd + 2, isLast};
 }
 
-void QtPlainBox::moveByLine(EditAction move, bool extend) {
-    const bool isUp = move == EditAction::LineUp || move == EditAction::PageUp;
-    const bool isPage = move == EditAction::PageUp || move == EditAction::PageDown;
-    const int page = std::max(viewport()->height() / fontMetrics().lineSpacing(), 1);
-    QTextCursor cursor = textCursor();
-    const auto mode = extend ? QTextCursor::KeepAnchor : QTextCursor::MoveAnchor;
-    for (int lines = isPage ? page : 1; lines > 0; --lines)
-        if (!cursor.movePosition(isUp ? QTextCursor::Up : QTextCursor::Down, mode)) break;
-    setTextCursor(cursor);
+std::ptrdiff_t QtPlainBox::linesOfPage() const {
+    return std::max(viewport()->height() / fontMetrics().lineSpacing(), 1);
 }
-
-std::u16string QtPlainBox::pasteable(QStringView text) const { return plain::withLineBreaks(viewOf(text)); }
 
 // ---- Looks
 
-void QtPlainBox::setLocked(bool locked) {
+void QtPlainBox::showLocked(bool locked) {
     setReadOnly(locked);
     // A read-only document is browsed without a caret, by Qt's rules; here the caret can be moved as ever.
     if (locked) setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -206,13 +167,12 @@ void QtPlainBox::dropEvent(QDropEvent* event) {
     QDragLeaveEvent leave;
     QPlainTextEdit::dragLeaveEvent(&leave);
     const int place = cursorForPosition(event->position().toPoint()).position();
-    const std::size_t caret = plain::toText(*document(), place);
     const bool isMoved = event->source() == viewport() && event->proposedAction() == Qt::MoveAction;
     event->acceptProposedAction();
     if (isMoved)
-        selectionMoved(caret);
+        selectionMoved(plain::toText(*document(), place));
     else
-        dropped({caret, caret}, event->mimeData()->text());
+        dropped(plain::toText(*document(), place), event->mimeData()->text());
 }
 
 QMimeData* QtPlainBox::createMimeDataFromSelection() const {
@@ -225,6 +185,6 @@ QMimeData* QtPlainBox::createMimeDataFromSelection() const {
 
 bool QtPlainBox::canInsertFromMimeData(const QMimeData* source) const { return source->hasText(); }
 
-void QtPlainBox::insertFromMimeData(const QMimeData* source) { dropped(selection(), source->text()); }
+void QtPlainBox::insertFromMimeData(const QMimeData* source) { dropped(buffer().selection().caret, source->text()); }
 
 }  // namespace kel::qt

@@ -7,20 +7,9 @@
 namespace kel::qt {
 
 /// The multi-line edit box.
-class QtPlainBox final : public QPlainTextEdit, public EditBox {
+class QtPlainBox final : public QPlainTextEdit, public EditBox, private TextLines {
 public:
     QtPlainBox(ControlSite& site, TextBoxListener& listener, QWidget& parent);
-
-    std::u16string text() const override;
-    bool textEquals(std::u16string_view other) const override;
-    std::int32_t textLength() const override;
-
-    bool locked() const override { return isReadOnly(); }
-    void setLocked(bool locked) override;
-
-    /// Kept only: several lines are always shown in clear.
-    char16_t passwordChar() const override { return PasswordChar_; }
-    void setPasswordChar(char16_t character) override { PasswordChar_ = character; }
 
     void setVisible(bool visible) override;
     void refresh() override { viewport()->update(); }
@@ -44,25 +33,25 @@ protected:
 
     QMimeData* createMimeDataFromSelection() const override;
     bool canInsertFromMimeData(const QMimeData* source) const override;
+    /// By the middle mouse button.
     void insertFromMimeData(const QMimeData* source) override;
 
 private:
-    Selection selection() const override;
-    void select(const Selection& selection) override;
-    std::u16string textBetween(std::size_t start, std::size_t end) const override;
-    void replace(std::size_t start, std::size_t end, std::u16string_view text) override;
-    void replaceAll(std::u16string_view text) override;
+    std::u16string shownText() override;
+    void showEdited(std::u16string_view text, std::size_t caret) override;
+    void showNew(std::u16string_view text) override;
+    Selection shownSelection() const override;
+    void showSelection(const Selection& selection) override;
+    void showLocked(bool locked) override;
+    /// Several lines are always shown in clear.
+    void showPasswordChar(char16_t /*character*/) override {}
     void compose(QInputMethodEvent& event) override { QPlainTextEdit::inputMethodEvent(&event); }
+    bool isMirrored() const override;
+    const TextLines* lines() const override { return this; }
+    TextLine lineAt(std::size_t position) const override;
+    std::ptrdiff_t linesOfPage() const override;
 
-    bool multiLine() const override { return true; }
-    std::size_t snapped(std::size_t position) const override;
-    std::size_t nextCodePoint(std::size_t position) const override;
-    std::size_t previousCodePoint(std::size_t position) const override;
-    std::size_t destination(EditAction move, std::size_t position) const override;
-    void moveByLine(EditAction move, bool extend) override;
-    std::u16string pasteable(QStringView text) const override;
-
-    char16_t PasswordChar_ = 0;
+    std::u16string Shown_;  ///< as the document holds it, which would be slow to ask
 };
 
 }  // namespace kel::qt

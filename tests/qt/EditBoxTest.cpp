@@ -60,11 +60,17 @@ TEST(InputMethod, CommitsAreTyped) {
     for (const bool multiLine : {false, true}) {
         OneField field(multiLine);
         put(field.box(), "1[2]3");
+        field.form.takeLog();
+        field.compose(QStringLiteral("n"));
         field.compose(QStringLiteral("ni"));
-        EXPECT_EQ(drawn(field.box()), "1|3") << "composing replaces the selection";
+        field.compose({});
+        EXPECT_EQ(drawn(field.box()), "1[2]3") << "a composition that is cancelled leaves no trace";
+        EXPECT_EQ(field.form.takeLog(), "");
+
+        field.compose(QStringLiteral("ni"));
         field.compose({}, QStringLiteral("\u65E5\u672C"));
         EXPECT_EQ(drawn(field.box()), "1\u65E5\u672C|3");
-        EXPECT_EQ(field.form.takeLog(), "a.Change(123) a.Change(13) a.Change(1\u65E53) a.Change(1\u65E5\u672C3) ");
+        EXPECT_EQ(field.form.takeLog(), "a.Change(1\u65E53) a.Change(1\u65E5\u672C3) ");
         field.form.window().press({'Z', 0, ControlKey});
         EXPECT_EQ(drawn(field.box()), "1[2]3") << "undone with what it replaced";
     }
@@ -213,6 +219,43 @@ TEST(EditBox, KeysThatMeanNothingHereGoOn) {
         static_cast<QObject&>(field.widget()).event(&pressed);
         EXPECT_EQ(pressed.isAccepted(), row.used) << row.stroke.code;
     }
+}
+
+/// Only the screen knows where a line was wrapped, how wide its letters are and which way they run.
+TEST(EditBox, CaretMovesByWhatIsSeen) {
+    struct Case {
+        const char* what;
+        bool multiLine;
+        const char* before;
+        std::vector<std::int16_t> strokes;
+        const char* after;
+    };
+    const Case cases[] = {
+        {"up under what was typed", true, "HHHH\r\n|", {'H', 'H', keys::Up}, "HH|HH\r\nhh"},
+        {"the column outlives a short line", true, "HHH|\r\nH\r\nHHH", {keys::Down, keys::Down}, "HHH\r\nH\r\nHHH|"},
+        {"from right to left", false, "\u05D0|\u05D1", {keys::Left}, "\u05D0\u05D1|"},
+        {"in several lines too", true, "\u05D0|\u05D1", {keys::Right}, "|\u05D0\u05D1"},
+        {"out of a selection", false, "\u05D0[\u05D1]\u05D2", {keys::Right}, "\u05D0|\u05D1\u05D2"},
+    };
+    for (const Case& row : cases) {
+        OneField field(row.multiLine);
+        put(field.box(), row.before);
+        for (const std::int16_t code : row.strokes)
+            field.form.window().press(code == 'H' ? strokeFor(U'h') : KeyStroke{code, 0, NoModifier});
+        EXPECT_EQ(drawn(field.box()), row.after) << row.what;
+    }
+    OneField field(true);
+    put(field.box(), "a line " + std::string(200, 'x') + "|");
+    const auto press = [&field](std::int16_t code) {
+        field.form.window().press({code, 0, NoModifier});
+        return field.box().selStart();
+    };
+    const std::int32_t start = press(keys::Home);
+    EXPECT_GT(start, 7) << "of the last line that is seen";
+    EXPECT_EQ(press(keys::Home), start);
+    EXPECT_LT(press(keys::Up), start);
+    EXPECT_EQ(press(keys::Down), start);
+    EXPECT_EQ(press(keys::End), field.box().textLength());
 }
 
 TEST(EditBox, HandlersMayDoAnythingToIt) {
