@@ -1,0 +1,13 @@
+#include <QApplication>
+
+#include "KelTextWidget.h"
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    KelTextWidget name;
+    name.setCaption("&Name");
+    name.setMaxLength(40);
+    QObject::connect(&name, &KelTextWidget::change, [&] { name.setWindowTitle(name.text()); });
+    name.show();
+    return QApplication::exec();
+}
