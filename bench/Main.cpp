@@ -12,6 +12,12 @@ int main(int argc, char** argv) {
             {"a key into a text field / line edit", "KeyIntoTextWidget", {"KeyIntoLineEdit"}, 1.2},
             {"reading a number property by name", "LateBoundRead", {}, 100},
             {"reading a text property by name", "LateBoundTextRead", {}, 100},
+            {"display text of 1,234,567.891 / QLocale", "DisplayNumber", {"DisplayNumberByQLocale"}, 0.5},
+            {"display text of 1,234,567.891 / ICU", "DisplayNumber", {"DisplayNumberByIcu"}, 0.5},
+            {"display text of a number of 17 digits / QLocale", "DisplayLongNumber", {"DisplayLongNumberByQLocale"}, 1},
+            {"the same by #,##0.00;(#,##0.00) / QLocale", "FormatByExpression", {"DisplayNumberByQLocale"}, 1},
+            {"reading 1,234,567.89 / QLocale", "ReadNumber", {"ReadNumberByQLocale"}, 0.1},
+            {"reading 1,234,567.89 / ICU", "ReadNumber", {"ReadNumberByIcu"}, 0.1},
             {"loading a form of 1,000 text fields, headless", "LoadThousandFields", {}, 20e6},
         });
 }

@@ -8,6 +8,14 @@
 
 namespace kel {
 
+/// The conversions of the run-time object. Members may throw AutomationError when the host's object fails.
+class RuntimeDates : public Object {
+public:
+    /// A number, or the text of a field as the user left it, rounded to `decimals` places; an empty text is 0.
+    virtual double NumberFromValue(const Variant& value, std::int16_t decimals) = 0;
+    virtual double RoundNumber(double number, std::int16_t decimals) = 0;
+};
+
 /// The object that a host hands to the library, once for all controls: regional settings, fonts, and the
 /// moving on of the focus. Members may throw AutomationError when the host's object fails.
 class Runtime : public Object {
@@ -25,6 +33,9 @@ public:
 
     /// Presses the key with this virtual key code; the controls send 9, Tab, to move the focus on.
     virtual void SendKey(std::int16_t keyCode) = 0;
+
+    /// Fetched anew before each use.
+    virtual std::shared_ptr<kel::RuntimeDates> RuntimeDates() = 0;
 
     /// `list` with `item` as a further comma-separated item, quoted where needed.
     virtual std::u16string ListAppend(const std::u16string& list, const std::u16string& item) = 0;

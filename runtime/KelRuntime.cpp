@@ -1,14 +1,29 @@
 #include "runtime/KelRuntime.h"
 
 #include "runtime/ListString.h"
+#include "runtime/Numbers.h"
 
 namespace kel {
 
 namespace {
 
+class DefaultDates final : public RuntimeDates {
+public:
+    explicit DefaultDates(RuntimeServices& services) : Services_(services) {}
+
+    double NumberFromValue(const Variant& value, std::int16_t decimals) override {
+        return numberFromValue(value, decimals, Services_.region());
+    }
+    double RoundNumber(double number, std::int16_t decimals) override { return roundNumber(number, decimals); }
+
+private:
+    RuntimeServices& Services_;
+};
+
 class DefaultRuntime final : public Runtime {
 public:
-    explicit DefaultRuntime(RuntimeServices& services) : Services_(services) {}
+    explicit DefaultRuntime(RuntimeServices& services)
+        : Services_(services), Dates_(std::make_shared<DefaultDates>(services)) {}
 
     std::int32_t ColorDepth() override { return Services_.colorDepth(); }
     std::u16string DecimalSeparator() override { return Services_.region().DecimalSeparator; }
@@ -19,6 +34,8 @@ public:
     double FieldFontSize() override { return Services_.fieldFont().size; }
     void SendKey(std::int16_t keyCode) override { Services_.sendKey(keyCode); }
 
+    std::shared_ptr<kel::RuntimeDates> RuntimeDates() override { return Dates_; }
+
     std::u16string ListAppend(const std::u16string& list, const std::u16string& item) override {
         return appendListItem(list, item);
     }
@@ -28,6 +45,7 @@ public:
 
 private:
     RuntimeServices& Services_;
+    std::shared_ptr<kel::RuntimeDates> Dates_;
 };
 
 }  // namespace

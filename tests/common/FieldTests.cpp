@@ -62,6 +62,7 @@ SharedSettings coloursOf(std::int32_t depth) {
         std::u16string FieldFontName() override { return {}; }
         double FieldFontSize() override { return 8; }
         void SendKey(std::int16_t) override {}
+        std::shared_ptr<kel::RuntimeDates> RuntimeDates() override { return nullptr; }
         std::u16string ListAppend(const std::u16string& list, const std::u16string&) override { return list; }
         std::u16string ReadField(const std::u16string&, std::int32_t& position, std::int16_t) override {
             position = -1;

@@ -1,0 +1,149 @@
+#include "controls/number/NumberText.h"
+
+#include <algorithm>
+
+#include "host/Keys.h"
+#include "values/Decimal.h"
+#include "values/NumberFormat.h"
+#include "values/NumberReader.h"
+#include "values/Text.h"
+
+namespace kel {
+
+namespace {
+
+constexpr Color Red = 0x000000FF;
+constexpr Color Black = 0x00000000;
+constexpr char16_t Minus = u'-';
+
+constexpr bool isAsciiDigit(char32_t unit) { return unit >= U'0' && unit <= U'9'; }
+
+bool isDigit(char32_t key, char32_t zero) { return isAsciiDigit(key) || (key >= zero && key - zero < 10); }
+
+TextSpan toEnd(std::size_t start, std::size_t textLength) { return {start, textLength - start}; }
+
+/// The character behind the caret, a pair as a whole; nothing at the end.
+TextSpan nextCharacter(std::u16string_view text, std::size_t caret) {
+    const std::size_t units = std::min<std::size_t>(text.size() - caret, 1);
+    return {caret, units + (splitsPair(text, caret + units) ? 1 : 0)};
+}
+
+/// A sign in front, unless there is one, and everything behind it selected.
+KeyEffect typeMinus(std::u16string_view text) {
+    KeyEffect effect{.verdict = KeyVerdict::Swallowed};
+    std::size_t length = text.size();
+    if (!text.starts_with(Minus)) {
+        effect.replaced = TextSpan{0, 0};
+        effect.inserted = Minus;
+        ++length;
+    }
+    effect.selection = toEnd(1, length);
+    return effect;
+}
+
+/// Where the decimal character goes. One that is there already moves to the caret, and what lies between is
+/// dropped.
+TextSpan decimalPlace(std::u16string_view text, TextSpan selection, const KeyRules& rules) {
+    const std::size_t caret = selection.start;
+    const std::size_t present = text.find(rules.decimalCharacter);
+    if (present == std::u16string_view::npos) return rules.insertMode ? selection : nextCharacter(text, caret);
+    if (present < caret) return {present, caret - present};
+    return {caret, present + 1 - caret};
+}
+
+KeyEffect typeDecimal(std::u16string_view text, TextSpan selection, const KeyRules& rules) {
+    KeyEffect effect{.verdict = KeyVerdict::Swallowed};
+    if (rules.decimals <= 0) return effect;
+    effect.replaced = decimalPlace(text, selection, rules);
+    effect.inserted = rules.decimalCharacter;
+    effect.selection = toEnd(effect.replaced->start + 1, text.size() - effect.replaced->length + 1);
+    return effect;
+}
+
+KeyEffect typeDigit(std::u16string_view text, TextSpan selection, const KeyRules& rules) {
+    KeyEffect effect;
+    if (!rules.locked && !rules.insertMode && selection.length == 0)
+        effect.selection = nextCharacter(text, selection.start);
+    return effect;
+}
+
+TextSpan insideOf(std::u16string_view text, TextSpan span) {
+    const std::size_t start = std::min(span.start, text.size());
+    return {start, std::min(span.length, text.size() - start)};
+}
+
+/// The plain form of a pasted number. Digits alone are plain, with their leading zeros: behind a decimal
+/// separator these count.
+std::u16string plainForm(std::u16string_view pasted, double number, std::int16_t decimals,
+                         const RegionalSettings& region) {
+    constexpr std::u16string_view LineEnds = u" \t\r\n";
+    const std::size_t first = std::min(pasted.find_first_not_of(LineEnds), pasted.size());
+    const std::size_t end = pasted.find_last_not_of(LineEnds) + 1;
+    const std::u16string_view core = pasted.substr(first, std::max(first, end) - first);
+    if (std::all_of(core.begin(), core.end(), isAsciiDigit)) return std::u16string(core);
+    std::u16string plain = editText(number, decimals, region);
+    if (plain.empty()) plain = u'0';
+    return plain;
+}
+
+}  // namespace
+
+std::u16string displayText(double value, std::int16_t decimals, bool groupDigits, const RegionalSettings& region) {
+    return formatNumber(value, {.decimals = decimals, .group = groupDigits, .parentheses = true}, region);
+}
+
+std::u16string editText(double value, std::int16_t decimals, const RegionalSettings& region) {
+    return formatNumber(
+        value, {.decimals = decimals, .leadingZero = false, .trailingZeros = false, .typedSymbols = true}, region);
+}
+
+double parseText(std::u16string_view text, std::int16_t decimals, const RegionalSettings& region) {
+    double number = 0;
+    readNumber(text, region, number);
+    return roundDecimally(number, decimals);
+}
+
+Color numberColor(double value) { return value < 0 ? Red : Black; }
+
+double clampNumber(double value, double minimum, double maximum) {
+    if (value < minimum) return minimum;
+    return value <= maximum ? value : maximum;
+}
+
+bool isInRange(double value, double minimum, double maximum) { return value >= minimum && value <= maximum; }
+
+double steppedNumber(double value, double delta) { return addDecimally(value, delta); }
+
+std::u16string rangeMessage(double minimum, double maximum, std::int16_t decimals, bool groupDigits,
+                            const RegionalSettings& region) {
+    std::u16string message = u"This field only accepts values from ";
+    message += displayText(minimum, decimals, true, region);
+    message += u" to ";
+    message += displayText(maximum, decimals, groupDigits, region);
+    return message += u'.';
+}
+
+KeyEffect filterKey(char32_t key, std::u16string_view text, TextSpan selection, const KeyRules& rules) {
+    constexpr char32_t FirstPrintable = 32;
+    selection = insideOf(text, selection);
+    if (key == keys::Enter) return {.verdict = KeyVerdict::MoveOn};
+    if (key < FirstPrintable) return {};
+    if (key == Minus) return rules.locked ? KeyEffect{} : typeMinus(text);
+    if (key == rules.decimalCharacter) return rules.locked ? KeyEffect{} : typeDecimal(text, selection, rules);
+    if (isDigit(key, rules.zeroDigit)) return typeDigit(text, selection, rules);
+    return {.verdict = KeyVerdict::Beep};
+}
+
+std::optional<std::u16string> filterPaste(std::u16string_view pasted, std::u16string_view text, TextSpan selection,
+                                          std::int16_t decimals, const RegionalSettings& region) {
+    double number = 0;
+    if (readNumber(pasted, region, number) != NumberReading::Number) return std::nullopt;
+    std::u16string plain = plainForm(pasted, number, decimals, region);
+    selection = insideOf(text, selection);
+    std::u16string result(text);
+    result.replace(selection.start, selection.length, plain);
+    if (readNumber(result, region, number) != NumberReading::Number) return std::nullopt;
+    return plain;
+}
+
+}  // namespace kel

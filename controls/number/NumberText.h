@@ -1,0 +1,88 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "values/Color.h"
+#include "values/RegionalSettings.h"
+#include "values/Variant.h"
+
+/// What the number field shows and makes of texts and keys, as pure functions.
+namespace kel {
+
+// ---- Numbers as text
+
+/// With the focus elsewhere: fixed decimals, grouped on demand, negative numbers in parentheses.
+std::u16string displayText(double value, std::int16_t decimals, bool groupDigits, const RegionalSettings& region);
+
+/// While the field is edited: what the keys could have typed, without grouping and superfluous zeros. Zero is
+/// the empty text, 0.5 is ".5".
+std::u16string editText(double value, std::int16_t decimals, const RegionalSettings& region);
+
+/// The number that the text of a field stands for, rounded; 0 for what is no number. It is what the default
+/// run-time object makes of the text.
+double parseText(std::u16string_view text, std::int16_t decimals, const RegionalSettings& region);
+
+/// Red below zero, else black.
+Color numberColor(double value);
+
+// ---- Ranges and steps
+
+/// The lower bound is looked at first.
+double clampNumber(double value, double minimum, double maximum);
+
+bool isInRange(double value, double minimum, double maximum);
+
+/// The number that a step leads to, before the run-time object rounds it and the bounds stop it.
+double steppedNumber(double value, double delta);
+
+/// "This field only accepts values from ... to ...". The lower bound is grouped whatever `groupDigits` says.
+std::u16string rangeMessage(double minimum, double maximum, std::int16_t decimals, bool groupDigits,
+                            const RegionalSettings& region);
+
+// ---- Keys and pasting
+
+/// Units of the text, as a text box counts them.
+struct TextSpan {
+    std::size_t start = 0;
+    std::size_t length = 0;
+    friend bool operator==(const TextSpan&, const TextSpan&) = default;
+};
+
+enum class KeyVerdict : std::uint8_t {
+    Passed,  ///< the text box handles the key, with the selection as it is now
+    Swallowed,
+    Beep,    ///< swallowed, with a beep
+    MoveOn,  ///< swallowed; the focus moves on as by Tab
+};
+
+/// What a key does to a text box. An edit puts `inserted` in the place of `replaced`, as typing would; then,
+/// also without an edit, `selection` is selected.
+struct KeyEffect {
+    KeyVerdict verdict = KeyVerdict::Passed;
+    std::optional<TextSpan> replaced{};
+    char16_t inserted = 0;
+    std::optional<TextSpan> selection{};  ///< nothing: stays as it is
+};
+
+/// How a field takes keys.
+struct KeyRules {
+    std::int16_t decimals = 0;  ///< 0: no decimal separator can be typed
+    char16_t decimalCharacter = u'.';
+    char32_t zeroDigit = U'0';  ///< the region's digits are taken beside the ASCII ones
+    bool insertMode = false;    ///< else a digit or decimal character replaces the next character
+    bool locked = false;
+};
+
+/// What the character `key` does in a box that holds `text` with `selection`.
+KeyEffect filterKey(char32_t key, std::u16string_view text, TextSpan selection, const KeyRules& rules);
+
+/// The text that takes the place of `selection` when `pasted` is pasted: digits as they are, any other number
+/// in its editing form. Nothing when it is no number, or would make `text` none.
+std::optional<std::u16string> filterPaste(std::u16string_view pasted, std::u16string_view text, TextSpan selection,
+                                          std::int16_t decimals, const RegionalSettings& region);
+
+}  // namespace kel

@@ -1,0 +1,224 @@
+#include "values/NumberReader.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "runtime/KelRuntime.h"
+#include "runtime/Numbers.h"
+#include "values/Text.h"
+
+namespace kel {
+namespace {
+
+constexpr double Largest = std::numeric_limits<double>::max();
+constexpr double Unread = -77;
+
+struct Reading {
+    NumberReading kind = NumberReading::None;
+    double number = Unread;
+};
+
+Reading read(std::u16string_view text, std::u16string_view region = u"en-GB") {
+    Reading reading;
+    reading.kind = readNumber(text, *findRegion(region), reading.number);
+    return reading;
+}
+
+TEST(NumberReader, ReadsWhatPeopleWrite) {
+    const struct {
+        std::u16string_view text;
+        double number;
+        std::u16string_view region = u"en-GB";
+    } cases[] = {
+        {u"1,234,567.89", 1234567.89},
+        {u"1234567.89", 1234567.89},
+        {u"1234,567", 1234567},
+        {u".5", 0.5},
+        {u"5.", 5},
+        {u"007", 7},
+        {u" \t12.5\r\n", 12.5},
+        {u"-5", -5},
+        {u"5-", -5},
+        {u"5 -", -5},
+        {u"+ 5", 5},
+        {u"5+", 5},
+        {u"\u22125", -5},
+        {u"(1,234.50)", -1234.5},
+        {u"( 5 )", -5},
+        {u"-(5.00)", -5},
+        {u"(-5)", -5},
+        {u"(5)-", -5},
+        {u"-0", 0},
+        {u"(0.00)", 0},
+        {u"1E+20", 1e20},
+        {u"1.5e-3", 0.0015},
+        {u"2e3", 2000},
+        {u"1e-400", 0},
+        {u"0e999999999999999999999", 0},
+        {u"1.234.567,89", 1234567.89, u"de-DE"},
+        {u"1.234", 1234, u"es-ES"},
+        {u"1\u202F234\u202F567,5", 1234567.5, u"fr-FR"},
+        {u"1 234 567,5", 1234567.5, u"fr-FR"},
+        {u"1\u00A0234,5-", -1234.5, u"fr-FR"},
+        {u"1 234 -", -1234, u"fr-FR"},
+        {u"1\u2009234", 1234, u"sv-SE"},
+        {u"\u22121\u00A0234,50", -1234.5, u"sv-SE"},
+        {u"1'234.50", 1234.5, u"de-CH"},
+        {u"12,34,567", 1234567, u"en-IN"},
+        {u"١٬٢٣٤٫٥٠", 1234.5, u"ar-EG"},
+        {u"1٬2٣4٫5", 1234.5, u"ar-EG"},
+        {u"\u061C-٥", -5, u"ar-EG"},
+        {u"٥\u061C-", -5, u"ar-EG"},
+        {u"\u200E\u2212۵", -5, u"fa-IR"},
+        {u"9007199254740993", 9007199254740992.0},
+        {u"9007199254740993.0000000000000000001", 9007199254740994.0},
+        {u"179769313486231570000000000000000000000000000000000000000000e249", Largest},
+        {u"0.00000000000000000000000000000000000123456789012345678901", 1.2345678901234568e-36},
+    };
+    for (const auto& test : cases) {
+        SCOPED_TRACE(toUtf8(test.text));
+        const Reading reading = read(test.text, test.region);
+        EXPECT_EQ(reading.kind, NumberReading::Number);
+        EXPECT_EQ(reading.number, test.number);
+        EXPECT_FALSE(reading.number == 0 && std::signbit(reading.number));
+    }
+}
+
+TEST(NumberReader, SaysWhatIsNoNumber) {
+    const struct {
+        std::u16string_view text;
+        std::u16string_view region = u"en-GB";
+    } cases[] = {
+        {u""},
+        {u" "},
+        {u"-"},
+        {u"."},
+        {u"-."},
+        {u"()"},
+        {u"(5"},
+        {u"5)"},
+        {u"((5))"},
+        {u"--5"},
+        {u"-5-"},
+        {u"+(5)"},
+        {u"(+5)"},
+        {u"5-5"},
+        {u"abc"},
+        {u"5a"},
+        {u"1 2"},
+        {u"1.2.3"},
+        {u"1,23"},
+        {u"1,2345"},
+        {u",123"},
+        {u"1,,234"},
+        {u"1,234,"},
+        {u"1,23,456"},
+        {u"1.234,567"},
+        {u"1.5,"},
+        {u"1e"},
+        {u"1e+"},
+        {u"e5"},
+        {u"1e5.5"},
+        {u"5%"},
+        {u"NaN"},
+        {u"inf"},
+        {u"0x10"},
+        {u"\xD800"},
+        {u"1\xDC00"},
+        {u"\xD83A"},
+        {u"٥"},
+        {u"1.5", u"de-DE"},
+        {u"1,234,567", u"en-IN"},
+        {u"1,5", u"ar-EG"},
+        {u"1 23", u"fr-FR"},
+        {u"1  234", u"fr-FR"},
+        {u"1\xD83A", u"ar-EG"},
+        {u"(", u"sv-SE"},
+    };
+    for (const auto& test : cases) {
+        SCOPED_TRACE(toUtf8(test.text));
+        const Reading reading = read(test.text, test.region);
+        EXPECT_EQ(reading.kind, NumberReading::None);
+        EXPECT_EQ(reading.number, Unread) << "the caller's number is left alone";
+    }
+}
+
+TEST(NumberReader, IsNotUpsetByTheEndlessAndTheHuge) {
+    EXPECT_EQ(read(u"1e400").kind, NumberReading::TooLarge);
+    EXPECT_EQ(read(u"-1e99999999999999999999").number, -Largest);
+    constexpr std::size_t Megabyte = 1 << 20;
+    const std::u16string nines(Megabyte, u'9');
+    const std::u16string zeros(Megabyte, u'0');
+    EXPECT_EQ(read(nines).kind, NumberReading::TooLarge);
+    EXPECT_EQ(read(nines).number, Largest);
+    EXPECT_EQ(read(zeros + u"5").number, 5);
+    EXPECT_EQ(read(u"0." + nines).number, 1);
+    EXPECT_EQ(read(u"0." + zeros + u"5").number, 0);
+    EXPECT_EQ(read(u"1" + zeros + u"e-1048575").number, 10);
+    std::u16string grouped = u"1";
+    for (std::size_t i = 0; i < Megabyte / 4; ++i) grouped += u",000";
+    EXPECT_EQ(read(grouped).kind, NumberReading::TooLarge);
+    const std::u16string blanks(Megabyte, u' ');
+    EXPECT_EQ(read(blanks + u"-" + blanks + u"5" + blanks).number, -5);
+    for (const char16_t unit : {u'(', u'-', u',', u'\xD800'})
+        EXPECT_EQ(read(std::u16string(Megabyte, unit), u"ar-EG").kind, NumberReading::None);
+}
+
+TEST(NumericValues, AreNumbersAndTextsOfNumbers) {
+    const double infinity = std::numeric_limits<double>::infinity();
+    const struct {
+        const char* what;
+        Variant value;
+        bool isNumeric;
+        double number;
+    } cases[] = {
+        {"a double", 12.345, true, 12.35},
+        {"a half", -2.345, true, -2.35},
+        {"an integer", std::int16_t{-5}, true, -5},
+        {"a long integer", std::int32_t{70000}, true, 70000},
+        {"True", true, true, -1},
+        {"nothing yet", Empty{}, true, 0},
+        {"a text", std::u16string(u"(1,234.555)"), true, 1234.56 * -1},
+        {"the empty text", std::u16string(), false, 0},
+        {"another text", std::u16string(u"abc"), false, 0},
+        {"too large a text", std::u16string(u"1e400"), false, Largest},
+        {"no value", Null{}, false, 0},
+        {"left out", Missing{}, false, 0},
+        {"a day", Date{41639.5}, false, 41639.5},
+        {"an array", StringArray{u"1"}, false, 0},
+        {"an object", ObjectPtr(), false, 0},
+        {"not a number", std::nan(""), false, 0},
+        {"infinity", infinity, false, Largest},
+    };
+    for (const auto& test : cases) {
+        SCOPED_TRACE(test.what);
+        EXPECT_EQ(isNumeric(test.value, defaultRegion()), test.isNumeric);
+        EXPECT_EQ(numberFromValue(test.value, 2, defaultRegion()), test.number);
+    }
+    EXPECT_EQ(numberFromValue(std::u16string(u"1,5"), 0, *findRegion(u"de-DE")), 2);
+}
+
+class Services final : public RuntimeServices {
+public:
+    std::int32_t colorDepth() const override { return 24; }
+    const RegionalSettings& region() const override { return *Region; }
+    FontChoice captionFont() const override { return {}; }
+    FontChoice fieldFont() const override { return {}; }
+    void sendKey(std::int16_t) override {}
+
+    const RegionalSettings* Region = &defaultRegion();
+};
+
+TEST(RuntimeNumbers, FollowTheRegionWhenItChanges) {
+    Services services;
+    const auto dates = makeRuntime(services)->RuntimeDates();
+    EXPECT_EQ(dates->NumberFromValue(std::u16string(u"1,234.565"), 2), 1234.57);
+    services.Region = findRegion(u"de-DE");
+    EXPECT_EQ(dates->NumberFromValue(std::u16string(u"1.234,565"), 2), 1234.57);
+    EXPECT_EQ(dates->RoundNumber(-2.5, 0), -3);
+}
+
+}  // namespace
+}  // namespace kel

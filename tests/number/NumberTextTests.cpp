@@ -1,0 +1,188 @@
+#include "controls/number/NumberText.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "values/FormatExpression.h"
+#include "values/NumberFormat.h"
+#include "values/Text.h"
+
+namespace kel {
+namespace {
+
+/// A text with its caret or selection drawn in: "12.|34", "1[2.3]4".
+struct Box {
+    std::u16string text;
+    TextSpan selection;
+
+    explicit Box(std::string_view drawn) : text(*fromUtf8(drawn)) {
+        const std::size_t open = text.find_first_of(u"[|");
+        const std::size_t close = text.find(u']');
+        selection = {open, close == std::u16string::npos ? 0 : close - open - 1};
+        std::erase_if(text, [](char16_t unit) { return unit == u'[' || unit == u'|' || unit == u']'; });
+    }
+
+    void apply(const KeyEffect& effect) {
+        if (effect.replaced) {
+            ASSERT_LE(effect.replaced->start + effect.replaced->length, text.size());
+            text.replace(effect.replaced->start, effect.replaced->length, 1, effect.inserted);
+        }
+        if (effect.selection) selection = *effect.selection;
+    }
+
+    std::string drawn() const {
+        std::u16string out = text;
+        if (selection.length == 0) return toUtf8(out.insert(selection.start, u"|"));
+        return toUtf8(out.insert(selection.start + selection.length, u"]").insert(selection.start, u"["));
+    }
+};
+
+struct KeyCase {
+    const char* before;
+    char32_t key;
+    KeyVerdict verdict;
+    const char* after;
+};
+
+void checkKeys(const KeyRules& rules, std::initializer_list<KeyCase> cases) {
+    for (const KeyCase& test : cases) {
+        SCOPED_TRACE(testing::Message() << test.before << " and key " << static_cast<unsigned>(test.key));
+        Box box(test.before);
+        const KeyEffect effect = filterKey(test.key, box.text, box.selection, rules);
+        EXPECT_EQ(effect.verdict, test.verdict);
+        box.apply(effect);
+        EXPECT_EQ(box.drawn(), test.after);
+    }
+}
+
+TEST(NumberKeys, InsertingLetOnlyNumbersThrough) {
+    using enum KeyVerdict;
+    checkKeys({.decimals = 2, .insertMode = true}, {
+                                                       {"1|2", 8, Passed, "1|2"},
+                                                       {"1|2", 27, Passed, "1|2"},
+                                                       {"1|2", 22, Passed, "1|2"},
+                                                       {"1|2", 13, MoveOn, "1|2"},
+                                                       {"1|2", U'5', Passed, "1|2"},
+                                                       {"[12]", U'5', Passed, "[12]"},
+                                                       {"1|2", U'a', Beep, "1|2"},
+                                                       {"1|2", U',', Beep, "1|2"},
+                                                       {"1|2", U' ', Beep, "1|2"},
+                                                       {"1|2", U'\u2212', Beep, "1|2"},
+                                                       {"1|2", U'\U0001F600', Beep, "1|2"},
+                                                       {"1|2", U'-', Swallowed, "-[12]"},
+                                                       {"-1|2", U'-', Swallowed, "-[12]"},
+                                                       {"|", U'-', Swallowed, "-|"},
+                                                       {"(5.0|0)", U'-', Swallowed, "-[(5.00)]"},
+                                                       {"1|2", U'.', Swallowed, "1.[2]"},
+                                                       {"12|", U'.', Swallowed, "12.|"},
+                                                       {"|", U'.', Swallowed, ".|"},
+                                                       {"1[23]4", U'.', Swallowed, "1.[4]"},
+                                                       {"1|2.34", U'.', Swallowed, "1.[34]"},
+                                                       {"12|.34", U'.', Swallowed, "12.[34]"},
+                                                       {"12.|34", U'.', Swallowed, "12.[34]"},
+                                                       {"12.3|4", U'.', Swallowed, "12.[4]"},
+                                                       {"12.34|", U'.', Swallowed, "12.|"},
+                                                       {"[12.34]", U'.', Swallowed, ".[34]"},
+                                                   });
+}
+
+TEST(NumberKeys, OverwritingReplacesTheNextCharacter) {
+    using enum KeyVerdict;
+    checkKeys({.decimals = 2}, {
+                                   {"1|23", U'5', Passed, "1[2]3"},
+                                   {"123|", U'5', Passed, "123|"},
+                                   {"[12]3", U'5', Passed, "[12]3"},
+                                   {"1|\U0001E951", U'5', Passed, "1[\U0001E951]"},
+                                   {"1|23", U'.', Swallowed, "1.[3]"},
+                                   {"123|", U'.', Swallowed, "123.|"},
+                                   {"[1234]", U'.', Swallowed, ".[234]"},
+                                   {"1|2.34", U'.', Swallowed, "1.[34]"},
+                               });
+}
+
+TEST(NumberKeys, FollowTheFieldsState) {
+    using enum KeyVerdict;
+    checkKeys({.decimals = 0}, {{"1|2", U'.', Swallowed, "1|2"}});
+    checkKeys({.decimals = 2, .locked = true}, {
+                                                   {"1|2", U'-', Passed, "1|2"},
+                                                   {"1|2", U'.', Passed, "1|2"},
+                                                   {"1|2", U'5', Passed, "1|2"},
+                                                   {"1|2", U'a', Beep, "1|2"},
+                                                   {"1|2", 13, MoveOn, "1|2"},
+                                               });
+    checkKeys({.decimals = 2, .decimalCharacter = u',', .insertMode = true},
+              {{"1|2", U',', Swallowed, "1,[2]"}, {"1|2", U'.', Beep, "1|2"}});
+    checkKeys({.decimals = 2, .decimalCharacter = u'\u066B', .zeroDigit = U'\u0660', .insertMode = true},
+              {{"1|2", U'\u0665', Passed, "1|2"}, {"1|2", U'\u066B', Swallowed, "1\u066B[2]"}});
+    const KeyEffect far = filterKey(U'.', u"12", {7, 9}, {.decimals = 2, .insertMode = true});
+    EXPECT_EQ(far.replaced, (TextSpan{2, 0})) << "a caret behind the end is at the end";
+}
+
+TEST(NumberPaste, BringsThePlainFormOrNothing) {
+    const struct {
+        const char* before;
+        std::u16string_view pasted;
+        std::int16_t decimals;
+        const char* result;  ///< null: refused
+    } cases[] = {
+        {"[0]", u"1,234.50", 2, "1234.5"}, {"[0]", u"(1,234.50)\r\n", 2, "-1234.5"},
+        {"|", u"12.345", 2, "12.35"},      {"|", u"2.5", 0, "3"},
+        {"[12]", u"0.00", 2, "0"},         {"1.|", u"05", 2, "1.05"},
+        {"1|2", u" 007\n", 2, "10072"},    {"|", u"1E+20", 2, "100000000000000000000"},
+        {"12|", u"-5", 2, nullptr},        {"|12", u"-5", 2, "-512"},
+        {"1.5|", u"2.5", 2, nullptr},      {"1,2|34.50", u"9", 2, nullptr},
+        {"|", u"12abc", 2, nullptr},       {"|", u"", 2, nullptr},
+        {"|", u"1e400", 2, nullptr},       {"|", u"1,23", 2, nullptr},
+        {"|", u"\xD800", 2, nullptr},
+    };
+    for (const auto& test : cases) {
+        SCOPED_TRACE(testing::Message() << test.before << " and " << toUtf8(test.pasted));
+        Box box(test.before);
+        const auto plain = filterPaste(test.pasted, box.text, box.selection, test.decimals, defaultRegion());
+        ASSERT_EQ(plain.has_value(), test.result != nullptr);
+        if (!plain) continue;
+        box.text.replace(box.selection.start, box.selection.length, *plain);
+        EXPECT_EQ(toUtf8(box.text), test.result);
+    }
+}
+
+TEST(NumberText, EditsAsItsPatternPrints) {
+    for (const double value : {0.0, 0.5, -3.25, 12.5, 1234567.0, -0.004, 1e17, 99.995}) {
+        for (const std::int16_t decimals : {std::int16_t{0}, std::int16_t{2}, std::int16_t{16}}) {
+            std::u16string pattern(15, u'#');
+            if (decimals > 0) pattern += u'.' + std::u16string(static_cast<std::size_t>(decimals), u'#');
+            std::u16string expected = FormatExpression(pattern).format(value, defaultRegion());
+            if (expected.ends_with(u'.')) expected.pop_back();
+            EXPECT_EQ(editText(value, decimals, defaultRegion()), expected);
+        }
+    }
+}
+
+TEST(NumberText, ClampsAndSteps) {
+    const double noNumber = std::nan("");
+    EXPECT_EQ(clampNumber(5, 10, 20), 10);
+    EXPECT_EQ(clampNumber(25, 10, 20), 20);
+    EXPECT_EQ(clampNumber(15, 20, 10), 20) << "the lower bound comes first";
+    EXPECT_EQ(clampNumber(noNumber, 10, 20), 20);
+    EXPECT_TRUE(isInRange(10, 10, 20) && isInRange(20, 10, 20));
+    EXPECT_FALSE(isInRange(9.99, 10, 20) || isInRange(20.01, 10, 20) || isInRange(noNumber, 10, 20));
+    EXPECT_EQ(steppedNumber(1.9, -0.05), 1.85);
+    EXPECT_EQ(parseText(u"", 2, defaultRegion()), 0);
+    EXPECT_EQ(parseText(u"1.005", 2, defaultRegion()), 1.01);
+    EXPECT_EQ(parseText(u"abc", 2, defaultRegion()), 0);
+    EXPECT_EQ(parseText(generalNumber(1e20, defaultRegion()), 2, defaultRegion()), 1e20);
+    EXPECT_EQ(numberColor(-0.01), 0x0000FFU);
+    EXPECT_EQ(numberColor(0), 0U);
+}
+
+TEST(NumberText, TellsTheRange) {
+    EXPECT_EQ(toUtf8(rangeMessage(-1000, 20000, 2, false, defaultRegion())),
+              "This field only accepts values from (1,000.00) to 20000.00.");
+    EXPECT_EQ(toUtf8(rangeMessage(1, 1000, 0, true, *findRegion(u"de-DE"))),
+              "This field only accepts values from 1 to 1.000.");
+}
+
+}  // namespace
+}  // namespace kel
