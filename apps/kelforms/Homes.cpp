@@ -7,6 +7,9 @@
 
 #include "platform/qt/QtHome.h"
 #endif
+#ifdef KEL_HAS_WIN32
+#include "platform/win32/Win32Home.h"
+#endif
 
 namespace kel::app {
 
@@ -40,9 +43,27 @@ private:
 
 #endif
 
+#ifdef KEL_HAS_WIN32
+
+class Win32Session final : public HomeSession {
+public:
+    explicit Win32Session(const HomeOptions& options) : Home_(win32::makeHome(options)) {}
+    Home& home() override { return *Home_; }
+    void runUntilClosed() override { win32::runUntilClosed(*Home_); }
+
+private:
+    std::unique_ptr<Home> Home_;
+};
+
+#endif
+
 }  // namespace
 
+#ifdef KEL_HAS_WIN32
+const char* const WindowHome = "win32";
+#else
 const char* const WindowHome = "qt";
+#endif
 
 std::unique_ptr<HomeSession> openHome(const std::string& name, const HomeOptions& options,
                                       [[maybe_unused]] bool withWindow) {
@@ -52,6 +73,9 @@ std::unique_ptr<HomeSession> openHome(const std::string& name, const HomeOptions
         if (!withWindow && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
         return std::make_unique<QtSession>(options);
     }
+#endif
+#ifdef KEL_HAS_WIN32
+    if (name == "win32") return std::make_unique<Win32Session>(options);
 #endif
     throw UsageError("this program has no home \"" + name + "\"");
 }

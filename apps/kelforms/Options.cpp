@@ -16,7 +16,7 @@ const char* const Usage =
     "kelforms shot FORM.frm OUT.png [--locale L]          take a picture of the form\n"
     "kelforms describe [CLASS] [--json|--markdown]        members, events and saved properties\n"
     "\n"
-    "options of play: --on headless|qt, --locale en-GB, --today 2013-03-15, --now 10:15:30,\n"
+    "options of play: --on headless|qt|win32, --locale en-GB, --today 2013-03-15, --now 10:15:30,\n"
     "  --colour-depth 24, --twips-per-pixel 15, --shot FILE.png, --check, --update\n";
 
 namespace {

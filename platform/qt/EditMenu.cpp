@@ -12,21 +12,21 @@ namespace kel::qt {
 namespace {
 
 struct Entry {
-    EditAction action;
     const char* text;  ///< as Qt's own line edit has it translated
     const char* icon;
     QKeySequence::StandardKey key;
+    EditAction action;
     bool beginsGroup;
 };
 
 constexpr Entry Entries[] = {
-    {EditAction::Undo, "&Undo", "edit-undo", QKeySequence::Undo, false},
-    {EditAction::Redo, "&Redo", "edit-redo", QKeySequence::Redo, false},
-    {EditAction::Cut, "Cu&t", "edit-cut", QKeySequence::Cut, true},
-    {EditAction::Copy, "&Copy", "edit-copy", QKeySequence::Copy, false},
-    {EditAction::Paste, "&Paste", "edit-paste", QKeySequence::Paste, false},
-    {EditAction::EraseSelection, "Delete", "edit-delete", QKeySequence::UnknownKey, false},
-    {EditAction::SelectAll, "Select All", "edit-select-all", QKeySequence::SelectAll, true},
+    {"&Undo", "edit-undo", QKeySequence::Undo, EditAction::Undo, false},
+    {"&Redo", "edit-redo", QKeySequence::Redo, EditAction::Redo, false},
+    {"Cu&t", "edit-cut", QKeySequence::Cut, EditAction::Cut, true},
+    {"&Copy", "edit-copy", QKeySequence::Copy, EditAction::Copy, false},
+    {"&Paste", "edit-paste", QKeySequence::Paste, EditAction::Paste, false},
+    {"Delete", "edit-delete", QKeySequence::UnknownKey, EditAction::EraseSelection, false},
+    {"Select All", "edit-select-all", QKeySequence::SelectAll, EditAction::SelectAll, true},
 };
 
 void addEntry(QMenu& menu, EditBox& box, const Entry& entry) {

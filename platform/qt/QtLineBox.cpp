@@ -98,7 +98,9 @@ bool QtLineBox::event(QEvent* event) {
             return event->isAccepted();
         }
         // Qt's line edit would drop the selection when its window comes to the front.
-        return event->type() == QEvent::WindowActivate ? QWidget::event(event) : QLineEdit::event(event);
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+        if (event->type() == QEvent::WindowActivate) return QWidget::event(event);
+        return QLineEdit::event(event);
     });
 }
 

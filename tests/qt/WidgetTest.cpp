@@ -11,6 +11,7 @@
 #include "controls/text/KelText.h"
 #include "library/Dispatch.h"
 #include "platform/qt/QtHome.h"
+#include "platform/qt/VariantBridge.h"
 #include "tests/qt/QtForm.h"
 
 /// A field as a program on Qt, a layout or a designer sees it.
@@ -73,6 +74,27 @@ TEST(Properties, WriteAndReadTheControl) {
     EXPECT_EQ(field.maxLength(), 32767) << "the nearest that fits";
     field.setCaptionWidth(-5);
     EXPECT_EQ(field.captionWidth(), 1500) << "ignored";
+}
+
+TEST(Properties, ValuesComeBackFromQt) {
+    const Variant values[] = {
+        Empty{},
+        Null{},
+        true,
+        std::int32_t{-7},
+        2.5,
+        Date{41348.5},
+        Date{0.75},
+        Date{-1.25},
+        Date{-657434},
+        std::u16string(u"\U0001F600"),
+        StringArray{u"a", u""},
+    };
+    for (const Variant& value : values) EXPECT_EQ(qt::fromQVariant(qt::toQVariant(value)), value) << value.index();
+    EXPECT_EQ(qt::toQVariant(Date{41348.5}), QVariant(QDateTime(QDate(2013, 3, 15), QTime(12, 0))));
+    EXPECT_EQ(qt::fromQVariant(QDate(2013, 3, 15)), Variant(Date{41348}));
+    EXPECT_EQ(qt::fromQVariant(QTime(18, 0)), Variant(Date{0.75}));
+    EXPECT_EQ(qt::fromShort(-40000), Variant(std::int16_t{-32768}));
 }
 
 TEST(Properties, SignalsFollowTheControl) {

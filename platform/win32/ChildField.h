@@ -1,0 +1,86 @@
+#pragma once
+
+#include <windows.h>
+
+#include "host/Keys.h"
+
+namespace kel::win32 {
+
+class Clipboard;
+class ControlWindowOwner;
+class TwipGrid;
+class Win32Label;
+
+/// What a control's window knows of the widgets in it that can have the focus.
+class ChildField {
+public:
+    /// nullptr while there is none.
+    virtual HWND window() const = 0;
+    /// Makes the window in that of the control, as the widget stands.
+    virtual void makeWindow() = 0;
+
+    virtual bool shown() const = 0;
+    /// Enabled and visible, control and all.
+    virtual bool acceptsInput() const = 0;
+
+    virtual void gotFocus() = 0;
+    virtual void lostFocus() = 0;
+
+    /// A key that its host would otherwise take for itself.
+    virtual bool wantsKey(const KeyStroke& stroke) const = 0;
+
+    /// Colours of what the system's window is about to paint.
+    virtual HBRUSH colors(HDC context) const = 0;
+    /// The grid of the frame has another resolution.
+    virtual void rescale() = 0;
+
+    /// Its window says something to its parent.
+    virtual void notified(UINT notification) = 0;
+
+    /// Of the first line of text, in pixels from the top of the control.
+    virtual int baseline() const = 0;
+    /// Paints the field where it stands in the control, whose corner is at `origin`.
+    virtual void draw(HDC context, POINT origin) const = 0;
+
+protected:
+    ~ChildField() = default;
+};
+
+/// What the widgets know of the window they stand in. Outlives them.
+class ControlFrame {
+public:
+    /// nullptr while there is none.
+    virtual HWND window() const = 0;
+    virtual ControlWindowOwner& owner() = 0;
+    virtual const TwipGrid& grid() const = 0;
+    virtual Clipboard& clipboard() = 0;
+    virtual bool enabled() const = 0;
+    /// Enabled and visible.
+    virtual bool acceptsInput() const = 0;
+
+    virtual void add(ChildField& field) = 0;
+    virtual void remove(ChildField& field) = 0;
+    /// It is shown from now on, or no longer.
+    virtual void fieldShown() = 0;
+
+    /// The window of the field has got the focus, or has lost it to `next`.
+    virtual void arrived(ChildField& field) = 0;
+    virtual void departed(ChildField& field, HWND next) = 0;
+    /// The focus goes nowhere when it is in `window`.
+    virtual void takeFocusFrom(HWND window) = 0;
+
+    virtual void setToolTip(HWND field, const wchar_t* text) = 0;
+
+    /// nullptr when it goes.
+    virtual void setLabel(Win32Label* label) = 0;
+    /// The caption is to be placed and painted again.
+    virtual void captionChanged() = 0;
+    virtual void mnemonicChanged() = 0;
+    /// Anything looks different.
+    virtual void viewChanged() = 0;
+
+protected:
+    ~ControlFrame() = default;
+};
+
+}  // namespace kel::win32

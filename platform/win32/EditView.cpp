@@ -1,0 +1,176 @@
+#include "platform/win32/EditView.h"
+
+#include <algorithm>
+
+#include "platform/win32/Look.h"
+#include "platform/win32/WideText.h"
+
+namespace kel::win32 {
+
+namespace {
+
+constexpr WPARAM NoLimit = 0x7FFFFFFE;
+constexpr DWORD LineStyle = ES_AUTOHSCROLL;
+constexpr DWORD LinesStyle = ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | WS_VSCROLL;
+
+const WindowClass& editClass() {
+    static const WindowClass Class(L"KelControls8.Edit", L"EDIT");
+    return Class;
+}
+
+class ChangingScope {
+public:
+    explicit ChangingScope(bool& changing) : Changing_(changing), Before_(std::exchange(changing, true)) {}
+    ~ChangingScope() { Changing_ = Before_; }
+    ChangingScope(const ChangingScope&) = delete;
+    ChangingScope& operator=(const ChangingScope&) = delete;
+
+private:
+    bool& Changing_;
+    bool Before_;
+};
+
+/// Units at `at` that the window shows as they are; 0 when it cannot.
+std::size_t displayableUnits(std::u16string_view text, std::size_t at, bool multiLine) {
+    switch (text[at]) {
+        case u'\0':
+        case u'\n': return 0;
+        case u'\r': return multiLine && at + 1 < text.size() && text[at + 1] == u'\n' ? 2 : 0;
+        default: return 1;
+    }
+}
+
+}  // namespace
+
+bool isDisplayable(std::u16string_view text, bool multiLine) {
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t units = displayableUnits(text, at, multiLine);
+        if (units == 0) return false;
+        at += units;
+    }
+    return true;
+}
+
+std::u16string displayed(std::u16string_view text, bool multiLine) {
+    std::u16string shown(text);
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t units = displayableUnits(text, at, multiLine);
+        if (units == 0) shown[at] = u' ';
+        at += std::max<std::size_t>(units, 1);
+    }
+    return shown;
+}
+
+void EditView::create(HWND parent, const RECT& place, WindowHandler& handler) {
+    Shown_.clear();
+    ShownSelection_ = {};
+    const ChangingScope changing(Changing_);
+    CreateWindowExW(WS_EX_CLIENTEDGE, editClass().name(), L"",
+                    WS_CHILD | WS_TABSTOP | (MultiLine_ ? LinesStyle : LineStyle), place.left, place.top,
+                    widthOf(place), heightOf(place), parent, nullptr, thisModule(), &handler);
+    if (Window_ != nullptr) base(EM_SETLIMITTEXT, NoLimit);
+}
+
+void EditView::destroy() {
+    if (Window_ != nullptr) DestroyWindow(std::exchange(Window_, nullptr));
+}
+
+LRESULT EditView::base(UINT message, WPARAM wide, LPARAM data) const {
+    return CallWindowProcW(editClass().baseProcedure(), Window_, message, wide, data);
+}
+
+void EditView::show(const EditBuffer& buffer) {
+    if (Window_ == nullptr || Changing_) return;
+    const ChangingScope changing(Changing_);
+    if (isDisplayable(buffer.text(), MultiLine_))
+        showText(buffer.text(), buffer);
+    else
+        showText(displayed(buffer.text(), MultiLine_), buffer);
+    showSelection(buffer.selection());
+}
+
+/// Replaces no more than what differs, and in front of the caret rather than behind it, so that the window has
+/// little to paint.
+void EditView::showText(std::u16string_view text, const EditBuffer& buffer) {
+    if (text == Shown_) return;
+    const std::size_t shorter = std::min(text.size(), Shown_.size());
+    const std::size_t behindCaret = std::min(text.size() - buffer.selection().end(), shorter);
+    const auto tail =
+        std::mismatch(text.rbegin(), text.rbegin() + static_cast<std::ptrdiff_t>(behindCaret), Shown_.rbegin());
+    const auto same = static_cast<std::size_t>(tail.first - text.rbegin());
+    const auto head =
+        std::mismatch(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(shorter - same), Shown_.begin());
+    auto from = static_cast<std::size_t>(head.first - text.begin());
+    // The window must not see a line break come in two pieces.
+    if (MultiLine_ && from > 0 && text[from - 1] == u'\r') --from;
+    replace(from, Shown_.size() - same, text.substr(from, text.size() - same - from), buffer.canUndo());
+}
+
+void EditView::replace(std::size_t from, std::size_t to, std::u16string_view text, bool undoable) {
+    const Selection replaced{from, to};
+    const bool jumps = replaced != ShownSelection_ && IsWindowVisible(Window_) != FALSE;
+    if (jumps) base(WM_SETREDRAW, FALSE);
+    if (replaced != ShownSelection_) base(EM_SETSEL, from, static_cast<LPARAM>(to));
+    const std::wstring inserted = wide(text);
+    base(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(inserted.c_str()));
+    // The window's own history only tells its menu whether there is anything to undo.
+    if (!undoable) base(EM_EMPTYUNDOBUFFER);
+    Shown_.replace(from, to - from, text);
+    ShownSelection_ = {from + text.size(), from + text.size()};
+    if (!jumps) return;
+    base(WM_SETREDRAW, TRUE);
+    InvalidateRect(Window_, nullptr, TRUE);
+}
+
+void EditView::showSelection(const Selection& selection) {
+    if (selection == ShownSelection_) {
+        base(EM_SCROLLCARET);
+        return;
+    }
+    ShownSelection_ = selection;
+    base(EM_SETSEL, selection.anchor, static_cast<LPARAM>(selection.caret));
+    base(EM_SCROLLCARET);
+}
+
+Selection EditView::selection() const {
+    DWORD start = 0;
+    DWORD end = 0;
+    base(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    return {start, end};
+}
+
+std::u16string EditView::text() const {
+    std::wstring text(static_cast<std::size_t>(base(WM_GETTEXTLENGTH)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(base(WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
+    return unwiden(text);
+}
+
+bool EditView::showsWhatItWasGiven() const {
+    return static_cast<std::size_t>(base(WM_GETTEXTLENGTH)) == Shown_.size() && text() == Shown_;
+}
+
+POINT EditView::showPosition(std::size_t position) {
+    const ChangingScope changing(Changing_);
+    showSelection({position, position});
+    POINT place{};
+    GetCaretPos(&place);
+    return place;
+}
+
+std::size_t EditView::lineStart(std::size_t position) const {
+    const LRESULT line = base(EM_LINEFROMCHAR, position);
+    return static_cast<std::size_t>(std::max<LRESULT>(base(EM_LINEINDEX, static_cast<WPARAM>(line)), 0));
+}
+
+std::size_t EditView::nextLineStart(std::size_t position) const {
+    const LRESULT line = base(EM_LINEFROMCHAR, position);
+    return static_cast<std::size_t>(std::max<LRESULT>(base(EM_LINEINDEX, static_cast<WPARAM>(line + 1)), 0));
+}
+
+int EditView::textTop() const {
+    RECT area{};
+    base(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&area));
+    return static_cast<int>(area.top);
+}
+
+}  // namespace kel::win32

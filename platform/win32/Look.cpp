@@ -1,0 +1,54 @@
+#include "platform/win32/Look.h"
+
+#include <algorithm>
+#include <cstring>
+#include <iterator>
+
+namespace kel::win32 {
+
+HBRUSH brushFor(HDC context, COLORREF color) {
+    SetDCBrushColor(context, color);
+    return static_cast<HBRUSH>(GetStockObject(DC_BRUSH));
+}
+
+HFONT Font::handle() const {
+    return Handle_ != nullptr ? Handle_ : static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));
+}
+
+void Font::choose(std::u16string_view name, double points, const TwipGrid& grid) {
+    LOGFONTW description{};
+    description.lfHeight = -grid.fontPixels(points);
+    description.lfWeight = bold() ? FW_BOLD : FW_NORMAL;
+    description.lfCharSet = DEFAULT_CHARSET;
+    const std::size_t units = std::min(name.size(), std::size(description.lfFaceName) - 1);
+    std::copy_n(name.begin(), units, std::begin(description.lfFaceName));
+    Points_ = points;
+    if (Handle_ == nullptr || std::memcmp(&description, &Description_, sizeof description) != 0) make(description);
+}
+
+void Font::rescale(const TwipGrid& grid) {
+    if (Points_ <= 0) return;
+    LOGFONTW description = Description_;
+    description.lfHeight = -grid.fontPixels(Points_);
+    make(description);
+}
+
+void Font::setBold(bool bold) {
+    if (bold == this->bold()) return;
+    LOGFONTW description = Description_;
+    if (Handle_ == nullptr) GetObjectW(handle(), sizeof description, &description);
+    description.lfWeight = bold ? FW_BOLD : FW_NORMAL;
+    make(description);
+}
+
+void Font::make(const LOGFONTW& description) {
+    drop();
+    Description_ = description;
+    Handle_ = CreateFontIndirectW(&Description_);
+}
+
+void Font::drop() {
+    if (Handle_ != nullptr) DeleteObject(std::exchange(Handle_, nullptr));
+}
+
+}  // namespace kel::win32

@@ -1,0 +1,84 @@
+#include "platform/win32/PlacedWin32Control.h"
+
+#include "platform/win32/Win32ControlWindow.h"
+#include "platform/win32/Win32TextBox.h"
+
+namespace kel::win32 {
+
+PlacedWin32Control::PlacedWin32Control(const ClassModel& model, const Placement& placement, std::size_t order,
+                                       ControlObserver& observer, const Surroundings& surroundings)
+    : Observer_(observer),
+      Grid_(surroundings.system.twipsPerPixel()),
+      Name_(placement.name),
+      Bounds_(placement.bounds),
+      TabPlace_{placement.tabIndex, order},
+      TabStop_(placement.tabStop) {
+    ControlWindowOwner& owner = *this;
+    Window_ = std::make_unique<Win32ControlWindow>(owner, surroundings.system, surroundings.clipboard);
+    Window_->setParent(surroundings.parent);
+    Window_->setVisible(placement.visible);
+    ControlHost host{*this, Window_->widgets(), surroundings.system, surroundings.settings};
+    Control_ = model.makeControl(host);
+}
+
+PlacedWin32Control::~PlacedWin32Control() {
+    // From here on nobody is told of the focus.
+    Control_.reset();
+    Window_.reset();
+}
+
+void PlacedWin32Control::setBounds(const Rect& bounds) {
+    Bounds_.left = bounds.left;
+    Bounds_.top = bounds.top;
+    setSize({bounds.width, bounds.height});
+    showPlace();
+}
+
+void PlacedWin32Control::setSize(Size wanted) {
+    if (Sized_ && wanted == size()) return;
+    Bounds_.width = wanted.width;
+    Bounds_.height = wanted.height;
+    Sized_ = true;
+    showPlace();
+    if (Control_) Control_->Resize();
+}
+
+void PlacedWin32Control::showPlace() {
+    const RECT pixels = Grid_.pixels(Bounds_);
+    Window_->place(pixels, pixels);
+}
+
+ControlWindow& PlacedWin32Control::window() const { return *Window_; }
+
+void PlacedWin32Control::setGrid(const TwipGrid& grid) {
+    Grid_ = grid;
+    Window_->setGrid(grid);
+    showPlace();
+}
+
+void PlacedWin32Control::setEnabled(bool enabled) {
+    Enabled_ = enabled;
+    Window_->setEnabled(enabled);
+}
+
+std::int32_t PlacedWin32Control::windowHandle() {
+    // Window handles have 32 significant bits in 64-bit processes too.
+    return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(Window_->handle()));
+}
+
+void PlacedWin32Control::focusEntered() {
+    if (Control_) Control_->EnterFocus();
+}
+
+void PlacedWin32Control::focusLeft() {
+    if (Control_) Control_->ExitFocus();
+}
+
+HWND PlacedWin32Control::focusTarget() const {
+    const auto* const field = dynamic_cast<ChildField*>(Control_->widgets().field);
+    return field != nullptr && field->acceptsInput() ? field->window() : nullptr;
+}
+
+Win32TextBox* PlacedWin32Control::textBox() const { return dynamic_cast<Win32TextBox*>(Control_->widgets().textBox); }
+
+}  // namespace kel::win32

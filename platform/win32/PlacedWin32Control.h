@@ -1,0 +1,90 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <utility>
+
+#include "forms/Home.h"
+#include "platform/win32/ControlWindow.h"
+#include "platform/win32/TwipGrid.h"
+
+namespace kel::win32 {
+
+class Clipboard;
+class Win32ControlWindow;
+class Win32TextBox;
+
+/// When the Tab key comes to a control: by tab index, equal ones in the order they were placed.
+using TabPlace = std::pair<std::int32_t, std::size_t>;
+
+/// A control with everything it stands on: its place on the form, its container, its window.
+class PlacedWin32Control final : public PlacedControl, private Container, private ControlWindowOwner {
+public:
+    struct Surroundings {
+        System& system;
+        SharedSettings& settings;
+        std::shared_ptr<Clipboard> clipboard;
+        HWND parent;
+    };
+
+    /// `order` counts the controls placed before.
+    PlacedWin32Control(const ClassModel& model, const Placement& placement, std::size_t order,
+                       ControlObserver& observer, const Surroundings& surroundings);
+    ~PlacedWin32Control() override;
+
+    Control& control() override { return *Control_; }
+    const std::u16string& name() const override { return Name_; }
+    Rect bounds() const override { return Bounds_; }
+    void setBounds(const Rect& bounds) override;
+    std::u16string toolTipText() const override { return ToolTipText_; }
+    void setToolTipText(std::u16string_view text) override { ToolTipText_.assign(text); }
+
+    ControlWindow& window() const;
+    /// The form is on a screen of another resolution.
+    void setGrid(const TwipGrid& grid);
+    const TabPlace& tabPlace() const { return TabPlace_; }
+    bool tabStop() const { return TabStop_; }
+
+    /// The window of the field, where it can take the focus; nullptr where not.
+    HWND focusTarget() const;
+    /// nullptr where the field is none.
+    Win32TextBox* textBox() const;
+
+private:
+    bool hasSize() const override { return Sized_; }
+    Size size() const override { return {Bounds_.width, Bounds_.height}; }
+    void setSize(Size size) override;
+    bool enabled() const override { return Enabled_; }
+    void setEnabled(bool enabled) override;
+    std::int32_t windowHandle() override;
+    std::u16string displayName() const override { return Name_; }
+    void propertyChanged(std::u16string_view bagName) override { Observer_.propertyReported(*this, bagName); }
+    void raiseEvent(const EventRow& event, std::span<Variant> arguments) override {
+        Observer_.controlEvent(*this, event, arguments);
+    }
+
+    /// The form keeps its controls while it has a window.
+    void holdOpen() override {}
+    void letGo() override {}
+    void focusEntered() override;
+    void focusLeft() override;
+    void viewChanged() override {}
+    void mnemonicChanged() override {}
+
+    void showPlace();
+
+    ControlObserver& Observer_;
+    TwipGrid Grid_;
+    std::u16string Name_;
+    std::u16string ToolTipText_;
+    Rect Bounds_;
+    TabPlace TabPlace_;
+    bool TabStop_;
+    bool Enabled_ = true;
+    bool Sized_ = false;
+    std::unique_ptr<Win32ControlWindow> Window_;
+    std::unique_ptr<Control> Control_;  ///< last, so that it goes before all it stands on
+};
+
+}  // namespace kel::win32

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <vector>
+
+#include "platform/win32/ChildField.h"
+#include "platform/win32/Clipboard.h"
+#include "platform/win32/ControlWindow.h"
+#include "platform/win32/FocusWatch.h"
+#include "platform/win32/TwipGrid.h"
+#include "platform/win32/Win32Label.h"
+#include "platform/win32/WindowClass.h"
+
+namespace kel::win32 {
+
+class Win32ControlWindow final : public ControlWindow,
+                                 private ControlFrame,
+                                 private WidgetFactory,
+                                 private WindowHandler {
+public:
+    Win32ControlWindow(ControlWindowOwner& owner, System& system, std::shared_ptr<Clipboard> clipboard)
+        : Owner_(owner), Grid_(system.twipsPerPixel()), Clipboard_(std::move(clipboard)), Focus_(owner) {}
+    ~Win32ControlWindow() override;
+
+    WidgetFactory& widgets() override { return *this; }
+    HWND handle() override;
+    void setParent(HWND parent) override;
+    void place(const RECT& bounds, const RECT& clip) override;
+    void setVisible(bool visible) override;
+    void setEnabled(bool enabled) override;
+    void setFocus() override;
+    bool hasFocus() const override;
+    bool translateAccelerator(MSG& message) override;
+    char16_t mnemonic() const override { return Label_ != nullptr ? Label_->mnemonic() : u'\0'; }
+    void pressMnemonic() override { setFocus(); }
+    void draw(HDC context, const RECT& bounds) override;
+
+    /// The screen that the window is on has another resolution.
+    void setGrid(const TwipGrid& grid);
+
+private:
+    std::unique_ptr<Label> makeLabel() override;
+    std::unique_ptr<TextBox> makeTextBox(TextBoxListener& listener, bool multiLine) override;
+
+    HWND window() const override { return Window_; }
+    ControlWindowOwner& owner() override { return Owner_; }
+    const TwipGrid& grid() const override { return Grid_; }
+    Clipboard& clipboard() override { return *Clipboard_; }
+    bool enabled() const override { return Enabled_; }
+    bool acceptsInput() const override { return Enabled_ && Visible_; }
+    void add(ChildField& field) override;
+    void remove(ChildField& field) override;
+    void fieldShown() override { captionChanged(); }
+    void arrived(ChildField& field) override { Focus_.arrived(Window_, field); }
+    void departed(ChildField& /*field*/, HWND next) override { Focus_.departed(Window_, next); }
+    void takeFocusFrom(HWND window) override;
+    void setToolTip(HWND field, const wchar_t* text) override;
+    void setLabel(Win32Label* label) override;
+    void captionChanged() override;
+    void mnemonicChanged() override { Owner_.mnemonicChanged(); }
+    void viewChanged() override { Owner_.viewChanged(); }
+
+    LRESULT handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) override;
+    LRESULT handle(HWND window, UINT message, WPARAM wide, LPARAM data);
+    int height() const { return heightOf(Bounds_); }
+    void drawCaption(HDC context, const RECT& area) const;
+    void drawLabelWindow(const DRAWITEMSTRUCT& item) const;
+
+    void makeWindow(HWND parent);
+    HWND parkingWindow();
+    ChildField* fieldOf(HWND window) const;
+    ChildField* shownField() const;
+
+    ControlWindowOwner& Owner_;
+    TwipGrid Grid_;
+    std::shared_ptr<Clipboard> Clipboard_;
+    FocusWatch Focus_;
+    std::vector<ChildField*> Fields_;
+    Win32Label* Label_ = nullptr;
+    HWND Window_ = nullptr;
+    HWND Parking_ = nullptr;  ///< the parent that nobody sees
+    HWND ToolTips_ = nullptr;
+    RECT Bounds_{};
+    bool Enabled_ = true;
+    bool Visible_ = false;
+};
+
+}  // namespace kel::win32

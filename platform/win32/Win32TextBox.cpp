@@ -1,0 +1,204 @@
+#include "platform/win32/Win32TextBox.h"
+
+#include <algorithm>
+
+#include "platform/win32/Clipboard.h"
+#include "platform/win32/ControlWindow.h"
+#include "platform/win32/WideText.h"
+#include "values/TextBoundaries.h"
+
+namespace kel::win32 {
+
+namespace {
+
+constexpr int EdgeWidth = 2;  ///< of the sunken edge, pixels
+constexpr int TextGap = 1;    ///< between edge and text, pixels
+
+}  // namespace
+
+Win32TextBox::Win32TextBox(ControlFrame& frame, TextBoxListener& listener, bool multiLine)
+    : Win32Widget(frame, colors::SystemWindowText), Editor_(listener, *this, multiLine), View_(multiLine) {
+    frame.add(*this);
+}
+
+Win32TextBox::~Win32TextBox() {
+    frame().remove(*this);
+    View_.destroy();
+}
+
+// ---- The window
+
+void Win32TextBox::makeWindow() {
+    if (window() != nullptr) return;
+    View_.create(frame().window(), pixels(), *this);
+    if (window() == nullptr) return;
+    SendMessageW(window(), WM_SETFONT, reinterpret_cast<WPARAM>(font().handle()), FALSE);
+    View_.base(EM_SETREADONLY, locked());
+    showPasswordChar();
+    View_.show(buffer());
+    EnableWindow(window(), enabled());
+    frame().setToolTip(window(), wide(ToolTip_).c_str());
+    if (Visible_) ShowWindow(window(), SW_SHOWNA);
+}
+
+void Win32TextBox::placeChanged() {
+    const RECT place = pixels();
+    if (window() != nullptr)
+        SetWindowPos(window(), nullptr, place.left, place.top, widthOf(place), heightOf(place),
+                     SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+    frame().captionChanged();
+}
+
+void Win32TextBox::enabledChanged() {
+    if (!enabled()) frame().takeFocusFrom(window());
+    if (window() != nullptr) EnableWindow(window(), enabled());
+    refresh();
+}
+
+void Win32TextBox::setVisible(bool visible) {
+    if (visible == Visible_) return;
+    Visible_ = visible;
+    if (!visible) frame().takeFocusFrom(window());
+    if (window() != nullptr) ShowWindow(window(), visible ? SW_SHOWNA : SW_HIDE);
+    frame().fieldShown();
+}
+
+void Win32TextBox::fontChanged() {
+    if (window() != nullptr) SendMessageW(window(), WM_SETFONT, reinterpret_cast<WPARAM>(font().handle()), TRUE);
+    frame().captionChanged();
+}
+
+void Win32TextBox::rescale() {
+    rescaleFont();
+    placeChanged();
+}
+
+void Win32TextBox::setBackColor(Color color) {
+    if (color == BackColor_) return;
+    BackColor_ = color;
+    refresh();
+}
+
+void Win32TextBox::setToolTip(std::u16string_view text) {
+    if (text == ToolTip_) return;
+    ToolTip_.assign(text);
+    if (window() != nullptr) frame().setToolTip(window(), wide(ToolTip_).c_str());
+}
+
+void Win32TextBox::setLocked(bool locked) {
+    if (locked == this->locked()) return;
+    Editor_.setLocked(locked);
+    if (window() != nullptr) View_.base(EM_SETREADONLY, locked);
+    refresh();
+}
+
+void Win32TextBox::setPasswordChar(char16_t character) {
+    if (character == passwordChar()) return;
+    Editor_.setPasswordChar(character);
+    showPasswordChar();
+    refresh();
+}
+
+void Win32TextBox::showPasswordChar() {
+    if (window() != nullptr && !buffer().multiLine()) View_.base(EM_SETPASSWORDCHAR, passwordChar());
+}
+
+void Win32TextBox::setFocus() {
+    if (window() != nullptr && acceptsInput()) SetFocus(window());
+}
+
+void Win32TextBox::refresh() {
+    if (window() != nullptr) InvalidateRect(window(), nullptr, TRUE);
+    frame().viewChanged();
+}
+
+HBRUSH Win32TextBox::colors(HDC context) const {
+    const bool grey = !enabled() || !frame().enabled();
+    const COLORREF back = colorOf(BackColor_);
+    SetTextColor(context, grey ? GetSysColor(COLOR_GRAYTEXT) : colorOf(foreColor()));
+    SetBkColor(context, back);
+    return brushFor(context, back);
+}
+
+// ---- Around the buffer
+
+void Win32TextBox::bufferChanged() {
+    View_.show(buffer());
+    frame().viewChanged();
+}
+
+std::u16string Win32TextBox::clipboardText() { return frame().clipboard().text(window()); }
+
+void Win32TextBox::setClipboardText(std::u16string_view text) { frame().clipboard().setText(window(), text); }
+
+int Win32TextBox::lineHeight() const {
+    const WindowContext context(window());
+    const Selected selected(context.get(), font().handle());
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(context.get(), &metrics);
+    return std::max(1, static_cast<int>(metrics.tmHeight));
+}
+
+/// The window breaks long lines at its edge.
+TextLine Win32TextBox::lineAt(std::size_t position) const {
+    const TextLine whole = buffer().lineAt(position);
+    if (window() == nullptr) return whole;
+    TextLine line = whole;
+    line.start = std::max(line.start, View_.lineStart(position));
+    const std::size_t next = View_.nextLineStart(position);
+    if (next <= position || next > whole.end) return line;
+    line.next = next;
+    line.end = previousCharacter(buffer().text(), next, true);
+    line.isLast = false;
+    return line;
+}
+
+std::ptrdiff_t Win32TextBox::linesOfPage() const {
+    return std::max(1, (heightOf(pixels()) - 2 * (EdgeWidth + TextGap)) / lineHeight());
+}
+
+/// Somebody has changed the window past us: that is the text from now on.
+void Win32TextBox::notified(UINT notification) {
+    if (notification != EN_CHANGE || View_.changing() || View_.showsWhatItWasGiven()) return;
+    const Selection selection = View_.selection();
+    Editor_.setText(View_.text());
+    Editor_.select(selection);
+}
+
+POINT Win32TextBox::showPosition(std::int32_t position) {
+    return View_.showPosition(static_cast<std::size_t>(std::clamp(position, 0, textLength())));
+}
+
+// ---- Picture
+
+int Win32TextBox::baseline() const {
+    const WindowContext context(window());
+    const Selected selected(context.get(), font().handle());
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(context.get(), &metrics);
+    const int top = EdgeWidth + (window() != nullptr ? View_.textTop() : TextGap);
+    return static_cast<int>(pixels().top) + top + static_cast<int>(metrics.tmAscent);
+}
+
+std::wstring Win32TextBox::drawnText() const {
+    return Editor_.isPassword() ? std::wstring(buffer().text().size(), static_cast<wchar_t>(passwordChar()))
+                                : wide(displayed(buffer().text(), buffer().multiLine()));
+}
+
+void Win32TextBox::draw(HDC context, POINT origin) const {
+    const SavedContext saved(context);
+    RECT area = pixels();
+    OffsetRect(&area, origin.x, origin.y);
+    if (area.right <= area.left || area.bottom <= area.top) return;
+    FillRect(context, &area, colors(context));
+    DrawEdge(context, &area, EDGE_SUNKEN, BF_RECT | BF_ADJUST);
+    IntersectClipRect(context, area.left, area.top, area.right, area.bottom);
+    InflateRect(&area, -TextGap, -TextGap);
+    SelectObject(context, font().handle());
+    SetBkMode(context, TRANSPARENT);
+    const std::wstring text = drawnText();
+    const UINT flags = DT_NOPREFIX | (buffer().multiLine() ? DT_WORDBREAK | DT_EDITCONTROL : DT_SINGLELINE);
+    DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &area, flags);
+}
+
+}  // namespace kel::win32

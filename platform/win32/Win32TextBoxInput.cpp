@@ -1,0 +1,323 @@
+#include <windows.h>
+#include <windowsx.h>
+// The input methods' header stands on the system's.
+#include <imm.h>
+
+#include <algorithm>
+
+#include "platform/win32/ControlWindow.h"
+#include "platform/win32/WideText.h"
+#include "platform/win32/Win32TextBox.h"
+#include "values/Text.h"
+
+/// What comes to the window of an edit box: keys, mouse, menus, input methods and other programs.
+namespace kel::win32 {
+
+namespace {
+
+constexpr char16_t DeleteCharacter = 127;  ///< what Ctrl and Backspace make; no character to type
+
+constexpr std::int32_t NoLimit = 0x7FFFFFFE;  ///< as the edit window says it
+
+bool isControl(char32_t character) { return character < U' ' || character == DeleteCharacter; }
+
+bool isTab(std::int16_t code, Modifiers modifiers) { return code == keys::Tab && (modifiers & ControlKey) == 0; }
+
+/// The characters that the key press in hand has made, off the queue. They come with the press's own data.
+std::u16string takeCharacters(HWND window, LPARAM pressData) {
+    std::u16string units;
+    MSG message{};
+    while (PeekMessageW(&message, window, WM_CHAR, WM_CHAR, PM_NOREMOVE | PM_NOYIELD) != FALSE &&
+           message.lParam == pressData) {
+        PeekMessageW(&message, window, WM_CHAR, WM_CHAR, PM_REMOVE | PM_NOYIELD);
+        units += static_cast<char16_t>(message.wParam);
+    }
+    return units;
+}
+
+char32_t takeFirst(std::u16string_view& units) { return units.empty() ? 0 : takeCodePoint(units); }
+
+/// The action that a message of the edit window asks for.
+EditAction actionOf(UINT message) {
+    switch (message) {
+        case WM_CUT: return EditAction::Cut;
+        case WM_COPY: return EditAction::Copy;
+        case WM_PASTE: return EditAction::Paste;
+        case WM_CLEAR: return EditAction::EraseSelection;
+        case WM_UNDO:
+        case EM_UNDO: return EditAction::Undo;
+        default: return EditAction::None;
+    }
+}
+
+class InputContext {
+public:
+    explicit InputContext(HWND window) : Window_(window), Context_(ImmGetContext(window)) {}
+    ~InputContext() {
+        if (Context_ != nullptr) ImmReleaseContext(Window_, Context_);
+    }
+    InputContext(const InputContext&) = delete;
+    InputContext& operator=(const InputContext&) = delete;
+
+    HIMC get() const { return Context_; }
+
+private:
+    HWND Window_;
+    HIMC Context_;
+};
+
+}  // namespace
+
+Modifiers modifiersDown() {
+    Modifiers modifiers = NoModifier;
+    if (GetKeyState(VK_SHIFT) < 0) modifiers = modifiers | ShiftKey;
+    if (GetKeyState(VK_CONTROL) < 0) modifiers = modifiers | ControlKey;
+    if (GetKeyState(VK_MENU) < 0) modifiers = modifiers | AltKey;
+    return modifiers;
+}
+
+LRESULT Win32TextBox::handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) {
+    if (View_.window() == nullptr) View_.adopt(window);
+    ControlWindowOwner& owner = frame().owner();
+    owner.holdOpen();
+    const LRESULT result = atEdge([&] { return handle(message, wide, data); });
+    owner.letGo();
+    return result;
+}
+
+LRESULT Win32TextBox::handle(UINT message, WPARAM wide, LPARAM data) {
+    LRESULT result = 0;
+    if (handleText(message, wide, data, result) || handleKey(message, wide, data, result) ||
+        handleInputMethod(message, wide, data, result) || handleMouse(message, wide, data, result))
+        return result;
+    switch (message) {
+        case WM_SETFOCUS:
+            result = View_.base(message, wide, data);
+            frame().arrived(*this);
+            return result;
+        case WM_KILLFOCUS:
+            result = View_.base(message, wide, data);
+            frame().departed(*this, reinterpret_cast<HWND>(wide));
+            return result;
+        case WM_NCDESTROY:
+            result = View_.base(message, wide, data);
+            View_.forget();
+            return result;
+        default: return View_.base(message, wide, data);
+    }
+}
+
+LRESULT Win32TextBox::defaultFor(UINT message, WPARAM wide, LPARAM data) const {
+    return DefWindowProcW(window(), message, wide, data);
+}
+
+// ---- Text and selection
+
+bool Win32TextBox::handleText(UINT message, WPARAM wide, LPARAM data, LRESULT& result) {
+    if (View_.changing()) return false;
+    if (const EditAction action = actionOf(message); action != EditAction::None) {
+        result = Editor_.offers(action);
+        Editor_.perform(action);
+        return true;
+    }
+    switch (message) {
+        case WM_SETTEXT:
+            Editor_.setText(data != 0 ? unwiden(reinterpret_cast<const wchar_t*>(data)) : std::u16string());
+            result = TRUE;
+            return true;
+        case WM_GETTEXTLENGTH: result = textLength(); return true;
+        case WM_GETTEXT:
+            // The system knows which other programs may not read a password.
+            if (Editor_.isPassword() && InSendMessage() != FALSE) return false;
+            result = copyText(wide, reinterpret_cast<wchar_t*>(data));
+            return true;
+        case EM_SETSEL: selectFromOutside(wide, data); return true;
+        case EM_REPLACESEL:
+            if (data != 0) Editor_.setSelText(unwiden(reinterpret_cast<const wchar_t*>(data)));
+            return true;
+        case EM_SETLIMITTEXT: setMaxLength(static_cast<std::int32_t>(std::min<WPARAM>(wide, NoLimit))); return true;
+        case EM_GETLIMITTEXT: result = maxLength() > 0 ? maxLength() : NoLimit; return true;
+        case EM_SETPASSWORDCHAR: setPasswordChar(static_cast<char16_t>(wide)); return true;
+        case EM_SETREADONLY:
+            setLocked(wide != 0);
+            result = TRUE;
+            return true;
+        case EM_CANUNDO: result = Editor_.offers(EditAction::Undo); return true;
+        default: return false;
+    }
+}
+
+LRESULT Win32TextBox::copyText(std::size_t capacity, wchar_t* out) const {
+    if (capacity == 0 || out == nullptr) return 0;
+    const std::u16string& text = buffer().text();
+    const std::size_t units = std::min(capacity - 1, text.size());
+    std::copy_n(text.begin(), units, out);
+    out[units] = L'\0';
+    return static_cast<LRESULT>(units);
+}
+
+/// -1 is no selection as a start, and the end of the text as an end.
+void Win32TextBox::selectFromOutside(WPARAM start, LPARAM end) {
+    const auto from = static_cast<std::int32_t>(start);
+    const auto to = static_cast<std::int32_t>(end);
+    const Selection now = buffer().selection();
+    const auto place = [this](std::int32_t position) {
+        return position < 0 ? buffer().text().size() : static_cast<std::size_t>(position);
+    };
+    Editor_.select(from < 0 ? Selection{now.caret, now.caret} : Selection{place(from), place(to)});
+}
+
+// ---- Keys
+
+bool Win32TextBox::wantsKey(const KeyStroke& stroke) const {
+    if (isTab(stroke.code, stroke.modifiers) || (stroke.modifiers & AltKey) != 0) return false;
+    if (stroke.code == keys::Enter) return (stroke.modifiers & ControlKey) == 0;
+    const bool movesCaret = stroke.code >= keys::PageUp && stroke.code <= keys::Down;
+    return movesCaret || claimsKey(stroke, locked());
+}
+
+bool Win32TextBox::handleKey(UINT message, WPARAM wide, LPARAM data, LRESULT& result) {
+    switch (message) {
+        case WM_GETDLGCODE: {
+            result = DLGC_WANTARROWS | DLGC_WANTCHARS;
+            const auto* const asked = reinterpret_cast<const MSG*>(data);
+            if (asked != nullptr && asked->wParam == VK_RETURN) result |= DLGC_WANTMESSAGE;
+            return true;
+        }
+        case WM_KEYDOWN:
+        case WM_SYSKEYDOWN:
+            if (wide == VK_PROCESSKEY || !keyDown(static_cast<std::int16_t>(wide), data))
+                result = defaultFor(message, wide, data);
+            return true;
+        case WM_KEYUP:
+        case WM_SYSKEYUP:
+        case WM_SYSCHAR: result = defaultFor(message, wide, data); return true;
+        case WM_CHAR:
+        case WM_IME_CHAR: unitTyped(static_cast<char16_t>(wide)); return true;
+        case WM_UNICHAR:
+            result = wide == UNICODE_NOCHAR;
+            if (wide != UNICODE_NOCHAR) Editor_.strikeCharacter(static_cast<char32_t>(wide), NoModifier);
+            return true;
+        default: return false;
+    }
+}
+
+/// The key together with what it types, so that handlers that swallow the one swallow the other, and a message
+/// box that a handler opens does not find the character in the queue. False when it is the system's to handle.
+bool Win32TextBox::keyDown(std::int16_t code, LPARAM data) {
+    const std::u16string units = takeCharacters(window(), data);
+    const Modifiers modifiers = modifiersDown();
+    if (isTab(code, modifiers)) return false;
+    std::u16string_view rest = units;
+    const char32_t character = takeFirst(rest);
+    const bool used = Editor_.strike({code, isControl(character) ? 0 : character, modifiers});
+    // A key of a rich layout may make several characters.
+    if (!isControl(character)) Editor_.typeCommitted(rest);
+    return used;
+}
+
+/// A character that came without a key.
+void Win32TextBox::unitTyped(char16_t unit) {
+    if (isHighSurrogate(unit)) {
+        FirstHalf_ = unit;
+        return;
+    }
+    const char16_t pair[] = {std::exchange(FirstHalf_, u'\0'), unit};
+    std::u16string_view units(pair + (pair[0] == 0 || !isLowSurrogate(unit) ? 1 : 0), pair + 2);
+    if (unit != keys::Tab && unit != DeleteCharacter) Editor_.strikeCharacter(takeCodePoint(units), modifiersDown());
+}
+
+// ---- Input methods
+
+/// The method shows what is being composed in a window of its own; only what is finished comes in here.
+bool Win32TextBox::handleInputMethod(UINT message, WPARAM wide, LPARAM data, LRESULT& result) {
+    switch (message) {
+        case WM_IME_STARTCOMPOSITION: placeInputMethod(); break;
+        case WM_IME_COMPOSITION:
+            if ((data & GCS_RESULTSTR) != 0) takeCommitted();
+            data &= ~static_cast<LPARAM>(GCS_RESULTSTR);
+            if (data == 0) return true;
+            break;
+        case WM_IME_ENDCOMPOSITION:
+        case WM_IME_NOTIFY: break;
+        default: return false;
+    }
+    result = defaultFor(message, wide, data);
+    return true;
+}
+
+void Win32TextBox::placeInputMethod() const {
+    const InputContext context(window());
+    if (context.get() == nullptr) return;
+    COMPOSITIONFORM place{};
+    place.dwStyle = CFS_POINT;
+    GetCaretPos(&place.ptCurrentPos);
+    ImmSetCompositionWindow(context.get(), &place);
+    LOGFONTW description{};
+    if (GetObjectW(font().handle(), sizeof description, &description) != 0)
+        ImmSetCompositionFontW(context.get(), &description);
+}
+
+void Win32TextBox::takeCommitted() {
+    std::wstring text;
+    {
+        const InputContext context(window());
+        if (context.get() == nullptr) return;
+        const LONG bytes = ImmGetCompositionStringW(context.get(), GCS_RESULTSTR, nullptr, 0);
+        if (bytes <= 0) return;
+        text.resize(static_cast<std::size_t>(bytes) / sizeof(wchar_t));
+        ImmGetCompositionStringW(context.get(), GCS_RESULTSTR, text.data(), static_cast<DWORD>(bytes));
+    }
+    Editor_.typeCommitted(unwiden(text));
+}
+
+// ---- Mouse
+
+bool Win32TextBox::handleMouse(UINT message, WPARAM wide, LPARAM data, LRESULT& result) {
+    switch (message) {
+        case WM_LBUTTONDOWN:
+        case WM_RBUTTONDOWN:
+        case WM_MBUTTONDOWN: pressed(message, wide, data); return true;
+        case WM_LBUTTONUP: {
+            result = View_.base(message, wide, data);
+            readSelection();
+            RECT area{};
+            GetClientRect(window(), &area);
+            const POINT place{GET_X_LPARAM(data), GET_Y_LPARAM(data)};
+            if (std::exchange(LeftPressed_, false) && PtInRect(&area, place) != FALSE) Editor_.click();
+            return true;
+        }
+        case WM_MOUSEMOVE:
+        case WM_LBUTTONDBLCLK:
+        case WM_TIMER:
+            result = View_.base(message, wide, data);
+            if (message != WM_MOUSEMOVE || (wide & MK_LBUTTON) != 0) readSelection();
+            return true;
+        default: return false;
+    }
+}
+
+/// The focus comes first, with all that the field does then; the caret is set into what stands there after it.
+void Win32TextBox::pressed(UINT message, WPARAM wide, LPARAM data) {
+    if (GetFocus() != window()) setFocus();
+    if (window() == nullptr || !acceptsInput()) return;
+    const bool left = message == WM_LBUTTONDOWN;
+    View_.base(message, wide, data);
+    if (left) readSelection();
+    LeftPressed_ = left;
+    if (left)
+        Editor_.pressMouse(MouseButton::Left);
+    else
+        Editor_.pressMouse(message == WM_RBUTTONDOWN ? MouseButton::Right : MouseButton::Middle);
+}
+
+/// The window's ends come in order: the one that stood before is where the selection was begun.
+void Win32TextBox::readSelection() {
+    if (window() == nullptr) return;
+    Selection seen = View_.selection();
+    if (!seen.empty() && buffer().selection().anchor == seen.end()) seen = {seen.caret, seen.anchor};
+    View_.selectionIs(seen);
+    if (seen != buffer().selection()) Editor_.select(seen);
+}
+
+}  // namespace kel::win32

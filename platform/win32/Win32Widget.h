@@ -1,0 +1,71 @@
+#pragma once
+
+#include "host/Widgets.h"
+#include "platform/win32/ChildField.h"
+#include "platform/win32/Look.h"
+
+namespace kel::win32 {
+
+/// What every widget keeps, whether it has a window or not. `Base` is one of the widget interfaces.
+template <class Base>
+class Win32Widget : public Base {
+public:
+    Rect bounds() const override { return Bounds_; }
+    void move(const Rect& bounds) override {
+        if (bounds == Bounds_) return;
+        Bounds_ = bounds;
+        placeChanged();
+    }
+
+    bool enabled() const override { return Enabled_; }
+    void setEnabled(bool enabled) override {
+        if (enabled == Enabled_) return;
+        Enabled_ = enabled;
+        enabledChanged();
+    }
+
+    Color foreColor() const override { return ForeColor_; }
+    void setForeColor(Color color) override {
+        if (color == ForeColor_) return;
+        ForeColor_ = color;
+        refresh();
+    }
+
+    void setFont(std::u16string_view name, double size) override {
+        Font_.choose(name, size, Frame_.grid());
+        fontChanged();
+    }
+    bool fontBold() const override { return Font_.bold(); }
+    void setFontBold(bool bold) override {
+        Font_.setBold(bold);
+        fontChanged();
+    }
+
+    void refresh() override = 0;
+
+protected:
+    Win32Widget(ControlFrame& frame, Color foreColor) : Frame_(frame), ForeColor_(foreColor) {}
+
+    ControlFrame& frame() const { return Frame_; }
+    const Font& font() const { return Font_; }
+    RECT pixels() const { return Frame_.grid().pixels(Bounds_); }
+
+    /// The grid of the frame has another resolution.
+    void rescaleFont() {
+        Font_.rescale(Frame_.grid());
+        fontChanged();
+    }
+
+private:
+    virtual void placeChanged() = 0;
+    virtual void enabledChanged() = 0;
+    virtual void fontChanged() = 0;
+
+    ControlFrame& Frame_;
+    Rect Bounds_;
+    Font Font_;
+    Color ForeColor_;
+    bool Enabled_ = true;
+};
+
+}  // namespace kel::win32

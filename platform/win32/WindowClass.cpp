@@ -1,0 +1,60 @@
+#include "platform/win32/WindowClass.h"
+
+namespace kel::win32 {
+
+namespace {
+
+/// Behind all that the system itself keeps with a window.
+int placeOfHandler(HWND window) {
+    return static_cast<int>(GetClassLongW(window, GCL_CBWNDEXTRA)) - static_cast<int>(sizeof(WindowHandler*));
+}
+
+WindowHandler* handlerIn(LPARAM creation) {
+    return static_cast<WindowHandler*>(reinterpret_cast<const CREATESTRUCTW*>(creation)->lpCreateParams);
+}
+
+LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wide, LPARAM data) {
+    const int place = placeOfHandler(window);
+    if (message == WM_NCCREATE) SetWindowLongPtrW(window, place, reinterpret_cast<LONG_PTR>(handlerIn(data)));
+    auto* const handler = reinterpret_cast<WindowHandler*>(GetWindowLongPtrW(window, place));
+    if (message == WM_NCDESTROY) SetWindowLongPtrW(window, place, 0);
+    if (handler == nullptr) return DefWindowProcW(window, message, wide, data);
+    return atEdge([&] { return handler->handleMessage(window, message, wide, data); });
+}
+
+}  // namespace
+
+HINSTANCE thisModule() {
+    HMODULE module = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                       reinterpret_cast<LPCWSTR>(&thisModule), &module);
+    return module;
+}
+
+WindowClass::WindowClass(const wchar_t* name) : Name_(name) {
+    WNDCLASSEXW spec{};
+    spec.cbSize = sizeof spec;
+    spec.lpfnWndProc = &procedure;
+    spec.cbWndExtra = sizeof(WindowHandler*);
+    spec.hInstance = thisModule();
+    spec.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    spec.hbrBackground = reinterpret_cast<HBRUSH>(INT_PTR{COLOR_BTNFACE + 1});
+    spec.lpszClassName = name;
+    RegisterClassExW(&spec);
+}
+
+WindowClass::WindowClass(const wchar_t* name, const wchar_t* base) : Name_(name) {
+    WNDCLASSEXW spec{};
+    spec.cbSize = sizeof spec;
+    GetClassInfoExW(nullptr, base, &spec);
+    Base_ = std::exchange(spec.lpfnWndProc, &procedure);
+    spec.cbWndExtra += static_cast<int>(sizeof(WindowHandler*));
+    spec.hInstance = thisModule();
+    spec.lpszClassName = name;
+    spec.style &= ~static_cast<UINT>(CS_GLOBALCLASS);
+    RegisterClassExW(&spec);
+}
+
+WindowClass::~WindowClass() { UnregisterClassW(Name_, thisModule()); }
+
+}  // namespace kel::win32

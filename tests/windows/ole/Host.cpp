@@ -1,0 +1,126 @@
+#include "tests/windows/ole/Host.h"
+
+#include <algorithm>
+
+#include "tests/windows/ole/Check.h"
+
+namespace kel::tests {
+
+HRESULT Bag::Read(LPCOLESTR name, VARIANT* value, IErrorLog* /*log*/) {
+    if (OnRead) OnRead();
+    const auto found = Texts.find(name);
+    if (found == Texts.end()) return E_INVALIDARG;
+    value->vt = VT_BSTR;
+    value->bstrVal = SysAllocString(found->second.c_str());
+    return S_OK;
+}
+
+HRESULT Bag::Write(LPCOLESTR name, VARIANT* value) {
+    Var text;
+    EXPECT_CODE(VariantChangeType(&text.Value, value, VARIANT_ALPHABOOL, VT_BSTR), S_OK);
+    Written.push_back(std::wstring(name) + L"=" + text.Value.bstrVal);
+    return S_OK;
+}
+
+HRESULT Extender::GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) {
+    ids[0] = std::wstring(names[0]) == L"ToolTipText" ? 5 : DISPID_UNKNOWN;
+    return ids[0] == 5 ? S_OK : DISP_E_UNKNOWNNAME;
+}
+
+HRESULT Extender::Invoke(DISPID, REFIID, LCID, WORD flags, DISPPARAMS* arguments, VARIANT* result, EXCEPINFO*, UINT*) {
+    if ((flags & DISPATCH_PROPERTYPUT) != 0) {
+        ToolTipText = arguments->rgvarg[0].bstrVal;
+        return S_OK;
+    }
+    result->vt = VT_BSTR;
+    result->bstrVal = SysAllocString(ToolTipText.c_str());
+    return S_OK;
+}
+
+Host::Host() {
+    Window_ = CreateWindowExW(0, L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 400, 300, nullptr, nullptr,
+                              GetModuleHandleW(nullptr), nullptr);
+    EXPECT(Window_ != nullptr);
+}
+
+Host::~Host() {
+    At.clear();
+    if (Object_) {
+        Object_->Close(OLECLOSE_NOSAVE);
+        Object_->SetClientSite(nullptr);
+    }
+    Object_.reset();
+    DestroyWindow(Window_);
+}
+
+Ref<_KelText> Host::place() {
+    auto made = makeText();
+    Object_ = made.as<IOleObject>();
+    EXPECT_CODE(Object_->SetClientSite(this), S_OK);
+    advise(made.get(), IID_IPropertyNotifySink, static_cast<IPropertyNotifySink*>(this));
+    return made;
+}
+
+HRESULT Host::verb(LONG verb) {
+    const Ref<IOleObject> held = Object_;
+    return held->DoVerb(verb, nullptr, this, 0, Window_, &Bounds);
+}
+
+bool Host::called(const std::string& name) const { return std::find(Calls.begin(), Calls.end(), name) != Calls.end(); }
+
+HRESULT Host::say(const char* name, HRESULT result) {
+    Calls.emplace_back(name);
+    if (const auto found = At.find(name); found != At.end()) {
+        const auto action = found->second;
+        action();
+    }
+    return result;
+}
+
+HRESULT Host::GetWindow(HWND* window) {
+    *window = Window_;
+    return say("GetWindow", S_OK);
+}
+
+HRESULT Host::GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document, LPRECT bounds, LPRECT clip,
+                               LPOLEINPLACEFRAMEINFO) {
+    *frame = nullptr;
+    *document = nullptr;
+    *bounds = Bounds;
+    *clip = {0, 0, 10000, 10000};
+    return say("GetWindowContext", S_OK);
+}
+
+HRESULT Host::OnPosRectChange(LPCRECT bounds) {
+    say("OnPosRectChange", S_OK);
+    if (FollowsSize) Bounds = *bounds;
+    return inPlace()->SetObjectRects(&Bounds, &Bounds);
+}
+
+HRESULT Host::GetExtendedControl(IDispatch** extended) {
+    *extended = &Extended;
+    Extended.AddRef();
+    return S_OK;
+}
+
+HRESULT Host::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*, UINT*) {
+    if (id != DISPID_AMBIENT_DISPLAYNAME) return DISP_E_MEMBERNOTFOUND;
+    result->vt = VT_BSTR;
+    result->bstrVal = SysAllocString(DisplayName.c_str());
+    return S_OK;
+}
+
+HRESULT Host::OnChanged(DISPID id) {
+    Changed.push_back(id);
+    return S_OK;
+}
+
+void pump() {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}
+
+}  // namespace kel::tests

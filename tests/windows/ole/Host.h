@@ -1,0 +1,122 @@
+#pragma once
+
+#include <functional>
+#include <map>
+
+#include "tests/windows/ole/Client.h"
+
+namespace kel::tests {
+
+/// A property bag in memory.
+class Bag final : public StackObject<IPropertyBag> {
+public:
+    HRESULT STDMETHODCALLTYPE Read(LPCOLESTR name, VARIANT* value, IErrorLog* log) override;
+    HRESULT STDMETHODCALLTYPE Write(LPCOLESTR name, VARIANT* value) override;
+
+    /// What was written, in order: "Name=text".
+    std::vector<std::wstring> Written;
+    /// What there is to read.
+    std::map<std::wstring, std::wstring> Texts;
+    std::function<void()> OnRead;
+};
+
+/// The control's object that the host puts before it.
+class Extender final : public StackObject<IDispatch> {
+public:
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) override;
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD flags, DISPPARAMS* arguments, VARIANT* result,
+                                     EXCEPINFO*, UINT*) override;
+
+    std::wstring ToolTipText;
+};
+
+/// A container for one control, with a window of its own. Says what the control asked of it, and can do
+/// something of its own at any such moment.
+class Host final
+    : public StackObject<IOleClientSite, IOleInPlaceSite, IOleControlSite, IDispatch, IPropertyNotifySink> {
+public:
+    Host();
+    ~Host() override;
+
+    /// Makes a text field in this host; not initialised, not active.
+    Ref<_KelText> place();
+    HRESULT verb(LONG verb);
+    IOleObject* object() const { return Object_.get(); }
+    Ref<IOleInPlaceObject> inPlace() const { return Object_.as<IOleInPlaceObject>(); }
+    void forget() { Object_.reset(); }
+    HWND window() const { return Window_; }
+
+    std::vector<std::string> Calls;
+    bool called(const std::string& name) const;
+    /// Runs when the control makes this call.
+    std::map<std::string, std::function<void()>> At;
+    std::wstring DisplayName = L"Field1";
+    HRESULT MayEdit = S_OK;
+    std::vector<DISPID> Changed;
+    RECT Bounds{10, 20, 210, 40};
+    bool FollowsSize = true;
+    Extender Extended;
+
+    // IOleClientSite
+    HRESULT STDMETHODCALLTYPE SaveObject() override { return say("SaveObject", S_OK); }
+    HRESULT STDMETHODCALLTYPE GetMoniker(DWORD, DWORD, IMoniker**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetContainer(IOleContainer**) override { return E_NOINTERFACE; }
+    HRESULT STDMETHODCALLTYPE ShowObject() override { return say("ShowObject", S_OK); }
+    HRESULT STDMETHODCALLTYPE OnShowWindow(BOOL) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE RequestNewObjectLayout() override { return E_NOTIMPL; }
+
+    // IOleInPlaceSite
+    HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) override;
+    HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE CanInPlaceActivate() override { return say("CanInPlaceActivate", S_OK); }
+    HRESULT STDMETHODCALLTYPE OnInPlaceActivate() override { return say("OnInPlaceActivate", S_OK); }
+    HRESULT STDMETHODCALLTYPE OnUIActivate() override { return say("OnUIActivate", S_OK); }
+    HRESULT STDMETHODCALLTYPE GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document, LPRECT bounds,
+                                               LPRECT clip, LPOLEINPLACEFRAMEINFO info) override;
+    HRESULT STDMETHODCALLTYPE Scroll(SIZE) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE OnUIDeactivate(BOOL) override { return say("OnUIDeactivate", S_OK); }
+    HRESULT STDMETHODCALLTYPE OnInPlaceDeactivate() override { return say("OnInPlaceDeactivate", S_OK); }
+    HRESULT STDMETHODCALLTYPE DiscardUndoState() override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE DeactivateAndUndo() override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE OnPosRectChange(LPCRECT bounds) override;
+
+    // IOleControlSite
+    HRESULT STDMETHODCALLTYPE OnControlInfoChanged() override { return say("OnControlInfoChanged", S_OK); }
+    HRESULT STDMETHODCALLTYPE LockInPlaceActive(BOOL) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE GetExtendedControl(IDispatch** extended) override;
+    HRESULT STDMETHODCALLTYPE TransformCoords(POINTL*, POINTF*, DWORD) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE TranslateAccelerator(MSG*, DWORD) override {
+        return say("TranslateAccelerator", S_FALSE);
+    }
+    HRESULT STDMETHODCALLTYPE OnFocus(BOOL has) override { return say(has ? "OnFocus" : "OnFocusLost", S_OK); }
+    HRESULT STDMETHODCALLTYPE ShowPropertyFrame() override { return E_NOTIMPL; }
+
+    // IDispatch: the ambient properties
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
+                                     UINT*) override;
+
+    // IPropertyNotifySink
+    HRESULT STDMETHODCALLTYPE OnChanged(DISPID id) override;
+    HRESULT STDMETHODCALLTYPE OnRequestEdit(DISPID) override { return MayEdit; }
+
+protected:
+    void* other(REFIID iid) override {
+        return IsEqualGUID(iid, IID_IOleWindow) ? static_cast<IOleInPlaceSite*>(this) : nullptr;
+    }
+
+private:
+    HRESULT say(const char* name, HRESULT result);
+
+    HWND Window_ = nullptr;
+    Ref<IOleObject> Object_;
+};
+
+/// Runs what is waiting in the queue.
+void pump();
+
+}  // namespace kel::tests

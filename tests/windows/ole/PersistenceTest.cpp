@@ -1,0 +1,196 @@
+// Property bags, streams and storages; whole, damaged, and at the wrong moment.
+
+#include <algorithm>
+
+#include "tests/windows/ole/Check.h"
+#include "tests/windows/ole/Host.h"
+
+using namespace kel::tests;
+
+namespace {
+
+Ref<IStream> memoryStream(const std::string& bytes = {}) {
+    Ref<IStream> stream;
+    EXPECT_CODE(CreateStreamOnHGlobal(nullptr, TRUE, stream.receive()), S_OK);
+    stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
+    stream->Seek({}, STREAM_SEEK_SET, nullptr);
+    return stream;
+}
+
+std::string bytesOf(IStream* stream) {
+    std::string bytes(100000, '\0');
+    ULONG count = 0;
+    stream->Seek({}, STREAM_SEEK_SET, nullptr);
+    stream->Read(bytes.data(), static_cast<ULONG>(bytes.size()), &count);
+    bytes.resize(count);
+    return bytes;
+}
+
+/// A field with something other than its default in every kind of property.
+Ref<_KelText> filledField() {
+    auto field = makeText();
+    EXPECT_CODE(field.as<IPersistStreamInit>()->InitNew(), S_OK);
+    field->put_Caption(Str(L"Näme"));
+    field->put_CaptionWidth(900);
+    field->put_Locked(VARIANT_TRUE);
+    field->put_MaxLength(12);
+    field->put_Text(Str(L"x \"y\" 12,5"));
+    return field;
+}
+
+void expectFilled(_KelText* field) {
+    BSTR caption = nullptr;
+    short width = 0;
+    short length = 0;
+    VARIANT_BOOL locked = VARIANT_FALSE;
+    VARIANT_BOOL mandatory = VARIANT_FALSE;
+    EXPECT_CODE(field->get_Caption(&caption), S_OK);
+    EXPECT_EQ(taken(caption), std::wstring(L"Näme"));
+    EXPECT_CODE(field->get_CaptionWidth(&width), S_OK);
+    EXPECT_EQ(width, 900);
+    EXPECT_CODE(field->get_MaxLength(&length), S_OK);
+    EXPECT_EQ(length, 12);
+    EXPECT_CODE(field->get_Locked(&locked), S_OK);
+    EXPECT_EQ(locked, VARIANT_TRUE);
+    EXPECT_CODE(field->get_Mandatory(&mandatory), S_OK);
+    EXPECT_EQ(mandatory, VARIANT_TRUE);
+    EXPECT_EQ(text(field), std::wstring(L"x \"y\" 12,5"));
+}
+
+std::string savedBytes() {
+    const auto stream = memoryStream();
+    EXPECT_CODE(filledField().as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_OK);
+    return bytesOf(stream.get());
+}
+
+/// True when a damaged stream is refused and the field stays a new one.
+bool isRefused(const std::string& bytes) {
+    const auto field = makeText();
+    const auto stream = memoryStream(bytes);
+    if (SUCCEEDED(field.as<IPersistStreamInit>()->Load(stream.get()))) return false;
+    short width = -1;
+    EXPECT_CODE(field->get_CaptionWidth(&width), S_OK);
+    EXPECT_EQ(width, 0);
+    EXPECT_EQ(text(field.get()), std::wstring());
+    EXPECT_CODE(field.as<IPersistStreamInit>()->InitNew(), S_OK);
+    return true;
+}
+
+}  // namespace
+
+TEST(persist_bag_round_trip_leaves_out_defaults) {
+    Bag saved;
+    const auto bag = filledField().as<IPersistPropertyBag>();
+    EXPECT_CODE(bag->Save(&saved, TRUE, TRUE), S_OK);
+    EXPECT(saved.Written == (std::vector<std::wstring>{L"Caption=Näme", L"CaptionWidth=900", L"Locked=True",
+                                                       L"MaxLength=12", L"Text=x \"y\" 12,5"}));
+    Bag stored;
+    for (const std::wstring& line : saved.Written)
+        stored.Texts[line.substr(0, line.find(L'='))] = line.substr(line.find(L'=') + 1);
+    const auto field = makeText();
+    EXPECT_CODE(field.as<IPersistPropertyBag>()->Load(&stored, nullptr), S_OK);
+    expectFilled(field.get());
+    EXPECT_CODE(field.as<IPersistStreamInit>()->IsDirty(), S_FALSE);
+}
+
+TEST(persist_bag_with_a_wrong_value_is_refused_whole) {
+    Bag stored;
+    stored.Texts = {{L"Caption", L"Name"}, {L"CaptionWidth", L"wide"}};
+    const auto field = makeText();
+    EXPECT_CODE(field.as<IPersistPropertyBag>()->Load(&stored, nullptr), DISP_E_TYPEMISMATCH);
+    BSTR caption = nullptr;
+    EXPECT_CODE(field->get_Caption(&caption), S_OK);
+    EXPECT_EQ(taken(caption), std::wstring());
+}
+
+TEST(persist_stream_round_trip) {
+    const auto saved = filledField();
+    const auto stream = memoryStream();
+    ULARGE_INTEGER size{};
+    EXPECT_CODE(saved.as<IPersistStreamInit>()->GetSizeMax(&size), S_OK);
+    EXPECT_CODE(saved.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_OK);
+    EXPECT_CODE(saved.as<IPersistStreamInit>()->IsDirty(), S_FALSE);
+    EXPECT_EQ(bytesOf(stream.get()).size(), static_cast<std::size_t>(size.QuadPart));
+    stream->Write("behind", 6, nullptr);
+    stream->Seek({}, STREAM_SEEK_SET, nullptr);
+    const auto field = makeText();
+    EXPECT_CODE(field.as<IPersistStreamInit>()->Load(stream.get()), S_OK);
+    expectFilled(field.get());
+    char behind[6] = {};
+    ULONG count = 0;
+    stream->Read(behind, sizeof behind, &count);
+    EXPECT(std::string(behind, count) == "behind");
+}
+
+TEST(persist_stream_cut_short_anywhere_is_refused) {
+    const std::string bytes = savedBytes();
+    for (std::size_t length = 0; length < bytes.size(); ++length) EXPECT(isRefused(bytes.substr(0, length)));
+}
+
+TEST(persist_stream_damaged_anywhere_does_no_harm) {
+    const std::string bytes = savedBytes();
+    EXPECT(isRefused(std::string(64, 'x')));
+    for (std::size_t at = 0; at < bytes.size(); ++at)
+        for (const char damage : {'\x00', '\x7F', '\xFF'}) {
+            std::string damaged = bytes;
+            damaged[at] = damage;
+            const auto field = makeText();
+            const HRESULT result = field.as<IPersistStreamInit>()->Load(memoryStream(damaged).get());
+            if (SUCCEEDED(result)) text(field.get());
+        }
+}
+
+TEST(persist_stream_passes_over_what_it_does_not_know) {
+    std::string bytes = savedBytes();
+    std::string entry;
+    const auto number = [&entry](unsigned value, int count) {
+        for (int i = 0; i < count; ++i) entry += static_cast<char>(value >> (8 * i) & 0xFF);
+    };
+    number(3, 4);
+    for (const char unit : {'N', 'e', 'w'}) number(static_cast<unsigned>(unit), 2);
+    number(200, 1);
+    number(5, 4);
+    entry += "later";
+    const std::size_t body = bytes.size() - 12 + entry.size();
+    for (int i = 0; i < 4; ++i) bytes[8 + static_cast<std::size_t>(i)] = static_cast<char>(body >> (8 * i) & 0xFF);
+    const auto field = makeText();
+    EXPECT_CODE(field.as<IPersistStreamInit>()->Load(memoryStream(bytes + entry).get()), S_OK);
+    expectFilled(field.get());
+}
+
+TEST(persist_storage_round_trip) {
+    Ref<IStorage> storage;
+    EXPECT_CODE(StgCreateDocfile(nullptr, STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE | STGM_DELETEONRELEASE, 0,
+                                 storage.receive()),
+                S_OK);
+    const auto saved = filledField();
+    const auto persist = saved.as<IPersistStorage>();
+    EXPECT_CODE(persist->InitNew(storage.get()), CO_E_ALREADYINITIALIZED);
+    EXPECT_CODE(persist->Save(storage.get(), FALSE), S_OK);
+    EXPECT_CODE(persist->SaveCompleted(nullptr), S_OK);
+    EXPECT_CODE(persist->IsDirty(), S_FALSE);
+    const auto field = makeText();
+    EXPECT_CODE(field.as<IPersistStorage>()->Load(storage.get()), S_OK);
+    expectFilled(field.get());
+}
+
+TEST(persist_new_control_takes_the_containers_name) {
+    Host host;
+    const auto field = host.place();
+    EXPECT_CODE(field.as<IPersistPropertyBag>()->InitNew(), S_OK);
+    BSTR caption = nullptr;
+    EXPECT_CODE(field->get_Caption(&caption), S_OK);
+    EXPECT_EQ(taken(caption), std::wstring(L"Field1"));
+}
+
+TEST(persist_a_second_beginning_is_refused) {
+    const auto field = filledField();
+    EXPECT_CODE(field.as<IPersistStreamInit>()->InitNew(), E_UNEXPECTED);
+    EXPECT_CODE(field.as<IPersistStreamInit>()->Load(memoryStream(savedBytes()).get()), E_UNEXPECTED);
+    const auto other = makeText();
+    Bag bag;
+    HRESULT inner = S_OK;
+    bag.OnRead = [&] { inner = other.as<IPersistStreamInit>()->InitNew(); };
+    EXPECT_CODE(other.as<IPersistPropertyBag>()->Load(&bag, nullptr), S_OK);
+    EXPECT_CODE(inner, E_UNEXPECTED);
+}

@@ -1,0 +1,14 @@
+// Runs the tests whose names begin with the first argument; all of them without one.
+
+#include <windows.h>
+
+#include <ole2.h>
+
+#include "tests/windows/ole/Check.h"
+
+int main(int argc, char** argv) {
+    OleInitialize(nullptr);
+    const int failed = kel::tests::runTests(argc > 1 ? argv[1] : "");
+    OleUninitialize();
+    return failed;
+}

@@ -1,0 +1,184 @@
+#include <windows.h>
+
+#include <utility>
+
+#include "tests/windows/ole/Check.h"
+#include "tests/windows/widgets/Stage.h"
+
+/// Keys, mouse and focus as the system delivers them.
+namespace kel::tests {
+
+TEST(keys_come_through_the_layout_with_their_characters) {
+    HostWindow host;
+    Stage stage;
+    stage.placeOn(host.window());
+    SetFocus(stage.edit());
+    stage.takeLog();
+    strike(stage.edit(), 'A');
+    EXPECT_EQ(stage.takeLog(), L"down:65 key:97 change");
+    strike(stage.edit(), VK_RETURN);
+    EXPECT_EQ(stage.takeLog(), L"down:13 key:13");
+    strike(stage.edit(), VK_BACK);
+    EXPECT_EQ(stage.takeLog(), L"down:8 key:8 change");
+    strike(stage.edit(), VK_TAB);
+    EXPECT_EQ(stage.takeLog(), L"");
+}
+
+TEST(a_swallowed_key_takes_its_character_along) {
+    HostWindow host;
+    Stage stage;
+    stage.placeOn(host.window());
+    SetFocus(stage.edit());
+    stage.swallowKeys = true;
+    stage.takeLog();
+    strike(stage.edit(), 'A');
+    EXPECT_EQ(stage.takeLog(), L"down:65");
+    EXPECT_EQ(stage.box().textLength(), 0);
+}
+
+TEST(a_handler_that_serves_the_queue_does_not_reorder_keys) {
+    HostWindow host;
+    Stage stage;
+    stage.placeOn(host.window());
+    SetFocus(stage.edit());
+    stage.takeLog();
+    stage.onKeyDown = [] { settle(); };
+    strike(stage.edit(), 'A');
+    EXPECT_EQ(stage.takeLog(), L"down:65 key:97 change");
+}
+
+TEST(offered_keys_are_taken_only_where_the_field_wants_them) {
+    struct Row {
+        WPARAM code;
+        bool wanted;
+    };
+    const Row rows[] = {{VK_LEFT, true}, {VK_DOWN, true}, {VK_END, true}, {VK_RETURN, true}, {VK_DELETE, true},
+                        {'A', true},     {VK_TAB, false}, {VK_F2, false}, {VK_ESCAPE, false}};
+    HostWindow host;
+    Stage stage;
+    stage.placeOn(host.window());
+    SetFocus(stage.edit());
+    for (const Row& row : rows) {
+        stage.takeLog();
+        MSG message{};
+        message.hwnd = stage.edit();
+        message.message = WM_KEYDOWN;
+        message.wParam = row.code;
+        message.lParam = 1;
+        EXPECT_EQ(stage.window().translateAccelerator(message), row.wanted);
+        EXPECT_EQ(!stage.takeLog().empty(), row.wanted);
+        settle();
+    }
+}
+
+TEST(the_mouse_selects_and_the_keyboard_goes_on_from_there) {
+    HostWindow host;
+    Stage stage;
+    stage.placeOn(host.window());
+    stage.box().setText(u"one two three");
+    const auto placeOf = [&stage](WPARAM position) {
+        const LRESULT place = SendMessageW(stage.edit(), EM_POSFROMCHAR, position, 0);
+        return POINT{static_cast<short>(LOWORD(place)), 5};
+    };
+    stage.takeLog();
+    drag(stage.edit(), placeOf(8), placeOf(8));
+    EXPECT_EQ(stage.takeLog(), L"enter got press:1 click");
+    EXPECT_EQ(drawn(stage.box()), L"one two |three");
+    drag(stage.edit(), placeOf(4), placeOf(7));
+    EXPECT_EQ(drawn(stage.box()), L"one [two] three");
+    strike(stage.edit(), 'X');
+    EXPECT_EQ(drawn(stage.box()), L"one x| three");
+    stage.takeLog();
+    drag(stage.edit(), placeOf(3), {placeOf(0).x, 200});
+    EXPECT_EQ(drawn(stage.box()), L"[one] x three");
+    EXPECT_EQ(stage.takeLog(), L"press:1");
+}
+
+TEST(focus_is_told_in_the_order_of_the_controls) {
+    HostWindow host;
+    Stage one;
+    Stage two;
+    one.placeOn(host.window());
+    two.placeOn(host.window(), 1);
+    SetFocus(one.edit());
+    EXPECT_EQ(one.takeLog(), L"enter got");
+    one.onLost = [&] { EXPECT_EQ(two.takeLog(), L""); };
+    SetFocus(two.edit());
+    EXPECT_EQ(one.takeLog(), L"lost exit");
+    EXPECT_EQ(two.takeLog(), L"enter got");
+    two.box().setEnabled(false);
+    EXPECT_EQ(two.takeLog(), L"lost exit");
+    EXPECT(GetFocus() == nullptr);
+}
+
+TEST(a_handler_that_moves_the_focus_on_has_the_old_control_left_first) {
+    HostWindow host;
+    Stage one;
+    Stage two;
+    one.placeOn(host.window());
+    two.placeOn(host.window(), 1);
+    SetFocus(one.edit());
+    one.takeLog();
+    std::wstring atEntry;
+    bool moved = false;
+    one.onLost = [&] {
+        if (std::exchange(moved, true)) return;
+        SetFocus(two.edit());
+        atEntry = one.takeLog();
+    };
+    SetFocus(host.button());
+    EXPECT_EQ(atEntry, L"lost exit");
+    EXPECT_EQ(two.takeLog(), L"enter got");
+    EXPECT_EQ(one.takeLog(), L"");
+    EXPECT(GetFocus() == two.edit());
+}
+
+TEST(another_window_in_front_is_no_change_of_focus) {
+    HostWindow host;
+    Stage stage;
+    stage.placeOn(host.window());
+    SetFocus(stage.edit());
+    stage.takeLog();
+    {
+        HostWindow other;
+        SetFocus(other.button());
+        settle();
+        EXPECT_EQ(stage.takeLog(), L"");
+    }
+    // As a host does that knows who had the focus.
+    SetActiveWindow(host.window());
+    SetFocus(stage.edit());
+    settle();
+    EXPECT_EQ(stage.takeLog(), L"");
+}
+
+TEST(coming_back_elsewhere_leaves_the_control) {
+    HostWindow host;
+    Stage stage;
+    stage.placeOn(host.window());
+    SetFocus(stage.edit());
+    stage.takeLog();
+    {
+        HostWindow other;
+        SetFocus(other.button());
+        settle();
+    }
+    SetFocus(host.button());
+    settle();
+    EXPECT_EQ(stage.takeLog(), L"lost exit");
+}
+
+TEST(the_controls_own_window_hands_the_focus_to_its_field) {
+    HostWindow host;
+    Stage stage;
+    stage.placeOn(host.window());
+    SetFocus(stage.window().handle());
+    EXPECT(GetFocus() == stage.edit());
+    EXPECT(stage.window().hasFocus());
+    stage.window().setEnabled(false);
+    EXPECT(!stage.window().hasFocus());
+    stage.window().setFocus();
+    EXPECT(!stage.window().hasFocus());
+}
+
+}  // namespace kel::tests

@@ -1,0 +1,210 @@
+#include <windows.h>
+
+#include <algorithm>
+#include <vector>
+
+#include "tests/windows/ole/Check.h"
+#include "tests/windows/widgets/Stage.h"
+
+/// Windows that come and go, and pictures without any.
+namespace kel::tests {
+
+namespace {
+
+BOOL CALLBACK countChild(HWND /*window*/, LPARAM count) {
+    ++*reinterpret_cast<int*>(count);
+    return TRUE;
+}
+
+BOOL CALLBACK countTop(HWND window, LPARAM count) {
+    ++*reinterpret_cast<int*>(count);
+    EnumChildWindows(window, &countChild, count);
+    return TRUE;
+}
+
+int countWindows() {
+    int count = 0;
+    EnumThreadWindows(GetCurrentThreadId(), &countTop, reinterpret_cast<LPARAM>(&count));
+    return count;
+}
+
+/// A picture in memory, white at first.
+class Picture {
+public:
+    static constexpr int Width = 300;
+    static constexpr int Height = 60;
+
+    Picture() : Context_(CreateCompatibleDC(nullptr)) {
+        BITMAPINFO format{};
+        format.bmiHeader.biSize = sizeof format.bmiHeader;
+        format.bmiHeader.biWidth = Width;
+        format.bmiHeader.biHeight = -Height;
+        format.bmiHeader.biPlanes = 1;
+        format.bmiHeader.biBitCount = 32;
+        void* bits = nullptr;
+        Bitmap_ = CreateDIBSection(Context_, &format, DIB_RGB_COLORS, &bits, nullptr, 0);
+        Before_ = SelectObject(Context_, Bitmap_);
+        Pixels_ = static_cast<DWORD*>(bits);
+        std::fill_n(Pixels_, Width * Height, 0xFFFFFFU);
+    }
+    ~Picture() {
+        SelectObject(Context_, Before_);
+        DeleteObject(Bitmap_);
+        DeleteDC(Context_);
+    }
+    Picture(const Picture&) = delete;
+    Picture& operator=(const Picture&) = delete;
+
+    HDC context() const { return Context_; }
+    /// Pixels of a colour between two columns.
+    int count(DWORD color, int left, int right) {
+        GdiFlush();
+        int found = 0;
+        for (int row = 0; row < Height; ++row)
+            for (int column = left; column < right; ++column)
+                found += (Pixels_[row * Width + column] & 0xFFFFFFU) == color ? 1 : 0;
+        return found;
+    }
+
+private:
+    HDC Context_;
+    HBITMAP Bitmap_;
+    HGDIOBJ Before_;
+    DWORD* Pixels_;
+};
+
+constexpr DWORD Green = 0x00FF00;
+constexpr DWORD Red = 0xFF0000;
+
+}  // namespace
+
+TEST(widgets_work_without_any_window) {
+    Stage stage;
+    stage.label().setCaption(u"&Name");
+    stage.box().setText(u"text");
+    stage.box().setSelStart(2);
+    stage.box().setMaxLength(3);
+    EXPECT_EQ(drawn(stage.box()), L"te|xt");
+    EXPECT_EQ(stage.takeLog(), L"change");
+    EXPECT_EQ(static_cast<int>(stage.window().mnemonic()), int{'N'});
+    stage.box().setFocus();
+    EXPECT_EQ(stage.takeLog(), L"");
+}
+
+TEST(a_destroyed_parent_leaves_the_widgets_and_the_window_comes_back) {
+    Stage stage;
+    {
+        HostWindow host;
+        stage.placeOn(host.window());
+        stage.box().setText(u"kept");
+        stage.box().setEnabled(false);
+        EXPECT_EQ(shownLine(stage.edit()), L"kept");
+    }
+    stage.takeLog();
+    stage.box().setText(u"changed meanwhile");
+    HostWindow host;
+    EXPECT(IsWindow(stage.window().handle()));
+    stage.placeOn(host.window());
+    EXPECT(GetParent(stage.window().handle()) == host.window());
+    EXPECT_EQ(shownLine(stage.edit()), L"changed meanwhile");
+    EXPECT(!IsWindowEnabled(stage.edit()));
+    stage.box().setEnabled(true);
+    SetFocus(stage.edit());
+    EXPECT_EQ(stage.takeLog(), L"change enter got");
+}
+
+TEST(a_parent_destroyed_under_the_focus_has_the_control_left) {
+    Stage stage;
+    {
+        HostWindow host;
+        stage.placeOn(host.window());
+        SetFocus(stage.edit());
+        stage.takeLog();
+    }
+    EXPECT_EQ(stage.takeLog(), L"lost exit");
+}
+
+TEST(moving_to_another_parent_keeps_text_and_window) {
+    HostWindow one;
+    HostWindow two;
+    Stage stage;
+    stage.placeOn(one.window());
+    stage.box().setText(u"text");
+    HWND const before = stage.window().handle();
+    stage.window().setParent(nullptr);
+    stage.placeOn(two.window());
+    EXPECT(stage.window().handle() == before);
+    EXPECT(GetParent(before) == two.window());
+    EXPECT_EQ(shownLine(stage.edit()), L"text");
+}
+
+TEST(two_hundred_controls_come_and_go_without_a_trace) {
+    HostWindow host;
+    const auto cycle = [&host] {
+        Stage stage;
+        stage.label().setCaption(u"caption");
+        stage.box().setFont(u"Tahoma", 9);
+        stage.box().setToolTip(u"tip");
+        stage.box().setBackColor(0x00C0FFC0);
+        stage.placeOn(host.window());
+        SetFocus(stage.edit());
+        UpdateWindow(stage.edit());
+    };
+    cycle();
+    const int windows = countWindows();
+    const DWORD drawing = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    for (int i = 0; i < 200; ++i) cycle();
+    EXPECT_EQ(countWindows(), windows);
+    // The system keeps some of its own.
+    EXPECT(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS) <= drawing + 20);
+}
+
+TEST(the_picture_is_the_same_with_and_without_a_window) {
+    Stage stage;
+    stage.label().setCaption(u"WWWW");
+    stage.label().setForeColor(0x000000FF);
+    stage.box().setText(u"WWWW");
+    stage.box().setBackColor(0x0000FF00);
+    stage.box().setForeColor(0x000000FF);
+    int caption = 0;
+    int field = 0;
+    const auto look = [&] {
+        Picture picture;
+        stage.window().draw(picture.context(), {0, 0, Picture::Width, Picture::Height});
+        EXPECT(picture.count(Green, 0, 100) == 0);
+        EXPECT(picture.count(Green, 100, 300) > 1000);
+        caption = picture.count(Red, 0, 100);
+        field = picture.count(Red, 100, 300);
+    };
+    look();
+    EXPECT(caption > 10);
+    EXPECT(field > 10);
+    const int captionBefore = caption;
+    const int fieldBefore = field;
+    HostWindow host;
+    stage.placeOn(host.window());
+    look();
+    EXPECT_EQ(caption, captionBefore);
+    EXPECT_EQ(field, fieldBefore);
+
+    stage.box().setPasswordChar(u'.');
+    look();
+    EXPECT(field < fieldBefore);
+}
+
+TEST(nothing_is_seen_outside_the_clip) {
+    HostWindow host;
+    Stage stage;
+    stage.placeOn(host.window());
+    const RECT bounds{10, 10, 210, 40};
+    stage.window().place(bounds, {50, 0, 150, 30});
+    RECT seen{};
+    EXPECT(GetWindowRgnBox(stage.window().handle(), &seen) != ERROR);
+    EXPECT_EQ(seen.left, 40L);
+    EXPECT_EQ(seen.right, 140L);
+    EXPECT_EQ(seen.bottom, 20L);
+    stage.window().place(bounds, {0, 0, 500, 500});
+    EXPECT(GetWindowRgnBox(stage.window().handle(), &seen) == ERROR);
+}
+
+}  // namespace kel::tests

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <filesystem>
+
+#include "library/ClassRegistry.h"
+
+namespace kel::idl {
+
+/// Writes a resource script with the type library and one toolbox picture a control, and the pictures beside
+/// it. The picture of a control has the resource number 101 and up, by its place among the identities.
+void writeResources(const std::filesystem::path& script, const ClassRegistry& classes);
+
+}  // namespace kel::idl
