@@ -83,7 +83,7 @@ public:
     System& system() override { return System_; }
     const RegionalSettings& region() const override { return Services_.region(); }
 
-    std::unique_ptr<FormWindow> makeWindow(const WindowSpec& /*spec*/, System& system) override {
+    std::unique_ptr<FormWindow> makeWindow(const WindowSpec& /*window*/, System& system) override {
         return std::make_unique<HeadlessWindow>(system, Settings_, Input_);
     }
 

@@ -35,12 +35,12 @@ private:
 
 }  // namespace
 
-QtFormWindow::QtFormWindow(const WindowSpec& spec, const Surroundings& surroundings)
+QtFormWindow::QtFormWindow(const WindowSpec& description, const Surroundings& surroundings)
     : Surroundings_(surroundings), Window_(std::make_unique<FormWidget>()) {
     const TwipGrid grid(surroundings.system.twipsPerPixel());
-    Window_->setWindowTitle(toQString(spec.caption));
-    Window_->setLayoutDirection(spec.rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-    Window_->setFixedSize(grid.pixels({0, 0, spec.clientSize.width, spec.clientSize.height}).size());
+    Window_->setWindowTitle(toQString(description.caption));
+    Window_->setLayoutDirection(description.rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    Window_->setFixedSize(grid.pixels({0, 0, description.clientSize.width, description.clientSize.height}).size());
 }
 
 QtFormWindow::~QtFormWindow() = default;

@@ -17,7 +17,7 @@ class PlacedQtControl;
 /// A form on the screen.
 class QtFormWindow final : public FormWindow {
 public:
-    QtFormWindow(const WindowSpec& spec, const Surroundings& surroundings);
+    QtFormWindow(const WindowSpec& description, const Surroundings& surroundings);
     ~QtFormWindow() override;
 
     PlacedControl& place(const ClassModel& model, const Placement& placement, ControlObserver& observer) override;

@@ -24,8 +24,8 @@ public:
     System& system() override { return System_; }
     const RegionalSettings& region() const override { return Services_.region(); }
 
-    std::unique_ptr<FormWindow> makeWindow(const WindowSpec& spec, System& system) override {
-        return std::make_unique<QtFormWindow>(spec, Surroundings{Settings_, system, Services_.region()});
+    std::unique_ptr<FormWindow> makeWindow(const WindowSpec& description, System& system) override {
+        return std::make_unique<QtFormWindow>(description, Surroundings{Settings_, system, Services_.region()});
     }
 
 private:

@@ -51,10 +51,10 @@ RECT foreignPlace(const ForeignBlock& block, const TwipGrid& grid) {
 
 HWND makeForeignWindow(const ForeignBlock& block, const TwipGrid& grid, HWND parent) {
     const bool unknown = block.kind == ForeignBlock::Kind::Other;
-    const SystemWindow spec = systemWindowFor(block);
+    const SystemWindow description = systemWindowFor(block);
     const DWORD visible = block.placement.visible ? WS_VISIBLE : 0;
-    return makeWindow(spec.className, spec.style | visible, wide(unknown ? block.className : block.caption).c_str(),
-                      foreignPlace(block, grid), parent);
+    return makeWindow(description.className, description.style | visible,
+                      wide(unknown ? block.className : block.caption).c_str(), foreignPlace(block, grid), parent);
 }
 
 PanelWindows makePanel(const ForeignBlock& block, const TwipGrid& grid, HWND parent) {

@@ -39,14 +39,15 @@ bool isSameLetter(char16_t one, char16_t other) {
 
 }  // namespace
 
-Win32FormWindow::Win32FormWindow(const WindowSpec& spec, System& system, SharedSettings& settings, Session& session)
+Win32FormWindow::Win32FormWindow(const WindowSpec& description, System& system, SharedSettings& settings,
+                                 Session& session)
     : System_(system),
       Settings_(settings),
       Session_(session),
       Grid_(system.twipsPerPixel()),
-      ClientSize_(spec.clientSize) {
-    const DWORD extended = spec.rightToLeft ? WS_EX_LAYOUTRTL : 0;
-    Window_ = CreateWindowExW(extended, formClass().name(), wide(spec.caption).c_str(), FormStyle, CW_USEDEFAULT,
+      ClientSize_(description.clientSize) {
+    const DWORD extended = description.rightToLeft ? WS_EX_LAYOUTRTL : 0;
+    Window_ = CreateWindowExW(extended, formClass().name(), wide(description.caption).c_str(), FormStyle, CW_USEDEFAULT,
                               CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, thisModule(),
                               static_cast<WindowHandler*>(this));
     if (Window_ == nullptr) throw std::runtime_error("there is no display to show a window on");

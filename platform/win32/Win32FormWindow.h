@@ -15,7 +15,7 @@ class Session;
 /// A form on the screen.
 class Win32FormWindow final : public FormWindow, private WindowHandler {
 public:
-    Win32FormWindow(const WindowSpec& spec, System& system, SharedSettings& settings, Session& session);
+    Win32FormWindow(const WindowSpec& description, System& system, SharedSettings& settings, Session& session);
     ~Win32FormWindow() override;
 
     PlacedControl& place(const ClassModel& model, const Placement& placement, ControlObserver& observer) override;

@@ -66,8 +66,8 @@ public:
     System& system() override { return System_; }
     const RegionalSettings& region() const override { return Services_.region(); }
 
-    std::unique_ptr<FormWindow> makeWindow(const WindowSpec& spec, System& system) override {
-        return std::make_unique<Win32FormWindow>(spec, system, Settings_, Session_);
+    std::unique_ptr<FormWindow> makeWindow(const WindowSpec& description, System& system) override {
+        return std::make_unique<Win32FormWindow>(description, system, Settings_, Session_);
     }
 
     Session& session() { return Session_; }

@@ -32,27 +32,27 @@ HINSTANCE thisModule() {
 }
 
 WindowClass::WindowClass(const wchar_t* name) : Name_(name) {
-    WNDCLASSEXW spec{};
-    spec.cbSize = sizeof spec;
-    spec.lpfnWndProc = &procedure;
-    spec.cbWndExtra = sizeof(WindowHandler*);
-    spec.hInstance = thisModule();
-    spec.hCursor = LoadCursorW(nullptr, IDC_ARROW);
-    spec.hbrBackground = reinterpret_cast<HBRUSH>(INT_PTR{COLOR_BTNFACE + 1});
-    spec.lpszClassName = name;
-    RegisterClassExW(&spec);
+    WNDCLASSEXW description{};
+    description.cbSize = sizeof description;
+    description.lpfnWndProc = &procedure;
+    description.cbWndExtra = sizeof(WindowHandler*);
+    description.hInstance = thisModule();
+    description.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    description.hbrBackground = reinterpret_cast<HBRUSH>(INT_PTR{COLOR_BTNFACE + 1});
+    description.lpszClassName = name;
+    RegisterClassExW(&description);
 }
 
 WindowClass::WindowClass(const wchar_t* name, const wchar_t* base) : Name_(name) {
-    WNDCLASSEXW spec{};
-    spec.cbSize = sizeof spec;
-    GetClassInfoExW(nullptr, base, &spec);
-    Base_ = std::exchange(spec.lpfnWndProc, &procedure);
-    spec.cbWndExtra += static_cast<int>(sizeof(WindowHandler*));
-    spec.hInstance = thisModule();
-    spec.lpszClassName = name;
-    spec.style &= ~static_cast<UINT>(CS_GLOBALCLASS);
-    RegisterClassExW(&spec);
+    WNDCLASSEXW description{};
+    description.cbSize = sizeof description;
+    GetClassInfoExW(nullptr, base, &description);
+    Base_ = std::exchange(description.lpfnWndProc, &procedure);
+    description.cbWndExtra += static_cast<int>(sizeof(WindowHandler*));
+    description.hInstance = thisModule();
+    description.lpszClassName = name;
+    description.style &= ~static_cast<UINT>(CS_GLOBALCLASS);
+    RegisterClassExW(&description);
 }
 
 WindowClass::~WindowClass() { UnregisterClassW(Name_, thisModule()); }
