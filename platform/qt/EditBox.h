@@ -3,7 +3,7 @@
 #include <optional>
 #include <QStringView>
 
-#include "host/editing/TextBoxEditor.h"
+#include "host/editing/EditedTextBox.h"
 #include "platform/qt/QtField.h"
 
 class QInputMethodEvent;
@@ -15,25 +15,11 @@ namespace kel::qt {
 
 /// An edit box, whichever of Qt's widgets shows it. The editor holds text and selection and says what becomes of
 /// them; Qt's widget is made to show both, and what the user or somebody else does to it comes back here.
-class EditBox : public QtField<TextBox>, private EditSurroundings {
+class EditBox : public EditedTextBox<QtField<TextBox>>, private EditSurroundings {
 public:
-    std::u16string text() const override { return buffer().text(); }
     void setText(std::u16string_view text) override;
-    bool textEquals(std::u16string_view other) const override { return buffer().text() == other; }
-    std::int32_t textLength() const override { return static_cast<std::int32_t>(buffer().text().size()); }
 
-    std::int32_t selStart() const override { return static_cast<std::int32_t>(buffer().selection().start()); }
-    void setSelStart(std::int32_t position) override { Editor_.setSelStart(position); }
-    std::int32_t selLength() const override { return static_cast<std::int32_t>(buffer().selection().length()); }
-    void setSelLength(std::int32_t length) override { Editor_.setSelLength(length); }
-    std::u16string selText() const override { return std::u16string(buffer().selectedText()); }
-    void setSelText(std::u16string_view text) override { Editor_.setSelText(text); }
-
-    bool locked() const override { return Editor_.locked(); }
     void setLocked(bool locked) override;
-    std::int32_t maxLength() const override { return Editor_.maxLength(); }
-    void setMaxLength(std::int32_t units) override { Editor_.setMaxLength(units); }
-    char16_t passwordChar() const override { return Editor_.passwordChar(); }
     void setPasswordChar(char16_t character) override;
 
     void gotFocus() override { Editor_.listener().Text1_GotFocus(); }
@@ -50,9 +36,7 @@ public:
 
 protected:
     EditBox(ControlSite& site, TextBoxListener& listener, QWidget& widget, bool multiLine)
-        : QtField(site, widget), Editor_(listener, *this, multiLine) {}
-
-    const EditBuffer& buffer() const { return Editor_.buffer(); }
+        : EditedTextBox(listener, *this, multiLine, site, widget) {}
 
     // ---- What Qt's widget shows. Positions are those of the text.
 
@@ -112,7 +96,6 @@ private:
     void stepMirrored(EditAction step, bool extend);
     void showComposition(QInputMethodEvent& event);
 
-    TextBoxEditor Editor_;
     std::optional<QStringView> Incoming_;  ///< pasted next, in place of what the clipboard holds
     std::int32_t Aim_ = -1;
     bool Showing_ = false;

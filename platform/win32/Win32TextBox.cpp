@@ -17,7 +17,7 @@ constexpr int TextGap = 1;    ///< between edge and text, pixels
 }  // namespace
 
 Win32TextBox::Win32TextBox(ControlFrame& frame, TextBoxListener& listener, bool multiLine)
-    : Win32Widget(frame, colors::SystemWindowText), Editor_(listener, *this, multiLine), View_(multiLine) {
+    : EditedTextBox(listener, *this, multiLine, frame, colors::SystemWindowText), View_(multiLine) {
     frame.add(*this);
 }
 

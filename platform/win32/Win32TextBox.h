@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/editing/TextBoxEditor.h"
+#include "host/editing/EditedTextBox.h"
 #include "platform/win32/EditView.h"
 #include "platform/win32/Win32Widget.h"
 
@@ -8,7 +8,7 @@ namespace kel::win32 {
 
 /// An edit box on the system's edit window. The text is edited in a buffer of our own, which knows more than the
 /// window (undo, limits, pairs, words); the window shows it, and whatever it is asked to do goes to the buffer.
-class Win32TextBox final : public Win32Widget<TextBox>,
+class Win32TextBox final : public EditedTextBox<Win32Widget<TextBox>>,
                            public ChildField,
                            private EditSurroundings,
                            private TextLines,
@@ -28,21 +28,7 @@ public:
     void setFocus() override;
     void refresh() override;
 
-    std::u16string text() const override { return buffer().text(); }
-    void setText(std::u16string_view text) override { Editor_.setText(text); }
-    bool textEquals(std::u16string_view other) const override { return buffer().text() == other; }
-    std::int32_t textLength() const override { return static_cast<std::int32_t>(buffer().text().size()); }
-    std::int32_t selStart() const override { return static_cast<std::int32_t>(buffer().selection().start()); }
-    void setSelStart(std::int32_t position) override { Editor_.setSelStart(position); }
-    std::int32_t selLength() const override { return static_cast<std::int32_t>(buffer().selection().length()); }
-    void setSelLength(std::int32_t length) override { Editor_.setSelLength(length); }
-    std::u16string selText() const override { return std::u16string(buffer().selectedText()); }
-    void setSelText(std::u16string_view text) override { Editor_.setSelText(text); }
-    bool locked() const override { return Editor_.locked(); }
     void setLocked(bool locked) override;
-    std::int32_t maxLength() const override { return Editor_.maxLength(); }
-    void setMaxLength(std::int32_t units) override { Editor_.setMaxLength(units); }
-    char16_t passwordChar() const override { return Editor_.passwordChar(); }
     void setPasswordChar(char16_t character) override;
 
     // ---- ChildField
@@ -64,8 +50,6 @@ public:
     POINT showPosition(std::int32_t position);
 
 private:
-    const EditBuffer& buffer() const { return Editor_.buffer(); }
-
     void placeChanged() override;
     void enabledChanged() override;
     void fontChanged() override;
@@ -100,7 +84,6 @@ private:
     void pressed(UINT message, WPARAM wide, LPARAM data);
     void readSelection();
 
-    TextBoxEditor Editor_;
     EditView View_;
     std::u16string ToolTip_;
     Color BackColor_ = colors::SystemWindow;
