@@ -6,6 +6,7 @@
 
 #include "forms/ScriptValue.h"
 #include "host/PropertyBag.h"
+#include "values/Calendar.h"
 #include "values/Text.h"
 
 namespace kel {
@@ -38,7 +39,13 @@ std::string parameterText(std::span<const ParameterRow> parameters) {
     return text;
 }
 
-std::string defaultText(const PersistedRow& row) { return toUtf8(writeScriptValue(toVariant(row.readDefault))); }
+/// As a script writes it; a date on day 0 is a time of day.
+std::u16string scriptText(const PropertyDefault& value) {
+    const auto* date = std::get_if<Date>(&value);
+    return writeScriptValue(toVariant(value), date != nullptr && dayOf(*date) == Date{});
+}
+
+std::string defaultText(const PersistedRow& row) { return toUtf8(scriptText(row.readDefault)); }
 
 std::string padded(std::string text, std::size_t width) {
     text.resize(std::max(width, text.size() + 1), ' ');
@@ -63,7 +70,9 @@ std::string jsonText(std::u16string_view text) {
 std::string jsonValue(const PropertyDefault& value) {
     if (const auto* text = std::get_if<std::u16string_view>(&value)) return jsonText(*text);
     if (const auto* flag = std::get_if<bool>(&value)) return *flag ? "true" : "false";
-    return toUtf8(writeScriptValue(toVariant(value)));
+    const std::u16string text = scriptText(value);
+    if (std::holds_alternative<Date>(value)) return jsonText(std::u16string_view(text).substr(1, text.size() - 2));
+    return toUtf8(text);
 }
 
 /// `[a, b]` of whatever `write` gives for each row.

@@ -4,22 +4,10 @@ namespace kel {
 
 namespace {
 
-/// A default has no date of its own: it is given as the day serial.
-Variant withoutDate(const Variant& value) {
-    const auto* date = std::get_if<Date>(&value);
-    return date == nullptr ? value : Variant(date->Serial);
-}
-
-Variant defaultOf(const PersistedRow& row) {
-    Variant value = toVariant(row.readDefault);
-    const auto* serial = std::get_if<double>(&value);
-    return row.type == TypeTag::Date && serial != nullptr ? Variant(Date{*serial}) : value;
-}
-
 void apply(FormFile& file, FormBlockId block, const PersistedRow& row, const Variant& value, bool isDefault) {
     const auto property = file.find(block, row.name);
     if (!property && isDefault) return;
-    const Variant held = property ? file.valueAs(*property, row.type) : defaultOf(row);
+    const Variant held = property ? file.valueAs(*property, row.type) : toVariant(row.readDefault);
     if (held == value) return;
     if (isDefault)
         file.remove(block, row.name);
@@ -31,11 +19,11 @@ void apply(FormFile& file, FormBlockId block, const PersistedRow& row, const Var
 
 Variant ControlBag::readProperty(const PersistedRow& row) {
     const auto property = File_.find(Block_, row.readName);
-    return property ? File_.valueAs(*property, row.type) : defaultOf(row);
+    return property ? File_.valueAs(*property, row.type) : toVariant(row.readDefault);
 }
 
 void ControlBag::writeProperty(const PersistedRow& row, const Variant& value) {
-    Written_.push_back({row, value, equalsDefault(withoutDate(value), row.writeDefault)});
+    Written_.push_back({row, value, equalsDefault(value, row.writeDefault)});
 }
 
 void ControlBag::applyTo(FormFile& file, FormBlockId block) const {

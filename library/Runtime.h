@@ -14,6 +14,14 @@ public:
     /// A number, or the text of a field as the user left it, rounded to `decimals` places; an empty text is 0.
     virtual double NumberFromValue(const Variant& value, std::int16_t decimals) = 0;
     virtual double RoundNumber(double number, std::int16_t decimals) = 0;
+
+    /// The date that `text` (a text, a date or a number) stands for in a field with this `format`, without a
+    /// time of day; Null when there is no such date. What the text leaves out comes from `defaultDate`. A date
+    /// of birth with a two-digit year is never after `defaultDate`.
+    virtual Variant ParseDate(const Variant& text, const std::u16string& format, Date defaultDate, bool birthDay) = 0;
+    virtual Date LastDayOfMonth(Date date) = 0;
+    /// The time of day that `text` (a text, a date or a number) stands for, or Null.
+    virtual Variant ParseTime(const Variant& text) = 0;
 };
 
 /// The object that a host hands to the library, once for all controls: regional settings, fonts, and the

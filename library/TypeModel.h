@@ -130,7 +130,7 @@ struct EventRow {
 };
 
 /// A default as a property bag compares it; text stays a view on static storage.
-using PropertyDefault = std::variant<std::u16string_view, bool, std::int16_t, std::int32_t, double>;
+using PropertyDefault = std::variant<std::u16string_view, bool, std::int16_t, std::int32_t, double, Date>;
 
 /// One property as a form file or another property bag keeps it.
 struct PersistedRow {
@@ -310,8 +310,12 @@ namespace detail {
 template <auto Put>
 void loadProperty(Object& target, const Variant& value) {
     using Traits = Accessor<decltype(Put)>;
-    (static_cast<typename Traits::Class&>(target).*
-     Put)(std::get<std::tuple_element_t<0, typename Traits::Values>>(value));
+    using Value = std::tuple_element_t<0, typename Traits::Values>;
+    auto& object = static_cast<typename Traits::Class&>(target);
+    if constexpr (std::is_same_v<Value, Variant>)
+        (object.*Put)(value);
+    else
+        (object.*Put)(std::get<Value>(value));
 }
 
 template <auto Get>
@@ -326,6 +330,10 @@ struct DefaultOf {
 template <>
 struct DefaultOf<std::u16string> {
     using type = std::u16string_view;
+};
+template <>
+struct DefaultOf<Variant> {
+    using type = PropertyDefault;
 };
 
 }  // namespace detail
@@ -385,6 +393,8 @@ struct ClassModel {
     std::unique_ptr<Control> (*makeControl)(ControlHost& host) = nullptr;
     /// Makes a creatable class that is no control; null for controls.
     ObjectPtr (*makeObject)(SharedSettings& settings) = nullptr;
+    /// Its dates are times of day and are written as such.
+    bool datesAreTimes = false;
 
     bool isControl() const { return makeControl != nullptr; }
 };

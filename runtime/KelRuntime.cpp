@@ -1,7 +1,9 @@
 #include "runtime/KelRuntime.h"
 
+#include "runtime/Dates.h"
 #include "runtime/ListString.h"
 #include "runtime/Numbers.h"
+#include "values/Calendar.h"
 
 namespace kel {
 
@@ -15,6 +17,13 @@ public:
         return numberFromValue(value, decimals, Services_.region());
     }
     double RoundNumber(double number, std::int16_t decimals) override { return roundNumber(number, decimals); }
+
+    Variant ParseDate(const Variant& text, const std::u16string& format, Date defaultDate, bool birthDay) override {
+        const TwoDigitYears years = birthDay ? TwoDigitYears::NotAfterDefault : TwoDigitYears::AnyTime;
+        return dateFromValue(text, format, defaultDate, years, Services_.region());
+    }
+    Date LastDayOfMonth(Date date) override { return lastDayOfMonth(date); }
+    Variant ParseTime(const Variant& text) override { return timeFromValue(text, Services_.region()); }
 
 private:
     RuntimeServices& Services_;

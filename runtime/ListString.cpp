@@ -1,5 +1,7 @@
 #include "runtime/ListString.h"
 
+#include "values/QuotedField.h"
+
 namespace kel {
 
 namespace {
@@ -9,28 +11,6 @@ constexpr char16_t Quote = u'"';
 bool needsQuotes(std::u16string_view item) {
     if (item.empty()) return false;
     return item.find_first_of(u",\"\r\n") != std::u16string_view::npos || item.front() == u' ' || item.back() == u' ';
-}
-
-/// Takes one quote off each end, independently, and halves the doubled ones inside.
-std::u16string unquote(std::u16string_view field) {
-    if (field.starts_with(Quote)) field.remove_prefix(1);
-    if (field.ends_with(Quote)) field.remove_suffix(1);
-    std::u16string plain;
-    plain.reserve(field.size());
-    for (std::size_t i = 0; i < field.size(); ++i) {
-        plain += field[i];
-        if (field[i] == Quote && i + 1 < field.size() && field[i + 1] == Quote) ++i;
-    }
-    return plain;
-}
-
-std::size_t fieldEnd(std::u16string_view text, std::size_t start, char16_t separator) {
-    bool quoted = false;
-    for (std::size_t i = start; i < text.size(); ++i) {
-        if (text[i] == Quote) quoted = !quoted;
-        if (text[i] == separator && !quoted) return i;
-    }
-    return text.size();
 }
 
 }  // namespace
@@ -58,7 +38,7 @@ std::u16string readListField(std::u16string_view text, std::int32_t& position, c
     // One past the end marks a list that is read to its end: an empty last field, behind a final comma,
     // starts at the end itself and is still to be read.
     position = static_cast<std::int32_t>(end + 1);
-    return unquote(text.substr(start, end - start));
+    return unquoted(text.substr(start, end - start));
 }
 
 }  // namespace kel

@@ -1,38 +1,39 @@
 #include "values/Calendar.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
+
+#include "values/CalendarDays.h"
 
 namespace kel {
 
 namespace {
 
-using std::chrono::days;
-using std::chrono::sys_days;
-using std::chrono::year_month_day;
+using namespace calendar;
 
-constexpr sys_days Epoch = std::chrono::year{1899} / 12 / 30;
+constexpr std::int32_t DaysPerWeek = 7;
 
-constexpr year_month_day calendarDay(const DateParts& parts) {
-    return std::chrono::year{parts.year} / std::chrono::month{static_cast<unsigned>(parts.month)} /
-           std::chrono::day{static_cast<unsigned>(parts.day)};
+bool isSerial(std::int64_t serial) { return serial >= FirstSerial && serial <= LastSerial; }
+
+std::int32_t secondOfDay(Date date) {
+    const auto rounded = static_cast<std::int32_t>(std::lround(dayFractionOf(date) * SecondsPerDay));
+    return std::min(rounded, SecondsPerDay - 1);
 }
 
-constexpr std::int32_t serialOf(const DateParts& parts) {
-    return static_cast<std::int32_t>((sys_days{calendarDay(parts)} - Epoch).count());
+std::optional<Date> addCalendarMonths(Date date, std::int64_t months) {
+    DateParts parts = datePartsOf(date);
+    const std::int64_t month = parts.year * std::int64_t{MonthsPerYear} + parts.month - 1 + months;
+    if (month < FirstYear * MonthsPerYear || month >= (LastYear + 1) * MonthsPerYear) return std::nullopt;
+    parts.year = static_cast<std::int32_t>(month / MonthsPerYear);
+    parts.month = static_cast<std::int32_t>(month % MonthsPerYear) + 1;
+    parts.day = std::min(parts.day, lastDay(parts.year, parts.month));
+    return withTime(dayWith(serialOf(parts)), dayFractionOf(date));
 }
-
-constexpr std::int32_t FirstSerial = serialOf({FirstYear, 1, 1});
-constexpr std::int32_t LastSerial = serialOf({LastYear, 12, 31});
 
 }  // namespace
 
 std::optional<Date> dateOf(const DateParts& parts) {
-    const bool plausible = parts.year >= FirstYear && parts.year <= LastYear && parts.month >= 1 && parts.day >= 1 &&
-                           parts.month <= 12 && parts.day <= 31;
-    if (!plausible || !calendarDay(parts).ok()) return std::nullopt;
-    return Date{static_cast<double>(serialOf(parts))};
+    return exists(parts) ? std::optional(dayWith(serialOf(parts))) : std::nullopt;
 }
 
 std::optional<Date> timeOf(const TimeParts& parts) {
@@ -42,26 +43,70 @@ std::optional<Date> timeOf(const TimeParts& parts) {
     return Date{static_cast<double>(parts.hour * 3600 + parts.minute * 60 + parts.second) / SecondsPerDay};
 }
 
-DateParts datePartsOf(Date date) {
-    const double whole =
-        std::clamp(std::trunc(date.Serial), static_cast<double>(FirstSerial), static_cast<double>(LastSerial));
-    const year_month_day day{Epoch + days{static_cast<std::int32_t>(whole)}};
-    return {static_cast<std::int32_t>(day.year()), static_cast<std::int32_t>(static_cast<unsigned>(day.month())),
-            static_cast<std::int32_t>(static_cast<unsigned>(day.day()))};
-}
+DateParts datePartsOf(Date date) { return partsOf(wholeDays(date)); }
 
 TimeParts timePartsOf(Date date) {
-    const auto rounded = static_cast<std::int32_t>(std::lround(dayFractionOf(date) * SecondsPerDay));
-    const std::int32_t seconds = std::min(rounded, SecondsPerDay - 1);
+    const std::int32_t seconds = secondOfDay(date);
     return {seconds / 3600, seconds / 60 % 60, seconds % 60};
 }
 
-Date dayOf(Date date) { return {std::trunc(date.Serial)}; }
+std::int32_t weekdayOf(Date date) {
+    // Day 1 is a Sunday; whole weeks are added so that no remainder is negative.
+    constexpr std::int32_t WholeWeeks = (-FirstSerial / DaysPerWeek + 1) * DaysPerWeek;
+    return (wholeDays(date) - 1 + WholeWeeks) % DaysPerWeek + 1;
+}
 
-double dayFractionOf(Date date) { return std::abs(date.Serial - std::trunc(date.Serial)); }
+std::int32_t dayOfYearOf(Date date) { return wholeDays(date) - serialOf({datePartsOf(date).year, 1, 1}) + 1; }
+
+bool isInCalendar(Date date) { return date.Serial > FirstSerial - 1 && date.Serial < LastSerial + 1; }
+
+std::optional<Date> addDays(Date date, std::int32_t count) {
+    const std::int64_t serial = std::int64_t{wholeDays(date)} + count;
+    if (!isSerial(serial)) return std::nullopt;
+    return withTime(dayWith(serial), dayFractionOf(date));
+}
+
+std::optional<Date> addMonths(Date date, std::int32_t months) { return addCalendarMonths(date, months); }
+
+std::optional<Date> addYears(Date date, std::int32_t years) {
+    return addCalendarMonths(date, std::int64_t{years} * MonthsPerYear);
+}
+
+Date firstDayOfMonth(Date date) {
+    const DateParts parts = datePartsOf(date);
+    return dayWith(serialOf({parts.year, parts.month, 1}));
+}
+
+Date lastDayOfMonth(Date date) {
+    const DateParts parts = datePartsOf(date);
+    return dayWith(serialOf({parts.year, parts.month, lastDay(parts.year, parts.month)}));
+}
+
+std::optional<Date> addSeconds(Date date, std::int64_t seconds) {
+    // More than the whole calendar lasts, which also keeps the sum from overflowing.
+    constexpr std::int64_t Most = std::int64_t{LastSerial - FirstSerial + 1} * SecondsPerDay;
+    if (seconds < -Most || seconds > Most) return std::nullopt;
+    const std::int64_t fromFirstDay =
+        std::int64_t{wholeDays(date) - FirstSerial} * SecondsPerDay + secondOfDay(date) + seconds;
+    if (fromFirstDay < 0 || fromFirstDay >= Most) return std::nullopt;
+    const std::int64_t serial = FirstSerial + fromFirstDay / SecondsPerDay;
+    return withTime(dayWith(serial), static_cast<double>(fromFirstDay % SecondsPerDay) / SecondsPerDay);
+}
+
+bool isEarlier(Date left, Date right) {
+    const double leftDay = dayOf(left).Serial;
+    const double rightDay = dayOf(right).Serial;
+    return leftDay != rightDay ? leftDay < rightDay : dayFractionOf(left) < dayFractionOf(right);
+}
+
+Date dayOf(Date date) { return dayWith(wholeDays(date)); }
+
+double dayFractionOf(Date date) {
+    return std::isfinite(date.Serial) ? std::abs(date.Serial - std::trunc(date.Serial)) : 0;
+}
 
 Date withTime(Date day, double fraction) {
-    const double whole = std::trunc(day.Serial);
+    const std::int32_t whole = wholeDays(day);
     return {whole < 0 ? whole - fraction : whole + fraction};
 }
 

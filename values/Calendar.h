@@ -5,7 +5,8 @@
 
 #include "values/Variant.h"
 
-/// Day serials and calendar parts, years 100 to 9999 of the Gregorian calendar.
+/// Day serials and calendar parts, years 100 to 9999 of the Gregorian calendar. Every double is taken: days
+/// outside the calendar count as its nearest end, and what is not a number as day 0.
 namespace kel {
 
 struct DateParts {
@@ -32,11 +33,36 @@ std::optional<Date> dateOf(const DateParts& parts);
 /// Nothing when an hour is above 23, or a minute or second above 59.
 std::optional<Date> timeOf(const TimeParts& parts);
 
-/// The day of a serial; days outside the calendar give its nearest end.
 DateParts datePartsOf(Date date);
 
 /// The time of day to the nearest second; the last half second of a day counts as 23:59:59.
 TimeParts timePartsOf(Date date);
+
+/// 1 Sunday … 7 Saturday.
+std::int32_t weekdayOf(Date date);
+/// 1 for the first of January.
+std::int32_t dayOfYearOf(Date date);
+
+/// Whether the serial's day is one of the calendar's.
+bool isInCalendar(Date date);
+
+/// Some days, months or years later, earlier when negative; the time of day stays. A day that the month does
+/// not have becomes its last one. Nothing when the result is outside the calendar.
+std::optional<Date> addDays(Date date, std::int32_t days);
+std::optional<Date> addMonths(Date date, std::int32_t months);
+std::optional<Date> addYears(Date date, std::int32_t years);
+
+/// Without a time of day.
+Date firstDayOfMonth(Date date);
+Date lastDayOfMonth(Date date);
+
+/// Some seconds later, earlier when negative, to the nearest second. Nothing when the result is outside the
+/// calendar.
+std::optional<Date> addSeconds(Date date, std::int64_t seconds);
+
+/// Before, at or after in time; serials themselves do not compare, as negative ones count their fraction away
+/// from zero.
+bool isEarlier(Date left, Date right);
 
 /// The day alone and the time of day alone.
 Date dayOf(Date date);

@@ -5,8 +5,10 @@
 #include <string>
 #include <string_view>
 
+#include "values/FormatExpressionDate.h"
 #include "values/FormatExpressionNumber.h"
 #include "values/RegionalSettings.h"
+#include "values/Variant.h"
 
 /// The classic Basic format language: how a value is shown, written as a small text such as "#,##0.00".
 ///
@@ -35,7 +37,30 @@
 ///   between places stay where they are: "00-00" shows 12345 as 123-45. Digits and the minus are the
 ///   region's own; a minus stands in front of everything.
 ///
-/// SECTIONS are separated by semicolons
+/// DATES AND TIMES, in any case of letters
+///   d dd       day, plain and with two digits
+///   ddd dddd   weekday, short and in full; aaaa is the same as dddd
+///   ddddd      the region's short date; dddddd its long date
+///   m mm       month, plain and with two digits. When the part shown before it is hours, minutes: "hh:mm:ss"
+///              shows 10:15:30, but "mm:ss" a month and seconds.
+///   mmm mmmm   name of the month, short and in full; oooo is the same as mmmm
+///   yy yyyy    year, its last two digits and in full. Years below 1000 have three digits.
+///   y          day of the year, 1 to 366
+///   q          quarter
+///   w          day of the week, 1 for the first one; ww: week of the year
+///   h hh       hours, plain and with two digits
+///   n nn s ss  minutes and seconds, in the same way
+///   ttttt      the region's long time
+///   AM/PM      one half or the other of it, as it is written here; a/p likewise. AMPM shows the region's own
+///              markers. With any of them in the expression all its hours count to 12.
+///   c          short date and long time, but only the date of midnight, and only the time on day 0
+///   / :        the region's date and time separators
+///
+///   Of more letters in a row than there are here, as many as make sense are taken first. Digits are the
+///   region's own. Places for numbers print themselves, unless the expression shows nothing of a date and has
+///   places: then the day serial is shown as a number.
+///
+/// SECTIONS are separated by semicolons. Dates are shown by the first one. For numbers there may be
 ///   one        all numbers
 ///   two        positive numbers and zero; negative ones, without their sign
 ///   three      positive; negative; zero, also what rounds to zero in its own section
@@ -51,6 +76,14 @@
 ///   Percent          0.00%
 ///   Scientific       0.00E+00
 ///   Yes/No           No for zero, else Yes; True/False and On/Off in the same way
+///   General Date     c; for a date, the empty expression does the same
+///   Long Date        dddddd
+///   Medium Date      dd-mmm-yy
+///   Short Date       ddddd
+///   Long Time        ttttt
+///   Medium Time      hh:nn AM/PM
+///   Short Time       hh:nn
+///   A number shown by one of these names is a day serial.
 namespace kel {
 
 /// A format expression, read once and then used for any number of values. Every text is a format
@@ -63,12 +96,17 @@ public:
     std::u16string format(double number, const RegionalSettings& region) const;
     std::u16string formatNull(const RegionalSettings& region) const;
 
+    /// Days outside the calendar count as its nearest end.
+    std::u16string format(Date date, const RegionalSettings& region, const WeekRule& weeks = {}) const;
+
 private:
     enum SectionPlace : std::size_t { Positive, Negative, Zero, Nothing, SectionPlaces };
 
     bool has(SectionPlace place) const { return !Sections_[place].isEmpty(); }
 
     bool IsGeneral_ = false;
+    bool IsDateName_ = false;
+    DateSection Date_;
     std::array<NumberSection, SectionPlaces> Sections_;
 };
 

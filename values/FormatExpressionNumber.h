@@ -22,6 +22,9 @@ public:
 
     bool isEmpty() const { return Steps_.empty(); }
 
+    /// Whether it has places for digits.
+    bool hasPlaces() const { return WholePlaces_ + FractionPlaces_ != 0; }
+
     /// Whether the number is shown, and shown as zero.
     bool showsZero(const Decimal& number) const;
 
@@ -42,7 +45,6 @@ private:
     class Compiler;
     class Printer;
 
-    bool hasPlaces() const { return WholePlaces_ + FractionPlaces_ != 0; }
     Scaled scaled(Decimal number) const;
 
     std::vector<Step> Steps_;

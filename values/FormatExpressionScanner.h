@@ -16,6 +16,9 @@ public:
 
     explicit FormatScanner(std::u16string_view expression) : Rest_(expression) {}
 
+    /// Whether a unit begins a literal, whatever follows.
+    static constexpr bool protects(char16_t unit) { return unit == u'"' || unit == u'\\'; }
+
     bool atEnd() const { return Rest_.empty(); }
 
     /// What is still to come.

@@ -8,6 +8,7 @@
 #include <type_traits>
 
 #include "values/Decimal.h"
+#include "values/Digits.h"
 #include "values/NumberFormat.h"
 #include "values/Text.h"
 
@@ -91,17 +92,8 @@ private:
         return true;
     }
 
-    /// The value of the digit that begins `text`, 10 when none does; `units` is what it takes up.
     unsigned digitIn(std::u16string_view text, std::size_t& units) const {
-        constexpr unsigned None = 10;
-        units = 1;
-        if (text.empty()) return None;
-        const auto ascii = static_cast<unsigned>(text.front()) - u'0';
-        if (ascii < 10 || Region_.ZeroDigit == U'0') return std::min(ascii, None);
-        const std::size_t before = text.size();
-        const char32_t regional = takeCodePoint(text) - Region_.ZeroDigit;
-        units = before - text.size();
-        return static_cast<unsigned>(std::min<char32_t>(regional, None));
+        return kel::digitIn(text, Region_.ZeroDigit, units);
     }
 
     template <class Use>

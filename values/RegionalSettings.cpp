@@ -30,6 +30,7 @@ struct RegionData {
     std::u16string_view pmMarker;
     std::u16string_view monthNames;  ///< here and below, names are separated by ';'
     std::u16string_view abbreviatedMonthNames;
+    std::u16string_view standaloneMonthNames;
     std::u16string_view weekdayNames;
     std::u16string_view abbreviatedWeekdayNames;
 };
@@ -66,6 +67,7 @@ RegionalSettings settingsOf(const RegionData& data) {
     region.PmMarker = data.pmMarker;
     splitNames(data.monthNames, region.MonthNames);
     splitNames(data.abbreviatedMonthNames, region.AbbreviatedMonthNames);
+    splitNames(data.standaloneMonthNames, region.StandaloneMonthNames);
     splitNames(data.weekdayNames, region.WeekdayNames);
     splitNames(data.abbreviatedWeekdayNames, region.AbbreviatedWeekdayNames);
     region.FirstDayOfWeek = data.firstDayOfWeek;

@@ -30,9 +30,11 @@ struct RegionalSettings {
     std::u16string PmMarker = u"pm";
     std::array<std::u16string, 12> MonthNames{};  ///< January first, as used inside a date
     std::array<std::u16string, 12> AbbreviatedMonthNames{};
-    std::array<std::u16string, 7> WeekdayNames{};  ///< Sunday first
+    std::array<std::u16string, 12> StandaloneMonthNames{};  ///< as on a calendar, without a day
+    std::array<std::u16string, 7> WeekdayNames{};           ///< Sunday first
     std::array<std::u16string, 7> AbbreviatedWeekdayNames{};
-    std::uint8_t FirstDayOfWeek = 1;  ///< 1 Sunday … 7 Saturday
+    std::uint8_t FirstDayOfWeek = 1;      ///< 1 Sunday … 7 Saturday
+    std::int16_t TwoDigitYearMax = 2049;  ///< the last of the hundred years that two digits stand for
 
     friend bool operator==(const RegionalSettings&, const RegionalSettings&) = default;
 };

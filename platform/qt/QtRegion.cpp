@@ -232,6 +232,7 @@ void readNames(const QLocale& locale, RegionalSettings& region) {
         const auto at = static_cast<std::size_t>(month);
         region.MonthNames[at] = locale.monthName(month + 1, QLocale::LongFormat).toStdU16String();
         region.AbbreviatedMonthNames[at] = locale.monthName(month + 1, QLocale::ShortFormat).toStdU16String();
+        region.StandaloneMonthNames[at] = locale.standaloneMonthName(month + 1, QLocale::LongFormat).toStdU16String();
     }
     for (int day = 0; day < 7; ++day) {
         const auto at = static_cast<std::size_t>(day);

@@ -28,6 +28,13 @@ public:
         return value;
     }
 
+    /// The last of the hundred years that two digits stand for; 0 when there is no such setting.
+    unsigned twoDigitYearMax() const {
+        DWORD year = 0;
+        GetCalendarInfoEx(Name_, CAL_GREGORIAN, nullptr, CAL_ITWODIGITYEARMAX | CAL_RETURN_NUMBER, nullptr, 0, &year);
+        return year;
+    }
+
 private:
     const wchar_t* Name_;
 };
@@ -160,6 +167,7 @@ void readNames(const Locale& locale, RegionalSettings& region) {
     for (unsigned month = 0; month < 12; ++month) {
         region.MonthNames.at(month) = monthName(locale, LOCALE_SMONTHNAME1 + month);
         region.AbbreviatedMonthNames.at(month) = monthName(locale, LOCALE_SABBREVMONTHNAME1 + month);
+        region.StandaloneMonthNames.at(month) = locale.text(LOCALE_SMONTHNAME1 + month);
     }
     for (unsigned day = 0; day < 7; ++day) {
         const unsigned fromMonday = (day + 6) % 7;
@@ -178,6 +186,7 @@ RegionalSettings readRegion(const wchar_t* name) {
     readNumbers(locale, region);
     readFormats(locale, region);
     readNames(locale, region);
+    if (const unsigned year = locale.twoDigitYearMax()) region.TwoDigitYearMax = static_cast<std::int16_t>(year);
     return region;
 }
 

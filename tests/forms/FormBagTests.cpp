@@ -12,7 +12,7 @@ PersistedRow row(std::u16string_view name, TypeTag type, PropertyDefault byDefau
 const PersistedRow Caption = row(u"Caption", TypeTag::String, u"");
 const PersistedRow Width = row(u"CaptionWidth", TypeTag::Integer16, std::int16_t{0});
 const PersistedRow Enabled = row(u"Enabled", TypeTag::Boolean, true);
-const PersistedRow MaxValue = row(u"MaxValue", TypeTag::Date, 2958465.0);
+const PersistedRow MaxValue = row(u"MaxValue", TypeTag::Date, Date{2958465});
 const PersistedRow Value = row(u"Value", TypeTag::Any, std::int16_t{0});
 const PersistedRow DropDown = row(u"DropDownWidth", TypeTag::Integer16, std::int16_t{0}).readAs(u"DropdownWidth");
 const PersistedRow Number = row(u"Value", TypeTag::Double, 0.0).writtenUnless(u"");

@@ -5,8 +5,8 @@
 #include <cmath>
 #include <limits>
 
-#include "runtime/KelRuntime.h"
 #include "runtime/Numbers.h"
+#include "tests/runtime/RegionalServices.h"
 #include "values/Text.h"
 
 namespace kel {
@@ -200,19 +200,8 @@ TEST(NumericValues, AreNumbersAndTextsOfNumbers) {
     EXPECT_EQ(numberFromValue(std::u16string(u"1,5"), 0, *findRegion(u"de-DE")), 2);
 }
 
-class Services final : public RuntimeServices {
-public:
-    std::int32_t colorDepth() const override { return 24; }
-    const RegionalSettings& region() const override { return *Region; }
-    FontChoice captionFont() const override { return {}; }
-    FontChoice fieldFont() const override { return {}; }
-    void sendKey(std::int16_t) override {}
-
-    const RegionalSettings* Region = &defaultRegion();
-};
-
 TEST(RuntimeNumbers, FollowTheRegionWhenItChanges) {
-    Services services;
+    RegionalServices services;
     const auto dates = makeRuntime(services)->RuntimeDates();
     EXPECT_EQ(dates->NumberFromValue(std::u16string(u"1,234.565"), 2), 1234.57);
     services.Region = findRegion(u"de-DE");

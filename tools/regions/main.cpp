@@ -68,6 +68,7 @@ void printRegion(const kel::RegionalSettings& region) {
         row(region.DateSeparator, region.TimeSeparator, region.AmMarker, region.PmMarker),
         row(region.MonthNames),
         row(region.AbbreviatedMonthNames),
+        row(region.StandaloneMonthNames),
         row(region.WeekdayNames),
         row(region.AbbreviatedWeekdayNames),
     };

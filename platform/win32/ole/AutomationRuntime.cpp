@@ -34,6 +34,18 @@ public:
         std::array<Variant, 2> arguments{number, decimals};
         return as<double>(Members_.call(u"RoundNumber", arguments));
     }
+    Variant ParseDate(const Variant& text, const std::u16string& format, Date defaultDate, bool birthDay) override {
+        std::array<Variant, 4> arguments{text, format, defaultDate, birthDay};
+        return Members_.call(u"ParseDate", arguments);
+    }
+    Date LastDayOfMonth(Date date) override {
+        std::array<Variant, 1> arguments{date};
+        return as<Date>(Members_.call(u"LastDayOfMonth", arguments));
+    }
+    Variant ParseTime(const Variant& text) override {
+        std::array<Variant, 1> arguments{text};
+        return Members_.call(u"ParseTime", arguments);
+    }
 
 private:
     DispatchCaller Members_;

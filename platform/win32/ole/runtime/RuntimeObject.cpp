@@ -26,6 +26,11 @@ constexpr MemberRow DatesMembers[] = {
         .arguments(u"Value", u"Decimals"),
     method<&RuntimeDatesObject::RoundNumber>(u"RoundNumber", 2, u"A number rounded to some decimals")
         .arguments(u"Number", u"Decimals"),
+    method<&RuntimeDatesObject::ParseDate>(u"ParseDate", 3, u"A text as a date in a field's format, or Null")
+        .arguments(u"Text", u"Format", u"DefaultDate", u"BirthDay"),
+    method<&RuntimeDatesObject::LastDayOfMonth>(u"LastDayOfMonth", 4, u"The last day of a date's month")
+        .arguments(u"Date"),
+    method<&RuntimeDatesObject::ParseTime>(u"ParseTime", 5, u"A text as a time, or Null").arguments(u"Text"),
 };
 
 constinit const ClassModel DatesModel{

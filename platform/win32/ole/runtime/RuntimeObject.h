@@ -24,6 +24,11 @@ public:
         return Dates_->NumberFromValue(value, decimals);
     }
     double RoundNumber(double number, std::int16_t decimals) { return Dates_->RoundNumber(number, decimals); }
+    Variant ParseDate(const Variant& text, const std::u16string& format, Date defaultDate, bool birthDay) {
+        return Dates_->ParseDate(text, format, defaultDate, birthDay);
+    }
+    Date LastDayOfMonth(Date date) { return Dates_->LastDayOfMonth(date); }
+    Variant ParseTime(const Variant& text) { return Dates_->ParseTime(text); }
 
 private:
     Module& Module_;

@@ -1,0 +1,93 @@
+#include "values/TimeReader.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "values/Calendar.h"
+#include "values/Text.h"
+
+namespace kel {
+namespace {
+
+std::string read(std::u16string_view text, std::u16string_view region = u"en-GB") {
+    const auto time = readTime(text, *findRegion(region));
+    if (!time) return "none";
+    const TimeParts parts = timePartsOf(*time);
+    char buffer[16];
+    std::snprintf(buffer, sizeof buffer, "%d:%02d:%02d", parts.hour, parts.minute, parts.second);
+    return buffer;
+}
+
+TEST(TimeReader, ReadsWhatPeopleWrite) {
+    const struct {
+        std::u16string_view text;
+        std::string_view time;
+        std::u16string_view region = u"en-GB";
+    } cases[] = {
+        {u"9", "9:00:00"},
+        {u"09", "9:00:00"},
+        {u"930", "9:30:00"},
+        {u"0930", "9:30:00"},
+        {u"093015", "9:30:15"},
+        {u"0", "0:00:00"},
+        {u"9:30", "9:30:00"},
+        {u"9.30.15", "9:30:15"},
+        {u" 9 30  15\t", "9:30:15"},
+        {u"9 : 30", "9:30:00"},
+        {u"9:5", "9:05:00"},
+        {u"23:59:59", "23:59:59"},
+        {u"9a", "9:00:00"},
+        {u"9:30 P", "21:30:00"},
+        {u"9:30pm", "21:30:00"},
+        {u"930p.m.", "21:30:00"},
+        {u"9 p. m.", "21:00:00"},
+        {u"PM 9:30", "21:30:00"},
+        {u"p.m.9", "21:00:00"},
+        {u"12am", "0:00:00"},
+        {u"12:30 am", "0:30:00"},
+        {u"12 pm", "12:00:00"},
+        {u"0 pm", "12:00:00"},
+        {u"13 am", "13:00:00"},
+        {u"21:30 pm", "21:30:00"},
+        {u"9:30 du.", "21:30:00", u"hu-HU"},
+        {u"9:30 DE", "9:30:00", u"hu-HU"},
+        {u"9:30 p.m.", "21:30:00", u"es-ES"},
+        {u"9:30 p.\u00A0m.", "21:30:00", u"es-ES"},
+        {u"오후 9:30", "21:30:00", u"ko-KR"},
+        {u"9:30 אחה״צ", "21:30:00", u"he-IL"},
+        {u"٩:٣٠ م", "21:30:00", u"ar-EG"},
+        {u"9.30", "9:30:00", u"fi-FI"},
+    };
+    for (const auto& test : cases) EXPECT_EQ(read(test.text, test.region), test.time) << toUtf8(test.text);
+}
+
+TEST(TimeReader, SaysWhatIsNoTime) {
+    for (const std::u16string_view text :
+         {u"",      u" ",       u":",         u"24:00",   u"0:60",    u"0:0:60", u"99",    u"24",
+          u"2400",  u"0960",    u"12345",     u"1234567", u"9:",      u"9.",     u"9:30:", u":30",
+          u"9::30", u"9:.30",   u"9:30:15:1", u"100:00",  u"9:300",   u"009:30", u"-9",    u"9-30",
+          u"9,30",  u"9/30",    u"pm",        u"am 9 pm", u"9 pm pm", u"9 x",    u"9 pam", u"x9",
+          u"9h30",  u"9 am 30", u"24 am",     u"12 pm.x", u"9٣0",     u"১",      u"9:.pm", u"9.p"})
+        EXPECT_EQ(read(text), "none") << toUtf8(text);
+}
+
+TEST(TimeReader, IsNotUpsetByTheEndlessAndTheStrange) {
+    constexpr std::size_t Megabyte = 1 << 20;
+    for (const char16_t unit : u": 9.pa\x0661\xD83A\xDC00")
+        for (const std::u16string_view region : {u"en-GB", u"ar-EG"})
+            EXPECT_EQ(read(std::u16string(Megabyte, unit), region), "none");
+    const std::u16string blanks(Megabyte, u' ');
+    EXPECT_EQ(read(blanks + u"9" + blanks + u"30" + blanks + u"p" + blanks), "21:30:00");
+
+    constexpr std::u16string_view Alphabet = u"0123456789:. amp\xD801\x0661";
+    std::mt19937 random(8);
+    for (int round = 0; round < 5000; ++round) {
+        std::u16string text;
+        for (auto length = random() % 12; length != 0; --length) text += Alphabet[random() % Alphabet.size()];
+        read(text, u"ar-EG");
+    }
+}
+
+}  // namespace
+}  // namespace kel

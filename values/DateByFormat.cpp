@@ -1,0 +1,189 @@
+#include "values/DateByFormat.h"
+
+#include <array>
+#include <optional>
+#include <span>
+#include <string>
+
+#include "values/FormatExpressionFields.h"
+#include "values/Words.h"
+
+namespace kel {
+
+namespace {
+
+/// How a field is written in digits, and what they are for.
+struct NumberField {
+    std::uint8_t least = 0;  ///< digits; 0: the field is no number
+    std::uint8_t most = 0;
+    std::optional<DatePart> part{};
+
+    constexpr bool exists() const { return most != 0; }
+    constexpr bool isFixed() const { return least == most; }
+};
+
+constexpr NumberField numberField(DateField field) {
+    switch (field) {
+        case DateField::Day: return {1, 2, DatePart::Day};
+        case DateField::TwoDigitDay: return {2, 2, DatePart::Day};
+        case DateField::Month: return {1, 2, DatePart::Month};
+        case DateField::TwoDigitMonth: return {2, 2, DatePart::Month};
+        case DateField::TwoDigitYear: return {2, 2, DatePart::Year};
+        case DateField::Year: return {4, 4, DatePart::Year};
+        case DateField::Hour:
+        case DateField::Minute:
+        case DateField::Second:
+        case DateField::WeekOfYear: return {1, 2};
+        case DateField::TwoDigitHour:
+        case DateField::TwoDigitMinute:
+        case DateField::TwoDigitSecond: return {2, 2};
+        case DateField::DayOfYear: return {1, 3};
+        case DateField::Quarter:
+        case DateField::WeekdayNumber: return {1, 1};
+        default: return {};
+    }
+}
+
+constexpr std::size_t FieldCount = static_cast<std::size_t>(DateField::General) + 1;
+
+constexpr std::array<NumberField, FieldCount> NumberFields = [] {
+    std::array<NumberField, FieldCount> fields;
+    for (std::size_t at = 0; at < FieldCount; ++at) fields[at] = numberField(static_cast<DateField>(at));
+    return fields;
+}();
+
+constexpr const NumberField& digitsOf(DateField field) { return NumberFields[static_cast<std::size_t>(field)]; }
+
+/// Whether digits may come next. In some languages the names of months begin with their numbers.
+bool isBeforeDigit(DateFieldScanner scanner) {
+    DateToken next;
+    return scanner.next(next) && (digitsOf(next.field).exists() || next.field == DateField::ShortMonthName ||
+                                  next.field == DateField::MonthName);
+}
+
+class LayoutReader {
+public:
+    LayoutReader(std::u16string_view text, const RegionalSettings& region, WrittenDate& written)
+        : Text_(text), Region_(region), Written_(written) {}
+
+    bool read(std::u16string_view expression) {
+        return take(expression, DateFieldScanner::Source::Expression) && Text_.empty();
+    }
+
+private:
+    bool take(std::u16string_view expression, DateFieldScanner::Source source) {
+        DateFieldScanner scanner(expression, source);
+        for (DateToken token; scanner.next(token);) {
+            if (!take(token, scanner)) return false;
+        }
+        return true;
+    }
+
+    bool take(const DateToken& token, const DateFieldScanner& behind) {
+        const NumberField& number = digitsOf(token.field);
+        if (number.exists()) return takeNumber(number, behind.isAtLetter() && isBeforeDigit(behind));
+        switch (token.field) {
+            case DateField::Literal: return takeLiteral(token.text);
+            case DateField::DateSeparator: return takeLiteral(Region_.DateSeparator);
+            case DateField::TimeSeparator: return takeLiteral(Region_.TimeSeparator);
+            case DateField::ShortWeekday: return takeName(Region_.AbbreviatedWeekdayNames);
+            case DateField::Weekday: return takeName(Region_.WeekdayNames);
+            case DateField::ShortMonthName: return takeMonth(Region_.AbbreviatedMonthNames);
+            case DateField::MonthName: return takeMonth(Region_.MonthNames);
+            case DateField::ShortDate:
+            case DateField::General: return takeRegional(Region_.ShortDateFormat);
+            case DateField::LongDate: return takeRegional(Region_.LongDateFormat);
+            case DateField::LongTime: return takeRegional(Region_.TimeFormat);
+            case DateField::HalfDay: {
+                const std::size_t half = token.text.size() / 2;
+                return takeText(token.text.substr(0, half)) || takeText(token.text.substr(half + 1));
+            }
+            case DateField::RegionalHalfDay: return takeText(Region_.AmMarker) || takeText(Region_.PmMarker);
+            default: return false;
+        }
+    }
+
+    bool takeRegional(std::u16string_view expression) { return take(expression, DateFieldScanner::Source::Region); }
+
+    /// Letters and digits as they are; any separators or none for separators.
+    bool takeLiteral(std::u16string_view literal) {
+        for (const char16_t unit : literal) {
+            if (!isWordUnit(unit)) {
+                skipSeparators(Text_);
+                continue;
+            }
+            if (Text_.empty() || plainLetter(Text_.front()) != plainLetter(unit)) return false;
+            Text_.remove_prefix(1);
+        }
+        return true;
+    }
+
+    bool takeText(std::u16string_view text) {
+        if (!beginsWithLetters(Text_, text)) return false;
+        Text_.remove_prefix(text.size());
+        return true;
+    }
+
+    /// The longest of the names that the text begins with, counted from 1; 0 for none.
+    std::int32_t nameInFront(std::span<const std::u16string> names) const {
+        std::size_t best = 0;
+        std::size_t length = 0;
+        for (std::size_t at = 0; at < names.size(); ++at) {
+            if (names[at].size() <= length || !beginsWithLetters(Text_, names[at])) continue;
+            best = at + 1;
+            length = names[at].size();
+        }
+        return static_cast<std::int32_t>(best);
+    }
+
+    std::int32_t takeName(std::span<const std::u16string> names) {
+        const std::int32_t name = nameInFront(names);
+        if (name != 0) Text_.remove_prefix(names[static_cast<std::size_t>(name - 1)].size());
+        return name;
+    }
+
+    bool takeMonth(std::span<const std::u16string> names) {
+        const std::int32_t month = takeName(names);
+        if (month == 0 || (Written_.month != WrittenDate::Unsaid && Written_.month != month)) return false;
+        Written_.month = month;
+        return true;
+    }
+
+    bool takeNumber(const NumberField& number, bool isBeforeDigit) {
+        if (isBeforeDigit && !number.isFixed()) return false;
+        const DigitGroup group =
+            isBeforeDigit ? takeDigits(Text_, Region_.ZeroDigit, number.most) : takeDigits(Text_, Region_.ZeroDigit);
+        if (group.digits == 0 || (isBeforeDigit && group.digits != number.most)) return false;
+        return number.part ? put(*number.part, group) : group.digits <= number.most;
+    }
+
+    /// A part that is shown twice is written twice; the longer year counts.
+    bool put(DatePart part, const DigitGroup& group) {
+        switch (part) {
+            case DatePart::Day:
+                if (Written_.day != WrittenDate::Unsaid && Written_.day != group.value) return false;
+                break;
+            case DatePart::Month:
+                if (Written_.month != WrittenDate::Unsaid && Written_.month != group.value) return false;
+                break;
+            case DatePart::Year:
+                if (group.digits <= Written_.yearDigits) return true;
+                break;
+        }
+        return Written_.put(part, group);
+    }
+
+    std::u16string_view Text_;
+    const RegionalSettings& Region_;
+    WrittenDate& Written_;
+};
+
+}  // namespace
+
+bool readByFormat(std::u16string_view text, std::u16string_view expression, const RegionalSettings& region,
+                  WrittenDate& written) {
+    written = {};
+    return LayoutReader(text, region, written).read(expression);
+}
+
+}  // namespace kel

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "values/RegionalSettings.h"
+#include "values/Variant.h"
+
+/// Dates as people write them in a field that shows them by a format expression.
+///
+/// - A text that has the layout of the format is read by it. Otherwise the order of day, month and year is the
+///   format's, and the region's for what the format does not show. Whatever is neither letter nor digit
+///   separates; letters may touch digits. A first number of four digits is a year, with month and day behind.
+/// - Months are numbers or names: the region's or English ones, in full or from three letters on, as long as they
+///   fit one month. Case and accents do not matter. Weekdays are passed over, and so are the words that the
+///   format or the region's long date writes between the parts.
+/// - Digits alone: eight are day, month and year of four digits if there is such a date (so are seven, with a year
+///   below 1000), else in the order of the format; six, with a year of two digits, four, without a year, and one or
+///   two, the day alone, in the order of the format.
+/// - A year of one or two digits is in the hundred years that end with the region's `TwoDigitYearMax`. Others
+///   stand as written.
+/// - Parts that are not written come from the default date, but the day is 1 when month and year are written.
+/// - "Now" and "Today" are the default date.
+/// - A date that the calendar does not have is none: nothing is swapped, rolled over or guessed.
+namespace kel {
+
+enum class TwoDigitYears : std::uint8_t {
+    AnyTime,
+    NotAfterDefault,  ///< as in dates of birth: hundreds of years earlier if need be
+};
+
+/// The day that all of `text` stands for, or nothing. The time taken grows with the length of the text.
+std::optional<Date> readDate(std::u16string_view text, std::u16string_view format, Date defaultDate,
+                             TwoDigitYears years, const RegionalSettings& region);
+
+}  // namespace kel
