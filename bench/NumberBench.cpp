@@ -3,12 +3,18 @@
 #include <unicode/numfmt.h>
 
 #include <memory>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
 #include <QLocale>
 
+#include "bench/Widgets.h"
 #include "controls/number/NumberText.h"
+#include "KelNumberWidget.h"
 #include "values/FormatExpression.h"
 
 namespace {
+
+using namespace kel::bench;
 
 constexpr double Amount = 1234567.891;
 constexpr int Decimals = 2;
@@ -128,5 +134,27 @@ void ReadNumberByIcu(benchmark::State& state) {
     }
 }
 BENCHMARK(ReadNumberByIcu);
+
+BENCHMARK(makeControl<KelNumberWidget>)->Name("NumberWidget");
+BENCHMARK(makeLabelAndEdit<QDoubleSpinBox>)->Name("LabelAndDoubleSpinBox");
+
+void KeyIntoNumberWidget(benchmark::State& state) {
+    const FocusedEdit<KelNumberWidget> shown;
+    auto* line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    if (line == nullptr) return state.SkipWithError("the field did not take the focus");
+    pressKey(
+        state, *shown.edit, typed(Qt::Key_5, u'5'), [field = shown.edit] { field->setValue(0.0); },
+        [line] { return line->text(); });
+}
+BENCHMARK(KeyIntoNumberWidget);
+
+void KeyIntoDoubleSpinBox(benchmark::State& state) {
+    const FocusedEdit<QDoubleSpinBox> shown;
+    QDoubleSpinBox& box = *shown.edit;
+    box.setRange(0, 1e15);
+    pressKey(
+        state, box, typed(Qt::Key_5, u'5'), [&box] { box.clear(); }, [&box] { return box.text(); });
+}
+BENCHMARK(KeyIntoDoubleSpinBox);
 
 }  // namespace

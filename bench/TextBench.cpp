@@ -1,12 +1,8 @@
 #include <benchmark/benchmark.h>
 
-#include <memory>
-#include <QApplication>
-#include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
-#include <QWidget>
 
+#include "bench/Widgets.h"
 #include "controls/Classes.h"
 #include "forms/Form.h"
 #include "KelTextWidget.h"
@@ -15,73 +11,20 @@
 
 namespace {
 
-void TextWidget(benchmark::State& state) {
-    QWidget parent;
-    for (auto _ : state) delete new KelTextWidget(&parent);
-}
-BENCHMARK(TextWidget);
+using namespace kel::bench;
 
-void LabelAndLineEdit(benchmark::State& state) {
-    QWidget parent;
-    for (auto _ : state) {
-        auto* label = new QLabel(&parent);
-        auto* edit = new QLineEdit(&parent);
-        delete edit;
-        delete label;
-    }
-}
-BENCHMARK(LabelAndLineEdit);
+BENCHMARK(makeControl<KelTextWidget>)->Name("TextWidget");
+BENCHMARK(makeLabelAndEdit<QLineEdit>)->Name("LabelAndLineEdit");
 
-/// A letter typed into whatever has the focus; the text is emptied now and then, outside the clock.
-template <class Clear>
-void typeLetters(benchmark::State& state, QWidget& target, Clear clear) {
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QStringLiteral("a"));
-    int typed = 0;
-    for (auto _ : state) {
-        press.accept();
-        QCoreApplication::sendEvent(&target, &press);
-        if (++typed % 40 == 0) {
-            state.PauseTiming();
-            clear();
-            state.ResumeTiming();
-        }
-    }
-    press.accept();
-    QCoreApplication::sendEvent(&target, &press);
-}
-
-/// Shown in a window of its own, since a hidden edit skips most of a key's work.
 template <class Edit>
-std::unique_ptr<QWidget> windowWith(Edit*& edit) {
-    auto window = std::make_unique<QWidget>();
-    edit = new Edit(window.get());
-    edit->setGeometry(0, 0, 300, 20);
-    window->resize(300, 40);
-    window->show();
-    QApplication::setActiveWindow(window.get());
-    edit->setFocus();
-    QCoreApplication::processEvents();
-    return window;
+void typeLetters(benchmark::State& state) {
+    const FocusedEdit<Edit> shown;
+    Edit& edit = *shown.edit;
+    pressKey(
+        state, edit, typed(Qt::Key_A, u'a'), [&edit] { edit.setText(QString()); }, [&edit] { return edit.text(); });
 }
-
-void KeyIntoTextWidget(benchmark::State& state) {
-    KelTextWidget* field = nullptr;
-    const auto window = windowWith(field);
-    QWidget* target = QApplication::focusWidget();
-    if (target == nullptr) return state.SkipWithError("the field did not take the focus");
-    typeLetters(state, *target, [field] { field->setText(QString()); });
-    if (field->text().isEmpty()) state.SkipWithError("the keys did not arrive");
-}
-BENCHMARK(KeyIntoTextWidget);
-
-void KeyIntoLineEdit(benchmark::State& state) {
-    QLineEdit* edit = nullptr;
-    const auto window = windowWith(edit);
-    if (QApplication::focusWidget() != edit) return state.SkipWithError("the edit did not take the focus");
-    typeLetters(state, *edit, [edit] { edit->setText(QString()); });
-    if (edit->text().isEmpty()) state.SkipWithError("the keys did not arrive");
-}
-BENCHMARK(KeyIntoLineEdit);
+BENCHMARK(typeLetters<KelTextWidget>)->Name("KeyIntoTextWidget");
+BENCHMARK(typeLetters<QLineEdit>)->Name("KeyIntoLineEdit");
 
 class NullObserver final : public kel::ControlObserver {
     void controlEvent(kel::PlacedControl&, const kel::EventRow&, std::span<kel::Variant>) override {}

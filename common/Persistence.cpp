@@ -1,8 +1,11 @@
 #include "common/Persistence.h"
 
+#include "common/basKelControls.h"
+
 namespace kel {
 
-void readPersisted(Control& control, PropertyBag& bag) {
+void readPersisted(ControlHost& host, Control& control, PropertyBag& bag) {
+    if (!host.settings.Runtime) InitControls(host.settings, host.system);
     for (const PersistedRow& row : control.model().loaded) row.load(control, bag.readProperty(row));
 }
 

@@ -108,6 +108,14 @@ public:
     /// Right mouse button in the field; its context menu is closed again unused.
     virtual void rightClick(PlacedControl& control) = 0;
 
+    /// One click on the upper or lower button of the control's spinner, which it has and shows. A disabled
+    /// spinner takes none.
+    virtual void spin(PlacedControl& control, bool up) = 0;
+
+    /// Opens the list of the control's combo box and clicks this item of it, counted from 0. A disabled or locked box
+    /// gives nothing, nor does a window that hosts none.
+    virtual void pick(PlacedControl& /*control*/, std::int32_t /*item*/) {}
+
     virtual void setClipboard(std::u16string_view text) = 0;
 
     /// nullptr: nowhere.

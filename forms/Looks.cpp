@@ -27,11 +27,32 @@ std::u16string drawn(const TextBox& box) {
                           static_cast<std::size_t>(box.selLength()));
 }
 
+std::u16string_view stateOf(const CheckBox& box) {
+    switch (box.value()) {
+        case CheckBox::Unchecked: return u"unchecked";
+        case CheckBox::Checked: return u"checked";
+        default: return u"grey";
+    }
+}
+
+std::u16string lookOf(const CheckBox& box) {
+    return std::u16string(stateOf(box)) + u" caption " + quoteScriptText(box.caption()) + u" fore " +
+           hex(box.foreColor());
+}
+
+std::u16string lookOf(const PictureBox& surface) {
+    const BarPicture& picture = surface.picture();
+    return u"bar " + widen(std::to_string(picture.barWidth)) + u" of " + widen(std::to_string(surface.bounds().width)) +
+           u" text " + quoteScriptText(picture.text);
+}
+
 }  // namespace
 
 std::u16string describeLook(std::u16string_view name, Control& control) {
     const WidgetSet widgets = control.widgets();
     std::u16string look(name);
+    if (widgets.checkBox != nullptr) return look + u" " + lookOf(*widgets.checkBox);
+    if (widgets.picture != nullptr) return look + u" " + lookOf(*widgets.picture);
     if (widgets.textBox != nullptr) look += u" " + drawn(*widgets.textBox);
     if (widgets.field != nullptr)
         look += u" back " + hex(widgets.field->backColor()) + u" fore " + hex(widgets.field->foreColor());
@@ -42,9 +63,12 @@ std::u16string describeLook(std::u16string_view name, Control& control) {
 std::u16string describeLayout(std::u16string_view name, const Rect& bounds, Control& control) {
     const WidgetSet widgets = control.widgets();
     std::u16string layout = std::u16string(name) + u" " + written(bounds);
+    if (widgets.checkBox != nullptr) return layout + u" check " + written(widgets.checkBox->bounds());
+    if (widgets.picture != nullptr) return layout;
     if (widgets.label != nullptr) layout += u" label " + written(widgets.label->bounds());
     if (widgets.field != nullptr) layout += u" field " + written(widgets.field->bounds());
-    return layout + u" spinner -";
+    const bool spins = widgets.upDown != nullptr && widgets.upDown->visible();
+    return layout + u" spinner " + (spins ? written(widgets.upDown->bounds()) : u"-");
 }
 
 }  // namespace kel

@@ -107,7 +107,7 @@ void Player::execute(const ScriptCommand& command, const std::string& scriptFile
             window.press({u'V', u'V', ControlKey});
             break;
         case Verb::Caret: setCaret(command, scriptFile); break;
-        case Verb::Spin: throw ScriptError(scriptFile, command.line, toUtf8(control().name()) + " has no spinner");
+        case Verb::Spin: spin(control(), command, scriptFile); break;
         case Verb::Pick: throw ScriptError(scriptFile, command.line, toUtf8(control().name()) + " has no list");
         case Verb::Get:
         case Verb::Set:
@@ -147,6 +147,14 @@ void Player::setCaret(const ScriptCommand& command, const std::string& scriptFil
     if (command.numbers.size() > 1) box->setSelLength(command.numbers[1]);
 }
 
+void Player::spin(PlacedControl& control, const ScriptCommand& command, const std::string& scriptFile) {
+    const UpDown* const spinner = control.control().widgets().upDown;
+    if (spinner == nullptr || !spinner->visible())
+        throw ScriptError(scriptFile, command.line,
+                          toUtf8(control.name()) + (spinner == nullptr ? " has no spinner" : " shows no spinner"));
+    for (std::size_t i = repetitions(command); i > 0; --i) Form_->window().spin(control, command.up);
+}
+
 void Player::accessMember(PlacedControl& placed, const ScriptCommand& command, const std::string& scriptFile) {
     Control& control = placed.control();
     const ClassModel& model = control.model();
@@ -159,7 +167,7 @@ void Player::accessMember(PlacedControl& placed, const ScriptCommand& command, c
     if (!fault.ok())
         throw ScriptError(scriptFile, command.line,
                           toUtf8(describeFault(fault, model, command.member, command.values)));
-    const std::u16string value = writeScriptValue(result) + returnedArguments(*member, arguments);
+    const std::u16string value = writeScriptValue(result, model.datesAreTimes) + returnedArguments(*member, arguments);
     if (command.verb != Verb::Set && !value.empty())
         print(placed.name() + u"." + std::u16string(member->name) + u" = " +
               (value.starts_with(u' ') ? value.substr(1) : value));
@@ -208,8 +216,9 @@ void Player::printReported(PlacedControl& control) {
 void Player::printBag(PlacedControl& control) {
     ListingBag bag;
     control.control().WriteProperties(bag);
+    const bool times = control.control().model().datesAreTimes;
     for (const auto& [name, value] : bag.Entries)
-        print(control.name() + u" bag " + quoteScriptText(name) + u" = " + writeScriptValue(value));
+        print(control.name() + u" bag " + quoteScriptText(name) + u" = " + writeScriptValue(value, times));
     if (bag.Entries.empty()) print(control.name() + u" bag nothing");
 }
 

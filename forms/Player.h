@@ -39,6 +39,7 @@ private:
     void accessMember(PlacedControl& control, const ScriptCommand& command, const std::string& scriptFile);
     void setAnswer(PlacedControl& control, const ScriptCommand& command, const std::string& scriptFile);
     void setCaret(const ScriptCommand& command, const std::string& scriptFile);
+    void spin(PlacedControl& control, const ScriptCommand& command, const std::string& scriptFile);
     void handOverRuntime();
     void printBag(PlacedControl& control);
     void printReported(PlacedControl& control);

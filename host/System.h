@@ -7,6 +7,7 @@
 
 namespace kel {
 
+struct RegionalSettings;
 struct SharedSettings;
 class Container;
 class WidgetFactory;
@@ -39,6 +40,7 @@ struct ControlHost {
     WidgetFactory& widgets;
     System& system;
     SharedSettings& settings;
+    const RegionalSettings& region;
 };
 
 }  // namespace kel

@@ -122,6 +122,8 @@ Options readOptions(const std::vector<std::string>& arguments) {
             throw UsageError("there is no option " + word);
     }
     checkCommand(options);
+    // A script prints the same on every machine.
+    if (options.command == "play" && options.home.region == nullptr) options.home.region = &defaultRegion();
     return options;
 }
 

@@ -1,7 +1,6 @@
 #include "controls/text/KelText.h"
 
-#include "common/basKelControls.h"
-#include "common/FieldLayout.h"
+#include "common/FieldFrame.h"
 #include "common/FieldLook.h"
 #include "common/Persistence.h"
 
@@ -28,19 +27,12 @@ KelText::KelText(ControlHost& host) : Host_(host), Label1_(host.widgets.makeLabe
 
 std::u16string KelText::get_Caption() const { return Label1_->caption(); }
 
-void KelText::put_Caption(const std::u16string& caption) {
-    if (Label1_->caption() == caption) return;
-    Label1_->setCaption(caption);
-    reportChanged(u"Caption");
-}
+void KelText::put_Caption(const std::u16string& caption) { putCaption(Host_, *Label1_, caption); }
 
 std::int16_t KelText::get_CaptionWidth() const { return static_cast<std::int16_t>(Label1_->bounds().width); }
 
 void KelText::put_CaptionWidth(std::int16_t twips) {
-    if (twips < 0) return;
-    setWidth(*Label1_, twips);
-    reportChanged(u"CaptionWidth");
-    Resize();
+    if (putCaptionWidth(Host_, *Label1_, twips)) Resize();
 }
 
 bool KelText::get_Enabled() const { return Host_.container.enabled(); }
@@ -159,7 +151,7 @@ void KelText::makeMultiLineBox() {
     box->setPasswordChar(first.passwordChar());
     box->setToolTip(first.toolTip());
     box->setBackColor(CommonBack_);
-    if (Shown_) setFieldFont(*box);
+    if (Shown_) setFieldFont(Host_, *box);
     Text1_[1] = std::move(box);
 }
 
@@ -185,22 +177,16 @@ void KelText::Resize() {
     const LayoutRule& rule = get_MultiLine() ? MultiLineLayout : SingleLineLayout;
     const FieldLayout layout = layOutField(rule, Host_.container.size(), Label1_->bounds().width);
     Host_.container.setSize(layout.control);
-    const Rect label = Label1_->bounds();
-    Label1_->move({label.left, label.top, layout.captionWidth, layout.captionHeight});
+    sizeCaption(*Label1_, layout);
     activeBox().move(layout.field);
-}
-
-void KelText::setFieldFont(TextBox& box) {
-    if (const auto runtime = Host_.settings.Runtime) box.setFont(runtime->FieldFontName(), runtime->FieldFontSize());
 }
 
 void KelText::Show() {
     Shown_ = true;
-    if (const auto runtime = Host_.settings.Runtime)
-        Label1_->setFont(runtime->CaptionFontName(), runtime->CaptionFontSize());
+    setCaptionFont(Host_, *Label1_);
     const std::u16string tooltip = Host_.container.toolTipText();
     forEachBox([&](TextBox& box) {
-        setFieldFont(box);
+        setFieldFont(Host_, box);
         box.setToolTip(tooltip);
     });
 }
@@ -211,15 +197,13 @@ void KelText::InitProperties() {
     InsertMode_ = true;
     Mandatory_ = true;
     SelectOnFocus_ = false;
-    Label1_->setCaption(Host_.container.displayName());
-    setWidth(*Label1_, NewCaptionWidth);
+    nameNewCaption(Host_, *Label1_);
     Resize();
 }
 
 void KelText::ReadProperties(PropertyBag& bag) {
-    if (!Host_.settings.Runtime) InitControls(Host_.settings, Host_.system);
     const DepthGuard guard(LoadingDepth_);
-    readPersisted(*this, bag);
+    readPersisted(Host_, *this, bag);
 }
 
 void KelText::WriteProperties(PropertyBag& bag) const { writePersisted(*this, bag); }
@@ -253,7 +237,7 @@ void KelText::Text1_KeyPress(char32_t& KeyAscii) {
         case keys::Enter:
             if (get_MultiLine()) return;
             KeyAscii = 0;
-            if (const auto runtime = Host_.settings.Runtime) runtime->SendKey(keys::Tab);
+            moveFocusOn(Host_);
             return;
         default: break;
     }
@@ -264,8 +248,6 @@ void KelText::Text1_KeyPress(char32_t& KeyAscii) {
     if (get_MultiLine() && box.selText().ends_with(u'\r')) box.setSelLength(box.selLength() - 1);
 }
 
-void KelText::Text1_MouseDown(MouseButton /*Button*/) {}
-
-WidgetSet KelText::widgets() { return {Label1_.get(), &activeBox(), &activeBox()}; }
+WidgetSet KelText::widgets() { return {.label = Label1_.get(), .field = &activeBox(), .textBox = &activeBox()}; }
 
 }  // namespace kel

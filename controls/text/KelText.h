@@ -67,13 +67,14 @@ private:
     void Text1_Click() override;
     void Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) override;
     void Text1_KeyPress(char32_t& KeyAscii) override;
-    void Text1_MouseDown(MouseButton Button) override;
+    bool Text1_Paste(std::u16string& /*Text*/) override { return true; }
+    void Text1_MouseDown(MouseButton /*Button*/) override {}
+    void Text1_Wheel(std::int32_t /*Notches*/) override {}
     void Text1_GotFocus() override;
     void Text1_LostFocus() override;
 
     TextBox& activeBox() const { return *Text1_[FieldIndex_]; }
     void makeMultiLineBox();
-    void setFieldFont(TextBox& box);
     void applyBack(const BackChange& change);
     void applyStateLook();
     void reportChanged(std::u16string_view bagName) { Host_.container.propertyChanged(bagName); }

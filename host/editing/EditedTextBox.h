@@ -1,45 +1,29 @@
 #pragma once
 
-#include <string>
-#include <string_view>
+#include <tuple>
 #include <utility>
 
+#include "host/editing/EditedText.h"
 #include "host/editing/TextBoxEditor.h"
 
 namespace kel {
 
-/// The part of a text box that is the same on every home: what code reads and sets goes to the editor. `Base` is
-/// the home's own kind of `TextBox`; its constructor takes what follows the editor's arguments.
+/// The part of a text box that is the same on every home. `Base` is the home's own kind of `TextBox`; its constructor
+/// takes what follows the editor's arguments.
 template <class Base>
-class EditedTextBox : public Base {
+class EditedTextBox : public EditedText<Base, TextBoxEditor> {
 public:
-    std::u16string text() const override { return buffer().text(); }
-    void setText(std::u16string_view text) override { Editor_.setText(text); }
-    bool textEquals(std::u16string_view other) const override { return buffer().text() == other; }
-    std::int32_t textLength() const override { return static_cast<std::int32_t>(buffer().text().size()); }
-
-    std::int32_t selStart() const override { return static_cast<std::int32_t>(buffer().selection().start()); }
-    void setSelStart(std::int32_t position) override { Editor_.setSelStart(position); }
-    std::int32_t selLength() const override { return static_cast<std::int32_t>(buffer().selection().length()); }
-    void setSelLength(std::int32_t length) override { Editor_.setSelLength(length); }
-    std::u16string selText() const override { return std::u16string(buffer().selectedText()); }
-    void setSelText(std::u16string_view text) override { Editor_.setSelText(text); }
-
-    bool locked() const override { return Editor_.locked(); }
-    void setLocked(bool locked) override { Editor_.setLocked(locked); }
-    std::int32_t maxLength() const override { return Editor_.maxLength(); }
-    void setMaxLength(std::int32_t units) override { Editor_.setMaxLength(units); }
     char16_t passwordChar() const override { return Editor_.passwordChar(); }
     void setPasswordChar(char16_t character) override { Editor_.setPasswordChar(character); }
 
 protected:
     template <class... Arguments>
     EditedTextBox(TextBoxListener& listener, EditSurroundings& surroundings, bool multiLine, Arguments&&... base)
-        : Base(std::forward<Arguments>(base)...), Editor_(listener, surroundings, multiLine) {}
+        : EditedText<Base, TextBoxEditor>(std::forward_as_tuple(listener, surroundings, multiLine),
+                                          std::forward<Arguments>(base)...) {}
 
-    const EditBuffer& buffer() const { return Editor_.buffer(); }
-
-    TextBoxEditor Editor_;
+    using EditedText<Base, TextBoxEditor>::buffer;
+    using EditedText<Base, TextBoxEditor>::Editor_;
 };
 
 }  // namespace kel

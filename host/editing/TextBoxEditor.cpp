@@ -1,6 +1,7 @@
 #include "host/editing/TextBoxEditor.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "values/Text.h"
 
@@ -121,11 +122,20 @@ bool TextBoxEditor::edit(EditAction action, char32_t character) {
         case EditAction::EraseWordForward: return Buffer_.eraseWordForward();
         case EditAction::EraseSelection: return Buffer_.eraseSelection();
         case EditAction::Cut: return cut();
-        case EditAction::Paste: return Buffer_.paste(Surroundings_.clipboardText());
+        case EditAction::Paste: return insertPasted(Surroundings_.clipboardText());
         case EditAction::Undo: return Buffer_.undo();
         case EditAction::Redo: return Buffer_.redo();
         default: return false;
     }
+}
+
+void TextBoxEditor::paste(std::u16string text) {
+    if (!Locked_) tell(insertPasted(std::move(text)));
+}
+
+bool TextBoxEditor::insertPasted(std::u16string text) {
+    const bool wanted = Listener_.Text1_Paste(text) && !Locked_ && Surroundings_.takesInput();
+    return wanted && Buffer_.paste(text);
 }
 
 void TextBoxEditor::copy() {

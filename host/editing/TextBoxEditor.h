@@ -73,6 +73,8 @@ public:
     bool offers(EditAction action) const;
     /// From a menu.
     void perform(EditAction action) { act(action, 0, false); }
+    /// A text that comes from elsewhere than the clipboard, such as a dropped one, in place of the selection.
+    void paste(std::u16string text);
 
     /// As the mouse has made it.
     void select(const Selection& selection);
@@ -88,6 +90,7 @@ private:
     bool edit(EditAction action, char32_t character);
     bool cut();
     void copy();
+    bool insertPasted(std::u16string text);
     void tell(bool changed);
 
     TextBoxListener& Listener_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 #include "platform/headless/Input.h"
 
@@ -74,9 +75,14 @@ public:
     virtual void lostFocus() = 0;
     virtual void strike(const KeyStroke& stroke) = 0;
 
-    /// The left mouse button, pressed and released; `position` may be past either end of the text.
+    /// The left mouse button, pressed and released; `position` in the text, if it has one, may be past either end.
     virtual void click(std::int32_t position) = 0;
     virtual void rightClick() = 0;
+
+    /// The wheel, over the widget that has the focus.
+    virtual void turnWheel(std::int32_t notches) = 0;
+    /// Text dragged from elsewhere, when the widget has taken the focus; `position` as for a click.
+    virtual void drop(std::int32_t position, std::u16string_view text) = 0;
 
 private:
     Seat& Seat_;

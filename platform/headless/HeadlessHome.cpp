@@ -31,11 +31,38 @@ double serialOf(const std::tm& local) {
     return static_cast<double>((day - DayZero).count());
 }
 
-double secondsSinceMidnight(Clock::time_point moment) {
-    const std::tm local = localTime(moment);
-    const std::chrono::duration<double> fraction = moment - std::chrono::floor<std::chrono::seconds>(moment);
-    return local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec + fraction.count();
+/// To some milliseconds, which is near enough for people, and much cheaper than to the nanosecond.
+Clock::time_point coarseNow() {
+#ifdef __linux__
+    std::timespec now{};
+    clock_gettime(CLOCK_REALTIME_COARSE, &now);
+    return Clock::time_point(std::chrono::seconds(now.tv_sec) + std::chrono::nanoseconds(now.tv_nsec));
+#else
+    return Clock::now();
+#endif
 }
+
+/// The machine's time of day. Local time is worked out once a minute, since a progress bar asks for it with every
+/// step of a job; no region changes its clocks within a minute.
+class LocalClock {
+public:
+    double secondsSinceMidnight() {
+        using namespace std::chrono_literals;
+        const Clock::time_point now = coarseNow();
+        if (now < Minute_ || now >= Minute_ + 1min) startMinute(std::chrono::floor<std::chrono::minutes>(now));
+        return SecondsAtMinute_ + std::chrono::duration<double>(now - Minute_).count();
+    }
+
+private:
+    void startMinute(Clock::time_point minute) {
+        const std::tm local = localTime(minute);
+        SecondsAtMinute_ = local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec;
+        Minute_ = minute;
+    }
+
+    Clock::time_point Minute_;
+    double SecondsAtMinute_ = 0;
+};
 
 class HeadlessSystem final : public System {
 public:
@@ -43,7 +70,7 @@ public:
         : Input_(input), TwipsPerPixel_(options.twipsPerPixel > 0 ? options.twipsPerPixel : UsualTwipsPerPixel) {}
 
     Date today() const override { return {serialOf(localTime(Clock::now()))}; }
-    double timer() const override { return secondsSinceMidnight(Clock::now()); }
+    double timer() const override { return Clock_.secondsSinceMidnight(); }
     void messageBox(std::u16string_view /*prompt*/, std::int32_t /*style*/, std::u16string_view /*title*/) override {}
     void beep() override {}
     bool tabKeyDown() const override { return Input_.tabHeld(); }
@@ -52,6 +79,7 @@ public:
 private:
     const Input& Input_;
     std::int32_t TwipsPerPixel_;
+    mutable LocalClock Clock_;
 };
 
 class HeadlessServices final : public RuntimeServices {
@@ -84,7 +112,7 @@ public:
     const RegionalSettings& region() const override { return Services_.region(); }
 
     std::unique_ptr<FormWindow> makeWindow(const WindowSpec& /*window*/, System& system) override {
-        return std::make_unique<HeadlessWindow>(system, Settings_, Input_);
+        return std::make_unique<HeadlessWindow>(system, Settings_, region(), Input_);
     }
 
 private:

@@ -4,19 +4,19 @@
 
 namespace kel::headless {
 
-namespace {
-constexpr double LineTwipsPerPoint = 24;  ///< 20 twips a point, and the gap between lines
-}
-
 std::ptrdiff_t HeadlessTextBox::linesOfPage() const {
-    const double lineHeight = std::max(fontSize(), 1.0) * LineTwipsPerPoint;
-    return std::max<std::ptrdiff_t>(static_cast<std::ptrdiff_t>(bounds().height / lineHeight), 1);
+    return std::max<std::ptrdiff_t>(static_cast<std::ptrdiff_t>(bounds().height / lineHeight()), 1);
 }
 
 void HeadlessTextBox::click(std::int32_t position) {
     Editor_.setSelStart(position);
     Editor_.pressMouse(MouseButton::Left);
     Editor_.click();
+}
+
+void HeadlessTextBox::drop(std::int32_t position, std::u16string_view text) {
+    Editor_.setSelStart(position);
+    Editor_.paste(std::u16string(text));
 }
 
 }  // namespace kel::headless

@@ -16,6 +16,8 @@ public:
     void strike(const KeyStroke& stroke) override { Editor_.strike(stroke); }
     void click(std::int32_t position) override;
     void rightClick() override { Editor_.pressMouse(MouseButton::Right); }
+    void turnWheel(std::int32_t notches) override { Editor_.listener().Text1_Wheel(notches); }
+    void drop(std::int32_t position, std::u16string_view text) override;
 
 private:
     bool takesInput() const override { return HeadlessField::takesInput(); }

@@ -1,5 +1,7 @@
 #include "platform/headless/HeadlessWindow.h"
 
+#include "platform/headless/HeadlessWidgets.h"
+
 namespace kel::headless {
 
 namespace {
@@ -26,8 +28,8 @@ private:
 
 }  // namespace
 
-HeadlessWindow::HeadlessWindow(System& system, SharedSettings& settings, Input& input)
-    : Input_(input), Focus_(input, *this), Services_{system, settings, input, Focus_} {}
+HeadlessWindow::HeadlessWindow(System& system, SharedSettings& settings, const RegionalSettings& region, Input& input)
+    : Input_(input), Focus_(input, *this), Services_{system, settings, region, input, Focus_} {}
 
 HeadlessWindow::~HeadlessWindow() { Input_.forget(*this); }
 
@@ -66,7 +68,7 @@ void HeadlessWindow::press(const KeyStroke& stroke) {
 
 void HeadlessWindow::focus(PlacedControl& control) {
     byHand([&] {
-        FocusTarget* const target = static_cast<PlacedHeadlessControl&>(control).focusTarget();
+        FocusTarget* const target = placedHere(control).focusTarget();
         if (target == nullptr) return;
         const Input::TabKey released(Input_, false);
         Focus_.moveTo(*target);
@@ -74,19 +76,30 @@ void HeadlessWindow::focus(PlacedControl& control) {
 }
 
 void HeadlessWindow::click(PlacedControl& control, std::int32_t position) {
-    byHand([&] {
-        auto& placed = static_cast<PlacedHeadlessControl&>(control);
-        focus(control);
-        if (FocusTarget* const target = placed.focusTarget()) target->click(position);
-    });
+    byHandInField(control, [position](FocusTarget& field) { field.click(position); });
 }
 
 void HeadlessWindow::rightClick(PlacedControl& control) {
+    byHandInField(control, [](FocusTarget& field) { field.rightClick(); });
+}
+
+void HeadlessWindow::spin(PlacedControl& control, bool up) {
     byHand([&] {
-        auto& placed = static_cast<PlacedHeadlessControl&>(control);
-        focus(control);
-        if (FocusTarget* const target = placed.focusTarget()) target->rightClick();
+        if (HeadlessUpDown* const spinner = placedHere(control).spinner()) spinner->click(up);
     });
+}
+
+void HeadlessWindow::turnWheel(PlacedControl& control, std::int32_t notches) {
+    Input_.run([&] {
+        FocusTarget* const target = placedHere(control).focusTarget();
+        if (target != nullptr && target == Focus_.holder()) target->turnWheel(notches);
+    });
+}
+
+void HeadlessWindow::drop(PlacedControl& control, std::int32_t position, std::u16string_view text) {
+    const TextBox* const box = control.control().widgets().textBox;
+    if (box == nullptr || box->locked()) return;
+    byHandInField(control, [&](FocusTarget& field) { field.drop(position, text); });
 }
 
 PlacedControl* HeadlessWindow::focused() const {

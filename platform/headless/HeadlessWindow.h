@@ -12,7 +12,7 @@ namespace kel::headless {
 /// A form's window that nobody sees.
 class HeadlessWindow final : public FormWindow {
 public:
-    HeadlessWindow(System& system, SharedSettings& settings, Input& input);
+    HeadlessWindow(System& system, SharedSettings& settings, const RegionalSettings& region, Input& input);
     ~HeadlessWindow() override;
 
     PlacedControl& place(const ClassModel& model, const Placement& placement, ControlObserver& observer) override;
@@ -23,9 +23,18 @@ public:
     void focus(PlacedControl& control) override;
     void click(PlacedControl& control, std::int32_t position) override;
     void rightClick(PlacedControl& control) override;
+    void spin(PlacedControl& control, bool up) override;
     void setClipboard(std::u16string_view text) override { Input_.Clipboard.assign(text); }
     PlacedControl* focused() const override;
     bool savePicture(const std::string& /*utf8Path*/) override { return false; }
+
+    // ---- Further hands, which scripts do not have
+
+    /// Turns the wheel over the field; notches away from the user count up.
+    void turnWheel(PlacedControl& control, std::int32_t notches);
+
+    /// Drags text from elsewhere into the field, where it falls at `position` (past the end: the end).
+    void drop(PlacedControl& control, std::int32_t position, std::u16string_view text);
 
 private:
     void moveByTab(bool back);
@@ -36,6 +45,19 @@ private:
     void byHand(Action action) {
         Input_.activate(*this);
         Input_.run(action);
+    }
+
+    /// Does something to the field of a control that has taken the focus first.
+    template <class Action>
+    void byHandInField(PlacedControl& control, Action action) {
+        byHand([&] {
+            focus(control);
+            if (FocusTarget* const target = placedHere(control).focusTarget()) action(*target);
+        });
+    }
+
+    static PlacedHeadlessControl& placedHere(PlacedControl& control) {
+        return static_cast<PlacedHeadlessControl&>(control);
     }
 
     Input& Input_;

@@ -1,5 +1,7 @@
 #include "platform/headless/PlacedHeadlessControl.h"
 
+#include "platform/headless/HeadlessCheckBox.h"
+#include "platform/headless/HeadlessPictureBox.h"
 #include "platform/headless/HeadlessTextBox.h"
 
 namespace kel::headless {
@@ -12,7 +14,7 @@ PlacedHeadlessControl::PlacedHeadlessControl(const ClassModel& model, const Plac
       TabPlace_{placement.tabIndex, order},
       TabStop_(placement.tabStop),
       Seat_{.focus = services.focus, .input = services.input, .owner = *this, .visible = placement.visible} {
-    ControlHost host{*this, *this, services.system, services.settings};
+    ControlHost host{*this, *this, services.system, services.settings, services.region};
     Control_ = model.makeControl(host);
     Seat_.control = Control_.get();
 }
@@ -46,10 +48,24 @@ FocusTarget* PlacedHeadlessControl::focusTarget() const {
     return target != nullptr && target->takesInput() ? target : nullptr;
 }
 
+HeadlessUpDown* PlacedHeadlessControl::spinner() const {
+    return static_cast<HeadlessUpDown*>(Control_->widgets().upDown);
+}
+
 std::unique_ptr<Label> PlacedHeadlessControl::makeLabel() { return std::make_unique<HeadlessLabel>(); }
 
 std::unique_ptr<TextBox> PlacedHeadlessControl::makeTextBox(TextBoxListener& listener, bool multiLine) {
     return std::make_unique<HeadlessTextBox>(Seat_, listener, multiLine);
 }
+
+std::unique_ptr<UpDown> PlacedHeadlessControl::makeUpDown(UpDownListener& listener) {
+    return std::make_unique<HeadlessUpDown>(Seat_, listener);
+}
+
+std::unique_ptr<CheckBox> PlacedHeadlessControl::makeCheckBox(CheckBoxListener& listener) {
+    return std::make_unique<HeadlessCheckBox>(Seat_, listener);
+}
+
+std::unique_ptr<PictureBox> PlacedHeadlessControl::makePictureBox() { return std::make_unique<HeadlessPictureBox>(); }
 
 }  // namespace kel::headless

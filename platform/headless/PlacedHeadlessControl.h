@@ -12,10 +12,13 @@
 
 namespace kel::headless {
 
+class HeadlessUpDown;
+
 /// What the controls of one window have in common.
 struct WindowServices {
     System& system;
     SharedSettings& settings;
+    const RegionalSettings& region;
     Input& input;
     FocusKeeper& focus;
 };
@@ -44,6 +47,9 @@ public:
     /// The widget that has the focus or would take it; nullptr while the control takes none.
     FocusTarget* focusTarget() const;
 
+    /// nullptr where the control has none.
+    HeadlessUpDown* spinner() const;
+
 private:
     bool hasSize() const override { return Sized_; }
     Size size() const override { return {Bounds_.width, Bounds_.height}; }
@@ -59,6 +65,9 @@ private:
 
     std::unique_ptr<Label> makeLabel() override;
     std::unique_ptr<TextBox> makeTextBox(TextBoxListener& listener, bool multiLine) override;
+    std::unique_ptr<UpDown> makeUpDown(UpDownListener& listener) override;
+    std::unique_ptr<CheckBox> makeCheckBox(CheckBoxListener& listener) override;
+    std::unique_ptr<PictureBox> makePictureBox() override;
 
     ControlObserver& Observer_;
     std::u16string Name_;

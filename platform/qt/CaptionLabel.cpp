@@ -7,7 +7,6 @@
 #include "common/FieldLayout.h"
 #include "platform/qt/ControlSite.h"
 #include "platform/qt/FieldColors.h"
-#include "platform/qt/KelControlWidget.h"
 #include "platform/qt/TextBridge.h"
 #include "platform/qt/WidgetLook.h"
 
@@ -73,7 +72,7 @@ QString CaptionLabel::spokenCaption() const {
 
 void CaptionLabel::paint(QPainter& painter, int baseline) const {
     if (Caption_.empty() || Bounds_.width <= 0) return;
-    const KelControlWidget& widget = Site_.widget();
+    const QWidget& widget = Site_.widget();
     const QStyle& style = *widget.style();
     QStyleOption option;
     option.initFrom(&widget);

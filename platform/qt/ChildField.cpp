@@ -5,11 +5,11 @@
 
 namespace kel::qt {
 
-ChildField::ChildField(ControlSite& site, QWidget& widget) : Site_(site), Widget_(widget) { site.add(*this); }
+ChildField::ChildField(ControlSite& site, QWidget& widget) : ChildWidget(site, widget) { site.addField(*this); }
 
 ChildField::~ChildField() {
     focus::forget(*this);
-    Site_.remove(*this);
+    site().removeField(*this);
 }
 
 }  // namespace kel::qt

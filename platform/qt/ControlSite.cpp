@@ -1,11 +1,9 @@
 #include "platform/qt/ControlSite.h"
 
-#include <algorithm>
 #include <QFontMetrics>
 #include <QKeySequence>
 #include <QWidget>
 
-#include "common/basKelControls.h"
 #include "common/FieldLayout.h"
 #include "library/Dispatch.h"
 #include "library/SharedSettings.h"
@@ -13,8 +11,11 @@
 #include "platform/qt/ChildField.h"
 #include "platform/qt/FocusTracker.h"
 #include "platform/qt/KelControlWidget.h"
+#include "platform/qt/QtComboBox.h"
 #include "platform/qt/QtLineBox.h"
 #include "platform/qt/QtPlainBox.h"
+#include "platform/qt/QtUpDown.h"
+#include "platform/qt/RetiredControls.h"
 #include "platform/qt/TextBridge.h"
 
 namespace kel::qt {
@@ -31,81 +32,95 @@ void setSpokenName(QWidget& widget, const QString& before, const QString& now) {
 }  // namespace
 
 ControlSite::ControlSite(KelControlWidget& widget, const Surroundings& surroundings)
-    : Widget_(widget), Surroundings_(surroundings), Grid_(surroundings.system.twipsPerPixel()) {}
+    : Host_(&widget), Widget_(&widget), Surroundings_(surroundings), Grid_(surroundings.system.twipsPerPixel()) {}
 
 ControlSite::~ControlSite() { focus::forget(*this); }
 
 void ControlSite::makeControl(const ClassModel& model) {
-    ControlHost host{*this, *this, Surroundings_.system, Surroundings_.settings};
+    ControlHost host{*this, *this, Surroundings_.system, Surroundings_.settings, Surroundings_.region};
     Control_ = model.makeControl(host);
     Control_->Initialize();
 }
 
-void ControlSite::initNew() {
-    // A form that is loaded does this by its first control.
-    if (!Surroundings_.settings.Runtime) InitControls(Surroundings_.settings, Surroundings_.system);
-    Control_->InitProperties();
+void ControlSite::leaveWidget() {
+    focus::forget(*this);
+    Remains_ = std::make_unique<QWidget>();
+    Remains_->setObjectName(Widget_->objectName());
+    Remains_->setEnabled(enabled());
+    Remains_->resize(Widget_->size());
+    for (ChildField* const field : Fields_) focus::forget(*field);
+    for (ChildWidget* const child : Children_) child->widget().setParent(Remains_.get());
+    Widget_ = Remains_.get();
+    Host_ = nullptr;
+    Mnemonic_ = 0;
 }
 
 // ---- Size
 
 QSize ControlSite::pixelSize() const { return Grid_.pixels({0, 0, Size_.width, Size_.height}, Origin_).size(); }
 
-bool ControlSite::hasSize() const { return Sized_ || Widget_.testAttribute(Qt::WA_Resized); }
+bool ControlSite::hasSize() const { return Sized_ || Widget_->testAttribute(Qt::WA_Resized); }
 
 Size ControlSite::size() const {
     // A hidden widget is told of its size late.
-    const bool isStale = hasSize() && pixelSize() != Widget_.size();
-    return isStale ? Grid_.twips(Widget_.size()) : Size_;
+    const bool isStale = hasSize() && pixelSize() != Widget_->size();
+    return isStale ? Grid_.twips(Widget_->size()) : Size_;
 }
 
 void ControlSite::setSize(Size wanted) {
     if (hasSize() && wanted == size()) return;
     Size_ = wanted;
     Sized_ = true;
-    Widget_.resize(pixelSize());
+    Widget_->resize(pixelSize());
     if (Control_) Control_->Resize();
 }
 
 void ControlSite::resized() {
-    if (Sized_ && pixelSize() == Widget_.size()) return;
-    Size_ = Grid_.twips(Widget_.size());
+    if (Sized_ && pixelSize() == Widget_->size()) return;
+    Size_ = Grid_.twips(Widget_->size());
     Sized_ = true;
     Control_->Resize();
 }
 
 QRect ControlSite::pixelRect(const Rect& bounds) const {
     QRect pixels = Grid_.pixels(bounds, Origin_);
-    if (Widget_.layoutDirection() == Qt::RightToLeft) pixels.moveLeft(Widget_.width() - pixels.x() - pixels.width());
+    if (Widget_->layoutDirection() == Qt::RightToLeft) pixels.moveLeft(Widget_->width() - pixels.x() - pixels.width());
     return pixels;
 }
 
 void ControlSite::setOrigin(QPoint twips) {
     if (twips == Origin_) return;
     Origin_ = twips;
-    if (Sized_) Widget_.resize(pixelSize());
-    forEachField([](ChildField& field) { field.placeAgain(); });
+    if (Sized_) Widget_->resize(pixelSize());
+    placeChildren();
+}
+
+void ControlSite::placeChildren() const {
+    for (ChildWidget* const child : Children_) child->placeAgain();
 }
 
 void ControlSite::mirrored() {
-    forEachField([](ChildField& field) { field.placeAgain(); });
-    Widget_.update();
+    placeChildren();
+    Widget_->update();
 }
 
 QSize ControlSite::sizeHint(int characters) const {
     const bool isTall = Active_ != nullptr && Active_->isTall();
     const int caption = Label_ != nullptr ? Grid_.pixel(Label_->bounds().width) : 0;
-    const QFontMetrics metrics = Active_ != nullptr ? Active_->widget().fontMetrics() : Widget_.fontMetrics();
-    return {caption + characters * metrics.averageCharWidth(), Grid_.pixel(isTall ? TallHeight : FieldHeight)};
+    const UpDown* const upDown = Control_->widgets().upDown;
+    const int spinner = upDown != nullptr && upDown->visible() ? Grid_.pixel(upDown->bounds().width) : 0;
+    const QFontMetrics metrics = Active_ != nullptr ? Active_->widget().fontMetrics() : Widget_->fontMetrics();
+    return {caption + characters * metrics.averageCharWidth() + spinner,
+            Grid_.pixel(isTall ? TallHeight : FieldHeight)};
 }
 
 // ---- Enabled
 
-bool ControlSite::enabled() const { return !Widget_.testAttribute(Qt::WA_ForceDisabled); }
+bool ControlSite::enabled() const { return !Widget_->testAttribute(Qt::WA_ForceDisabled); }
 
 void ControlSite::setEnabled(bool enabled) {
     Enabled_ = enabled;
-    Widget_.QWidget::setEnabled(enabled);
+    Widget_->setEnabled(enabled);
 }
 
 void ControlSite::enabledMayDiffer() {
@@ -116,25 +131,29 @@ void ControlSite::enabledMayDiffer() {
 
 // ---- Host
 
-std::int32_t ControlSite::windowHandle() { return static_cast<std::int32_t>(Widget_.winId()); }
+std::int32_t ControlSite::windowHandle() { return static_cast<std::int32_t>(Widget_->winId()); }
 
-std::u16string ControlSite::displayName() const { return std::u16string(viewOf(Widget_.objectName())); }
+std::u16string ControlSite::displayName() const { return std::u16string(viewOf(Widget_->objectName())); }
 
-void ControlSite::propertyChanged(std::u16string_view bagName) { Widget_.propertyReported(bagName); }
-
-void ControlSite::raiseEvent(const EventRow& event, std::span<Variant> arguments) {
-    Widget_.controlEvent(event, arguments);
+void ControlSite::propertyChanged(std::u16string_view bagName) {
+    const ForeignCode running;
+    if (Host_ != nullptr) Host_->propertyReported(bagName);
 }
 
-std::u16string ControlSite::toolTipText() const { return std::u16string(viewOf(Widget_.toolTip())); }
+void ControlSite::raiseEvent(const EventRow& event, std::span<Variant> arguments) {
+    const ForeignCode running;
+    if (Host_ != nullptr) Host_->controlEvent(event, arguments);
+}
 
-void ControlSite::setToolTipText(std::u16string_view text) { setWidgetToolTip(Widget_, text); }
+std::u16string ControlSite::toolTipText() const { return std::u16string(viewOf(Widget_->toolTip())); }
+
+void ControlSite::setToolTipText(std::u16string_view text) { setWidgetToolTip(*Widget_, text); }
 
 void ControlSite::toolTipChanged() {
     // Before it shows, the control takes the tooltip over by itself.
     if (!Shown_) return;
-    const QString text = Widget_.toolTip();
-    forEachField([&text](ChildField& field) { setWidgetToolTip(field.widget(), viewOf(text)); });
+    const QString text = Widget_->toolTip();
+    for (const ChildField* const field : Fields_) setWidgetToolTip(field->widget(), viewOf(text));
 }
 
 void ControlSite::shown() {
@@ -145,8 +164,8 @@ void ControlSite::shown() {
 }
 
 void ControlSite::recolored() {
-    forEachField([](ChildField& field) { field.colorAgain(); });
-    Widget_.update();
+    for (ChildField* const field : Fields_) field->colorAgain();
+    Widget_->update();
 }
 
 // ---- Child widgets
@@ -154,27 +173,36 @@ void ControlSite::recolored() {
 std::unique_ptr<Label> ControlSite::makeLabel() { return std::make_unique<CaptionLabel>(*this); }
 
 std::unique_ptr<TextBox> ControlSite::makeTextBox(TextBoxListener& listener, bool multiLine) {
-    if (!multiLine) return std::make_unique<QtLineBox>(*this, listener, Widget_);
-    auto box = std::make_unique<QtPlainBox>(*this, listener, Widget_);
+    if (!multiLine) return std::make_unique<QtLineBox>(*this, listener, *Widget_);
+    auto box = std::make_unique<QtPlainBox>(*this, listener, *Widget_);
     // Shown as every new box, but not yet in the other one's place: few controls show both.
-    if (Widget_.isVisible()) box->QPlainTextEdit::setVisible(true);
+    if (Widget_->isVisible()) box->QPlainTextEdit::setVisible(true);
     return box;
 }
 
-void ControlSite::add(ChildField& field) {
-    *std::find(Fields_.begin(), Fields_.end(), nullptr) = &field;
+std::unique_ptr<UpDown> ControlSite::makeUpDown(UpDownListener& listener) {
+    return std::make_unique<QtUpDown>(*this, listener, *Widget_);
+}
+
+std::unique_ptr<ComboBox> ControlSite::makeComboBox(ComboBoxListener& listener) {
+    return std::make_unique<QtComboBox>(*this, listener, *Widget_);
+}
+
+void ControlSite::addField(ChildField& field) {
+    Fields_.push_back(&field);
     if (Active_ == nullptr) {
         Active_ = &field;
-        Widget_.setFocusProxy(&field.widget());
+        Widget_->setFocusProxy(&field.widget());
     } else {
+        // Side by side for good: only one of them is ever shown. Later on Qt would take parts of either along.
+        QWidget::setTabOrder(&Active_->widget(), &field.widget());
         field.widget().setFocusPolicy(Active_->widget().focusPolicy());
         field.widget().setAccessibleName(Active_->widget().accessibleName());
     }
 }
 
-void ControlSite::remove(const ChildField& field) {
-    std::replace_if(
-        Fields_.begin(), Fields_.end(), [&field](const ChildField* known) { return known == &field; }, nullptr);
+void ControlSite::removeField(const ChildField& field) {
+    std::erase(Fields_, &field);
     if (Active_ == &field) Active_ = nullptr;
 }
 
@@ -182,42 +210,45 @@ void ControlSite::fieldShown(ChildField& field) {
     if (&field != Active_) activate(field);
 }
 
-/// The field takes the other one's place: what points to the composite finds it, the Tab key as well.
+/// The field takes the other one's place: what points to the composite finds it.
 void ControlSite::activate(ChildField& field) {
-    if (Active_ != nullptr) QWidget::setTabOrder(&Active_->widget(), &field.widget());
     Active_ = &field;
-    Widget_.setFocusProxy(&field.widget());
-    Widget_.setSizePolicy(QSizePolicy::Expanding, field.isTall() ? QSizePolicy::Expanding : QSizePolicy::Fixed);
-    Widget_.updateGeometry();
-    Widget_.update();
+    Widget_->setFocusProxy(&field.widget());
+    Widget_->setSizePolicy(QSizePolicy::Expanding, field.isTall() ? QSizePolicy::Expanding : QSizePolicy::Fixed);
+    Widget_->updateGeometry();
+    Widget_->update();
 }
 
-bool ControlSite::owns(const QWidget& widget) const { return Widget_.isAncestorOf(&widget); }
+bool ControlSite::owns(const QWidget& widget) const { return Widget_->isAncestorOf(&widget); }
+
+void ControlSite::leaveTabOrder() {
+    for (const ChildField* const field : Fields_) field->widget().setFocusPolicy(Qt::ClickFocus);
+}
 
 // ---- Caption
 
 void ControlSite::captionChanged(const QString& spokenBefore) {
     const QString spoken = Label_->spokenCaption();
-    setSpokenName(Widget_, spokenBefore, spoken);
-    forEachField([&](const ChildField& field) { setSpokenName(field.widget(), spokenBefore, spoken); });
+    setSpokenName(*Widget_, spokenBefore, spoken);
+    for (const ChildField* const field : Fields_) setSpokenName(field->widget(), spokenBefore, spoken);
 
-    if (Mnemonic_ != 0) Widget_.releaseShortcut(Mnemonic_);
+    if (Mnemonic_ != 0) Widget_->releaseShortcut(Mnemonic_);
     Mnemonic_ = 0;
     if (Label_->caption().find(u'&') == std::u16string::npos) return;
     const QKeySequence key = QKeySequence::mnemonic(toQString(Label_->caption()));
-    if (!key.isEmpty()) Mnemonic_ = Widget_.grabShortcut(key);
+    if (!key.isEmpty()) Mnemonic_ = Widget_->grabShortcut(key);
 }
 
 bool ControlSite::mnemonicPressed(int shortcutId) {
     if (Mnemonic_ == 0 || shortcutId != Mnemonic_) return false;
-    Widget_.setFocus(Qt::ShortcutFocusReason);
+    Widget_->setFocus(Qt::ShortcutFocusReason);
     return true;
 }
 
 void ControlSite::paint(QPainter& painter) const {
     if (Label_ == nullptr) return;
     const int baseline = Active_ != nullptr ? Active_->widget().y() + Active_->baseline()
-                                            : (Widget_.height() + Widget_.fontMetrics().ascent()) / 2;
+                                            : (Widget_->height() + Widget_->fontMetrics().ascent()) / 2;
     Label_->paint(painter, baseline);
 }
 

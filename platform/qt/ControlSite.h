@@ -1,9 +1,9 @@
 #pragma once
 
-#include <array>
 #include <memory>
 #include <QPoint>
 #include <QRect>
+#include <vector>
 
 #include "host/Container.h"
 #include "host/System.h"
@@ -19,6 +19,7 @@ namespace kel::qt {
 
 class CaptionLabel;
 class ChildField;
+class ChildWidget;
 class KelControlWidget;
 
 /// What a control on Qt works with. All of it outlives the control.
@@ -39,11 +40,11 @@ public:
 
     /// Makes the control and runs its `Initialize`.
     void makeControl(const ClassModel& model);
-    /// As a control that is newly placed.
-    void initNew();
+    /// The control goes on without its host's widget, which is being destroyed: nothing is seen or heard of it.
+    void leaveWidget();
 
     Control& control() const { return *Control_; }
-    KelControlWidget& widget() const { return Widget_; }
+    QWidget& widget() const { return *Widget_; }
     const RegionalSettings& region() const { return Surroundings_.region; }
 
     // ---- The container, as its control sees it
@@ -62,6 +63,8 @@ public:
 
     std::unique_ptr<Label> makeLabel() override;
     std::unique_ptr<TextBox> makeTextBox(TextBoxListener& listener, bool multiLine) override;
+    std::unique_ptr<UpDown> makeUpDown(UpDownListener& listener) override;
+    std::unique_ptr<ComboBox> makeComboBox(ComboBoxListener& listener) override;
 
     // ---- What the widget tells
 
@@ -80,12 +83,16 @@ public:
 
     // ---- What the child widgets tell
 
-    void add(ChildField& field);
-    void remove(const ChildField& field);
+    void add(ChildWidget& child) { Children_.push_back(&child); }
+    void remove(const ChildWidget& child) { std::erase(Children_, &child); }
+    void addField(ChildField& field);
+    void removeField(const ChildField& field);
     void fieldShown(ChildField& field);
     void setLabel(CaptionLabel* label) { Label_ = label; }
     void captionChanged(const QString& spokenBefore);
     bool owns(const QWidget& widget) const;
+    /// Its field takes the focus by a click only.
+    void leaveTabOrder();
 
     /// The field that shows, nullptr when there is none.
     ChildField* activeField() const { return Active_; }
@@ -100,18 +107,17 @@ public:
 
 private:
     QSize pixelSize() const;
+    void placeChildren() const;
     void activate(ChildField& field);
-    template <class Action>
-    void forEachField(Action action) const {
-        for (ChildField* const field : Fields_)
-            if (field != nullptr) action(*field);
-    }
 
-    KelControlWidget& Widget_;
+    KelControlWidget* Host_;  ///< nullptr once it is gone
+    QWidget* Widget_;         ///< the host's, or what is left in its place
+    std::unique_ptr<QWidget> Remains_;
     Surroundings Surroundings_;
     TwipGrid Grid_;
     CaptionLabel* Label_ = nullptr;
-    std::array<ChildField*, 2> Fields_{};  ///< no control has more
+    std::vector<ChildWidget*> Children_;
+    std::vector<ChildField*> Fields_;  ///< of the children
     ChildField* Active_ = nullptr;
     QPoint Origin_;  ///< twips
     Size Size_;

@@ -3,30 +3,15 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include "platform/qt/TextBridge.h"
+#include "platform/qt/TextDifference.h"
+
 namespace kel::qt {
-
-// ---- By code
-
-void EditBox::setText(std::u16string_view text) {
-    ShowsNew_ = true;
-    Editor_.setText(text);
-}
-
-void EditBox::setLocked(bool locked) {
-    if (locked == Editor_.locked()) return;
-    Editor_.setLocked(locked);
-    showLocked(locked);
-}
-
-void EditBox::setPasswordChar(char16_t character) {
-    if (character == Editor_.passwordChar()) return;
-    Editor_.setPasswordChar(character);
-    showPasswordChar(character);
-}
 
 // ---- To Qt's widget
 
 void EditBox::bufferChanged() {
+    if (Adopting_) return;
     const ShowingScope scope(Showing_);
     const Selection selection = buffer().selection();
     if (std::exchange(ShowsNew_, false))
@@ -41,29 +26,41 @@ void EditBox::bufferChanged() {
 void EditBox::textChangedInWidget() {
     if (Showing_) return;
     const std::u16string text = shownText();
-    if (textEquals(text)) return;
+    if (textIs(text)) return;
     const Selection selection = shownSelection();
-    Editor_.setText(text);
-    Editor_.select(selection);
+    if (!adopt(text, selection.caret)) Edit_.setText(text);
+    if (textIs(text)) Edit_.select(selection);
+}
+
+/// As an edit that can be undone. False when it would split a line break.
+bool EditBox::adopt(std::u16string_view text, std::size_t caret) {
+    const TextDifference difference = differenceOf(buffer().text(), text, caret);
+    const Selection replaced{difference.start, difference.end};
+    {
+        const ShowingScope scope(Adopting_);
+        Edit_.select(replaced);
+    }
+    if (buffer().selection() != replaced) return false;
+    Edit_.setSelText(text.substr(difference.start, difference.newEnd - difference.start));
+    return true;
 }
 
 void EditBox::selectionChangedInWidget() {
     if (Showing_) return;
     const Selection selection = shownSelection();
-    if (selection != buffer().selection()) Editor_.select(selection);
+    // Where Qt speaks of the caret first, the text it stands in is still to come.
+    const bool isKnown = selection.end() <= buffer().text().size();
+    if (isKnown && selection != buffer().selection()) Edit_.select(selection);
 }
 
 // ---- Clipboard and menu
 
 bool EditBox::offers(EditAction action) const {
     if (action == EditAction::Paste && QGuiApplication::clipboard()->text().isEmpty()) return false;
-    return Editor_.offers(action);
+    return Edit_.offers(action);
 }
 
-std::u16string EditBox::clipboardText() {
-    if (const auto incoming = std::exchange(Incoming_, std::nullopt)) return std::u16string(viewOf(*incoming));
-    return std::u16string(viewOf(QGuiApplication::clipboard()->text()));
-}
+std::u16string EditBox::clipboardText() { return std::u16string(viewOf(QGuiApplication::clipboard()->text())); }
 
 void EditBox::setClipboardText(std::u16string_view text) {
     QString copied = toQString(text);

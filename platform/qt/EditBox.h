@@ -1,33 +1,36 @@
 #pragma once
 
-#include <optional>
-#include <QStringView>
+#include <QDropEvent>
 
-#include "host/editing/EditedTextBox.h"
-#include "platform/qt/QtField.h"
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "host/editing/TextBoxEditor.h"
+#include "platform/qt/ChildField.h"
 
 class QInputMethodEvent;
 class QKeyEvent;
 class QMouseEvent;
 class QPoint;
+class QWheelEvent;
 
 namespace kel::qt {
 
-/// An edit box, whichever of Qt's widgets shows it. The editor holds text and selection and says what becomes of
-/// them; Qt's widget is made to show both, and what the user or somebody else does to it comes back here.
-class EditBox : public EditedTextBox<QtField<TextBox>>, private EditSurroundings {
+/// Where text is edited, whichever of Qt's widgets shows it and whatever control's widget it is part of. The editor
+/// holds text and selection and says what becomes of them; Qt's widget is made to show both, and what the user or
+/// somebody else does to it comes back here.
+class EditBox : protected EditSurroundings {
 public:
-    void setText(std::u16string_view text) override;
+    EditBox(const EditBox&) = delete;
+    EditBox& operator=(const EditBox&) = delete;
+    virtual ~EditBox() = default;
 
-    void setLocked(bool locked) override;
-    void setPasswordChar(char16_t character) override;
-
-    void gotFocus() override { Editor_.listener().Text1_GotFocus(); }
-    void lostFocus() override { Editor_.listener().Text1_LostFocus(); }
+    ChildField& field() const { return Field_; }
 
     /// Whether a menu should offer it now.
     bool offers(EditAction action) const;
-    void perform(EditAction action) { Editor_.perform(action); }
+    void perform(EditAction action) { Edit_.perform(action); }
 
     /// The next press of a mouse button puts the caret to `position`, wherever in the box it is; -1 withdraws.
     void aim(std::int32_t position) { Aim_ = position; }
@@ -35,8 +38,16 @@ public:
     virtual QWidget& mouseArea() = 0;
 
 protected:
-    EditBox(ControlSite& site, TextBoxListener& listener, QWidget& widget, bool multiLine)
-        : EditedTextBox(listener, *this, multiLine, site, widget) {}
+    /// Both outlive the box.
+    EditBox(TextBoxEditor& edit, ChildField& field) : Edit_(edit), Field_(field) {}
+
+    /// The next text that comes is no edit of the one shown.
+    void expectNew() { ShowsNew_ = true; }
+    void gainFocus() { Edit_.listener().Text1_GotFocus(); }
+    void loseFocus() {
+        TurnedRest_ = 0;
+        Edit_.listener().Text1_LostFocus();
+    }
 
     // ---- What Qt's widget shows. Positions are those of the text.
 
@@ -47,11 +58,12 @@ protected:
     virtual Selection shownSelection() const = 0;
     virtual void showSelection(const Selection& selection) = 0;
     virtual void showLocked(bool locked) = 0;
-    virtual void showPasswordChar(char16_t character) = 0;
     /// Shows what is being composed; `event` commits nothing.
     virtual void compose(QInputMethodEvent& event) = 0;
     /// The text at the caret runs from right to left.
     virtual bool isMirrored() const = 0;
+    /// Where in the text a point of the mouse area is.
+    virtual std::size_t positionAt(const QPoint& point) const = 0;
 
     // ---- What Qt's widget tells
 
@@ -63,14 +75,38 @@ protected:
     void mousePressed(const QMouseEvent& event);
     void mouseReleased(const QMouseEvent& event);
     void menuAsked(const QPoint& globalPosition);
-    /// Text from elsewhere was let go at `place`.
-    void dropped(std::size_t place, QStringView text);
-    /// The selected text itself was.
-    void selectionMoved(std::size_t place);
+    /// Returns whether it was turned for this box.
+    bool wheelTurned(const QWheelEvent& event);
+    /// By the middle button: the text that is selected somewhere on the desktop.
+    void pastePicked(const QString& text);
+
+    /// A text hovers above the box; `show` makes Qt show where it would go, which moves nothing of the text's own.
+    template <class Show>
+    void dragMoved(QDropEvent& event, Show show) {
+        const ShowingScope scope(Showing_);
+        show();
+        if (event.isAccepted()) chooseDropAction(event);
+    }
+    template <class Hide>
+    void dragLeft(Hide hide) {
+        const ShowingScope scope(Showing_);
+        hide();
+        if (shownSelection() != buffer().selection()) showSelection(buffer().selection());
+    }
+    void dropped(QDropEvent& event);
+
     void textChangedInWidget();
     void selectionChangedInWidget();
 
+    // ---- For the editor
+
+    void bufferChanged() override;
+    std::u16string clipboardText() override;
+    void setClipboardText(std::u16string_view text) override;
     std::ptrdiff_t linesOfPage() const override { return 1; }
+
+    /// Whether a shortcut of the window with this key would take something away from the box.
+    virtual bool claims(const KeyStroke& stroke) const { return claimsKey(stroke, Edit_.locked()); }
 
 private:
     /// While Qt's widget is made to show something, what it tells is no news.
@@ -86,19 +122,26 @@ private:
         bool Before_;
     };
 
-    bool takesInput() const override { return QtField::takesInput(); }
-    void bufferChanged() override;
-    std::u16string clipboardText() override;
-    void setClipboardText(std::u16string_view text) override;
+    const EditBuffer& buffer() const { return Edit_.buffer(); }
+    bool textIs(std::u16string_view other) const { return buffer().text() == other; }
 
     /// Returns whether the key meant anything here.
     bool strike(const KeyStroke& stroke);
     void stepMirrored(EditAction step, bool extend);
     void showComposition(QInputMethodEvent& event);
 
-    std::optional<QStringView> Incoming_;  ///< pasted next, in place of what the clipboard holds
+    bool adopt(std::u16string_view text, std::size_t caret);
+    bool isMovedHere(const QDropEvent& event);
+    void chooseDropAction(QDropEvent& event);
+    bool takeFocus();
+    void moveSelection(std::size_t place);
+
+    TextBoxEditor& Edit_;
+    ChildField& Field_;
     std::int32_t Aim_ = -1;
+    int TurnedRest_ = 0;  ///< of the wheel, less than a notch
     bool Showing_ = false;
+    bool Adopting_ = false;
     bool ShowsNew_ = false;
     bool LeftPressed_ = false;
 };

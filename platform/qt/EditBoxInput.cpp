@@ -2,10 +2,13 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QWheelEvent>
+#include <QWidget>
 
 #include "platform/qt/EditBox.h"
 #include "platform/qt/EditMenu.h"
 #include "platform/qt/KeyMap.h"
+#include "platform/qt/TextBridge.h"
 #include "values/TextBoundaries.h"
 
 /// What the user's hands do to an edit box.
@@ -32,21 +35,21 @@ QStringView furtherCharacters(const KeyStroke& stroke, QStringView text) {
 
 // ---- Keys
 
-void EditBox::shortcutAsked(QKeyEvent& event) const { event.setAccepted(claimsKey(strokeOf(event), locked())); }
+void EditBox::shortcutAsked(QKeyEvent& event) const { event.setAccepted(claims(strokeOf(event))); }
 
 void EditBox::keyPressed(QKeyEvent& event) {
     const KeyStroke stroke = strokeOf(event);
     // Tab arrives here only when there is nowhere to go.
     event.setAccepted(!isPlainTab(stroke) && strike(stroke));
-    Editor_.typeCommitted(viewOf(furtherCharacters(stroke, event.text())));
+    Edit_.typeCommitted(viewOf(furtherCharacters(stroke, event.text())));
 }
 
 bool EditBox::strike(const KeyStroke& stroke) {
     const EditAction action = actionFor(stroke);
     // The editor does not know which way a text runs.
-    if (!isStep(action) || !isMirrored()) return Editor_.strike(stroke);
+    if (!isStep(action) || !isMirrored()) return Edit_.strike(stroke);
     std::int16_t code = stroke.code;
-    Editor_.listener().Text1_KeyDown(code, stroke.modifiers);
+    Edit_.listener().Text1_KeyDown(code, stroke.modifiers);
     if (code != 0 && takesInput()) stepMirrored(action, (stroke.modifiers & ShiftKey) != 0);
     return true;
 }
@@ -59,13 +62,13 @@ void EditBox::stepMirrored(EditAction step, bool extend) {
         const auto next = forward ? &nextCharacter : &previousCharacter;
         caret = next(buffer().text(), selection.caret, buffer().multiLine());
     }
-    Editor_.select({extend ? selection.anchor : caret, caret});
+    Edit_.select({extend ? selection.anchor : caret, caret});
 }
 
 // ---- Input methods
 
 void EditBox::inputMethodSpoke(QInputMethodEvent& event) {
-    if (locked()) {
+    if (Edit_.locked()) {
         event.ignore();
         return;
     }
@@ -74,11 +77,11 @@ void EditBox::inputMethodSpoke(QInputMethodEvent& event) {
         QInputMethodEvent finished;
         showComposition(finished);
         if (event.replacementLength() > 0) {
-            setSelStart(static_cast<std::int32_t>(buffer().selection().caret) + event.replacementStart());
-            setSelLength(event.replacementLength());
-            if (committed.isEmpty()) Editor_.perform(EditAction::EraseSelection);
+            Edit_.setSelStart(static_cast<std::int32_t>(buffer().selection().caret) + event.replacementStart());
+            Edit_.setSelLength(event.replacementLength());
+            if (committed.isEmpty()) Edit_.perform(EditAction::EraseSelection);
         }
-        Editor_.typeCommitted(viewOf(committed));
+        Edit_.typeCommitted(viewOf(committed));
         if (event.preeditString().isEmpty()) return;
     }
     QInputMethodEvent composition(event.preeditString(), event.attributes());
@@ -101,45 +104,36 @@ void EditBox::showComposition(QInputMethodEvent& event) {
 // ---- Mouse
 
 void EditBox::takeAim() {
-    if (Aim_ >= 0) Editor_.setSelStart(Aim_);
+    if (Aim_ >= 0) Edit_.setSelStart(Aim_);
 }
 
 void EditBox::mousePressed(const QMouseEvent& event) {
     takeAim();
     Aim_ = -1;
     LeftPressed_ = event.button() == Qt::LeftButton;
-    Editor_.pressMouse(buttonOf(event.button()));
+    Edit_.pressMouse(buttonOf(event.button()));
 }
 
 void EditBox::mouseReleased(const QMouseEvent& event) {
     if (event.button() != Qt::LeftButton || !std::exchange(LeftPressed_, false)) return;
-    if (mouseArea().rect().contains(event.position().toPoint())) Editor_.click();
+    if (mouseArea().rect().contains(event.position().toPoint())) Edit_.click();
 }
 
 void EditBox::menuAsked(const QPoint& globalPosition) { showEditMenu(*this, globalPosition); }
 
-void EditBox::dropped(std::size_t place, QStringView text) {
-    Editor_.select({place, place});
-    Incoming_ = text;
-    Editor_.perform(EditAction::Paste);
-    Incoming_.reset();
+void EditBox::pastePicked(const QString& text) {
+    if (!text.isEmpty()) Edit_.paste(std::u16string(viewOf(text)));
 }
 
-/// One edit of all that lies between, so that handlers see the text once and one undo takes it back.
-void EditBox::selectionMoved(std::size_t place) {
-    const Selection moved = buffer().selection();
-    const std::u16string_view text = buffer().text();
-    if (locked() || (place >= moved.start() && place <= moved.end())) return;
-    const std::u16string selected = selText();
-    if (place < moved.start()) {
-        const std::u16string passed(text.substr(place, moved.start() - place));
-        Editor_.select({place, moved.end()});
-        Editor_.setSelText(selected + passed);
-    } else {
-        const std::u16string passed(text.substr(moved.end(), place - moved.end()));
-        Editor_.select({moved.start(), place});
-        Editor_.setSelText(passed + selected);
-    }
+bool EditBox::wheelTurned(const QWheelEvent& event) {
+    const int turned = event.angleDelta().y();
+    if (turned == 0 || !field().widget().hasFocus()) return false;
+    const bool turnedBack = (turned > 0) != (TurnedRest_ > 0);
+    TurnedRest_ = turnedBack ? turned : TurnedRest_ + turned;
+    const int notches = TurnedRest_ / QWheelEvent::DefaultDeltasPerStep;
+    TurnedRest_ %= QWheelEvent::DefaultDeltasPerStep;
+    if (notches != 0) Edit_.listener().Text1_Wheel(notches);
+    return true;
 }
 
 }  // namespace kel::qt

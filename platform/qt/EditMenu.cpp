@@ -38,13 +38,13 @@ void addEntry(QMenu& menu, EditBox& box, const Entry& entry) {
     action->setObjectName(QLatin1String(entry.icon));
     action->setEnabled(box.offers(entry.action));
     const EditAction chosen = entry.action;
-    QObject::connect(action, &QAction::triggered, &box.widget(), [&box, chosen] { box.perform(chosen); });
+    QObject::connect(action, &QAction::triggered, &box.field().widget(), [&box, chosen] { box.perform(chosen); });
 }
 
 }  // namespace
 
 void showEditMenu(EditBox& box, const QPoint& globalPosition) {
-    auto* const menu = new QMenu(&box.widget());
+    auto* const menu = new QMenu(&box.field().widget());
     menu->setObjectName(QStringLiteral("qt_edit_menu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const Entry& entry : Entries) addEntry(*menu, box, entry);

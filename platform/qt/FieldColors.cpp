@@ -73,11 +73,14 @@ QColor strongestOn(const QColor& background) {
     return contrast(Qt::black, background) >= contrast(Qt::white, background) ? Qt::black : Qt::white;
 }
 
-/// Text that the desktop chose for its own background gives way altogether, a colour that was meant keeps its hue.
+/// Plain text gives way altogether where it cannot be read, a colour that was meant keeps its hue.
 QColor fieldText(Color fore, const QPalette& desktop, const QColor& back) {
+    constexpr Color Black = 0x00000000;
     const QColor text = desktopColor(fore, desktop);
-    if (fore != colors::SystemWindowText) return readableOn(text, back);
-    return contrast(text, back) >= ReadableContrast ? text : strongestOn(back);
+    if (contrast(text, back) >= ReadableContrast) return text;
+    if (fore != colors::SystemWindowText && fore != Black) return readableOn(text, back);
+    const QColor usual = desktop.color(QPalette::Active, QPalette::Text);
+    return contrast(usual, back) >= ReadableContrast ? usual : strongestOn(back);
 }
 
 QPalette makePalette(const FieldColors& wanted, const QPalette& desktop) {

@@ -71,14 +71,16 @@ void watchApplication() {
 
 void arrived(ChildField& field, Qt::FocusReason reason) {
     watchApplication();
+    const QWidget& widget = field.widget();
     if (&field == Holder) {
-        Suspended = false;
+        Suspended = !widget.hasFocus();
         return;
     }
     const Telling telling(reason);
     leaveHolder(&field.site());
-    if (!field.widget().hasFocus()) return;  // a handler has moved it on
+    if (widget.window()->focusWidget() != &widget) return;  // a handler has moved it on
     Holder = &field;
+    Suspended = !widget.hasFocus();
     if (Entered == nullptr) {
         Entered = &field.site();
         Entered->control().EnterFocus();
@@ -103,6 +105,8 @@ void forget(const ChildField& field) {
 void forget(const ControlSite& site) {
     if (Entered == &site) Entered = nullptr;
 }
+
+bool isHeldBy(const ChildField& field) { return Holder == &field; }
 
 bool movesByTab() { return ByTab; }
 

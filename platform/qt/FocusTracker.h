@@ -11,12 +11,16 @@ class ControlSite;
 /// the new control, the new widget. Popups, menus and other windows in front are no change to them.
 namespace focus {
 
+/// In a window that is not the active one the field has the focus as soon as it is.
 void arrived(ChildField& field, Qt::FocusReason reason);
 void departed(ChildField& field, Qt::FocusReason reason);
 
 /// The field or the control is about to go, without a word to anybody.
 void forget(const ChildField& field);
 void forget(const ControlSite& site);
+
+/// Whether its control has been told that it has the focus.
+bool isHeldBy(const ChildField& field);
 
 /// The Tab key moves the focus at this moment.
 bool movesByTab();

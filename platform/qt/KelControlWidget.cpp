@@ -9,6 +9,7 @@
 #include "platform/qt/ControlSite.h"
 #include "platform/qt/EdgeGuard.h"
 #include "platform/qt/QtHome.h"
+#include "platform/qt/RetiredControls.h"
 
 namespace kel::qt {
 
@@ -27,7 +28,7 @@ Variant run(const ControlSite& site, Thunk accessor, std::span<Variant> argument
 
 KelControlWidget::KelControlWidget(const ClassModel& model, QWidget* parent)
     : KelControlWidget(model, defaultSurroundings(), parent) {
-    Site_->initNew();
+    control().InitProperties();
 }
 
 KelControlWidget::KelControlWidget(const ClassModel& model, const Surroundings& surroundings, QWidget* parent)
@@ -38,7 +39,7 @@ KelControlWidget::KelControlWidget(const ClassModel& model, const Surroundings& 
     Site_->makeControl(model);
 }
 
-KelControlWidget::~KelControlWidget() = default;
+KelControlWidget::~KelControlWidget() { retire(std::move(Site_)); }
 
 Control& KelControlWidget::control() const { return Site_->control(); }
 

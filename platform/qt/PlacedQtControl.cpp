@@ -9,7 +9,7 @@ PlacedQtControl::PlacedQtControl(const ClassModel& model, const Placement& place
                                  ControlObserver& observer, QWidget& parent)
     : KelControlWidget(model, surroundings, &parent), Observer_(observer), Placement_(placement) {
     setObjectName(toQString(placement.name));
-    if (!placement.tabStop) setFocusPolicy(Qt::ClickFocus);
+    if (!placement.tabStop) site().leaveTabOrder();
     if (!placement.visible) hide();
 }
 

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <QWidget>
-
 #include "host/Widgets.h"
 #include "platform/qt/ChildField.h"
-#include "platform/qt/ControlSite.h"
 #include "platform/qt/FocusTracker.h"
+#include "platform/qt/QtChild.h"
 #include "platform/qt/TextBridge.h"
 #include "platform/qt/WidgetLook.h"
 
@@ -13,17 +11,10 @@ namespace kel::qt {
 
 /// What all field widgets on Qt have in common. `Interface` is one of the field widgets of host/Widgets.h.
 template <class Interface>
-class QtField : public Interface, public ChildField {
+class QtField : public QtChild<Interface, ChildField> {
 public:
-    Rect bounds() const override { return Bounds_; }
-    void move(const Rect& bounds) override {
-        if (bounds == Bounds_) return;
-        Bounds_ = bounds;
-        placeAgain();
-    }
-
-    bool enabled() const override { return !widget().testAttribute(Qt::WA_ForceDisabled); }
-    void setEnabled(bool enabled) override { widget().setEnabled(enabled); }
+    using ChildWidget::site;
+    using ChildWidget::widget;
 
     Color foreColor() const override { return Colors_.fore; }
     void setForeColor(Color color) override { setColors({Colors_.back, color}); }
@@ -49,13 +40,12 @@ public:
 
     void setFocus() override { focusWidget(widget()); }
 
-    void placeAgain() override { widget().setGeometry(site().pixelRect(Bounds_)); }
     void colorAgain() override {
         if (Colors_ != FieldColors{}) colorWidget(widget(), Colors_);
     }
 
 protected:
-    QtField(ControlSite& site, QWidget& widget) : ChildField(site, widget) {}
+    QtField(ControlSite& place, QWidget& shown) : QtChild<Interface, ChildField>(place, shown) {}
 
     /// Enabled and shown, its control as well.
     bool takesInput() const { return Visible_ && widget().isEnabled(); }
@@ -83,7 +73,6 @@ private:
         colorWidget(widget(), Colors_);
     }
 
-    Rect Bounds_;
     FieldColors Colors_;
     bool Visible_ = true;
 };

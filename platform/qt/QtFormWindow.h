@@ -28,6 +28,8 @@ public:
     void focus(PlacedControl& control) override;
     void click(PlacedControl& control, std::int32_t position) override;
     void rightClick(PlacedControl& control) override;
+    void spin(PlacedControl& control, bool up) override;
+    void pick(PlacedControl& control, std::int32_t item) override;
     void setClipboard(std::u16string_view text) override;
     PlacedControl* focused() const override;
     bool savePicture(const std::string& utf8Path) override;

@@ -8,7 +8,9 @@
 #include "platform/qt/EditBox.h"
 #include "platform/qt/KeySender.h"
 #include "platform/qt/PlacedQtControl.h"
+#include "platform/qt/QtComboBox.h"
 #include "platform/qt/QtFormWindow.h"
+#include "platform/qt/QtUpDown.h"
 #include "platform/qt/TextBridge.h"
 
 /// What a person does at a form's window.
@@ -24,18 +26,35 @@ void settle() {
     } while (hasKeysToSend());
 }
 
-EditBox* editBoxOf(PlacedControl& control) { return dynamic_cast<EditBox*>(control.control().widgets().textBox); }
+EditBox* editBoxOf(PlacedControl& control) { return dynamic_cast<EditBox*>(control.control().widgets().field); }
 
 /// Qt gives the focus only for events that come from the window system.
 void giveFocusByClick(QWidget& widget) {
     if (widget.isVisible() && widget.focusPolicy() & Qt::ClickFocus) widget.setFocus(Qt::MouseFocusReason);
 }
 
-void sendMouse(QWidget& area, QEvent::Type type, Qt::MouseButton button) {
-    const QPoint place = area.rect().center();
+void sendMouse(QWidget& area, QEvent::Type type, Qt::MouseButton button, const QPoint& place) {
     const bool held = type == QEvent::MouseButtonPress;
     QMouseEvent event(type, place, area.mapToGlobal(place), button, held ? button : Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(&area, &event);
+}
+
+void sendMouse(QWidget& area, QEvent::Type type, Qt::MouseButton button) {
+    sendMouse(area, type, button, area.rect().center());
+}
+
+void clickLeft(QWidget& area, const QPoint& place) {
+    const QPointer<QWidget> pressed = &area;
+    sendMouse(area, QEvent::MouseButtonPress, Qt::LeftButton, place);
+    if (!pressed.isNull()) sendMouse(*pressed, QEvent::MouseButtonRelease, Qt::LeftButton, place);
+}
+
+void clickLeft(QWidget& area) { clickLeft(area, area.rect().center()); }
+
+void clickItem(ComboList& list, std::int32_t item) {
+    const QModelIndex row = list.model()->index(item, 0);
+    list.scrollTo(row);
+    if (row.isValid()) clickLeft(*list.viewport(), list.visualRect(row).center());
 }
 
 void sendMenu(QWidget& area) {
@@ -82,7 +101,8 @@ void QtFormWindow::click(PlacedControl& control, std::int32_t position) {
     activate();
     if (EditBox* const box = editBoxOf(control)) {
         const QPointer<QWidget> area = &box->mouseArea();
-        giveFocusByClick(box->widget());
+        closePopups();
+        giveFocusByClick(box->field().widget());
         box->aim(position);
         sendMouse(*area, QEvent::MouseButtonPress, Qt::LeftButton);
         box->aim(-1);
@@ -92,17 +112,44 @@ void QtFormWindow::click(PlacedControl& control, std::int32_t position) {
 }
 
 void QtFormWindow::rightClick(PlacedControl& control) {
+    const QPointer<QWidget> window = Window_.get();
     activate();
     if (EditBox* const box = editBoxOf(control)) {
         const QPointer<QWidget> area = &box->mouseArea();
-        giveFocusByClick(box->widget());
+        closePopups();
+        giveFocusByClick(box->field().widget());
         sendMouse(*area, QEvent::MouseButtonPress, Qt::RightButton);
         if (!area.isNull()) sendMenu(*area);
         closePopups();
         if (!area.isNull()) sendMouse(*area, QEvent::MouseButtonRelease, Qt::RightButton);
     }
     settle();
+    if (!window.isNull()) activate();
+}
+
+void QtFormWindow::spin(PlacedControl& control, bool up) {
     activate();
+    const QPointer<QtUpDown> spinner = dynamic_cast<QtUpDown*>(control.control().widgets().upDown);
+    if (!spinner.isNull() && spinner->isVisible()) {
+        closePopups();
+        clickLeft(*spinner, spinner->half(up).center());
+    }
+    settle();
+}
+
+void QtFormWindow::pick(PlacedControl& control, std::int32_t item) {
+    const QPointer<QWidget> window = Window_.get();
+    activate();
+    const QPointer<QtComboBox> box = dynamic_cast<QtComboBox*>(control.control().widgets().comboBox);
+    if (!box.isNull() && box->isVisible()) {
+        closePopups();
+        giveFocusByClick(*box);
+        clickLeft(box->button());
+        if (!box.isNull() && box->list() != nullptr) clickItem(*box->list(), item);
+        closePopups();
+    }
+    settle();
+    if (!window.isNull()) activate();
 }
 
 void QtFormWindow::setClipboard(std::u16string_view text) { QGuiApplication::clipboard()->setText(toQString(text)); }

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 
+#include "common/basKelControls.h"
 #include "platform/qt/ControlSite.h"
 #include "platform/qt/QtFormWindow.h"
 #include "platform/qt/QtServices.h"
@@ -54,6 +55,8 @@ Home& defaultHome() {
 
 Surroundings defaultSurroundings() {
     Home& home = defaultHome();
+    // A control that is newly placed is never loaded, and takes some of the settings as it is made.
+    if (!home.settings().Runtime) InitControls(home.settings(), home.system());
     return {home.settings(), home.system(), home.region()};
 }
 

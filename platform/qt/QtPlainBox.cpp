@@ -4,7 +4,6 @@
 #include <QAbstractTextDocumentLayout>
 #include <QContextMenuEvent>
 #include <QDropEvent>
-#include <QMimeData>
 #include <QMouseEvent>
 #include <QTextBlock>
 #include <QTextDocument>
@@ -26,8 +25,10 @@ constexpr int TextIndent = 3;
 }  // namespace
 
 QtPlainBox::QtPlainBox(ControlSite& site, TextBoxListener& listener, QWidget& parent)
-    : QPlainTextEdit(&parent), EditBox(site, listener, *this, true) {
+    : QPlainTextEdit(&parent), QtTextBox(site, *this, listener, true) {
     setTabChangesFocus(true);
+    // It loses its place in the tab order to the next control, and would then lead here from elsewhere.
+    viewport()->setFocusProxy(nullptr);
     document()->setUndoRedoEnabled(false);
     document()->setDocumentMargin(std::max(TextIndent - frameWidth(), 1));
     connect(this, &QPlainTextEdit::textChanged, this, [this] { textChangedInWidget(); });
@@ -67,6 +68,10 @@ void QtPlainBox::showSelection(const Selection& selection) {
     cursor.setPosition(plain::toDocument(*document(), selection.anchor));
     cursor.setPosition(plain::toDocument(*document(), selection.caret), QTextCursor::KeepAnchor);
     setTextCursor(cursor);
+}
+
+std::size_t QtPlainBox::positionAt(const QPoint& point) const {
+    return plain::toText(*document(), cursorForPosition(point).position());
 }
 
 bool QtPlainBox::isMirrored() const { return textCursor().block().textDirection() == Qt::RightToLeft; }
@@ -154,25 +159,28 @@ void QtPlainBox::mouseReleaseEvent(QMouseEvent* event) {
     mouseReleased(*event);
 }
 
+void QtPlainBox::wheelEvent(QWheelEvent* event) {
+    wheelTurned(*event);
+    QPlainTextEdit::wheelEvent(event);
+}
+
 void QtPlainBox::contextMenuEvent(QContextMenuEvent* event) {
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
     menuAsked(byKey ? viewport()->mapToGlobal(cursorRect().bottomLeft()) : event->globalPos());
 }
 
+void QtPlainBox::dragEnterEvent(QDragEnterEvent* event) {
+    dragMoved(*event, [&] { QPlainTextEdit::dragEnterEvent(event); });
+}
+
+void QtPlainBox::dragMoveEvent(QDragMoveEvent* event) {
+    dragMoved(*event, [&] { QPlainTextEdit::dragMoveEvent(event); });
+}
+
 void QtPlainBox::dropEvent(QDropEvent* event) {
-    if (locked() || !event->mimeData()->hasText()) {
-        event->ignore();
-        return;
-    }
     QDragLeaveEvent leave;
-    QPlainTextEdit::dragLeaveEvent(&leave);
-    const int place = cursorForPosition(event->position().toPoint()).position();
-    const bool isMoved = event->source() == viewport() && event->proposedAction() == Qt::MoveAction;
-    event->acceptProposedAction();
-    if (isMoved)
-        selectionMoved(plain::toText(*document(), place));
-    else
-        dropped(plain::toText(*document(), place), event->mimeData()->text());
+    dragLeaveEvent(&leave);
+    dropped(*event);
 }
 
 QMimeData* QtPlainBox::createMimeDataFromSelection() const {
@@ -184,7 +192,5 @@ QMimeData* QtPlainBox::createMimeDataFromSelection() const {
 }
 
 bool QtPlainBox::canInsertFromMimeData(const QMimeData* source) const { return source->hasText(); }
-
-void QtPlainBox::insertFromMimeData(const QMimeData* source) { dropped(buffer().selection().caret, source->text()); }
 
 }  // namespace kel::qt

@@ -1,13 +1,14 @@
 #pragma once
 
+#include <QMimeData>
 #include <QPlainTextEdit>
 
-#include "platform/qt/EditBox.h"
+#include "platform/qt/QtTextBox.h"
 
 namespace kel::qt {
 
 /// The multi-line edit box.
-class QtPlainBox final : public QPlainTextEdit, public EditBox, private TextLines {
+class QtPlainBox final : public QPlainTextEdit, public QtTextBox, private TextLines {
 public:
     QtPlainBox(ControlSite& site, TextBoxListener& listener, QWidget& parent);
 
@@ -28,13 +29,17 @@ protected:
     void changeEvent(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    /// Scrolls as well, whether or not it has the focus; at its end the surroundings scroll.
+    void wheelEvent(QWheelEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
     QMimeData* createMimeDataFromSelection() const override;
     bool canInsertFromMimeData(const QMimeData* source) const override;
     /// By the middle mouse button.
-    void insertFromMimeData(const QMimeData* source) override;
+    void insertFromMimeData(const QMimeData* source) override { pastePicked(source->text()); }
 
 private:
     std::u16string shownText() override;
@@ -47,6 +52,7 @@ private:
     void showPasswordChar(char16_t /*character*/) override {}
     void compose(QInputMethodEvent& event) override { QPlainTextEdit::inputMethodEvent(&event); }
     bool isMirrored() const override;
+    std::size_t positionAt(const QPoint& point) const override;
     const TextLines* lines() const override { return this; }
     TextLine lineAt(std::size_t position) const override;
     std::ptrdiff_t linesOfPage() const override;

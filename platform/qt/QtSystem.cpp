@@ -6,6 +6,7 @@
 #include <QPointer>
 
 #include "platform/qt/FocusTracker.h"
+#include "platform/qt/RetiredControls.h"
 #include "platform/qt/TextBridge.h"
 
 namespace kel::qt {
@@ -26,10 +27,8 @@ QMessageBox::Icon iconOf(std::int32_t style) {
 }
 
 /// Some platforms leave the window behind a closed box inactive, and its field without the focus.
-void giveBack(const QPointer<QWidget>& holder) {
-    if (holder.isNull() || QApplication::focusWidget() == holder) return;
-    holder->window()->activateWindow();
-    holder->setFocus(Qt::ActiveWindowFocusReason);
+void bringBack(QWidget& window) {
+    if (window.isVisible() && !window.isActiveWindow()) window.activateWindow();
 }
 
 }  // namespace
@@ -42,11 +41,15 @@ Date QtSystem::today() const {
 double QtSystem::timer() const { return QTime::currentTime().msecsSinceStartOfDay() / MillisecondsPerSecond; }
 
 void QtSystem::messageBox(std::u16string_view prompt, std::int32_t style, std::u16string_view title) {
-    const QPointer<QWidget> holder = QApplication::focusWidget();
-    QMessageBox box(iconOf(style), toQString(title), toQString(prompt), QMessageBox::Ok, QApplication::activeWindow());
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
-    giveBack(holder);
+    const ForeignCode running;
+    const QPointer<QWidget> window = QApplication::activeWindow();
+    // Not on the stack: should its window be destroyed, it goes with it.
+    const QPointer<QMessageBox> box =
+        new QMessageBox(iconOf(style), toQString(title), toQString(prompt), QMessageBox::Ok, window);
+    box->setTextFormat(Qt::PlainText);
+    box->exec();
+    delete box;
+    if (!window.isNull()) bringBack(*window);
 }
 
 void QtSystem::beep() { QApplication::beep(); }

@@ -11,15 +11,37 @@ class ControlWindowOwner;
 class TwipGrid;
 class Win32Label;
 
-/// What a control's window knows of the widgets in it that can have the focus.
-class ChildField {
+/// What a control's window knows of the widgets in it, but for the caption.
+class ChildWidget {
 public:
     /// nullptr while there is none.
     virtual HWND window() const = 0;
+    /// Whether it is this one, or another one that the widget is made of.
+    virtual bool has(HWND window) const { return window == this->window(); }
     /// Makes the window in that of the control, as the widget stands.
     virtual void makeWindow() = 0;
 
     virtual bool shown() const = 0;
+
+    /// The frame is enabled from now on, or no longer.
+    virtual void frameEnabledChanged() = 0;
+    /// The grid of the frame has another resolution.
+    virtual void rescale() = 0;
+
+    /// Its window says something to its parent; `details` are those of WM_NOTIFY, 0 without it. Returns the
+    /// answer.
+    virtual LRESULT notified(UINT notification, LPARAM details) = 0;
+
+    /// Paints the widget where it stands in the control, whose corner is at `origin`.
+    virtual void draw(HDC context, POINT origin) const = 0;
+
+protected:
+    ~ChildWidget() = default;
+};
+
+/// What it knows of those that can have the focus.
+class ChildField : public ChildWidget {
+public:
     /// Enabled and visible, control and all.
     virtual bool acceptsInput() const = 0;
 
@@ -31,16 +53,9 @@ public:
 
     /// Colours of what the system's window is about to paint.
     virtual HBRUSH colors(HDC context) const = 0;
-    /// The grid of the frame has another resolution.
-    virtual void rescale() = 0;
-
-    /// Its window says something to its parent.
-    virtual void notified(UINT notification) = 0;
 
     /// Of the first line of text, in pixels from the top of the control.
     virtual int baseline() const = 0;
-    /// Paints the field where it stands in the control, whose corner is at `origin`.
-    virtual void draw(HDC context, POINT origin) const = 0;
 
 protected:
     ~ChildField() = default;
@@ -58,16 +73,18 @@ public:
     /// Enabled and visible.
     virtual bool acceptsInput() const = 0;
 
-    virtual void add(ChildField& field) = 0;
-    virtual void remove(ChildField& field) = 0;
+    virtual void add(ChildWidget& widget) = 0;
+    virtual void remove(ChildWidget& widget) = 0;
+    virtual void addField(ChildField& field) = 0;
+    virtual void removeField(ChildField& field) = 0;
     /// It is shown from now on, or no longer.
     virtual void fieldShown() = 0;
 
     /// The window of the field has got the focus, or has lost it to `next`.
     virtual void arrived(ChildField& field) = 0;
     virtual void departed(ChildField& field, HWND next) = 0;
-    /// The focus goes nowhere when it is in `window`.
-    virtual void takeFocusFrom(HWND window) = 0;
+    /// The focus goes nowhere when it is in `window`, and a mouse button held there counts as released.
+    virtual void takeInputFrom(HWND window) = 0;
 
     virtual void setToolTip(HWND field, const wchar_t* text) = 0;
 

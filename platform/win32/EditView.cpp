@@ -61,9 +61,14 @@ std::u16string displayed(std::u16string_view text, bool multiLine) {
     return shown;
 }
 
-void EditView::create(HWND parent, const RECT& place, WindowHandler& handler) {
+void EditView::showNothingYet() {
     Shown_.clear();
     ShownSelection_ = {};
+}
+
+void EditView::create(HWND parent, const RECT& place, WindowHandler& handler) {
+    showNothingYet();
+    Base_ = editClass().baseProcedure();
     const ChangingScope changing(Changing_);
     CreateWindowExW(WS_EX_CLIENTEDGE, editClass().name(), L"",
                     WS_CHILD | WS_TABSTOP | (MultiLine_ ? LinesStyle : LineStyle), place.left, place.top,
@@ -71,12 +76,19 @@ void EditView::create(HWND parent, const RECT& place, WindowHandler& handler) {
     if (Window_ != nullptr) base(EM_SETLIMITTEXT, NoLimit);
 }
 
+void EditView::attach(HWND edit, WindowHandler& handler) {
+    showNothingYet();
+    Window_ = edit;
+    Base_ = putInFront(edit, handler);
+    base(EM_SETLIMITTEXT, NoLimit);
+}
+
 void EditView::destroy() {
     if (Window_ != nullptr) DestroyWindow(std::exchange(Window_, nullptr));
 }
 
 LRESULT EditView::base(UINT message, WPARAM wide, LPARAM data) const {
-    return CallWindowProcW(editClass().baseProcedure(), Window_, message, wide, data);
+    return CallWindowProcW(Base_, Window_, message, wide, data);
 }
 
 void EditView::show(const EditBuffer& buffer) {
@@ -89,21 +101,27 @@ void EditView::show(const EditBuffer& buffer) {
     showSelection(buffer.selection());
 }
 
-/// Replaces no more than what differs, and in front of the caret rather than behind it, so that the window has
-/// little to paint.
+/// Replaces no more than what differs, so that the window has little to paint.
 void EditView::showText(std::u16string_view text, const EditBuffer& buffer) {
     if (text == Shown_) return;
+    Difference change = differenceFrom(text, buffer.selection().end());
+    // The window must not see a line break come in two pieces.
+    if (MultiLine_ && change.at > 0 && text[change.at - 1] == u'\r')
+        change = {change.at - 1, change.removed + 1, change.inserted + 1};
+    replace(change.at, change.at + change.removed, text.substr(change.at, change.inserted), buffer.canUndo());
+}
+
+/// Of `text`, in front of the caret that stands in it rather than behind.
+EditView::Difference EditView::differenceFrom(std::u16string_view text, std::size_t caret) const {
     const std::size_t shorter = std::min(text.size(), Shown_.size());
-    const std::size_t behindCaret = std::min(text.size() - buffer.selection().end(), shorter);
+    const std::size_t behindCaret = std::min(text.size() - std::min(caret, text.size()), shorter);
     const auto tail =
         std::mismatch(text.rbegin(), text.rbegin() + static_cast<std::ptrdiff_t>(behindCaret), Shown_.rbegin());
     const auto same = static_cast<std::size_t>(tail.first - text.rbegin());
     const auto head =
         std::mismatch(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(shorter - same), Shown_.begin());
-    auto from = static_cast<std::size_t>(head.first - text.begin());
-    // The window must not see a line break come in two pieces.
-    if (MultiLine_ && from > 0 && text[from - 1] == u'\r') --from;
-    replace(from, Shown_.size() - same, text.substr(from, text.size() - same - from), buffer.canUndo());
+    const auto at = static_cast<std::size_t>(head.first - text.begin());
+    return {at, Shown_.size() - same - at, text.size() - same - at};
 }
 
 void EditView::replace(std::size_t from, std::size_t to, std::u16string_view text, bool undoable) {
@@ -139,14 +157,20 @@ Selection EditView::selection() const {
     return {start, end};
 }
 
-std::u16string EditView::text() const {
+std::u16string EditView::windowText() const {
     std::wstring text(static_cast<std::size_t>(base(WM_GETTEXTLENGTH)) + 1, L'\0');
     text.resize(static_cast<std::size_t>(base(WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()))));
     return unwiden(text);
 }
 
-bool EditView::showsWhatItWasGiven() const {
-    return static_cast<std::size_t>(base(WM_GETTEXTLENGTH)) == Shown_.size() && text() == Shown_;
+TextChange EditView::takeForeignChange() {
+    std::u16string text = windowText();
+    if (text == Shown_) return {};
+    const Selection now = selection();
+    const Difference change = differenceFrom(text, now.end());
+    Shown_ = std::move(text);
+    ShownSelection_ = now;
+    return {change.at, change.removed, Shown_.substr(change.at, change.inserted)};
 }
 
 POINT EditView::showPosition(std::size_t position) {

@@ -10,6 +10,13 @@
 
 namespace kel::win32 {
 
+/// What is another text in one place than before.
+struct TextChange {
+    std::size_t at = 0;
+    std::size_t removed = 0;
+    std::u16string inserted;
+};
+
 /// The system's edit window as the view of a buffer: it shows what the buffer holds and decides nothing. What
 /// anybody wants of the window comes to its handler first; `base` is what the system would do.
 class EditView {
@@ -23,6 +30,8 @@ public:
 
     /// Hidden, at `place` in `parent`; shows nothing yet. `handler` outlives the window.
     void create(HWND parent, const RECT& place, WindowHandler& handler);
+    /// Takes an empty edit window that belongs to another one, such as that of a combo box.
+    void attach(HWND edit, WindowHandler& handler);
     void destroy();
     /// The window is being made, and hears its first messages.
     void adopt(HWND window) { Window_ = window; }
@@ -38,9 +47,8 @@ public:
     Selection selection() const;
     /// The window has made this selection by itself.
     void selectionIs(const Selection& selection) { ShownSelection_ = selection; }
-    /// False when somebody else has put another text into the window.
-    bool showsWhatItWasGiven() const;
-    std::u16string text() const;
+    /// What somebody else has made of the text in the window; it counts as shown from now on.
+    TextChange takeForeignChange();
 
     /// While the view itself changes its window.
     bool changing() const { return Changing_; }
@@ -57,9 +65,20 @@ public:
 private:
     void replace(std::size_t from, std::size_t to, std::u16string_view text, bool undoable);
     void showText(std::u16string_view text, const EditBuffer& buffer);
+    /// Units that differ, in what is shown and in what is to come.
+    struct Difference {
+        std::size_t at;
+        std::size_t removed;
+        std::size_t inserted;
+    };
+    Difference differenceFrom(std::u16string_view text, std::size_t caret) const;
+    std::u16string windowText() const;
     void showSelection(const Selection& selection);
 
+    void showNothingYet();
+
     HWND Window_ = nullptr;
+    WNDPROC Base_ = nullptr;
     std::u16string Shown_;
     Selection ShownSelection_;
     bool MultiLine_;

@@ -1,7 +1,8 @@
 #include "platform/win32/PlacedWin32Control.h"
 
+#include "platform/win32/Win32ComboBox.h"
 #include "platform/win32/Win32ControlWindow.h"
-#include "platform/win32/Win32TextBox.h"
+#include "platform/win32/Win32UpDown.h"
 
 namespace kel::win32 {
 
@@ -17,7 +18,7 @@ PlacedWin32Control::PlacedWin32Control(const ClassModel& model, const Placement&
     Window_ = std::make_unique<Win32ControlWindow>(owner, surroundings.system, surroundings.clipboard);
     Window_->setParent(surroundings.parent);
     Window_->setVisible(placement.visible);
-    ControlHost host{*this, Window_->widgets(), surroundings.system, surroundings.settings};
+    ControlHost host{*this, Window_->widgets(), surroundings.system, surroundings.settings, surroundings.region};
     Control_ = model.makeControl(host);
 }
 
@@ -79,6 +80,12 @@ HWND PlacedWin32Control::focusTarget() const {
     return field != nullptr && field->acceptsInput() ? field->window() : nullptr;
 }
 
-Win32TextBox* PlacedWin32Control::textBox() const { return dynamic_cast<Win32TextBox*>(Control_->widgets().textBox); }
+EditedField* PlacedWin32Control::editedField() const { return dynamic_cast<EditedField*>(Control_->widgets().field); }
+
+Win32ComboBox* PlacedWin32Control::comboBox() const {
+    return dynamic_cast<Win32ComboBox*>(Control_->widgets().comboBox);
+}
+
+Win32UpDown* PlacedWin32Control::upDown() const { return dynamic_cast<Win32UpDown*>(Control_->widgets().upDown); }
 
 }  // namespace kel::win32

@@ -12,8 +12,10 @@
 namespace kel::win32 {
 
 class Clipboard;
+class EditedField;
+class Win32ComboBox;
 class Win32ControlWindow;
-class Win32TextBox;
+class Win32UpDown;
 
 /// When the Tab key comes to a control: by tab index, equal ones in the order they were placed.
 using TabPlace = std::pair<std::int32_t, std::size_t>;
@@ -24,6 +26,7 @@ public:
     struct Surroundings {
         System& system;
         SharedSettings& settings;
+        const RegionalSettings& region;
         std::shared_ptr<Clipboard> clipboard;
         HWND parent;
     };
@@ -48,8 +51,12 @@ public:
 
     /// The window of the field, where it can take the focus; nullptr where not.
     HWND focusTarget() const;
+    /// nullptr where the field has no text to edit.
+    EditedField* editedField() const;
     /// nullptr where the field is none.
-    Win32TextBox* textBox() const;
+    Win32ComboBox* comboBox() const;
+    /// nullptr where it has none.
+    Win32UpDown* upDown() const;
 
 private:
     bool hasSize() const override { return Sized_; }

@@ -11,6 +11,8 @@ void Session::remove(const Win32FormWindow& window) {
     if (Active_ == &window) Active_ = nullptr;
 }
 
+HWND Session::activeWindow() const { return Active_ != nullptr ? Active_->window() : nullptr; }
+
 void Session::send(std::int16_t keyCode) {
     if (Active_ != nullptr) Active_->sendKey(keyCode);
 }

@@ -24,6 +24,8 @@ public:
 
     /// The window that keys go to from now on.
     void activate(Win32FormWindow& window) { Active_ = &window; }
+    /// nullptr while there is none.
+    HWND activeWindow() const;
 
     const std::shared_ptr<Clipboard>& clipboard() const { return Clipboard_; }
 

@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/win32/Win32ComboBox.h"
 #include "platform/win32/Win32TextBox.h"
+#include "platform/win32/Win32UpDown.h"
 
 namespace kel::win32 {
 
@@ -17,6 +19,15 @@ const WindowClass& controlClass() {
 }
 
 SIZE sizeOf(const RECT& area) { return {area.right - area.left, area.bottom - area.top}; }
+
+template <class Widget>
+Widget* withWindow(const std::vector<Widget*>& widgets, HWND window) {
+    const auto found =
+        std::find_if(widgets.begin(), widgets.end(), [window](const Widget* widget) { return widget->has(window); });
+    return found != widgets.end() ? *found : nullptr;
+}
+
+bool isIn(HWND window, HWND other) { return other != nullptr && (other == window || IsChild(window, other) != FALSE); }
 
 /// The stroke that a key press offered by the host makes.
 KeyStroke strokeOf(const MSG& message) {
@@ -49,19 +60,35 @@ std::unique_ptr<TextBox> Win32ControlWindow::makeTextBox(TextBoxListener& listen
     return std::make_unique<Win32TextBox>(frame, listener, multiLine);
 }
 
+std::unique_ptr<UpDown> Win32ControlWindow::makeUpDown(UpDownListener& listener) {
+    ControlFrame& frame = *this;
+    return std::make_unique<Win32UpDown>(frame, listener);
+}
+
+std::unique_ptr<ComboBox> Win32ControlWindow::makeComboBox(ComboBoxListener& listener) {
+    ControlFrame& frame = *this;
+    return std::make_unique<Win32ComboBox>(frame, listener);
+}
+
 void Win32ControlWindow::setLabel(Win32Label* label) {
     Label_ = label;
     if (Label_ != nullptr && Window_ != nullptr) Label_->makeWindow(height());
 }
 
-void Win32ControlWindow::add(ChildField& field) {
-    Fields_.push_back(&field);
-    if (Window_ != nullptr) field.makeWindow();
+void Win32ControlWindow::add(ChildWidget& widget) {
+    Widgets_.push_back(&widget);
+    if (Window_ != nullptr) widget.makeWindow();
 }
 
-void Win32ControlWindow::remove(ChildField& field) {
+void Win32ControlWindow::addField(ChildField& field) {
+    Fields_.push_back(&field);
+    add(field);
+}
+
+void Win32ControlWindow::removeField(ChildField& field) {
     std::erase(Fields_, &field);
     Focus_.forget(field);
+    remove(field);
 }
 
 ChildField* Win32ControlWindow::shownField() const {
@@ -70,11 +97,9 @@ ChildField* Win32ControlWindow::shownField() const {
     return found != Fields_.end() ? *found : nullptr;
 }
 
-ChildField* Win32ControlWindow::fieldOf(HWND window) const {
-    const auto found = std::find_if(Fields_.begin(), Fields_.end(),
-                                    [window](const ChildField* field) { return field->window() == window; });
-    return found != Fields_.end() ? *found : nullptr;
-}
+ChildWidget* Win32ControlWindow::widgetOf(HWND window) const { return withWindow(Widgets_, window); }
+
+ChildField* Win32ControlWindow::fieldOf(HWND window) const { return withWindow(Fields_, window); }
 
 // ---- The window
 
@@ -99,14 +124,14 @@ void Win32ControlWindow::makeWindow(HWND parent) {
     if (Window_ == nullptr) return;
     EnableWindow(Window_, Enabled_);
     if (Label_ != nullptr) Label_->makeWindow(height());
-    for (ChildField* const field : Fields_) field->makeWindow();
+    for (ChildWidget* const widget : Widgets_) widget->makeWindow();
 }
 
 void Win32ControlWindow::setParent(HWND parent) {
     if (Window_ == nullptr) {
         makeWindow(parent != nullptr ? parent : parkingWindow());
     } else {
-        if (parent == nullptr) takeFocusFrom(Window_);
+        if (parent == nullptr) takeInputFrom(Window_);
         SetParent(Window_, parent != nullptr ? parent : parkingWindow());
     }
     if (parent != nullptr && Parking_ != nullptr) DestroyWindow(std::exchange(Parking_, nullptr));
@@ -129,14 +154,15 @@ void Win32ControlWindow::place(const RECT& bounds, const RECT& clip) {
 
 void Win32ControlWindow::setVisible(bool visible) {
     Visible_ = visible;
-    if (!visible) takeFocusFrom(Window_);
+    if (!visible) takeInputFrom(Window_);
     if (Window_ != nullptr) ShowWindow(Window_, visible ? SW_SHOWNA : SW_HIDE);
 }
 
 void Win32ControlWindow::setEnabled(bool enabled) {
     if (enabled == Enabled_) return;
     Enabled_ = enabled;
-    if (!enabled) takeFocusFrom(Window_);
+    if (!enabled) takeInputFrom(Window_);
+    for (ChildWidget* const widget : Widgets_) widget->frameEnabledChanged();
     if (Window_ == nullptr) return;
     EnableWindow(Window_, enabled);
     RedrawWindow(Window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
@@ -167,15 +193,12 @@ void Win32ControlWindow::setFocus() {
     if (field != nullptr && field->window() != nullptr && field->acceptsInput()) SetFocus(field->window());
 }
 
-bool Win32ControlWindow::hasFocus() const {
-    const HWND focus = GetFocus();
-    return Window_ != nullptr && (focus == Window_ || IsChild(Window_, focus) != FALSE);
-}
+bool Win32ControlWindow::hasFocus() const { return Window_ != nullptr && isIn(Window_, GetFocus()); }
 
-void Win32ControlWindow::takeFocusFrom(HWND window) {
-    const HWND focus = GetFocus();
-    if (window != nullptr && focus != nullptr && (focus == window || IsChild(window, focus) != FALSE))
-        SetFocus(nullptr);
+void Win32ControlWindow::takeInputFrom(HWND window) {
+    if (window == nullptr) return;
+    if (isIn(window, GetCapture())) ReleaseCapture();
+    if (isIn(window, GetFocus())) SetFocus(nullptr);
 }
 
 bool Win32ControlWindow::translateAccelerator(MSG& message) {
@@ -204,7 +227,8 @@ void Win32ControlWindow::draw(HDC context, const RECT& bounds) {
     FillRect(context, &bounds, GetSysColorBrush(COLOR_BTNFACE));
     IntersectClipRect(context, bounds.left, bounds.top, bounds.right, bounds.bottom);
     drawCaption(context, bounds);
-    if (const ChildField* const field = shownField()) field->draw(context, {bounds.left, bounds.top});
+    for (const ChildWidget* const widget : Widgets_)
+        if (widget->shown()) widget->draw(context, {bounds.left, bounds.top});
 }
 
 /// The label's window is the part of the control that its caption may take.
@@ -217,7 +241,7 @@ void Win32ControlWindow::drawLabelWindow(const DRAWITEMSTRUCT& item) const {
 void Win32ControlWindow::setGrid(const TwipGrid& grid) {
     Grid_ = grid;
     if (Label_ != nullptr) Label_->rescale();
-    for (ChildField* const field : Fields_) field->rescale();
+    for (ChildWidget* const widget : Widgets_) widget->rescale();
     captionChanged();
 }
 
@@ -250,8 +274,13 @@ LRESULT Win32ControlWindow::handle(HWND window, UINT message, WPARAM wide, LPARA
                 return reinterpret_cast<LRESULT>(field->colors(reinterpret_cast<HDC>(wide)));
             break;
         case WM_COMMAND:
-            if (ChildField* const field = fieldOf(reinterpret_cast<HWND>(data))) field->notified(HIWORD(wide));
+            if (ChildWidget* const widget = widgetOf(reinterpret_cast<HWND>(data))) widget->notified(HIWORD(wide), 0);
             return 0;
+        case WM_NOTIFY: {
+            const auto& header = *reinterpret_cast<const NMHDR*>(data);
+            if (ChildWidget* const widget = widgetOf(header.hwndFrom)) return widget->notified(header.code, data);
+            break;
+        }
         case WM_DESTROY:
             if (ToolTips_ != nullptr) DestroyWindow(std::exchange(ToolTips_, nullptr));
             break;

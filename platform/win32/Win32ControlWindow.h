@@ -40,6 +40,8 @@ public:
 private:
     std::unique_ptr<Label> makeLabel() override;
     std::unique_ptr<TextBox> makeTextBox(TextBoxListener& listener, bool multiLine) override;
+    std::unique_ptr<UpDown> makeUpDown(UpDownListener& listener) override;
+    std::unique_ptr<ComboBox> makeComboBox(ComboBoxListener& listener) override;
 
     HWND window() const override { return Window_; }
     ControlWindowOwner& owner() override { return Owner_; }
@@ -47,12 +49,14 @@ private:
     Clipboard& clipboard() override { return *Clipboard_; }
     bool enabled() const override { return Enabled_; }
     bool acceptsInput() const override { return Enabled_ && Visible_; }
-    void add(ChildField& field) override;
-    void remove(ChildField& field) override;
+    void add(ChildWidget& widget) override;
+    void remove(ChildWidget& widget) override { std::erase(Widgets_, &widget); }
+    void addField(ChildField& field) override;
+    void removeField(ChildField& field) override;
     void fieldShown() override { captionChanged(); }
     void arrived(ChildField& field) override { Focus_.arrived(Window_, field); }
     void departed(ChildField& /*field*/, HWND next) override { Focus_.departed(Window_, next); }
-    void takeFocusFrom(HWND window) override;
+    void takeInputFrom(HWND window) override;
     void setToolTip(HWND field, const wchar_t* text) override;
     void setLabel(Win32Label* label) override;
     void captionChanged() override;
@@ -67,6 +71,7 @@ private:
 
     void makeWindow(HWND parent);
     HWND parkingWindow();
+    ChildWidget* widgetOf(HWND window) const;
     ChildField* fieldOf(HWND window) const;
     ChildField* shownField() const;
 
@@ -74,7 +79,8 @@ private:
     TwipGrid Grid_;
     std::shared_ptr<Clipboard> Clipboard_;
     FocusWatch Focus_;
-    std::vector<ChildField*> Fields_;
+    std::vector<ChildWidget*> Widgets_;
+    std::vector<ChildField*> Fields_;  ///< those of them that can have the focus
     Win32Label* Label_ = nullptr;
     HWND Window_ = nullptr;
     HWND Parking_ = nullptr;  ///< the parent that nobody sees

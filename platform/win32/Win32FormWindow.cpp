@@ -40,9 +40,10 @@ bool isSameLetter(char16_t one, char16_t other) {
 }  // namespace
 
 Win32FormWindow::Win32FormWindow(const WindowSpec& description, System& system, SharedSettings& settings,
-                                 Session& session)
+                                 const RegionalSettings& region, Session& session)
     : System_(system),
       Settings_(settings),
+      Region_(region),
       Session_(session),
       Grid_(system.twipsPerPixel()),
       ClientSize_(description.clientSize) {
@@ -70,7 +71,7 @@ HWND Win32FormWindow::parentOf(const Placement& placement) const {
 PlacedControl& Win32FormWindow::place(const ClassModel& model, const Placement& placement, ControlObserver& observer) {
     Controls_.push_back(std::make_unique<PlacedWin32Control>(
         model, placement, Controls_.size(), observer,
-        PlacedWin32Control::Surroundings{System_, Settings_, Session_.clipboard(), parentOf(placement)}));
+        PlacedWin32Control::Surroundings{System_, Settings_, Region_, Session_.clipboard(), parentOf(placement)}));
     PlacedWin32Control& placed = *Controls_.back();
     placed.control().Initialize();
     return placed;

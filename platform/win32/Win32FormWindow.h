@@ -15,7 +15,8 @@ class Session;
 /// A form on the screen.
 class Win32FormWindow final : public FormWindow, private WindowHandler {
 public:
-    Win32FormWindow(const WindowSpec& description, System& system, SharedSettings& settings, Session& session);
+    Win32FormWindow(const WindowSpec& description, System& system, SharedSettings& settings,
+                    const RegionalSettings& region, Session& session);
     ~Win32FormWindow() override;
 
     PlacedControl& place(const ClassModel& model, const Placement& placement, ControlObserver& observer) override;
@@ -26,6 +27,8 @@ public:
     void focus(PlacedControl& control) override;
     void click(PlacedControl& control, std::int32_t position) override;
     void rightClick(PlacedControl& control) override;
+    void spin(PlacedControl& control, bool up) override;
+    void pick(PlacedControl& control, std::int32_t item) override;
     void setClipboard(std::u16string_view text) override;
     PlacedControl* focused() const override;
     bool savePicture(const std::string& utf8Path) override;
@@ -71,6 +74,7 @@ private:
 
     System& System_;
     SharedSettings& Settings_;
+    const RegionalSettings& Region_;
     Session& Session_;
     TwipGrid Grid_;
     Size ClientSize_;

@@ -2,8 +2,9 @@
 
 #include "platform/win32/Picture.h"
 #include "platform/win32/Session.h"
+#include "platform/win32/Win32ComboBox.h"
 #include "platform/win32/Win32FormWindow.h"
-#include "platform/win32/Win32TextBox.h"
+#include "platform/win32/Win32UpDown.h"
 
 /// What a person does at a form's window. Keys and mouse come through the thread's own queue, so that nothing
 /// goes astray when another program is in front.
@@ -75,6 +76,11 @@ void postCharacter(HWND target, UINT message, char32_t character, LPARAM data) {
 
 void postMouse(HWND target, UINT message, WPARAM buttons, POINT place) {
     PostMessageW(target, message, buttons, MAKELPARAM(place.x, place.y));
+}
+
+void postLeftClick(HWND target, POINT place) {
+    postMouse(target, WM_LBUTTONDOWN, MK_LBUTTON, place);
+    postMouse(target, WM_LBUTTONUP, 0, place);
 }
 
 POINT centerOf(HWND window) {
@@ -149,11 +155,9 @@ void Win32FormWindow::click(PlacedControl& control, std::int32_t position) {
     focus(control);
     auto& placed = static_cast<PlacedWin32Control&>(control);
     HWND const field = placed.focusTarget();
-    Win32TextBox* const box = placed.textBox();
+    EditedField* const box = placed.editedField();
     if (field == nullptr || box == nullptr) return;
-    const POINT place = aimedAt(field, box->showPosition(position));
-    postMouse(field, WM_LBUTTONDOWN, MK_LBUTTON, place);
-    postMouse(field, WM_LBUTTONUP, 0, place);
+    postLeftClick(field, aimedAt(field, box->showPosition(position)));
     Session_.settle(true);
 }
 
@@ -165,6 +169,30 @@ void Win32FormWindow::rightClick(PlacedControl& control) {
     const POINT place = centerOf(field);
     postMouse(field, WM_RBUTTONDOWN, MK_RBUTTON, place);
     postMouse(field, WM_RBUTTONUP, 0, place);
+    Session_.settle(true);
+}
+
+void Win32FormWindow::spin(PlacedControl& control, bool up) {
+    activate();
+    const Win32UpDown* const spinner = static_cast<PlacedWin32Control&>(control).upDown();
+    if (spinner == nullptr || !spinner->acceptsInput()) return;
+    RECT area{};
+    GetClientRect(spinner->window(), &area);
+    const LONG quarter = area.bottom / 4;
+    postLeftClick(spinner->window(), {area.right / 2, up ? quarter : area.bottom - quarter});
+    Session_.settle(true);
+}
+
+void Win32FormWindow::pick(PlacedControl& control, std::int32_t item) {
+    activate();
+    const Win32ComboBox* const box = static_cast<PlacedWin32Control&>(control).comboBox();
+    if (box == nullptr || !box->acceptsInput()) return;
+    if (!box->isDropped()) postLeftClick(box->comboWindow(), box->buttonCenter());
+    Session_.settle(true);
+    POINT row{};
+    if (!box->isDropped() || !box->showRow(item, row)) return;
+    postMouse(box->listWindow(), WM_MOUSEMOVE, 0, row);
+    postLeftClick(box->listWindow(), row);
     Session_.settle(true);
 }
 

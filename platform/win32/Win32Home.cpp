@@ -4,6 +4,7 @@
 
 #include <commctrl.h>
 
+#include "platform/win32/MessageBox.h"
 #include "platform/win32/Session.h"
 #include "platform/win32/Win32FormWindow.h"
 #include "platform/win32/Win32Region.h"
@@ -24,7 +25,7 @@ public:
     Date today() const override { return Machine_.today(); }
     double timer() const override { return Machine_.timer(); }
     void messageBox(std::u16string_view prompt, std::int32_t style, std::u16string_view title) override {
-        Machine_.messageBox(prompt, style, title);
+        showMessageBox(Session_.activeWindow(), prompt, style, title);
     }
     void beep() override { Machine_.beep(); }
     bool tabKeyDown() const override { return Session_.tabHeld(); }
@@ -67,7 +68,7 @@ public:
     const RegionalSettings& region() const override { return Services_.region(); }
 
     std::unique_ptr<FormWindow> makeWindow(const WindowSpec& description, System& system) override {
-        return std::make_unique<Win32FormWindow>(description, system, Settings_, Session_);
+        return std::make_unique<Win32FormWindow>(description, system, Settings_, region(), Session_);
     }
 
     Session& session() { return Session_; }

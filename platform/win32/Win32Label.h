@@ -11,9 +11,11 @@ char16_t mnemonicIn(std::u16string_view caption);
 
 /// A caption: a label of the system, in front of the field, which thereby has its name for those who cannot see
 /// it. What it looks like is painted here.
-class Win32Label final : public Win32Widget<Label> {
+class Win32Label final : public Win32TextualWidget<Label> {
 public:
-    explicit Win32Label(ControlFrame& frame) : Win32Widget(frame, colors::SystemButtonText) { frame.setLabel(this); }
+    explicit Win32Label(ControlFrame& frame) : Win32TextualWidget(frame, colors::SystemButtonText) {
+        frame.setLabel(this);
+    }
     ~Win32Label() override;
 
     const std::u16string& caption() const override { return Caption_; }

@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 
+#include "platform/win32/MessageBox.h"
 #include "platform/win32/WideText.h"
 #include "platform/win32/Win32Region.h"
 #include "values/Calendar.h"
@@ -59,7 +60,7 @@ double Win32System::timer() const {
 }
 
 void Win32System::messageBox(std::u16string_view prompt, std::int32_t style, std::u16string_view title) {
-    MessageBoxW(GetActiveWindow(), wide(prompt).c_str(), wide(title).c_str(), static_cast<UINT>(style));
+    showMessageBox(nullptr, prompt, style, title);
 }
 
 void Win32System::beep() { MessageBeep(MB_OK); }

@@ -17,12 +17,12 @@ constexpr int TextGap = 1;    ///< between edge and text, pixels
 }  // namespace
 
 Win32TextBox::Win32TextBox(ControlFrame& frame, TextBoxListener& listener, bool multiLine)
-    : EditedTextBox(listener, *this, multiLine, frame, colors::SystemWindowText), View_(multiLine) {
-    frame.add(*this);
+    : EditedTextBox(listener, *this, multiLine, frame, multiLine), Input_(frame, *this, View_, Editor_) {
+    frame.addField(*this);
 }
 
 Win32TextBox::~Win32TextBox() {
-    frame().remove(*this);
+    frame().removeField(*this);
     View_.destroy();
 }
 
@@ -36,31 +36,12 @@ void Win32TextBox::makeWindow() {
     View_.base(EM_SETREADONLY, locked());
     showPasswordChar();
     View_.show(buffer());
-    EnableWindow(window(), enabled());
-    frame().setToolTip(window(), wide(ToolTip_).c_str());
-    if (Visible_) ShowWindow(window(), SW_SHOWNA);
+    showState();
 }
 
 void Win32TextBox::placeChanged() {
-    const RECT place = pixels();
-    if (window() != nullptr)
-        SetWindowPos(window(), nullptr, place.left, place.top, widthOf(place), heightOf(place),
-                     SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+    placeWindow(window());
     frame().captionChanged();
-}
-
-void Win32TextBox::enabledChanged() {
-    if (!enabled()) frame().takeFocusFrom(window());
-    if (window() != nullptr) EnableWindow(window(), enabled());
-    refresh();
-}
-
-void Win32TextBox::setVisible(bool visible) {
-    if (visible == Visible_) return;
-    Visible_ = visible;
-    if (!visible) frame().takeFocusFrom(window());
-    if (window() != nullptr) ShowWindow(window(), visible ? SW_SHOWNA : SW_HIDE);
-    frame().fieldShown();
 }
 
 void Win32TextBox::fontChanged() {
@@ -71,18 +52,6 @@ void Win32TextBox::fontChanged() {
 void Win32TextBox::rescale() {
     rescaleFont();
     placeChanged();
-}
-
-void Win32TextBox::setBackColor(Color color) {
-    if (color == BackColor_) return;
-    BackColor_ = color;
-    refresh();
-}
-
-void Win32TextBox::setToolTip(std::u16string_view text) {
-    if (text == ToolTip_) return;
-    ToolTip_.assign(text);
-    if (window() != nullptr) frame().setToolTip(window(), wide(ToolTip_).c_str());
 }
 
 void Win32TextBox::setLocked(bool locked) {
@@ -103,21 +72,9 @@ void Win32TextBox::showPasswordChar() {
     if (window() != nullptr && !buffer().multiLine()) View_.base(EM_SETPASSWORDCHAR, passwordChar());
 }
 
-void Win32TextBox::setFocus() {
-    if (window() != nullptr && acceptsInput()) SetFocus(window());
-}
-
 void Win32TextBox::refresh() {
     if (window() != nullptr) InvalidateRect(window(), nullptr, TRUE);
     frame().viewChanged();
-}
-
-HBRUSH Win32TextBox::colors(HDC context) const {
-    const bool grey = !enabled() || !frame().enabled();
-    const COLORREF back = colorOf(BackColor_);
-    SetTextColor(context, grey ? GetSysColor(COLOR_GRAYTEXT) : colorOf(foreColor()));
-    SetBkColor(context, back);
-    return brushFor(context, back);
 }
 
 // ---- Around the buffer
@@ -130,14 +87,6 @@ void Win32TextBox::bufferChanged() {
 std::u16string Win32TextBox::clipboardText() { return frame().clipboard().text(window()); }
 
 void Win32TextBox::setClipboardText(std::u16string_view text) { frame().clipboard().setText(window(), text); }
-
-int Win32TextBox::lineHeight() const {
-    const WindowContext context(window());
-    const Selected selected(context.get(), font().handle());
-    TEXTMETRICW metrics{};
-    GetTextMetricsW(context.get(), &metrics);
-    return std::max(1, static_cast<int>(metrics.tmHeight));
-}
 
 /// The window breaks long lines at its edge.
 TextLine Win32TextBox::lineAt(std::size_t position) const {
@@ -154,30 +103,29 @@ TextLine Win32TextBox::lineAt(std::size_t position) const {
 }
 
 std::ptrdiff_t Win32TextBox::linesOfPage() const {
-    return std::max(1, (heightOf(pixels()) - 2 * (EdgeWidth + TextGap)) / lineHeight());
+    return std::max(
+        1, (heightOf(pixels()) - 2 * (EdgeWidth + TextGap)) / std::max(1, static_cast<int>(textMetrics().tmHeight)));
 }
 
-/// Somebody has changed the window past us: that is the text from now on.
-void Win32TextBox::notified(UINT notification) {
-    if (notification != EN_CHANGE || View_.changing() || View_.showsWhatItWasGiven()) return;
-    const Selection selection = View_.selection();
-    Editor_.setText(View_.text());
-    Editor_.select(selection);
+LRESULT Win32TextBox::notified(UINT notification, LPARAM /*details*/) {
+    if (notification == EN_CHANGE) Input_.windowChanged();
+    return 0;
 }
 
-POINT Win32TextBox::showPosition(std::int32_t position) {
-    return View_.showPosition(static_cast<std::size_t>(std::clamp(position, 0, textLength())));
+LRESULT Win32TextBox::handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) {
+    if (View_.window() == nullptr) View_.adopt(window);
+    ControlWindowOwner& owner = frame().owner();
+    owner.holdOpen();
+    const LRESULT result = atEdge([&] { return Input_.handle(message, wide, data); });
+    owner.letGo();
+    return result;
 }
 
 // ---- Picture
 
 int Win32TextBox::baseline() const {
-    const WindowContext context(window());
-    const Selected selected(context.get(), font().handle());
-    TEXTMETRICW metrics{};
-    GetTextMetricsW(context.get(), &metrics);
     const int top = EdgeWidth + (window() != nullptr ? View_.textTop() : TextGap);
-    return static_cast<int>(pixels().top) + top + static_cast<int>(metrics.tmAscent);
+    return static_cast<int>(pixels().top) + top + static_cast<int>(textMetrics().tmAscent);
 }
 
 std::wstring Win32TextBox::drawnText() const {

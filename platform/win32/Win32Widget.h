@@ -24,6 +24,33 @@ public:
         enabledChanged();
     }
 
+protected:
+    explicit Win32Widget(ControlFrame& frame) : Frame_(frame) {}
+
+    ControlFrame& frame() const { return Frame_; }
+    RECT pixels() const { return Frame_.grid().pixels(Bounds_); }
+
+    /// Puts the widget's window, where there is one, where the widget stands.
+    void placeWindow(HWND window) const {
+        const RECT place = pixels();
+        if (window != nullptr)
+            SetWindowPos(window, nullptr, place.left, place.top, widthOf(place), heightOf(place),
+                         SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+    }
+
+private:
+    virtual void placeChanged() = 0;
+    virtual void enabledChanged() = 0;
+
+    ControlFrame& Frame_;
+    Rect Bounds_;
+    bool Enabled_ = true;
+};
+
+/// What those keep that show text.
+template <class Base>
+class Win32TextualWidget : public Win32Widget<Base> {
+public:
     Color foreColor() const override { return ForeColor_; }
     void setForeColor(Color color) override {
         if (color == ForeColor_) return;
@@ -32,7 +59,7 @@ public:
     }
 
     void setFont(std::u16string_view name, double size) override {
-        Font_.choose(name, size, Frame_.grid());
+        Font_.choose(name, size, this->frame().grid());
         fontChanged();
     }
     bool fontBold() const override { return Font_.bold(); }
@@ -44,28 +71,21 @@ public:
     void refresh() override = 0;
 
 protected:
-    Win32Widget(ControlFrame& frame, Color foreColor) : Frame_(frame), ForeColor_(foreColor) {}
+    Win32TextualWidget(ControlFrame& frame, Color foreColor) : Win32Widget<Base>(frame), ForeColor_(foreColor) {}
 
-    ControlFrame& frame() const { return Frame_; }
     const Font& font() const { return Font_; }
-    RECT pixels() const { return Frame_.grid().pixels(Bounds_); }
 
     /// The grid of the frame has another resolution.
     void rescaleFont() {
-        Font_.rescale(Frame_.grid());
+        Font_.rescale(this->frame().grid());
         fontChanged();
     }
 
 private:
-    virtual void placeChanged() = 0;
-    virtual void enabledChanged() = 0;
     virtual void fontChanged() = 0;
 
-    ControlFrame& Frame_;
-    Rect Bounds_;
     Font Font_;
     Color ForeColor_;
-    bool Enabled_ = true;
 };
 
 }  // namespace kel::win32

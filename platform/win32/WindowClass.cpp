@@ -22,6 +22,15 @@ LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wide, LPARAM data) 
     return atEdge([&] { return handler->handleMessage(window, message, wide, data); });
 }
 
+constexpr const wchar_t* HandlerProperty = L"KelControls8.Handler";
+
+LRESULT CALLBACK frontProcedure(HWND window, UINT message, WPARAM wide, LPARAM data) {
+    auto* const handler = static_cast<WindowHandler*>(GetPropW(window, HandlerProperty));
+    if (message == WM_NCDESTROY) RemovePropW(window, HandlerProperty);
+    if (handler == nullptr) return DefWindowProcW(window, message, wide, data);
+    return atEdge([&] { return handler->handleMessage(window, message, wide, data); });
+}
+
 }  // namespace
 
 HINSTANCE thisModule() {
@@ -46,13 +55,19 @@ WindowClass::WindowClass(const wchar_t* name) : Name_(name) {
 WindowClass::WindowClass(const wchar_t* name, const wchar_t* base) : Name_(name) {
     WNDCLASSEXW description{};
     description.cbSize = sizeof description;
-    GetClassInfoExW(nullptr, base, &description);
+    if (GetClassInfoExW(nullptr, base, &description) == FALSE) description.lpfnWndProc = &DefWindowProcW;
     Base_ = std::exchange(description.lpfnWndProc, &procedure);
     description.cbWndExtra += static_cast<int>(sizeof(WindowHandler*));
     description.hInstance = thisModule();
     description.lpszClassName = name;
     description.style &= ~static_cast<UINT>(CS_GLOBALCLASS);
     RegisterClassExW(&description);
+}
+
+WNDPROC putInFront(HWND window, WindowHandler& handler) {
+    SetPropW(window, HandlerProperty, &handler);
+    return reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&frontProcedure)));
 }
 
 WindowClass::~WindowClass() { UnregisterClassW(Name_, thisModule()); }

@@ -38,6 +38,9 @@ private:
     WNDPROC Base_ = nullptr;
 };
 
+/// Puts `handler`, which outlives it, in front of a window that somebody else has made. Returns what handles the rest.
+WNDPROC putInFront(HWND window, WindowHandler& handler);
+
 /// Lets nothing out into the system's frames; what fails there is lost.
 template <class Action>
 LRESULT atEdge(Action action) noexcept {

@@ -11,7 +11,7 @@ protected:
     std::string log() { return ProbeControl::takeLog(); }
 
     TestForm Form;
-    FormWindow& Window = Form.window();
+    headless::HeadlessWindow& Window = Form.window();
     PlacedControl& A = Form.place(u"a");
     PlacedControl& B = Form.place(u"b");
     ProbeControl& Control = probe(A);
@@ -114,6 +114,140 @@ TEST_F(Hands, AFieldDisabledByThePressIsNotClicked) {
     Window.click(A, 0);
     Window.rightClick(A);
     EXPECT_EQ(log(), "");
+}
+
+TEST_F(Hands, ASpinnerStepsAsOftenAsItIsClickedAndLeavesTheFocusToItsControl) {
+    Control.spinner().setVisible(true);
+    put(Box, "1[2]3");
+    Window.focus(B);
+    log();
+    Window.spin(A, true);
+    EXPECT_EQ(log(), "b.LostFocus b.ExitFocus a.EnterFocus a.GotFocus a.Spin2");
+    Window.spin(A, false);
+    Window.spin(A, false);
+    EXPECT_EQ(log(), "a.Spin0 a.Spin0");
+    EXPECT_EQ(drawn(Box), "1[2]3") << "pressing it is no click into the box";
+
+    Control.on("Spin2", [this] { Form.home().settings().makeDefaultRuntime()->SendKey(keys::Tab); });
+    Window.spin(A, true);
+    EXPECT_EQ(log(), "a.Spin2 a.LostFocus a.ExitFocus b.EnterFocus b.GotFocusByTab");
+    EXPECT_EQ(Control.spinner().value(), UpDown::Rest);
+}
+
+TEST_F(Hands, ASpinnerThatCannotBePressedTakesNothing) {
+    Placement unseen;
+    unseen.visible = false;
+    PlacedControl& hidden = Form.place(u"h", ProbeControl::SingleLine, unseen);
+    probe(hidden).spinner().setVisible(true);
+    Window.focus(B);
+    log();
+    Window.spin(A, true);
+    EXPECT_EQ(log(), "") << "a new spinner is hidden";
+    Control.spinner().setVisible(true);
+    Control.spinner().setEnabled(false);
+    Window.spin(A, true);
+    Control.spinner().setEnabled(true);
+    Control.host().container.setEnabled(false);
+    Window.spin(A, false);
+    Window.spin(hidden, true);
+    EXPECT_EQ(log(), "");
+    EXPECT_EQ(Form.focused(), "b");
+
+    Control.host().container.setEnabled(true);
+    Control.on("GotFocus", [this] { Control.spinner().setEnabled(false); });
+    Window.spin(A, true);
+    Window.spin(A, true);
+    EXPECT_EQ(ProbeControl::countOf(log(), "Spin"), 1);
+}
+
+TEST_F(Hands, TheWheelIsForTheFieldWithTheFocus) {
+    Window.turnWheel(A, 1);
+    Window.focus(B);
+    log();
+    Window.turnWheel(A, 1);
+    Window.turnWheel(B, 2);
+    Window.turnWheel(B, -1);
+    probe(B).box().setEnabled(false);
+    Window.turnWheel(B, 1);
+    EXPECT_EQ(log(), "b.Wheel2 b.Wheel-1 b.LostFocus b.ExitFocus");
+}
+
+TEST_F(Hands, ADropTakesTheFocusAndPastes) {
+    put(Box, "1[2]3");
+    Window.focus(B);
+    log();
+    Window.drop(A, 1, u"xy\nz");
+    EXPECT_EQ(log(), "b.LostFocus b.ExitFocus a.EnterFocus a.GotFocus a.Paste a.Change");
+    EXPECT_EQ(drawn(Box), "1xy|23");
+    press(Window, "Ctrl+Z");
+    EXPECT_EQ(drawn(Box), "1|23");
+    Box.setMaxLength(4);
+    Window.drop(A, INT32_MAX, u"ab");
+    EXPECT_EQ(drawn(Box), "123a|");
+
+    Window.focus(B);
+    log();
+    Box.setLocked(true);
+    Window.drop(A, 0, u"x");
+    Box.setLocked(false);
+    Box.setEnabled(false);
+    Window.drop(A, 0, u"x");
+    EXPECT_EQ(log(), "") << "a field that takes no text takes no drop";
+}
+
+TEST_F(Hands, HandlersChangeAndRefuseWhatIsPasted) {
+    using Pasted = std::optional<std::u16string>;
+    struct Case {
+        const char* what;
+        std::function<Pasted(std::u16string)> makes;
+        const char* after;
+        int changes;
+    };
+    const Case rows[] = {
+        {"as it is", [](const std::u16string& text) { return Pasted(text); }, "1x y|3", 1},
+        {"changed", [](const std::u16string& text) { return Pasted(text + u"!"); }, "1x y!|3", 1},
+        {"refused", [](const std::u16string&) { return Pasted(); }, "1[2]3", 0},
+        {"to nothing", [](const std::u16string&) { return Pasted(u""); }, "1|3", 1},
+        {"locked meanwhile",
+         [this](const std::u16string& text) {
+             Box.setLocked(true);
+             return Pasted(text);
+         },
+         "1[2]3", 0},
+        {"another text meanwhile",
+         [this](const std::u16string& text) {
+             Box.setText(u"9");
+             return Pasted(text);
+         },
+         "x y|9", 2},
+    };
+    Window.focus(A);
+    for (const Case& row : rows) {
+        SCOPED_TRACE(row.what);
+        put(Box, "1[2]3");
+        log();
+        Control.changePaste = row.makes;
+        press(Window, "paste'x y'");
+        Control.changePaste = {};
+        Box.setLocked(false);
+        EXPECT_EQ(drawn(Box), row.after);
+        EXPECT_EQ(ProbeControl::countOf(log(), "Change"), row.changes);
+    }
+}
+
+TEST_F(Hands, TheKeypadsDecimalKeyHasItsOwnCodeAndTypesWhatTheLayoutGives) {
+    std::vector<std::int16_t> codes;
+    Control.changeCode = [&codes](std::int16_t code) {
+        codes.push_back(code);
+        return code;
+    };
+    Control.changeKey = [](char32_t key) { return key == U'.' ? U',' : key; };
+    Window.focus(A);
+    press(Window, "'1'");
+    Window.press({keys::Decimal, U'.', NoModifier});
+    press(Window, "'5'");
+    EXPECT_EQ(codes, std::vector<std::int16_t>{keys::Decimal});
+    EXPECT_EQ(drawn(Box), "1,5|");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <ctime>
 
+#include "forms/Looks.h"
 #include "tests/headless/TestForm.h"
 #include "values/Text.h"
 
@@ -55,11 +56,24 @@ TEST(Home, TheRunTimeObjectFollowsTheOptions) {
     EXPECT_EQ(runtime->ColorDepth(), 8);
     EXPECT_EQ(form.home().system().twipsPerPixel(), 12);
     EXPECT_EQ(&form.home().region(), german);
+    EXPECT_EQ(&probe(form.place(u"a")).host().region, german) << "controls write numbers as the session does";
 
     TestForm plain;
     EXPECT_EQ(plain.home().settings().makeDefaultRuntime()->ColorDepth(), 24);
     EXPECT_EQ(plain.home().system().twipsPerPixel(), 15);
     EXPECT_EQ(plain.home().region(), defaultRegion());
+}
+
+TEST(Home, ALayoutNamesTheSpinnerThatIsShown) {
+    TestForm form;
+    ProbeControl& control = probe(form.place(u"a"));
+    const Rect bounds{1, 2, 3, 4};
+    control.box().move({5, 6, 7, 8});
+    control.spinner().move({9, 10, 11, 12});
+    EXPECT_EQ(describeLayout(u"a", bounds, control), u"a 1 2 3 4 field 5 6 7 8 spinner -");
+    control.spinner().setVisible(true);
+    control.spinner().setEnabled(false);
+    EXPECT_EQ(describeLayout(u"a", bounds, control), u"a 1 2 3 4 field 5 6 7 8 spinner 9 10 11 12");
 }
 
 TEST(Home, TheClockIsTheMachinesInLocalTime) {
@@ -72,9 +86,11 @@ TEST(Home, TheClockIsTheMachinesInLocalTime) {
     moment.tm_year = -1;
     moment.tm_mon = 11;
     moment.tm_mday = 30 + static_cast<int>(day);
-    moment.tm_sec = static_cast<int>(system.timer());
+    const double time = system.timer();
+    moment.tm_sec = static_cast<int>(time);
     moment.tm_isdst = -1;
     EXPECT_NEAR(static_cast<double>(std::mktime(&moment)), static_cast<double>(std::time(nullptr)), 3.0);
+    EXPECT_LT(std::fmod(system.timer() - time + 86400, 86400), 3.0) << "asked again at once";
 }
 
 }  // namespace

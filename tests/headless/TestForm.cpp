@@ -27,7 +27,7 @@ const ClassModel ProbeControl::SingleLine{.name = u"Probe", .help = {}, .members
 const ClassModel ProbeControl::MultiLine{.name = u"Probe", .help = {}, .members = {}, .makeControl = makeProbe<true>};
 
 ProbeControl::ProbeControl(ControlHost& host, bool multiLine)
-    : Host_(host), Box_(host.widgets.makeTextBox(*this, multiLine)) {}
+    : Host_(host), Box_(host.widgets.makeTextBox(*this, multiLine)), UpDown_(host.widgets.makeUpDown(*this)) {}
 
 void ProbeControl::tell(const std::string& what) {
     note(Host_.container.displayName(), what);
@@ -43,6 +43,19 @@ void ProbeControl::Text1_KeyDown(std::int16_t& KeyCode, Modifiers /*Shift*/) {
 void ProbeControl::Text1_KeyPress(char32_t& KeyAscii) {
     if (changeKey) KeyAscii = changeKey(KeyAscii);
     tell("KeyPress");
+}
+
+bool ProbeControl::Text1_Paste(std::u16string& Text) {
+    auto changed = changePaste ? changePaste(Text) : Text;
+    if (changed) Text = *std::move(changed);
+    tell("Paste");
+    return changed.has_value();
+}
+
+void ProbeControl::UpDown1_Change() {
+    Box_->setFocus();
+    tell("Spin" + std::to_string(UpDown_->value()));
+    UpDown_->setValue(UpDown::Rest);
 }
 
 void ProbeControl::Text1_MouseDown(MouseButton Button) {

@@ -3,15 +3,17 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
-#include "forms/Home.h"
+#include "platform/headless/HeadlessWindow.h"
 
 namespace kel::test {
 
-/// A control of one edit box that writes down what it is told ("a.GotFocus") and then does what a test wants.
-class ProbeControl final : public Control, private TextBoxListener {
+/// A control of an edit box and a spinner that writes down what it is told ("a.GotFocus") and then does what a test
+/// wants.
+class ProbeControl final : public Control, private TextBoxListener, private UpDownListener {
 public:
     using Handler = std::function<void()>;
 
@@ -21,6 +23,7 @@ public:
     ProbeControl(ControlHost& host, bool multiLine);
 
     TextBox& box() { return *Box_; }
+    UpDown& spinner() { return *UpDown_; }
     ControlHost& host() { return Host_; }
 
     /// Runs when the control is told `what`: "GotFocus".
@@ -28,6 +31,8 @@ public:
     /// What a key-press handler makes of the character.
     std::function<char32_t(char32_t)> changeKey;
     std::function<std::int16_t(std::int16_t)> changeCode;
+    /// Nothing refuses the text that is pasted.
+    std::function<std::optional<std::u16string>(std::u16string)> changePaste;
 
     /// The notifications since the last call, separated by blanks. Shared by all probes.
     static std::string takeLog();
@@ -42,21 +47,26 @@ public:
     void Show() override { tell("Show"); }
     void EnterFocus() override { tell("EnterFocus"); }
     void ExitFocus() override { tell("ExitFocus"); }
-    WidgetSet widgets() override { return {nullptr, Box_.get(), Box_.get()}; }
+    WidgetSet widgets() override { return {.field = Box_.get(), .textBox = Box_.get(), .upDown = UpDown_.get()}; }
 
 private:
     void Text1_Change() override { tell("Change"); }
     void Text1_Click() override { tell("Click"); }
     void Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) override;
     void Text1_KeyPress(char32_t& KeyAscii) override;
+    bool Text1_Paste(std::u16string& Text) override;
     void Text1_MouseDown(MouseButton Button) override;
+    void Text1_Wheel(std::int32_t Notches) override { tell("Wheel" + std::to_string(Notches)); }
     void Text1_GotFocus() override { tell(Host_.system.tabKeyDown() ? "GotFocusByTab" : "GotFocus"); }
     void Text1_LostFocus() override { tell("LostFocus"); }
+
+    void UpDown1_Change() override;
 
     void tell(const std::string& what);
 
     ControlHost Host_;
     std::unique_ptr<TextBox> Box_;
+    std::unique_ptr<UpDown> UpDown_;
     std::map<std::string, Handler> Handlers_;
 };
 
@@ -66,7 +76,7 @@ public:
     explicit TestForm(const HomeOptions& options = {});
 
     Home& home() { return *Home_; }
-    FormWindow& window() { return *Window_; }
+    headless::HeadlessWindow& window() { return static_cast<headless::HeadlessWindow&>(*Window_); }
     PlacedControl& place(std::u16string name, const ClassModel& model = ProbeControl::SingleLine,
                          Placement placement = {});
 

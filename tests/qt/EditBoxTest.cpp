@@ -1,11 +1,9 @@
 #include <gtest/gtest.h>
 #include <QApplication>
 #include <QClipboard>
-#include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMimeData>
 #include <QPlainTextEdit>
 
 #include "platform/qt/EditBox.h"
@@ -31,18 +29,6 @@ struct OneField {
         QInputMethodEvent event(preedit, {});
         event.setCommitString(commit, replaceFrom, replaceLength);
         QApplication::sendEvent(&widget(), &event);
-    }
-
-    /// At the end of the text, unless the box refuses it.
-    void drop(const QString& text) {
-        QMimeData data;
-        data.setText(text);
-        QWidget& area = dynamic_cast<qt::EditBox&>(box()).mouseArea();
-        const QPoint place(area.width() - 3, area.height() - 3);
-        QDragEnterEvent entered(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&area, &entered);
-        QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&area, &event);
     }
 
     QAction* menuEntry(const char* name) {
@@ -113,33 +99,6 @@ TEST(InputMethod, CorrectsWhatStandsInFront) {
     EXPECT_EQ(drawn(field.box()), "the|");
 }
 
-TEST(Drop, FollowsTheRulesOfPasting) {
-    struct Case {
-        const char* what;
-        bool multiLine;
-        bool locked;
-        std::int16_t maxLength;
-        const char* after;
-        const char* log;
-    };
-    const Case cases[] = {
-        {"one line", false, false, 0, "abx|", "a.Change(abx) "},
-        {"several lines", true, false, 0, "abx\r\ny|", "a.Change(abx\r\ny) "},
-        {"cut", true, false, 4, "abx|", "a.Change(abx) "},
-        {"locked", true, true, 0, "|ab", ""},
-    };
-    for (const Case& row : cases) {
-        OneField field(row.multiLine);
-        put(field.box(), "|ab");
-        textOf(field.placed).put_MaxLength(row.maxLength);
-        textOf(field.placed).put_Locked(row.locked);
-        field.form.takeLog();
-        field.drop(QStringLiteral("x\ny"));
-        EXPECT_EQ(drawn(field.box()), row.after) << row.what;
-        EXPECT_EQ(field.form.takeLog(), row.log) << row.what;
-    }
-}
-
 TEST(ContextMenu, WorksOnTheControlsTerms) {
     OneField field;
     textOf(field.placed).put_MaxLength(4);
@@ -166,14 +125,20 @@ TEST(ContextMenu, WorksOnTheControlsTerms) {
     QApplication::activePopupWidget()->close();
 }
 
-TEST(EditBox, ChangesByOthersAreReported) {
-    OneField line;
-    dynamic_cast<QLineEdit&>(line.widget()).insert(QStringLiteral("spoken"));
-    EXPECT_EQ(line.form.takeLog(), "a.Change(spoken) ");
-
-    OneField several(true);
-    dynamic_cast<QPlainTextEdit&>(several.widget()).insertPlainText(QStringLiteral("spoken"));
-    EXPECT_EQ(several.form.takeLog(), "a.Change(spoken) ");
+TEST(EditBox, ChangesByOthersAreReportedAndUndone) {
+    for (const bool multiLine : {false, true}) {
+        OneField field(multiLine);
+        put(field.box(), "a[b]c");
+        field.form.takeLog();
+        if (auto* const line = dynamic_cast<QLineEdit*>(&field.widget()))
+            line->insert(QStringLiteral("spoken"));
+        else
+            dynamic_cast<QPlainTextEdit&>(field.widget()).insertPlainText(QStringLiteral("spoken"));
+        EXPECT_EQ(field.form.takeLog(), "a.Change(aspokenc) ");
+        EXPECT_EQ(drawn(field.box()), "aspoken|c");
+        field.form.window().press({'Z', 0, ControlKey});
+        EXPECT_EQ(drawn(field.box()), "a[b]c");
+    }
 }
 
 TEST(EditBox, HoldsMoreThanQtsOwnLimit) {

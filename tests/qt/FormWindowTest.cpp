@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 #include <QApplication>
 #include <QImage>
-#include <QMessageBox>
 #include <QTemporaryDir>
-#include <QTimer>
 
 #include "platform/qt/QtHome.h"
 #include "tests/qt/QtForm.h"
@@ -119,28 +117,6 @@ TEST(FormWindow, SavesAPicture) {
     ASSERT_TRUE(form.window().savePicture(path));
     EXPECT_EQ(QImage(QString::fromStdString(path)).size(), QSize(1000, 500));
     EXPECT_FALSE(form.window().savePicture(folder.filePath(QStringLiteral("none/a.png")).toStdString()));
-}
-
-TEST(QtSystem, AMessageBoxGivesTheFocusBack) {
-    TextForm form(qt::makeHome({}));
-    PlacedControl& field = form.place(u"a");
-    form.show();
-    form.window().focus(field);
-    QString shown;
-    QTimer::singleShot(0, [&shown] {
-        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        ASSERT_NE(box, nullptr);
-        shown = box->windowTitle() + u'/' + box->text();
-        EXPECT_EQ(box->icon(), QMessageBox::Information);
-        box->accept();
-    });
-    form.home().system().messageBox(u"Please enter <one>.", 64, u"Invalid Value");
-    EXPECT_EQ(shown, QStringLiteral("Invalid Value/Please enter <one>."));
-    QCoreApplication::processEvents();
-    EXPECT_EQ(QApplication::focusWidget(), &widgetOf(boxOf(field)));
-    EXPECT_EQ(boxOf(field).backColor(), form.home().settings().FieldBackFocus);
-    typeInto(form.window(), U"x");
-    EXPECT_EQ(form.takeLog(), "a.Change(x) ");
 }
 
 }  // namespace

@@ -35,6 +35,7 @@ TEST(KeyMap, StrokesComeBackFromQt) {
                                   keys::Insert,
                                   keys::Delete,
                                   keys::F4,
+                                  keys::Decimal,
                                   'A',
                                   'V',
                                   'Z',
@@ -63,6 +64,8 @@ TEST(KeyMap, KeysAsKeyboardsSendThem) {
     const Case cases[] = {
         {"a shifted digit", Qt::Key_Exclam, Qt::ShiftModifier, u"!", keys::Packet, U'!'},
         {"the keypad's point, a comma here", Qt::Key_Comma, Qt::KeypadModifier, u",", keys::Decimal, U','},
+        {"the keypad's point", Qt::Key_Period, Qt::KeypadModifier, u".", keys::Decimal, U'.'},
+        {"the point among the letters", Qt::Key_Period, Qt::NoModifier, u".", keys::Packet, U'.'},
         {"the keypad's five", Qt::Key_5, Qt::KeypadModifier, u"5", 101, U'5'},
         {"the keypad's Enter", Qt::Key_Enter, Qt::KeypadModifier, u"\r", keys::Enter, 13},
         {"a letter of another script", 0x430, Qt::NoModifier, u"\u0430", keys::Packet, U'\u0430'},

@@ -37,6 +37,7 @@ TEST(Looks, FieldsAreReadableOnEveryDesktop) {
     constexpr Color White = 0x00FFFFFF;
     constexpr Color PaleGreen = 0x00C0FFC0;
     constexpr Color Yellow = 0x0000FFFF;
+    constexpr Color Black = 0x00000000;
     for (const QPalette& desktop : {QPalette(), darkDesktop()}) {
         for (const Color back : {White, PaleGreen, colors::SystemWindow, colors::SystemButtonFace}) {
             for (const Color fore : {colors::SystemWindowText, colors::SystemHighlight, Yellow}) {
@@ -48,6 +49,8 @@ TEST(Looks, FieldsAreReadableOnEveryDesktop) {
                 EXPECT_GE(contrast(shown.color(QPalette::Active, QPalette::Text), base), 4.5) << back << ' ' << fore;
             }
         }
+        const QColor plain = qt::fieldPalette({colors::SystemWindow, Black}, desktop).color(QPalette::Text);
+        EXPECT_GE(contrast(plain, desktop.color(QPalette::Base)), 12) << "black is no shade of grey";
         const QColor mandatory = qt::captionColorOn(desktop, colors::SystemHighlight);
         EXPECT_GE(contrast(mandatory, desktop.color(QPalette::Window)), 4.5) << "a mandatory field's caption";
     }

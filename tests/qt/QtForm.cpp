@@ -1,6 +1,7 @@
 #include "tests/qt/QtForm.h"
 
 #include "common/basKelControls.h"
+#include "library/Dispatch.h"
 #include "values/Text.h"
 
 namespace kel::test {
@@ -11,6 +12,15 @@ constexpr Size ClientSize{15000, 7500};
 constexpr std::int32_t FieldWidth = 14000;  ///< so that nothing the tests type needs a second line
 constexpr std::int32_t Gap = 75;
 
+template <class Box>
+std::string drawnText(const Box& box) {
+    std::u16string text = box.text();
+    const auto start = static_cast<std::size_t>(box.selStart());
+    const auto length = static_cast<std::size_t>(box.selLength());
+    if (length == 0) return toUtf8(text.insert(start, u"|"));
+    return toUtf8(text.insert(start + length, u"]").insert(start, u"["));
+}
+
 }  // namespace
 
 TextForm::TextForm(std::unique_ptr<Home> home) : Home_(std::move(home)) {
@@ -19,23 +29,23 @@ TextForm::TextForm(std::unique_ptr<Home> home) : Home_(std::move(home)) {
     Window_->setClipboard(u"");
 }
 
-PlacedControl& TextForm::place(std::u16string_view name, std::int32_t heightTwips) {
+PlacedControl& TextForm::place(std::u16string_view name, std::int32_t heightTwips, const ClassModel& model) {
     const Rect bounds{120, NextTop_, FieldWidth, heightTwips};
     NextTop_ += heightTwips + Gap;
-    return placeAt({.name = std::u16string(name), .bounds = bounds, .tabIndex = NextTab_++});
+    return placeAt({.name = std::u16string(name), .bounds = bounds, .tabIndex = NextTab_++}, model);
 }
 
-PlacedControl& TextForm::placeAt(const Placement& placement) {
-    PlacedControl& placed = Window_->place(KelTextModel, placement, *this);
+PlacedControl& TextForm::placeAt(const Placement& placement, const ClassModel& model) {
+    PlacedControl& placed = Window_->place(model, placement, *this);
     placed.control().InitProperties();
     placed.setBounds(placement.bounds);
-    textOf(placed).put_Enabled(true);
+    putMember(placed.control(), *findMember(model, EnabledId), true, Home_->region());
     Log_.clear();
     return placed;
 }
 
 void TextForm::controlEvent(PlacedControl& control, const EventRow& event, std::span<Variant> /*arguments*/) {
-    Log_ += toUtf8(control.name()) + "." + toUtf8(event.name) + "(" + toUtf8(textOf(control).get_TextRaw()) + ") ";
+    Log_ += toUtf8(control.name()) + "." + toUtf8(event.name) + "(" + toUtf8(boxOf(control).text()) + ") ";
     if (onEvent) onEvent(control, event);
 }
 
@@ -49,13 +59,8 @@ TextBox& boxOf(PlacedControl& control) { return *control.control().widgets().tex
 
 QWidget& widgetOf(TextBox& box) { return dynamic_cast<QWidget&>(box); }
 
-std::string drawn(TextBox& box) {
-    std::u16string text = box.text();
-    const auto start = static_cast<std::size_t>(box.selStart());
-    const auto length = static_cast<std::size_t>(box.selLength());
-    if (length == 0) return toUtf8(text.insert(start, u"|"));
-    return toUtf8(text.insert(start + length, u"]").insert(start, u"["));
-}
+std::string drawn(TextBox& box) { return drawnText(box); }
+std::string drawn(ComboBox& box) { return drawnText(box); }
 
 void put(TextBox& box, std::string_view drawing) {
     std::u16string text = *fromUtf8(drawing);

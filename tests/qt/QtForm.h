@@ -12,13 +12,14 @@
 
 namespace kel::test {
 
-/// A form of text fields, one below the other, on the home given. What they tell is written down.
+/// A form of fields, one below the other, on the home given. What they tell is written down.
 class TextForm final : private ControlObserver {
 public:
     explicit TextForm(std::unique_ptr<Home> home);
 
-    PlacedControl& place(std::u16string_view name, std::int32_t heightTwips = 300);
-    PlacedControl& placeAt(const Placement& placement);
+    PlacedControl& place(std::u16string_view name, std::int32_t heightTwips = 300,
+                         const ClassModel& model = KelTextModel);
+    PlacedControl& placeAt(const Placement& placement, const ClassModel& model = KelTextModel);
     void show() { Window_->show(); }
 
     FormWindow& window() { return *Window_; }
@@ -48,6 +49,7 @@ QWidget& widgetOf(TextBox& box);
 
 /// The text with its caret or selection: "12.|34", "1[2.3]4".
 std::string drawn(TextBox& box);
+std::string drawn(ComboBox& box);
 /// Puts text and selection as `drawn` shows them.
 void put(TextBox& box, std::string_view drawing);
 

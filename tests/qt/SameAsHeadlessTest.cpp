@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 #include <random>
 
+#include "controls/datetime/KelDate.h"
+#include "controls/number/KelNumber.h"
 #include "platform/headless/HeadlessHome.h"
 #include "platform/qt/QtHome.h"
 #include "tests/qt/QtForm.h"
@@ -11,7 +13,10 @@
 namespace kel::test {
 namespace {
 
-constexpr std::int32_t Fields = 4;
+constexpr std::size_t TextFields = 4;
+constexpr std::size_t NumberField = 4;
+constexpr std::size_t DateField = 5;
+constexpr std::size_t Fields = 6;
 
 class Worked {
 public:
@@ -20,6 +25,11 @@ public:
         text(1).put_MaxLength(6);
         text(2).put_SelectOnFocus(true);
         text(3).put_MultiLine(true);
+        Controls_.push_back(&Form_.place(u"n", 300, KelNumberModel));
+        Controls_.push_back(&Form_.place(u"d", 300, KelDateModel));
+        auto& number = static_cast<KelNumber&>(control(NumberField).control());
+        number.put_Decimals(2);
+        number.put_UpDown(true);
         Form_.show();
     }
 
@@ -31,7 +41,8 @@ public:
         const PlacedControl* const focused = window().focused();
         std::string state = Form_.takeLog() + "\nfocus " + (focused == nullptr ? "-" : toUtf8(focused->name()));
         for (PlacedControl* const placed : Controls_)
-            state += "\n" + drawn(boxOf(*placed)) + " " + std::to_string(boxOf(*placed).backColor());
+            state += "\n" + drawn(boxOf(*placed)) + " " + std::to_string(boxOf(*placed).backColor()) + " " +
+                     std::to_string(boxOf(*placed).foreColor());
         return state;
     }
 
@@ -43,8 +54,9 @@ private:
 using Step = std::function<void(Worked&)>;
 
 constexpr std::u16string_view Texts[] = {
-    u"",        u"abc",       u"red, green.",     u"x\r\ny",   u"\U0001F600a\U0001F600",
-    u"a\rb\nc", u"e\u0301 x", u"1\r\n\r\n3\r\n4", u"(a.b)  c",
+    u"",           u"abc",     u"red, green.", u"x\r\ny",          u"\U0001F600a\U0001F600",
+    u"1,234.5",    u"a\rb\nc", u"e\u0301 x",   u"1\r\n\r\n3\r\n4", u"(a.b)  c",
+    u"15/03/2013", u"-7",
 };
 
 class Dice {
@@ -61,7 +73,8 @@ private:
 };
 
 Step typing(Dice& dice) {
-    const char32_t character = dice.oneOf({U'a', U'b', U'X', U' ', U'.', U'(', U'\u00E9', U'\u0301', U'\U0001F600'});
+    const char32_t character = dice.oneOf(
+        {U'a', U'b', U'X', U' ', U'.', U'(', U'\u00E9', U'\u0301', U'\U0001F600', U'1', U'7', U'0', U'-', U'/'});
     return [character](Worked& form) { form.window().press(strokeFor(character)); };
 }
 
@@ -85,7 +98,10 @@ Step hand(Dice& dice) {
     const std::size_t field = dice.below(Fields);
     const auto position = static_cast<std::int32_t>(dice.below(12));
     const std::u16string_view text = dice.oneOf(Texts);
-    switch (dice.below(4)) {
+    const bool up = dice.below(2) == 0;
+    switch (dice.below(6)) {
+        case 4: return [=](Worked& form) { form.window().spin(form.control(NumberField), up); };
+        case 5: return [=](Worked& form) { form.window().spin(form.control(DateField), up); };
         case 0: return [=](Worked& form) { form.window().rightClick(form.control(field)); };
         case 1: return [=](Worked& form) { form.window().focus(form.control(field)); };
         case 2: return [=](Worked& form) { form.window().setClipboard(text); };
@@ -94,7 +110,7 @@ Step hand(Dice& dice) {
 }
 
 Step program(Dice& dice) {
-    const std::size_t field = dice.below(Fields);
+    const std::size_t field = dice.below(TextFields);
     const auto number = static_cast<std::int16_t>(dice.below(10));
     const std::u16string text(dice.oneOf(Texts));
     switch (dice.below(9)) {
@@ -122,8 +138,11 @@ class SameAsHeadless : public testing::TestWithParam<unsigned> {};
 
 TEST_P(SameAsHeadless, WhateverIsDone) {
     Dice dice(GetParam());
-    Worked inMemory(headless::makeHome({}));
-    Worked onScreen(qt::makeHome({}));
+    HomeOptions options;
+    options.region = findRegion(u"en-GB");
+    ASSERT_NE(options.region, nullptr);
+    Worked inMemory(headless::makeHome(options));
+    Worked onScreen(qt::makeHome(options));
     for (int step = 0; step < 200; ++step) {
         const Step action = anyStep(dice);
         action(inMemory);

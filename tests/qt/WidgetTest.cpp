@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <KelNumberWidget.h>
 #include <KelTextWidget.h>
 #include <QAccessible>
 #include <QApplication>
@@ -172,6 +173,20 @@ TEST(Widget, LivesInALayout) {
     QCoreApplication::processEvents();
     EXPECT_GT(field->height(), 100) << "several lines take the height there is";
     EXPECT_EQ(boxOf(*field).height(), field->height());
+}
+
+TEST(Widget, AsksForRoomForItsSpinner) {
+    KelNumberWidget field;
+    field.show();
+    const int before = field.sizeHint().width();
+    field.setUpDown(true);
+    EXPECT_EQ(field.sizeHint().width(), before + 16);
+}
+
+TEST(Widget, KnowsTheRegionFromTheFirstOneOn) {
+    KelNumberWidget field;
+    field.setValue(0.25);
+    EXPECT_EQ(field.value(), QVariant(0.25));
 }
 
 TEST(Widget, TakesItsOwnHeight) {

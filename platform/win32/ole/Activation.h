@@ -34,6 +34,9 @@ public:
     bool inPlace() const { return State_ != State::Passive; }
     bool uiActive() const { return State_ == State::UiActive; }
 
+    /// The host's frame; none while the control is not in it, or where there is none.
+    ComPtr<IOleInPlaceFrame> frame() const { return Frame_; }
+
     HRESULT activate();
     HRESULT activateUi();
     void deactivateUi();

@@ -65,8 +65,7 @@ private:
         Count_ = std::max(Count_, parameter + 1);
         const VARIANT& passed = Passed_.rgvarg[index];
         try {
-            Values_[parameter] =
-                Parameters_[parameter].type == TypeTag::Object ? fromAutomation(passed) : valueFromAutomation(passed);
+            Values_[parameter] = valueFromAutomation(passed, Parameters_[parameter].type);
         } catch (const AutomationError& error) {
             if (argumentError != nullptr) *argumentError = index;
             return error.code();
@@ -93,7 +92,7 @@ HRESULT invokePut(const MemberAccess& access, const MemberRow& row, const DISPPA
     if (passed.cArgs != 1 || (passed.cNamedArgs != 0 && !isNamed)) return DISP_E_BADPARAMCOUNT;
     Variant value;
     try {
-        value = row.type == TypeTag::Object ? fromAutomation(passed.rgvarg[0]) : valueFromAutomation(passed.rgvarg[0]);
+        value = valueFromAutomation(passed.rgvarg[0], row.type);
     } catch (const AutomationError& error) {
         if (argumentError != nullptr) *argumentError = 0;
         return error.code();

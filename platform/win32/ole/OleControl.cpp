@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/win32/Win32Region.h"
+
 namespace kel::win32::ole {
 
 OleControl::OleControl(Library& library, const ClassModel& model, const ClassIdentity& identity, IUnknown* outer)
@@ -9,6 +11,7 @@ OleControl::OleControl(Library& library, const ClassModel& model, const ClassIde
       Library_(library),
       Model_(model),
       Identity_(identity),
+      System_(*this, library.system()),
       Activation_(*this),
       Connections_(*this, toGuid(identity.events)),
       OleObject_(*this),
@@ -23,8 +26,8 @@ OleControl::OleControl(Library& library, const ClassModel& model, const ClassIde
       PersistBag_(*this),
       PersistStream_(*this),
       PersistStorage_(*this),
-      Window_(makeControlWindow(*this, library.system())) {
-    ControlHost host{*this, Window_->widgets(), library.system(), library.settings()};
+      Window_(makeControlWindow(*this, System_)) {
+    ControlHost host{*this, Window_->widgets(), System_, library.settings(), systemRegion()};
     Control_ = model.makeControl(host);
     Control_->Initialize();
 }

@@ -8,6 +8,7 @@
 #include "platform/win32/ole/Activation.h"
 #include "platform/win32/ole/ConnectionPoints.h"
 #include "platform/win32/ole/ControlParts.h"
+#include "platform/win32/ole/ControlSystem.h"
 #include "platform/win32/ole/InPlaceParts.h"
 #include "platform/win32/ole/Library.h"
 #include "platform/win32/ole/PersistParts.h"
@@ -85,7 +86,7 @@ private:
 
     // Activated
     IOleInPlaceActiveObject& activeObject() override { return ActiveObject_; }
-    int twipsPerPixel() const override { return Library_.system().twipsPerPixel(); }
+    int twipsPerPixel() const override { return System_.twipsPerPixel(); }
     void appeared() override { Control_->Show(); }
 
     enum class Birth { Made, Beginning, Begun };
@@ -93,6 +94,7 @@ private:
     Library& Library_;
     const ClassModel& Model_;
     const ClassIdentity& Identity_;
+    ControlSystem System_;
     ClientSite Site_;
     Size Extent_{3600, 300};
     SIZEL Given_{0, 0};  ///< last size in hundredths of a millimetre

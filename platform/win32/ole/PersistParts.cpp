@@ -79,7 +79,7 @@ void takeFromBag(IPropertyBag& host, IErrorLog* log, const PersistedRow& row, Va
     const std::wstring name = wide(row.readName);
     value->vt = automationType(row.type);
     if (FAILED(host.Read(name.c_str(), value.get(), log)) || value->vt == VT_EMPTY) return;
-    bag.take(row, valueFromAutomation(*value));
+    bag.take(row, valueFromAutomation(*value, row.type));
 }
 
 void writeToBag(IPropertyBag& host, const StoredValue& stored) {

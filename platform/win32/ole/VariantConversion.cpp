@@ -4,6 +4,8 @@
 
 #include "library/AutomationError.h"
 #include "platform/win32/ole/AutomationRuntime.h"
+#include "platform/win32/Win32Region.h"
+#include "values/Coercion.h"
 
 namespace kel::win32::ole {
 
@@ -57,6 +59,24 @@ void defaultProperty(const VARIANT& in, VARIANT& out, int depth) {
                                                value.get(), nullptr, nullptr);
     if (FAILED(result)) mismatch();
     defaultProperty(*value, out, depth - 1);
+}
+
+/// A number in a text stays one: it counts days.
+Variant textAsDate(Variant value) {
+    const auto* const text = std::get_if<std::u16string>(&value);
+    double number = 0;
+    if (text == nullptr || readPlainNumber(*text, systemRegion(), number)) return value;
+    DATE serial = 0;
+    const bool isDate = SUCCEEDED(VarDateFromStr(wide(*text).data(), LOCALE_USER_DEFAULT, 0, &serial));
+    return isDate ? Variant(Date{serial}) : value;
+}
+
+Variant dateAsText(Variant value) {
+    const auto* const date = std::get_if<Date>(&value);
+    OwnedVariant text;
+    if (date == nullptr || FAILED(VarBstrFromDate(date->Serial, LOCALE_USER_DEFAULT, 0, &text->bstrVal))) return value;
+    text->vt = VT_BSTR;
+    return textOf(text->bstrVal);
 }
 
 bool isObject(const VARIANT& in) {
@@ -202,6 +222,14 @@ Variant valueFromAutomation(const VARIANT& in) {
     OwnedVariant value;
     defaultProperty(*plain, *value, DefaultPropertyDepth);
     return fromAutomation(*value);
+}
+
+Variant valueFromAutomation(const VARIANT& in, TypeTag type) {
+    if (type == TypeTag::Object) return fromAutomation(in);
+    Variant value = valueFromAutomation(in);
+    if (type == TypeTag::Date) return textAsDate(std::move(value));
+    if (type == TypeTag::String) return dateAsText(std::move(value));
+    return value;
 }
 
 void toAutomation(const Variant& value, VARIANT& out) {

@@ -13,6 +13,10 @@ Variant fromAutomation(const VARIANT& in);
 /// The same where a plain value is wanted: an object gives its default property's value.
 Variant valueFromAutomation(const VARIANT& in);
 
+/// The same for a member of this type: an object only where one is wanted, and between texts and dates the form in
+/// which the system writes dates. What does not fit is left to the member.
+Variant valueFromAutomation(const VARIANT& in, TypeTag type);
+
 /// `out` holds nothing before; what it is given is the caller's.
 void toAutomation(const Variant& value, VARIANT& out);
 

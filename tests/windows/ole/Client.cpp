@@ -26,11 +26,24 @@ Ref<IDispatch> create(const wchar_t* programId) {
     return made;
 }
 
-Ref<_KelText> makeText() {
-    auto made = create(L"KelControls8.KelText").as<_KelText>();
+namespace {
+
+template <class Interface>
+Ref<Interface> make(const wchar_t* programId) {
+    auto made = create(programId).as<Interface>();
     EXPECT(made);
     return made;
 }
+
+}  // namespace
+
+Ref<_KelText> makeText() { return make<_KelText>(L"KelControls8.KelText"); }
+
+Ref<_KelNumber> makeNumber() { return make<_KelNumber>(L"KelControls8.KelNumber"); }
+
+Ref<_KelDate> makeDate() { return make<_KelDate>(L"KelControls8.KelDate"); }
+
+Ref<_KelTime> makeTime() { return make<_KelTime>(L"KelControls8.KelTime"); }
 
 HRESULT invoke(IDispatch* object, const wchar_t* name, WORD flags, std::vector<VARIANT> arguments, VARIANT* result,
                EXCEPINFO* exception, UINT* argumentError) {
@@ -77,8 +90,8 @@ HRESULT unadvise(IUnknown* object, REFIID iid, DWORD cookie) {
     return point->Unadvise(cookie);
 }
 
-DWORD adviseEvents(IUnknown* text, IUnknown* sink) {
-    return advise(text, systemGuid(findIdentity(u"KelText")->events), sink);
+DWORD adviseEvents(IUnknown* object, IUnknown* sink, std::u16string_view className) {
+    return advise(object, systemGuid(findIdentity(className)->events), sink);
 }
 
 }  // namespace kel::tests

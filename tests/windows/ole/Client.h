@@ -73,6 +73,23 @@ private:
 /// The text of a string result, which is freed.
 std::wstring taken(BSTR text);
 
+/// Variants that own nothing.
+inline VARIANT plain(VARTYPE type) {
+    VARIANT value{};
+    value.vt = type;
+    return value;
+}
+inline VARIANT number(double value) {
+    VARIANT out = plain(VT_R8);
+    out.dblVal = value;
+    return out;
+}
+inline VARIANT date(double serial) {
+    VARIANT out = plain(VT_DATE);
+    out.date = serial;
+    return out;
+}
+
 /// A variant that is cleared with it.
 class Var {
 public:
@@ -96,8 +113,11 @@ GUID systemGuid(const Guid& guid);
 /// A new object of a class, by its program identifier.
 Ref<IDispatch> create(const wchar_t* programId);
 
-/// A new text field.
+/// A new control of a class.
 Ref<_KelText> makeText();
+Ref<_KelNumber> makeNumber();
+Ref<_KelDate> makeDate();
+Ref<_KelTime> makeTime();
 
 /// One late-bound call; arguments last first, as the system wants them.
 HRESULT invoke(IDispatch* object, const wchar_t* name, WORD flags, std::vector<VARIANT> arguments,
@@ -140,33 +160,37 @@ private:
 /// Hears events; runs `handler` for each.
 class EventSink final : public StackObject<IDispatch> {
 public:
-    explicit EventSink(bool refusesOwnInterface = false) : Refuses_(refusesOwnInterface) {}
+    explicit EventSink(bool refusesOwnInterface = false, std::u16string_view className = u"KelText")
+        : Refuses_(refusesOwnInterface), Class_(findIdentity(className)) {}
 
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* passed, VARIANT*, EXCEPINFO*,
+                                     UINT*) override {
         Heard.push_back(id);
+        Passed = passed;
         if (Handler) Handler();
         return S_OK;
     }
 
     std::vector<DISPID> Heard;
+    DISPPARAMS* Passed = nullptr;  ///< with the event that the handler handles
     std::function<void()> Handler;
 
 protected:
     void* other(REFIID iid) override {
-        const ClassIdentity* text = findIdentity(u"KelText");
-        return !Refuses_ && IsEqualGUID(iid, systemGuid(text->events)) ? static_cast<IDispatch*>(this) : nullptr;
+        return !Refuses_ && IsEqualGUID(iid, systemGuid(Class_->events)) ? static_cast<IDispatch*>(this) : nullptr;
     }
 
 private:
     bool Refuses_;
+    const ClassIdentity* Class_;
 };
 
 /// Connects `sink` to an outgoing interface of `object`; 0 when it was refused.
 DWORD advise(IUnknown* object, REFIID iid, IUnknown* sink);
 HRESULT unadvise(IUnknown* object, REFIID iid, DWORD cookie);
-DWORD adviseEvents(IUnknown* text, IUnknown* sink);
+DWORD adviseEvents(IUnknown* object, IUnknown* sink, std::u16string_view className = u"KelText");
 
 }  // namespace kel::tests

@@ -8,6 +8,7 @@ namespace kel::tests {
 
 HRESULT Bag::Read(LPCOLESTR name, VARIANT* value, IErrorLog* /*log*/) {
     if (OnRead) OnRead();
+    if (const auto kept = Values.find(name); kept != Values.end()) return VariantCopy(value, &kept->second->Value);
     const auto found = Texts.find(name);
     if (found == Texts.end()) return E_INVALIDARG;
     value->vt = VT_BSTR;
@@ -19,7 +20,8 @@ HRESULT Bag::Write(LPCOLESTR name, VARIANT* value) {
     Var text;
     EXPECT_CODE(VariantChangeType(&text.Value, value, VARIANT_ALPHABOOL, VT_BSTR), S_OK);
     Written.push_back(std::wstring(name) + L"=" + text.Value.bstrVal);
-    return S_OK;
+    Values[name] = std::make_unique<Var>();
+    return VariantCopy(&Values[name]->Value, value);
 }
 
 HRESULT Extender::GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) {
@@ -45,20 +47,21 @@ Host::Host() {
 
 Host::~Host() {
     At.clear();
-    if (Object_) {
-        Object_->Close(OLECLOSE_NOSAVE);
-        Object_->SetClientSite(nullptr);
-    }
-    Object_.reset();
+    unload();
     DestroyWindow(Window_);
 }
 
-Ref<_KelText> Host::place() {
-    auto made = makeText();
-    Object_ = made.as<IOleObject>();
+void Host::unload() {
+    const Ref<IOleObject> object = std::move(Object_);
+    if (!object) return;
+    object->Close(OLECLOSE_NOSAVE);
+    object->SetClientSite(nullptr);
+}
+
+void Host::adopt(IUnknown* control) {
+    EXPECT_CODE(control->QueryInterface(IID_IOleObject, Object_.receiveVoid()), S_OK);
     EXPECT_CODE(Object_->SetClientSite(this), S_OK);
-    advise(made.get(), IID_IPropertyNotifySink, static_cast<IPropertyNotifySink*>(this));
-    return made;
+    advise(control, IID_IPropertyNotifySink, static_cast<IPropertyNotifySink*>(this));
 }
 
 HRESULT Host::verb(LONG verb) {
@@ -84,7 +87,8 @@ HRESULT Host::GetWindow(HWND* window) {
 
 HRESULT Host::GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document, LPRECT bounds, LPRECT clip,
                                LPOLEINPLACEFRAMEINFO) {
-    *frame = nullptr;
+    *frame = Frame.get();
+    if (Frame) Frame->AddRef();
     *document = nullptr;
     *bounds = Bounds;
     *clip = {0, 0, 10000, 10000};

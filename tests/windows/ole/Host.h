@@ -2,12 +2,13 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 
 #include "tests/windows/ole/Client.h"
 
 namespace kel::tests {
 
-/// A property bag in memory.
+/// A property bag in memory. It is read as it stands in `Texts`, or gives the very variants that were written.
 class Bag final : public StackObject<IPropertyBag> {
 public:
     HRESULT STDMETHODCALLTYPE Read(LPCOLESTR name, VARIANT* value, IErrorLog* log) override;
@@ -15,6 +16,7 @@ public:
 
     /// What was written, in order: "Name=text".
     std::vector<std::wstring> Written;
+    std::map<std::wstring, std::unique_ptr<Var>> Values;
     /// What there is to read.
     std::map<std::wstring, std::wstring> Texts;
     std::function<void()> OnRead;
@@ -32,6 +34,36 @@ public:
     std::wstring ToolTipText;
 };
 
+/// The outermost window of a container, which its controls keep waiting.
+class HostFrame final : public StackObject<IOleInPlaceFrame> {
+public:
+    explicit HostFrame(HWND window) : Window_(window) {}
+
+    HRESULT STDMETHODCALLTYPE GetWindow(HWND* window) override {
+        *window = Window_;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE ContextSensitiveHelp(BOOL) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE GetBorder(LPRECT) override { return INPLACE_E_NOTOOLSPACE; }
+    HRESULT STDMETHODCALLTYPE RequestBorderSpace(LPCBORDERWIDTHS) override { return INPLACE_E_NOTOOLSPACE; }
+    HRESULT STDMETHODCALLTYPE SetBorderSpace(LPCBORDERWIDTHS) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE SetActiveObject(IOleInPlaceActiveObject*, LPCOLESTR) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE InsertMenus(HMENU, LPOLEMENUGROUPWIDTHS) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SetMenu(HMENU, HOLEMENU, HWND) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE RemoveMenus(HMENU) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE SetStatusText(LPCOLESTR) override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE EnableModeless(BOOL enable) override {
+        Waits += enable ? "-" : "+";
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE TranslateAccelerator(LPMSG, WORD) override { return S_FALSE; }
+
+    std::string Waits;  ///< "+" for each time it was told to wait, "-" for each time no longer to
+
+private:
+    HWND Window_;
+};
+
 /// A container for one control, with a window of its own. Says what the control asked of it, and can do
 /// something of its own at any such moment.
 class Host final
@@ -40,12 +72,19 @@ public:
     Host();
     ~Host() override;
 
-    /// Makes a text field in this host; not initialised, not active.
-    Ref<_KelText> place();
+    /// Takes a control in; it is not initialised and not active.
+    template <class Interface>
+    Ref<Interface> place(Ref<Interface> made) {
+        adopt(made.get());
+        return made;
+    }
+    Ref<_KelText> place() { return place(makeText()); }
     HRESULT verb(LONG verb);
     IOleObject* object() const { return Object_.get(); }
     Ref<IOleInPlaceObject> inPlace() const { return Object_.as<IOleInPlaceObject>(); }
     void forget() { Object_.reset(); }
+    /// As a host does that unloads its form: closes the control and lets it go.
+    void unload();
     HWND window() const { return Window_; }
 
     std::vector<std::string> Calls;
@@ -58,6 +97,7 @@ public:
     RECT Bounds{10, 20, 210, 40};
     bool FollowsSize = true;
     Extender Extended;
+    std::unique_ptr<HostFrame> Frame;
 
     // IOleClientSite
     HRESULT STDMETHODCALLTYPE SaveObject() override { return say("SaveObject", S_OK); }
@@ -110,6 +150,7 @@ protected:
     }
 
 private:
+    void adopt(IUnknown* control);
     HRESULT say(const char* name, HRESULT result);
 
     HWND Window_ = nullptr;

@@ -1,6 +1,7 @@
 #include <windows.h>
 
 #include "controls/Classes.h"
+#include "controls/combo/KelCombo.h"
 #include "platform/win32/Win32Home.h"
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/widgets/Stage.h"
@@ -104,6 +105,40 @@ TEST(a_form_that_comes_in_front_again_gives_the_focus_back) {
     settle();
     EXPECT(GetFocus() == field);
     EXPECT(form.window().focused() == &form.two());
+}
+
+TEST(a_hand_picks_from_the_list_of_a_combo) {
+    class ClickCounter final : public ControlObserver {
+    public:
+        void controlEvent(PlacedControl& /*control*/, const EventRow& event, std::span<Variant> /*values*/) override {
+            Clicks += &event == &KelCombo::Click ? 1 : 0;
+        }
+        void propertyReported(PlacedControl& /*control*/, std::u16string_view /*name*/) override {}
+        int Clicks = 0;
+    };
+    ClickCounter observer;
+    const auto home = win32::makeHome({.twipsPerPixel = 15});
+    const auto window = home->makeWindow({u"form", {6000, 3000}, false}, home->system());
+    PlacedControl& placed = window->place(KelComboModel, Placement{}, observer);
+    auto& combo = static_cast<KelCombo&>(placed.control());
+    combo.InitProperties();
+    StringArray items;
+    for (char16_t letter = u'a'; letter <= u'z'; ++letter) items.emplace_back(1, letter);
+    combo.ListFromArray(items);
+    placed.setBounds({300, 300, 4500, 300});
+    window->show();
+    window->pick(placed, 25);
+    EXPECT(combo.get_Text() == u"z");
+    window->pick(placed, 1);
+    EXPECT(combo.get_Text() == u"b");
+    EXPECT_EQ(observer.Clicks, 2);
+    combo.put_Locked(true);
+    window->pick(placed, 2);
+    combo.put_Locked(false);
+    combo.put_Enabled(false);
+    window->pick(placed, 3);
+    EXPECT(combo.get_Text() == u"b");
+    EXPECT_EQ(observer.Clicks, 2);
 }
 
 }  // namespace kel::tests

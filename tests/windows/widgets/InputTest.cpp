@@ -24,6 +24,23 @@ TEST(keys_come_through_the_layout_with_their_characters) {
     EXPECT_EQ(stage.takeLog(), L"");
 }
 
+TEST(the_keypads_decimal_key_is_known_by_its_code) {
+    HostWindow host;
+    Stage stage;
+    stage.placeOn(host.window());
+    SetFocus(stage.edit());
+    stage.takeLog();
+    strike(stage.edit(), VK_DECIMAL);
+    EXPECT_EQ(stage.takeLog(), L"down:110 key:46 change");
+    MSG offered{};
+    offered.hwnd = stage.edit();
+    offered.message = WM_KEYDOWN;
+    offered.wParam = VK_DECIMAL;
+    offered.lParam = 1;
+    EXPECT(stage.window().translateAccelerator(offered));
+    settle();
+}
+
 TEST(a_swallowed_key_takes_its_character_along) {
     HostWindow host;
     Stage stage;
@@ -92,6 +109,53 @@ TEST(the_mouse_selects_and_the_keyboard_goes_on_from_there) {
     drag(stage.edit(), placeOf(3), {placeOf(0).x, 200});
     EXPECT_EQ(drawn(stage.box()), L"[one] x three");
     EXPECT_EQ(stage.takeLog(), L"press:1");
+}
+
+namespace {
+
+int WheelsSeen = 0;
+WNDPROC HostProcedure = nullptr;
+
+LRESULT CALLBACK countWheels(HWND window, UINT message, WPARAM wide, LPARAM data) {
+    if (message == WM_MOUSEWHEEL) ++WheelsSeen;
+    return CallWindowProcW(HostProcedure, window, message, wide, data);
+}
+
+}  // namespace
+
+TEST(the_wheel_counts_notches_in_the_focus_and_scrolls_the_host_without_it) {
+    HostWindow host;
+    Stage stage;
+    stage.placeOn(host.window());
+    HostProcedure = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(host.window(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&countWheels)));
+    WheelsSeen = 0;
+    const auto turn = [&stage](short by) {
+        SendMessageW(stage.edit(), WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(by)), 0);
+    };
+    turn(120);
+    EXPECT_EQ(WheelsSeen, 1);
+    EXPECT_EQ(stage.takeLog(), L"");
+    SetFocus(stage.edit());
+    stage.takeLog();
+    struct Row {
+        std::initializer_list<short> turns;
+        const wchar_t* log;
+    };
+    // What is left of a turn is dropped when the wheel turns back.
+    const Row rows[] = {
+        {{120}, L"wheel:1"}, {{-240}, L"wheel:-2"}, {{50, 50, 50}, L"wheel:1"}, {{-100}, L""}, {{-20}, L"wheel:-1"}};
+    for (const Row& row : rows) {
+        for (const short by : row.turns) turn(by);
+        EXPECT_EQ(stage.takeLog(), row.log);
+    }
+    EXPECT_EQ(WheelsSeen, 1);
+    turn(60);
+    SetFocus(host.button());
+    SetFocus(stage.edit());
+    stage.takeLog();
+    turn(60);
+    EXPECT_EQ(stage.takeLog(), L"");
 }
 
 TEST(focus_is_told_in_the_order_of_the_controls) {

@@ -146,6 +146,7 @@ TEST(two_hundred_controls_come_and_go_without_a_trace) {
         stage.box().setFont(u"Tahoma", 9);
         stage.box().setToolTip(u"tip");
         stage.box().setBackColor(0x00C0FFC0);
+        stage.spinner().setVisible(true);
         stage.placeOn(host.window());
         SetFocus(stage.edit());
         UpdateWindow(stage.edit());
@@ -190,6 +191,21 @@ TEST(the_picture_is_the_same_with_and_without_a_window) {
     stage.box().setPasswordChar(u'.');
     look();
     EXPECT(field < fieldBefore);
+}
+
+TEST(the_picture_has_the_spinner_that_shows) {
+    Stage stage;
+    const auto arrows = [&stage] {
+        Picture picture;
+        stage.window().draw(picture.context(), {0, 0, Picture::Width, Picture::Height});
+        return picture.count(0, 284, 300);
+    };
+    const int hidden = arrows();
+    stage.spinner().setVisible(true);
+    const int shown = arrows();
+    EXPECT(shown > hidden);
+    stage.window().setEnabled(false);
+    EXPECT(arrows() < shown);
 }
 
 TEST(nothing_is_seen_outside_the_clip) {

@@ -12,20 +12,32 @@ namespace {
 constexpr int Width = 300;
 constexpr int Height = 60;
 
-win32::Win32System& machine() {
-    static win32::Win32System Machine;
-    return Machine;
-}
+struct Search {
+    const wchar_t* className;
+    HWND found;
+};
 
-BOOL CALLBACK findEdit(HWND window, LPARAM found) {
+BOOL CALLBACK findByClass(HWND window, LPARAM data) {
+    auto& search = *reinterpret_cast<Search*>(data);
     wchar_t name[64];
     GetClassNameW(window, name, 64);
-    if (std::wstring(name).find(L"Edit") == std::wstring::npos) return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
+    if (std::wstring(name).find(search.className) == std::wstring::npos) return TRUE;
+    search.found = window;
     return FALSE;
 }
 
+HWND childOfClass(HWND parent, const wchar_t* className) {
+    Search search{className, nullptr};
+    EnumChildWindows(parent, &findByClass, reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
 }  // namespace
+
+System& machine() {
+    static win32::Win32System Machine;
+    return Machine;
+}
 
 HostWindow::HostWindow()
     : Window_(CreateWindowExW(0, L"STATIC", L"host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 2 * Width + 40,
@@ -44,12 +56,15 @@ Stage::Stage(bool multiLine) {
     Window_ = win32::makeControlWindow(owner, machine());
     Label_ = Window_->widgets().makeLabel();
     Box_ = Window_->widgets().makeTextBox(listener, multiLine);
+    UpDown_ = Window_->widgets().makeUpDown(*this);
     const std::int32_t twips = machine().twipsPerPixel();
     Label_->move({0, 0, Width / 3 * twips, 195});
     Box_->move({Width / 3 * twips, 0, Width * 2 / 3 * twips, (multiLine ? Height : 20) * twips});
+    UpDown_->move({(Width - 16) * twips, 30 * twips, 16 * twips, 20 * twips});
 }
 
 Stage::~Stage() {
+    UpDown_.reset();
     Box_.reset();
     Label_.reset();
     Window_.reset();
@@ -64,11 +79,9 @@ void Stage::placeOn(HWND host, int column) {
     settle();
 }
 
-HWND Stage::edit() const {
-    HWND found = nullptr;
-    EnumChildWindows(Window_->handle(), &findEdit, reinterpret_cast<LPARAM>(&found));
-    return found;
-}
+HWND Stage::edit() const { return childOfClass(Window_->handle(), L"Edit"); }
+
+HWND Stage::spinnerWindow() const { return childOfClass(Window_->handle(), L"UpDown"); }
 
 std::wstring Stage::takeLog() { return std::exchange(Log_, {}); }
 
@@ -82,6 +95,19 @@ void Stage::Text1_KeyDown(std::int16_t& KeyCode, Modifiers /*Shift*/) {
 
 void Stage::Text1_KeyPress(char32_t& KeyAscii) { tell(L"key:" + std::to_wstring(static_cast<unsigned>(KeyAscii))); }
 
+bool Stage::Text1_Paste(std::u16string& Text) {
+    tell(L"paste:" + win32::wide(Text));
+    return !onPaste || onPaste(Text);
+}
+
+void Stage::Text1_Wheel(std::int32_t Notches) { tell(L"wheel:" + std::to_wstring(Notches)); }
+
+void Stage::UpDown1_Change() {
+    tell(L"step:" + std::to_wstring(UpDown_->value()));
+    if (onStep) onStep();
+    if (UpDown_) UpDown_->setValue(UpDown::Rest);
+}
+
 void Stage::Text1_MouseDown(MouseButton Button) { tell(L"press:" + std::to_wstring(static_cast<int>(Button))); }
 
 void Stage::Text1_LostFocus() {
@@ -94,6 +120,14 @@ void settle() {
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
         TranslateMessage(&message);
         DispatchMessageW(&message);
+    }
+}
+
+void settleFor(DWORD time) {
+    const DWORD start = GetTickCount();
+    for (DWORD passed = 0; passed < time; passed = GetTickCount() - start) {
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, time - passed, QS_ALLINPUT);
+        settle();
     }
 }
 
@@ -117,22 +151,22 @@ std::wstring shownLine(HWND edit, int line) {
     return {units, static_cast<std::size_t>(count)};
 }
 
+void postMouse(HWND target, UINT message, WPARAM buttons, POINT place) {
+    PostMessageW(target, message, buttons, MAKELPARAM(place.x, place.y));
+}
+
 void drag(HWND target, POINT from, POINT to) {
-    const auto post = [target](UINT message, WPARAM buttons, POINT place) {
-        PostMessageW(target, message, buttons, MAKELPARAM(place.x, place.y));
-    };
-    post(WM_LBUTTONDOWN, MK_LBUTTON, from);
-    if (from.x != to.x || from.y != to.y) post(WM_MOUSEMOVE, MK_LBUTTON, to);
-    post(WM_LBUTTONUP, 0, to);
+    postMouse(target, WM_LBUTTONDOWN, MK_LBUTTON, from);
+    if (from.x != to.x || from.y != to.y) postMouse(target, WM_MOUSEMOVE, MK_LBUTTON, to);
+    postMouse(target, WM_LBUTTONUP, 0, to);
     settle();
 }
 
-std::wstring drawn(const TextBox& box) {
-    std::wstring text = win32::wide(box.text());
-    const auto start = static_cast<std::size_t>(box.selStart());
-    const auto length = static_cast<std::size_t>(box.selLength());
-    if (length == 0) return text.insert(start, L"|");
-    return text.insert(start + length, L"]").insert(start, L"[");
+std::wstring drawn(std::u16string_view text, std::int32_t start, std::int32_t length) {
+    std::wstring drawing = win32::wide(text);
+    const auto from = static_cast<std::size_t>(start);
+    if (length == 0) return drawing.insert(from, L"|");
+    return drawing.insert(from + static_cast<std::size_t>(length), L"]").insert(from, L"[");
 }
 
 }  // namespace kel::tests

@@ -249,8 +249,70 @@ TEST(the_context_menu_pastes_through_the_box_and_takes_no_focus) {
     KillTimer(host.window(), 7);
     KillTimer(host.window(), 8);
     settle();
-    EXPECT_EQ(stage.takeLog(), L"change");
+    EXPECT_EQ(stage.takeLog(), L"paste:xyz\r\nsecond line change");
     expectShown(stage, L"axy|b");
+}
+
+namespace {
+
+/// A key with Ctrl or Shift down.
+void strikeWith(int modifier, HWND target, WPARAM code) {
+    BYTE keys[256]{};
+    keys[modifier] = 0x80;
+    SetKeyboardState(keys);
+    strike(target, code);
+    keys[modifier] = 0;
+    SetKeyboardState(keys);
+}
+
+/// As code that knows the system's own edit window reaches past ours.
+void putPastTheBox(HWND edit, const wchar_t* text) {
+    WNDCLASSEXW system{};
+    system.cbSize = sizeof system;
+    GetClassInfoExW(nullptr, L"EDIT", &system);
+    CallWindowProcW(system.lpfnWndProc, edit, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text));
+}
+
+}  // namespace
+
+TEST(nothing_is_pasted_past_the_control) {
+    struct Way {
+        const char* name;
+        void (*paste)(HWND edit);
+    };
+    const Way ways[] = {
+        {"message", [](HWND edit) { SendMessageW(edit, WM_PASTE, 0, 0); }},
+        {"control and V", [](HWND edit) { strikeWith(VK_CONTROL, edit, 'V'); }},
+        {"shift and insert", [](HWND edit) { strikeWith(VK_SHIFT, edit, VK_INSERT); }},
+        {"character", [](HWND edit) { SendMessageW(edit, WM_CHAR, 22, 1); }},
+        {"past the box", [](HWND edit) { putPastTheBox(edit, L"12.5"); }},
+    };
+    HostWindow host;
+    for (const Way& way : ways) {
+        Stage stage;
+        stage.placeOn(host.window());
+        stage.box().setText(u"abc");
+        SetFocus(stage.edit());
+        stage.box().setSelStart(1);
+        stage.box().setSelLength(1);
+        putClipboard(host.window(), L"12.5");
+        bool asked = false;
+        stage.onPaste = [&asked](std::u16string& text) {
+            asked = text == u"12.5";
+            text = u"12";
+            return true;
+        };
+        way.paste(stage.edit());
+        if (!asked) fail(__FILE__, __LINE__, std::string(way.name) + " asks nobody");
+        expectShown(stage, L"a12|c");
+
+        stage.onPaste = [](std::u16string& /*text*/) { return false; };
+        stage.box().setSelStart(0);
+        stage.takeLog();
+        way.paste(stage.edit());
+        EXPECT(stage.takeLog().find(L"change") == std::wstring::npos);
+        expectShown(stage, L"|a12c");
+    }
 }
 
 }  // namespace kel::tests

@@ -1,4 +1,4 @@
-Dim handler, runtime, host, at, list
+Dim handler, runtime, host, at, list, field
 
 Class ScriptRuntime
     Public Depth
@@ -14,6 +14,33 @@ Class ScriptRuntime
     Public Function DecimalDigits
         Asked = Asked & "n"
         DecimalDigits = 3
+    End Function
+    Public Property Get RuntimeDates
+        Asked = Asked & "D"
+        Set RuntimeDates = New ScriptDates
+    End Property
+End Class
+
+Dim LastParsed
+
+Class ScriptDates
+    Public Function ParseDate(text, format, defaultDate, birthDay)
+        LastParsed = text & "|" & format & "|" & TypeName(defaultDate) & "|" & birthDay
+        ParseDate = Null
+        If text = "the second" Then ParseDate = DateSerial(2000, 1, 2)
+    End Function
+    Public Function LastDayOfMonth(day)
+        LastDayOfMonth = DateSerial(2000, 1, 31)
+    End Function
+    Public Function ParseTime(text)
+        LastParsed = TypeName(text)
+        ParseTime = TimeSerial(18, 0, 0)
+    End Function
+    Public Function NumberFromValue(value, decimals)
+        NumberFromValue = value & decimals
+    End Function
+    Public Function RoundNumber(value, decimals)
+        RoundNumber = value
     End Function
 End Class
 
@@ -39,6 +66,26 @@ Expect host.Asked, "snd", "what was asked of the script's object"
 handler.SetRuntime host
 Expect host.Asked, "sndsnd", "what was asked the second time"
 Tested "script_runtime_object_of_the_script"
+
+Set field = CreateObject("KelControls8.KelDate")
+field.Value = "the second"
+Expect field.Value, DateSerial(2000, 1, 2), "what the script's object read"
+Expect LastParsed, "the second|dd/mm/yyyy|Date|False", "what it was given"
+field.DaysFlag = 2
+field.Value = "the second"
+Expect field.Value, DateSerial(2000, 1, 31), "the last day by the script's object"
+field.Value = "never"
+Expect TypeName(field.Value), "Null", "Value after Null from the script"
+Expect Right(host.Asked, 1), "D", "the conversions were fetched for each use"
+Set field = CreateObject("KelControls8.KelTime")
+field.Value = 0.5
+Expect field.Value, TimeSerial(18, 0, 0), "the time by the script's object"
+Expect LastParsed, "Double", "what it was given"
+Set field = CreateObject("KelControls8.KelNumber")
+field.Decimals = 2
+field.Value = 1
+Expect field.Value, CDbl(12), "the number by the script's object"
+Tested "script_runtime_conversions_of_the_script"
 
 handler.SetRuntime New BareRuntime
 ExpectError CLng(&H80020006), "an object without DecimalSeparator"
@@ -70,6 +117,11 @@ Expect (at < 0), True, "position is negative"
 Expect runtime.RuntimeDates.RoundNumber(1.005, 2), 1.01, "RoundNumber"
 Expect runtime.RuntimeDates.NumberFromValue("", 2), CDbl(0), "NumberFromValue of an empty text"
 Expect runtime.RuntimeDates.NumberFromValue(2.5, 0), CDbl(3), "NumberFromValue of a number"
+Expect runtime.RuntimeDates.ParseDate("31/01/2013", "dd/mm/yyyy", Date, False), DateSerial(2013, 1, 31), "ParseDate"
+Expect TypeName(runtime.RuntimeDates.ParseDate("31/02/2013", "dd/mm/yyyy", Date, False)), "Null", "ParseDate of no date"
+Expect runtime.RuntimeDates.LastDayOfMonth(DateSerial(2012, 2, 5)), DateSerial(2012, 2, 29), "LastDayOfMonth"
+Expect runtime.RuntimeDates.ParseTime("6 pm"), TimeSerial(18, 0, 0), "ParseTime"
+Expect TypeName(runtime.RuntimeDates.ParseTime("24:00")), "Null", "ParseTime of no time"
 list = runtime.NoSuchMember
 ExpectError 438, "a member that is not there"
 handler.SetRuntime runtime

@@ -5,12 +5,10 @@
 
 #include <algorithm>
 
-#include "platform/win32/ControlWindow.h"
+#include "platform/win32/EditInput.h"
 #include "platform/win32/WideText.h"
-#include "platform/win32/Win32TextBox.h"
 #include "values/Text.h"
 
-/// What comes to the window of an edit box: keys, mouse, menus, input methods and other programs.
 namespace kel::win32 {
 
 namespace {
@@ -76,16 +74,7 @@ Modifiers modifiersDown() {
     return modifiers;
 }
 
-LRESULT Win32TextBox::handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) {
-    if (View_.window() == nullptr) View_.adopt(window);
-    ControlWindowOwner& owner = frame().owner();
-    owner.holdOpen();
-    const LRESULT result = atEdge([&] { return handle(message, wide, data); });
-    owner.letGo();
-    return result;
-}
-
-LRESULT Win32TextBox::handle(UINT message, WPARAM wide, LPARAM data) {
+LRESULT EditInput::handle(UINT message, WPARAM wide, LPARAM data) {
     LRESULT result = 0;
     if (handleText(message, wide, data, result) || handleKey(message, wide, data, result) ||
         handleInputMethod(message, wide, data, result) || handleMouse(message, wide, data, result))
@@ -93,11 +82,12 @@ LRESULT Win32TextBox::handle(UINT message, WPARAM wide, LPARAM data) {
     switch (message) {
         case WM_SETFOCUS:
             result = View_.base(message, wide, data);
-            frame().arrived(*this);
+            Frame_.arrived(Field_);
             return result;
         case WM_KILLFOCUS:
             result = View_.base(message, wide, data);
-            frame().departed(*this, reinterpret_cast<HWND>(wide));
+            WheelRest_ = 0;
+            Frame_.departed(Field_, reinterpret_cast<HWND>(wide));
             return result;
         case WM_NCDESTROY:
             result = View_.base(message, wide, data);
@@ -107,13 +97,13 @@ LRESULT Win32TextBox::handle(UINT message, WPARAM wide, LPARAM data) {
     }
 }
 
-LRESULT Win32TextBox::defaultFor(UINT message, WPARAM wide, LPARAM data) const {
+LRESULT EditInput::defaultFor(UINT message, WPARAM wide, LPARAM data) const {
     return DefWindowProcW(window(), message, wide, data);
 }
 
 // ---- Text and selection
 
-bool Win32TextBox::handleText(UINT message, WPARAM wide, LPARAM data, LRESULT& result) {
+bool EditInput::handleText(UINT message, WPARAM wide, LPARAM data, LRESULT& result) {
     if (View_.changing()) return false;
     if (const EditAction action = actionOf(message); action != EditAction::None) {
         result = Editor_.offers(action);
@@ -122,10 +112,10 @@ bool Win32TextBox::handleText(UINT message, WPARAM wide, LPARAM data, LRESULT& r
     }
     switch (message) {
         case WM_SETTEXT:
-            Editor_.setText(data != 0 ? unwiden(reinterpret_cast<const wchar_t*>(data)) : std::u16string());
+            Field_.textSent(data != 0 ? unwiden(reinterpret_cast<const wchar_t*>(data)) : std::u16string());
             result = TRUE;
             return true;
-        case WM_GETTEXTLENGTH: result = textLength(); return true;
+        case WM_GETTEXTLENGTH: result = static_cast<LRESULT>(buffer().text().size()); return true;
         case WM_GETTEXT:
             // The system knows which other programs may not read a password.
             if (Editor_.isPassword() && InSendMessage() != FALSE) return false;
@@ -135,11 +125,11 @@ bool Win32TextBox::handleText(UINT message, WPARAM wide, LPARAM data, LRESULT& r
         case EM_REPLACESEL:
             if (data != 0) Editor_.setSelText(unwiden(reinterpret_cast<const wchar_t*>(data)));
             return true;
-        case EM_SETLIMITTEXT: setMaxLength(static_cast<std::int32_t>(std::min<WPARAM>(wide, NoLimit))); return true;
-        case EM_GETLIMITTEXT: result = maxLength() > 0 ? maxLength() : NoLimit; return true;
-        case EM_SETPASSWORDCHAR: setPasswordChar(static_cast<char16_t>(wide)); return true;
+        case EM_SETLIMITTEXT: Field_.limitSent(static_cast<std::int32_t>(std::min<WPARAM>(wide, NoLimit))); return true;
+        case EM_GETLIMITTEXT: result = Editor_.maxLength() > 0 ? Editor_.maxLength() : NoLimit; return true;
+        case EM_SETPASSWORDCHAR: Field_.passwordCharSent(static_cast<char16_t>(wide)); return true;
         case EM_SETREADONLY:
-            setLocked(wide != 0);
+            Field_.lockSent(wide != 0);
             result = TRUE;
             return true;
         case EM_CANUNDO: result = Editor_.offers(EditAction::Undo); return true;
@@ -147,7 +137,7 @@ bool Win32TextBox::handleText(UINT message, WPARAM wide, LPARAM data, LRESULT& r
     }
 }
 
-LRESULT Win32TextBox::copyText(std::size_t capacity, wchar_t* out) const {
+LRESULT EditInput::copyText(std::size_t capacity, wchar_t* out) const {
     if (capacity == 0 || out == nullptr) return 0;
     const std::u16string& text = buffer().text();
     const std::size_t units = std::min(capacity - 1, text.size());
@@ -156,8 +146,7 @@ LRESULT Win32TextBox::copyText(std::size_t capacity, wchar_t* out) const {
     return static_cast<LRESULT>(units);
 }
 
-/// -1 is no selection as a start, and the end of the text as an end.
-void Win32TextBox::selectFromOutside(WPARAM start, LPARAM end) {
+void EditInput::selectFromOutside(WPARAM start, LPARAM end) {
     const auto from = static_cast<std::int32_t>(start);
     const auto to = static_cast<std::int32_t>(end);
     const Selection now = buffer().selection();
@@ -167,23 +156,36 @@ void Win32TextBox::selectFromOutside(WPARAM start, LPARAM end) {
     Editor_.select(from < 0 ? Selection{now.caret, now.caret} : Selection{place(from), place(to)});
 }
 
+/// What somebody has put into the window past us comes in as what is dropped does, and what was taken out as
+/// what is erased.
+void EditInput::windowChanged() {
+    if (View_.changing()) return;
+    const TextChange change = View_.takeForeignChange();
+    if (change.removed == 0 && change.inserted.empty()) return;
+    Editor_.select({change.at, change.at + change.removed});
+    if (change.inserted.empty())
+        Editor_.perform(EditAction::EraseSelection);
+    else
+        Editor_.paste(change.inserted);
+}
+
+POINT EditInput::showPosition(std::int32_t position) const {
+    const auto length = static_cast<std::int32_t>(buffer().text().size());
+    return View_.showPosition(static_cast<std::size_t>(std::clamp(position, 0, length)));
+}
+
 // ---- Keys
 
-bool Win32TextBox::wantsKey(const KeyStroke& stroke) const {
+bool EditInput::wantsKey(const KeyStroke& stroke) const {
     if (isTab(stroke.code, stroke.modifiers) || (stroke.modifiers & AltKey) != 0) return false;
     if (stroke.code == keys::Enter) return (stroke.modifiers & ControlKey) == 0;
     const bool movesCaret = stroke.code >= keys::PageUp && stroke.code <= keys::Down;
-    return movesCaret || claimsKey(stroke, locked());
+    return movesCaret || claimsKey(stroke, Editor_.locked());
 }
 
-bool Win32TextBox::handleKey(UINT message, WPARAM wide, LPARAM data, LRESULT& result) {
+bool EditInput::handleKey(UINT message, WPARAM wide, LPARAM data, LRESULT& result) {
     switch (message) {
-        case WM_GETDLGCODE: {
-            result = DLGC_WANTARROWS | DLGC_WANTCHARS;
-            const auto* const asked = reinterpret_cast<const MSG*>(data);
-            if (asked != nullptr && asked->wParam == VK_RETURN) result |= DLGC_WANTMESSAGE;
-            return true;
-        }
+        case WM_GETDLGCODE: result = dialogCode(reinterpret_cast<const MSG*>(data)); return true;
         case WM_KEYDOWN:
         case WM_SYSKEYDOWN:
             if (wide == VK_PROCESSKEY || !keyDown(static_cast<std::int16_t>(wide), data))
@@ -202,9 +204,16 @@ bool Win32TextBox::handleKey(UINT message, WPARAM wide, LPARAM data, LRESULT& re
     }
 }
 
+LRESULT EditInput::dialogCode(const MSG* asked) const {
+    constexpr LRESULT Always = DLGC_WANTARROWS | DLGC_WANTCHARS;
+    const bool ends = asked != nullptr && (asked->wParam == VK_RETURN || asked->wParam == VK_ESCAPE);
+    const auto code = static_cast<std::int16_t>(ends ? asked->wParam : 0);
+    return ends && Field_.wantsKey({code, 0, NoModifier}) ? Always | DLGC_WANTMESSAGE : Always;
+}
+
 /// The key together with what it types, so that handlers that swallow the one swallow the other, and a message
 /// box that a handler opens does not find the character in the queue. False when it is the system's to handle.
-bool Win32TextBox::keyDown(std::int16_t code, LPARAM data) {
+bool EditInput::keyDown(std::int16_t code, LPARAM data) {
     const std::u16string units = takeCharacters(window(), data);
     const Modifiers modifiers = modifiersDown();
     if (isTab(code, modifiers)) return false;
@@ -217,7 +226,7 @@ bool Win32TextBox::keyDown(std::int16_t code, LPARAM data) {
 }
 
 /// A character that came without a key.
-void Win32TextBox::unitTyped(char16_t unit) {
+void EditInput::unitTyped(char16_t unit) {
     if (isHighSurrogate(unit)) {
         FirstHalf_ = unit;
         return;
@@ -230,7 +239,7 @@ void Win32TextBox::unitTyped(char16_t unit) {
 // ---- Input methods
 
 /// The method shows what is being composed in a window of its own; only what is finished comes in here.
-bool Win32TextBox::handleInputMethod(UINT message, WPARAM wide, LPARAM data, LRESULT& result) {
+bool EditInput::handleInputMethod(UINT message, WPARAM wide, LPARAM data, LRESULT& result) {
     switch (message) {
         case WM_IME_STARTCOMPOSITION: placeInputMethod(); break;
         case WM_IME_COMPOSITION:
@@ -246,7 +255,7 @@ bool Win32TextBox::handleInputMethod(UINT message, WPARAM wide, LPARAM data, LRE
     return true;
 }
 
-void Win32TextBox::placeInputMethod() const {
+void EditInput::placeInputMethod() const {
     const InputContext context(window());
     if (context.get() == nullptr) return;
     COMPOSITIONFORM place{};
@@ -254,11 +263,11 @@ void Win32TextBox::placeInputMethod() const {
     GetCaretPos(&place.ptCurrentPos);
     ImmSetCompositionWindow(context.get(), &place);
     LOGFONTW description{};
-    if (GetObjectW(font().handle(), sizeof description, &description) != 0)
+    if (GetObjectW(Field_.fontHandle(), sizeof description, &description) != 0)
         ImmSetCompositionFontW(context.get(), &description);
 }
 
-void Win32TextBox::takeCommitted() {
+void EditInput::takeCommitted() {
     std::wstring text;
     {
         const InputContext context(window());
@@ -273,7 +282,7 @@ void Win32TextBox::takeCommitted() {
 
 // ---- Mouse
 
-bool Win32TextBox::handleMouse(UINT message, WPARAM wide, LPARAM data, LRESULT& result) {
+bool EditInput::handleMouse(UINT message, WPARAM wide, LPARAM data, LRESULT& result) {
     switch (message) {
         case WM_LBUTTONDOWN:
         case WM_RBUTTONDOWN:
@@ -287,6 +296,7 @@ bool Win32TextBox::handleMouse(UINT message, WPARAM wide, LPARAM data, LRESULT& 
             if (std::exchange(LeftPressed_, false) && PtInRect(&area, place) != FALSE) Editor_.click();
             return true;
         }
+        case WM_MOUSEWHEEL: result = wheelTurned(wide, data); return true;
         case WM_MOUSEMOVE:
         case WM_LBUTTONDBLCLK:
         case WM_TIMER:
@@ -298,9 +308,9 @@ bool Win32TextBox::handleMouse(UINT message, WPARAM wide, LPARAM data, LRESULT& 
 }
 
 /// The focus comes first, with all that the field does then; the caret is set into what stands there after it.
-void Win32TextBox::pressed(UINT message, WPARAM wide, LPARAM data) {
-    if (GetFocus() != window()) setFocus();
-    if (window() == nullptr || !acceptsInput()) return;
+void EditInput::pressed(UINT message, WPARAM wide, LPARAM data) {
+    if (GetFocus() != window() && Field_.acceptsInput()) SetFocus(window());
+    if (window() == nullptr || !Field_.acceptsInput()) return;
     const bool left = message == WM_LBUTTONDOWN;
     View_.base(message, wide, data);
     if (left) readSelection();
@@ -311,8 +321,21 @@ void Win32TextBox::pressed(UINT message, WPARAM wide, LPARAM data) {
         Editor_.pressMouse(message == WM_RBUTTONDOWN ? MouseButton::Right : MouseButton::Middle);
 }
 
+/// Fine wheels turn by less than a notch at a time. Without the focus the wheel is for what is around the box.
+LRESULT EditInput::wheelTurned(WPARAM wide, LPARAM data) {
+    if (GetFocus() != window() || !Field_.acceptsInput()) return defaultFor(WM_MOUSEWHEEL, wide, data);
+    if (buffer().multiLine()) View_.base(WM_MOUSEWHEEL, wide, data);
+    const int turned = GET_WHEEL_DELTA_WPARAM(wide);
+    if ((turned < 0) != (WheelRest_ < 0)) WheelRest_ = 0;
+    WheelRest_ += turned;
+    const int notches = WheelRest_ / WHEEL_DELTA;
+    WheelRest_ %= WHEEL_DELTA;
+    if (notches != 0) Editor_.listener().Text1_Wheel(notches);
+    return 0;
+}
+
 /// The window's ends come in order: the one that stood before is where the selection was begun.
-void Win32TextBox::readSelection() {
+void EditInput::readSelection() {
     if (window() == nullptr) return;
     Selection seen = View_.selection();
     if (!seen.empty() && buffer().selection().anchor == seen.end()) seen = {seen.caret, seen.anchor};

@@ -1,0 +1,46 @@
+#include "common/FieldFrame.h"
+
+namespace kel {
+
+void putCaption(ControlHost& host, Label& label, const std::u16string& caption) {
+    if (label.caption() == caption) return;
+    label.setCaption(caption);
+    host.container.propertyChanged(u"Caption");
+}
+
+bool putCaptionWidth(ControlHost& host, Label& label, std::int16_t twips) {
+    if (twips < 0) return false;
+    setWidth(label, twips);
+    host.container.propertyChanged(u"CaptionWidth");
+    return true;
+}
+
+void nameNewCaption(ControlHost& host, Label& label) {
+    label.setCaption(host.container.displayName());
+    setWidth(label, NewCaptionWidth);
+}
+
+void sizeCaption(Label& label, const FieldLayout& layout) {
+    const Rect place = label.bounds();
+    label.move({place.left, place.top, layout.captionWidth, layout.captionHeight});
+}
+
+void setCaptionFont(const ControlHost& host, TextualWidget& widget) {
+    if (const auto runtime = host.settings.Runtime)
+        widget.setFont(runtime->CaptionFontName(), runtime->CaptionFontSize());
+}
+
+void setFieldFont(const ControlHost& host, TextualWidget& widget) {
+    if (const auto runtime = host.settings.Runtime) widget.setFont(runtime->FieldFontName(), runtime->FieldFontSize());
+}
+
+std::shared_ptr<RuntimeDates> runtimeDates(const ControlHost& host) {
+    const SharedSettings& settings = host.settings;
+    return (settings.Runtime ? settings.Runtime : settings.makeDefaultRuntime())->RuntimeDates();
+}
+
+void moveFocusOn(const ControlHost& host) {
+    if (const auto runtime = host.settings.Runtime) runtime->SendKey(keys::Tab);
+}
+
+}  // namespace kel

@@ -1,0 +1,343 @@
+#include "controls/combo/KelCombo.h"
+
+#include <utility>
+
+#include "common/FieldLook.h"
+#include "common/Persistence.h"
+#include "controls/combo/ListText.h"
+#include "values/Coercion.h"
+
+namespace kel {
+
+namespace {
+
+constexpr std::int32_t WidestDropDown = 8000;
+constexpr std::int32_t TwipsPerListPixel = 15;  ///< whatever the screen's own resolution
+constexpr std::int16_t NoListIndex = -1;
+constexpr std::int16_t TagSeparator = u',';
+
+std::int32_t listPixels(std::int32_t twips) { return (twips + TwipsPerListPixel / 2) / TwipsPerListPixel; }
+
+/// The one that the host gave, else a default one for this once.
+std::shared_ptr<Runtime> runtimeFor(const SharedSettings& settings) {
+    return settings.Runtime ? settings.Runtime : settings.makeDefaultRuntime();
+}
+
+}  // namespace
+
+KelCombo::KelCombo(ControlHost& host)
+    : Host_(host), Label1_(host.widgets.makeLabel()), Combo1_(host.widgets.makeComboBox(*this)) {}
+
+void KelCombo::Initialize() { Combo1_->installFrame(Host_.settings.ButtonWidthPixels); }
+
+WidgetSet KelCombo::widgets() { return {.label = Label1_.get(), .field = Combo1_.get(), .comboBox = Combo1_.get()}; }
+
+// ---- List
+
+void KelCombo::put_List(const std::u16string& list) { loadItems(listItemsOf(list)); }
+
+void KelCombo::ListFromArray(const StringArray& strArray) { loadItems(listItemsOf(strArray)); }
+
+void KelCombo::loadItems(ListItems items) {
+    const std::u16string text = Combo1_->text();
+    Combo1_->setItems(std::move(items));
+    put_Text(text);
+    report(u"List");
+}
+
+std::u16string KelCombo::get_List() const {
+    const auto runtime = runtimeFor(Host_.settings);
+    std::u16string list;
+    for (std::int32_t i = 0; i < get_ListCount(); ++i)
+        list = runtime->ListAppend(list, std::u16string(Combo1_->items().item(i)));
+    return list;
+}
+
+std::int16_t KelCombo::get_ListIndex() const {
+    if (!LimitToList_) return NoListIndex;
+    const std::int32_t index = Combo1_->items().findExact(Combo1_->text());
+    return index == ListItems::NotFound ? NoListIndex : static_cast<std::int16_t>(index + 1);
+}
+
+void KelCombo::put_ListIndex(std::int16_t item) {
+    if (item < 1 || item > get_ListCount()) return;
+    const DepthGuard guard(SelectionDepth_);
+    Combo1_->setListIndex(item - 1);
+    TextOriginal_ = Combo1_->text();
+}
+
+std::u16string KelCombo::get_ListItem(std::int16_t Item) const {
+    const std::int32_t item = Item == 0 ? Combo1_->listIndex() : Item;
+    return item < 1 || item > get_ListCount() ? std::u16string() : std::u16string(Combo1_->items().item(item - 1));
+}
+
+void KelCombo::put_ListTag(const std::u16string& tags) {
+    ListTag_ = tags;
+    report(u"ListTag");
+}
+
+std::u16string KelCombo::get_ListTagItem(std::int16_t Item) const {
+    const std::int32_t item = Item == 0 ? Combo1_->listIndex() + 1 : Item;
+    if (item < 1 || item > get_ListCount()) return {};
+    const auto runtime = runtimeFor(Host_.settings);
+    std::int32_t position = 0;
+    std::u16string tag;
+    for (std::int32_t read = 0; read < item; ++read) {
+        tag = runtime->ReadField(ListTag_, position, TagSeparator);
+        if (position < 0) return {};
+    }
+    return tag;
+}
+
+void KelCombo::put_DropDownWidth(std::int32_t twips) {
+    const std::int32_t fieldWidth = Combo1_->bounds().width;
+    const bool inRange = twips >= 1 && twips <= WidestDropDown;
+    const std::int32_t stored = inRange && twips != fieldWidth ? twips : 0;
+    if (stored != DropDownWidth_) {
+        DropDownWidth_ = stored;
+        report(u"DropDownWidth");
+    }
+    Combo1_->setDroppedWidth(listPixels(inRange ? twips : fieldWidth));
+}
+
+// ---- Text
+
+const std::u16string& KelCombo::get_Text() const {
+    if (Typing_) settleText();
+    return Combo1_->text();
+}
+
+void KelCombo::put_Text(const std::u16string& text) {
+    {
+        const DepthGuard guard(SelectionDepth_);
+        Typing_ = false;
+        showText(text);
+    }
+    TextOriginal_ = Combo1_->text();
+    report(u"Text");
+}
+
+bool KelCombo::selectEqual(const std::u16string& text) const {
+    const std::int32_t item = Combo1_->items().findExact(text);
+    if (item != ListItems::NotFound) Combo1_->setListIndex(item);
+    return item != ListItems::NotFound;
+}
+
+/// As far as the list allows it.
+void KelCombo::showText(const std::u16string& text) const {
+    if (text.empty() || !selectEqual(text)) Combo1_->setText(LimitToList_ ? std::u16string_view() : text);
+}
+
+/// What the user leaves behind: an item where there is one, no text that is none where only items may stand, and no
+/// mandatory field without a text.
+void KelCombo::settleText() const {
+    const DepthGuard guard(SelectionDepth_);
+    Typing_ = false;
+    if (Combo1_->textLength() != 0)
+        showText(Combo1_->text());
+    else if (Mandatory_)
+        Combo1_->setText(TextOriginal_);
+}
+
+void KelCombo::put_LimitToList(bool limit) {
+    LimitToList_ = limit;
+    report(u"LimitToList");
+    if (!limit) return;
+    const DepthGuard guard(SelectionDepth_);
+    if (!selectEqual(Combo1_->text())) Combo1_->setText({});
+}
+
+void KelCombo::put_MaxLength(std::int16_t units) {
+    if (units < 0) return;
+    Combo1_->setMaxLength(units);
+    report(u"MaxLength");
+}
+
+bool KelCombo::get_Valid() const {
+    if (Combo1_->locked() || !Mandatory_) return true;
+    return Combo1_->text().find_last_not_of(u' ') != std::u16string::npos;
+}
+
+// ---- Typing and picking
+
+void KelCombo::Combo1_Change() {
+    if (SelectionDepth_ > 0) return;
+    if (Typing_) {
+        completeTyping();
+    } else if (LimitToList_ && Combo1_->listIndex() == ListItems::NotFound && Combo1_->textLength() != 0) {
+        const DepthGuard guard(SelectionDepth_);
+        Combo1_->setText({});
+    }
+    if (!get_Changed() || !hostWantsChange()) return;
+    Host_.container.raiseEvent(Change, {});
+    if (LimitToList_) TextOriginal_ = Combo1_->text();
+}
+
+void KelCombo::Combo1_Click() {
+    if (SelectionDepth_ > 0 || !get_Changed() || !hostWantsChange()) return;
+    Host_.container.raiseEvent(Click, {});
+    Host_.container.raiseEvent(Change, {});
+    TextOriginal_ = Combo1_->text();
+}
+
+bool KelCombo::hostWantsChange() {
+    Typing_ = false;
+    Variant handled = true;
+    Host_.container.raiseEvent(ChangeEx, {&handled, 1});
+    bool wants = true;
+    static_cast<void>(coerce(handled, Host_.region, wants));
+    return wants;
+}
+
+/// The first item that begins with what was typed comes in its place, the rest of it selected, so that the next
+/// character replaces it. Where only items may stand, the text behind the caret was such a rest, and a character that
+/// leads to no item is taken back.
+void KelCombo::completeTyping() {
+    Combo1_->showDropDown(false);
+    const DepthGuard guard(SelectionDepth_);
+    Typing_ = false;
+    const std::int32_t caret = Combo1_->selStart();
+    const std::u16string_view text = Combo1_->text();
+    const std::u16string_view typed = LimitToList_ ? text.substr(0, static_cast<std::size_t>(caret)) : text;
+    const std::int32_t item = Combo1_->items().findPrefix(typed);
+    if (item != ListItems::NotFound) {
+        Combo1_->setListIndex(item);
+        selectFrom(caret);
+    } else if (LimitToList_) {
+        Combo1_->setText(TextOriginal_);
+        selectFrom(caret > 0 ? caret - 1 : 0);
+    }
+}
+
+void KelCombo::selectFrom(std::int32_t caret) {
+    Combo1_->setSelStart(caret);
+    Combo1_->setSelLength(Combo1_->textLength());
+}
+
+void KelCombo::Combo1_KeyDown(std::int16_t& KeyCode, Modifiers /*Shift*/) {
+    Typing_ = true;
+    if (KeyCode == keys::Delete && Combo1_->selLength() != 0 && !Combo1_->locked()) Combo1_->setSelText({});
+}
+
+void KelCombo::Combo1_KeyPress(char32_t& KeyAscii) {
+    switch (KeyAscii) {
+        case keys::Enter:
+            KeyAscii = 0;
+            moveFocusOn(Host_);
+            return;
+        case keys::Backspace:
+            // The completed rest goes together with the character in front of it.
+            if (!LimitToList_ && !Combo1_->locked() && Combo1_->selStart() > 0) selectFrom(Combo1_->selStart() - 1);
+            break;
+        default: break;
+    }
+    // An input method types without keys.
+    Typing_ = true;
+}
+
+// ---- Looks
+
+void KelCombo::put_CaptionWidth(std::int16_t twips) {
+    if (putCaptionWidth(Host_, *Label1_, twips)) Resize();
+}
+
+void KelCombo::put_Enabled(bool enabled) {
+    report(u"Enabled");
+    Label1_->setEnabled(enabled);
+    Combo1_->setEnabled(enabled);
+    applyStateLook();
+}
+
+void KelCombo::put_Locked(bool locked) {
+    Combo1_->setLocked(locked);
+    report(u"Locked");
+    applyStateLook();
+}
+
+/// A box that is disabled alone looks as if it were not.
+void KelCombo::applyStateLook() {
+    const bool barred = Combo1_->locked() || !Host_.container.enabled();
+    Combo1_->setBackColor(backOnStateChange(Host_.settings, barred, Combo1_->backColor()).color);
+}
+
+void KelCombo::put_Mandatory(bool mandatory) {
+    Mandatory_ = mandatory;
+    report(u"Mandatory");
+    Label1_->setForeColor(captionColor(mandatory));
+}
+
+void KelCombo::put_SelectOnFocus(bool select) {
+    SelectOnFocus_ = select;
+    report(u"SelectOnFocus");
+}
+
+void KelCombo::TooltipSet(const std::u16string& tooltip) {
+    Combo1_->setToolTip(tooltip);
+    Host_.container.setToolTipText(tooltip);
+}
+
+void KelCombo::Resize() {
+    if (LoadingDepth_ != 0 || !Host_.container.hasSize()) return;
+    const DepthGuard guard(LoadingDepth_);
+    const FieldLayout layout = layOutField({}, Host_.container.size(), Label1_->bounds().width);
+    Host_.container.setSize(layout.control);
+    sizeCaption(*Label1_, layout);
+    Combo1_->move(layout.field);
+    if (DropDownWidth_ == 0) put_DropDownWidth(0);
+    Combo1_->setSelLength(0);
+}
+
+void KelCombo::Show() {
+    setCaptionFont(Host_, *Label1_);
+    setFieldFont(Host_, *Combo1_);
+    Combo1_->setToolTip(Host_.container.toolTipText());
+}
+
+// ---- Design-time properties
+
+void KelCombo::InitProperties() {
+    LimitToList_ = true;
+    Mandatory_ = true;
+    SelectOnFocus_ = false;
+    Combo1_->setLocked(false);
+    Combo1_->setListIndex(ListItems::NotFound);
+    Label1_->setForeColor(captionColor(Mandatory_));
+    nameNewCaption(Host_, *Label1_);
+    Resize();
+}
+
+void KelCombo::ReadProperties(PropertyBag& bag) {
+    {
+        const DepthGuard guard(LoadingDepth_);
+        readPersisted(Host_, *this, bag);
+    }
+    Resize();
+}
+
+void KelCombo::WriteProperties(PropertyBag& bag) const { writePersisted(*this, bag); }
+
+// ---- Focus
+
+void KelCombo::EnterFocus() {
+    TextOriginal_ = Combo1_->text();
+    Combo1_->setExtendedUi(true);
+}
+
+void KelCombo::ExitFocus() {
+    settleText();
+    Combo1_->setBackColor(backOnExitFocus(Host_.settings, Combo1_->locked()).color);
+}
+
+void KelCombo::Combo1_GotFocus() {
+    if (SelectOnFocus_) {
+        if (Host_.system.tabKeyDown())
+            selectFrom(0);
+        else
+            Combo1_->setSelLength(0);
+    }
+    Combo1_->setBackColor(backOnGotFocus(Host_.settings, Combo1_->locked()).color);
+}
+
+void KelCombo::Combo1_LostFocus() { Combo1_->setSelStart(0); }
+
+}  // namespace kel

@@ -1,0 +1,106 @@
+#include "controls/datetime/DateTimeText.h"
+
+#include "host/Keys.h"
+#include "values/Calendar.h"
+
+namespace kel {
+
+namespace {
+
+/// A value as the classic language compares it with a number; nothing for what is none.
+struct SerialOf {
+    std::optional<double> operator()(Empty) const { return 0; }
+    std::optional<double> operator()(bool truth) const { return truth ? -1 : 0; }
+    std::optional<double> operator()(std::int16_t number) const { return number; }
+    std::optional<double> operator()(std::int32_t number) const { return number; }
+    std::optional<double> operator()(double number) const { return number; }
+    std::optional<double> operator()(Date date) const { return date.Serial; }
+    template <class Other>
+    std::optional<double> operator()(const Other&) const {
+        return std::nullopt;
+    }
+};
+
+bool isNull(const Variant& value) { return std::holds_alternative<Null>(value); }
+
+/// `value` is Empty or a date; Empty equals "" too.
+bool equals(const Variant& reference, const Variant& value) {
+    if (const auto* text = std::get_if<std::u16string>(&reference))
+        return text->empty() && std::holds_alternative<Empty>(value);
+    const std::optional<double> serial = std::visit(SerialOf{}, reference);
+    return serial && serial == std::visit(SerialOf{}, value);
+}
+
+}  // namespace
+
+std::optional<Date> dateIn(const Variant& value) {
+    const auto* date = std::get_if<Date>(&value);
+    return date ? std::optional(*date) : std::nullopt;
+}
+
+bool isChanged(const Variant& reference, const Variant& value) {
+    if (isNull(reference) || isNull(value)) return isNull(reference) != isNull(value);
+    return !equals(reference, value);
+}
+
+bool isChangedByStep(const Variant& reference, Date value) { return !isNull(reference) && !equals(reference, value); }
+
+std::u16string FieldFormat::show(std::optional<Date> value, const RegionalSettings& region) const {
+    return value ? Expression_.format(*value, region) : std::u16string();
+}
+
+void DateBounds::putMinimum(Date date) {
+    minimum = date;
+    if (isEarlier(maximum, minimum)) maximum = minimum;
+}
+
+void DateBounds::putMaximum(Date date) {
+    maximum = date;
+    if (isEarlier(maximum, minimum)) minimum = maximum;
+}
+
+Date DateBounds::clamp(Date date) const {
+    if (isEarlier(date, minimum)) return minimum;
+    return isEarlier(maximum, date) ? maximum : date;
+}
+
+bool DateBounds::contain(Date date) const { return !isEarlier(date, minimum) && !isEarlier(maximum, date); }
+
+Validity validityOf(std::optional<Date> value, const DateBounds& bounds, bool mayBeEmpty) {
+    if (!value) return mayBeEmpty ? Validity::Valid : Validity::NoValue;
+    return bounds.contain(*value) ? Validity::Valid : Validity::OutOfRange;
+}
+
+std::u16string complaint(Validity validity, std::u16string_view kind, const FieldRules& rules) {
+    std::u16string text;
+    if (validity == Validity::OutOfRange) {
+        (text += u"This field only accepts ") += kind;
+        (text += u"s from ") += rules.format.show(rules.bounds.minimum, rules.region);
+        (text += u" to ") += rules.format.show(rules.bounds.maximum, rules.region);
+        return text += u'.';
+    }
+    (text += u"Please enter a valid ") += kind;
+    return text += u" in this field.";
+}
+
+KeyDownEffect keyDownEffect(std::int16_t keyCode) {
+    switch (keyCode) {
+        case keys::Up: return KeyDownEffect::StepsUp;
+        case keys::Down: return KeyDownEffect::StepsDown;
+        case keys::Insert: return KeyDownEffect::TogglesInsertMode;
+        default: return KeyDownEffect::Edits;
+    }
+}
+
+std::optional<KeyPressEffect> commonKeyPressEffect(char32_t character) {
+    switch (character) {
+        case keys::Backspace:
+        case keys::Escape: return KeyPressEffect::Passes;
+        case keys::Enter: return KeyPressEffect::MovesOn;
+        case U'+': return KeyPressEffect::StepsUp;
+        case U'-': return KeyPressEffect::StepsDown;
+        default: return std::nullopt;
+    }
+}
+
+}  // namespace kel

@@ -1,0 +1,118 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "values/FormatExpression.h"
+#include "values/RegionalSettings.h"
+#include "values/Variant.h"
+
+/// What the date field and the time field make alike of texts, values and keys, as pure functions. Texts are
+/// read by the run-time object alone: functions take what it has made of them.
+namespace kel {
+
+// ---- Values
+
+/// The date or time that a variant holds; nothing for every other kind of value.
+std::optional<Date> dateIn(const Variant& value);
+
+/// Whether `value` (Empty, Null or a date) is another one than `reference`. Null equals Null alone; Empty counts as
+/// 0, numbers and booleans as day serials; a text or an object is never a date.
+bool isChanged(const Variant& reference, const Variant& value);
+
+/// The same for a value that a step has led to, except that nothing differs from Null.
+bool isChangedByStep(const Variant& reference, Date value);
+
+/// A display format, as it was written and ready for use.
+class FieldFormat {
+public:
+    explicit FieldFormat(std::u16string text) : Text_(std::move(text)), Expression_(Text_) {}
+
+    const std::u16string& text() const { return Text_; }
+    /// No value shows as "".
+    std::u16string show(std::optional<Date> value, const RegionalSettings& region) const;
+
+private:
+    std::u16string Text_;
+    FormatExpression Expression_;
+};
+
+// ---- Ranges
+
+/// The least and the greatest value that a field takes. Where a put would make them cross, the other one goes along.
+struct DateBounds {
+    Date minimum;
+    Date maximum;
+
+    void putMinimum(Date date);
+    void putMaximum(Date date);
+
+    /// The lower bound is looked at first.
+    Date clamp(Date date) const;
+    bool contain(Date date) const;
+
+    friend bool operator==(const DateBounds&, const DateBounds&) = default;
+};
+
+enum class Validity : std::uint8_t { Valid, OutOfRange, NoValue };
+
+/// How the value of an unlocked field stands to its bounds.
+Validity validityOf(std::optional<Date> value, const DateBounds& bounds, bool mayBeEmpty);
+
+/// What a field goes by.
+struct FieldRules {
+    const FieldFormat& format;
+    DateBounds bounds;
+    const RegionalSettings& region;
+};
+
+/// What to tell the user of a value that is not valid, in a field of this kind ("date", "time").
+std::u16string complaint(Validity validity, std::u16string_view kind, const FieldRules& rules);
+
+// ---- Steps
+
+/// The text box of a field before a step.
+struct BoxState {
+    std::u16string text;
+    std::size_t caret = 0;
+    std::optional<Date> value{};  ///< what the run-time object reads in the text
+};
+
+/// Where a step leads.
+struct FieldStep {
+    Date value{};
+    std::u16string text{};
+    std::size_t caret = 0;  ///< may be past the end of the text, which means the end
+    bool isFirst = false;   ///< there was no value to start from
+};
+
+// ---- Keys
+
+/// What a key that goes down does.
+enum class KeyDownEffect : std::uint8_t {
+    Edits,  ///< the text box gets it, and the text must be read again
+    StepsUp,
+    StepsDown,
+    TogglesInsertMode,  ///< the text box gets it as well
+};
+
+KeyDownEffect keyDownEffect(std::int16_t keyCode);
+
+/// What a character does.
+enum class KeyPressEffect : std::uint8_t {
+    Passes,  ///< the text box gets it
+    Writes,  ///< the text box gets it, and it overwrites in overwrite mode
+    StepsUp,
+    StepsDown,
+    MovesOn,
+    Refused,
+};
+
+/// What Enter, "+", "-", backspace and Escape do in either field; nothing for other characters.
+std::optional<KeyPressEffect> commonKeyPressEffect(char32_t character);
+
+}  // namespace kel

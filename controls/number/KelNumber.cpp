@@ -1,0 +1,257 @@
+#include "controls/number/KelNumber.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "common/Persistence.h"
+#include "values/NumberFormat.h"
+#include "values/NumberReader.h"
+
+namespace kel {
+
+namespace {
+
+constexpr Color Black = 0x00000000;
+constexpr std::int16_t RegionalDecimals = -1;
+
+std::int32_t unitsOf(std::size_t count) { return static_cast<std::int32_t>(count); }
+
+}  // namespace
+
+KelNumber::KelNumber(ControlHost& host) : Field_(host, *this, *this) { takeDecimals(); }
+
+// ---- Properties
+
+void KelNumber::put_CaptionWidth(std::int16_t twips) {
+    const Container& container = Field_.host().container;
+    const std::int32_t widest = container.hasSize() ? container.size().width : twips;
+    Field_.putCaptionWidth(static_cast<std::int16_t>(std::min<std::int32_t>(twips, widest)));
+}
+
+bool KelNumber::get_ChangedCaption(std::u16string& CaptionToSave) const {
+    // A caption differs from the one its label was bound with, which is none: nothing here binds labels to data.
+    CaptionToSave = get_Caption();
+    return false;
+}
+
+void KelNumber::put_FontBold(bool bold) {
+    Field_.label().setFontBold(bold);
+    Field_.box().setFontBold(bold);
+    Field_.report(u"FontBold");
+}
+
+void KelNumber::put_GroupDigits(bool group) {
+    GroupDigits_ = group;
+    Field_.report(u"GroupDigits");
+}
+
+void KelNumber::put_UpDownChange(double step) {
+    UpDownChange_ = step;
+    Field_.report(u"UpDownChange");
+}
+
+void KelNumber::put_Decimals(std::int16_t count) {
+    if (count < RegionalDecimals || count > MostDecimals) return;
+    Decimals_ = count;
+    Field_.report(u"Decimals");
+    takeDecimals();
+    put_Value(number());
+}
+
+void KelNumber::takeDecimals() {
+    const SharedSettings& settings = Field_.host().settings;
+    DecimalsInUse_ = Decimals_ == RegionalDecimals ? settings.DefaultDecimals : Decimals_;
+    DecimalCharacter_ = settings.DecimalSeparatorCode;
+}
+
+void KelNumber::put_MaxValue(double maximum) {
+    MaxValue_ = roundNumber(maximum);
+    Field_.report(u"MaxValue");
+    MinValue_ = std::min(MinValue_, MaxValue_);
+}
+
+void KelNumber::put_MinValue(double minimum) {
+    MinValue_ = roundNumber(minimum);
+    Field_.report(u"MinValue");
+    MaxValue_ = std::max(MaxValue_, MinValue_);
+}
+
+// ---- The value and its text
+
+double KelNumber::numberFromValue(const Variant& value) const {
+    return runtimeDates(Field_.host())->NumberFromValue(value, DecimalsInUse_);
+}
+
+double KelNumber::roundNumber(double number) const {
+    return runtimeDates(Field_.host())->RoundNumber(number, DecimalsInUse_);
+}
+
+double KelNumber::number() {
+    if (TextDirty_) CommitText();
+    return Value_;
+}
+
+double KelNumber::storedValue() const {
+    if (!TextDirty_ || get_Locked()) return Value_;
+    return clampNumber(parseField(), MinValue_, MaxValue_);
+}
+
+void KelNumber::put_Value(const Variant& value) {
+    if (!isNumeric(value, Field_.host().region)) return;
+    Value_ = numberFromValue(value);
+    ValueOriginal_ = Value_;
+    showValue();
+    Field_.box().setForeColor(numberColor(Value_));
+    TextDirty_ = false;
+    Field_.report(u"Value");
+}
+
+void KelNumber::showValue() {
+    Field_.box().setText(displayText(Value_, DecimalsInUse_, GroupDigits_, Field_.host().region));
+}
+
+void KelNumber::CommitText() {
+    TextDirty_ = false;
+    if (get_Locked()) return;
+    Value_ = clampNumber(parseField(), MinValue_, MaxValue_);
+    showValue();
+}
+
+void KelNumber::StepValue(double delta) {
+    if (get_Locked()) return;
+    CommitText();
+    const double stepped = roundNumber(steppedNumber(Value_, delta));
+    Field_.box().setText(generalNumber(stepped, Field_.host().region));
+    CommitText();
+    if (Value_ == ValueOriginal_) return;
+    Field_.host().container.raiseEvent(Change, {});
+    ValueOriginal_ = Value_;
+}
+
+bool KelNumber::get_Valid(bool ShowMessage) {
+    const double value = TextDirty_ ? parseField() : Value_;
+    if (get_Locked()) return true;
+    constexpr std::u16string_view Title = u"Invalid Value";
+    if (get_Mandatory() && value == 0) {
+        if (ShowMessage) Field_.complain(u"Please enter a non-zero value in this field.", Title);
+        return false;
+    }
+    if (isInRange(value, MinValue_, MaxValue_)) return true;
+    if (ShowMessage)
+        Field_.complain(rangeMessage(MinValue_, MaxValue_, DecimalsInUse_, GroupDigits_, Field_.host().region), Title);
+    return false;
+}
+
+// ---- Design-time properties
+
+void KelNumber::InitProperties() {
+    Field_.initNew(false);
+    Field_.box().setText(u"0");
+}
+
+void KelNumber::WriteProperties(PropertyBag& bag) const { writePersisted(*this, bag); }
+
+// ---- Focus
+
+void KelNumber::EnterFocus() {
+    ValueOriginal_ = Value_;
+    Field_.box().setForeColor(Black);
+}
+
+void KelNumber::Text1_GotFocus() {
+    TextBox& box = Field_.box();
+    if (!get_Locked()) {
+        if (!SpinFocus_) box.setText(editText(Value_, DecimalsInUse_, Field_.host().region));
+        SpinFocus_ = false;
+        box.setSelStart(0);
+        if (get_SelectOnFocus()) box.setSelLength(box.textLength());
+        if (!isInRange(Value_, MinValue_, MaxValue_)) TextDirty_ = true;
+    }
+    Field_.colorOnGotFocus();
+}
+
+void KelNumber::ExitFocus() {
+    CommitText();
+    Field_.box().setForeColor(numberColor(Value_));
+    Field_.colorOnExit();
+    SpinFocus_ = false;
+}
+
+// ---- Keys, mouse and spinner
+
+void KelNumber::Text1_KeyDown(std::int16_t& KeyCode, Modifiers /*Shift*/) {
+    KeypadDecimal_ = KeyCode == keys::Decimal;
+    switch (KeyCode) {
+        case keys::Up:
+        case keys::Down:
+            if (!get_UpDown()) return;
+            StepValue(KeyCode == keys::Up ? UpDownChange_ : -UpDownChange_);
+            KeyCode = 0;
+            return;
+        case keys::Insert: Field_.toggleInsertMode(); return;
+        default: TextDirty_ = true;
+    }
+}
+
+TextSpan KelNumber::selection() const {
+    const TextBox& box = Field_.box();
+    return {static_cast<std::size_t>(box.selStart()), static_cast<std::size_t>(box.selLength())};
+}
+
+void KelNumber::select(TextSpan span) {
+    Field_.box().setSelStart(unitsOf(span.start));
+    Field_.box().setSelLength(unitsOf(span.length));
+}
+
+void KelNumber::Text1_KeyPress(char32_t& KeyAscii) {
+    TextDirty_ = true;  // an input method types without a key going down
+    // Whatever the keyboard's layout makes of it, the keypad's key is the one for decimals.
+    if (KeypadDecimal_) KeyAscii = DecimalCharacter_;
+    const KeyEffect effect = filterKey(KeyAscii, Field_.box().text(), selection(),
+                                       {.decimals = DecimalsInUse_,
+                                        .decimalCharacter = DecimalCharacter_,
+                                        .zeroDigit = Field_.host().region.ZeroDigit,
+                                        .insertMode = get_InsertMode(),
+                                        .locked = get_Locked()});
+    if (effect.verdict != KeyVerdict::Passed) KeyAscii = 0;
+    apply(effect);
+}
+
+void KelNumber::apply(const KeyEffect& effect) {
+    if (effect.replaced) {
+        select(*effect.replaced);
+        Field_.box().setSelText(std::u16string_view(&effect.inserted, 1));
+    }
+    if (effect.selection) select(*effect.selection);
+    if (effect.verdict == KeyVerdict::Beep) Field_.host().system.beep();
+    if (effect.verdict == KeyVerdict::MoveOn) Field_.moveOn();
+}
+
+bool KelNumber::Text1_Paste(std::u16string& Text) {
+    TextDirty_ = true;
+    auto plain = filterPaste(Text, Field_.box().text(), selection(), DecimalsInUse_, Field_.host().region);
+    if (!plain) {
+        Field_.host().system.beep();
+        return false;
+    }
+    Text = std::move(*plain);
+    return true;
+}
+
+void KelNumber::Text1_MouseDown(MouseButton /*Button*/) { TextDirty_ = true; }
+
+void KelNumber::Text1_Wheel(std::int32_t Notches) {
+    if (!get_UpDown()) return;
+    for (std::int32_t left = std::abs(Notches); left > 0; --left)
+        StepValue(Notches > 0 ? UpDownChange_ : -UpDownChange_);
+}
+
+void KelNumber::UpDown1_Change() {
+    SpinFocus_ = true;
+    const int direction = Field_.answerSpinner();
+    if (direction == 0) return;
+    StepValue(direction * UpDownChange_);
+    Field_.restSpinner();
+}
+
+}  // namespace kel

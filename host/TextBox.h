@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "host/Keys.h"
+#include "host/Widget.h"
+
+namespace kel {
+
+/// A single-line or multi-line edit box. Positions and lengths count UTF-16 units; a line break of a
+/// multi-line box is a carriage return and a line feed and counts two. A new box is enabled, visible,
+/// unlocked, empty, with `colors::SystemWindow` behind `colors::SystemWindowText`.
+class TextBox : public FieldWidget {
+public:
+    /// Valid until the text changes.
+    virtual const std::u16string& text() const = 0;
+
+    /// Puts a text, of any length, and the caret to 0. Notifies a change when it differs from the old one.
+    virtual void setText(std::u16string_view text) = 0;
+
+    virtual bool textEquals(std::u16string_view other) const = 0;
+    virtual std::int32_t textLength() const = 0;
+
+    virtual std::int32_t selStart() const = 0;
+    /// Drops the selection. A position past the end is the end.
+    virtual void setSelStart(std::int32_t position) = 0;
+    virtual std::int32_t selLength() const = 0;
+    /// Selects from the selection's start; cut at the end of the text.
+    virtual void setSelLength(std::int32_t length) = 0;
+    virtual std::u16string selText() const = 0;
+    /// Replaces the selection as typing would, caret behind it, undo kept; the maximum length does not bind.
+    virtual void setSelText(std::u16string_view text) = 0;
+
+    virtual bool locked() const = 0;
+    virtual void setLocked(bool locked) = 0;
+
+    /// Binds typing and pasting, not `setText`; 0 is no limit.
+    virtual std::int32_t maxLength() const = 0;
+    virtual void setMaxLength(std::int32_t units) = 0;
+
+    /// Shown in place of every character; 0 shows the text.
+    virtual char16_t passwordChar() const = 0;
+    virtual void setPasswordChar(char16_t character) = 0;
+};
+
+/// What a text box tells its control, as it happens. A handler may do anything to the widget, also move the
+/// focus away; it may run host code.
+class TextBoxListener {
+public:
+    /// The text differs from before, by the user or by code.
+    virtual void Text1_Change() = 0;
+    /// The left mouse button was pressed and released in the box.
+    virtual void Text1_Click() = 0;
+    /// A key goes down; `KeyCode` set to 0 swallows it.
+    virtual void Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) = 0;
+    /// A character is about to be inserted, or a control character to act; 0 swallows it.
+    virtual void Text1_KeyPress(char32_t& KeyAscii) = 0;
+    /// The user pastes or drops `Text` in the place of the selection; what it is changed to comes instead.
+    /// False refuses it: the box stays as it is.
+    virtual bool Text1_Paste(std::u16string& Text) = 0;
+    virtual void Text1_MouseDown(MouseButton Button) = 0;
+    /// The wheel was turned over the box while it had the focus; notches away from the user count up. A box
+    /// without the focus leaves the wheel to its surroundings.
+    virtual void Text1_Wheel(std::int32_t Notches) = 0;
+    virtual void Text1_GotFocus() = 0;
+    virtual void Text1_LostFocus() = 0;
+
+protected:
+    ~TextBoxListener() = default;
+};
+
+}  // namespace kel

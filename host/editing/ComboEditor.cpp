@@ -1,0 +1,157 @@
+#include "host/editing/ComboEditor.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace kel {
+
+namespace {
+
+bool togglesList(std::int16_t code, Modifiers modifiers) {
+    if (code == keys::F4) return modifiers == NoModifier;
+    return (code == keys::Up || code == keys::Down) && modifiers == AltKey;
+}
+
+}  // namespace
+
+// ---- By code
+
+void ComboEditor::setText(std::u16string_view text) {
+    select(ListItems::NotFound);
+    Edit_.setText(text);
+}
+
+void ComboEditor::setItems(ListItems items) {
+    showDropDown(false);
+    Items_ = std::move(items);
+    setListIndex(ListItems::NotFound);
+}
+
+void ComboEditor::setListIndex(std::int32_t index) {
+    const bool exists = Items_.contains(index);
+    select(exists ? index : ListItems::NotFound);
+    changeSilently(exists ? Items_.item(index) : std::u16string_view());
+}
+
+void ComboEditor::select(std::int32_t index) {
+    ListIndex_ = index;
+    highlight(index);
+}
+
+void ComboEditor::changeSilently(std::u16string_view text) {
+    Silent_ = true;
+    Edit_.setText(text);
+    Silent_ = false;
+}
+
+void ComboEditor::showDropDown(bool dropped) {
+    if (dropped == Dropped_ || (dropped && !Surroundings_.takesInput())) return;
+    Dropped_ = dropped;
+    if (dropped) {
+        Highlighted_ = currentItem();
+        if (Highlighted_ == ListItems::NotFound) Highlighted_ = Items_.findPrefix(buffer().text());
+    }
+    Surroundings_.listChanged();
+}
+
+void ComboEditor::setDroppedWidth(std::int32_t pixels) {
+    DroppedWidth_ = std::max(pixels, 0);
+    Surroundings_.listChanged();
+}
+
+// ---- Keys
+
+bool ComboEditor::claims(const KeyStroke& stroke) const {
+    const bool closesList = stroke.code == keys::Enter || stroke.code == keys::Escape;
+    return togglesList(stroke.code, stroke.modifiers) || (Dropped_ && closesList) || claimsKey(stroke, locked());
+}
+
+void ComboEditor::Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) {
+    const std::int16_t code = KeyCode;
+    Listener_.Combo1_KeyDown(KeyCode, Shift);
+    if (KeyCode != 0 && Surroundings_.takesInput() && actOnList(code, Shift)) KeyCode = 0;
+}
+
+/// False when the key goes on to the edit box.
+bool ComboEditor::actOnList(std::int16_t code, Modifiers modifiers) {
+    if (togglesList(code, modifiers)) {
+        showDropDown(!Dropped_);
+        return true;
+    }
+    if ((modifiers & (ControlKey | AltKey)) != 0) return false;
+    switch (code) {
+        case keys::Up: step(-1); return true;
+        case keys::Down: step(1); return true;
+        case keys::PageUp: step(-Surroundings_.linesOfPage()); return true;
+        case keys::PageDown: step(Surroundings_.linesOfPage()); return true;
+        case keys::Enter:
+            if (Dropped_) pick(Highlighted_);
+            return false;
+        case keys::Escape: {
+            const bool closes = Dropped_;
+            showDropDown(false);
+            return closes;
+        }
+        default: return false;
+    }
+}
+
+void ComboEditor::step(std::int64_t rows) {
+    if (Dropped_)
+        highlight(rowFrom(Highlighted_, rows));
+    else
+        pickNeighbour(rows);
+}
+
+void ComboEditor::pickNeighbour(std::int64_t rows) {
+    const std::int32_t current = currentItem();
+    const std::int32_t next = rowFrom(current, rows);
+    if (next != current) pick(next);
+}
+
+/// The selected item, or the one that the text is without being selected.
+std::int32_t ComboEditor::currentItem() const {
+    return ListIndex_ != ListItems::NotFound ? ListIndex_ : Items_.findExact(buffer().text());
+}
+
+/// As far as there are rows.
+std::int32_t ComboEditor::rowFrom(std::int32_t row, std::int64_t rows) const {
+    const std::int64_t last = Items_.size() - 1;
+    if (!Items_.contains(row)) return rows > 0 && last >= 0 ? 0 : ListItems::NotFound;
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(row + rows, 0, last));
+}
+
+// ---- Mouse
+
+void ComboEditor::highlight(std::int32_t index) {
+    if (!Dropped_ || index == Highlighted_) return;
+    Highlighted_ = index;
+    Surroundings_.listChanged();
+}
+
+void ComboEditor::pick(std::int32_t index) {
+    showDropDown(false);
+    if (locked() || !Items_.contains(index)) return;
+    setListIndex(index);
+    Listener_.Combo1_Click();
+}
+
+/// An open list scrolls on its own.
+void ComboEditor::Text1_Wheel(std::int32_t Notches) {
+    if (!Dropped_) pickNeighbour(-std::int64_t{Notches});
+}
+
+// ---- Text and focus
+
+void ComboEditor::Text1_Change() {
+    if (Silent_) return;
+    select(ListItems::NotFound);
+    Listener_.Combo1_Change();
+}
+
+void ComboEditor::Text1_LostFocus() {
+    showDropDown(false);
+    Listener_.Combo1_LostFocus();
+}
+
+}  // namespace kel

@@ -1,0 +1,136 @@
+#include "platform/qt/ComboList.h"
+
+#include <algorithm>
+#include <QAbstractListModel>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScreen>
+
+#include "platform/qt/EdgeGuard.h"
+#include "platform/qt/TextBridge.h"
+
+namespace kel::qt {
+
+namespace {
+
+/// The items where they are: nothing is kept of them.
+class ItemsModel final : public QAbstractListModel {
+public:
+    ItemsModel(const ListItems& items, QObject* parent) : QAbstractListModel(parent), Items_(items) {}
+
+    int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : Items_.size(); }
+    QVariant data(const QModelIndex& index, int role) const override {
+        if (role != Qt::DisplayRole || !Items_.contains(index.row())) return {};
+        // Each row is one line high.
+        return toQString(Items_.item(index.row())).replace(u'\n', u' ');
+    }
+
+private:
+    const ListItems& Items_;
+};
+
+bool movesFocus(const QKeyEvent& event) {
+    const bool isTab = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
+    return event.type() == QEvent::KeyPress && isTab && !event.modifiers().testFlag(Qt::ControlModifier);
+}
+
+}  // namespace
+
+ComboList::ComboList(QWidget& box, ComboEditor& editor, int mostRows)
+    : QListView(&box), Box_(box), Editor_(editor), MostRows_(mostRows) {
+    setWindowFlag(Qt::Popup);
+    setFocusPolicy(Qt::NoFocus);
+    setModel(new ItemsModel(editor.items(), this));
+    setUniformItemSizes(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFrameStyle(static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Plain));
+    // A window takes neither from its parent.
+    setFont(box.font());
+    setPalette(box.palette());
+    setLayoutDirection(box.layoutDirection());
+    setAccessibleName(box.accessibleName());
+    viewport()->setMouseTracking(true);
+}
+
+// ---- Place
+
+int ComboList::heightOf(int rows) const {
+    const int row = model()->rowCount() > 0 ? sizeHintForRow(0) : fontMetrics().lineSpacing();
+    return rows * row + 2 * frameWidth();
+}
+
+QRect ComboList::place(int width) const {
+    const QRect screen = Box_.screen()->availableGeometry();
+    const QRect box(Box_.mapToGlobal(QPoint()), Box_.size());
+    int rows = std::clamp(model()->rowCount(), 1, MostRows_);
+    const int below = screen.bottom() - box.bottom();
+    const int above = box.top() - screen.top();
+    const bool opensUp = heightOf(rows) > below && above > below;
+    while (rows > 1 && heightOf(rows) > std::max(above, below)) --rows;
+
+    QRect list(box.left(), box.bottom() + 1, std::clamp(width, box.width(), std::max(screen.width(), box.width())),
+               heightOf(rows));
+    if (opensUp) list.moveBottom(box.top() - 1);
+    if (Box_.isRightToLeft()) list.moveRight(box.right());
+    list.moveLeft(std::max(std::min(list.left(), screen.right() - list.width() + 1), screen.left()));
+    return list;
+}
+
+void ComboList::drop(int width) {
+    const QRect bounds = place(width);
+    if (bounds != geometry()) setGeometry(bounds);
+    setCurrentIndex(model()->index(Editor_.highlighted(), 0));
+    show();
+}
+
+void ComboList::hideEvent(QHideEvent* event) {
+    QListView::hideEvent(event);
+    // Qt closes popups too.
+    Editor_.showDropDown(false);
+}
+
+// ---- Keys and mouse
+
+bool ComboList::event(QEvent* event) {
+    switch (event->type()) {
+        case QEvent::ShortcutOverride:
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease: return keyPassed(static_cast<QKeyEvent&>(*event));
+        case QEvent::MouseButtonPress:
+            pressedOutside(static_cast<QMouseEvent*>(event)->globalPosition().toPoint());
+            return true;
+        default: return QListView::event(event);
+    }
+}
+
+bool ComboList::viewportEvent(QEvent* event) {
+    return atEdge([&] { return QListView::viewportEvent(event); });
+}
+
+bool ComboList::keyPassed(QKeyEvent& event) {
+    // So that the box has the focus back when it loses it.
+    if (movesFocus(event)) Editor_.showDropDown(false);
+    return QCoreApplication::sendEvent(&Box_, &event);
+}
+
+/// All presses come here while the list is open; those on the frame mean nothing.
+void ComboList::pressedOutside(const QPoint& globalPosition) {
+    if (geometry().contains(globalPosition)) return;
+    setAttribute(Qt::WA_NoMouseReplay, Button_.contains(Box_.mapFromGlobal(globalPosition)));
+    Editor_.showDropDown(false);
+}
+
+void ComboList::mousePressEvent(QMouseEvent* event) { mouseMoveEvent(event); }
+
+void ComboList::mouseMoveEvent(QMouseEvent* event) {
+    const QModelIndex row = indexAt(event->position().toPoint());
+    if (row.isValid()) Editor_.highlight(row.row());
+}
+
+void ComboList::mouseReleaseEvent(QMouseEvent* event) {
+    const QModelIndex row = indexAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && row.isValid()) Editor_.pick(row.row());
+}
+
+}  // namespace kel::qt

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <memory>
+
+#include "platform/qt/ComboList.h"
+#include "platform/qt/QtLine.h"
+
+class QPainter;
+class QStyleOptionComboBox;
+
+namespace kel::qt {
+
+/// A combo box: a line of text with a button at its end, drawn by the style as a combo box, and a list that exists as
+/// long as it is open.
+class QtComboBox final : public QtLine<QtComboField> {
+public:
+    QtComboBox(ControlSite& site, ComboBoxListener& listener, QWidget& parent);
+    ~QtComboBox() override;
+
+    void installFrame(const std::int16_t& buttonWidthPixels) override;
+
+    /// What shows the list; nullptr while it is closed.
+    ComboList* list() const { return List_.get(); }
+    /// What takes the presses on the button.
+    QWidget& button() const { return *Button_; }
+    void pressButton();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void listChanged() override;
+    void closeList();
+
+    QStyleOptionComboBox styleOption() const;
+    QRect buttonRect(const QStyleOptionComboBox& option) const;
+    void placeParts();
+    void paintAroundText(QPainter& painter, const QStyleOptionComboBox& option) const;
+    void paintFramed(QPainter& painter, const QStyleOptionComboBox& option) const;
+
+    std::unique_ptr<ComboList> List_;
+    QWidget* Button_;  ///< Qt owns it
+    const std::int16_t* FrameButtonWidth_ = nullptr;
+};
+
+}  // namespace kel::qt

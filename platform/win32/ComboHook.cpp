@@ -1,0 +1,72 @@
+#include "platform/win32/ComboHook.h"
+
+namespace kel::win32 {
+
+namespace {
+
+constexpr const char* ProcedureProperty = "KelControlsProc";
+constexpr const char* ButtonWidthProperty = "KelControls8.ButtonWidth";
+
+/// nullptr while the window is not hooked.
+WNDPROC previousOf(HWND window) { return reinterpret_cast<WNDPROC>(GetPropA(window, ProcedureProperty)); }
+
+void setProcedure(HWND window, WNDPROC procedure) {
+    SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
+}
+
+int buttonWidthOf(HWND window) {
+    const auto* const pixels = static_cast<const std::int16_t*>(GetPropA(window, ButtonWidthProperty));
+    return pixels != nullptr ? *pixels : 0;
+}
+
+void paintFrame(HWND window) {
+    HDC const context = GetWindowDC(window);
+    RECT client{};
+    GetClientRect(window, &client);
+    drawComboFrame(context, client, buttonWidthOf(window));
+    ReleaseDC(window, context);
+}
+
+void unhook(HWND window, WNDPROC previous) {
+    setProcedure(window, previous);
+    RemovePropA(window, ProcedureProperty);
+    RemovePropA(window, ButtonWidthProperty);
+}
+
+}  // namespace
+
+void setFrameButtonWidth(HWND window, const std::int16_t& pixels) {
+    SetPropA(window, ButtonWidthProperty, const_cast<std::int16_t*>(&pixels));
+}
+
+void SubclassWindow(HWND window) {
+    if (previousOf(window) != nullptr) return;
+    const LONG_PTR current = GetWindowLongPtrA(window, GWLP_WNDPROC);
+    if (current == 0 || current == reinterpret_cast<LONG_PTR>(&KelControlsWindowProc)) return;
+    // In this order, for the first message that comes to the new procedure.
+    SetPropA(window, ProcedureProperty, reinterpret_cast<HANDLE>(current));
+    setProcedure(window, &KelControlsWindowProc);
+}
+
+LRESULT CALLBACK KelControlsWindowProc(HWND window, UINT message, WPARAM wide, LPARAM data) {
+    const WNDPROC previous = previousOf(window);
+    // Somebody who was hooked on top may have put us back after we went.
+    if (previous == nullptr) return DefWindowProcA(window, message, wide, data);
+    const LRESULT result = CallWindowProcA(previous, window, message, wide, data);
+    switch (message) {
+        case WM_PAINT: paintFrame(window); break;
+        case WM_NCDESTROY: unhook(window, previous); break;
+        default: break;
+    }
+    return result;
+}
+
+void drawComboFrame(HDC context, RECT client, int buttonWidth) {
+    client.bottom -= 1;
+    DrawEdge(context, &client, EDGE_SUNKEN, BF_RECT | BF_ADJUST);
+    if (buttonWidth <= 0) return;
+    client.left = client.right - buttonWidth;
+    DrawEdge(context, &client, EDGE_RAISED, BF_RECT);
+}
+
+}  // namespace kel::win32

@@ -1,0 +1,192 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <utility>
+
+#include "controls/combo/ListText.h"
+#include "tests/combo/FakeBox.h"
+
+namespace kel::test {
+namespace {
+
+/// Writes down what it is told, and does nothing but what a test wants.
+class Listener final : public ComboBoxListener {
+public:
+    std::string takeLog() { return std::exchange(Log_, {}); }
+
+    std::function<void()> onClick;
+    std::function<void(std::int16_t&)> onKeyDown;
+
+private:
+    void Combo1_Change() override { note("Change"); }
+    void Combo1_Click() override {
+        note("Click");
+        if (onClick) onClick();
+    }
+    void Combo1_KeyDown(std::int16_t& KeyCode, Modifiers) override {
+        if (onKeyDown) onKeyDown(KeyCode);
+    }
+    void Combo1_KeyPress(char32_t& KeyAscii) override {
+        if (KeyAscii == keys::Enter) note("Enter");
+    }
+    void Combo1_GotFocus() override { note("GotFocus"); }
+    void Combo1_LostFocus() override { note("LostFocus"); }
+
+    void note(const char* what) { Log_ += Log_.empty() ? what : std::string(" ") + what; }
+
+    std::string Log_;
+};
+
+struct EditorCase {
+    const char* what;
+    const char* script;
+    const char* look;
+    const char* told;
+    bool locked = false;
+};
+
+struct Scene {
+    Listener listener;
+    FakeBox box{listener};
+
+    explicit Scene(std::u16string_view list) { box.setItems(listItemsOf(list)); }
+};
+
+constexpr char16_t Fruit[] = u"Apple,Banana,Cherry,Damson,Elder,Fig,Grape,Banana";
+
+void check(const EditorCase& row, std::u16string_view list = Fruit) {
+    SCOPED_TRACE(row.what);
+    Scene scene(list);
+    scene.box.setLocked(row.locked);
+    scene.box.play(row.script);
+    EXPECT_EQ(scene.box.look(), row.look);
+    EXPECT_EQ(scene.listener.takeLog(), row.told);
+}
+
+TEST(ComboEditor, KeysAndWheelPickInAClosedBox) {
+    const EditorCase rows[] = {
+        {"down from nothing: the first", "Down", "|Apple 0", "Click"},
+        {"up from nothing leads nowhere", "Up PageUp", "| -1", ""},
+        {"there and back", "Down*3 Up", "|Banana 1", "Click Click Click Click"},
+        {"nothing before the first", "Down Up", "|Apple 0", "Click"},
+        {"nothing behind the last", "PageDown*4 Down", "|Banana 7", "Click Click Click Click"},
+        {"pages", "Down PageDown*2 PageUp", "|Damson 3", "Click Click Click Click"},
+        {"a page as far as there are items", "Down*2 PageUp*2", "|Apple 0", "Click Click Click"},
+        {"Shift makes no difference", "Shift+Down Shift+PageDown", "|Damson 3", "Click Click"},
+        {"Ctrl does", "Ctrl+Down Ctrl+PageDown", "| -1", ""},
+        {"the wheel", "wheel -1; wheel -3; wheel 1", "|Cherry 2", "Click Click Click"},
+        {"the wheel stops at the ends", "wheel 1; wheel -1; wheel -100; wheel -1", "|Banana 7", "Click Click"},
+        {"a wheel of another world", "Down*2; wheel 2147483647; wheel -2147483648", "|Banana 7",
+         "Click Click Click Click"},
+        {"an edit leaves none selected, so the first follows", "Down*4 End 'x' Down", "|Apple 0",
+         "Click Click Click Click Change Click"},
+        {"a text that is an item has its neighbours", "'Fig' Down", "|Grape 6", "Change Change Change Click"},
+        {"the first of equal items", "'Banana' Up", "|Apple 0", "Change Change Change Change Change Change Click"},
+        {"the edit box keeps its own keys", "Down End Shift+Left Home Right Delete", "A|ple -1", "Click Change"},
+        {"locked, nothing leads anywhere", "Down PageDown; wheel -1; 'x' Backspace Delete", "| -1", "", true},
+    };
+    for (const EditorCase& row : rows) check(row);
+    check({"no items, nothing to pick", "Down PageDown F4 Down Enter; wheel -1", "| -1", "Enter"}, u"");
+}
+
+TEST(ComboEditor, TheDroppedListIsWalkedWithoutPicking) {
+    const EditorCase rows[] = {
+        {"opened by F4", "F4", "| -1 open -1", ""},
+        {"and closed", "F4*2", "| -1", ""},
+        {"by Alt and an arrow", "Alt+Down", "| -1 open -1", ""},
+        {"and closed by the other", "Alt+Down Alt+Up", "| -1", ""},
+        {"by its button", "button", "| -1 open -1", ""},
+        {"and closed", "button; button", "| -1", ""},
+        {"Alt+F4 is the window's", "Alt+F4 Ctrl+F4", "| -1", ""},
+        {"opens at the selected item", "Down*3 F4", "|Cherry 2 open 2", "Click Click Click"},
+        {"at the item that is the text", "'Fig' F4", "Fig| -1 open 5", "Change Change Change"},
+        {"at the first that begins with the text", "'d' F4", "d| -1 open 3", "Change"},
+        {"at none", "'x' F4", "x| -1 open -1", "Change"},
+        {"arrows move the highlight alone", "Down F4 Down*2 Up PageDown", "|Apple 0 open 4", "Click"},
+        {"as far as there are rows", "F4 Up Down PageDown*9 Down", "| -1 open 7", ""},
+        {"the pointer moves it", "F4; hover 5; Up", "| -1 open 4", ""},
+        {"the wheel scrolls, which is the list's own affair", "F4 Down; wheel -1", "| -1 open 0", ""},
+        {"Escape closes and picks nothing", "Down F4 Down*3 Escape", "|Apple 0", "Click"},
+        {"Enter picks, and is passed on", "F4 Down*2 Enter", "|Banana 1", "Click Enter"},
+        {"Enter with nothing highlighted only closes", "F4 Enter", "| -1", "Enter"},
+        {"Enter on the selected item picks it again", "Down F4 Enter", "|Apple 0", "Click Click Enter"},
+        {"Enter in a closed box picks nothing", "Down Enter", "|Apple 0", "Click Enter"},
+        {"a click picks", "F4; pick 4", "|Elder 4", "Click"},
+        {"a click beside the rows closes", "F4; pick 8", "| -1", ""},
+        {"typing goes into the text, and the highlight with the selection", "Down*2 F4 'x'", "x|Banana -1 open -1",
+         "Click Click Change"},
+        {"locked, it drops and is walked, but gives nothing", "F4 Down Enter F4; pick 2", "| -1", "Enter", true},
+    };
+    for (const EditorCase& row : rows) check(row);
+}
+
+TEST(ComboEditor, CodeSelectsInSilence) {
+    Scene scene(Fruit);
+    FakeBox& box = scene.box;
+    box.play("'abc' Left");
+    scene.listener.takeLog();
+
+    box.setListIndex(2);
+    EXPECT_EQ(box.look(), "|Cherry 2");
+    box.setText(u"Cherry");
+    EXPECT_EQ(box.look(), "|Cherry -1") << "a text by code selects nothing, not even the item it is";
+    box.setListIndex(8);
+    EXPECT_EQ(box.look(), "| -1");
+    box.setListIndex(7);
+    box.showDropDown(true);
+    box.setItems(listItemsOf(u"x,y"));
+    EXPECT_EQ(box.look(), "| -1") << "the old list and all that came of it are gone";
+    EXPECT_EQ(scene.listener.takeLog(), "");
+
+    box.setText(u"y");
+    EXPECT_EQ(scene.listener.takeLog(), "Change");
+    box.setText(u"y");
+    EXPECT_EQ(scene.listener.takeLog(), "");
+    box.setSelLength(1);
+    box.setSelText(u"");
+    EXPECT_EQ(scene.listener.takeLog(), "Change");
+}
+
+TEST(ComboEditor, ABoxThatTakesNoInputKeepsItsListClosed) {
+    Scene scene(Fruit);
+    scene.box.setEnabled(false);
+    scene.box.showDropDown(true);
+    EXPECT_FALSE(scene.box.isDropped());
+    scene.box.setEnabled(true);
+    scene.box.play("F4 Down");
+    scene.box.lostFocus();
+    EXPECT_EQ(scene.box.look(), "| -1") << "a list that loses the focus picks nothing";
+}
+
+TEST(ComboEditor, HandlersMayInterfere) {
+    Scene scene(Fruit);
+    FakeBox& box = scene.box;
+    scene.listener.onKeyDown = [](std::int16_t& code) { code = 0; };
+    box.play("Down F4");
+    EXPECT_EQ(box.look(), "| -1") << "a swallowed key";
+    scene.listener.onKeyDown = [&box](std::int16_t&) { box.setEnabled(false); };
+    box.play("Down");
+    EXPECT_EQ(box.look(), "| -1") << "a key that disabled the box";
+    box.setEnabled(true);
+    scene.listener.onKeyDown = {};
+    scene.listener.onClick = [&box] { box.setItems(listItemsOf(u"other")); };
+    box.play("F4 Down*3 Enter");
+    EXPECT_EQ(box.look(), "| -1") << "the list is replaced while an item of it is picked";
+}
+
+TEST(ComboEditor, NoShortcutTakesItsKeys) {
+    Scene scene(Fruit);
+    FakeBox& box = scene.box;
+    const KeyStroke drop{keys::Down, 0, AltKey}, f4{keys::F4, 0, NoModifier}, closeWindow{keys::F4, 0, AltKey};
+    const KeyStroke escape{keys::Escape, 0, NoModifier}, enter{keys::Enter, 0, NoModifier}, down{keys::Down};
+    for (const KeyStroke& stroke : {drop, f4, down}) EXPECT_TRUE(box.claims(stroke)) << stroke.code;
+    for (const KeyStroke& stroke : {closeWindow, escape}) EXPECT_FALSE(box.claims(stroke)) << stroke.code;
+    EXPECT_FALSE(box.strike(escape)) << "a closed box leaves Escape to the window";
+    box.showDropDown(true);
+    EXPECT_TRUE(box.claims(escape));
+    EXPECT_TRUE(box.claims(enter));
+    EXPECT_TRUE(box.strike(escape)) << "an open list keeps Escape from closing the window too";
+}
+
+}  // namespace
+}  // namespace kel::test

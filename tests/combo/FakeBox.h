@@ -1,0 +1,71 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "forms/Home.h"
+#include "host/editing/EditedComboBox.h"
+#include "platform/headless/HeadlessWidgets.h"
+
+namespace kel::test {
+
+/// A combo box in memory, worked as a person would.
+class FakeBox final : public EditedComboBox<headless::HeadlessTextualWidget<ComboBox>>,
+                      public FormWindow,
+                      private ComboSurroundings {
+public:
+    static constexpr std::ptrdiff_t RowsOfList = 3;
+
+    explicit FakeBox(ComboBoxListener& listener) : EditedComboBox(listener, *this, colors::SystemWindowText) {}
+
+    /// Steps separated by ";": keys as `press` reads them, or "pick 2", "hover 2", "wheel -1", "button", "input 'x'"
+    /// from an input method, "drop 'x'", "menu EraseSelection".
+    void play(std::string_view script);
+
+    /// "Ap[ple] 0", with " open 2" behind for a dropped list with its third row highlighted.
+    std::string look() const;
+
+    void gotFocus() { Editor_.edit().listener().Text1_GotFocus(); }
+    void lostFocus() { Editor_.edit().listener().Text1_LostFocus(); }
+    bool claims(const KeyStroke& stroke) const { return Editor_.claims(stroke); }
+    bool strike(const KeyStroke& stroke) { return Editor_.edit().strike(stroke); }
+    int repaints() const { return Repaints_; }
+
+    bool visible() const override { return Visible_; }
+    void setVisible(bool visible) override { Visible_ = visible; }
+    Color backColor() const override { return BackColor_; }
+    void setBackColor(Color color) override { BackColor_ = color; }
+    std::u16string toolTip() const override { return ToolTip_; }
+    void setToolTip(std::u16string_view text) override { ToolTip_.assign(text); }
+    void setFocus() override {}
+
+private:
+    void playStep(std::string_view step);
+
+    void press(const KeyStroke& stroke) override;
+    void setClipboard(std::u16string_view text) override { Clipboard_.assign(text); }
+    PlacedControl& place(const ClassModel&, const Placement&, ControlObserver&) override { std::terminate(); }
+    PlacedPanel* placeForeign(const ForeignBlock&) override { return nullptr; }
+    void show() override {}
+    void focus(PlacedControl&) override {}
+    void click(PlacedControl&, std::int32_t) override {}
+    void rightClick(PlacedControl&) override {}
+    void spin(PlacedControl&, bool) override {}
+    PlacedControl* focused() const override { return nullptr; }
+    bool savePicture(const std::string&) override { return false; }
+
+    bool takesInput() const override { return enabled() && Visible_; }
+    void bufferChanged() override {}
+    void listChanged() override { ++Repaints_; }
+    std::u16string clipboardText() override { return Clipboard_; }
+    void setClipboardText(std::u16string_view text) override { Clipboard_.assign(text); }
+    std::ptrdiff_t linesOfPage() const override { return RowsOfList; }
+
+    std::u16string ToolTip_;
+    std::u16string Clipboard_;
+    Color BackColor_ = colors::SystemWindow;
+    bool Visible_ = true;
+    int Repaints_ = 0;
+};
+
+}  // namespace kel::test

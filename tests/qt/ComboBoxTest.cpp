@@ -1,0 +1,398 @@
+#include <gtest/gtest.h>
+#include <malloc.h>
+#include <QApplication>
+#include <QComboBox>
+#include <QInputMethodEvent>
+#include <QMimeData>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTest>
+#include <QWheelEvent>
+
+#include "common/basKelControls.h"
+#include "controls/combo/KelCombo.h"
+#include "library/SharedSettings.h"
+#include "platform/qt/QtComboBox.h"
+#include "platform/qt/QtHome.h"
+#include "tests/qt/ProbeForm.h"
+#include "tests/qt/QtForm.h"
+#include "values/Text.h"
+
+/// A combo field on the screen: what its list does for hands, keys and eyes.
+namespace kel::test {
+namespace {
+
+constexpr Rect First{120, 75, 4500, 300};
+constexpr Rect Second{120, 450, 4500, 300};
+constexpr char16_t Fruits[] = u"Apple,Apricot,Banana,Cherry,Damson,Elder,Fig,Grape,Hazel,Iris";
+
+class Combo : public testing::Test, private ControlObserver {
+protected:
+    Combo() : Home_(qt::makeHome({})) {
+        InitControls(settings(), Home_->system());
+        Window_ = Home_->makeWindow({u"Combos", {6000, 3000}, false}, Home_->system());
+        first = &place(u"a", First);
+        second = &place(u"b", Second);
+        Window_->show();
+    }
+
+    PlacedControl& place(const std::u16string& name, const Rect& bounds) {
+        PlacedControl& placed = Window_->place(KelComboModel, {.name = name, .bounds = bounds}, *this);
+        placed.control().InitProperties();
+        placed.setBounds(bounds);
+        comboOf(placed).put_List(Fruits);
+        return placed;
+    }
+
+    static KelCombo& comboOf(PlacedControl& placed) { return static_cast<KelCombo&>(placed.control()); }
+    static qt::QtComboBox& boxOf(PlacedControl& placed) {
+        return dynamic_cast<qt::QtComboBox&>(*placed.control().widgets().comboBox);
+    }
+    KelCombo& combo() { return comboOf(*first); }
+    qt::QtComboBox& box() { return boxOf(*first); }
+    qt::ComboList& list() { return *box().list(); }
+    bool isOpen() { return box().list() != nullptr && list().isVisible(); }
+    QPoint middleOf(int row) { return list().visualRect(list().model()->index(row, 0)).center(); }
+
+    FormWindow& window() { return *Window_; }
+    void unload() { Window_.reset(); }
+    SharedSettings& settings() { return Home_->settings(); }
+    void key(std::int16_t code, Modifiers modifiers = NoModifier) { window().press({code, 0, modifiers}); }
+    void type(std::u32string_view text) { typeInto(window(), text); }
+    void open() {
+        window().focus(*first);
+        key(keys::F4);
+        ASSERT_TRUE(isOpen());
+    }
+
+    std::string takeLog() { return std::exchange(Log_, {}); }
+    /// Runs when the user has picked an item.
+    std::function<void()> onClick;
+
+    PlacedControl* first;
+    PlacedControl* second;
+
+private:
+    void controlEvent(PlacedControl& control, const EventRow& event, std::span<Variant>) override {
+        Log_ += toUtf8(control.name()) + "." + toUtf8(event.name) + " ";
+        if (onClick && event.name == u"Click") onClick();
+    }
+    void propertyReported(PlacedControl&, std::u16string_view) override {}
+
+    std::unique_ptr<Home> Home_;
+    std::unique_ptr<FormWindow> Window_;
+    std::string Log_;
+};
+
+// ---- Hands and keys
+
+TEST_F(Combo, HandsAndKeysWorkTheList) {
+    struct Case {
+        const char* what;
+        std::function<void()> act;
+        const char* shown;
+        const char* events;
+    };
+    const auto pick = [this](std::int32_t item) { return [this, item] { window().pick(*first, item); }; };
+    const auto press = [this](std::vector<KeyStroke> strokes) {
+        return [this, strokes] {
+            for (const KeyStroke& stroke : strokes) window().press(stroke);
+        };
+    };
+    const auto compose = [this] {
+        QInputMethodEvent event;
+        event.setCommitString(QStringLiteral("e"));
+        QApplication::sendEvent(&box(), &event);
+    };
+    constexpr const char* Picked = "a.ChangeEx a.Click a.Change ";
+    constexpr const char* Typed = "a.ChangeEx a.Change ";
+    const Case cases[] = {
+        {"typing completes", press({strokeFor(U'd')}), "D[amson]", Typed},
+        {"an input method types too", compose, "E[lder]", Typed},
+        {"a click on a row", pick(2), "|Banana", Picked},
+        {"on one that is scrolled to", pick(9), "|Iris", Picked},
+        {"on none", pick(10), "|", ""},
+        {"keys in the list", press({{keys::F4}, {keys::Down}, {keys::PageDown}, {keys::Up}, {keys::Enter}}), "|Grape",
+         Picked},
+        {"Escape", press({{keys::Down, 0, AltKey}, {keys::Down}, {keys::Escape}}), "|", ""},
+        {"a character closes the list", press({{keys::F4}, strokeFor(U'c')}), "C[herry]", Typed},
+        {"without the list", press({{keys::Down}, {keys::Down}}), "|Apricot",
+         "a.ChangeEx a.Click a.Change a.ChangeEx a.Click a.Change "},
+    };
+    combo().put_Mandatory(false);
+    for (const Case& row : cases) {
+        combo().put_Text(u"");
+        window().focus(*second);
+        window().focus(*first);
+        takeLog();
+        row.act();
+        EXPECT_EQ(drawn(box()), row.shown) << row.what;
+        EXPECT_EQ(takeLog(), row.events) << row.what;
+        EXPECT_FALSE(isOpen()) << row.what;
+    }
+}
+
+TEST_F(Combo, PickingGivesTheFocus) {
+    window().focus(*second);
+    window().pick(*first, 0);
+    EXPECT_EQ(window().focused(), first);
+    key(keys::Tab);
+    EXPECT_EQ(window().focused(), second);
+}
+
+TEST_F(Combo, GivesNothingWhenBarred) {
+    combo().put_Text(u"Cherry");
+    for (const bool locked : {true, false}) {
+        combo().put_Locked(locked);
+        combo().put_Enabled(locked);
+        window().pick(*first, 0);
+        EXPECT_EQ(combo().get_Text(), u"Cherry") << locked;
+        EXPECT_EQ(window().focused() == first, locked) << "a locked field can be read";
+        EXPECT_FALSE(isOpen());
+    }
+}
+
+TEST_F(Combo, TheListIsNoChangeOfFocus) {
+    open();
+    const Color focused = settings().FieldBackFocus;
+    EXPECT_EQ(box().backColor(), focused);
+    EXPECT_EQ(window().focused(), first);
+    EXPECT_TRUE(box().hasFocus());
+    key(keys::Escape);
+    EXPECT_EQ(box().backColor(), focused);
+    combo().put_Mandatory(false);
+    type(U"zz");
+    combo().put_LimitToList(false);
+    key(keys::F4);
+    type(U"zz");
+    key(keys::F4);
+    key(keys::F4);
+    EXPECT_EQ(drawn(box()), "zz|") << "neither settled nor selected";
+}
+
+TEST_F(Combo, TabLeavesTheOpenList) {
+    comboOf(*second).put_Text(u"Fig");
+    comboOf(*second).put_SelectOnFocus(true);
+    open();
+    key(keys::Tab);
+    EXPECT_FALSE(isOpen());
+    EXPECT_EQ(window().focused(), second);
+    EXPECT_EQ(drawn(boxOf(*second)), "[Fig]") << "the next field sees that it was Tab";
+    EXPECT_EQ(box().backColor(), settings().FieldBackNormal);
+}
+
+TEST_F(Combo, ClosesWhenItIsBarredOrGone) {
+    const std::pair<const char*, std::function<void()>> ends[] = {
+        {"disabled", [this] { combo().put_Enabled(false); }},
+        {"hidden", [this] { box().setVisible(false); }},
+        {"another list", [this] { combo().put_List(u"x"); }},
+        {"another field", [this] { window().focus(*second); }},
+        {"a click into another field", [this] { window().click(*second, 0); }},
+    };
+    for (const auto& [what, end] : ends) {
+        combo().put_Enabled(true);
+        box().setVisible(true);
+        open();
+        end();
+        EXPECT_FALSE(isOpen()) << what;
+        EXPECT_FALSE(box().isDropped()) << what;
+    }
+    open();
+    unload();
+    letGo();
+}
+
+TEST_F(Combo, ThePickedItemMayEndTheForm) {
+    onClick = [this] { unload(); };
+    window().focus(*first);
+    qt::QtComboBox& gone = box();
+    gone.showDropDown(true);
+    const QPoint row = middleOf(1);
+    moveMouse(*list().viewport(), row);
+    pressMouse(*list().viewport(), row);
+    releaseMouse(*list().viewport(), row);
+    letGo();
+    EXPECT_EQ(takeLog(), "a.ChangeEx a.Click ");
+}
+
+// ---- Mouse
+
+TEST_F(Combo, TheButtonOpensAndCloses) {
+    const QPoint middle = box().button().rect().center();
+    pressMouse(box().button(), middle);
+    EXPECT_TRUE(isOpen());
+    EXPECT_TRUE(box().hasFocus());
+    releaseMouse(box().button(), middle);
+    EXPECT_TRUE(isOpen()) << "the release of the same press is no choice";
+    pressMouse(box().button(), middle);
+    releaseMouse(box().button(), middle);
+    EXPECT_FALSE(isOpen()) << "the press that closes does not open again";
+    pressMouse(box().button(), middle);
+    EXPECT_TRUE(isOpen());
+    releaseMouse(box().button(), middle);
+    pressMouse(box(), {4, 10});
+    EXPECT_FALSE(isOpen()) << "a press elsewhere";
+    releaseMouse(box(), {4, 10});
+    EXPECT_EQ(takeLog(), "");
+}
+
+TEST_F(Combo, RowsFollowThePointer) {
+    combo().put_Text(u"Banana");
+    open();
+    EXPECT_EQ(list().currentIndex().row(), 2);
+    moveMouse(*list().viewport(), middleOf(5));
+    EXPECT_EQ(list().currentIndex().row(), 5);
+    EXPECT_EQ(drawn(box()), "|Banana") << "nothing is picked yet";
+    pressMouse(*list().viewport(), middleOf(3));
+    releaseMouse(*list().viewport(), middleOf(3));
+    EXPECT_EQ(drawn(box()), "|Cherry");
+    EXPECT_FALSE(isOpen());
+}
+
+void turn(QWidget& area, int notches) {
+    const QPoint place = area.rect().center();
+    QWheelEvent event(place, area.mapToGlobal(place), {}, {0, notches * 120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&area, &event);
+}
+
+TEST_F(Combo, TheWheelPicksWhereTheFocusIsAndScrollsTheOpenList) {
+    combo().put_Text(u"Banana");
+    window().focus(*second);
+    turn(box(), -1);
+    EXPECT_EQ(combo().get_Text(), u"Banana") << "a form that is scrolled changes nothing";
+    window().focus(*first);
+    turn(box(), -1);
+    EXPECT_EQ(combo().get_Text(), u"Cherry");
+    open();
+    turn(*list().viewport(), -1);
+    EXPECT_GT(list().verticalScrollBar()->value(), 0);
+    EXPECT_EQ(combo().get_Text(), u"Cherry");
+}
+
+TEST_F(Combo, TakesDroppedTextAsTyping) {
+    combo().put_LimitToList(false);
+    combo().put_MaxLength(6);
+    QMimeData text;
+    text.setText(QStringLiteral("too long\nfor it"));
+    window().focus(*first);
+    QDragEnterEvent enters({4, 10}, Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&box(), &enters);
+    QDropEvent event(QPointF(4, 10), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&box(), &event);
+    EXPECT_EQ(drawn(box()), "too lo|");
+    window().rightClick(*first);
+    key('Z', ControlKey);
+    EXPECT_EQ(drawn(box()), "|");
+}
+
+// ---- Looks
+
+TEST_F(Combo, TheListStandsAtTheBox) {
+    const auto boxOnScreen = [this] { return QRect(box().mapToGlobal(QPoint()), box().size()); };
+    QWidget& form = *box().window();
+    open();
+    EXPECT_EQ(list().geometry().topLeft(), boxOnScreen().bottomLeft() + QPoint(0, 1));
+    EXPECT_EQ(list().width(), box().width());
+    EXPECT_EQ(list().indexAt({5, list().viewport()->height() - 1}).row(), 7) << "eight whole rows";
+    key(keys::Escape);
+
+    combo().put_List(u"Apple,Fig");
+    open();
+    combo().put_DropDownWidth(6000);
+    EXPECT_EQ(list().width(), 400) << "while it is open";
+    key(keys::Escape);
+    form.setLayoutDirection(Qt::RightToLeft);
+    form.move(300, 100);
+    open();
+    EXPECT_EQ(list().width(), 400);
+    EXPECT_EQ(list().geometry().right(), boxOnScreen().right());
+    EXPECT_LT(list().height(), 4 * box().height()) << "no longer than its items";
+    key(keys::Escape);
+
+    form.move(0, form.screen()->availableGeometry().bottom() - 40);
+    open();
+    EXPECT_EQ(list().geometry().bottom(), boxOnScreen().top() - 1) << "no room below";
+}
+
+/// The corner's colours: the outer line, the inner line, what is inside.
+std::vector<QRgb> cornerOf(const QImage& picture, const QPoint& corner, int step) {
+    std::vector<QRgb> colors;
+    for (int i = 0; i < 3; ++i) colors.push_back(picture.pixel(corner + i * QPoint(step, step)));
+    return colors;
+}
+
+TEST_F(Combo, WearsASunkenFrameAndARaisedButton) {
+    ASSERT_EQ(settings().ButtonWidthPixels, 16);
+    using Role = QPalette::ColorRole;
+    const auto color = [this](Role role) { return box().palette().color(role).rgb(); };
+    const QRgb base = color(Role::Base);
+    for (const bool mirrored : {false, true}) {
+        box().window()->setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
+        const QImage picture = box().grab().toImage();
+        const int right = picture.width() - 1;
+        const int bottom = picture.height() - 2;
+        const QPoint sunkenEnd = mirrored ? QPoint(right, bottom) : QPoint(0, 0);
+        const auto sunken = cornerOf(picture, sunkenEnd, mirrored ? -1 : 1);
+        const std::vector<QRgb> wanted = mirrored ? std::vector<QRgb>{color(Role::Light), color(Role::Midlight), base}
+                                                  : std::vector<QRgb>{color(Role::Dark), color(Role::Shadow), base};
+        EXPECT_EQ(sunken, wanted) << mirrored;
+
+        const int strip = mirrored ? 2 : right - 2 - 15;
+        EXPECT_EQ(picture.pixel(strip, 2), color(Role::Midlight)) << mirrored;
+        EXPECT_EQ(picture.pixel(strip + 1, 3), color(Role::Light)) << mirrored;
+        EXPECT_EQ(picture.pixel(strip + 15, bottom - 2), color(Role::Shadow)) << mirrored;
+        EXPECT_EQ(picture.pixel(strip + 14, bottom - 3), color(Role::Dark)) << mirrored;
+        EXPECT_EQ(picture.pixel(mirrored ? strip + 16 : strip - 1, 4), base) << "beside the strip";
+        EXPECT_NE(picture.pixel(0, bottom + 1), color(Role::Light)) << "the lowest row is outside";
+    }
+}
+
+TEST_F(Combo, TheButtonsWidthIsReadAtEachPainting) {
+    settings().ButtonWidthPixels = 24;
+    const QImage wide = box().grab().toImage();
+    EXPECT_EQ(wide.pixel(wide.width() - 2 - 24, 2), box().palette().color(QPalette::Midlight).rgb());
+    EXPECT_EQ(box().button().width(), 24);
+    settings().ButtonWidthPixels = 0;
+    const QImage none = box().grab().toImage();
+    EXPECT_NE(none.pixel(none.width() - 3, 10), box().palette().color(QPalette::Shadow).rgb());
+    EXPECT_GT(box().button().width(), 0) << "it can be clicked all the same";
+}
+
+// ---- Cost
+
+std::size_t heapBytes() { return mallinfo2().uordblks; }
+
+TEST_F(Combo, ALongListTakesNoMoreMemoryThanQtsOwn) {
+    constexpr int Count = 32767;
+    if (heapBytes() == 0) GTEST_SKIP() << "this build's heap does not count";
+    QStringList texts;
+    StringArray items;
+    for (int i = 0; i < Count; ++i) {
+        texts += QStringLiteral("Item %1").arg(i);
+        items.push_back(texts.back().toStdU16String());
+    }
+
+    QWidget parent;
+    std::size_t before = heapBytes();
+    QComboBox peer(&parent);
+    peer.setEditable(true);
+    for (const QString& text : texts) peer.addItem(QString(text.constData(), text.size()));
+    peer.resize(300, 20);
+    parent.show();
+    peer.showPopup();
+    QApplication::processEvents();
+    const std::size_t peers = heapBytes() - before;
+    peer.hidePopup();
+
+    before = heapBytes();
+    combo().ListFromArray(items);
+    open();
+    type(U"i");
+    open();
+    const std::size_t ours = heapBytes() - before;
+    EXPECT_LE(ours, peers);
+}
+
+}  // namespace
+}  // namespace kel::test

@@ -1,0 +1,107 @@
+#include "tests/qt/ProbeForm.h"
+
+#include <QApplication>
+#include <QProxyStyle>
+#include <QStyleFactory>
+#include <QTest>
+#include <QWindow>
+
+#include "platform/qt/EditBox.h"
+#include "platform/qt/QtHome.h"
+#include "platform/qt/QtUpDown.h"
+#include "values/Text.h"
+
+namespace kel::test {
+
+namespace {
+
+constexpr Rect BoxBounds{0, 0, 3000, 300};
+constexpr Rect SpinnerBounds{3000, 0, 240, 300};
+constexpr std::int32_t RowHeight = 375;
+
+class HastyStyle final : public QProxyStyle {
+public:
+    HastyStyle() : QProxyStyle(QStyleFactory::create(QApplication::style()->name())) {}
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returnData) const override {
+        if (hint == SH_SpinBox_ClickAutoRepeatThreshold) return ProbeForm::RepeatDelay;
+        if (hint == SH_SpinBox_KeyPressAutoRepeatRate) return ProbeForm::RepeatInterval;
+        return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+};
+
+QStyle& hastyStyle() {
+    static auto* const style = [] {
+        auto* const made = new HastyStyle;
+        made->setParent(qApp);
+        return made;
+    }();
+    return *style;
+}
+
+QWindow& windowOf(const QWidget& widget) { return *widget.window()->windowHandle(); }
+
+QPoint placeInWindow(const QWidget& widget, const QPoint& place) { return widget.mapTo(widget.window(), place); }
+
+}  // namespace
+
+ProbeForm::ProbeForm() : Home_(qt::makeHome({})) {
+    Window_ = Home_->makeWindow({u"Probes", {4500, 3000}, false}, Home_->system());
+    Window_->setClipboard(u"");
+}
+
+PlacedControl& ProbeForm::place(const std::u16string& name, const ClassModel& model, bool tabStop) {
+    const Rect bounds{0, NextTop_, BoxBounds.width + SpinnerBounds.width, BoxBounds.height};
+    NextTop_ += RowHeight;
+    PlacedControl& placed = Window_->place(model, {.name = name, .bounds = bounds, .tabStop = tabStop}, *this);
+    placed.setBounds(bounds);
+    ProbeControl& control = probe(placed);
+    control.box().move(BoxBounds);
+    control.spinner().move(SpinnerBounds);
+    control.spinner().setVisible(true);
+    spinnerWidgetOf(placed).setStyle(&hastyStyle());
+    return placed;
+}
+
+void ProbeForm::show() {
+    Window_->show();
+    ProbeControl::takeLog();
+}
+
+std::string ProbeForm::focused() const {
+    const PlacedControl* const holder = Window_->focused();
+    return holder == nullptr ? "nowhere" : toUtf8(holder->name());
+}
+
+void ProbeForm::raise(PlacedControl& placed, std::function<void()> handler) {
+    Handler_ = std::move(handler);
+    probe(placed).host().container.raiseEvent({.name = u"Event", .id = 1, .help = {}}, {});
+}
+
+QWidget& boxWidgetOf(PlacedControl& placed) { return dynamic_cast<QWidget&>(probe(placed).box()); }
+
+QWidget& spinnerWidgetOf(PlacedControl& placed) { return dynamic_cast<QWidget&>(probe(placed).spinner()); }
+
+void pressMouse(QWidget& widget, const QPoint& place) {
+    QTest::mousePress(&windowOf(widget), Qt::LeftButton, {}, placeInWindow(widget, place));
+}
+
+void moveMouse(QWidget& widget, const QPoint& place) {
+    QTest::mouseMove(&windowOf(widget), placeInWindow(widget, place));
+}
+
+void releaseMouse(QWidget& widget, const QPoint& place) {
+    QTest::mouseRelease(&windowOf(widget), Qt::LeftButton, {}, placeInWindow(widget, place));
+}
+
+QPoint buttonOf(const QWidget& spinner, bool upper) {
+    return {spinner.width() / 2, spinner.height() * (upper ? 1 : 3) / 4};
+}
+
+void letGo() {
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+}  // namespace kel::test

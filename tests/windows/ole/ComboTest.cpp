@@ -1,0 +1,232 @@
+// The combo field in a host: lists from arrays, and an event that the host may refuse.
+
+#include "tests/windows/ole/Check.h"
+#include "tests/windows/ole/Host.h"
+
+using namespace kel;
+using namespace kel::tests;
+
+namespace {
+
+constexpr DISPID ChangeId = 1;
+constexpr DISPID ClickId = 2;
+constexpr DISPID ChangeExId = 3;
+constexpr LONG MostItems = 32767;
+
+Ref<_KelCombo> makeCombo() { return create(L"KelControls8.KelCombo").as<_KelCombo>(); }
+
+/// An array of a host's, freed with it.
+class Array {
+public:
+    Array(VARTYPE type, ULONG count, LONG lowest = 0) {
+        SAFEARRAYBOUND bound{count, lowest};
+        Data = SafeArrayCreate(type, 1, &bound);
+        Type_ = type;
+    }
+    ~Array() { SafeArrayDestroy(Data); }
+    Array(const Array&) = delete;
+    Array& operator=(const Array&) = delete;
+
+    void put(LONG index, const wchar_t* text) {
+        Str string(text);
+        EXPECT_CODE(SafeArrayPutElement(Data, &index, static_cast<BSTR>(string)), S_OK);
+    }
+    void put(LONG index, VARIANT& value) { EXPECT_CODE(SafeArrayPutElement(Data, &index, &value), S_OK); }
+
+    VARIANT byValue() const {
+        VARIANT out = plain(static_cast<VARTYPE>(VT_ARRAY | Type_));
+        out.parray = Data;
+        return out;
+    }
+    VARIANT byReference() {
+        VARIANT out = plain(static_cast<VARTYPE>(VT_BYREF | VT_ARRAY | Type_));
+        out.pparray = &Data;
+        return out;
+    }
+
+    SAFEARRAY* Data = nullptr;
+
+private:
+    VARTYPE Type_;
+};
+
+HRESULT fill(IDispatch* field, const VARIANT& array) {
+    return invoke(field, L"ListFromArray", DISPATCH_METHOD, {array});
+}
+
+/// "a|b" for the items a and b.
+std::wstring itemsOf(_KelCombo* field) {
+    LONG count = 0;
+    EXPECT_CODE(field->get_ListCount(&count), S_OK);
+    std::wstring items;
+    for (LONG i = 1; i <= count; ++i) {
+        BSTR item = nullptr;
+        EXPECT_CODE(field->get_ListItem(static_cast<SHORT>(i), &item), S_OK);
+        items += (i == 1 ? L"" : L"|") + taken(item);
+    }
+    return items;
+}
+
+std::wstring textOf(_KelCombo* field) {
+    BSTR text = nullptr;
+    EXPECT_CODE(field->get_Text(&text), S_OK);
+    return taken(text);
+}
+
+BOOL CALLBACK findBox(HWND window, LPARAM found) {
+    wchar_t name[64];
+    GetClassNameW(window, name, 64);
+    if (std::wstring(name).find(L"ComboBox") == std::wstring::npos) return TRUE;
+    *reinterpret_cast<HWND*>(found) = window;
+    return FALSE;
+}
+
+/// A combo field on the screen, with two items.
+class ComboHost {
+public:
+    ComboHost() : Sink(false, u"KelCombo") {
+        Field = Inside.place(makeCombo());
+        EXPECT_CODE(Field.as<IPersistStreamInit>()->InitNew(), S_OK);
+        EXPECT_CODE(Field->put_List(Str(L"Apple,Banana")), S_OK);
+        EXPECT_CODE(Inside.verb(OLEIVERB_UIACTIVATE), S_OK);
+        SetActiveWindow(Inside.window());
+        pump();
+        EnumChildWindows(Inside.window(), &findBox, reinterpret_cast<LPARAM>(&Parts.hwndCombo));
+        Parts.cbSize = sizeof Parts;
+        EXPECT(GetComboBoxInfo(Parts.hwndCombo, &Parts));
+        adviseEvents(Field.get(), &Sink, u"KelCombo");
+    }
+
+    void type(WPARAM code) const {
+        PostMessageW(Parts.hwndItem, WM_KEYDOWN, code,
+                     static_cast<LPARAM>(1 | (MapVirtualKeyW(static_cast<UINT>(code), MAPVK_VK_TO_VSC) << 16)));
+        pump();
+    }
+
+    COMBOBOXINFO Parts{};
+    EventSink Sink;
+    Host Inside;
+    Ref<_KelCombo> Field;
+};
+
+}  // namespace
+
+TEST(combo_takes_arrays_of_every_kind_that_hosts_pass) {
+    Array texts(VT_BSTR, 3, 5);
+    texts.put(5, L"plain");
+    texts.put(6, L"with, comma");
+    texts.put(7, L"\"quoted\"");
+    Array mixed(VT_VARIANT, 2);
+    Var seven(7L);
+    Var word(L"word");
+    mixed.put(0, seven.Value);
+    mixed.put(1, word.Value);
+    VARIANT held = mixed.byValue();
+    VARIANT inVariable = plain(VT_BYREF | VT_VARIANT);
+    inVariable.pvarVal = &held;
+    SAFEARRAY* none = nullptr;
+    VARIANT undimensioned = plain(VT_BYREF | VT_ARRAY | VT_BSTR);
+    undimensioned.pparray = &none;
+    struct Row {
+        VARIANT array;
+        const wchar_t* items;
+    };
+    const Row rows[] = {{texts.byReference(), L"plain|with, comma|\"quoted\""},
+                        {inVariable, L"7|word"},
+                        {texts.byValue(), L"plain|with, comma|\"quoted\""},
+                        {mixed.byReference(), L"7|word"},
+                        {undimensioned, L""}};
+    const auto field = makeCombo();
+    for (const Row& row : rows) {
+        EXPECT_CODE(fill(field.get(), row.array), S_OK);
+        EXPECT_EQ(itemsOf(field.get()), row.items);
+    }
+    EXPECT_CODE(field->ListFromArray(&texts.Data), S_OK);
+    EXPECT_EQ(itemsOf(field.get()), rows[0].items);
+    EXPECT_CODE(field->ListFromArray(nullptr), E_POINTER);
+    // It stays the host's, which may go on with it.
+    LONG lowest = 0;
+    EXPECT_CODE(SafeArrayGetLBound(texts.Data, 1, &lowest), S_OK);
+    EXPECT_EQ(lowest, 5L);
+    EXPECT_CODE(SafeArrayRedim(texts.Data, texts.Data->rgsabound), S_OK);
+}
+
+TEST(combo_refuses_what_is_no_array_of_strings) {
+    const auto field = makeCombo();
+    EXPECT_CODE(field->put_List(Str(L"old")), S_OK);
+    Array numbers(VT_I4, 2);
+    SAFEARRAYBOUND bounds[2] = {{2, 0}, {2, 0}};
+    SAFEARRAY* table = SafeArrayCreate(VT_BSTR, 2, bounds);
+    VARIANT twoDimensions = plain(VT_ARRAY | VT_BSTR);
+    twoDimensions.parray = table;
+    Var word(L"word");
+    for (const VARIANT& wrong : {numbers.byReference(), numbers.byValue(), twoDimensions, word.Value, number(1)}) {
+        UINT which = 99;
+        EXPECT_CODE(invoke(field.get(), L"ListFromArray", DISPATCH_METHOD, {wrong}, nullptr, nullptr, &which),
+                    DISP_E_TYPEMISMATCH);
+        EXPECT_EQ(which, 0U);
+    }
+    SafeArrayDestroy(table);
+    EXPECT_EQ(itemsOf(field.get()), L"old");
+}
+
+TEST(combo_takes_no_more_items_than_there_are_numbers_for) {
+    const auto field = makeCombo();
+    Array many(VT_BSTR, MostItems + 2, 1);
+    many.put(MostItems, L"last");
+    many.put(MostItems + 1, L"one too many");
+    EXPECT_CODE(fill(field.get(), many.byReference()), S_OK);
+    LONG count = 0;
+    EXPECT_CODE(field->get_ListCount(&count), S_OK);
+    EXPECT_EQ(count, MostItems);
+    BSTR item = nullptr;
+    EXPECT_CODE(field->get_ListItem(static_cast<SHORT>(MostItems), &item), S_OK);
+    EXPECT_EQ(taken(item), L"last");
+}
+
+TEST(combo_event_may_be_refused_by_its_host) {
+    ComboHost host;
+    bool refuse = false;
+    host.Sink.Handler = [&] {
+        if (host.Sink.Heard.back() != ChangeExId) return;
+        EXPECT_EQ(host.Sink.Passed->cArgs, 1U);
+        const VARIANT& handled = host.Sink.Passed->rgvarg[0];
+        EXPECT_EQ(handled.vt, VT_BYREF | VT_BOOL);
+        EXPECT_EQ(*handled.pboolVal, VARIANT_TRUE);
+        if (refuse) *handled.pboolVal = VARIANT_FALSE;
+    };
+    host.type('B');
+    EXPECT_EQ(textOf(host.Field.get()), L"Banana");
+    EXPECT(host.Sink.Heard == (std::vector<DISPID>{ChangeExId, ChangeId}));
+    host.Sink.Heard.clear();
+    refuse = true;
+    host.type(VK_UP);
+    EXPECT_EQ(textOf(host.Field.get()), L"Apple");
+    EXPECT(host.Sink.Heard == std::vector<DISPID>{ChangeExId});
+    host.Sink.Heard.clear();
+    // What was refused is no reference: the text before is no change from it.
+    refuse = false;
+    host.type(VK_DOWN);
+    EXPECT(host.Sink.Heard.empty());
+    host.type(VK_UP);
+    EXPECT(host.Sink.Heard == (std::vector<DISPID>{ChangeExId, ClickId, ChangeId}));
+}
+
+TEST(combo_survives_a_host_that_unloads_in_its_event) {
+    ComboHost host;
+    HWND const list = host.Parts.hwndList;
+    host.Sink.Handler = [&] {
+        host.Inside.unload();
+        host.Field.reset();
+    };
+    SendMessageW(host.Parts.hwndCombo, CB_SHOWDROPDOWN, TRUE, 0);
+    RECT row{};
+    SendMessageW(list, LB_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&row));
+    const LPARAM place = MAKELPARAM(row.left + 2, row.top + 2);
+    PostMessageW(list, WM_LBUTTONDOWN, MK_LBUTTON, place);
+    PostMessageW(list, WM_LBUTTONUP, 0, place);
+    pump();
+    EXPECT(!host.Sink.Heard.empty());
+    EXPECT(!IsWindow(list));
+    EXPECT(GetCapture() == nullptr);
+}

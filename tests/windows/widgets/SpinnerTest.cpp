@@ -1,0 +1,174 @@
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+#include "platform/win32/MessageBox.h"
+#include "tests/windows/ole/Check.h"
+#include "tests/windows/ole/MessageBoxHand.h"
+#include "tests/windows/widgets/Stage.h"
+
+/// The system's up-down control under the mouse.
+namespace kel::tests {
+
+namespace {
+
+constexpr POINT Upper{8, 5};
+constexpr POINT Lower{8, 15};
+constexpr DWORD Delay = 900;  ///< longer than the system waits before it repeats
+
+std::ptrdiff_t stepsIn(const std::wstring& log) { return std::count(log.begin(), log.end(), L':'); }
+
+/// A stage on a host, its spinner shown and its box in the focus.
+class SpinnerStage {
+public:
+    SpinnerStage() {
+        Stage_.placeOn(Host_.window());
+        Stage_.spinner().setVisible(true);
+        SetFocus(Stage_.edit());
+        settle();
+        Stage_.takeLog();
+    }
+
+    Stage& stage() { return Stage_; }
+    HostWindow& host() { return Host_; }
+    HWND spinner() const { return Stage_.spinnerWindow(); }
+
+    void press(POINT place) {
+        postMouse(spinner(), WM_LBUTTONDOWN, MK_LBUTTON, place);
+        settle();
+    }
+    void moveTo(POINT place) {
+        postMouse(spinner(), WM_MOUSEMOVE, MK_LBUTTON, place);
+        settle();
+    }
+    void release(POINT place) {
+        postMouse(spinner(), WM_LBUTTONUP, 0, place);
+        settle();
+    }
+    void click(POINT place) { drag(spinner(), place, place); }
+
+    /// Steps told since the last log was taken.
+    std::ptrdiff_t steps() { return stepsIn(Stage_.takeLog()); }
+
+private:
+    HostWindow Host_;
+    Stage Stage_;
+};
+
+}  // namespace
+
+TEST(spinner_is_the_systems_and_steps_without_taking_the_focus) {
+    SpinnerStage scene;
+    DWORD low = 99;
+    DWORD high = 99;
+    SendMessageW(scene.spinner(), UDM_GETRANGE32, reinterpret_cast<WPARAM>(&low), reinterpret_cast<LPARAM>(&high));
+    EXPECT_EQ(low, 0UL);
+    EXPECT_EQ(high, 2UL);
+    EXPECT((GetWindowLongW(scene.spinner(), GWL_STYLE) & WS_TABSTOP) == 0);
+    scene.stage().box().setText(u"12");
+    scene.stage().box().setSelLength(2);
+    scene.stage().takeLog();
+    for (const POINT place : {Upper, Upper, Lower}) scene.click(place);
+    EXPECT_EQ(scene.stage().takeLog(), L"step:2 step:2 step:0");
+    EXPECT_EQ(drawn(scene.stage().box()), L"[12]");
+    EXPECT(GetFocus() == scene.stage().edit());
+    EXPECT(GetCapture() == nullptr);
+}
+
+TEST(spinner_repeats_while_its_button_is_held_and_the_pointer_is_over_it) {
+    SpinnerStage scene;
+    scene.press(Upper);
+    EXPECT_EQ(scene.stage().takeLog(), L"step:2");
+    settleFor(Delay);
+    EXPECT(scene.steps() >= 3);
+    scene.moveTo({-50, 5});
+    scene.steps();
+    settleFor(Delay);
+    EXPECT_EQ(scene.steps(), 0);
+    scene.moveTo(Upper);
+    settleFor(Delay);
+    EXPECT(scene.steps() >= 3);
+    scene.release(Upper);
+    scene.steps();
+    settleFor(Delay);
+    EXPECT_EQ(scene.steps(), 0);
+}
+
+TEST(spinner_stops_when_its_handler_takes_it_away) {
+    struct Deed {
+        const char* name;
+        void (*act)(Stage& stage);
+    };
+    const Deed deeds[] = {
+        {"disabled", [](Stage& stage) { stage.spinner().setEnabled(false); }},
+        {"hidden", [](Stage& stage) { stage.spinner().setVisible(false); }},
+        {"control disabled", [](Stage& stage) { stage.window().setEnabled(false); }},
+        {"control hidden", [](Stage& stage) { stage.window().setVisible(false); }},
+        {"host hidden", [](Stage& stage) { ShowWindow(GetParent(stage.window().handle()), SW_HIDE); }},
+        {"control without its host", [](Stage& stage) { stage.window().setParent(nullptr); }},
+        {"destroyed", [](Stage& stage) { stage.dropSpinner(); }},
+        {"window destroyed", [](Stage& stage) { DestroyWindow(GetParent(stage.window().handle())); }},
+        {"message box in front",
+         [](Stage& /*stage*/) {
+             const MessageBoxHand hand([](HWND /*box*/) { settleFor(Delay); });
+             win32::showMessageBox(nullptr, u"stopped", 64, u"spinner");
+             EXPECT_EQ(hand.seen(), 1);
+         }},
+    };
+    for (const Deed& deed : deeds) {
+        SpinnerStage scene;
+        scene.stage().onStep = [&] { deed.act(scene.stage()); };
+        HWND const window = scene.spinner();
+        scene.press(Upper);
+        settleFor(Delay);
+        if (const std::wstring log = scene.stage().takeLog(); stepsIn(log) != 1)
+            fail(__FILE__, __LINE__, std::string(deed.name) + ": " + shown(log));
+        EXPECT(GetCapture() != window);
+        if (IsWindow(window) != FALSE) scene.release(Upper);
+    }
+}
+
+TEST(spinner_does_not_step_again_while_its_handler_is_at_it) {
+    SpinnerStage scene;
+    scene.stage().onStep = [] { settleFor(Delay); };
+    scene.press(Upper);
+    EXPECT_EQ(scene.steps(), 1);
+    scene.release(Upper);
+}
+
+TEST(spinner_that_is_disabled_takes_nothing) {
+    SpinnerStage scene;
+    EXPECT(IsWindowEnabled(scene.spinner()));
+    scene.stage().spinner().setEnabled(false);
+    scene.click(Upper);
+    EXPECT(!IsWindowEnabled(scene.spinner()));
+    scene.stage().spinner().setEnabled(true);
+    scene.stage().window().setEnabled(false);
+    scene.stage().takeLog();
+    scene.click(Upper);
+    EXPECT_EQ(scene.stage().takeLog(), L"");
+    // It shows that it takes nothing, which it does by its own state alone.
+    EXPECT(!IsWindowEnabled(scene.spinner()));
+    scene.stage().window().setEnabled(true);
+    scene.click(Lower);
+    EXPECT_EQ(scene.stage().takeLog(), L"step:0");
+}
+
+TEST(spinner_comes_back_with_its_window) {
+    Stage stage;
+    {
+        HostWindow host;
+        stage.placeOn(host.window());
+        stage.spinner().setVisible(true);
+    }
+    EXPECT(stage.spinner().visible());
+    HostWindow host;
+    stage.placeOn(host.window());
+    EXPECT(IsWindowVisible(stage.spinnerWindow()));
+    drag(stage.spinnerWindow(), Upper, Upper);
+    EXPECT_EQ(stage.takeLog(), L"step:2");
+}
+
+}  // namespace kel::tests
