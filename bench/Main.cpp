@@ -40,6 +40,8 @@ int main(int argc, char** argv) {
             {"reading 15/03/2013 / QDate", "ReadDate", {"ReadDateByQDate"}, 0.1},
             {"reading 15/03/2013 / strptime", "ReadDate", {"ReadDateByStrptime"}, 2},
             {"reading 15 March 2013 in dd/mm/yyyy / QDate", "ReadWrittenDate", {"ReadDateByQDate"}, 1},
+            {"a step of a job that does not move the bar", "StepOfJob", {}, 30},
+            {"the same without the time left", "StepOfJobWithoutTime", {}, 5},
             {"loading a form of 1,000 text fields, headless", "LoadThousandFields", {}, 20e6},
         });
 }

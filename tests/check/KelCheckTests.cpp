@@ -1,0 +1,105 @@
+#include "controls/check/KelCheck.h"
+
+#include <gtest/gtest.h>
+
+#include "forms/Looks.h"
+#include "tests/check/OneControl.h"
+
+namespace kel::test {
+namespace {
+
+class Check : public testing::Test {
+protected:
+    OneControl Form{KelCheckModel};
+    KelCheck& It = Form.as<KelCheck>();
+    CheckBox& Box = *It.widgets().checkBox;
+
+    std::u16string look() { return describeLook(u"it", It); }
+};
+
+TEST_F(Check, NewlyPlacedItIsUncheckedAndNamed) {
+    It.InitProperties();
+    EXPECT_EQ(look(), u"it unchecked caption \"it\" fore 80000008");
+    EXPECT_EQ(It.get_Enabled(), true);
+    EXPECT_EQ(It.get_Mandatory(), true);
+    EXPECT_EQ(It.get_FontBold(), false);
+    EXPECT_EQ(Form.told(), Lines{});
+
+    TestBag bag;
+    It.WriteProperties(bag);
+    ASSERT_TRUE(bag.Stored.contains(u"Value")) << "loaded without it, the box would come back checked";
+    OneControl copy(KelCheckModel);
+    copy.as<KelCheck>().ReadProperties(bag);
+    EXPECT_EQ(describeLook(u"it", copy.as<KelCheck>()), u"it unchecked caption \"it\" fore 8000000D");
+    EXPECT_EQ(copy.told(), (Lines{"Enabled", "Locked", "Mandatory", "Value"})) << "and no event";
+}
+
+TEST_F(Check, GreyIsNotTrueAndAClickUnchecksIt) {
+    Box.setValue(CheckBox::Grey);
+    EXPECT_EQ(Form.told(), Lines{"Change!"}) << "the box was set by code, but not by the control's";
+    EXPECT_EQ(look(), u"it grey caption \"\" fore 80000008");
+    EXPECT_FALSE(It.get_Value());
+    Form.window().click(Form.placed(), 0);
+    EXPECT_EQ(look(), u"it unchecked caption \"\" fore 80000008");
+    EXPECT_EQ(Form.told(), Lines{"Change!"});
+    Box.setValue(CheckBox::Grey);
+    Form.told();
+    It.put_Value(false);
+    EXPECT_EQ(Box.value(), CheckBox::Unchecked);
+    EXPECT_EQ(Form.told(), Lines{"Value"});
+}
+
+TEST_F(Check, AnEventThatSetsTheValueRaisesNoFurtherOne) {
+    Form.onEvent = [this] { It.put_Value(false); };
+    Form.window().click(Form.placed(), 0);
+    EXPECT_FALSE(It.get_Value());
+    EXPECT_EQ(Form.told(), (Lines{"Change!", "Value"}));
+}
+
+TEST_F(Check, AnEventThatDisablesTheBoxEndsTheUsersTurn) {
+    Form.onEvent = [this] { It.put_Locked(true); };
+    Form.window().focus(Form.placed());
+    for (int presses = 0; presses < 2; ++presses) Form.window().press(strokeFor(U' '));
+    EXPECT_TRUE(It.get_Value());
+    EXPECT_EQ(Form.told(), (Lines{"Change!", "Locked"}));
+}
+
+TEST_F(Check, OnlyAPlainBlankToggles) {
+    Form.window().focus(Form.placed());
+    Form.window().press({keys::Space, U' ', ControlKey});
+    Form.window().press({keys::Space, U' ', AltKey});
+    Form.window().press({keys::Packet, 0xA0, NoModifier});
+    EXPECT_FALSE(It.get_Value());
+    Form.window().press({0, U' ', NoModifier});
+    EXPECT_TRUE(It.get_Value()) << "from an input method";
+    Form.window().press({keys::Space, U' ', ShiftKey});
+    EXPECT_FALSE(It.get_Value());
+}
+
+TEST_F(Check, ALockedBoxTakesNoFocusAndIsDrawnEnabled) {
+    struct {
+        bool enabled, locked;
+    } const states[] = {{true, true}, {false, true}, {false, false}, {true, false}};
+    for (const auto& state : states) {
+        SCOPED_TRACE(testing::Message() << state.enabled << state.locked);
+        It.put_Enabled(state.enabled);
+        It.put_Locked(state.locked);
+        EXPECT_EQ(It.get_Enabled(), state.enabled);
+        EXPECT_EQ(It.get_Locked(), state.locked);
+        EXPECT_EQ(Box.enabled(), state.enabled);
+        Form.window().focus(Form.placed());
+        EXPECT_EQ(Form.window().focused() != nullptr, state.enabled && !state.locked);
+    }
+}
+
+TEST_F(Check, TheTooltipIsTheExtendersAndSetForBoth) {
+    Form.placed().setToolTipText(u"from the form");
+    It.Show();
+    EXPECT_EQ(Box.toolTip(), u"from the form");
+    It.TooltipSet(u"from code");
+    EXPECT_EQ(Box.toolTip(), u"from code");
+    EXPECT_EQ(Form.placed().toolTipText(), u"from code");
+}
+
+}  // namespace
+}  // namespace kel::test
