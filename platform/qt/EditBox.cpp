@@ -11,7 +11,7 @@ namespace kel::qt {
 // ---- To Qt's widget
 
 void EditBox::bufferChanged() {
-    if (Adopting_) return;
+    if (Adopting_ || !isSeen()) return;
     const ShowingScope scope(Showing_);
     const Selection selection = buffer().selection();
     if (std::exchange(ShowsNew_, false))

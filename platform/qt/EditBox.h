@@ -51,6 +51,10 @@ protected:
 
     // ---- What Qt's widget shows. Positions are those of the text.
 
+    /// Laying out a text is what a widget spends most of its time on: one that nobody sees may leave it be, and then
+    /// says when it comes into sight.
+    virtual bool isSeen() const { return true; }
+    void comeIntoSight() { EditBox::bufferChanged(); }
     virtual std::u16string shownText() = 0;
     /// A text that came of the one shown: Qt's widget is told the difference only.
     virtual void showEdited(std::u16string_view text, std::size_t caret) = 0;

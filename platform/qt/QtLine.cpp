@@ -114,6 +114,12 @@ bool QtLine<Box>::event(QEvent* event) {
     });
 }
 
+template <class Box>
+void QtLine<Box>::showEvent(QShowEvent* event) {
+    QLineEdit::showEvent(event);
+    this->comeIntoSight();
+}
+
 // The reasons that Qt is given keep it from selecting all and from dropping the selection: both are the control's.
 
 template <class Box>

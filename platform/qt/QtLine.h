@@ -27,6 +27,7 @@ protected:
     }
 
     bool event(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override { this->keyPressed(*event); }
     void inputMethodEvent(QInputMethodEvent* event) override { this->inputMethodSpoke(*event); }
     void focusInEvent(QFocusEvent* event) override;
@@ -42,6 +43,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
+    bool isSeen() const override { return isVisible(); }
     std::u16string shownText() override;
     void showEdited(std::u16string_view text, std::size_t caret) override;
     void showNew(std::u16string_view text) override;

@@ -218,6 +218,7 @@ TEST(Widget, MayGoInASlotOfItsOwn) {
 TEST(Widget, ShowsItsPasswordCharacter) {
     KelTextWidget field;
     auto& edit = dynamic_cast<QLineEdit&>(boxOf(field));
+    field.show();
     field.setText(QStringLiteral("abc"));
     field.setPasswordChar(QStringLiteral("#!"));
     EXPECT_EQ(edit.displayText(), QStringLiteral("###"));
@@ -225,6 +226,20 @@ TEST(Widget, ShowsItsPasswordCharacter) {
     EXPECT_EQ(edit.displayText(), QStringLiteral("xxx"));
     field.setPasswordChar({});
     EXPECT_EQ(edit.displayText(), QStringLiteral("abc"));
+}
+
+TEST(Widget, ShowsWhatItWasGivenOutOfSight) {
+    KelTextWidget field;
+    auto& edit = dynamic_cast<QLineEdit&>(boxOf(field));
+    field.setText(QStringLiteral("before"));
+    EXPECT_EQ(field.text(), QStringLiteral("before"));
+    field.show();
+    EXPECT_EQ(edit.text(), QStringLiteral("before"));
+    field.hide();
+    field.setText(QStringLiteral("meanwhile"));
+    field.show();
+    EXPECT_EQ(edit.text(), QStringLiteral("meanwhile"));
+    EXPECT_EQ(edit.cursorPosition(), 0);
 }
 
 }  // namespace
