@@ -54,11 +54,9 @@ constexpr std::array<NumberField, FieldCount> NumberFields = [] {
 
 constexpr const NumberField& digitsOf(DateField field) { return NumberFields[static_cast<std::size_t>(field)]; }
 
-/// Whether digits may come next. In some languages the names of months begin with their numbers.
-bool isBeforeDigit(DateFieldScanner scanner) {
-    DateToken next;
-    return scanner.next(next) && (digitsOf(next.field).exists() || next.field == DateField::ShortMonthName ||
-                                  next.field == DateField::MonthName);
+/// Whether a text of the field may begin with a digit. In some languages the names of months begin with their numbers.
+constexpr bool mayBeginWithDigit(DateField field) {
+    return digitsOf(field).exists() || field == DateField::ShortMonthName || field == DateField::MonthName;
 }
 
 class LayoutReader {
@@ -81,11 +79,9 @@ private:
 
     bool take(const DateToken& token, const DateFieldScanner& behind) {
         const NumberField& number = digitsOf(token.field);
-        if (number.exists()) return takeNumber(number, behind.isAtLetter() && isBeforeDigit(behind));
+        if (number.exists()) return takeNumber(number, mayBeginWithDigit(behind.peek()));
+        if (!isPart(token.field)) return takeLiteral(literalOf(token));
         switch (token.field) {
-            case DateField::Literal: return takeLiteral(token.text);
-            case DateField::DateSeparator: return takeLiteral(Region_.DateSeparator);
-            case DateField::TimeSeparator: return takeLiteral(Region_.TimeSeparator);
             case DateField::ShortWeekday: return takeName(Region_.AbbreviatedWeekdayNames);
             case DateField::Weekday: return takeName(Region_.WeekdayNames);
             case DateField::ShortMonthName: return takeMonth(Region_.AbbreviatedMonthNames);
@@ -103,18 +99,27 @@ private:
         }
     }
 
+    std::u16string_view literalOf(const DateToken& token) const {
+        if (token.field == DateField::Literal) return token.text;
+        return token.field == DateField::DateSeparator ? Region_.DateSeparator : Region_.TimeSeparator;
+    }
+
     bool takeRegional(std::u16string_view expression) { return take(expression, DateFieldScanner::Source::Region); }
 
     /// Letters and digits as they are; any separators or none for separators.
     bool takeLiteral(std::u16string_view literal) {
         for (const char16_t unit : literal) {
-            if (!isWordUnit(unit)) {
+            if (!isWordUnit(unit))
                 skipSeparators(Text_);
-                continue;
-            }
-            if (Text_.empty() || plainLetter(Text_.front()) != plainLetter(unit)) return false;
-            Text_.remove_prefix(1);
+            else if (!takeLetter(unit))
+                return false;
         }
+        return true;
+    }
+
+    bool takeLetter(char16_t unit) {
+        if (Text_.empty() || plainLetter(Text_.front()) != plainLetter(unit)) return false;
+        Text_.remove_prefix(1);
         return true;
     }
 
@@ -144,31 +149,23 @@ private:
 
     bool takeMonth(std::span<const std::u16string> names) {
         const std::int32_t month = takeName(names);
-        if (month == 0 || (Written_.month != WrittenDate::Unsaid && Written_.month != month)) return false;
-        Written_.month = month;
-        return true;
+        return month != 0 && put(DatePart::Month, {month, 1});
     }
 
     bool takeNumber(const NumberField& number, bool isBeforeDigit) {
         if (isBeforeDigit && !number.isFixed()) return false;
-        const DigitGroup group =
-            isBeforeDigit ? takeDigits(Text_, Region_.ZeroDigit, number.most) : takeDigits(Text_, Region_.ZeroDigit);
+        const std::size_t most = isBeforeDigit ? number.most : Text_.size();
+        const DigitGroup group = takeDigits(Text_, Region_.ZeroDigit, most);
         if (group.digits == 0 || (isBeforeDigit && group.digits != number.most)) return false;
         return number.part ? put(*number.part, group) : group.digits <= number.most;
     }
 
     /// A part that is shown twice is written twice; the longer year counts.
     bool put(DatePart part, const DigitGroup& group) {
-        switch (part) {
-            case DatePart::Day:
-                if (Written_.day != WrittenDate::Unsaid && Written_.day != group.value) return false;
-                break;
-            case DatePart::Month:
-                if (Written_.month != WrittenDate::Unsaid && Written_.month != group.value) return false;
-                break;
-            case DatePart::Year:
-                if (group.digits <= Written_.yearDigits) return true;
-                break;
+        if (part == DatePart::Year) {
+            if (group.digits <= Written_.yearDigits) return true;
+        } else if (Written_.has(part) && Written_.of(part) != group.value) {
+            return false;
         }
         return Written_.put(part, group);
     }

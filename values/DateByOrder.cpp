@@ -263,7 +263,7 @@ bool readByOrder(std::u16string_view text, std::u16string_view expression, const
     if (!collector.run()) return false;
     const bool hasMonth = collector.month() != NoMonth;
     if (!NumberRoles(expression, region).put(collector.numbers(), hasMonth, written)) return false;
-    if (hasMonth) written.month = collector.month();
+    if (hasMonth) written.of(DatePart::Month) = collector.month();
     return true;
 }
 

@@ -53,11 +53,11 @@ std::int32_t yearNotAfter(Date latest, DateParts parts) {
 
 /// False when there is no such date.
 bool resolve(const WrittenDate& written, const Surroundings& by, Date& out) {
-    const bool hasDay = written.day != WrittenDate::Unsaid;
-    const bool hasMonth = written.month != WrittenDate::Unsaid;
-    const bool hasYear = written.year != WrittenDate::Unsaid;
+    const bool hasDay = written.has(DatePart::Day);
+    const bool hasMonth = written.has(DatePart::Month);
+    const bool hasYear = written.has(DatePart::Year);
     if (!hasDay && !hasMonth && !hasYear) return false;
-    DateParts parts{written.year, written.month, hasDay ? written.day : 1};
+    DateParts parts{written.of(DatePart::Year), written.of(DatePart::Month), hasDay ? written.of(DatePart::Day) : 1};
     if (!hasMonth || !hasYear) {
         const DateParts byDefault = datePartsOf(by.defaultDate);
         if (!hasYear) parts.year = byDefault.year;
@@ -65,8 +65,8 @@ bool resolve(const WrittenDate& written, const Surroundings& by, Date& out) {
         if (!hasDay) parts.day = byDefault.day;
     }
     if (hasYear && written.yearDigits <= ShortYearDigits) {
-        parts.year = fullYear(written.year, by.region.TwoDigitYearMax);
-        if (by.years == TwoDigitYears::NotAfterDefault) parts.year = yearNotAfter(by.defaultDate, parts);
+        parts.year = fullYear(parts.year, by.region.TwoDigitYearMax);
+        if (by.years == TwoDigitYears::NotAfterDefault) parts.year = yearNotAfter(dayOf(by.defaultDate), parts);
     }
     if (!calendar::exists(parts)) return false;
     out = calendar::dayWith(calendar::serialOf(parts));
@@ -90,8 +90,7 @@ std::optional<Date> readDate(std::u16string_view text, std::u16string_view forma
                              TwoDigitYears years, const RegionalSettings& region) {
     text = withoutOuterSeparators(text);
     if (text.empty()) return std::nullopt;
-    defaultDate = dayOf(defaultDate);
-    if (isWordForToday(text)) return defaultDate;
+    if (isWordForToday(text)) return dayOf(defaultDate);
     if (const NamedFormat* named = findNamedFormat(format)) format = named->expression;
     std::optional<Date> date(std::in_place);
     if (!read(text, format, {defaultDate, years, region}, *date)) date.reset();

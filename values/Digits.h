@@ -32,33 +32,35 @@ inline bool beginsWithDigit(std::u16string_view text, char32_t zero) {
 
 /// Digits in a row, as they stand in a date or time.
 struct DigitGroup {
+    static constexpr std::size_t Kept = 9;
+
     std::int32_t value = 0;  ///< of the first nine
     std::size_t digits = 0;
+
+    void add(unsigned digit) {
+        if (digits++ < Kept) value = value * 10 + static_cast<std::int32_t>(digit);
+    }
 };
+
+/// Takes more digits of a region, ASCII ones among them, until `group` has so many.
+void takeRegionalDigits(std::u16string_view& text, char32_t zero, std::size_t most, DigitGroup& group);
 
 /// Takes the digits in front off `text`, at most so many.
 inline DigitGroup takeDigits(std::u16string_view& text, char32_t zero,
                              std::size_t most = std::numeric_limits<std::size_t>::max()) {
-    constexpr std::size_t Kept = 9;
     DigitGroup group;
-    const auto add = [&group](unsigned digit) {
-        if (group.digits < Kept) group.value = group.value * 10 + static_cast<std::int32_t>(digit);
-        ++group.digits;
-    };
+    if (zero != U'0') {
+        takeRegionalDigits(text, zero, most, group);
+        return group;
+    }
+    const std::size_t end = std::min(most, text.size());
     std::size_t at = 0;
-    for (const std::size_t end = std::min(most, text.size()); at < end; ++at) {
+    for (; at < end; ++at) {
         const unsigned digit = static_cast<unsigned>(text[at]) - u'0';
         if (digit >= NoDigit) break;
-        add(digit);
+        group.add(digit);
     }
     text.remove_prefix(at);
-    if (zero == U'0') return group;
-    std::size_t units = 0;
-    for (unsigned digit = digitIn(text, zero, units); digit != NoDigit && group.digits < most;
-         digit = digitIn(text, zero, units)) {
-        add(digit);
-        text.remove_prefix(units);
-    }
     return group;
 }
 

@@ -22,6 +22,27 @@ struct WeekRule {
     FirstWeek firstWeek = FirstWeek::WithFirstJanuary;
 };
 
+namespace detail {
+
+/// Numbers of two digits, which most of a date and time is made of.
+enum class DatePair : std::uint8_t { Day, Month, Century, YearOfCentury, Hour, Minute, Second, None };
+
+struct DateStep {
+    DateField field;
+    DateField separator = DateField::Literal;  ///< that stands behind, or `Literal` for none
+    DatePair pair = DatePair::None;            ///< what the field shows, or a part of it
+    std::uint8_t leastOfTwoDigits = 0;         ///< lesser ones are shown with one digit
+    std::uint32_t textUnits = 0;               ///< of the text that goes with the field
+};
+
+/// What an expression makes of the time of day.
+struct Clock {
+    bool isShown = false;
+    bool countsToTwelve = false;
+};
+
+}  // namespace detail
+
 /// The section of a format expression that shows dates and times, as the steps that print it.
 class DateSection {
 public:
@@ -35,18 +56,12 @@ public:
     std::u16string text(Date date, const RegionalSettings& region, const WeekRule& weeks) const;
 
 private:
-    struct Step {
-        DateField field;
-        DateField separator;  ///< that stands behind, or `Literal` for none
-        std::uint32_t count;  ///< units of the text that goes with the field
-    };
-    class Printer;
+    void append(const detail::DateStep& step);
 
-    std::vector<Step> Steps_;
+    std::vector<detail::DateStep> Steps_;
     std::u16string Texts_;  ///< literals and markers of all steps, in order
+    detail::Clock Clock_;
     bool HasParts_ = false;
-    bool HasTime_ = false;
-    bool HasHalfDay_ = false;
 };
 
 }  // namespace kel

@@ -12,6 +12,25 @@ bool beginsWith(std::u16string_view text, std::u16string_view word) {
 
 }  // namespace
 
+DateField DateFieldScanner::nextField() const {
+    DateFieldScanner ahead = *this;
+    DateToken token;
+    ahead.next(token);
+    return token.field;
+}
+
+bool DateFieldScanner::nextLiteral(DateToken& token) {
+    token = {DateField::Literal, Scanner_.next().text};
+    return true;
+}
+
+bool DateFieldScanner::nextWord(DateToken& token) {
+    const std::u16string_view rest = Scanner_.rest();
+    const Run run = wordAt(rest);
+    token.text = rest.substr(0, run.length);
+    return take(run.field, run.length, token);
+}
+
 /// What begins with a letter that alone is no field.
 DateFieldScanner::Run DateFieldScanner::wordAt(std::u16string_view text) const {
     constexpr Run Itself{DateField::Literal};

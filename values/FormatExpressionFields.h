@@ -44,7 +44,7 @@ enum class DateField : std::uint8_t {
 
 struct DateToken {
     DateField field = DateField::Literal;
-    std::u16string_view text;  ///< of a literal or a marker; else the letters of the field
+    std::u16string_view text{};  ///< of a literal or a marker; of no meaning for other fields
 };
 
 constexpr bool isHour(DateField field) { return field == DateField::Hour || field == DateField::TwoDigitHour; }
@@ -113,17 +113,22 @@ public:
     /// The next token; false at the end.
     bool next(DateToken& token);
 
-    /// Whether a letter comes next, which may be a field.
-    bool isAtLetter() const;
+    /// The field of the next token; `Literal` at the end, too.
+    DateField peek() const { return isAtLetter() ? nextField() : DateField::Literal; }
 
 private:
     struct Run {
         DateField field;
         std::size_t length = 1;
     };
+    DateField nextField() const;
+    bool isAtLetter() const;
     bool nextSymbol(DateToken& token);
+    bool nextLiteral(DateToken& token);
+    bool nextWord(DateToken& token);
     Run runAt(std::u16string_view text, detail::LetterRun run) const;
     Run wordAt(std::u16string_view text) const;
+    bool take(DateField field, std::size_t units, DateToken& token);
 
     FormatScanner Scanner_;
     Source Source_;
@@ -131,7 +136,6 @@ private:
 };
 
 inline DateFieldScanner::Run DateFieldScanner::runAt(std::u16string_view text, detail::LetterRun run) const {
-    if (run.most == 0) return wordAt(text);
     std::size_t count = detail::lettersInRow(text, run.most);
     switch (run.first) {
         case DateField::Day:
@@ -151,14 +155,13 @@ inline DateFieldScanner::Run DateFieldScanner::runAt(std::u16string_view text, d
 
 /// Takes what begins with something else than a letter.
 inline bool DateFieldScanner::nextSymbol(DateToken& token) {
-    token.field = DateField::Literal;
     switch (Scanner_.rest().front()) {
         case u';': return false;
         case u'/': token.field = DateField::DateSeparator; break;
         case u':': token.field = DateField::TimeSeparator; break;
-        default: break;
+        default: return nextLiteral(token);
     }
-    token.text = Scanner_.next().text;
+    Scanner_.skip(1);
     return true;
 }
 
@@ -166,17 +169,21 @@ inline bool DateFieldScanner::isAtLetter() const {
     return !Scanner_.atEnd() && detail::letterIndex(Scanner_.rest().front()) < detail::LetterRuns.size();
 }
 
+inline bool DateFieldScanner::take(DateField field, std::size_t units, DateToken& token) {
+    Scanner_.skip(units);
+    token.field = field;
+    if (isPart(field)) IsBehindHour_ = isHour(field);
+    return true;
+}
+
 inline bool DateFieldScanner::next(DateToken& token) {
     if (Scanner_.atEnd()) return false;
-    const std::u16string_view rest = Scanner_.rest();
-    const std::size_t letter = detail::letterIndex(rest.front());
+    const std::size_t letter = detail::letterIndex(Scanner_.rest().front());
     if (letter >= detail::LetterRuns.size()) return nextSymbol(token);
-    const Run run = runAt(rest, detail::LetterRuns[letter]);
-    Scanner_.skip(run.length);
-    token.field = run.field;
-    token.text = rest.substr(0, run.length);
-    if (isPart(run.field)) IsBehindHour_ = isHour(run.field);
-    return true;
+    const detail::LetterRun& letters = detail::LetterRuns[letter];
+    if (letters.most == 0) return nextWord(token);
+    const Run run = runAt(Scanner_.rest(), letters);
+    return take(run.field, run.length, token);
 }
 
 }  // namespace kel

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "values/CaseFolding.h"
+#include "values/Digits.h"
 
 namespace kel {
 
@@ -62,6 +63,15 @@ char16_t plainLetter(char16_t unit) {
     if (inTable(FirstLatin, PlainLatin)) return PlainLatin[folded - FirstLatin];
     if (inTable(FirstGreek, PlainGreek)) return PlainGreek[folded - FirstGreek];
     return folded == Io ? Ie : folded;
+}
+
+void takeRegionalDigits(std::u16string_view& text, char32_t zero, std::size_t most, DigitGroup& group) {
+    std::size_t units = 0;
+    for (unsigned digit = digitIn(text, zero, units); digit != NoDigit && group.digits < most;
+         digit = digitIn(text, zero, units)) {
+        group.add(digit);
+        text.remove_prefix(units);
+    }
 }
 
 bool beginsWithLetters(std::u16string_view text, std::u16string_view wanted) {

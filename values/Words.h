@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <string_view>
 
 #include "values/Text.h"
@@ -10,11 +12,22 @@ namespace kel {
 /// Letters, the marks that go with them, and digits: all that is no blank, punctuation or symbol. Half a
 /// surrogate pair counts too, as what is written in pairs are mostly rare letters.
 bool isWordUnitBeyondAscii(char16_t unit);
+
+namespace detail {
+
+inline constexpr std::array<bool, 0x80> AsciiWordUnits = [] {
+    std::array<bool, 0x80> units{};
+    for (std::size_t unit = 0; unit < units.size(); ++unit) {
+        const std::size_t lower = unit | 0x20;
+        units[unit] = (lower >= 'a' && lower <= 'z') || (unit >= '0' && unit <= '9');
+    }
+    return units;
+}();
+
+}  // namespace detail
+
 inline bool isWordUnit(char16_t unit) {
-    if (unit >= 0x80) return isWordUnitBeyondAscii(unit);
-    const auto letter = static_cast<unsigned>((unit | 0x20) - u'a');
-    const auto digit = static_cast<unsigned>(unit - u'0');
-    return letter < 26 || digit < 10;
+    return unit < detail::AsciiWordUnits.size() ? detail::AsciiWordUnits[unit] : isWordUnitBeyondAscii(unit);
 }
 
 /// The letter that stands for this one when case and accents of Latin, Greek and Cyrillic are left aside; any
@@ -23,7 +36,9 @@ char16_t plainLetter(char16_t unit);
 
 /// Takes what is no word unit off the front.
 inline void skipSeparators(std::u16string_view& text) {
-    while (!text.empty() && !isWordUnit(text.front())) text.remove_prefix(1);
+    std::size_t at = 0;
+    while (at < text.size() && !isWordUnit(text[at])) ++at;
+    text.remove_prefix(at);
 }
 
 /// Whether `text` begins with `wanted`, case and accents aside.

@@ -14,23 +14,19 @@ enum class DatePart : std::uint8_t { Day, Month, Year };
 struct WrittenDate {
     static constexpr std::int32_t Unsaid = -1;
 
-    std::int32_t day = Unsaid;
-    std::int32_t month = Unsaid;
-    std::int32_t year = Unsaid;
+    std::array<std::int32_t, 3> parts{Unsaid, Unsaid, Unsaid};  ///< by `DatePart`
     std::size_t yearDigits = 0;
+
+    bool has(DatePart part) const { return of(part) != Unsaid; }
+    std::int32_t of(DatePart part) const { return parts[static_cast<std::size_t>(part)]; }
+    std::int32_t& of(DatePart part) { return parts[static_cast<std::size_t>(part)]; }
 
     /// False when a part of this kind is not written with so many digits.
     bool put(DatePart part, const DigitGroup& group) {
         const std::size_t most = part == DatePart::Year ? 4 : 2;
         if (group.digits == 0 || group.digits > most) return false;
-        switch (part) {
-            case DatePart::Day: day = group.value; break;
-            case DatePart::Month: month = group.value; break;
-            case DatePart::Year:
-                year = group.value;
-                yearDigits = group.digits;
-                break;
-        }
+        of(part) = group.value;
+        if (part == DatePart::Year) yearDigits = group.digits;
         return true;
     }
 };

@@ -119,6 +119,20 @@ TEST(DateFormat, KeepsLiteralsAndUsesTheFirstSection) {
     });
 }
 
+TEST(DateFormat, ShowsLongTextsWhole) {
+    RegionalSettings region = *findRegion(u"en-GB");
+    for (const char16_t* separator : {u"/", u" -- "}) {
+        region.DateSeparator = separator;
+        for (std::size_t length = 1; length < 200; ++length) {
+            const std::u16string words(length, u'x');
+            const std::u16string expression = u'"' + words + u"\"/dd/\"" + words + u"\"//yyyymmmm";
+            const std::u16string expected =
+                words + separator + u"15" + separator + words + separator + separator + u"2013March";
+            ASSERT_EQ(toUtf8(FormatExpression(expression).format(Friday, region)), toUtf8(expected));
+        }
+    }
+}
+
 TEST(DateFormat, CountsWeeksByEveryRule) {
     using enum WeekRule::FirstWeek;
     const WeekRule american{}, iso{2, WithFourDays}, full{2, FirstFull}, regional{0, WithFirstJanuary};
