@@ -1,18 +1,14 @@
 #include "controls/datetime/KelDate.h"
 
-#include "common/Persistence.h"
-
 namespace kel {
-
-KelDate::KelDate(ControlHost& host) : Field_(host, *this, DefaultDateFormat, AllDates) {}
 
 void KelDate::put_DaysFlag(KelDateDaysFlag flag) {
     DaysFlag_ = flag;
-    frame().report(u"DaysFlag");
+    field().frame().report(u"DaysFlag");
 }
 
 void KelDate::put_Format(const std::u16string& format) {
-    if (!format.empty()) Field_.putFormat(format);
+    if (!format.empty()) field().putFormat(format);
 }
 
 Variant KelDate::parse(const Variant& text) const {
@@ -25,11 +21,9 @@ DayPin KelDate::pin() const {
 }
 
 FieldStep KelDate::step(const BoxState& box, std::int32_t delta) const {
-    return stepDate(box, host().system.today(), delta, Field_.textRules(), pin());
+    return stepDate(box, host().system.today(), delta, field().textRules(), pin());
 }
 
-std::u16string KelDate::storedValue() const { return savedDate(Field_.valueToStore(), host().system.today()); }
-
-void KelDate::WriteProperties(PropertyBag& bag) const { writePersisted(*this, bag); }
+std::u16string KelDate::storedValue() const { return savedDate(field().valueToStore(), host().system.today()); }
 
 }  // namespace kel
