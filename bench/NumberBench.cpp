@@ -10,6 +10,7 @@
 #include "bench/Widgets.h"
 #include "controls/number/NumberText.h"
 #include "KelNumberWidget.h"
+#include "runtime/Numbers.h"
 #include "values/FormatExpression.h"
 
 namespace {
@@ -101,10 +102,10 @@ BENCHMARK(DisplayNumberByIcu);
 
 void ReadNumber(benchmark::State& state) {
     const kel::RegionalSettings& region = kel::defaultRegion();
-    std::u16string_view text = AmountText;
+    kel::Variant text = std::u16string(AmountText);
     for (auto _ : state) {
         benchmark::DoNotOptimize(text);
-        double amount = kel::parseText(text, Decimals, region);
+        double amount = kel::numberFromValue(text, Decimals, region);
         benchmark::DoNotOptimize(amount);
     }
 }

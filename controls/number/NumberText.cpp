@@ -97,12 +97,6 @@ std::u16string editText(double value, std::int16_t decimals, const RegionalSetti
         value, {.decimals = decimals, .leadingZero = false, .trailingZeros = false, .typedSymbols = true}, region);
 }
 
-double parseText(std::u16string_view text, std::int16_t decimals, const RegionalSettings& region) {
-    double number = 0;
-    readNumber(text, region, number);
-    return roundDecimally(number, decimals);
-}
-
 Color numberColor(double value) { return value < 0 ? Red : Black; }
 
 double clampNumber(double value, double minimum, double maximum) {

@@ -22,10 +22,6 @@ std::u16string displayText(double value, std::int16_t decimals, bool groupDigits
 /// the empty text, 0.5 is ".5".
 std::u16string editText(double value, std::int16_t decimals, const RegionalSettings& region);
 
-/// The number that the text of a field stands for, rounded; 0 for what is no number. It is what the default
-/// run-time object makes of the text.
-double parseText(std::u16string_view text, std::int16_t decimals, const RegionalSettings& region);
-
 /// Red below zero, else black.
 Color numberColor(double value);
 

@@ -7,6 +7,7 @@
 
 #include "runtime/Numbers.h"
 #include "tests/runtime/RegionalServices.h"
+#include "values/NumberFormat.h"
 #include "values/Text.h"
 
 namespace kel {
@@ -181,6 +182,8 @@ TEST(NumericValues, AreNumbersAndTextsOfNumbers) {
         {"True", true, true, -1},
         {"nothing yet", Empty{}, true, 0},
         {"a text", std::u16string(u"(1,234.555)"), true, 1234.56 * -1},
+        {"a text with a half", std::u16string(u"1.005"), true, 1.01},
+        {"a general text", generalNumber(1e20, defaultRegion()), true, 1e20},
         {"the empty text", std::u16string(), false, 0},
         {"another text", std::u16string(u"abc"), false, 0},
         {"too large a text", std::u16string(u"1e400"), false, Largest},

@@ -6,7 +6,6 @@
 #include <limits>
 
 #include "values/FormatExpression.h"
-#include "values/NumberFormat.h"
 #include "values/Text.h"
 
 namespace kel {
@@ -169,10 +168,6 @@ TEST(NumberText, ClampsAndSteps) {
     EXPECT_TRUE(isInRange(10, 10, 20) && isInRange(20, 10, 20));
     EXPECT_FALSE(isInRange(9.99, 10, 20) || isInRange(20.01, 10, 20) || isInRange(noNumber, 10, 20));
     EXPECT_EQ(steppedNumber(1.9, -0.05), 1.85);
-    EXPECT_EQ(parseText(u"", 2, defaultRegion()), 0);
-    EXPECT_EQ(parseText(u"1.005", 2, defaultRegion()), 1.01);
-    EXPECT_EQ(parseText(u"abc", 2, defaultRegion()), 0);
-    EXPECT_EQ(parseText(generalNumber(1e20, defaultRegion()), 2, defaultRegion()), 1e20);
     EXPECT_EQ(numberColor(-0.01), 0x0000FFU);
     EXPECT_EQ(numberColor(0), 0U);
 }
