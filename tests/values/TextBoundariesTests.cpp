@@ -1,7 +1,6 @@
 #include "values/TextBoundaries.h"
 
 #include <gtest/gtest.h>
-#include <chrono>
 #include <vector>
 
 #include "values/Text.h"
@@ -144,13 +143,12 @@ TEST(Snapping, MovesOffTheMiddleOfAUnit) {
     EXPECT_EQ(snapDown(text, 99, true), 6U);
 }
 
+/// Looking back once for each of them would outlast any patience.
 TEST(Characters, LongTextsOfOneKindAreCrossedAtOnce) {
     constexpr std::size_t Many = 500'000;
     std::u16string picturesJoined;
     while (picturesJoined.size() < Many) picturesJoined += u"\U0001F468\u200D";
-    const auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(nextCharacter(picturesJoined, 0, false), picturesJoined.size());
     EXPECT_EQ(previousCharacter(picturesJoined, picturesJoined.size(), false), 0U);
     EXPECT_EQ(nextCharacter(u"a" + std::u16string(Many, u'\u0301'), 0, false), Many + 1);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
 }
