@@ -19,7 +19,7 @@ BackChange backOnStateChange(const SharedSettings& settings, bool barred, Color 
     return {settings.FieldBackNormal, true};
 }
 
-void selectOnFocus(TextBox& box, bool tabKeyDown) {
+void selectOnFocus(TextEntry& box, bool tabKeyDown) {
     if (!tabKeyDown) {
         box.setSelLength(0);
         return;

@@ -24,8 +24,8 @@ BackChange backOnStateChange(const SharedSettings& settings, bool barred, Color 
 
 constexpr Color captionColor(bool mandatory) { return mandatory ? colors::SystemHighlight : colors::SystemWindowText; }
 
-/// On entering a text box with select-on-focus: Tab selects all, a click nothing.
-void selectOnFocus(TextBox& box, bool tabKeyDown);
+/// On entering a text or combo box with select-on-focus: Tab selects all, a click nothing.
+void selectOnFocus(TextEntry& box, bool tabKeyDown);
 
 /// Selects what the next typed character overwrites: the character behind the caret, unless something is
 /// selected already. Never half a surrogate pair, and never a line break.

@@ -18,7 +18,7 @@ SpinnerField::SpinnerField(ControlHost& host, TextBoxListener& boxListener, UpDo
       UpDown1_(host.widgets.makeUpDown(spinnerListener)) {}
 
 WidgetSet SpinnerField::widgets() const {
-    return {.label = Label1_.get(), .field = Text1_.get(), .textBox = Text1_.get(), .upDown = UpDown1_.get()};
+    return {.label = Label1_.get(), .field = Text1_.get(), .entry = Text1_.get(), .upDown = UpDown1_.get()};
 }
 
 // ---- Properties

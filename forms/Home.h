@@ -30,6 +30,12 @@ protected:
     ~ControlObserver() = default;
 };
 
+/// For those who do not listen.
+class SilentObserver final : public ControlObserver {
+    void controlEvent(PlacedControl&, const EventRow&, std::span<Variant>) override {}
+    void propertyReported(PlacedControl&, std::u16string_view) override {}
+};
+
 /// A control on a form's window, with its place there.
 class PlacedControl {
 public:
@@ -112,9 +118,9 @@ public:
     /// spinner takes none.
     virtual void spin(PlacedControl& control, bool up) = 0;
 
-    /// Opens the list of the control's combo box and clicks this item of it, counted from 0. A disabled or locked box
-    /// gives nothing, nor does a window that hosts none.
-    virtual void pick(PlacedControl& /*control*/, std::int32_t /*item*/) {}
+    /// Opens the list of the control's combo box and clicks this item of it, which there is, counted from 0. A disabled
+    /// or locked box gives nothing.
+    virtual void pick(PlacedControl& control, std::int32_t item) = 0;
 
     virtual void setClipboard(std::u16string_view text) = 0;
 

@@ -22,7 +22,7 @@ std::u16string written(const Rect& bounds) {
                  " " + std::to_string(bounds.height));
 }
 
-std::u16string drawn(const TextBox& box) {
+std::u16string drawn(const TextEntry& box) {
     return drawScriptText(box.text(), static_cast<std::size_t>(box.selStart()),
                           static_cast<std::size_t>(box.selLength()));
 }
@@ -53,7 +53,7 @@ std::u16string describeLook(std::u16string_view name, Control& control) {
     std::u16string look(name);
     if (widgets.checkBox != nullptr) return look + u" " + lookOf(*widgets.checkBox);
     if (widgets.picture != nullptr) return look + u" " + lookOf(*widgets.picture);
-    if (widgets.textBox != nullptr) look += u" " + drawn(*widgets.textBox);
+    if (widgets.entry != nullptr) look += u" " + drawn(*widgets.entry);
     if (widgets.field != nullptr)
         look += u" back " + hex(widgets.field->backColor()) + u" fore " + hex(widgets.field->foreColor());
     if (widgets.label != nullptr) look += u" caption " + hex(widgets.label->foreColor());
@@ -68,7 +68,9 @@ std::u16string describeLayout(std::u16string_view name, const Rect& bounds, Cont
     if (widgets.label != nullptr) layout += u" label " + written(widgets.label->bounds());
     if (widgets.field != nullptr) layout += u" field " + written(widgets.field->bounds());
     const bool spins = widgets.upDown != nullptr && widgets.upDown->visible();
-    return layout + u" spinner " + (spins ? written(widgets.upDown->bounds()) : u"-");
+    layout += u" spinner " + (spins ? written(widgets.upDown->bounds()) : u"-");
+    if (widgets.comboBox != nullptr) layout += u" list " + widen(std::to_string(widgets.comboBox->droppedWidth()));
+    return layout;
 }
 
 }  // namespace kel

@@ -42,6 +42,14 @@ std::u16string returnedArguments(const MemberRow& member, std::span<const Varian
     return text;
 }
 
+std::string_view verbName(Verb verb) {
+    switch (verb) {
+        case Verb::Get: return "get";
+        case Verb::Set: return "put";
+        default: return "call";
+    }
+}
+
 DispatchFault access(Verb verb, LibraryObject& object, const MemberRow& member, std::vector<Variant>& arguments,
                      Variant& result, const RegionalSettings& region) {
     switch (verb) {
@@ -65,9 +73,24 @@ void Player::open(const std::string& path) {
     FormFile file = readFormFile(path);
     Form_.reset();
     Reported_.clear();
+    useLoaded(file);
     ControlObserver& observer = *this;
     Form_ = std::make_unique<Form>(Home_, System_, observer, std::move(file));
     Form_->show();
+}
+
+void Player::use(const ClassModel& model, std::string_view how, std::u16string_view name) {
+    Used_.insert(toUtf8(model.name) + " " + std::string(how) + " " + toUtf8(name));
+}
+
+void Player::useLoaded(const FormFile& file) {
+    for (FormBlockId id = 0; id < file.blocks().size(); ++id) {
+        const FormBlock& block = file.block(id);
+        const ClassModel* const model = isLibraryClass(block) ? libraryClasses().find(block.className) : nullptr;
+        if (model == nullptr) continue;
+        for (const PersistedRow& row : model->loaded)
+            if (file.find(id, row.readName)) use(*model, "load", row.name);
+    }
 }
 
 void Player::print(const std::u16string& line) { Printed_.push_back(toUtf8(line)); }
@@ -108,7 +131,7 @@ void Player::execute(const ScriptCommand& command, const std::string& scriptFile
             break;
         case Verb::Caret: setCaret(command, scriptFile); break;
         case Verb::Spin: spin(control(), command, scriptFile); break;
-        case Verb::Pick: throw ScriptError(scriptFile, command.line, toUtf8(control().name()) + " has no list");
+        case Verb::Pick: pick(control(), command, scriptFile); break;
         case Verb::Get:
         case Verb::Set:
         case Verb::Call: accessMember(control(), command, scriptFile); break;
@@ -141,7 +164,7 @@ void Player::press(const KeyStroke& stroke, const ScriptCommand& command) {
 
 void Player::setCaret(const ScriptCommand& command, const std::string& scriptFile) {
     PlacedControl* focused = Form_->window().focused();
-    TextBox* box = focused == nullptr ? nullptr : focused->control().widgets().textBox;
+    TextEntry* const box = focused == nullptr ? nullptr : focused->control().widgets().entry;
     if (box == nullptr) throw ScriptError(scriptFile, command.line, "no text field has the focus");
     box->setSelStart(command.numbers[0]);
     if (command.numbers.size() > 1) box->setSelLength(command.numbers[1]);
@@ -153,6 +176,18 @@ void Player::spin(PlacedControl& control, const ScriptCommand& command, const st
         throw ScriptError(scriptFile, command.line,
                           toUtf8(control.name()) + (spinner == nullptr ? " has no spinner" : " shows no spinner"));
     for (std::size_t i = repetitions(command); i > 0; --i) Form_->window().spin(control, command.up);
+}
+
+void Player::pick(PlacedControl& control, const ScriptCommand& command, const std::string& scriptFile) {
+    const ComboBox* const box = control.control().widgets().comboBox;
+    const std::string name = toUtf8(control.name());
+    if (box == nullptr) throw ScriptError(scriptFile, command.line, name + " has no list");
+    const std::int32_t item = command.numbers[0] - 1;
+    if (!box->items().contains(item))
+        throw ScriptError(scriptFile, command.line,
+                          name + " has " + std::to_string(box->items().size()) + " items, and no item " +
+                              std::to_string(command.numbers[0]));
+    Form_->window().pick(control, item);
 }
 
 void Player::accessMember(PlacedControl& placed, const ScriptCommand& command, const std::string& scriptFile) {
@@ -167,6 +202,7 @@ void Player::accessMember(PlacedControl& placed, const ScriptCommand& command, c
     if (!fault.ok())
         throw ScriptError(scriptFile, command.line,
                           toUtf8(describeFault(fault, model, command.member, command.values)));
+    use(model, verbName(command.verb), member->name);
     const std::u16string value = writeScriptValue(result, model.datesAreTimes) + returnedArguments(*member, arguments);
     if (command.verb != Verb::Set && !value.empty())
         print(placed.name() + u"." + std::u16string(member->name) + u" = " +
@@ -190,6 +226,7 @@ void Player::controlEvent(PlacedControl& control, const EventRow& event, std::sp
         if (answer != Answers_.end() && event.parameters[i].byReference) arguments[i] = answer->second;
         line += u" " + std::u16string(event.parameters[i].name) + u"=" + writeScriptValue(arguments[i]);
     }
+    use(control.control().model(), "event", event.name);
     print(u"event " + line);
 }
 
@@ -204,6 +241,7 @@ void Player::handOverRuntime() {
     Variant result;
     callMember(static_cast<LibraryObject&>(*handler), *findMember(model, u"SetRuntime"), arguments, result,
                Home_.region());
+    use(model, "call", u"SetRuntime");
 }
 
 void Player::printReported(PlacedControl& control) {
@@ -216,9 +254,12 @@ void Player::printReported(PlacedControl& control) {
 void Player::printBag(PlacedControl& control) {
     ListingBag bag;
     control.control().WriteProperties(bag);
-    const bool times = control.control().model().datesAreTimes;
-    for (const auto& [name, value] : bag.Entries)
-        print(control.name() + u" bag " + quoteScriptText(name) + u" = " + writeScriptValue(value, times));
+    const ClassModel& model = control.control().model();
+    for (const auto& [name, value] : bag.Entries) {
+        use(model, "save", name);
+        print(control.name() + u" bag " + quoteScriptText(name) + u" = " +
+              writeScriptValue(value, model.datesAreTimes));
+    }
     if (bag.Entries.empty()) print(control.name() + u" bag nothing");
 }
 

@@ -3,6 +3,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -26,12 +27,18 @@ public:
     /// when the command asks for what is not there, FormError when a form to be loaded is wrong.
     std::vector<std::string> play(const ScriptCommand& command, const std::string& scriptFile);
 
+    /// What the commands so far have come by, a line each: "KelText get Caption", likewise put, call, event, and load
+    /// and save of properties that differ from their default.
+    const std::set<std::string>& used() const { return Used_; }
+
 private:
     void controlEvent(PlacedControl& control, const EventRow& event, std::span<Variant> arguments) override;
     void propertyReported(PlacedControl& control, std::u16string_view bagName) override;
 
     void print(const std::u16string& line);
     void open(const std::string& path);
+    void use(const ClassModel& model, std::string_view how, std::u16string_view name);
+    void useLoaded(const FormFile& file);
     PlacedControl& controlNamed(const ScriptCommand& command, const std::string& scriptFile);
     void execute(const ScriptCommand& command, const std::string& scriptFile);
 
@@ -39,6 +46,7 @@ private:
     void accessMember(PlacedControl& control, const ScriptCommand& command, const std::string& scriptFile);
     void setAnswer(PlacedControl& control, const ScriptCommand& command, const std::string& scriptFile);
     void setCaret(const ScriptCommand& command, const std::string& scriptFile);
+    void pick(PlacedControl& control, const ScriptCommand& command, const std::string& scriptFile);
     void spin(PlacedControl& control, const ScriptCommand& command, const std::string& scriptFile);
     void handOverRuntime();
     void printBag(PlacedControl& control);
@@ -49,6 +57,7 @@ private:
     PlaySystem System_;
     std::map<std::u16string, bool> Answers_;  ///< by "name.event"
     std::map<const PlacedControl*, std::vector<std::u16string>> Reported_;
+    std::set<std::string> Used_;
     std::unique_ptr<Form> Form_;
 };
 

@@ -6,46 +6,18 @@
 
 #include "host/Keys.h"
 #include "host/ListItems.h"
-#include "host/Widget.h"
+#include "host/TextEntry.h"
 
 namespace kel {
 
-/// A single-line edit box with a list that drops down below it. Items count from 0, positions and lengths in UTF-16
-/// units. A new box is enabled, visible, unlocked, empty and closed, with `colors::SystemWindow` behind
-/// `colors::SystemWindowText`.
+/// A single-line edit box with a list that drops down below it. Items count from 0. A new box is enabled, visible,
+/// unlocked, empty and closed, with `colors::SystemWindow` behind `colors::SystemWindowText`.
 ///
 /// The box knows which of its items is selected as long as the text is what the selection made it: any edit, by the
-/// user or by code, leaves none selected.
-class ComboBox : public FieldWidget {
+/// user or by code, leaves none selected, even when the text is an item. The maximum length does not bind the items. A
+/// locked box drops its list, and takes nothing from it.
+class ComboBox : public TextEntry {
 public:
-    /// Valid until the text changes.
-    virtual const std::u16string& text() const = 0;
-
-    /// Puts a text, of any length, and the caret to 0; no item is selected then, even when the text is one. Notifies a
-    /// change when it differs from the old one.
-    virtual void setText(std::u16string_view text) = 0;
-
-    virtual bool textEquals(std::u16string_view other) const = 0;
-    virtual std::int32_t textLength() const = 0;
-
-    virtual std::int32_t selStart() const = 0;
-    /// Drops the selection. A position past the end is the end.
-    virtual void setSelStart(std::int32_t position) = 0;
-    virtual std::int32_t selLength() const = 0;
-    /// Selects from the selection's start; cut at the end of the text.
-    virtual void setSelLength(std::int32_t length) = 0;
-    virtual std::u16string selText() const = 0;
-    /// Replaces the selection as typing would, caret behind it, undo kept; the maximum length does not bind.
-    virtual void setSelText(std::u16string_view text) = 0;
-
-    /// A locked box drops its list, and takes nothing from it.
-    virtual bool locked() const = 0;
-    virtual void setLocked(bool locked) = 0;
-
-    /// Binds typing and pasting, neither `setText` nor the items; 0 is no limit.
-    virtual std::int32_t maxLength() const = 0;
-    virtual void setMaxLength(std::int32_t units) = 0;
-
     virtual const ListItems& items() const = 0;
     /// Closes the list and empties the text, and notifies nobody.
     virtual void setItems(ListItems items) = 0;
@@ -69,7 +41,7 @@ public:
 
     /// Draws from now on, over the widget's own painting, a sunken frame and at its right end inside it the raised edge
     /// of a button, so many pixels wide. `buttonWidthPixels` is read at each painting and outlives the box.
-    virtual void installFrame(const std::int16_t& /*buttonWidthPixels*/) {}
+    virtual void installFrame(const std::int16_t& buttonWidthPixels) = 0;
 };
 
 /// What a combo box tells its control, as it happens. A handler may do anything to the widget, also move the focus

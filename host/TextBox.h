@@ -5,41 +5,15 @@
 #include <string_view>
 
 #include "host/Keys.h"
-#include "host/Widget.h"
+#include "host/TextEntry.h"
 
 namespace kel {
 
-/// A single-line or multi-line edit box. Positions and lengths count UTF-16 units; a line break of a
-/// multi-line box is a carriage return and a line feed and counts two. A new box is enabled, visible,
-/// unlocked, empty, with `colors::SystemWindow` behind `colors::SystemWindowText`.
-class TextBox : public FieldWidget {
+/// A single-line or multi-line edit box. A line break of a multi-line box is a carriage return and a line feed and
+/// counts two. A new box is enabled, visible, unlocked, empty, with `colors::SystemWindow` behind
+/// `colors::SystemWindowText`.
+class TextBox : public TextEntry {
 public:
-    /// Valid until the text changes.
-    virtual const std::u16string& text() const = 0;
-
-    /// Puts a text, of any length, and the caret to 0. Notifies a change when it differs from the old one.
-    virtual void setText(std::u16string_view text) = 0;
-
-    virtual bool textEquals(std::u16string_view other) const = 0;
-    virtual std::int32_t textLength() const = 0;
-
-    virtual std::int32_t selStart() const = 0;
-    /// Drops the selection. A position past the end is the end.
-    virtual void setSelStart(std::int32_t position) = 0;
-    virtual std::int32_t selLength() const = 0;
-    /// Selects from the selection's start; cut at the end of the text.
-    virtual void setSelLength(std::int32_t length) = 0;
-    virtual std::u16string selText() const = 0;
-    /// Replaces the selection as typing would, caret behind it, undo kept; the maximum length does not bind.
-    virtual void setSelText(std::u16string_view text) = 0;
-
-    virtual bool locked() const = 0;
-    virtual void setLocked(bool locked) = 0;
-
-    /// Binds typing and pasting, not `setText`; 0 is no limit.
-    virtual std::int32_t maxLength() const = 0;
-    virtual void setMaxLength(std::int32_t units) = 0;
-
     /// Shown in place of every character; 0 shows the text.
     virtual char16_t passwordChar() const = 0;
     virtual void setPasswordChar(char16_t character) = 0;

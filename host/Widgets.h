@@ -17,10 +17,9 @@ public:
     virtual std::unique_ptr<Label> makeLabel() = 0;
     virtual std::unique_ptr<TextBox> makeTextBox(TextBoxListener& listener, bool multiLine) = 0;
     virtual std::unique_ptr<UpDown> makeUpDown(UpDownListener& listener) = 0;
-    // None of these on a home that has no such widget, and so no control of its kind.
-    virtual std::unique_ptr<CheckBox> makeCheckBox(CheckBoxListener&) { return nullptr; }
-    virtual std::unique_ptr<PictureBox> makePictureBox() { return nullptr; }
-    virtual std::unique_ptr<ComboBox> makeComboBox(ComboBoxListener&) { return nullptr; }
+    virtual std::unique_ptr<ComboBox> makeComboBox(ComboBoxListener& listener) = 0;
+    virtual std::unique_ptr<CheckBox> makeCheckBox(CheckBoxListener& listener) = 0;
+    virtual std::unique_ptr<PictureBox> makePictureBox() = 0;
 
 protected:
     ~WidgetFactory() = default;
@@ -30,7 +29,7 @@ protected:
 struct WidgetSet {
     Label* label = nullptr;
     FieldWidget* field = nullptr;  ///< the one that is shown
-    TextBox* textBox = nullptr;    ///< the same, where it is a text box
+    TextEntry* entry = nullptr;    ///< the same, where it holds a text
     UpDown* upDown = nullptr;
     CheckBox* checkBox = nullptr;
     PictureBox* picture = nullptr;

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "values/Variant.h"
 
@@ -46,7 +47,7 @@ public:
     virtual std::shared_ptr<kel::RuntimeDates> RuntimeDates() = 0;
 
     /// `list` with `item` as a further comma-separated item, quoted where needed.
-    virtual std::u16string ListAppend(const std::u16string& list, const std::u16string& item) = 0;
+    virtual std::u16string ListAppend(std::u16string list, std::u16string_view item) = 0;
 
     /// The field of `text` at `position` (0 for the first); moves `position` on, to a negative value on the
     /// read after the last field.

@@ -395,6 +395,8 @@ struct ClassModel {
     ObjectPtr (*makeObject)(SharedSettings& settings) = nullptr;
     /// Its dates are times of day and are written as such.
     bool datesAreTimes = false;
+    /// A control of which no field takes the focus, so that hosts leave it out of the order of the Tab key, says false.
+    bool takesFocus = true;
 
     bool isControl() const { return makeControl != nullptr; }
 };

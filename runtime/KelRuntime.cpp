@@ -45,8 +45,9 @@ public:
 
     std::shared_ptr<kel::RuntimeDates> RuntimeDates() override { return Dates_; }
 
-    std::u16string ListAppend(const std::u16string& list, const std::u16string& item) override {
-        return appendListItem(list, item);
+    std::u16string ListAppend(std::u16string list, std::u16string_view item) override {
+        appendListItem(list, item);
+        return list;
     }
     std::u16string ReadField(const std::u16string& text, std::int32_t& position, std::int16_t separator) override {
         return readListField(text, position, static_cast<char16_t>(separator));

@@ -15,17 +15,19 @@ bool needsQuotes(std::u16string_view item) {
 
 }  // namespace
 
-std::u16string appendListItem(std::u16string_view list, std::u16string_view item) {
-    std::u16string result(list);
-    if (!list.empty()) result += u',';
-    if (list.empty() && item.empty()) return u"\"\"";
-    if (!needsQuotes(item)) return result.append(item);
-    result += Quote;
-    for (const char16_t unit : item) {
-        if (unit == Quote) result += Quote;
-        result += unit;
+void appendListItem(std::u16string& list, std::u16string_view item) {
+    const bool first = list.empty();
+    if (!first) list += u',';
+    if (!needsQuotes(item) && !(first && item.empty())) {
+        list.append(item);
+        return;
     }
-    return result += Quote;
+    list += Quote;
+    for (const char16_t unit : item) {
+        if (unit == Quote) list += Quote;
+        list += unit;
+    }
+    list += Quote;
 }
 
 std::u16string readListField(std::u16string_view text, std::int32_t& position, char16_t separator) {

@@ -7,9 +7,9 @@
 /// Comma-separated lists with double quotes: `a,"b,c","say ""hi"""` holds a / b,c / say "hi".
 namespace kel {
 
-/// `list` with `item` behind it; items with a separator, a quote, a line end or an outer blank are quoted.
+/// Puts `item` behind the items of `list`; items with a separator, a quote, a line end or an outer blank are quoted.
 /// An empty item appended to an empty list gives `""`, so that it is not mistaken for no item.
-std::u16string appendListItem(std::u16string_view list, std::u16string_view item);
+void appendListItem(std::u16string& list, std::u16string_view item);
 
 /// The field of `text` that begins at `position`, unquoted; `position` moves behind its separator, and to
 /// -1 on the read after the last field.

@@ -16,12 +16,6 @@ namespace kel::app {
 
 namespace {
 
-/// Listens to nobody's controls.
-class SilentObserver final : public ControlObserver {
-    void controlEvent(PlacedControl&, const EventRow&, std::span<Variant>) override {}
-    void propertyReported(PlacedControl&, std::u16string_view) override {}
-};
-
 std::string readAll(const std::string& path) {
     if (path == "-") return {std::istreambuf_iterator<char>(std::cin), {}};
     std::ifstream file(path, std::ios::binary);
@@ -68,6 +62,11 @@ ExitStatus playScript(const Options& options) {
     }
     if (!options.shot.empty() && !player.form().window().savePicture(options.shot))
         throw UsageError("--shot: no picture can be written to " + options.shot + " on " + options.on);
+    if (!options.used.empty()) {
+        std::string used;
+        for (const std::string& line : player.used()) used += line + "\n";
+        writeAll(options.used, used);
+    }
     if (options.update) writeAll(scriptFile, writeScript(script, printed));
     return same ? Done : Differed;
 }

@@ -17,7 +17,7 @@ const char* const Usage =
     "kelforms describe [CLASS] [--json|--markdown]        members, events and saved properties\n"
     "\n"
     "options of play: --on headless|qt|win32, --locale en-GB, --today 2013-03-15, --now 10:15:30,\n"
-    "  --colour-depth 24, --twips-per-pixel 15, --shot FILE.png, --check, --update\n";
+    "  --colour-depth 24, --twips-per-pixel 15, --shot FILE.png, --used FILE, --check, --update\n";
 
 namespace {
 
@@ -77,6 +77,8 @@ bool readOption(const std::string& word, Reader& reader, Options& options) {
         options.home.twipsPerPixel = reader.number(word, 1, 1440);
     else if (word == "--shot")
         options.shot = reader.value(word);
+    else if (word == "--used")
+        options.used = reader.value(word);
     else if (word == "--check")
         options.check = true;
     else if (word == "--update")

@@ -25,6 +25,7 @@ struct Options {
     std::optional<Date> today;
     std::optional<Date> now;
     std::string shot;
+    std::string used;
     bool check = false;
     bool update = false;
     bool json = false;

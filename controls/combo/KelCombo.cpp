@@ -30,7 +30,9 @@ KelCombo::KelCombo(ControlHost& host)
 
 void KelCombo::Initialize() { Combo1_->installFrame(Host_.settings.ButtonWidthPixels); }
 
-WidgetSet KelCombo::widgets() { return {.label = Label1_.get(), .field = Combo1_.get(), .comboBox = Combo1_.get()}; }
+WidgetSet KelCombo::widgets() {
+    return {.label = Label1_.get(), .field = Combo1_.get(), .entry = Combo1_.get(), .comboBox = Combo1_.get()};
+}
 
 // ---- List
 
@@ -49,7 +51,7 @@ std::u16string KelCombo::get_List() const {
     const auto runtime = runtimeFor(Host_.settings);
     std::u16string list;
     for (std::int32_t i = 0; i < get_ListCount(); ++i)
-        list = runtime->ListAppend(list, std::u16string(Combo1_->items().item(i)));
+        list = runtime->ListAppend(std::move(list), Combo1_->items().item(i));
     return list;
 }
 
@@ -329,12 +331,7 @@ void KelCombo::ExitFocus() {
 }
 
 void KelCombo::Combo1_GotFocus() {
-    if (SelectOnFocus_) {
-        if (Host_.system.tabKeyDown())
-            selectFrom(0);
-        else
-            Combo1_->setSelLength(0);
-    }
+    if (SelectOnFocus_) selectOnFocus(*Combo1_, Host_.system.tabKeyDown());
     Combo1_->setBackColor(backOnGotFocus(Host_.settings, Combo1_->locked()).color);
 }
 

@@ -248,6 +248,6 @@ void KelText::Text1_KeyPress(char32_t& KeyAscii) {
     if (get_MultiLine() && box.selText().ends_with(u'\r')) box.setSelLength(box.selLength() - 1);
 }
 
-WidgetSet KelText::widgets() { return {.label = Label1_.get(), .field = &activeBox(), .textBox = &activeBox()}; }
+WidgetSet KelText::widgets() { return {.label = Label1_.get(), .field = &activeBox(), .entry = &activeBox()}; }
 
 }  // namespace kel

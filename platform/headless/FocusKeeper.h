@@ -78,6 +78,8 @@ public:
     /// The left mouse button, pressed and released; `position` in the text, if it has one, may be past either end.
     virtual void click(std::int32_t position) = 0;
     virtual void rightClick() = 0;
+    /// A mouse button goes down anywhere in the window, before what it is meant for hears of it.
+    virtual void mousePressed() {}
 
     /// The wheel, over the widget that has the focus.
     virtual void turnWheel(std::int32_t notches) = 0;

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <ctime>
 
+#include "host/LocalClock.h"
 #include "platform/headless/HeadlessWidgets.h"
 #include "platform/headless/HeadlessWindow.h"
 #include "platform/headless/Input.h"
@@ -30,39 +31,6 @@ double serialOf(const std::tm& local) {
                          std::chrono::day(static_cast<unsigned>(local.tm_mday));
     return static_cast<double>((day - DayZero).count());
 }
-
-/// To some milliseconds, which is near enough for people, and much cheaper than to the nanosecond.
-Clock::time_point coarseNow() {
-#ifdef __linux__
-    std::timespec now{};
-    clock_gettime(CLOCK_REALTIME_COARSE, &now);
-    return Clock::time_point(std::chrono::seconds(now.tv_sec) + std::chrono::nanoseconds(now.tv_nsec));
-#else
-    return Clock::now();
-#endif
-}
-
-/// The machine's time of day. Local time is worked out once a minute, since a progress bar asks for it with every
-/// step of a job; no region changes its clocks within a minute.
-class LocalClock {
-public:
-    double secondsSinceMidnight() {
-        using namespace std::chrono_literals;
-        const Clock::time_point now = coarseNow();
-        if (now < Minute_ || now >= Minute_ + 1min) startMinute(std::chrono::floor<std::chrono::minutes>(now));
-        return SecondsAtMinute_ + std::chrono::duration<double>(now - Minute_).count();
-    }
-
-private:
-    void startMinute(Clock::time_point minute) {
-        const std::tm local = localTime(minute);
-        SecondsAtMinute_ = local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec;
-        Minute_ = minute;
-    }
-
-    Clock::time_point Minute_;
-    double SecondsAtMinute_ = 0;
-};
 
 class HeadlessSystem final : public System {
 public:

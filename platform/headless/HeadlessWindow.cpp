@@ -1,6 +1,6 @@
 #include "platform/headless/HeadlessWindow.h"
 
-#include "platform/headless/HeadlessWidgets.h"
+#include "platform/headless/HeadlessComboBox.h"
 
 namespace kel::headless {
 
@@ -76,16 +76,22 @@ void HeadlessWindow::focus(PlacedControl& control) {
 }
 
 void HeadlessWindow::click(PlacedControl& control, std::int32_t position) {
-    byHandInField(control, [position](FocusTarget& field) { field.click(position); });
+    byMouseInField(control, [position](FocusTarget& field) { field.click(position); });
 }
 
 void HeadlessWindow::rightClick(PlacedControl& control) {
-    byHandInField(control, [](FocusTarget& field) { field.rightClick(); });
+    byMouseInField(control, [](FocusTarget& field) { field.rightClick(); });
 }
 
 void HeadlessWindow::spin(PlacedControl& control, bool up) {
-    byHand([&] {
+    byMouse([&] {
         if (HeadlessUpDown* const spinner = placedHere(control).spinner()) spinner->click(up);
+    });
+}
+
+void HeadlessWindow::pick(PlacedControl& control, std::int32_t item) {
+    byMouseInField(control, [&](FocusTarget& field) {
+        if (&field == Focus_.holder()) placedHere(control).comboBox()->pick(item);
     });
 }
 
@@ -97,9 +103,9 @@ void HeadlessWindow::turnWheel(PlacedControl& control, std::int32_t notches) {
 }
 
 void HeadlessWindow::drop(PlacedControl& control, std::int32_t position, std::u16string_view text) {
-    const TextBox* const box = control.control().widgets().textBox;
+    const TextEntry* const box = control.control().widgets().entry;
     if (box == nullptr || box->locked()) return;
-    byHandInField(control, [&](FocusTarget& field) { field.drop(position, text); });
+    byMouseInField(control, [&](FocusTarget& field) { field.drop(position, text); });
 }
 
 PlacedControl* HeadlessWindow::focused() const {

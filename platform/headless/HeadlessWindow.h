@@ -24,6 +24,7 @@ public:
     void click(PlacedControl& control, std::int32_t position) override;
     void rightClick(PlacedControl& control) override;
     void spin(PlacedControl& control, bool up) override;
+    void pick(PlacedControl& control, std::int32_t item) override;
     void setClipboard(std::u16string_view text) override { Input_.Clipboard.assign(text); }
     PlacedControl* focused() const override;
     bool savePicture(const std::string& /*utf8Path*/) override { return false; }
@@ -47,10 +48,18 @@ private:
         Input_.run(action);
     }
 
+    template <class Action>
+    void byMouse(Action action) {
+        byHand([&] {
+            if (Focus_.holder() != nullptr) Focus_.holder()->mousePressed();
+            action();
+        });
+    }
+
     /// Does something to the field of a control that has taken the focus first.
     template <class Action>
-    void byHandInField(PlacedControl& control, Action action) {
-        byHand([&] {
+    void byMouseInField(PlacedControl& control, Action action) {
+        byMouse([&] {
             focus(control);
             if (FocusTarget* const target = placedHere(control).focusTarget()) action(*target);
         });

@@ -1,6 +1,7 @@
 #include "platform/headless/PlacedHeadlessControl.h"
 
 #include "platform/headless/HeadlessCheckBox.h"
+#include "platform/headless/HeadlessComboBox.h"
 #include "platform/headless/HeadlessPictureBox.h"
 #include "platform/headless/HeadlessTextBox.h"
 
@@ -48,6 +49,10 @@ FocusTarget* PlacedHeadlessControl::focusTarget() const {
     return target != nullptr && target->takesInput() ? target : nullptr;
 }
 
+HeadlessComboBox* PlacedHeadlessControl::comboBox() const {
+    return static_cast<HeadlessComboBox*>(Control_->widgets().comboBox);
+}
+
 HeadlessUpDown* PlacedHeadlessControl::spinner() const {
     return static_cast<HeadlessUpDown*>(Control_->widgets().upDown);
 }
@@ -67,5 +72,9 @@ std::unique_ptr<CheckBox> PlacedHeadlessControl::makeCheckBox(CheckBoxListener& 
 }
 
 std::unique_ptr<PictureBox> PlacedHeadlessControl::makePictureBox() { return std::make_unique<HeadlessPictureBox>(); }
+
+std::unique_ptr<ComboBox> PlacedHeadlessControl::makeComboBox(ComboBoxListener& listener) {
+    return std::make_unique<HeadlessComboBox>(Seat_, listener);
+}
 
 }  // namespace kel::headless

@@ -12,6 +12,7 @@
 
 namespace kel::headless {
 
+class HeadlessComboBox;
 class HeadlessUpDown;
 
 /// What the controls of one window have in common.
@@ -49,6 +50,7 @@ public:
 
     /// nullptr where the control has none.
     HeadlessUpDown* spinner() const;
+    HeadlessComboBox* comboBox() const;
 
 private:
     bool hasSize() const override { return Sized_; }
@@ -68,6 +70,7 @@ private:
     std::unique_ptr<UpDown> makeUpDown(UpDownListener& listener) override;
     std::unique_ptr<CheckBox> makeCheckBox(CheckBoxListener& listener) override;
     std::unique_ptr<PictureBox> makePictureBox() override;
+    std::unique_ptr<ComboBox> makeComboBox(ComboBoxListener& listener) override;
 
     ControlObserver& Observer_;
     std::u16string Name_;

@@ -84,8 +84,7 @@ void CaptionLabel::paint(QPainter& painter, int baseline) const {
     area.setBottom(widget.height() - 1);
     painter.setClipRect(area);
     painter.setFont(font());
-    painter.setPen(enabled ? captionColorOn(option.palette, ForeColor_)
-                           : option.palette.color(QPalette::Disabled, QPalette::WindowText));
+    painter.setPen(enabled ? captionColorOn(option.palette, ForeColor_) : disabledCaptionColor(option.palette));
 
     const bool underlines = style.styleHint(QStyle::SH_UnderlineShortcut, &option, &widget) != 0;
     const Qt::Alignment alignment = QStyle::visualAlignment(widget.layoutDirection(), Qt::AlignLeft) | Qt::AlignTop;

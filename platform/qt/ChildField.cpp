@@ -1,5 +1,7 @@
 #include "platform/qt/ChildField.h"
 
+#include <QWidget>
+
 #include "platform/qt/ControlSite.h"
 #include "platform/qt/FocusTracker.h"
 
@@ -11,5 +13,7 @@ ChildField::~ChildField() {
     focus::forget(*this);
     site().removeField(*this);
 }
+
+int ChildField::widthFor(int characters) const { return characters * widget().fontMetrics().averageCharWidth(); }
 
 }  // namespace kel::qt

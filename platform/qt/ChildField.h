@@ -20,6 +20,8 @@ public:
     virtual bool isTall() const = 0;
     /// From the widget's top to the baseline of its (first) line of text, in pixels.
     virtual int baseline() const = 0;
+    /// How wide it is best, to show about so many characters. In pixels.
+    virtual int widthFor(int characters) const;
 };
 
 }  // namespace kel::qt

@@ -11,8 +11,10 @@
 #include "platform/qt/ChildField.h"
 #include "platform/qt/FocusTracker.h"
 #include "platform/qt/KelControlWidget.h"
+#include "platform/qt/QtCheckBox.h"
 #include "platform/qt/QtComboBox.h"
 #include "platform/qt/QtLineBox.h"
+#include "platform/qt/QtPictureBox.h"
 #include "platform/qt/QtPlainBox.h"
 #include "platform/qt/QtUpDown.h"
 #include "platform/qt/RetiredControls.h"
@@ -109,9 +111,9 @@ QSize ControlSite::sizeHint(int characters) const {
     const int caption = Label_ != nullptr ? Grid_.pixel(Label_->bounds().width) : 0;
     const UpDown* const upDown = Control_->widgets().upDown;
     const int spinner = upDown != nullptr && upDown->visible() ? Grid_.pixel(upDown->bounds().width) : 0;
-    const QFontMetrics metrics = Active_ != nullptr ? Active_->widget().fontMetrics() : Widget_->fontMetrics();
-    return {caption + characters * metrics.averageCharWidth() + spinner,
-            Grid_.pixel(isTall ? TallHeight : FieldHeight)};
+    const int field =
+        Active_ != nullptr ? Active_->widthFor(characters) : characters * Widget_->fontMetrics().averageCharWidth();
+    return {caption + field + spinner, Grid_.pixel(isTall ? TallHeight : FieldHeight)};
 }
 
 // ---- Enabled
@@ -154,6 +156,7 @@ void ControlSite::toolTipChanged() {
     if (!Shown_) return;
     const QString text = Widget_->toolTip();
     for (const ChildField* const field : Fields_) setWidgetToolTip(field->widget(), viewOf(text));
+    if (PictureBox* const picture = Control_->widgets().picture) picture->setToolTip(viewOf(text));
 }
 
 void ControlSite::shown() {
@@ -184,6 +187,12 @@ std::unique_ptr<UpDown> ControlSite::makeUpDown(UpDownListener& listener) {
     return std::make_unique<QtUpDown>(*this, listener, *Widget_);
 }
 
+std::unique_ptr<CheckBox> ControlSite::makeCheckBox(CheckBoxListener& listener) {
+    return std::make_unique<QtCheckBox>(*this, listener, *Widget_);
+}
+
+std::unique_ptr<PictureBox> ControlSite::makePictureBox() { return std::make_unique<QtPictureBox>(*this, *Widget_); }
+
 std::unique_ptr<ComboBox> ControlSite::makeComboBox(ComboBoxListener& listener) {
     return std::make_unique<QtComboBox>(*this, listener, *Widget_);
 }
@@ -213,11 +222,33 @@ void ControlSite::fieldShown(ChildField& field) {
 /// The field takes the other one's place: what points to the composite finds it.
 void ControlSite::activate(ChildField& field) {
     Active_ = &field;
-    Widget_->setFocusProxy(&field.widget());
+    fieldEnabled(field, isFieldEnabled());
     Widget_->setSizePolicy(QSizePolicy::Expanding, field.isTall() ? QSizePolicy::Expanding : QSizePolicy::Fixed);
     Widget_->updateGeometry();
     Widget_->update();
 }
+
+/// Qt gives the focus to whom a widget names in its place, disabled or not.
+void ControlSite::fieldEnabled(const ChildField& field, bool enabled) {
+    if (&field != Active_) return;
+    // A policy that is set goes to the one in the widget's place as well, who has its own.
+    Widget_->setFocusProxy(nullptr);
+    Widget_->setFocusPolicy(enabled ? Qt::TabFocus : Qt::NoFocus);
+    if (enabled) Widget_->setFocusProxy(&field.widget());
+}
+
+bool ControlSite::isFieldEnabled() const { return !Active_->widget().testAttribute(Qt::WA_ForceDisabled); }
+
+/// Qt leaves out what cannot have the focus now.
+void ControlSite::tabAfter(ControlSite& before) {
+    before.fieldEnabled(*before.Active_, true);
+    fieldEnabled(*Active_, true);
+    QWidget::setTabOrder(before.Widget_, Widget_);
+    before.fieldEnabled(*before.Active_, before.isFieldEnabled());
+    fieldEnabled(*Active_, isFieldEnabled());
+}
+
+bool ControlSite::takesFocus() const { return Active_ != nullptr && Active_->widget().isEnabled(); }
 
 bool ControlSite::owns(const QWidget& widget) const { return Widget_->isAncestorOf(&widget); }
 
@@ -241,7 +272,7 @@ void ControlSite::captionChanged(const QString& spokenBefore) {
 
 bool ControlSite::mnemonicPressed(int shortcutId) {
     if (Mnemonic_ == 0 || shortcutId != Mnemonic_) return false;
-    Widget_->setFocus(Qt::ShortcutFocusReason);
+    if (takesFocus()) Widget_->setFocus(Qt::ShortcutFocusReason);
     return true;
 }
 

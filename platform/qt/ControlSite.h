@@ -64,6 +64,8 @@ public:
     std::unique_ptr<Label> makeLabel() override;
     std::unique_ptr<TextBox> makeTextBox(TextBoxListener& listener, bool multiLine) override;
     std::unique_ptr<UpDown> makeUpDown(UpDownListener& listener) override;
+    std::unique_ptr<CheckBox> makeCheckBox(CheckBoxListener& listener) override;
+    std::unique_ptr<PictureBox> makePictureBox() override;
     std::unique_ptr<ComboBox> makeComboBox(ComboBoxListener& listener) override;
 
     // ---- What the widget tells
@@ -88,11 +90,16 @@ public:
     void addField(ChildField& field);
     void removeField(const ChildField& field);
     void fieldShown(ChildField& field);
+    void fieldEnabled(const ChildField& field, bool enabled);
     void setLabel(CaptionLabel* label) { Label_ = label; }
     void captionChanged(const QString& spokenBefore);
+    /// It has a field that can have it.
+    bool takesFocus() const;
     bool owns(const QWidget& widget) const;
     /// Its field takes the focus by a click only.
     void leaveTabOrder();
+    /// The Tab key comes here from another one. Both have a field.
+    void tabAfter(ControlSite& before);
 
     /// The field that shows, nullptr when there is none.
     ChildField* activeField() const { return Active_; }
@@ -109,6 +116,7 @@ private:
     QSize pixelSize() const;
     void placeChildren() const;
     void activate(ChildField& field);
+    bool isFieldEnabled() const;
 
     KelControlWidget* Host_;  ///< nullptr once it is gone
     QWidget* Widget_;         ///< the host's, or what is left in its place

@@ -11,7 +11,13 @@ namespace kel::qt {
 // ---- To Qt's widget
 
 void EditBox::bufferChanged() {
-    if (Adopting_ || !isSeen()) return;
+    if (Adopting_ || std::exchange(OutOfDate_, true)) return;
+    // Any change ends a composition, and an end that came later would be taken for the user's.
+    if (Composing_ || !postponesShowing()) showBuffer();
+}
+
+void EditBox::showBuffer() {
+    OutOfDate_ = false;
     const ShowingScope scope(Showing_);
     const Selection selection = buffer().selection();
     if (std::exchange(ShowsNew_, false))
@@ -30,6 +36,7 @@ void EditBox::textChangedInWidget() {
     const Selection selection = shownSelection();
     if (!adopt(text, selection.caret)) Edit_.setText(text);
     if (textIs(text)) Edit_.select(selection);
+    bringUpToDate();
 }
 
 /// As an edit that can be undone. False when it would split a line break.
@@ -51,6 +58,7 @@ void EditBox::selectionChangedInWidget() {
     // Where Qt speaks of the caret first, the text it stands in is still to come.
     const bool isKnown = selection.end() <= buffer().text().size();
     if (isKnown && selection != buffer().selection()) Edit_.select(selection);
+    bringUpToDate();
 }
 
 // ---- Clipboard and menu

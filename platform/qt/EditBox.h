@@ -51,10 +51,12 @@ protected:
 
     // ---- What Qt's widget shows. Positions are those of the text.
 
-    /// Laying out a text is what a widget spends most of its time on: one that nobody sees may leave it be, and then
-    /// says when it comes into sight.
-    virtual bool isSeen() const { return true; }
-    void comeIntoSight() { EditBox::bufferChanged(); }
+    /// Laying out a text is what a widget spends most of its time on. One that would rather wait for further edits, or
+    /// until somebody looks, answers true, and brings itself up to date then.
+    virtual bool postponesShowing() { return false; }
+    void bringUpToDate() {
+        if (OutOfDate_) showBuffer();
+    }
     virtual std::u16string shownText() = 0;
     /// A text that came of the one shown: Qt's widget is told the difference only.
     virtual void showEdited(std::u16string_view text, std::size_t caret) = 0;
@@ -128,6 +130,7 @@ private:
 
     const EditBuffer& buffer() const { return Edit_.buffer(); }
     bool textIs(std::u16string_view other) const { return buffer().text() == other; }
+    void showBuffer();
 
     /// Returns whether the key meant anything here.
     bool strike(const KeyStroke& stroke);
@@ -143,9 +146,11 @@ private:
     TextBoxEditor& Edit_;
     ChildField& Field_;
     std::int32_t Aim_ = -1;
-    int TurnedRest_ = 0;  ///< of the wheel, less than a notch
+    int TurnedRest_ = 0;      ///< of the wheel, less than a notch
+    bool OutOfDate_ = false;  ///< what Qt's widget shows
     bool Showing_ = false;
     bool Adopting_ = false;
+    bool Composing_ = false;
     bool ShowsNew_ = false;
     bool LeftPressed_ = false;
 };

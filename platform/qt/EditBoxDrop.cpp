@@ -26,6 +26,7 @@ void EditBox::dropped(QDropEvent& event) {
     if (text.isEmpty() || Edit_.locked() || !takeFocus()) return;
     chooseDropAction(event);
     // Getting the focus may have changed the text.
+    bringUpToDate();
     const std::size_t place = positionAt(event.position().toPoint());
     if (isMovedHere(event)) {
         moveSelection(place);

@@ -91,6 +91,7 @@ void EditBox::inputMethodSpoke(QInputMethodEvent& event) {
 /// In front of the selection, which gives way when the composition is committed and not before: it may yet be
 /// cancelled.
 void EditBox::showComposition(QInputMethodEvent& event) {
+    bringUpToDate();
     const ShowingScope scope(Showing_);
     const Selection selection = buffer().selection();
     const Selection composing{selection.start(), selection.start()};
@@ -98,13 +99,16 @@ void EditBox::showComposition(QInputMethodEvent& event) {
     // Not while something is being composed: that would commit it.
     if (!ends && shownSelection() != composing) showSelection(composing);
     compose(event);
+    Composing_ = !ends;
     if (ends && shownSelection() != selection) showSelection(selection);
 }
 
 // ---- Mouse
 
 void EditBox::takeAim() {
-    if (Aim_ >= 0) Edit_.setSelStart(Aim_);
+    if (Aim_ < 0) return;
+    Edit_.setSelStart(Aim_);
+    bringUpToDate();
 }
 
 void EditBox::mousePressed(const QMouseEvent& event) {

@@ -9,7 +9,7 @@ namespace {
 
 constexpr double ReadableContrast = 4.5;
 constexpr int ShadingSteps = 10;
-constexpr double DisabledShare = 0.5;  ///< of the background in the text of a disabled field
+constexpr double DisabledShare = 0.5;  ///< of the background in a text that is disabled
 
 constexpr double EdgeShare = 0.25;  ///< of the text in a line on the background
 
@@ -135,6 +135,12 @@ QColor captionColorOn(const QPalette& desktop, Color color) {
     const QColor background = desktop.color(QPalette::Active, QPalette::Window);
     if (color == colors::SystemWindowText) return desktop.color(QPalette::Active, QPalette::WindowText);
     return readableOn(desktopColor(color, desktop), background);
+}
+
+QColor disabledCaptionColor(const QPalette& desktop) {
+    const QColor disabled = desktop.color(QPalette::Disabled, QPalette::WindowText);
+    if (disabled != desktop.color(QPalette::Active, QPalette::WindowText)) return disabled;
+    return mixed(disabled, desktop.color(QPalette::Active, QPalette::Window), DisabledShare);
 }
 
 QPalette fieldPalette(const FieldColors& wanted, const QPalette& desktop) {

@@ -19,6 +19,9 @@ QColor edgeColor(const QPalette& desktop);
 /// How the caption is written when it has this colour.
 QColor captionColorOn(const QPalette& desktop, Color color);
 
+/// How a caption is written that is disabled, on desktops too that were made without a thought of it.
+QColor disabledCaptionColor(const QPalette& desktop);
+
 struct FieldColors {
     Color back = colors::SystemWindow;
     Color fore = colors::SystemWindowText;

@@ -37,6 +37,7 @@ KelControlWidget::KelControlWidget(const ClassModel& model, const Surroundings& 
     // So that buddies find it; the field inside takes clicks as well.
     setFocusPolicy(Qt::TabFocus);
     Site_->makeControl(model);
+    if (focusProxy() == nullptr) setFocusPolicy(Qt::NoFocus);
 }
 
 KelControlWidget::~KelControlWidget() { retire(std::move(Site_)); }

@@ -2,6 +2,7 @@
 
 #include "platform/qt/ChildField.h"
 #include "platform/qt/TextBridge.h"
+#include "platform/qt/WidgetLook.h"
 
 namespace kel::qt {
 
@@ -23,6 +24,10 @@ void PlacedQtControl::setBounds(const Rect& bounds) {
     move(site().grid().pixels(bounds).topLeft());
     site().setOrigin({bounds.left, bounds.top});
     site().setSize({bounds.width, bounds.height});
+}
+
+void PlacedQtControl::takeFocus() {
+    if (site().takesFocus()) qt::focusWidget(site().activeField()->widget());
 }
 
 }  // namespace kel::qt

@@ -22,6 +22,10 @@ public:
     const Placement& placement() const { return Placement_; }
     /// The control's `Show`, whether or not the form lets it be seen.
     void showControl() { site().shown(); }
+    /// As code gives it: a disabled field does not take it.
+    void takeFocus();
+    bool hasField() const { return site().activeField() != nullptr; }
+    void tabAfter(const PlacedQtControl& before) { site().tabAfter(before.site()); }
     bool owns(const QWidget& widget) const { return site().owns(widget); }
 
 private:

@@ -3,15 +3,13 @@
 #include "host/Widgets.h"
 #include "platform/qt/ChildField.h"
 #include "platform/qt/FocusTracker.h"
-#include "platform/qt/QtChild.h"
-#include "platform/qt/TextBridge.h"
-#include "platform/qt/WidgetLook.h"
+#include "platform/qt/QtTextual.h"
 
 namespace kel::qt {
 
 /// What all field widgets on Qt have in common. `Interface` is one of the field widgets of host/Widgets.h.
 template <class Interface>
-class QtField : public QtChild<Interface, ChildField> {
+class QtField : public QtTextual<Interface, ChildField> {
 public:
     using ChildWidget::site;
     using ChildWidget::widget;
@@ -21,31 +19,25 @@ public:
     Color backColor() const override { return Colors_.back; }
     void setBackColor(Color color) override { setColors({color, Colors_.fore}); }
 
-    void setFont(std::u16string_view name, double size) override {
-        setWidgetFont(widget(), fontLike(widget().font(), name, size));
+    void setEnabled(bool enabled) override {
+        if (!enabled) giveUpFocus();
+        QtTextual<Interface, ChildField>::setEnabled(enabled);
+        site().fieldEnabled(*this, enabled);
     }
-    bool fontBold() const override { return widget().font().bold(); }
-    void setFontBold(bool bold) override {
-        QFont font = widget().font();
-        font.setBold(bold);
-        setWidgetFont(widget(), font);
-    }
-
-    void refresh() override { widget().update(); }
 
     bool visible() const override { return Visible_; }
-
-    std::u16string toolTip() const override { return std::u16string(viewOf(widget().toolTip())); }
-    void setToolTip(std::u16string_view text) override { setWidgetToolTip(widget(), text); }
 
     void setFocus() override { focusWidget(widget()); }
 
     void colorAgain() override {
-        if (Colors_ != FieldColors{}) colorWidget(widget(), Colors_);
+        if (Colors_ != FieldColors{}) showColors();
     }
 
 protected:
-    QtField(ControlSite& place, QWidget& shown) : QtChild<Interface, ChildField>(place, shown) {}
+    QtField(ControlSite& place, QWidget& shown) : QtTextual<Interface, ChildField>(place, shown) {}
+
+    /// They are others, or the desktop's are.
+    virtual void showColors() { colorWidget(widget(), Colors_); }
 
     /// Enabled and shown, its control as well.
     bool takesInput() const { return Visible_ && widget().isEnabled(); }
@@ -70,7 +62,7 @@ private:
     void setColors(const FieldColors& colors) {
         if (colors == Colors_) return;
         Colors_ = colors;
-        colorWidget(widget(), Colors_);
+        showColors();
     }
 
     FieldColors Colors_;

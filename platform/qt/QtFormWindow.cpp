@@ -80,11 +80,12 @@ void QtFormWindow::show() {
 void QtFormWindow::setTabOrder() {
     std::vector<PlacedQtControl*> order;
     order.reserve(Controls_.size());
-    for (const auto& control : Controls_) order.push_back(control.get());
+    for (const auto& control : Controls_)
+        if (control->hasField()) order.push_back(control.get());
     std::stable_sort(order.begin(), order.end(), [](const PlacedQtControl* one, const PlacedQtControl* other) {
         return one->placement().tabIndex < other->placement().tabIndex;
     });
-    for (std::size_t i = 1; i < order.size(); ++i) QWidget::setTabOrder(order[i - 1], order[i]);
+    for (std::size_t i = 1; i < order.size(); ++i) order[i]->tabAfter(*order[i - 1]);
 }
 
 /// The mnemonic of a plain label leads to the control that comes next.
@@ -92,6 +93,7 @@ void QtFormWindow::befriendLabels() {
     for (const Caption& caption : Captions_) {
         PlacedQtControl* next = nullptr;
         for (const auto& control : Controls_) {
+            if (!control->hasField()) continue;
             const std::int32_t tabIndex = control->placement().tabIndex;
             if (tabIndex > caption.tabIndex && (next == nullptr || tabIndex < next->placement().tabIndex))
                 next = control.get();

@@ -8,6 +8,7 @@
 #include "platform/qt/EditBox.h"
 #include "platform/qt/KeySender.h"
 #include "platform/qt/PlacedQtControl.h"
+#include "platform/qt/QtCheckBox.h"
 #include "platform/qt/QtComboBox.h"
 #include "platform/qt/QtFormWindow.h"
 #include "platform/qt/QtUpDown.h"
@@ -27,6 +28,10 @@ void settle() {
 }
 
 EditBox* editBoxOf(PlacedControl& control) { return dynamic_cast<EditBox*>(control.control().widgets().field); }
+
+QtCheckBox* checkBoxOf(PlacedControl& control) {
+    return dynamic_cast<QtCheckBox*>(control.control().widgets().checkBox);
+}
 
 /// Qt gives the focus only for events that come from the window system.
 void giveFocusByClick(QWidget& widget) {
@@ -93,7 +98,7 @@ void QtFormWindow::press(const KeyStroke& stroke) {
 
 void QtFormWindow::focus(PlacedControl& control) {
     activate();
-    static_cast<PlacedQtControl&>(control).setFocus(Qt::OtherFocusReason);
+    static_cast<PlacedQtControl&>(control).takeFocus();
     settle();
 }
 
@@ -107,6 +112,10 @@ void QtFormWindow::click(PlacedControl& control, std::int32_t position) {
         sendMouse(*area, QEvent::MouseButtonPress, Qt::LeftButton);
         box->aim(-1);
         if (!area.isNull()) sendMouse(*area, QEvent::MouseButtonRelease, Qt::LeftButton);
+    } else if (QtCheckBox* const check = checkBoxOf(control); check != nullptr && check->isVisible()) {
+        closePopups();
+        giveFocusByClick(*check);
+        clickLeft(*check);
     }
     settle();
 }
@@ -122,6 +131,9 @@ void QtFormWindow::rightClick(PlacedControl& control) {
         if (!area.isNull()) sendMenu(*area);
         closePopups();
         if (!area.isNull()) sendMouse(*area, QEvent::MouseButtonRelease, Qt::RightButton);
+    } else if (QtCheckBox* const check = checkBoxOf(control)) {
+        closePopups();
+        giveFocusByClick(*check);
     }
     settle();
     if (!window.isNull()) activate();

@@ -1,12 +1,14 @@
 #include "platform/qt/QtLine.h"
 
 #include <limits>
+#include <QAccessible>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QStyle>
 #include <QStyleOptionFrame>
+#include <utility>
 
 #include "platform/qt/EdgeGuard.h"
 #include "platform/qt/FocusTracker.h"
@@ -17,6 +19,18 @@ namespace kel::qt {
 namespace {
 
 int toInt(std::size_t position) { return static_cast<int>(position); }
+
+/// Posted to a line that waits with what it is to show.
+QEvent::Type timeToShow() {
+    static const int type = QEvent::registerEventType();
+    return static_cast<QEvent::Type>(type);
+}
+
+/// Qt's line edit has no part in what a key does.
+bool isOfKey(const QEvent& event) {
+    const QEvent::Type type = event.type();
+    return type == QEvent::KeyPress || type == QEvent::KeyRelease || type == QEvent::ShortcutOverride;
+}
 
 }  // namespace
 
@@ -29,6 +43,16 @@ void QtLine<Box>::watchText() {
 }
 
 // ---- What is shown
+
+/// Until the events are through that came along with this one, or until one comes that needs what is shown; out of
+/// sight, until the line is seen. A screen reader is not kept waiting.
+template <class Box>
+bool QtLine<Box>::postponesShowing() {
+    if (QAccessible::isActive()) return false;
+    if (isVisible() && !std::exchange(IsTimeToShowPosted_, true))
+        QCoreApplication::postEvent(this, new QEvent(timeToShow()));
+    return true;
+}
 
 template <class Box>
 std::u16string QtLine<Box>::shownText() {
@@ -103,6 +127,11 @@ int QtLine<Box>::baseline() const {
 template <class Box>
 bool QtLine<Box>::event(QEvent* event) {
     return atEdge([&] {
+        if (isVisible() && !isOfKey(*event)) this->bringUpToDate();
+        if (event->type() == timeToShow()) {
+            IsTimeToShowPosted_ = false;
+            return true;
+        }
         if (event->type() == QEvent::ShortcutOverride) {
             this->shortcutAsked(static_cast<QKeyEvent&>(*event));
             return event->isAccepted();
@@ -112,12 +141,6 @@ bool QtLine<Box>::event(QEvent* event) {
         if (event->type() == QEvent::WindowActivate) return QWidget::event(event);
         return QLineEdit::event(event);
     });
-}
-
-template <class Box>
-void QtLine<Box>::showEvent(QShowEvent* event) {
-    QLineEdit::showEvent(event);
-    this->comeIntoSight();
 }
 
 // The reasons that Qt is given keep it from selecting all and from dropping the selection: both are the control's.

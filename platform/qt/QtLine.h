@@ -27,7 +27,6 @@ protected:
     }
 
     bool event(QEvent* event) override;
-    void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override { this->keyPressed(*event); }
     void inputMethodEvent(QInputMethodEvent* event) override { this->inputMethodSpoke(*event); }
     void focusInEvent(QFocusEvent* event) override;
@@ -43,7 +42,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    bool isSeen() const override { return isVisible(); }
+    bool postponesShowing() override;
     std::u16string shownText() override;
     void showEdited(std::u16string_view text, std::size_t caret) override;
     void showNew(std::u16string_view text) override;
@@ -51,11 +50,13 @@ private:
     void showSelection(const Selection& selection) override;
     void showLocked(bool locked) override { setReadOnly(locked); }
     void compose(QInputMethodEvent& event) override { QLineEdit::inputMethodEvent(&event); }
-    bool isMirrored() const override { return QLineEdit::text().isRightToLeft(); }
+    bool isMirrored() const override { return qtViewOf(Box::text()).isRightToLeft(); }
     std::size_t positionAt(const QPoint& point) const override;
 
     void watchText();
     void makeRoom(std::size_t units);
+
+    bool IsTimeToShowPosted_ = false;
 };
 
 extern template class QtLine<QtTextBox>;

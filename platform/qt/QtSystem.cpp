@@ -13,8 +13,6 @@ namespace kel::qt {
 
 namespace {
 
-constexpr double MillisecondsPerSecond = 1000;
-
 QMessageBox::Icon iconOf(std::int32_t style) {
     constexpr std::int32_t IconBits = 0x70;
     switch (style & IconBits) {
@@ -33,12 +31,17 @@ void bringBack(QWidget& window) {
 
 }  // namespace
 
+/// Date fields ask at each key, and for each answer the C library would look on the disk whether the time zone has
+/// been changed.
 Date QtSystem::today() const {
-    const QDate dayZero(1899, 12, 30);
-    return {static_cast<double>(dayZero.daysTo(QDate::currentDate()))};
+    const qint64 second = QDateTime::currentSecsSinceEpoch();
+    if (second != TodayAsked_) {
+        const QDate dayZero(1899, 12, 30);
+        Today_ = {static_cast<double>(dayZero.daysTo(QDate::currentDate()))};
+        TodayAsked_ = second;
+    }
+    return Today_;
 }
-
-double QtSystem::timer() const { return QTime::currentTime().msecsSinceStartOfDay() / MillisecondsPerSecond; }
 
 void QtSystem::messageBox(std::u16string_view prompt, std::int32_t style, std::u16string_view title) {
     const ForeignCode running;

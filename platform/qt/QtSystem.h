@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/LocalClock.h"
 #include "host/System.h"
 
 namespace kel::qt {
@@ -10,7 +11,7 @@ public:
     explicit QtSystem(std::int32_t twipsPerPixel) : TwipsPerPixel_(twipsPerPixel) {}
 
     Date today() const override;
-    double timer() const override;
+    double timer() const override { return Clock_.secondsSinceMidnight(); }
     void messageBox(std::u16string_view prompt, std::int32_t style, std::u16string_view title) override;
     void beep() override;
     bool tabKeyDown() const override;
@@ -18,6 +19,9 @@ public:
 
 private:
     std::int32_t TwipsPerPixel_;
+    mutable LocalClock Clock_;
+    mutable Date Today_;
+    mutable std::int64_t TodayAsked_ = -1;  ///< at which second
 };
 
 }  // namespace kel::qt

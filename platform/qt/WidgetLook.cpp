@@ -1,7 +1,8 @@
 #include "platform/qt/WidgetLook.h"
 
-#include <QWidget>
+#include <QApplication>
 
+#include "platform/qt/ComboList.h"
 #include "platform/qt/FocusTracker.h"
 #include "platform/qt/TextBridge.h"
 
@@ -28,6 +29,9 @@ void colorWidget(QWidget& widget, const FieldColors& colors) {
 
 void focusWidget(QWidget& widget) {
     if (!focus::isChanging()) {
+        // An open list would keep the keys, and its box the focus.
+        auto* const list = dynamic_cast<ComboList*>(QApplication::activePopupWidget());
+        if (list != nullptr && !widget.hasFocus()) list->close();
         widget.setFocus(Qt::OtherFocusReason);
         return;
     }

@@ -13,25 +13,11 @@ namespace kel::win32 {
 
 namespace {
 
-constexpr char16_t DeleteCharacter = 127;  ///< what Ctrl and Backspace make; no character to type
-
 constexpr std::int32_t NoLimit = 0x7FFFFFFE;  ///< as the edit window says it
 
 bool isControl(char32_t character) { return character < U' ' || character == DeleteCharacter; }
 
 bool isTab(std::int16_t code, Modifiers modifiers) { return code == keys::Tab && (modifiers & ControlKey) == 0; }
-
-/// The characters that the key press in hand has made, off the queue. They come with the press's own data.
-std::u16string takeCharacters(HWND window, LPARAM pressData) {
-    std::u16string units;
-    MSG message{};
-    while (PeekMessageW(&message, window, WM_CHAR, WM_CHAR, PM_NOREMOVE | PM_NOYIELD) != FALSE &&
-           message.lParam == pressData) {
-        PeekMessageW(&message, window, WM_CHAR, WM_CHAR, PM_REMOVE | PM_NOYIELD);
-        units += static_cast<char16_t>(message.wParam);
-    }
-    return units;
-}
 
 char32_t takeFirst(std::u16string_view& units) { return units.empty() ? 0 : takeCodePoint(units); }
 
@@ -65,6 +51,17 @@ private:
 };
 
 }  // namespace
+
+std::u16string takeCharacters(HWND window, LPARAM pressData) {
+    std::u16string units;
+    MSG message{};
+    while (PeekMessageW(&message, window, WM_CHAR, WM_CHAR, PM_NOREMOVE | PM_NOYIELD) != FALSE &&
+           message.lParam == pressData) {
+        PeekMessageW(&message, window, WM_CHAR, WM_CHAR, PM_REMOVE | PM_NOYIELD);
+        units += static_cast<char16_t>(message.wParam);
+    }
+    return units;
+}
 
 Modifiers modifiersDown() {
     Modifiers modifiers = NoModifier;
@@ -119,7 +116,7 @@ bool EditInput::handleText(UINT message, WPARAM wide, LPARAM data, LRESULT& resu
         case WM_GETTEXT:
             // The system knows which other programs may not read a password.
             if (Editor_.isPassword() && InSendMessage() != FALSE) return false;
-            result = copyText(wide, reinterpret_cast<wchar_t*>(data));
+            result = static_cast<LRESULT>(copyText(buffer().text(), wide, reinterpret_cast<wchar_t*>(data)));
             return true;
         case EM_SETSEL: selectFromOutside(wide, data); return true;
         case EM_REPLACESEL:
@@ -135,15 +132,6 @@ bool EditInput::handleText(UINT message, WPARAM wide, LPARAM data, LRESULT& resu
         case EM_CANUNDO: result = Editor_.offers(EditAction::Undo); return true;
         default: return false;
     }
-}
-
-LRESULT EditInput::copyText(std::size_t capacity, wchar_t* out) const {
-    if (capacity == 0 || out == nullptr) return 0;
-    const std::u16string& text = buffer().text();
-    const std::size_t units = std::min(capacity - 1, text.size());
-    std::copy_n(text.begin(), units, out);
-    out[units] = L'\0';
-    return static_cast<LRESULT>(units);
 }
 
 void EditInput::selectFromOutside(WPARAM start, LPARAM end) {

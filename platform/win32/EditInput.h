@@ -6,6 +6,9 @@
 
 namespace kel::win32 {
 
+/// What Ctrl and Backspace make; no character to type.
+inline constexpr char16_t DeleteCharacter = 127;
+
 /// A field whose text stands in an edit window, as that window's input knows it.
 class EditedField : public ChildField {
 public:
@@ -55,7 +58,6 @@ private:
     bool handleMouse(UINT message, WPARAM wide, LPARAM data, LRESULT& result);
     LRESULT defaultFor(UINT message, WPARAM wide, LPARAM data) const;
 
-    LRESULT copyText(std::size_t capacity, wchar_t* out) const;
     LRESULT dialogCode(const MSG* asked) const;
     bool keyDown(std::int16_t code, LPARAM data);
     void unitTyped(char16_t unit);
@@ -73,6 +75,9 @@ private:
     int WheelRest_ = 0;       ///< turned so far towards the next notch
     bool LeftPressed_ = false;
 };
+
+/// The characters that the key press in hand has made, off the queue. They come with the press's own data.
+std::u16string takeCharacters(HWND window, LPARAM pressData);
 
 /// The modifier keys that are down for the message being handled.
 Modifiers modifiersDown();

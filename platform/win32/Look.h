@@ -16,6 +16,9 @@ inline COLORREF colorOf(Color color) {
                                 : static_cast<COLORREF>(color & 0xFFFFFFU);
 }
 
+/// Flags for `DrawText`: text reads as the window goes.
+inline UINT readingOrder(HDC context) { return (GetLayout(context) & LAYOUT_RTL) != 0 ? DT_RTLREADING : 0U; }
+
 /// Fills in `color` with the system's changeable brush: there is none to keep.
 HBRUSH brushFor(HDC context, COLORREF color);
 

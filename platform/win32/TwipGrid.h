@@ -23,6 +23,8 @@ public:
         return {pixel(twips.left), pixel(twips.top), pixel(twips.left + twips.width), pixel(twips.top + twips.height)};
     }
 
+    std::int32_t twips(int pixels) const { return pixels * TwipsPerPixel_; }
+
     /// Height of a font of `points`.
     int fontPixels(double points) const {
         constexpr double TwipsPerPoint = 20;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -9,5 +10,15 @@ namespace kel::win32 {
 inline std::wstring wide(std::u16string_view text) { return {text.begin(), text.end()}; }
 
 inline std::u16string unwiden(std::wstring_view text) { return {text.begin(), text.end()}; }
+
+/// What a window answers that is asked for its text: as much as fits in `capacity` units with a zero behind. Returns
+/// how much that is.
+inline std::size_t copyText(std::u16string_view text, std::size_t capacity, wchar_t* out) {
+    if (capacity == 0 || out == nullptr) return 0;
+    const std::size_t units = std::min(capacity - 1, text.size());
+    std::copy_n(text.begin(), units, out);
+    out[units] = L'\0';
+    return units;
+}
 
 }  // namespace kel::win32

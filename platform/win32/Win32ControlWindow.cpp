@@ -5,7 +5,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/win32/Win32CheckBox.h"
 #include "platform/win32/Win32ComboBox.h"
+#include "platform/win32/Win32PictureBox.h"
 #include "platform/win32/Win32TextBox.h"
 #include "platform/win32/Win32UpDown.h"
 
@@ -63,6 +65,16 @@ std::unique_ptr<TextBox> Win32ControlWindow::makeTextBox(TextBoxListener& listen
 std::unique_ptr<UpDown> Win32ControlWindow::makeUpDown(UpDownListener& listener) {
     ControlFrame& frame = *this;
     return std::make_unique<Win32UpDown>(frame, listener);
+}
+
+std::unique_ptr<CheckBox> Win32ControlWindow::makeCheckBox(CheckBoxListener& listener) {
+    ControlFrame& frame = *this;
+    return std::make_unique<Win32CheckBox>(frame, listener);
+}
+
+std::unique_ptr<PictureBox> Win32ControlWindow::makePictureBox() {
+    ControlFrame& frame = *this;
+    return std::make_unique<Win32PictureBox>(frame);
 }
 
 std::unique_ptr<ComboBox> Win32ControlWindow::makeComboBox(ComboBoxListener& listener) {
@@ -191,6 +203,18 @@ void Win32ControlWindow::setToolTip(HWND field, const wchar_t* text) {
 void Win32ControlWindow::setFocus() {
     ChildField* const field = shownField();
     if (field != nullptr && field->window() != nullptr && field->acceptsInput()) SetFocus(field->window());
+}
+
+char16_t Win32ControlWindow::mnemonic() const {
+    if (Label_ != nullptr) return Label_->mnemonic();
+    const ChildField* const field = shownField();
+    return field != nullptr ? field->mnemonic() : u'\0';
+}
+
+void Win32ControlWindow::pressMnemonic() {
+    setFocus();
+    ChildField* const field = shownField();
+    if (field != nullptr && field->window() != nullptr && GetFocus() == field->window()) field->mnemonicPressed();
 }
 
 bool Win32ControlWindow::hasFocus() const { return Window_ != nullptr && isIn(Window_, GetFocus()); }

@@ -30,8 +30,8 @@ public:
     void setFocus() override;
     bool hasFocus() const override;
     bool translateAccelerator(MSG& message) override;
-    char16_t mnemonic() const override { return Label_ != nullptr ? Label_->mnemonic() : u'\0'; }
-    void pressMnemonic() override { setFocus(); }
+    char16_t mnemonic() const override;
+    void pressMnemonic() override;
     void draw(HDC context, const RECT& bounds) override;
 
     /// The screen that the window is on has another resolution.
@@ -41,6 +41,8 @@ private:
     std::unique_ptr<Label> makeLabel() override;
     std::unique_ptr<TextBox> makeTextBox(TextBoxListener& listener, bool multiLine) override;
     std::unique_ptr<UpDown> makeUpDown(UpDownListener& listener) override;
+    std::unique_ptr<CheckBox> makeCheckBox(CheckBoxListener& listener) override;
+    std::unique_ptr<PictureBox> makePictureBox() override;
     std::unique_ptr<ComboBox> makeComboBox(ComboBoxListener& listener) override;
 
     HWND window() const override { return Window_; }

@@ -160,7 +160,7 @@ bool Win32FormWindow::pressMnemonic(char16_t character) {
     for (const Caption& caption : Captions_) {
         PlacedWin32Control* const control = isSameLetter(caption.mnemonic, character) ? namedBy(caption) : nullptr;
         if (control == nullptr) continue;
-        control->window().pressMnemonic();
+        control->window().setFocus();
         return true;
     }
     return false;

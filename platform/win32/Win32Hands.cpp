@@ -155,9 +155,9 @@ void Win32FormWindow::click(PlacedControl& control, std::int32_t position) {
     focus(control);
     auto& placed = static_cast<PlacedWin32Control&>(control);
     HWND const field = placed.focusTarget();
-    EditedField* const box = placed.editedField();
-    if (field == nullptr || box == nullptr) return;
-    postLeftClick(field, aimedAt(field, box->showPosition(position)));
+    if (field == nullptr) return;
+    EditedField* const edited = placed.editedField();
+    postLeftClick(field, edited != nullptr ? aimedAt(field, edited->showPosition(position)) : centerOf(field));
     Session_.settle(true);
 }
 

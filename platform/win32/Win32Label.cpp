@@ -59,8 +59,7 @@ void Win32Label::draw(HDC context, const RECT& control, int baseline, bool enabl
     SetTextColor(context, enabled && this->enabled() ? colorOf(foreColor()) : GetSysColor(COLOR_GRAYTEXT));
     SetBkMode(context, TRANSPARENT);
     const bool severalLines = bounds().height > CaptionHeight;
-    UINT flags = DT_LEFT | DT_NOCLIP | (severalLines ? DT_WORDBREAK : DT_SINGLELINE);
-    if ((GetLayout(context) & LAYOUT_RTL) != 0) flags |= DT_RTLREADING;
+    const UINT flags = DT_LEFT | DT_NOCLIP | (severalLines ? DT_WORDBREAK : DT_SINGLELINE) | readingOrder(context);
     const std::wstring text = wide(Caption_);
     DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &area, flags);
 }

@@ -2,8 +2,6 @@
 
 #include <commctrl.h>
 
-#include "platform/win32/ControlWindow.h"
-
 namespace kel::win32 {
 
 namespace {
@@ -20,50 +18,47 @@ const WindowClass& upDownClass() {
 
 }  // namespace
 
-Win32UpDown::Win32UpDown(ControlFrame& frame, UpDownListener& listener) : Win32Widget(frame), Listener_(listener) {
+Win32UpDown::Win32UpDown(ControlFrame& frame, UpDownListener& listener)
+    : Win32Widget(frame), SystemWindow(frame), Listener_(listener) {
     frame.add(*this);
 }
 
 Win32UpDown::~Win32UpDown() {
     frame().remove(*this);
-    if (Window_ != nullptr) DestroyWindow(std::exchange(Window_, nullptr));
+    destroy();
 }
 
 // ---- The window
 
 void Win32UpDown::makeWindow() {
-    if (Window_ != nullptr) return;
-    const RECT place = pixels();
-    CreateWindowExW(0, upDownClass().name(), L"", WS_CHILD | WS_CLIPSIBLINGS, place.left, place.top, widthOf(place),
-                    heightOf(place), frame().window(), nullptr, thisModule(), static_cast<WindowHandler*>(this));
-    if (Window_ == nullptr) return;
+    if (!create(upDownClass(), frame().window(), 0, pixels())) return;
     base(UDM_SETRANGE32, Down, Up);
     base(UDM_SETPOS32, 0, Rest);
-    EnableWindow(Window_, looksEnabled());
-    if (Visible_) ShowWindow(Window_, SW_SHOWNA);
+    EnableWindow(window(), looksEnabled());
+    if (Visible_) ShowWindow(window(), SW_SHOWNA);
 }
 
 void Win32UpDown::placeChanged() {
-    placeWindow(Window_);
+    placeWindow(window());
     frame().viewChanged();
 }
 
 void Win32UpDown::setVisible(bool visible) {
     if (visible == Visible_) return;
     Visible_ = visible;
-    if (!visible) frame().takeInputFrom(Window_);
-    if (Window_ != nullptr) ShowWindow(Window_, visible ? SW_SHOWNA : SW_HIDE);
+    if (!visible) frame().takeInputFrom(window());
+    if (window() != nullptr) ShowWindow(window(), visible ? SW_SHOWNA : SW_HIDE);
     frame().viewChanged();
 }
 
 void Win32UpDown::enabledChanged() {
-    if (!enabled()) frame().takeInputFrom(Window_);
+    if (!enabled()) frame().takeInputFrom(window());
     frameEnabledChanged();
     frame().viewChanged();
 }
 
 void Win32UpDown::frameEnabledChanged() {
-    if (Window_ != nullptr) EnableWindow(Window_, looksEnabled());
+    if (window() != nullptr) EnableWindow(window(), looksEnabled());
 }
 
 void Win32UpDown::draw(HDC context, POINT origin) const {
@@ -79,19 +74,6 @@ void Win32UpDown::draw(HDC context, POINT origin) const {
 
 // ---- What comes to the window
 
-LRESULT Win32UpDown::handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) {
-    if (Window_ == nullptr) Window_ = window;
-    ControlWindowOwner& owner = frame().owner();
-    owner.holdOpen();
-    const LRESULT result = atEdge([&] { return handle(message, wide, data); });
-    owner.letGo();
-    return result;
-}
-
-LRESULT Win32UpDown::base(UINT message, WPARAM wide, LPARAM data) const {
-    return CallWindowProcW(upDownClass().baseProcedure(), Window_, message, wide, data);
-}
-
 LRESULT Win32UpDown::handle(UINT message, WPARAM wide, LPARAM data) {
     switch (message) {
         case WM_LBUTTONDOWN: return acceptsInput() ? step(message, wide, data) : 0;
@@ -102,11 +84,6 @@ LRESULT Win32UpDown::handle(UINT message, WPARAM wide, LPARAM data) {
             }
             // Not while the handler of the step before is still at it.
             return Value_ == Rest ? step(message, wide, data) : 0;
-        case WM_NCDESTROY: {
-            const LRESULT result = base(message, wide, data);
-            Window_ = nullptr;
-            return result;
-        }
         default: return base(message, wide, data);
     }
 }
@@ -131,16 +108,16 @@ LRESULT Win32UpDown::notified(UINT notification, LPARAM details) {
 
 /// A window in front, such as a message box, takes the mouse away without a word to the child windows.
 bool Win32UpDown::isHeld() const {
-    return GetCapture() == Window_ && acceptsInput() && IsWindowVisible(Window_) != FALSE &&
-           IsWindowEnabled(GetAncestor(Window_, GA_ROOT)) != FALSE;
+    return GetCapture() == window() && acceptsInput() && IsWindowVisible(window()) != FALSE &&
+           IsWindowEnabled(GetAncestor(window(), GA_ROOT)) != FALSE;
 }
 
 /// Versions of the control differ in what makes them stop.
 void Win32UpDown::letButtonGo(WPARAM timer) {
-    if (GetCapture() == Window_) ReleaseCapture();
+    if (GetCapture() == window()) ReleaseCapture();
     if (GetCapture() == nullptr) base(WM_CANCELMODE);
     base(WM_TIMER, timer);
-    KillTimer(Window_, timer);
+    KillTimer(window(), timer);
 }
 
 }  // namespace kel::win32

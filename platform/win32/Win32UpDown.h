@@ -1,13 +1,13 @@
 #pragma once
 
+#include "platform/win32/SystemWindow.h"
 #include "platform/win32/Win32Widget.h"
-#include "platform/win32/WindowClass.h"
 
 namespace kel::win32 {
 
 /// A spinner: the system's up-down control, which holds no number here and only says which of its buttons is
 /// pressed or held.
-class Win32UpDown final : public Win32Widget<UpDown>, public ChildWidget, private WindowHandler {
+class Win32UpDown final : public Win32Widget<UpDown>, public ChildWidget, private SystemWindow {
 public:
     Win32UpDown(ControlFrame& frame, UpDownListener& listener);
     ~Win32UpDown() override;
@@ -21,11 +21,11 @@ public:
 
     // ---- ChildWidget
 
-    HWND window() const override { return Window_; }
+    HWND window() const override { return windowHandle(); }
     void makeWindow() override;
     bool shown() const override { return Visible_; }
     void frameEnabledChanged() override;
-    void rescale() override { placeWindow(Window_); }
+    void rescale() override { placeWindow(window()); }
     LRESULT notified(UINT notification, LPARAM details) override;
     void draw(HDC context, POINT origin) const override;
 
@@ -36,15 +36,12 @@ private:
     void enabledChanged() override;
     bool looksEnabled() const { return enabled() && frame().enabled(); }
 
-    LRESULT handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) override;
-    LRESULT handle(UINT message, WPARAM wide, LPARAM data);
-    LRESULT base(UINT message, WPARAM wide = 0, LPARAM data = 0) const;
+    LRESULT handle(UINT message, WPARAM wide, LPARAM data) override;
     LRESULT step(UINT message, WPARAM wide, LPARAM data);
     bool isHeld() const;
     void letButtonGo(WPARAM timer);
 
     UpDownListener& Listener_;
-    HWND Window_ = nullptr;
     std::int32_t Value_ = Rest;
     std::int32_t Pressed_ = Rest;  ///< by the message in hand
     bool Visible_ = false;

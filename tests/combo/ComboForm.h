@@ -64,6 +64,8 @@ private:
     std::unique_ptr<Label> makeLabel() override { return std::make_unique<headless::HeadlessLabel>(); }
     std::unique_ptr<TextBox> makeTextBox(TextBoxListener&, bool) override { return nullptr; }
     std::unique_ptr<UpDown> makeUpDown(UpDownListener&) override { return nullptr; }
+    std::unique_ptr<CheckBox> makeCheckBox(CheckBoxListener&) override { return nullptr; }
+    std::unique_ptr<PictureBox> makePictureBox() override { return nullptr; }
     std::unique_ptr<ComboBox> makeComboBox(ComboBoxListener& listener) override;
 
     std::int32_t colorDepth() const override { return 24; }

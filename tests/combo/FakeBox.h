@@ -38,6 +38,7 @@ public:
     std::u16string toolTip() const override { return ToolTip_; }
     void setToolTip(std::u16string_view text) override { ToolTip_.assign(text); }
     void setFocus() override {}
+    void installFrame(const std::int16_t&) override {}
 
 private:
     void playStep(std::string_view step);
@@ -51,6 +52,7 @@ private:
     void click(PlacedControl&, std::int32_t) override {}
     void rightClick(PlacedControl&) override {}
     void spin(PlacedControl&, bool) override {}
+    void pick(PlacedControl&, std::int32_t) override {}
     PlacedControl* focused() const override { return nullptr; }
     bool savePicture(const std::string&) override { return false; }
 

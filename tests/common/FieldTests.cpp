@@ -63,7 +63,7 @@ SharedSettings coloursOf(std::int32_t depth) {
         double FieldFontSize() override { return 8; }
         void SendKey(std::int16_t) override {}
         std::shared_ptr<kel::RuntimeDates> RuntimeDates() override { return nullptr; }
-        std::u16string ListAppend(const std::u16string& list, const std::u16string&) override { return list; }
+        std::u16string ListAppend(std::u16string list, std::u16string_view) override { return list; }
         std::u16string ReadField(const std::u16string&, std::int32_t& position, std::int16_t) override {
             position = -1;
             return {};

@@ -59,7 +59,7 @@ void pressKey(FormWindow& window, std::string_view key) {
 
 }  // namespace
 
-std::string drawn(const TextBox& box) {
+std::string drawn(const TextEntry& box) {
     std::u16string text = box.text();
     const auto start = static_cast<std::size_t>(box.selStart());
     const auto length = static_cast<std::size_t>(box.selLength());

@@ -9,7 +9,7 @@
 namespace kel::test {
 
 /// "12.|34", or "1[2.3]4" with a selection.
-std::string drawn(const TextBox& box);
+std::string drawn(const TextEntry& box);
 
 /// Puts a text that is drawn that way; the caret comes to stand at the selection's end.
 void put(TextBox& box, std::string_view drawing);

@@ -47,7 +47,7 @@ public:
     void Show() override { tell("Show"); }
     void EnterFocus() override { tell("EnterFocus"); }
     void ExitFocus() override { tell("ExitFocus"); }
-    WidgetSet widgets() override { return {.field = Box_.get(), .textBox = Box_.get(), .upDown = UpDown_.get()}; }
+    WidgetSet widgets() override { return {.field = Box_.get(), .entry = Box_.get(), .upDown = UpDown_.get()}; }
 
 private:
     void Text1_Change() override { tell("Change"); }

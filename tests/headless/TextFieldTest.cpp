@@ -24,7 +24,7 @@ protected:
         placed.setBounds({0, 0, 4000, 300});
         return static_cast<KelText&>(placed.control());
     }
-    std::string looks(KelText& field) { return drawn(*field.widgets().textBox); }
+    std::string looks(KelText& field) { return drawn(*field.widgets().entry); }
 
     TestForm Form;
     FormWindow& Window = Form.window();

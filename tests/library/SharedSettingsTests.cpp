@@ -25,7 +25,7 @@ public:
     double FieldFontSize() override { return 8; }
     void SendKey(std::int16_t) override {}
     std::shared_ptr<kel::RuntimeDates> RuntimeDates() override { return nullptr; }
-    std::u16string ListAppend(const std::u16string& list, const std::u16string&) override { return list; }
+    std::u16string ListAppend(std::u16string list, std::u16string_view) override { return list; }
     std::u16string ReadField(const std::u16string&, std::int32_t& position, std::int16_t) override {
         position = -1;
         return {};
@@ -75,11 +75,6 @@ TEST_F(SetRuntime, FailsWithTheObjectsOwnError) {
     EXPECT_THROW(hand(std::make_shared<NoRuntime>()), AutomationError);
 }
 
-class NullObserver final : public ControlObserver {
-    void controlEvent(PlacedControl&, const EventRow&, std::span<Variant>) override {}
-    void propertyReported(PlacedControl&, std::u16string_view) override {}
-};
-
 class DefaultsBag final : public PropertyBag {
     Variant readProperty(const PersistedRow& row) override { return toVariant(row.readDefault); }
     void writeProperty(const PersistedRow&, const Variant&) override {}
@@ -91,7 +86,7 @@ TEST(LoadingAControl, MakesADefaultRuntimeUnlessTheHostGaveOne) {
         const auto given = std::make_shared<HostRuntime>();
         if (handedOver) adoptRuntime(home->settings(), given);
         const auto window = home->makeWindow({}, home->system());
-        NullObserver observer;
+        SilentObserver observer;
         PlacedControl& placed = window->place(*libraryClasses().find(u"KelText"), {.name = u"t"}, observer);
         EXPECT_EQ(home->settings().Runtime != nullptr, handedOver) << "a control not loaded yet makes none";
         DefaultsBag bag;

@@ -18,7 +18,7 @@ namespace {
 
 constexpr Qt::DropActions AnyAction = Qt::CopyAction | Qt::MoveAction;
 
-QWidget& areaOf(TextBox& box) { return dynamic_cast<qt::EditBox&>(box).mouseArea(); }
+QWidget& areaOf(TextEntry& box) { return dynamic_cast<qt::EditBox&>(box).mouseArea(); }
 
 QPoint startOf(const QWidget& area) { return {4, area.height() / 2}; }
 QPoint endOf(const QWidget& area) { return {area.width() - 3, area.height() / 2}; }
@@ -53,7 +53,7 @@ private:
     QMimeData Data_;
 };
 
-Qt::DropAction dropText(TextBox& box, const QString& text) {
+Qt::DropAction dropText(TextEntry& box, const QString& text) {
     QWidget& area = areaOf(box);
     Dragged dragged(area, text);
     dragged.enter(endOf(area));
@@ -101,7 +101,7 @@ protected:
         ProbeControl::takeLog();
     }
 
-    TextBox& box() { return boxOf(second); }
+    TextEntry& box() { return boxOf(second); }
 
     ProbeForm form;
     PlacedControl& first;

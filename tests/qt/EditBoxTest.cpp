@@ -22,7 +22,7 @@ struct OneField {
         form.window().focus(placed);
         form.takeLog();
     }
-    TextBox& box() { return boxOf(placed); }
+    TextEntry& box() { return boxOf(placed); }
     QWidget& widget() { return widgetOf(box()); }
 
     void compose(const QString& preedit, const QString& commit = {}, int replaceFrom = 0, int replaceLength = 0) {
@@ -129,6 +129,7 @@ TEST(EditBox, ChangesByOthersAreReportedAndUndone) {
     for (const bool multiLine : {false, true}) {
         OneField field(multiLine);
         put(field.box(), "a[b]c");
+        QCoreApplication::sendPostedEvents();  // they work on what they see
         field.form.takeLog();
         if (auto* const line = dynamic_cast<QLineEdit*>(&field.widget()))
             line->insert(QStringLiteral("spoken"));

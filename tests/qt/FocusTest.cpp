@@ -39,7 +39,7 @@ protected:
             widget->setParent(nullptr);
     }
 
-    static QWidget* boxOf(KelTextWidget& field) { return &widgetOf(*field.control().widgets().textBox); }
+    static QWidget* boxOf(KelTextWidget& field) { return &widgetOf(*field.control().widgets().entry); }
     static bool hasFocusColor(KelTextWidget& field) {
         return field.control().widgets().field->backColor() == qt::defaultHome().settings().FieldBackFocus;
     }
@@ -94,7 +94,7 @@ TEST_F(MixedWindow, PopupsAndOtherWindowsAreNoChange) {
     behind.setFocus();
     tab();
     ASSERT_TRUE(hasFocusColor(first));
-    TextBox& box = *first.control().widgets().textBox;
+    TextEntry& box = *first.control().widgets().entry;
     box.setSelStart(1);
     box.setSelLength(2);
 
@@ -149,7 +149,7 @@ TEST_F(MixedWindow, MnemonicsLeadToTheField) {
     behind.setFocus();
     QTest::keyClick(window.windowHandle(), Qt::Key_N, Qt::AltModifier);
     EXPECT_EQ(QApplication::focusWidget(), boxOf(first));
-    EXPECT_EQ(first.control().widgets().textBox->selLength(), 0) << "not by Tab, nothing selected";
+    EXPECT_EQ(first.control().widgets().entry->selLength(), 0) << "not by Tab, nothing selected";
     first.setCaption(QStringLiteral("Na&me"));
     behind.setFocus();
     QTest::keyClick(window.windowHandle(), Qt::Key_N, Qt::AltModifier);
@@ -170,7 +170,7 @@ TEST_F(MixedWindow, EnterMovesOnAsTab) {
     qt::strikeKey({keys::Enter, 0, NoModifier});
     settle();
     EXPECT_EQ(QApplication::focusWidget(), boxOf(second));
-    EXPECT_EQ(second.control().widgets().textBox->selLength(), 4) << "seen as Tab";
+    EXPECT_EQ(second.control().widgets().entry->selLength(), 4) << "seen as Tab";
 }
 
 }  // namespace

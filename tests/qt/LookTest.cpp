@@ -67,7 +67,7 @@ TEST(Looks, ColorsNameRedInTheLowByteAndTheSystemsByIndex) {
 TEST(Looks, AChangeOfTheDesktopReachesTheFields) {
     QWidget window;
     auto* const field = new KelTextWidget(&window);
-    TextBox& box = *field->control().widgets().textBox;
+    TextEntry& box = *field->control().widgets().entry;
     const QWidget& shown = widgetOf(box);
     box.setBackColor(colors::SystemButtonFace);
     const QPalette light = window.palette();
@@ -124,11 +124,11 @@ TEST(Looks, FromRightToLeftTheCaptionStandsAtTheRight) {
     field->setCaption(QStringLiteral("HHH"));
     field->setGeometry(0, 0, 240, 20);
     window.show();
-    QWidget& box = widgetOf(*field->control().widgets().textBox);
+    QWidget& box = widgetOf(*field->control().widgets().entry);
     EXPECT_EQ(box.geometry(), QRect(80, 0, 160, 20));
     window.setLayoutDirection(Qt::RightToLeft);
     EXPECT_EQ(box.geometry(), QRect(0, 0, 160, 20));
-    EXPECT_EQ(field->control().widgets().textBox->bounds(), (Rect{1200, 0, 2400, 300})) << "in twips nothing changes";
+    EXPECT_EQ(field->control().widgets().entry->bounds(), (Rect{1200, 0, 2400, 300})) << "in twips nothing changes";
     EXPECT_GE(inkIn(field->grab().toImage(), 162, 240).right(), 236);
     field->resize(300, 20);
     EXPECT_EQ(box.geometry(), QRect(0, 0, 220, 20));

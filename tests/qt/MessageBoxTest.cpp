@@ -142,7 +142,7 @@ TEST(MessageBox, OutlivesAWindowThatAProgramCloses) {
         });
         QMessageBox::information(nullptr, {}, QStringLiteral("A box of the program's own"));
     });
-    TextBox& box = *field->control().widgets().textBox;
+    TextEntry& box = *field->control().widgets().entry;
     field->setText(QStringLiteral("x"));
     EXPECT_EQ(box.text(), u"x") << "alive until the event loop is back";
     letGo();

@@ -12,15 +12,6 @@ constexpr Size ClientSize{15000, 7500};
 constexpr std::int32_t FieldWidth = 14000;  ///< so that nothing the tests type needs a second line
 constexpr std::int32_t Gap = 75;
 
-template <class Box>
-std::string drawnText(const Box& box) {
-    std::u16string text = box.text();
-    const auto start = static_cast<std::size_t>(box.selStart());
-    const auto length = static_cast<std::size_t>(box.selLength());
-    if (length == 0) return toUtf8(text.insert(start, u"|"));
-    return toUtf8(text.insert(start + length, u"]").insert(start, u"["));
-}
-
 }  // namespace
 
 TextForm::TextForm(std::unique_ptr<Home> home) : Home_(std::move(home)) {
@@ -39,13 +30,15 @@ PlacedControl& TextForm::placeAt(const Placement& placement, const ClassModel& m
     PlacedControl& placed = Window_->place(model, placement, *this);
     placed.control().InitProperties();
     placed.setBounds(placement.bounds);
-    putMember(placed.control(), *findMember(model, EnabledId), true, Home_->region());
+    putMember(placed.control(), *findMember(model, u"Enabled"), true, Home_->region());
     Log_.clear();
     return placed;
 }
 
 void TextForm::controlEvent(PlacedControl& control, const EventRow& event, std::span<Variant> /*arguments*/) {
-    Log_ += toUtf8(control.name()) + "." + toUtf8(event.name) + "(" + toUtf8(boxOf(control).text()) + ") ";
+    const TextEntry* const entry = control.control().widgets().entry;
+    const std::string text = entry != nullptr ? toUtf8(entry->text()) : "";
+    Log_ += toUtf8(control.name()) + "." + toUtf8(event.name) + "(" + text + ") ";
     if (onEvent) onEvent(control, event);
 }
 
@@ -55,14 +48,19 @@ void TextForm::propertyReported(PlacedControl& control, std::u16string_view bagN
 
 KelText& textOf(PlacedControl& control) { return static_cast<KelText&>(control.control()); }
 
-TextBox& boxOf(PlacedControl& control) { return *control.control().widgets().textBox; }
+TextEntry& boxOf(PlacedControl& control) { return *control.control().widgets().entry; }
 
-QWidget& widgetOf(TextBox& box) { return dynamic_cast<QWidget&>(box); }
+QWidget& widgetOf(TextEntry& box) { return dynamic_cast<QWidget&>(box); }
 
-std::string drawn(TextBox& box) { return drawnText(box); }
-std::string drawn(ComboBox& box) { return drawnText(box); }
+std::string drawn(const TextEntry& box) {
+    std::u16string text = box.text();
+    const auto start = static_cast<std::size_t>(box.selStart());
+    const auto length = static_cast<std::size_t>(box.selLength());
+    if (length == 0) return toUtf8(text.insert(start, u"|"));
+    return toUtf8(text.insert(start + length, u"]").insert(start, u"["));
+}
 
-void put(TextBox& box, std::string_view drawing) {
+void put(TextEntry& box, std::string_view drawing) {
     std::u16string text = *fromUtf8(drawing);
     const std::size_t start = text.find_first_of(u"|[");
     const std::size_t end = text.find(u']');

@@ -42,16 +42,15 @@ private:
 };
 
 KelText& textOf(PlacedControl& control);
-TextBox& boxOf(PlacedControl& control);
+TextEntry& boxOf(PlacedControl& control);
 
 /// The Qt widget behind a box.
-QWidget& widgetOf(TextBox& box);
+QWidget& widgetOf(TextEntry& box);
 
 /// The text with its caret or selection: "12.|34", "1[2.3]4".
-std::string drawn(TextBox& box);
-std::string drawn(ComboBox& box);
+std::string drawn(const TextEntry& box);
 /// Puts text and selection as `drawn` shows them.
-void put(TextBox& box, std::string_view drawing);
+void put(TextEntry& box, std::string_view drawing);
 
 void typeInto(FormWindow& window, std::u32string_view characters);
 

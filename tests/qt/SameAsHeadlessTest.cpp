@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 #include <random>
 
+#include "controls/check/KelCheck.h"
+#include "controls/combo/KelCombo.h"
 #include "controls/datetime/KelDate.h"
 #include "controls/number/KelNumber.h"
 #include "platform/headless/HeadlessHome.h"
@@ -16,7 +18,10 @@ namespace {
 constexpr std::size_t TextFields = 4;
 constexpr std::size_t NumberField = 4;
 constexpr std::size_t DateField = 5;
-constexpr std::size_t Fields = 6;
+constexpr std::size_t CheckField = 6;
+constexpr std::size_t LimitedField = 7;
+constexpr std::size_t FreeField = 8;
+constexpr std::size_t Fields = 9;
 
 class Worked {
 public:
@@ -27,6 +32,13 @@ public:
         text(3).put_MultiLine(true);
         Controls_.push_back(&Form_.place(u"n", 300, KelNumberModel));
         Controls_.push_back(&Form_.place(u"d", 300, KelDateModel));
+        Controls_.push_back(&Form_.place(u"k", 300, KelCheckModel));
+        for (const char16_t* const name : {u"l", u"f"}) {
+            Controls_.push_back(&Form_.place(name, 300, KelComboModel));
+            combo(Controls_.size() - 1).put_List(u"abc,abd,17,,X y,abc,70");
+        }
+        combo(FreeField).put_LimitToList(false);
+        combo(FreeField).put_SelectOnFocus(true);
         auto& number = static_cast<KelNumber&>(control(NumberField).control());
         number.put_Decimals(2);
         number.put_UpDown(true);
@@ -36,13 +48,21 @@ public:
     FormWindow& window() { return Form_.window(); }
     PlacedControl& control(std::size_t index) { return *Controls_[index]; }
     KelText& text(std::size_t index) { return textOf(*Controls_[index]); }
+    KelCombo& combo(std::size_t index) { return static_cast<KelCombo&>(control(index).control()); }
+    KelCheck& check() { return static_cast<KelCheck&>(control(CheckField).control()); }
 
     std::string state() {
         const PlacedControl* const focused = window().focused();
         std::string state = Form_.takeLog() + "\nfocus " + (focused == nullptr ? "-" : toUtf8(focused->name()));
-        for (PlacedControl* const placed : Controls_)
-            state += "\n" + drawn(boxOf(*placed)) + " " + std::to_string(boxOf(*placed).backColor()) + " " +
-                     std::to_string(boxOf(*placed).foreColor());
+        for (PlacedControl* const placed : Controls_) {
+            const WidgetSet widgets = placed->control().widgets();
+            state +=
+                "\n" + (widgets.entry != nullptr ? drawn(*widgets.entry) : std::to_string(widgets.checkBox->value()));
+            if (const ComboBox* const box = widgets.comboBox)
+                state += " " + std::to_string(box->listIndex()) + (box->isDropped() ? " open" : "");
+            state +=
+                " " + std::to_string(widgets.field->backColor()) + " " + std::to_string(widgets.field->foreColor());
+        }
         return state;
     }
 
@@ -99,7 +119,11 @@ Step hand(Dice& dice) {
     const auto position = static_cast<std::int32_t>(dice.below(12));
     const std::u16string_view text = dice.oneOf(Texts);
     const bool up = dice.below(2) == 0;
-    switch (dice.below(6)) {
+    const std::size_t list = dice.oneOf({LimitedField, FreeField});
+    const auto item = static_cast<std::int32_t>(dice.below(7));
+    switch (dice.below(8)) {
+        case 6: return [=](Worked& form) { form.window().pick(form.control(list), item); };
+        case 7: return [=](Worked& form) { form.window().press({keys::F4, 0, NoModifier}); };
         case 4: return [=](Worked& form) { form.window().spin(form.control(NumberField), up); };
         case 5: return [=](Worked& form) { form.window().spin(form.control(DateField), up); };
         case 0: return [=](Worked& form) { form.window().rightClick(form.control(field)); };
@@ -113,7 +137,14 @@ Step program(Dice& dice) {
     const std::size_t field = dice.below(TextFields);
     const auto number = static_cast<std::int16_t>(dice.below(10));
     const std::u16string text(dice.oneOf(Texts));
-    switch (dice.below(9)) {
+    const std::size_t list = dice.oneOf({LimitedField, FreeField});
+    switch (dice.below(17)) {
+        case 11: return [=](Worked& form) { form.combo(list).put_Locked(!form.combo(list).get_Locked()); };
+        case 12: return [=](Worked& form) { form.combo(list).put_Enabled(!form.combo(list).get_Enabled()); };
+        case 13: return [=](Worked& form) { form.combo(list).put_LimitToList(number < 6); };
+        case 14: return [=](Worked& form) { form.combo(list).put_ListIndex(number); };
+        case 15: return [=](Worked& form) { form.combo(list).put_Text(number < 5 ? u"abd" : text); };
+        case 16: return [=](Worked& form) { static_cast<void>(form.combo(list).get_Text()); };
         case 0: return [=](Worked& form) { form.text(field).put_Locked(!form.text(field).get_Locked()); };
         case 1: return [=](Worked& form) { form.text(field).put_Enabled(!form.text(field).get_Enabled()); };
         case 2: return [=](Worked& form) { form.text(field).put_MaxLength(number); };
@@ -121,6 +152,8 @@ Step program(Dice& dice) {
         case 4: return [=](Worked& form) { form.text(field).put_PasswordChar(number < 7 ? u"" : u"*"); };
         case 5: return [=](Worked& form) { boxOf(form.control(field)).setSelStart(number); };
         case 6: return [=](Worked& form) { boxOf(form.control(field)).setSelLength(number - 2); };
+        case 8: return [=](Worked& form) { form.check().put_Locked(!form.check().get_Locked()); };
+        case 9: return [=](Worked& form) { form.check().put_Enabled(!form.check().get_Enabled()); };
         case 7: return [=](Worked& form) { boxOf(form.control(field)).setSelText(text); };
         default: return [=](Worked& form) { form.text(field).put_Text(text); };
     }

@@ -24,7 +24,7 @@ bool turn(QWidget& area, const QPoint& angle) {
     return event.isAccepted();
 }
 
-QWidget& areaOf(TextBox& box) { return dynamic_cast<qt::EditBox&>(box).mouseArea(); }
+QWidget& areaOf(TextEntry& box) { return dynamic_cast<qt::EditBox&>(box).mouseArea(); }
 
 TEST(Wheel, CountsWholeNotches) {
     struct Case {
@@ -85,10 +85,10 @@ TEST(Wheel, ScrollsWhatIsAround) {
     area.resize(400, 300);
     area.show();
     const QScrollBar& bar = *area.verticalScrollBar();
-    turn(areaOf(*line->control().widgets().textBox), {0, -Notch});
+    turn(areaOf(*line->control().widgets().entry), {0, -Notch});
     EXPECT_GT(bar.value(), 0);
     const int reached = bar.value();
-    QWidget& lines = areaOf(*several->control().widgets().textBox);
+    QWidget& lines = areaOf(*several->control().widgets().entry);
     turn(lines, {0, -Notch});
     EXPECT_EQ(bar.value(), reached) << "several lines scroll themselves";
     for (int i = 0; i < 10; ++i) turn(lines, {0, -Notch});

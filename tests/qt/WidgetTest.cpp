@@ -19,7 +19,7 @@
 namespace kel::test {
 namespace {
 
-QWidget& boxOf(KelTextWidget& field) { return widgetOf(*field.control().widgets().textBox); }
+QWidget& boxOf(KelTextWidget& field) { return widgetOf(*field.control().widgets().entry); }
 
 QString spoken(QWidget& widget, QAccessible::Text part) {
     return QAccessible::queryAccessibleInterface(&widget)->text(part);

@@ -11,7 +11,7 @@ using Items = std::vector<std::u16string>;
 
 std::u16string listOf(const Items& items) {
     std::u16string list;
-    for (const auto& item : items) list = appendListItem(list, item);
+    for (const auto& item : items) appendListItem(list, item);
     return list;
 }
 

@@ -78,8 +78,8 @@ std::shared_ptr<kel::RuntimeDates> AutomationRuntime::RuntimeDates() {
     return std::make_shared<AutomationDates>(object->dispatch());
 }
 
-std::u16string AutomationRuntime::ListAppend(const std::u16string& list, const std::u16string& item) {
-    std::array<Variant, 2> arguments{list, item};
+std::u16string AutomationRuntime::ListAppend(std::u16string list, std::u16string_view item) {
+    std::array<Variant, 2> arguments{std::move(list), std::u16string(item)};
     return as<std::u16string>(Members_.call(u"ListAppend", arguments));
 }
 

@@ -22,7 +22,7 @@ public:
     double FieldFontSize() override;
     void SendKey(std::int16_t keyCode) override;
     std::shared_ptr<kel::RuntimeDates> RuntimeDates() override;
-    std::u16string ListAppend(const std::u16string& list, const std::u16string& item) override;
+    std::u16string ListAppend(std::u16string list, std::u16string_view item) override;
     std::u16string ReadField(const std::u16string& text, std::int32_t& position, std::int16_t separator) override;
 
 private:

@@ -5,6 +5,7 @@
 #include "platform/win32/ole/OleControl.h"
 #include "platform/win32/ole/PropertyStream.h"
 #include "platform/win32/ole/ValueBag.h"
+#include "values/Text.h"
 
 namespace kel::win32::ole {
 
@@ -50,9 +51,10 @@ Bytes readBody(IStream& stream, std::size_t size) {
     return body;
 }
 
+/// Case does not count, as in a host's bag: one property is written in another case than it is read.
 const StoredValue* find(const std::vector<StoredValue>& values, std::u16string_view name) {
     for (const StoredValue& stored : values)
-        if (stored.name == name) return &stored;
+        if (equalsIgnoringCase(stored.name, name)) return &stored;
     return nullptr;
 }
 

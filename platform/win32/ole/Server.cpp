@@ -21,7 +21,7 @@ ClassEntry entryOf(const CreatableClass& found) {
     entry.programId = kel::win32::wide(std::u16string(kel::LibraryName) + u"." + std::u16string(found.model.name));
     entry.description = kel::win32::wide(found.model.name);
     entry.isControl = found.model.isControl();
-    entry.miscStatus = MiscStatus;
+    entry.miscStatus = miscStatusOf(found.model);
     entry.toolboxPicture = FirstToolboxPicture + static_cast<int>(&found.identity - kel::identities::Classes.data());
     return entry;
 }

@@ -28,6 +28,45 @@ Ref<IDispatch> create(const wchar_t* programId) {
 
 namespace {
 
+constexpr struct {
+    const wchar_t* word;
+    VARTYPE type;
+} Kinds[] = {{L"empty", VT_EMPTY}, {L"null", VT_NULL}, {L"bool", VT_BOOL}, {L"short", VT_I2},
+             {L"long", VT_I4},     {L"double", VT_R8}, {L"date", VT_DATE}, {L"text", VT_BSTR}};
+
+/// The system writes a date as one; here it is the number of its day.
+VARTYPE writtenAs(VARTYPE type) { return type == VT_DATE ? VARTYPE{VT_R8} : type; }
+
+}  // namespace
+
+std::wstring described(const VARIANT& value) {
+    const auto kind =
+        std::find_if(std::begin(Kinds), std::end(Kinds), [&](const auto& k) { return k.type == value.vt; });
+    if (kind == std::end(Kinds)) return L"type " + std::to_wstring(value.vt);
+    if (kind->type == VT_EMPTY || kind->type == VT_NULL) return kind->word;
+    VARIANT plainValue = value;
+    plainValue.vt = writtenAs(value.vt);
+    Var text;
+    EXPECT_CODE(VariantChangeTypeEx(&text.Value, &plainValue, LOCALE_INVARIANT, VARIANT_ALPHABOOL, VT_BSTR), S_OK);
+    return std::wstring(kind->word) + L" " + std::wstring(text.Value.bstrVal, SysStringLen(text.Value.bstrVal));
+}
+
+Var variantOf(const std::wstring& description) {
+    const std::wstring word = description.substr(0, description.find(L' '));
+    const auto kind = std::find_if(std::begin(Kinds), std::end(Kinds), [&](const auto& k) { return word == k.word; });
+    EXPECT(kind != std::end(Kinds));
+    Var value;
+    value.Value.vt = kind->type;
+    if (kind->type == VT_EMPTY || kind->type == VT_NULL) return value;
+    value.Value.vt = VT_EMPTY;
+    Var text(description.substr(word.size() + 1).c_str());
+    EXPECT_CODE(VariantChangeTypeEx(&value.Value, &text.Value, LOCALE_INVARIANT, 0, writtenAs(kind->type)), S_OK);
+    value.Value.vt = kind->type;
+    return value;
+}
+
+namespace {
+
 template <class Interface>
 Ref<Interface> make(const wchar_t* programId) {
     auto made = create(programId).as<Interface>();
@@ -58,11 +97,22 @@ HRESULT invoke(IDispatch* object, const wchar_t* name, WORD flags, std::vector<V
         parameters.rgdispidNamedArgs = &put;
         parameters.cNamedArgs = 1;
     }
-    return object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, result, exception, argumentError);
+    // It may be gone afterwards.
+    const std::u16string className = classOf(object);
+    const HRESULT done =
+        object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, result, exception, argumentError);
+    if (done == S_OK) useMember(className, name, flags);
+    return done;
 }
 
 HRESULT put(IDispatch* object, const wchar_t* name, VARIANT value, UINT* argumentError) {
     return invoke(object, name, DISPATCH_PROPERTYPUT, {value}, nullptr, nullptr, argumentError);
+}
+
+std::wstring late(IDispatch* object, const wchar_t* name) {
+    Var value;
+    EXPECT_CODE(invoke(object, name, DISPATCH_PROPERTYGET, {}, &value.Value), S_OK);
+    return described(value.Value);
 }
 
 std::wstring text(_KelText* object) {

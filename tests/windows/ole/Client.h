@@ -16,6 +16,7 @@
 
 #include "KelControls8.h"
 #include "library/Identities.h"
+#include "tests/windows/ole/Used.h"
 
 namespace kel::tests {
 
@@ -102,11 +103,18 @@ public:
         Value.vt = VT_I4;
         Value.lVal = number;
     }
+    Var(Var&& other) noexcept : Value(other.Value) { VariantInit(&other.Value); }
     ~Var() { VariantClear(&Value); }
     Var(const Var&) = delete;
     Var& operator=(const Var&) = delete;
     VARIANT Value;
 };
+
+/// "short 700", "long 7", "double 2.5", "bool True", "date 41348", "text abc", "null", "empty"; numbers with a point,
+/// whatever the region.
+std::wstring described(const VARIANT& value);
+/// The value that is described so.
+Var variantOf(const std::wstring& description);
 
 GUID systemGuid(const Guid& guid);
 
@@ -123,6 +131,8 @@ Ref<_KelTime> makeTime();
 HRESULT invoke(IDispatch* object, const wchar_t* name, WORD flags, std::vector<VARIANT> arguments,
                VARIANT* result = nullptr, EXCEPINFO* exception = nullptr, UINT* argumentError = nullptr);
 HRESULT put(IDispatch* object, const wchar_t* name, VARIANT value, UINT* argumentError = nullptr);
+/// What a property is, described.
+std::wstring late(IDispatch* object, const wchar_t* name);
 std::wstring text(_KelText* object);
 
 /// Base of the client's own objects, which live on the stack and outlive their use; counts for checks.
@@ -168,6 +178,7 @@ public:
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* passed, VARIANT*, EXCEPINFO*,
                                      UINT*) override {
+        useEvent(Class_->name, id);
         Heard.push_back(id);
         Passed = passed;
         if (Handler) Handler();

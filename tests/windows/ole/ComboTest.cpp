@@ -73,14 +73,6 @@ std::wstring textOf(_KelCombo* field) {
     return taken(text);
 }
 
-BOOL CALLBACK findBox(HWND window, LPARAM found) {
-    wchar_t name[64];
-    GetClassNameW(window, name, 64);
-    if (std::wstring(name).find(L"ComboBox") == std::wstring::npos) return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
-}
-
 /// A combo field on the screen, with two items.
 class ComboHost {
 public:
@@ -91,9 +83,8 @@ public:
         EXPECT_CODE(Inside.verb(OLEIVERB_UIACTIVATE), S_OK);
         SetActiveWindow(Inside.window());
         pump();
-        EnumChildWindows(Inside.window(), &findBox, reinterpret_cast<LPARAM>(&Parts.hwndCombo));
         Parts.cbSize = sizeof Parts;
-        EXPECT(GetComboBoxInfo(Parts.hwndCombo, &Parts));
+        EXPECT(GetComboBoxInfo(descendant(Inside.window(), L"ComboBox"), &Parts));
         adviseEvents(Field.get(), &Sink, u"KelCombo");
     }
 
@@ -222,10 +213,7 @@ TEST(combo_survives_a_host_that_unloads_in_its_event) {
     SendMessageW(host.Parts.hwndCombo, CB_SHOWDROPDOWN, TRUE, 0);
     RECT row{};
     SendMessageW(list, LB_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&row));
-    const LPARAM place = MAKELPARAM(row.left + 2, row.top + 2);
-    PostMessageW(list, WM_LBUTTONDOWN, MK_LBUTTON, place);
-    PostMessageW(list, WM_LBUTTONUP, 0, place);
-    pump();
+    click(list, row.left + 2, row.top + 2);
     EXPECT(!host.Sink.Heard.empty());
     EXPECT(!IsWindow(list));
     EXPECT(GetCapture() == nullptr);

@@ -8,9 +8,11 @@ namespace kel::tests {
 
 HRESULT Bag::Read(LPCOLESTR name, VARIANT* value, IErrorLog* /*log*/) {
     if (OnRead) OnRead();
-    if (const auto kept = Values.find(name); kept != Values.end()) return VariantCopy(value, &kept->second->Value);
+    const auto kept = Values.find(name);
     const auto found = Texts.find(name);
-    if (found == Texts.end()) return E_INVALIDARG;
+    if (kept == Values.end() && found == Texts.end()) return E_INVALIDARG;
+    HandedOver.emplace_back(name);
+    if (kept != Values.end()) return VariantCopy(value, &kept->second.Value);
     value->vt = VT_BSTR;
     value->bstrVal = SysAllocString(found->second.c_str());
     return S_OK;
@@ -20,8 +22,34 @@ HRESULT Bag::Write(LPCOLESTR name, VARIANT* value) {
     Var text;
     EXPECT_CODE(VariantChangeType(&text.Value, value, VARIANT_ALPHABOOL, VT_BSTR), S_OK);
     Written.push_back(std::wstring(name) + L"=" + text.Value.bstrVal);
-    Values[name] = std::make_unique<Var>();
-    return VariantCopy(&Values[name]->Value, value);
+    return VariantCopy(&Values[name].Value, value);
+}
+
+namespace {
+
+template <class Interface>
+Ref<Interface> as(IUnknown* control) {
+    Ref<Interface> found;
+    EXPECT_CODE(control->QueryInterface(__uuidof(Interface), found.receiveVoid()), S_OK);
+    return found;
+}
+
+}  // namespace
+
+HRESULT load(IUnknown* control, Bag& bag) {
+    const std::u16string className = classOf(as<IDispatch>(control).get());
+    const HRESULT done = as<IPersistPropertyBag>(control)->Load(&bag, nullptr);
+    if (done != S_OK) return done;
+    for (const std::wstring& name : bag.HandedOver) useLoaded(className, name);
+    return done;
+}
+
+HRESULT save(IUnknown* control, Bag& bag) {
+    const std::u16string className = classOf(as<IDispatch>(control).get());
+    const HRESULT done = as<IPersistPropertyBag>(control)->Save(&bag, TRUE, TRUE);
+    if (done != S_OK) return done;
+    for (const auto& [name, value] : bag.Values) useSaved(className, name);
+    return done;
 }
 
 HRESULT Extender::GetIDsOfNames(REFIID, LPOLESTR* names, UINT, LCID, DISPID* ids) {
@@ -125,6 +153,46 @@ void pump() {
         TranslateMessage(&message);
         DispatchMessageW(&message);
     }
+}
+
+namespace {
+
+struct Search {
+    const wchar_t* classPart;
+    HWND found;
+};
+
+BOOL CALLBACK look(HWND window, LPARAM parameter) {
+    Search& search = *reinterpret_cast<Search*>(parameter);
+    wchar_t name[64];
+    GetClassNameW(window, name, 64);
+    if (std::wstring(name).find(search.classPart) == std::wstring::npos) return TRUE;
+    search.found = window;
+    return FALSE;
+}
+
+}  // namespace
+
+HWND descendant(HWND window, const wchar_t* classPart) {
+    Search search{classPart, nullptr};
+    EnumChildWindows(window, &look, reinterpret_cast<LPARAM>(&search));
+    EXPECT(search.found != nullptr);
+    return search.found;
+}
+
+HWND spinnerIn(HWND host) { return descendant(host, L"UpDown"); }
+
+void click(HWND window, LONG x, LONG y) {
+    const LPARAM place = MAKELPARAM(x, y);
+    PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, place);
+    PostMessageW(window, WM_LBUTTONUP, 0, place);
+    pump();
+}
+
+void pressSpinner(HWND spinner, bool up) {
+    RECT area{};
+    GetClientRect(spinner, &area);
+    click(spinner, area.right / 2, up ? 2 : area.bottom - 2);
 }
 
 }  // namespace kel::tests

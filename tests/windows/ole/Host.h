@@ -8,6 +8,14 @@
 
 namespace kel::tests {
 
+/// Property bags know names in any case.
+struct NameOrder {
+    bool operator()(const std::wstring& left, const std::wstring& right) const {
+        return CompareStringOrdinal(left.data(), static_cast<int>(left.size()), right.data(),
+                                    static_cast<int>(right.size()), TRUE) == CSTR_LESS_THAN;
+    }
+};
+
 /// A property bag in memory. It is read as it stands in `Texts`, or gives the very variants that were written.
 class Bag final : public StackObject<IPropertyBag> {
 public:
@@ -16,11 +24,17 @@ public:
 
     /// What was written, in order: "Name=text".
     std::vector<std::wstring> Written;
-    std::map<std::wstring, std::unique_ptr<Var>> Values;
+    /// What was read with success, in order, by the names that the control reads them by.
+    std::vector<std::wstring> HandedOver;
+    std::map<std::wstring, Var, NameOrder> Values;
     /// What there is to read.
-    std::map<std::wstring, std::wstring> Texts;
+    std::map<std::wstring, std::wstring, NameOrder> Texts;
     std::function<void()> OnRead;
 };
+
+/// Has a control read its properties from a bag, or write them into it.
+HRESULT load(IUnknown* control, Bag& bag);
+HRESULT save(IUnknown* control, Bag& bag);
 
 /// The control's object that the host puts before it.
 class Extender final : public StackObject<IDispatch> {
@@ -159,5 +173,13 @@ private:
 
 /// Runs what is waiting in the queue.
 void pump();
+
+/// The first window within `window` whose class has such a part in its name.
+HWND descendant(HWND window, const wchar_t* classPart);
+HWND spinnerIn(HWND host);
+
+/// With the mouse, at a place in the window.
+void click(HWND window, LONG x, LONG y);
+void pressSpinner(HWND spinner, bool up);
 
 }  // namespace kel::tests

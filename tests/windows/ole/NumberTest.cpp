@@ -9,30 +9,6 @@ using namespace kel::tests;
 
 namespace {
 
-BOOL CALLBACK findSpinner(HWND window, LPARAM found) {
-    wchar_t name[64];
-    GetClassNameW(window, name, 64);
-    if (std::wstring(name).find(L"UpDown") == std::wstring::npos) return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
-    return FALSE;
-}
-
-HWND spinnerIn(HWND host) {
-    HWND found = nullptr;
-    EnumChildWindows(host, &findSpinner, reinterpret_cast<LPARAM>(&found));
-    EXPECT(found != nullptr);
-    return found;
-}
-
-void press(HWND spinner, bool up) {
-    RECT area{};
-    GetClientRect(spinner, &area);
-    const LPARAM place = MAKELPARAM(area.right / 2, up ? 2 : area.bottom - 2);
-    PostMessageW(spinner, WM_LBUTTONDOWN, MK_LBUTTON, place);
-    PostMessageW(spinner, WM_LBUTTONUP, 0, place);
-    pump();
-}
-
 double valueOf(_KelNumber* field) {
     Var value;
     EXPECT_CODE(field->get_Value(&value.Value), S_OK);
@@ -131,15 +107,15 @@ TEST(number_spinner_steps_and_raises_the_event) {
     EXPECT_CODE(host.Field->put_UpDownChange(0.5), S_OK);
     EXPECT_CODE(host.Field->put_Value(number(3)), S_OK);
     HWND const spinner = spinnerIn(host.Inside.window());
-    press(spinner, true);
+    pressSpinner(spinner, true);
     EXPECT_EQ(valueOf(host.Field.get()), 3.5);
-    press(spinner, false);
-    press(spinner, false);
+    pressSpinner(spinner, false);
+    pressSpinner(spinner, false);
     EXPECT_EQ(valueOf(host.Field.get()), 2.5);
     EXPECT_EQ(host.Sink.Heard.size(), std::size_t{3});
     EXPECT(host.Inside.called("OnUIActivate"));
     EXPECT_CODE(host.Field->put_Enabled(VARIANT_FALSE), S_OK);
-    press(spinner, true);
+    pressSpinner(spinner, true);
     EXPECT_EQ(valueOf(host.Field.get()), 2.5);
 }
 
@@ -150,7 +126,7 @@ TEST(number_spinner_survives_a_host_that_unloads_in_its_event) {
         host.Inside.unload();
         host.Field.reset();
     };
-    press(spinner, true);
+    pressSpinner(spinner, true);
     EXPECT_EQ(host.Sink.Heard.size(), std::size_t{1});
     EXPECT(!IsWindow(spinner));
     EXPECT(GetCapture() == nullptr);
@@ -225,10 +201,10 @@ TEST(number_persists_its_doubles) {
     EXPECT_CODE(saved.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_OK);
     stream->Seek({}, STREAM_SEEK_SET, nullptr);
     Bag bag;
-    EXPECT_CODE(saved.as<IPersistPropertyBag>()->Save(&bag, TRUE, TRUE), S_OK);
+    EXPECT_CODE(save(saved.get(), bag), S_OK);
     const Ref<_KelNumber> loaded[] = {makeNumber(), makeNumber()};
     EXPECT_CODE(loaded[0].as<IPersistStreamInit>()->Load(stream.get()), S_OK);
-    EXPECT_CODE(loaded[1].as<IPersistPropertyBag>()->Load(&bag, nullptr), S_OK);
+    EXPECT_CODE(load(loaded[1].get(), bag), S_OK);
     for (const Ref<_KelNumber>& field : loaded) {
         double minimum = 0;
         double step = 0;

@@ -80,15 +80,14 @@ bool isRefused(const std::string& bytes) {
 
 TEST(persist_bag_round_trip_leaves_out_defaults) {
     Bag saved;
-    const auto bag = filledField().as<IPersistPropertyBag>();
-    EXPECT_CODE(bag->Save(&saved, TRUE, TRUE), S_OK);
+    EXPECT_CODE(save(filledField().get(), saved), S_OK);
     EXPECT(saved.Written == (std::vector<std::wstring>{L"Caption=Näme", L"CaptionWidth=900", L"Locked=True",
                                                        L"MaxLength=12", L"Text=x \"y\" 12,5"}));
     Bag stored;
     for (const std::wstring& line : saved.Written)
         stored.Texts[line.substr(0, line.find(L'='))] = line.substr(line.find(L'=') + 1);
     const auto field = makeText();
-    EXPECT_CODE(field.as<IPersistPropertyBag>()->Load(&stored, nullptr), S_OK);
+    EXPECT_CODE(load(field.get(), stored), S_OK);
     expectFilled(field.get());
     EXPECT_CODE(field.as<IPersistStreamInit>()->IsDirty(), S_FALSE);
 }
@@ -97,7 +96,7 @@ TEST(persist_bag_with_a_wrong_value_is_refused_whole) {
     Bag stored;
     stored.Texts = {{L"Caption", L"Name"}, {L"CaptionWidth", L"wide"}};
     const auto field = makeText();
-    EXPECT_CODE(field.as<IPersistPropertyBag>()->Load(&stored, nullptr), DISP_E_TYPEMISMATCH);
+    EXPECT_CODE(load(field.get(), stored), DISP_E_TYPEMISMATCH);
     BSTR caption = nullptr;
     EXPECT_CODE(field->get_Caption(&caption), S_OK);
     EXPECT_EQ(taken(caption), std::wstring());
@@ -191,6 +190,6 @@ TEST(persist_a_second_beginning_is_refused) {
     Bag bag;
     HRESULT inner = S_OK;
     bag.OnRead = [&] { inner = other.as<IPersistStreamInit>()->InitNew(); };
-    EXPECT_CODE(other.as<IPersistPropertyBag>()->Load(&bag, nullptr), S_OK);
+    EXPECT_CODE(load(other.get(), bag), S_OK);
     EXPECT_CODE(inner, E_UNEXPECTED);
 }

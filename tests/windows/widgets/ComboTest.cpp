@@ -6,7 +6,7 @@
 
 #include "platform/win32/Win32ComboBox.h"
 #include "tests/windows/ole/Check.h"
-#include "tests/windows/widgets/Stage.h"
+#include "tests/windows/widgets/Scene.h"
 
 /// The system's combo box with an editor of ours behind it.
 namespace kel::tests {
@@ -24,52 +24,27 @@ ListItems fruit() {
     return items;
 }
 
-/// A combo box in a control on a host's window, with twelve fruits in its list. Owner and listener write down what
-/// they are told, as a `Stage` does.
-class ComboScene final : private win32::ControlWindowOwner, private ComboBoxListener {
+/// A combo box with twelve fruits in its list.
+class ComboScene final : public Scene, private ComboBoxListener {
 public:
-    ComboScene() {
-        win32::ControlWindowOwner& owner = *this;
-        Window_ = win32::makeControlWindow(owner, machine());
+    ComboScene() : Scene(Width, Height) {
         make();
-        placeOn(Host_->window());
+        placeOn(host().window());
     }
-    ~ComboScene() {
-        Box_.reset();
-        Window_.reset();
-    }
-    ComboScene(const ComboScene&) = delete;
-    ComboScene& operator=(const ComboScene&) = delete;
 
     win32::Win32ComboBox& box() { return *Box_; }
-    win32::ControlWindow& control() { return *Window_; }
-    HostWindow& host() { return *Host_; }
     HWND combo() const { return Box_->comboWindow(); }
     HWND edit() const { return Box_->window(); }
     HWND list() const { return Box_->listWindow(); }
     bool listShows() const { return IsWindowVisible(list()) != FALSE; }
 
     void make() {
-        const std::int32_t twips = machine().twipsPerPixel();
-        std::unique_ptr<ComboBox> made = Window_->widgets().makeComboBox(*this);
+        std::unique_ptr<ComboBox> made = control().widgets().makeComboBox(*this);
         Box_.reset(dynamic_cast<win32::Win32ComboBox*>(made.release()));
-        Box_->move({0, 0, Width * twips, Height * twips});
+        Box_->move(whole());
         Box_->setItems(fruit());
     }
     void drop() { Box_.reset(); }
-    void placeOn(HWND host) {
-        const RECT place{10, 10, 10 + Width, 10 + Height};
-        Window_->setParent(host);
-        Window_->place(place, place);
-        Window_->setVisible(true);
-        settle();
-    }
-    /// The host's window goes, with all that is in it, and another one comes.
-    void changeHost() {
-        Host_.reset();
-        Host_ = std::make_unique<HostWindow>();
-        placeOn(Host_->window());
-    }
 
     void enter() {
         SetFocus(edit());
@@ -96,18 +71,9 @@ public:
     }
     LRESULT highlight() const { return SendMessageW(list(), LB_GETCURSEL, 0, 0); }
 
-    std::wstring takeLog() { return std::exchange(Log_, {}); }
-
     std::function<void()> onClick;
 
 private:
-    void holdOpen() override {}
-    void letGo() override {}
-    void focusEntered() override { tell(L"enter"); }
-    void focusLeft() override { tell(L"exit"); }
-    void viewChanged() override {}
-    void mnemonicChanged() override {}
-
     void Combo1_Change() override { tell(L"change"); }
     void Combo1_Click() override {
         tell(L"click:" + std::to_wstring(Box_->listIndex()));
@@ -122,11 +88,6 @@ private:
     void Combo1_GotFocus() override { tell(L"got"); }
     void Combo1_LostFocus() override { tell(L"lost"); }
 
-    void tell(const std::wstring& what) { Log_ += (Log_.empty() ? L"" : L" ") + what; }
-
-    std::unique_ptr<HostWindow> Host_ = std::make_unique<HostWindow>();
-    std::wstring Log_;
-    std::unique_ptr<win32::ControlWindow> Window_;
     std::unique_ptr<win32::Win32ComboBox> Box_;
 };
 

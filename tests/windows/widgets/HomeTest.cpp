@@ -1,5 +1,6 @@
 #include <windows.h>
 
+#include "controls/check/KelCheck.h"
 #include "controls/Classes.h"
 #include "controls/combo/KelCombo.h"
 #include "platform/win32/Win32Home.h"
@@ -90,6 +91,39 @@ TEST(a_caption_leads_to_its_field_and_names_it) {
     HWND const label = GetWindow(GetFocus(), GW_HWNDPREV);
     EXPECT_EQ(textOf(label), L"&One");
     EXPECT((SendMessageW(label, WM_GETDLGCODE, 0, 0) & DLGC_STATIC) != 0);
+}
+
+TEST(a_check_boxs_own_mnemonic_toggles_it_and_that_of_a_label_before_it_does_not) {
+    SilentObserver observer;
+    const auto home = win32::makeHome({.twipsPerPixel = 15});
+    const auto window = home->makeWindow({u"form", {6000, 3000}, false}, home->system());
+    ForeignBlock label;
+    label.kind = ForeignBlock::Kind::Label;
+    label.caption = u"&Terms";
+    window->placeForeign(label);
+    Placement placement;
+    placement.tabIndex = 1;
+    PlacedControl& placed = window->place(KelCheckModel, placement, observer);
+    auto& check = static_cast<KelCheck&>(placed.control());
+    check.put_Caption(u"I &agree");
+    placed.setBounds({300, 300, 3000, 300});
+    window->show();
+    window->press({'T', U't', AltKey});
+    EXPECT(window->focused() == &placed);
+    EXPECT(!check.get_Value());
+    window->press({'A', U'A', AltKey});
+    EXPECT(check.get_Value());
+    // On a finer screen it is as large in twips, and is clicked wherever it is.
+    SendMessageW(GetAncestor(GetFocus(), GA_ROOT), 0x02E0, MAKEWPARAM(144, 144), 0);
+    EXPECT_EQ(placeIn(GetParent(GetFocus()), GetFocus()).right, 300L);
+    EXPECT_EQ(placeIn(GetParent(GetFocus()), GetFocus()).top, 3L);
+    window->click(placed, 0);
+    EXPECT(!check.get_Value());
+    check.put_Locked(true);
+    window->press({'A', U'A', AltKey});
+    window->click(placed, 0);
+    EXPECT(!check.get_Value());
+    EXPECT(window->focused() == nullptr);
 }
 
 TEST(a_form_that_comes_in_front_again_gives_the_focus_back) {

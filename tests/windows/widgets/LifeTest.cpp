@@ -1,9 +1,9 @@
 #include <windows.h>
 
-#include <algorithm>
 #include <vector>
 
 #include "tests/windows/ole/Check.h"
+#include "tests/windows/widgets/Picture.h"
 #include "tests/windows/widgets/Stage.h"
 
 /// Windows that come and go, and pictures without any.
@@ -27,51 +27,6 @@ int countWindows() {
     EnumThreadWindows(GetCurrentThreadId(), &countTop, reinterpret_cast<LPARAM>(&count));
     return count;
 }
-
-/// A picture in memory, white at first.
-class Picture {
-public:
-    static constexpr int Width = 300;
-    static constexpr int Height = 60;
-
-    Picture() : Context_(CreateCompatibleDC(nullptr)) {
-        BITMAPINFO format{};
-        format.bmiHeader.biSize = sizeof format.bmiHeader;
-        format.bmiHeader.biWidth = Width;
-        format.bmiHeader.biHeight = -Height;
-        format.bmiHeader.biPlanes = 1;
-        format.bmiHeader.biBitCount = 32;
-        void* bits = nullptr;
-        Bitmap_ = CreateDIBSection(Context_, &format, DIB_RGB_COLORS, &bits, nullptr, 0);
-        Before_ = SelectObject(Context_, Bitmap_);
-        Pixels_ = static_cast<DWORD*>(bits);
-        std::fill_n(Pixels_, Width * Height, 0xFFFFFFU);
-    }
-    ~Picture() {
-        SelectObject(Context_, Before_);
-        DeleteObject(Bitmap_);
-        DeleteDC(Context_);
-    }
-    Picture(const Picture&) = delete;
-    Picture& operator=(const Picture&) = delete;
-
-    HDC context() const { return Context_; }
-    /// Pixels of a colour between two columns.
-    int count(DWORD color, int left, int right) {
-        GdiFlush();
-        int found = 0;
-        for (int row = 0; row < Height; ++row)
-            for (int column = left; column < right; ++column)
-                found += (Pixels_[row * Width + column] & 0xFFFFFFU) == color ? 1 : 0;
-        return found;
-    }
-
-private:
-    HDC Context_;
-    HBITMAP Bitmap_;
-    HGDIOBJ Before_;
-    DWORD* Pixels_;
-};
 
 constexpr DWORD Green = 0x00FF00;
 constexpr DWORD Red = 0xFF0000;

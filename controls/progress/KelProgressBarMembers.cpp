@@ -35,6 +35,7 @@ constinit const ClassModel KelProgressBarModel{
     .loaded = Persisted,
     .saved = Persisted,
     .makeControl = &make,
+    .takesFocus = false,
 };
 
 const ClassModel& KelProgressBar::model() const { return KelProgressBarModel; }

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "host/editing/EditedComboBox.h"
+#include "platform/headless/HeadlessEdited.h"
+
+namespace kel::headless {
+
+/// A combo box in memory. Nobody sees its frame.
+class HeadlessComboBox final : public HeadlessEdited<EditedComboBox<HeadlessField<ComboBox>>, ComboSurroundings> {
+public:
+    HeadlessComboBox(Seat& seat, ComboBoxListener& listener) : HeadlessEdited(listener, *this, seat) {}
+
+    void mousePressed() override { showDropDown(false); }
+
+    /// The mouse opens the list and clicks this item. The box has the focus.
+    void pick(std::int32_t item) {
+        showDropDown(true);
+        if (isDropped()) Editor_.pick(item);
+    }
+
+    void installFrame(const std::int16_t& /*buttonWidthPixels*/) override {}
+
+private:
+    static constexpr std::ptrdiff_t RowsOfList = 8;
+
+    TextBoxEditor& edit() override { return Editor_.edit(); }
+    void listChanged() override {}
+    std::ptrdiff_t linesOfPage() const override { return RowsOfList; }
+};
+
+}  // namespace kel::headless

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <algorithm>
+
+#include "host/editing/TextBoxEditor.h"
+#include "platform/headless/HeadlessWidgets.h"
+
+namespace kel::headless {
+
+/// What every widget keeps whose text is edited in memory. `Edited` is the part that is the same on every home, over a
+/// `HeadlessField`; `Surroundings` is what its editor wants around it.
+template <class Edited, class Surroundings>
+class HeadlessEdited : public Edited, protected Surroundings {
+public:
+    void gotFocus() override { edit().listener().Text1_GotFocus(); }
+    void lostFocus() override { edit().listener().Text1_LostFocus(); }
+    void strike(const KeyStroke& stroke) override { edit().strike(stroke); }
+    void click(std::int32_t position) override {
+        this->setSelStart(position);
+        edit().pressMouse(MouseButton::Left);
+        edit().click();
+    }
+    void rightClick() override { edit().pressMouse(MouseButton::Right); }
+    void turnWheel(std::int32_t notches) override { edit().listener().Text1_Wheel(notches); }
+    void drop(std::int32_t position, std::u16string_view text) override {
+        this->setSelStart(position);
+        edit().paste(std::u16string(text));
+    }
+
+protected:
+    using Edited::Edited;
+
+    virtual TextBoxEditor& edit() = 0;
+
+private:
+    bool takesInput() const override { return Edited::takesInput(); }
+    void bufferChanged() override {}
+    std::u16string clipboardText() override { return this->seat().input.Clipboard; }
+    void setClipboardText(std::u16string_view text) override { this->seat().input.Clipboard.assign(text); }
+    std::ptrdiff_t linesOfPage() const override {
+        return std::max<std::ptrdiff_t>(static_cast<std::ptrdiff_t>(this->bounds().height / this->lineHeight()), 1);
+    }
+};
+
+}  // namespace kel::headless

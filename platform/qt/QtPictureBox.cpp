@@ -1,0 +1,131 @@
+#include "platform/qt/QtPictureBox.h"
+
+#include <algorithm>
+#include <cmath>
+#include <QAccessibleWidget>
+#include <QPainter>
+#include <QStyle>
+
+#include "platform/qt/ControlSite.h"
+#include "platform/qt/FieldColors.h"
+
+namespace kel::qt {
+
+namespace {
+
+constexpr int Whole = 100;  ///< percent
+
+/// What a screen reader finds.
+class SpokenBar final : public QAccessibleWidget, public QAccessibleValueInterface {
+public:
+    explicit SpokenBar(QtPictureBox& box) : QAccessibleWidget(&box, QAccessible::ProgressBar), Box_(box) {}
+
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+
+    QString text(QAccessible::Text kind) const override {
+        if (kind == QAccessible::Value) return toQString(Box_.picture().text);
+        QString own = QAccessibleWidget::text(kind);
+        // It goes by the name of its control.
+        return own.isEmpty() && kind == QAccessible::Name ? parent()->text(kind) : own;
+    }
+
+    QVariant currentValue() const override { return Box_.percent(); }
+    void setCurrentValue(const QVariant& /*value*/) override {}
+    QVariant maximumValue() const override { return Whole; }
+    QVariant minimumValue() const override { return 0; }
+    QVariant minimumStepSize() const override { return 1; }
+
+private:
+    const QtPictureBox& Box_;
+};
+
+QAccessibleInterface* makeSpoken(const QString& /*className*/, QObject* object) {
+    auto* const box = dynamic_cast<QtPictureBox*>(object);
+    return box != nullptr ? new SpokenBar(*box) : nullptr;
+}
+
+}  // namespace
+
+QtPictureBox::QtPictureBox(ControlSite& site, QWidget& parent) : QWidget(&parent), QtTextual(site, *this) {
+    // What is behind it need not be painted with each step of a job.
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    QAccessible::installFactory(&makeSpoken);
+}
+
+void QtPictureBox::setForeColor(Color color) {
+    if (color == ForeColor_) return;
+    ForeColor_ = color;
+    update();
+}
+
+std::int32_t QtPictureBox::textWidth(std::u16string_view text) const {
+    return site().grid().twips(fontMetrics().horizontalAdvance(toQString(text)));
+}
+
+std::int32_t QtPictureBox::textHeight(std::u16string_view /*text*/) const {
+    return site().grid().twips(fontMetrics().height());
+}
+
+void QtPictureBox::draw(const BarPicture& picture) {
+    Picture_ = picture;
+    repaint();
+    if (!QAccessible::isActive()) return;
+    QAccessibleValueChangeEvent event(this, percent());
+    QAccessible::updateAccessibility(&event);
+}
+
+int QtPictureBox::percent() const {
+    const std::int64_t width = bounds().width;
+    if (width <= 0) return 0;
+    return static_cast<int>(std::clamp<std::int64_t>(Picture_.barWidth, 0, width) * Whole / width);
+}
+
+// ---- Painting
+
+/// Its end lies between two dots of the screen, which may be finer than Qt's pixels.
+QRectF QtPictureBox::barArea() const {
+    if (bounds().width <= 0) return {};
+    const double dots = width() * devicePixelRatioF();
+    const double share = static_cast<double>(Picture_.barWidth) / bounds().width;
+    const double length = std::round(dots * std::clamp(share, 0.0, 1.0)) / devicePixelRatioF();
+    return {isRightToLeft() ? width() - length : 0, 0, length, static_cast<double>(height())};
+}
+
+void QtPictureBox::paintEvent(QPaintEvent* /*event*/) {
+    const QPalette& colors = palette();
+    const QColor ground = colors.color(QPalette::Window);
+    // Readable on the ground, and so the ground on it.
+    const QColor ink = isEnabled() ? captionColorOn(colors, ForeColor_) : disabledCaptionColor(colors);
+    const QRectF bar = barArea();
+    QPainter painter(this);
+    painter.fillRect(rect(), colors.window());
+    if (!bar.isEmpty()) painter.fillRect(bar, ink);
+    if (!Picture_.text.empty()) paintText(painter, bar, ink, ground);
+}
+
+void QtPictureBox::paintText(QPainter& painter, const QRectF& bar, const QColor& ink, const QColor& ground) const {
+    const QString text = toQString(Picture_.text);
+    const QFontMetrics metrics = fontMetrics();
+    const TwipGrid& grid = site().grid();
+    QRect area(grid.pixel(Picture_.textLeft), grid.pixel(Picture_.textTop), metrics.horizontalAdvance(text),
+               metrics.height());
+    area = QStyle::visualRect(layoutDirection(), rect(), area);
+    const QPointF start(area.left(), area.top() + metrics.ascent());
+    const QRectF rest =
+        isRightToLeft() ? QRectF(0, 0, bar.left(), height()) : QRectF(bar.right(), 0, width() - bar.right(), height());
+    const auto write = [&](const QRectF& part, const QColor& color) {
+        if (!part.intersects(area)) return;
+        painter.setClipRect(part);
+        painter.setPen(color);
+        painter.drawText(start, text);
+    };
+    // A text runs in its own direction, whichever way the window does.
+    painter.setLayoutDirection(Qt::LayoutDirectionAuto);
+    write(bar, ground);
+    write(rest, ink);
+}
+
+}  // namespace kel::qt

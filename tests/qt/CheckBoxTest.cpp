@@ -1,0 +1,312 @@
+#include <gtest/gtest.h>
+#include <KelCheckWidget.h>
+#include <QAccessible>
+#include <QApplication>
+#include <QImage>
+#include <QTest>
+
+#include "controls/check/KelCheck.h"
+#include "platform/qt/QtCheckBox.h"
+#include "platform/qt/QtHome.h"
+#include "tests/qt/ProbeForm.h"
+#include "tests/qt/QtForm.h"
+
+namespace kel::test {
+namespace {
+
+/// A text field and two check fields below it, the first of them, "b", the one that is worked.
+class Check : public testing::Test {
+protected:
+    Check()
+        : form(qt::makeHome({})),
+          above(form.place(u"a")),
+          checked(form.place(u"b", 300, KelCheckModel)),
+          below(form.place(u"c", 300, KelCheckModel)) {
+        check().put_Caption(u"&Agree");
+        form.show();
+        form.takeLog();
+    }
+
+    static KelCheck& checkOf(PlacedControl& placed) { return static_cast<KelCheck&>(placed.control()); }
+    static qt::QtCheckBox& boxOf(PlacedControl& placed) {
+        return dynamic_cast<qt::QtCheckBox&>(*placed.control().widgets().checkBox);
+    }
+    KelCheck& check() { return checkOf(checked); }
+    qt::QtCheckBox& box() { return boxOf(checked); }
+    QWidget& fieldAbove() { return dynamic_cast<QWidget&>(*above.control().widgets().field); }
+    bool isFocused() { return form.window().focused() == &checked; }
+    void press(const KeyStroke& stroke) { form.window().press(stroke); }
+    QImage picture() { return box().grab().toImage(); }
+
+    TextForm form;
+    PlacedControl& above;
+    PlacedControl& checked;
+    PlacedControl& below;
+};
+
+TEST_F(Check, OnlyABlankAndAClickToggle) {
+    const struct {
+        const char* what;
+        std::function<void()> act;
+        bool toggles;
+    } cases[] = {
+        {"a blank", [this] { press(strokeFor(U' ')); }, true},
+        {"Shift and the blank",
+         [this] {
+             press({keys::Space, U' ', ShiftKey});
+         },
+         true},
+        {"a blank from no key",
+         [this] {
+             press({0, U' ', NoModifier});
+         },
+         true},
+        {"Ctrl and the blank",
+         [this] {
+             press({keys::Space, U' ', ControlKey});
+         },
+         false},
+        {"Alt and the blank",
+         [this] {
+             press({keys::Space, U' ', AltKey});
+         },
+         false},
+        {"a blank that does not break", [this] { press(strokeFor(U'\u00A0')); }, false},
+        {"its letter", [this] { press(strokeFor(U'a')); }, false},
+        {"Escape", [this] { press({keys::Escape}); }, false},
+        {"Up", [this] { press({keys::Up}); }, false},
+        {"Down", [this] { press({keys::Down}); }, false},
+        {"Left", [this] { press({keys::Left}); }, false},
+        {"Right", [this] { press({keys::Right}); }, false},
+        {"the hand", [this] { form.window().click(checked, -1); }, true},
+        {"the hand's other button", [this] { form.window().rightClick(checked); }, false},
+        {"a real click at its far end",
+         [this] {
+             const QPoint end(box().width() - 2, box().height() - 2);
+             pressMouse(box(), end);
+             releaseMouse(box(), end);
+         },
+         true},
+        {"the mnemonic",
+         [this] {
+             press({'A', U'a', AltKey});
+         },
+         true},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.what);
+        form.window().focus(checked);
+        check().put_Value(false);
+        form.takeLog();
+        row.act();
+        EXPECT_EQ(check().get_Value(), row.toggles);
+        EXPECT_EQ(form.takeLog(), row.toggles ? "b.Change() " : "");
+        EXPECT_TRUE(isFocused());
+        EXPECT_FALSE(box().isDown());
+    }
+}
+
+TEST_F(Check, EnterMovesOnAndTogglesNothing) {
+    form.window().focus(checked);
+    press({keys::Enter});
+    EXPECT_EQ(form.window().focused(), &below);
+    EXPECT_EQ(form.takeLog(), "");
+    press({keys::Tab, 0, ShiftKey});
+    EXPECT_TRUE(isFocused());
+}
+
+TEST_F(Check, AClickGivesTheFocus) {
+    const std::function<void()> clicks[] = {
+        [this] { form.window().click(checked, -1); },
+        [this] { form.window().rightClick(checked); },
+        [this] {
+            press({'A', U'a', AltKey});
+        },
+        [this] {
+            pressMouse(box(), {5, 5}), releaseMouse(box(), {5, 5});
+        },
+    };
+    for (const auto& click : clicks) {
+        form.window().focus(above);
+        click();
+        EXPECT_TRUE(isFocused());
+    }
+}
+
+TEST_F(Check, BarredItIsNeitherToggledNorFocused) {
+    for (const bool locked : {true, false}) {
+        check().put_Locked(locked);
+        check().put_Enabled(locked);
+        form.window().focus(above);
+        form.takeLog();
+        form.window().click(checked, -1);
+        form.window().rightClick(checked);
+        form.window().focus(checked);
+        press({'A', U'a', AltKey});
+        pressMouse(box(), {5, 5});
+        releaseMouse(box(), {5, 5});
+        EXPECT_FALSE(check().get_Value());
+        EXPECT_EQ(form.takeLog(), "");
+        EXPECT_EQ(form.window().focused(), &above);
+        press({keys::Tab});
+        EXPECT_EQ(form.window().focused(), &below) << "Tab leaves it out";
+    }
+}
+
+TEST_F(Check, LockedItIsDrawnAsBeforeAndDisabledGrey) {
+    for (const bool mandatory : {true, false}) {
+        check().put_Mandatory(mandatory);
+        const QImage free = picture();
+        check().put_Locked(true);
+        EXPECT_EQ(picture(), free);
+        check().put_Enabled(false);
+        const QImage grey = picture();
+        EXPECT_NE(grey, free);
+        check().put_Locked(false);
+        EXPECT_EQ(picture(), grey);
+        check().put_Enabled(true);
+        EXPECT_EQ(picture(), free);
+        box().window()->setEnabled(false);
+        EXPECT_NE(picture(), free) << "with all around it";
+        box().window()->setEnabled(true);
+    }
+}
+
+TEST_F(Check, AHeldKeyOrButtonTogglesOnceWhenItIsLetGo) {
+    form.window().focus(checked);
+    const auto send = [this](QEvent::Type type, bool repeated) {
+        QKeyEvent event(type, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), repeated);
+        QApplication::sendEvent(&box(), &event);
+    };
+    send(QEvent::KeyPress, false);
+    send(QEvent::KeyRelease, true);
+    send(QEvent::KeyPress, true);
+    EXPECT_TRUE(box().isDown());
+    EXPECT_EQ(form.takeLog(), "");
+    send(QEvent::KeyRelease, false);
+    EXPECT_EQ(form.takeLog(), "b.Change() ");
+
+    send(QEvent::KeyPress, false);
+    form.window().focus(below);
+    form.window().focus(checked);
+    send(QEvent::KeyRelease, false);
+    EXPECT_EQ(form.takeLog(), "") << "the focus has been elsewhere";
+
+    pressMouse(box(), {5, 5});
+    EXPECT_TRUE(box().isDown());
+    moveMouse(box(), {5, -20});
+    releaseMouse(box(), {5, -20});
+    EXPECT_EQ(form.takeLog(), "") << "let go beside it";
+}
+
+TEST_F(Check, AReleaseThatWentElsewhereLeavesItUp) {
+    form.window().focus(above);
+    // As with a message box that somebody shows who has lost the focus.
+    const auto connection = QObject::connect(qApp, &QApplication::focusChanged, qApp, [this] {
+        releaseMouse(fieldAbove(), {5, 5});
+    });
+    pressMouse(box(), {5, 5});
+    QObject::disconnect(connection);
+    EXPECT_FALSE(box().isDown());
+
+    pressMouse(box(), {5, 5});
+    ASSERT_TRUE(box().isDown());
+    QWidget front(nullptr, Qt::Dialog);
+    front.setWindowModality(Qt::ApplicationModal);
+    front.show();
+    EXPECT_FALSE(box().isDown()) << "a message box has come in front";
+}
+
+TEST_F(Check, AnEventMayDoAnything) {
+    form.onEvent = [this](PlacedControl&, const EventRow&) { check().put_Value(false); };
+    form.window().click(checked, -1);
+    EXPECT_FALSE(check().get_Value());
+    EXPECT_EQ(form.takeLog(), "b.Change() b:Value ");
+    form.onEvent = [this](PlacedControl&, const EventRow&) { check().put_Enabled(false); };
+    form.window().click(checked, -1);
+    press(strokeFor(U' '));
+    EXPECT_TRUE(check().get_Value());
+    EXPECT_EQ(form.window().focused(), nullptr);
+    EXPECT_EQ(form.takeLog(), "b.Change() b:Enabled ");
+}
+
+qt::QtCheckBox& boxOf(const KelCheckWidget& field) {
+    return dynamic_cast<qt::QtCheckBox&>(*field.control().widgets().checkBox);
+}
+
+TEST(CheckInQt, AnEventMayDestroyIt) {
+    for (const bool byKey : {true, false}) {
+        QWidget window;
+        auto* field = new KelCheckWidget(&window);
+        field->setGeometry(0, 0, 100, 20);
+        QObject::connect(field, &KelCheckWidget::change, [&field] { delete std::exchange(field, nullptr); });
+        window.show();
+        if (byKey)
+            QTest::keyClick(&boxOf(*field), Qt::Key_Space);
+        else
+            boxOf(*field).click();
+        EXPECT_EQ(field, nullptr);
+        letGo();
+        EXPECT_TRUE(window.children().isEmpty());
+    }
+}
+
+TEST(CheckInQt, ItIsReadOutAndWorkedByAScreenReader) {
+    QWidget window;
+    KelCheckWidget field(&window);
+    int changes = 0;
+    QObject::connect(&field, &KelCheckWidget::change, [&changes] { ++changes; });
+    field.setCaption(QStringLiteral("Black && &white"));
+    QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(&boxOf(field));
+    ASSERT_NE(spoken, nullptr);
+    EXPECT_EQ(spoken->role(), QAccessible::CheckBox);
+    EXPECT_EQ(spoken->text(QAccessible::Name), QStringLiteral("Black & white"));
+    spoken->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_EQ(changes, 1);
+    EXPECT_TRUE(field.value());
+    EXPECT_TRUE(spoken->state().checked);
+    boxOf(field).setValue(CheckBox::Grey);
+    EXPECT_TRUE(spoken->state().checkStateMixed);
+    EXPECT_EQ(boxOf(field).value(), CheckBox::Grey);
+    spoken->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_EQ(boxOf(field).value(), CheckBox::Unchecked);
+    EXPECT_EQ(changes, 3);
+    // By somebody who found Qt's own widget.
+    boxOf(field).setChecked(true);
+    EXPECT_TRUE(field.value());
+    EXPECT_EQ(changes, 4);
+}
+
+TEST(CheckInQt, ALayoutLeavesRoomForTheCaption) {
+    QWidget window;
+    KelCheckWidget field(&window);
+    field.setCaption(QStringLiteral("A caption that is longer than what most of them are"));
+    for (const bool bold : {false, true}) {
+        field.setFontBold(bold);
+        const int wanted = boxOf(field).fontMetrics().horizontalAdvance(boxOf(field).text());
+        EXPECT_GT(field.minimumSizeHint().width(), wanted);
+        EXPECT_EQ(field.sizeHint(), QSize(field.minimumSizeHint().width(), 20));
+    }
+}
+
+TEST(CheckInQt, FromRightToLeftTheBoxStandsAtTheRight) {
+    QWidget window;
+    KelCheckWidget field(&window);
+    field.setGeometry(0, 0, 200, 20);
+    window.show();
+    const auto inkAt = [&field](int left, int right) {
+        const QImage picture = field.grab().toImage();
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = left; x < right; ++x)
+                if (picture.pixel(x, y) != picture.pixel(100, 0)) return true;
+        return false;
+    };
+    EXPECT_TRUE(inkAt(0, 20));
+    EXPECT_FALSE(inkAt(180, 200));
+    window.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_FALSE(inkAt(0, 20));
+    EXPECT_TRUE(inkAt(180, 200));
+}
+
+}  // namespace
+}  // namespace kel::test

@@ -1,0 +1,206 @@
+#include <gtest/gtest.h>
+#include <KelProgressBarWidget.h>
+#include <QAccessible>
+#include <QApplication>
+#include <QImage>
+
+#include "controls/progress/KelProgressBar.h"
+#include "platform/qt/FieldColors.h"
+#include "platform/qt/QtHome.h"
+#include "platform/qt/QtPictureBox.h"
+#include "tests/qt/QtForm.h"
+
+namespace kel::test {
+namespace {
+
+/// Nothing in it looks different where it is disabled.
+QPalette darkDesktop() {
+    QPalette palette(QColor(45, 45, 48));
+    palette.setColor(QPalette::WindowText, Qt::white);
+    palette.setColor(QPalette::Highlight, QColor(20, 60, 120));
+    return palette;
+}
+
+class PaintCount final : public QObject {
+public:
+    explicit PaintCount(QObject& watched) { watched.installEventFilter(this); }
+    int take() { return std::exchange(Count_, 0); }
+
+private:
+    bool eventFilter(QObject*, QEvent* event) override {
+        Count_ += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int Count_ = 0;
+};
+
+/// A bar of 300 pixels on a window that shows it.
+class Picture : public testing::Test {
+protected:
+    Picture() : field(&window) {
+        field.setGeometry(0, 0, 300, 20);
+        bar().put_ShowTime(false);
+        window.show();
+        QCoreApplication::processEvents();
+    }
+
+    KelProgressBar& bar() { return static_cast<KelProgressBar&>(field.control()); }
+    qt::QtPictureBox& box() { return dynamic_cast<qt::QtPictureBox&>(*bar().widgets().picture); }
+    QImage picture() { return box().grab().toImage(); }
+    QColor ground() { return window.palette().color(QPalette::Window); }
+    QColor ink() { return qt::captionColorOn(window.palette(), colors::SystemHighlight); }
+    /// Where the bar is, by its top line, which no text reaches.
+    QRect barIn(const QImage& picture) {
+        QRect bar;
+        for (int x = 0; x < picture.width(); ++x)
+            if (picture.pixelColor(x, 0) == ink()) bar |= QRect(x, 0, 1, picture.height());
+        return bar;
+    }
+    /// Where there is anything but `paper`.
+    static QRect writingIn(const QImage& picture, const QRect& part, const QColor& paper) {
+        QRect writing;
+        for (int y = part.top(); y <= part.bottom(); ++y)
+            for (int x = part.left(); x <= part.right(); ++x)
+                if (picture.pixelColor(x, y) != paper) writing |= QRect(x, y, 1, 1);
+        return writing;
+    }
+
+    QWidget window;
+    KelProgressBarWidget field;
+};
+
+TEST_F(Picture, IsShownBeforeThePutReturns) {
+    PaintCount paints(box());
+    bar().put_Value(50);
+    EXPECT_EQ(paints.take(), 1);
+    bar().put_Value(50);
+    EXPECT_EQ(paints.take(), 0);
+    bar().Clear();
+    EXPECT_EQ(paints.take(), 1);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(paints.take(), 0);
+    EXPECT_EQ(writingIn(picture(), box().rect(), ground()), QRect());
+}
+
+TEST_F(Picture, TheBarReachesFromItsEdgeAndTheTextStandsInTheMiddle) {
+    const struct {
+        std::int32_t value;
+        int left, right, mirroredLeft, mirroredRight;
+    } cases[] = {{1, 0, 2, 297, 299}, {50, 0, 149, 150, 299}, {100, 0, 299, 0, 299}};
+    for (const auto& row : cases) {
+        window.setLayoutDirection(Qt::LeftToRight);
+        bar().put_Value(row.value);
+        EXPECT_EQ(barIn(picture()), QRect(QPoint(row.left, 0), QPoint(row.right, 19)));
+        window.setLayoutDirection(Qt::RightToLeft);
+        EXPECT_EQ(barIn(picture()), QRect(QPoint(row.mirroredLeft, 0), QPoint(row.mirroredRight, 19)));
+    }
+    bar().put_Value(0);
+    EXPECT_EQ(barIn(picture()), QRect());
+    for (const double size : {6.0, 9.0}) {
+        bar().widgets().picture->setFont(u"", size);
+        bar().put_Value(-1);
+        bar().put_Max(100);
+        bar().put_Value(0);
+        const QRect text = writingIn(picture(), box().rect(), ground());
+        ASSERT_FALSE(text.isEmpty());
+        EXPECT_NEAR(text.center().x(), 150, 2);
+        EXPECT_NEAR(text.center().y(), 10, 2);
+    }
+}
+
+TEST_F(Picture, TextIsReadableOverBarAndGroundOnEveryDesktop) {
+    QPalette contrast(Qt::black);
+    contrast.setColor(QPalette::WindowText, Qt::white);
+    contrast.setColor(QPalette::Highlight, QColor(26, 235, 255));
+    box().setFontBold(true);
+    for (const QPalette& desktop : {window.palette(), darkDesktop(), contrast}) {
+        for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            window.setPalette(desktop);
+            window.setLayoutDirection(direction);
+            bar().Clear();
+            bar().put_Max(100);
+            bar().put_Value(50);
+            const QImage shown = picture();
+            const QRect covered = barIn(shown);
+            ASSERT_EQ(covered.width(), 150);
+            const QRect uncovered = covered.translated(direction == Qt::LeftToRight ? 150 : -150, 0);
+            // Whole strokes have the colour itself, which `captionColorOn` has made readable on the ground.
+            const auto has = [&shown](const QRect& part, const QColor& color) {
+                for (int y = part.top(); y <= part.bottom(); ++y)
+                    for (int x = part.left(); x <= part.right(); ++x)
+                        if (shown.pixelColor(x, y) == color) return true;
+                return false;
+            };
+            EXPECT_TRUE(has(covered, ground()));
+            EXPECT_TRUE(has(uncovered, ink()));
+            EXPECT_LE(writingIn(shown, covered, ink()).width(), 30) << "and the bar is of that colour";
+        }
+    }
+}
+
+TEST_F(Picture, DisabledItIsGreyOnEveryDesktop) {
+    for (const QPalette& desktop : {window.palette(), darkDesktop()}) {
+        window.setPalette(desktop);
+        bar().put_Max(100);
+        bar().put_Value(50);
+        const QImage shown = picture();
+        bar().put_Enabled(false);
+        EXPECT_NE(picture(), shown);
+        EXPECT_EQ(picture().pixelColor(0, 0), qt::disabledCaptionColor(desktop));
+        EXPECT_NE(picture().pixelColor(0, 0), desktop.color(QPalette::Active, QPalette::WindowText));
+        bar().put_Enabled(true);
+        EXPECT_EQ(picture(), shown);
+    }
+}
+
+TEST_F(Picture, IsReadOutAsAProgressBarByTheNameOfItsControl) {
+    QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(&box());
+    ASSERT_NE(spoken, nullptr);
+    bar().put_Value(42);
+    EXPECT_EQ(spoken->role(), QAccessible::ProgressBar);
+    EXPECT_EQ(spoken->text(QAccessible::Value), QStringLiteral("42%"));
+    ASSERT_NE(spoken->valueInterface(), nullptr);
+    EXPECT_EQ(spoken->valueInterface()->currentValue().toInt(), 42);
+    EXPECT_EQ(spoken->valueInterface()->minimumValue().toInt(), 0);
+    EXPECT_EQ(spoken->valueInterface()->maximumValue().toInt(), 100);
+    field.setAccessibleName(QStringLiteral("Copying"));
+    EXPECT_EQ(spoken->text(QAccessible::Name), QStringLiteral("Copying"));
+    box().setAccessibleName(QStringLiteral("Bar"));
+    EXPECT_EQ(spoken->text(QAccessible::Name), QStringLiteral("Bar"));
+}
+
+TEST_F(Picture, HasTheTooltipOfItsControl) {
+    field.setToolTip(QStringLiteral("So far"));
+    EXPECT_EQ(bar().widgets().picture->toolTip(), u"So far");
+}
+
+TEST(ProgressOnAForm, TakesNoFocusAndIsNoStopOnTheWay) {
+    TextForm form(qt::makeHome({}));
+    // Placed against the Tab key's way.
+    const auto place = [&form](const std::u16string& name, std::int32_t tabIndex, const ClassModel& model) {
+        const Rect bounds{120, 375 * tabIndex, 4500, 300};
+        return &form.placeAt({.name = name, .bounds = bounds, .tabIndex = tabIndex}, model);
+    };
+    PlacedControl* const last = place(u"last", 4, KelTextModel);
+    place(u"later", 3, KelProgressBarModel);
+    PlacedControl* const middle = place(u"middle", 2, KelTextModel);
+    PlacedControl* const job = place(u"job", 1, KelProgressBarModel);
+    PlacedControl* const first = place(u"first", 0, KelTextModel);
+    textOf(*middle).put_Enabled(false);
+    form.show();
+    textOf(*middle).put_Enabled(true);
+    FormWindow& window = form.window();
+    window.focus(*first);
+    window.focus(*job);
+    window.click(*job, 0);
+    window.rightClick(*job);
+    EXPECT_EQ(window.focused(), first);
+    for (PlacedControl* const next : {middle, last, first, middle}) {
+        window.press({keys::Tab});
+        EXPECT_EQ(window.focused(), next);
+    }
+}
+
+}  // namespace
+}  // namespace kel::test
