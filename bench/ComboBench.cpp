@@ -6,26 +6,27 @@
 #include "bench/Widgets.h"
 #include "controls/combo/KelCombo.h"
 #include "controls/combo/ListText.h"
-#include "platform/qt/KelControlWidget.h"
+#include "KelComboWidget.h"
 
 namespace {
 
 using namespace kel::bench;
 
-class ComboWidget final : public kel::qt::KelControlWidget {
-public:
-    explicit ComboWidget(QWidget* parent) : KelControlWidget(kel::KelComboModel, parent) {}
+kel::KelCombo& comboOf(const KelComboWidget& widget) { return static_cast<kel::KelCombo&>(widget.control()); }
 
-    kel::KelCombo& combo() const { return static_cast<kel::KelCombo&>(control()); }
-    QString currentText() const { return QString::fromStdU16String(combo().widgets().comboBox->text()); }
-};
+/// As it stands, which asking the control for it would settle.
+QString textOf(const KelComboWidget& widget) {
+    return QString::fromStdU16String(comboOf(widget).widgets().comboBox->text());
+}
 
 class EditableComboBox final : public QComboBox {
 public:
     explicit EditableComboBox(QWidget* parent) : QComboBox(parent) { setEditable(true); }
 };
 
-BENCHMARK(makeControl<ComboWidget>)->Name("ComboWidget");
+QString textOf(const QComboBox& box) { return box.currentText(); }
+
+BENCHMARK(makeControl<KelComboWidget>)->Name("ComboWidget");
 BENCHMARK(makeLabelAndEdit<EditableComboBox>)->Name("LabelAndComboBox");
 
 /// Types names of the list one after the other, as a person does who knows them; `clear` empties `edit` between them,
@@ -38,7 +39,7 @@ void typeNames(benchmark::State& state, const Edit& edit, Clear clear) {
         return state.SkipWithError("the field did not take the focus");
     const auto press = [target](char16_t character) {
         QKeyEvent key = eventOf(typed(QChar(character).toUpper().unicode(), character));
-        QCoreApplication::sendEvent(target, &key);
+        strike(*target, key);
     };
     // Both prepare themselves at the first key, which has a line of its own.
     press(u's');
@@ -49,8 +50,7 @@ void typeNames(benchmark::State& state, const Edit& edit, Clear clear) {
         press(words[word][letter]);
         if (++letter < words[word].size()) continue;
         state.PauseTiming();
-        if (edit.currentText() != QString::fromStdU16String(words[word]))
-            state.SkipWithError("the keys did not arrive");
+        if (textOf(edit) != QString::fromStdU16String(words[word])) state.SkipWithError("the keys did not arrive");
         clear();
         letter = 0;
         word = (word + Stride) % words.size();
@@ -59,8 +59,8 @@ void typeNames(benchmark::State& state, const Edit& edit, Clear clear) {
 }
 
 void KeyIntoComboWidget(benchmark::State& state) {
-    const FocusedEdit<ComboWidget> shown;
-    kel::KelCombo& combo = shown.edit->combo();
+    const FocusedEdit<KelComboWidget> shown;
+    kel::KelCombo& combo = comboOf(*shown.edit);
     combo.ListFromArray(names(kel::MostListItems));
     typeNames(state, *shown.edit, [&combo] { combo.put_Text(u""); });
 }
@@ -76,9 +76,9 @@ BENCHMARK(KeyIntoComboBox);
 
 /// Nothing is kept of a list that was open, so that each opening is like the first.
 void OpenList(benchmark::State& state) {
-    const FocusedEdit<ComboWidget> shown;
-    shown.edit->combo().ListFromArray(names(kel::MostListItems));
-    kel::ComboBox& box = *shown.edit->combo().widgets().comboBox;
+    const FocusedEdit<KelComboWidget> shown;
+    comboOf(*shown.edit).ListFromArray(names(kel::MostListItems));
+    kel::ComboBox& box = *comboOf(*shown.edit).widgets().comboBox;
     for (auto _ : state) {
         box.showDropDown(true);
         QCoreApplication::processEvents();
@@ -91,10 +91,18 @@ void OpenList(benchmark::State& state) {
 }
 BENCHMARK(OpenList)->Unit(benchmark::kNanosecond);
 
+void PutList(benchmark::State& state) {
+    std::u16string list;
+    for (const std::u16string& name : names(kel::MostListItems)) list.append(name).append(u",");
+    const FocusedEdit<KelComboWidget> shown;
+    for (auto _ : state) comboOf(*shown.edit).put_List(list);
+}
+BENCHMARK(PutList);
+
 void readList(benchmark::State& state, int count) {
-    ComboWidget widget(nullptr);
-    widget.combo().ListFromArray(names(count));
-    for (auto _ : state) benchmark::DoNotOptimize(widget.combo().get_List());
+    const KelComboWidget widget;
+    comboOf(widget).ListFromArray(names(count));
+    for (auto _ : state) benchmark::DoNotOptimize(comboOf(widget).get_List());
 }
 
 void ReadLongList(benchmark::State& state) { readList(state, kel::MostListItems); }

@@ -30,6 +30,20 @@ void LoadList(benchmark::State& state) {
 }
 BENCHMARK(LoadList);
 
+/// What any program does with such a text.
+void SplitList(benchmark::State& state) {
+    const std::u16string list = listText();
+    for (auto _ : state) {
+        std::vector<std::u16string> items;
+        for (std::size_t start = 0, end = 0; end != std::u16string::npos; start = end + 1) {
+            end = list.find(u',', start);
+            items.push_back(list.substr(start, end - start));
+        }
+        benchmark::DoNotOptimize(items);
+    }
+}
+BENCHMARK(SplitList);
+
 void LoadListIntoComboBox(benchmark::State& state) {
     const QStringList list = qtNames(kel::MostListItems);
     for (auto _ : state) {

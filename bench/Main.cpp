@@ -1,11 +1,12 @@
 #include <QApplication>
 
+#include "bench/Memory.h"
 #include "bench/Table.h"
 
 int main(int argc, char** argv) {
     int none = 1;
     QApplication application(none, argv);
-    return kel::bench::runTable(
+    const int status = kel::bench::runTable(
         argc, argv,
         {
             {"making and destroying a text field / label and line edit", "TextWidget", {"LabelAndLineEdit"}, 1.2},
@@ -27,6 +28,7 @@ int main(int argc, char** argv) {
             {"reading 1,234,567.89 / QLocale", "ReadNumber", {"ReadNumberByQLocale"}, 0.1},
             {"reading 1,234,567.89 / ICU", "ReadNumber", {"ReadNumberByIcu"}, 0.1},
             {"32,767 items into a list / QComboBox", "LoadList", {"LoadListIntoComboBox"}, 1},
+            {"a list of them into a combo field / bare splitting", "PutList", {"SplitList"}, 2},
             {"finding a beginning in them for the first time", "FirstSearch", {}, 40e6},
             {"finding a beginning in them / QComboBox", "FindBeginning", {"FindBeginningByComboBox"}, 0.01},
             {"the same / in 100 items", "FindBeginning", {"FindBeginningInShortList"}, 10},
@@ -42,6 +44,9 @@ int main(int argc, char** argv) {
             {"reading 15 March 2013 in dd/mm/yyyy / QDate", "ReadWrittenDate", {"ReadDateByQDate"}, 1},
             {"a step of a job that does not move the bar", "StepOfJob", {}, 30},
             {"the same without the time left", "StepOfJobWithoutTime", {}, 5},
+            {"a moving bar / QProgressBar", "MoveProgressBarWidget", {"MoveProgressBar"}, 1},
             {"loading a form of 1,000 text fields, headless", "LoadThousandFields", {}, 20e6},
         });
+    if (argc == 1 && status == 0) kel::bench::printMemory();
+    return status;
 }

@@ -26,15 +26,10 @@ void typeLetters(benchmark::State& state) {
 BENCHMARK(typeLetters<KelTextWidget>)->Name("KeyIntoTextWidget");
 BENCHMARK(typeLetters<QLineEdit>)->Name("KeyIntoLineEdit");
 
-class NullObserver final : public kel::ControlObserver {
-    void controlEvent(kel::PlacedControl&, const kel::EventRow&, std::span<kel::Variant>) override {}
-    void propertyReported(kel::PlacedControl&, std::u16string_view) override {}
-};
-
 void LateBoundRead(benchmark::State& state) {
     const auto home = kel::headless::makeHome({});
     const auto window = home->makeWindow({}, home->system());
-    NullObserver observer;
+    kel::SilentObserver observer;
     kel::Control& control =
         window->place(*kel::libraryClasses().find(u"KelText"), {.name = u"field"}, observer).control();
     kel::Variant result;
@@ -49,7 +44,7 @@ BENCHMARK(LateBoundRead);
 void LateBoundTextRead(benchmark::State& state) {
     const auto home = kel::headless::makeHome({});
     const auto window = home->makeWindow({}, home->system());
-    NullObserver observer;
+    kel::SilentObserver observer;
     kel::Control& control =
         window->place(*kel::libraryClasses().find(u"KelText"), {.name = u"field"}, observer).control();
     const kel::Variant text = std::u16string(u"a name of usual length");
@@ -79,7 +74,7 @@ std::string formOfFields(int count) {
 void LoadThousandFields(benchmark::State& state) {
     const std::string text = formOfFields(1000);
     const auto home = kel::headless::makeHome({});
-    NullObserver observer;
+    kel::SilentObserver observer;
     for (auto _ : state) {
         kel::Form form(*home, home->system(), observer, kel::FormFile::parse(text, "many.frm"));
         form.show();
