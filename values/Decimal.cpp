@@ -10,6 +10,8 @@
 
 namespace kel {
 
+static_assert(FLT_EVAL_METHOD == 0, "all machines must round alike: no more digits than a double has");
+
 namespace {
 
 constexpr double LargestDouble = std::numeric_limits<double>::max();

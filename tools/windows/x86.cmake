@@ -4,6 +4,8 @@ set(CMAKE_SYSTEM_PROCESSOR i686)
 set(KEL_WINDOWS_TARGET i686-w64-mingw32)
 set(CMAKE_C_COMPILER ${KEL_WINDOWS_TARGET}-gcc-posix)
 set(CMAKE_CXX_COMPILER ${KEL_WINDOWS_TARGET}-g++-posix)
+# Doubles as they are stored: the older unit keeps more digits, and rounds halves another way than all other machines.
+set(CMAKE_CXX_FLAGS_INIT "-msse2 -mfpmath=sse")
 set(CMAKE_RC_COMPILER ${KEL_WINDOWS_TARGET}-windres)
 set(KEL_WIDL ${KEL_WINDOWS_TARGET}-widl)
 set(CMAKE_FIND_ROOT_PATH /usr/${KEL_WINDOWS_TARGET})
