@@ -2,12 +2,18 @@
 
 #include <ctime>
 
+#include "values/Calendar.h"
+
 namespace kel {
 
+Date LocalClock::today() {
+    comeTo(now());
+    return Today_;
+}
+
 double LocalClock::secondsSinceMidnight() {
-    using namespace std::chrono_literals;
     const Clock::time_point moment = now();
-    if (moment < Minute_ || moment >= Minute_ + 1min) startMinute(std::chrono::floor<std::chrono::minutes>(moment));
+    comeTo(moment);
     return SecondsAtMinute_ + std::chrono::duration<double>(moment - Minute_).count();
 }
 
@@ -22,11 +28,14 @@ LocalClock::Clock::time_point LocalClock::now() {
 #endif
 }
 
-void LocalClock::startMinute(Clock::time_point minute) {
-    const std::time_t seconds = Clock::to_time_t(minute);
+void LocalClock::comeTo(Clock::time_point moment) {
+    using namespace std::chrono_literals;
+    if (moment >= Minute_ && moment < Minute_ + 1min) return;
+    Minute_ = std::chrono::floor<std::chrono::minutes>(moment);
+    const std::time_t seconds = Clock::to_time_t(Minute_);
     const std::tm local = *std::localtime(&seconds);
     SecondsAtMinute_ = local.tm_hour * 3600 + local.tm_min * 60 + local.tm_sec;
-    Minute_ = minute;
+    Today_ = dateOf({local.tm_year + 1900, local.tm_mon + 1, local.tm_mday}).value_or(Date{});
 }
 
 }  // namespace kel

@@ -32,14 +32,19 @@ void KelProgressBar::put_Max(std::int32_t maximum) {
     Range_.max = maximum;
     report(u"Max");
     Range_.min = std::min(Range_.min, Range_.max);
-    LastBarWidth_ = NeverDrawn;
+    rangeChanged();
 }
 
 void KelProgressBar::put_Min(std::int32_t minimum) {
     Range_.min = minimum;
     report(u"Min");
     Range_.max = std::max(Range_.max, Range_.min);
+    rangeChanged();
+}
+
+void KelProgressBar::rangeChanged() {
     LastBarWidth_ = NeverDrawn;
+    SameBar_ = {};
 }
 
 void KelProgressBar::put_ShowTime(bool show) {
@@ -57,14 +62,19 @@ void KelProgressBar::Start() {
 
 void KelProgressBar::put_Value(std::int32_t value) {
     Value_ = Range_.clamp(value);
-    const double share = Range_.share(value);
-    const std::int32_t width = nearestPart(share, Picture1_->bounds().width);
-    const bool moved = width != LastBarWidth_;
+    const bool moved = movesBar(value);
     if (!ShowTime_ && !moved) return;
     const float now = ShowTime_ ? clock() : 0;
     if (!moved && now <= static_cast<float>(NextTimeUpdate_)) return;
-    LastBarWidth_ = width;
+    const double share = Range_.share(value);
+    LastBarWidth_ = barWidth(share);
+    SameBar_ = valuesOfSameBar(Range_, Value_, Picture1_->bounds().width);
     draw(ShowTime_ ? percentText(share) + timeText(now) : percentText(share));
+}
+
+/// Asked with every step of a job.
+bool KelProgressBar::movesBar(std::int32_t value) const {
+    return !SameBar_.contains(value) && barWidth(Range_.share(value)) != LastBarWidth_;
 }
 
 std::u16string KelProgressBar::timeText(float now) {
@@ -92,6 +102,7 @@ void KelProgressBar::Resize() {
     if (!Host_.container.hasSize()) return;
     const Size size = Host_.container.size();
     Picture1_->move({0, 0, size.width, size.height});
+    SameBar_ = {};
 }
 
 void KelProgressBar::Show() {

@@ -33,6 +33,17 @@ constexpr std::int32_t nearestPart(double share, std::int32_t whole) {
     return goesUp ? below + 1 : below;
 }
 
+/// Some values in a row; none in a new one.
+struct ValueSpan {
+    std::int32_t first = 1;
+    std::int32_t last = 0;
+
+    constexpr bool contains(std::int32_t value) const { return value >= first && value <= last; }
+};
+
+/// The values around `value`, which is in the range, that make a bar as wide as it does on a surface of `width`.
+ValueSpan valuesOfSameBar(const ProgressRange& range, std::int32_t value, std::int32_t width);
+
 /// "42%", rounded in that way.
 std::u16string percentText(double share);
 

@@ -1,8 +1,5 @@
 #include "platform/headless/HeadlessHome.h"
 
-#include <chrono>
-#include <ctime>
-
 #include "host/LocalClock.h"
 #include "platform/headless/HeadlessWidgets.h"
 #include "platform/headless/HeadlessWindow.h"
@@ -17,27 +14,12 @@ constexpr std::int32_t UsualTwipsPerPixel = 15;
 constexpr std::int32_t UsualColorDepth = 24;
 constexpr std::u16string_view FontName = u"Sans";
 
-using Clock = std::chrono::system_clock;
-
-std::tm localTime(Clock::time_point moment) {
-    const std::time_t seconds = Clock::to_time_t(moment);
-    return *std::localtime(&seconds);
-}
-
-double serialOf(const std::tm& local) {
-    using namespace std::chrono;
-    constexpr sys_days DayZero = 1899y / December / 30;
-    const sys_days day = year(local.tm_year + 1900) / month(static_cast<unsigned>(local.tm_mon + 1)) /
-                         std::chrono::day(static_cast<unsigned>(local.tm_mday));
-    return static_cast<double>((day - DayZero).count());
-}
-
 class HeadlessSystem final : public System {
 public:
     HeadlessSystem(const HomeOptions& options, const Input& input)
         : Input_(input), TwipsPerPixel_(options.twipsPerPixel > 0 ? options.twipsPerPixel : UsualTwipsPerPixel) {}
 
-    Date today() const override { return {serialOf(localTime(Clock::now()))}; }
+    Date today() const override { return Clock_.today(); }
     double timer() const override { return Clock_.secondsSinceMidnight(); }
     void messageBox(std::u16string_view /*prompt*/, std::int32_t /*style*/, std::u16string_view /*title*/) override {}
     void beep() override {}

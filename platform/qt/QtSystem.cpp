@@ -1,7 +1,6 @@
 #include "platform/qt/QtSystem.h"
 
 #include <QApplication>
-#include <QDateTime>
 #include <QMessageBox>
 #include <QPointer>
 
@@ -30,18 +29,6 @@ void bringBack(QWidget& window) {
 }
 
 }  // namespace
-
-/// Date fields ask at each key, and for each answer the C library would look on the disk whether the time zone has
-/// been changed.
-Date QtSystem::today() const {
-    const qint64 second = QDateTime::currentSecsSinceEpoch();
-    if (second != TodayAsked_) {
-        const QDate dayZero(1899, 12, 30);
-        Today_ = {static_cast<double>(dayZero.daysTo(QDate::currentDate()))};
-        TodayAsked_ = second;
-    }
-    return Today_;
-}
 
 void QtSystem::messageBox(std::u16string_view prompt, std::int32_t style, std::u16string_view title) {
     const ForeignCode running;

@@ -10,7 +10,7 @@ class QtSystem final : public System {
 public:
     explicit QtSystem(std::int32_t twipsPerPixel) : TwipsPerPixel_(twipsPerPixel) {}
 
-    Date today() const override;
+    Date today() const override { return Clock_.today(); }
     double timer() const override { return Clock_.secondsSinceMidnight(); }
     void messageBox(std::u16string_view prompt, std::int32_t style, std::u16string_view title) override;
     void beep() override;
@@ -20,8 +20,6 @@ public:
 private:
     std::int32_t TwipsPerPixel_;
     mutable LocalClock Clock_;
-    mutable Date Today_;
-    mutable std::int64_t TodayAsked_ = -1;  ///< at which second
 };
 
 }  // namespace kel::qt
