@@ -27,7 +27,7 @@ std::optional<Date> serialIn(const Variant& value) {
 
 }  // namespace
 
-Variant dateFromValue(const Variant& value, std::u16string_view format, Date defaultDate, TwoDigitYears years,
+Variant dateFromValue(const Variant& value, const DateFormat& format, Date defaultDate, TwoDigitYears years,
                       const RegionalSettings& region) {
     if (const auto* text = std::get_if<std::u16string>(&value))
         return dateOrNull(readDate(*text, format, defaultDate, years, region));

@@ -10,7 +10,7 @@ namespace kel {
 
 /// What `value` is as a day without a time, or Null: a text is read, a number is a day serial, a date loses its
 /// time. Booleans, lists, objects and days outside the calendar are none.
-Variant dateFromValue(const Variant& value, std::u16string_view format, Date defaultDate, TwoDigitYears years,
+Variant dateFromValue(const Variant& value, const DateFormat& format, Date defaultDate, TwoDigitYears years,
                       const RegionalSettings& region);
 
 /// What `value` is as a time of day to the second, or Null: a text is read, a number is a day serial and gives

@@ -20,13 +20,15 @@ public:
 
     Variant ParseDate(const Variant& text, const std::u16string& format, Date defaultDate, bool birthDay) override {
         const TwoDigitYears years = birthDay ? TwoDigitYears::NotAfterDefault : TwoDigitYears::AnyTime;
-        return dateFromValue(text, format, defaultDate, years, Services_.region());
+        if (format != Format_.given()) Format_ = DateFormat(format);
+        return dateFromValue(text, Format_, defaultDate, years, Services_.region());
     }
     Date LastDayOfMonth(Date date) override { return lastDayOfMonth(date); }
     Variant ParseTime(const Variant& text) override { return timeFromValue(text, Services_.region()); }
 
 private:
     RuntimeServices& Services_;
+    DateFormat Format_;  ///< the last one asked for
 };
 
 class DefaultRuntime final : public Runtime {

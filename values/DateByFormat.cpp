@@ -5,7 +5,7 @@
 #include <span>
 #include <string>
 
-#include "values/FormatExpressionFields.h"
+#include "values/FormatExpressionNames.h"
 #include "values/Words.h"
 
 namespace kel {
@@ -64,22 +64,17 @@ public:
     LayoutReader(std::u16string_view text, const RegionalSettings& region, WrittenDate& written)
         : Text_(text), Region_(region), Written_(written) {}
 
-    bool read(std::u16string_view expression) {
-        return take(expression, DateFieldScanner::Source::Expression) && Text_.empty();
+    bool read(const DateFormat& format) {
+        for (const DateFormat::Step& step : format.steps()) {
+            const NumberField& number = digitsOf(step.field);
+            if (!(number.exists() ? takeNumber(number, step.isBeforeDigit) : takeOther(format.token(step))))
+                return false;
+        }
+        return Text_.empty();
     }
 
 private:
-    bool take(std::u16string_view expression, DateFieldScanner::Source source) {
-        DateFieldScanner scanner(expression, source);
-        for (DateToken token; scanner.next(token);) {
-            if (!take(token, scanner)) return false;
-        }
-        return true;
-    }
-
-    bool take(const DateToken& token, const DateFieldScanner& behind) {
-        const NumberField& number = digitsOf(token.field);
-        if (number.exists()) return takeNumber(number, mayBeginWithDigit(behind.peek()));
+    bool takeOther(const DateToken& token) {
         if (!isPart(token.field)) return takeLiteral(literalOf(token));
         switch (token.field) {
             case DateField::ShortWeekday: return takeName(Region_.AbbreviatedWeekdayNames);
@@ -104,7 +99,16 @@ private:
         return token.field == DateField::DateSeparator ? Region_.DateSeparator : Region_.TimeSeparator;
     }
 
-    bool takeRegional(std::u16string_view expression) { return take(expression, DateFieldScanner::Source::Region); }
+    bool takeRegional(std::u16string_view expression) {
+        DateFieldScanner scanner(expression, DateFieldScanner::Source::Region);
+        for (DateToken token; scanner.next(token);) {
+            const NumberField& number = digitsOf(token.field);
+            const bool isTaken =
+                number.exists() ? takeNumber(number, mayBeginWithDigit(scanner.peek())) : takeOther(token);
+            if (!isTaken) return false;
+        }
+        return true;
+    }
 
     /// Letters and digits as they are; any separators or none for separators.
     bool takeLiteral(std::u16string_view literal) {
@@ -177,10 +181,26 @@ private:
 
 }  // namespace
 
-bool readByFormat(std::u16string_view text, std::u16string_view expression, const RegionalSettings& region,
+DateFormat::DateFormat(std::u16string_view given) : Given_(given), Expression_(given) {
+    if (const NamedFormat* named = findNamedFormat(given)) Expression_ = named->expression;
+    DateFieldScanner scanner(Expression_);
+    for (DateToken token; scanner.next(token);) {
+        Step step{.field = token.field};
+        if (digitsOf(token.field).exists()) {
+            step.isBeforeDigit = mayBeginWithDigit(scanner.peek());
+        } else if (token.field == DateField::Literal || token.field == DateField::HalfDay) {
+            step.textStart = static_cast<std::uint32_t>(Texts_.size());
+            step.textUnits = static_cast<std::uint32_t>(token.text.size());
+            Texts_ += token.text;
+        }
+        Steps_.push_back(step);
+    }
+}
+
+bool readByFormat(std::u16string_view text, const DateFormat& format, const RegionalSettings& region,
                   WrittenDate& written) {
     written = {};
-    return LayoutReader(text, region, written).read(expression);
+    return LayoutReader(text, region, written).read(format);
 }
 
 }  // namespace kel

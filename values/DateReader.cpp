@@ -3,7 +3,6 @@
 #include "values/CalendarDays.h"
 #include "values/DateByFormat.h"
 #include "values/DateByOrder.h"
-#include "values/FormatExpressionNames.h"
 #include "values/Words.h"
 
 namespace kel {
@@ -73,7 +72,7 @@ bool resolve(const WrittenDate& written, const Surroundings& by, Date& out) {
     return true;
 }
 
-bool read(std::u16string_view text, std::u16string_view format, const Surroundings& by, Date& out) {
+bool read(std::u16string_view text, const DateFormat& format, const Surroundings& by, Date& out) {
     WrittenDate written;
     DigitGroup digits;
     if (isDayMonthYear(text, by.region.ZeroDigit, digits)) {
@@ -81,17 +80,16 @@ bool read(std::u16string_view text, std::u16string_view format, const Surroundin
     } else if (readByFormat(text, format, by.region, written)) {
         return resolve(written, by, out);
     }
-    return readByOrder(text, format, by.region, written) && resolve(written, by, out);
+    return readByOrder(text, format.expression(), by.region, written) && resolve(written, by, out);
 }
 
 }  // namespace
 
-std::optional<Date> readDate(std::u16string_view text, std::u16string_view format, Date defaultDate,
-                             TwoDigitYears years, const RegionalSettings& region) {
+std::optional<Date> readDate(std::u16string_view text, const DateFormat& format, Date defaultDate, TwoDigitYears years,
+                             const RegionalSettings& region) {
     text = withoutOuterSeparators(text);
     if (text.empty()) return std::nullopt;
     if (isWordForToday(text)) return dayOf(defaultDate);
-    if (const NamedFormat* named = findNamedFormat(format)) format = named->expression;
     std::optional<Date> date(std::in_place);
     if (!read(text, format, {defaultDate, years, region}, *date)) date.reset();
     return date;

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string_view>
 
+#include "values/DateFormat.h"
 #include "values/RegionalSettings.h"
 #include "values/Variant.h"
 
@@ -30,7 +31,7 @@ enum class TwoDigitYears : std::uint8_t {
 };
 
 /// The day that all of `text` stands for, or nothing. The time taken grows with the length of the text.
-std::optional<Date> readDate(std::u16string_view text, std::u16string_view format, Date defaultDate,
-                             TwoDigitYears years, const RegionalSettings& region);
+std::optional<Date> readDate(std::u16string_view text, const DateFormat& format, Date defaultDate, TwoDigitYears years,
+                             const RegionalSettings& region);
 
 }  // namespace kel

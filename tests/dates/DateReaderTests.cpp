@@ -16,7 +16,7 @@ constexpr std::u16string_view DayFirst = u"dd/mm/yyyy";
 /// "2013-03-15", "none".
 std::string read(std::u16string_view text, std::u16string_view format, std::u16string_view region,
                  const DateParts& today = {2013, 3, 10}, TwoDigitYears years = TwoDigitYears::AnyTime) {
-    const auto date = readDate(text, format, withTime(*dateOf(today), 0.75), years, *findRegion(region));
+    const auto date = readDate(text, DateFormat(format), withTime(*dateOf(today), 0.75), years, *findRegion(region));
     if (!date) return "none";
     const DateParts parts = datePartsOf(*date);
     EXPECT_EQ(*date, dayOf(*date));
@@ -214,7 +214,7 @@ TEST(DateReader, PutsTwoDigitYearsWhereTheRegionWants) {
     RegionalSettings region = defaultRegion();
     for (const auto& [last, year] : {std::pair{2029, 1930}, {2030, 2030}, {99, 0}, {-5, 0}, {32767, 32730}}) {
         region.TwoDigitYearMax = static_cast<std::int16_t>(last);
-        const auto date = readDate(u"1/1/30", DayFirst, {}, TwoDigitYears::AnyTime, region);
+        const auto date = readDate(u"1/1/30", DateFormat(DayFirst), {}, TwoDigitYears::AnyTime, region);
         EXPECT_EQ(date, dateOf({year, 1, 1})) << last;
     }
 }

@@ -23,7 +23,7 @@ const Date FirstOfWindow = *dateOf({1950, 1, 1}), LastOfWindow = *dateOf({2049, 
 class DateRoundTrip {
 public:
     DateRoundTrip(std::u16string_view format, const RegionalSettings& region)
-        : Format_(format), Expression_(format), Region_(region) {}
+        : Format_(format), Layout_(format), Expression_(format), Region_(region) {}
 
     void check(Date first, Date last) {
         if (isThorough) return checkEach(first.Serial, last.Serial, 1);
@@ -38,7 +38,7 @@ private:
         for (double serial = first; serial <= last; serial += step) {
             const Date date{serial};
             const std::u16string text = Expression_.format(date, Region_);
-            const auto read = readDate(text, Format_, Today, TwoDigitYears::AnyTime, Region_);
+            const auto read = readDate(text, Layout_, Today, TwoDigitYears::AnyTime, Region_);
             if (read == date) continue;
             ADD_FAILURE() << toUtf8(text) << " by " << toUtf8(Format_) << " in " << toUtf8(Region_.Name) << ": "
                           << serial;
@@ -48,6 +48,7 @@ private:
 
     static constexpr Date Today{41348};
     std::u16string_view Format_;
+    DateFormat Layout_;
     FormatExpression Expression_;
     const RegionalSettings& Region_;
 };

@@ -84,13 +84,14 @@ bool isExplained(std::u16string_view text, const DateParts& date) {
 
 /// How many of the formats read a date in the text; a date that is not explained by it is a failure.
 std::size_t readings(std::u16string_view text) {
+    static const std::vector<DateFormat> formats(std::begin(Formats), std::end(Formats));
     std::size_t count = 0;
-    for (const std::u16string_view format : Formats) {
+    for (const DateFormat& format : formats) {
         const auto date = readDate(text, format, *dateOf(Today), TwoDigitYears::AnyTime, defaultRegion());
         if (!date) continue;
         ++count;
         if (isExplained(text, datePartsOf(*date))) continue;
-        ADD_FAILURE() << toUtf8(text) << " by " << toUtf8(format) << ": " << datePartsOf(*date).year << " "
+        ADD_FAILURE() << toUtf8(text) << " by " << toUtf8(format.given()) << ": " << datePartsOf(*date).year << " "
                       << datePartsOf(*date).month << " " << datePartsOf(*date).day;
     }
     return count;
