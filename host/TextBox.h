@@ -35,8 +35,10 @@ public:
     /// False refuses it: the box stays as it is.
     virtual bool Text1_Paste(std::u16string& Text) = 0;
     virtual void Text1_MouseDown(MouseButton Button) = 0;
-    /// The wheel was turned over the box while it had the focus; notches away from the user count up. A box
-    /// without the focus leaves the wheel to its surroundings.
+    /// Whether the wheel does anything in the box. A box that has no use for it, or not the focus, leaves it to its
+    /// surroundings, which it may scroll.
+    virtual bool Text1_UsesWheel() = 0;
+    /// The wheel was turned over the box while it had the focus; notches away from the user count up.
     virtual void Text1_Wheel(std::int32_t Notches) = 0;
     virtual void Text1_GotFocus() = 0;
     virtual void Text1_LostFocus() = 0;

@@ -155,7 +155,6 @@ void DateTimeField::Text1_MouseDown(MouseButton Button) {
 }
 
 void DateTimeField::Text1_Wheel(std::int32_t Notches) {
-    if (!Frame_.upDown()) return;
     for (std::int32_t left = std::abs(Notches); left > 0; --left) step(Notches > 0 ? 1 : -1);
 }
 

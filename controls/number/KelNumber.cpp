@@ -241,7 +241,6 @@ bool KelNumber::Text1_Paste(std::u16string& Text) {
 void KelNumber::Text1_MouseDown(MouseButton /*Button*/) { TextDirty_ = true; }
 
 void KelNumber::Text1_Wheel(std::int32_t Notches) {
-    if (!get_UpDown()) return;
     for (std::int32_t left = std::abs(Notches); left > 0; --left)
         StepValue(Notches > 0 ? UpDownChange_ : -UpDownChange_);
 }

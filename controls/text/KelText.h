@@ -69,6 +69,7 @@ private:
     void Text1_KeyPress(char32_t& KeyAscii) override;
     bool Text1_Paste(std::u16string& /*Text*/) override { return true; }
     void Text1_MouseDown(MouseButton /*Button*/) override {}
+    bool Text1_UsesWheel() override { return false; }
     void Text1_Wheel(std::int32_t /*Notches*/) override {}
     void Text1_GotFocus() override;
     void Text1_LostFocus() override;

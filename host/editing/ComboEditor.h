@@ -78,6 +78,7 @@ private:
     void Text1_KeyPress(char32_t& KeyAscii) override { Listener_.Combo1_KeyPress(KeyAscii); }
     bool Text1_Paste(std::u16string& /*Text*/) override { return true; }
     void Text1_MouseDown(MouseButton /*Button*/) override {}
+    bool Text1_UsesWheel() override { return true; }
     void Text1_Wheel(std::int32_t Notches) override;
     void Text1_GotFocus() override { Listener_.Combo1_GotFocus(); }
     void Text1_LostFocus() override;

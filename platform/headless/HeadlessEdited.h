@@ -21,7 +21,9 @@ public:
         edit().click();
     }
     void rightClick() override { edit().pressMouse(MouseButton::Right); }
-    void turnWheel(std::int32_t notches) override { edit().listener().Text1_Wheel(notches); }
+    void turnWheel(std::int32_t notches) override {
+        if (edit().listener().Text1_UsesWheel()) edit().listener().Text1_Wheel(notches);
+    }
     void drop(std::int32_t position, std::u16string_view text) override {
         this->setSelStart(position);
         edit().paste(std::u16string(text));

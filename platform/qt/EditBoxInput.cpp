@@ -131,7 +131,7 @@ void EditBox::pastePicked(const QString& text) {
 
 bool EditBox::wheelTurned(const QWheelEvent& event) {
     const int turned = event.angleDelta().y();
-    if (turned == 0 || !field().widget().hasFocus()) return false;
+    if (turned == 0 || !field().widget().hasFocus() || !Edit_.listener().Text1_UsesWheel()) return false;
     const bool turnedBack = (turned > 0) != (TurnedRest_ > 0);
     TurnedRest_ = turnedBack ? turned : TurnedRest_ + turned;
     const int notches = TurnedRest_ / QWheelEvent::DefaultDeltasPerStep;

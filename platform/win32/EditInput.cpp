@@ -313,6 +313,7 @@ void EditInput::pressed(UINT message, WPARAM wide, LPARAM data) {
 LRESULT EditInput::wheelTurned(WPARAM wide, LPARAM data) {
     if (GetFocus() != window() || !Field_.acceptsInput()) return defaultFor(WM_MOUSEWHEEL, wide, data);
     if (buffer().multiLine()) View_.base(WM_MOUSEWHEEL, wide, data);
+    if (!Editor_.listener().Text1_UsesWheel()) return buffer().multiLine() ? 0 : defaultFor(WM_MOUSEWHEEL, wide, data);
     const int turned = GET_WHEEL_DELTA_WPARAM(wide);
     if ((turned < 0) != (WheelRest_ < 0)) WheelRest_ = 0;
     WheelRest_ += turned;

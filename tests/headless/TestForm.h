@@ -31,6 +31,7 @@ public:
     /// What a key-press handler makes of the character.
     std::function<char32_t(char32_t)> changeKey;
     std::function<std::int16_t(std::int16_t)> changeCode;
+    bool usesWheel = true;
     /// Nothing refuses the text that is pasted.
     std::function<std::optional<std::u16string>(std::u16string)> changePaste;
 
@@ -56,6 +57,7 @@ private:
     void Text1_KeyPress(char32_t& KeyAscii) override;
     bool Text1_Paste(std::u16string& Text) override;
     void Text1_MouseDown(MouseButton Button) override;
+    bool Text1_UsesWheel() override { return usesWheel; }
     void Text1_Wheel(std::int32_t Notches) override { tell("Wheel" + std::to_string(Notches)); }
     void Text1_GotFocus() override { tell(Host_.system.tabKeyDown() ? "GotFocusByTab" : "GotFocus"); }
     void Text1_LostFocus() override { tell("LostFocus"); }

@@ -87,6 +87,10 @@ TEST(Wheel, ScrollsWhatIsAround) {
     const QScrollBar& bar = *area.verticalScrollBar();
     turn(areaOf(*line->control().widgets().entry), {0, -Notch});
     EXPECT_GT(bar.value(), 0);
+    const int before = bar.value();
+    line->setFocus();
+    turn(areaOf(*line->control().widgets().entry), {0, -Notch});
+    EXPECT_GT(bar.value(), before) << "the focus makes no difference where the wheel means nothing";
     const int reached = bar.value();
     QWidget& lines = areaOf(*several->control().widgets().entry);
     turn(lines, {0, -Notch});

@@ -123,7 +123,7 @@ LRESULT CALLBACK countWheels(HWND window, UINT message, WPARAM wide, LPARAM data
 
 }  // namespace
 
-TEST(the_wheel_counts_notches_in_the_focus_and_scrolls_the_host_without_it) {
+TEST(the_wheel_counts_notches_in_the_focus_and_scrolls_the_host_otherwise) {
     HostWindow host;
     Stage stage;
     stage.placeOn(host.window());
@@ -156,6 +156,11 @@ TEST(the_wheel_counts_notches_in_the_focus_and_scrolls_the_host_without_it) {
     stage.takeLog();
     turn(60);
     EXPECT_EQ(stage.takeLog(), L"");
+
+    stage.usesWheel = false;
+    turn(120);
+    EXPECT_EQ(stage.takeLog(), L"");
+    EXPECT_EQ(WheelsSeen, 2);
 }
 
 TEST(focus_is_told_in_the_order_of_the_controls) {

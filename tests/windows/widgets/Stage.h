@@ -58,6 +58,7 @@ public:
     std::function<void()> onStep;
     std::function<bool(std::u16string&)> onPaste;
     bool swallowKeys = false;
+    bool usesWheel = true;
 
 private:
     void holdOpen() override { ++Held_; }
@@ -73,6 +74,7 @@ private:
     void Text1_KeyPress(char32_t& KeyAscii) override;
     bool Text1_Paste(std::u16string& Text) override;
     void Text1_MouseDown(MouseButton Button) override;
+    bool Text1_UsesWheel() override { return usesWheel; }
     void Text1_Wheel(std::int32_t Notches) override;
     void Text1_GotFocus() override { tell(L"got"); }
     void Text1_LostFocus() override;
