@@ -4,7 +4,7 @@
 
 #include "library/Dispatch.h"
 #include "tests/combo/ComboForm.h"
-#include "tests/combo/Heap.h"
+#include "tests/Heap.h"
 
 namespace kel::test {
 namespace {

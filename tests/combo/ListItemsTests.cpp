@@ -7,7 +7,7 @@
 #include <string>
 #include <utility>
 
-#include "tests/combo/Heap.h"
+#include "tests/Heap.h"
 #include "values/CaseFolding.h"
 
 namespace kel {

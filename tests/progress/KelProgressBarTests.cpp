@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/check/OneControl.h"
-#include "tests/combo/Heap.h"
+#include "tests/Heap.h"
 #include "values/Text.h"
 
 namespace kel::test {

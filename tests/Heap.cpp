@@ -1,4 +1,4 @@
-#include "tests/combo/Heap.h"
+#include "tests/Heap.h"
 
 #include <malloc.h>
 
