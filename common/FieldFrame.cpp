@@ -34,10 +34,12 @@ void setFieldFont(const ControlHost& host, TextualWidget& widget) {
     if (const auto runtime = host.settings.Runtime) widget.setFont(runtime->FieldFontName(), runtime->FieldFontSize());
 }
 
-std::shared_ptr<RuntimeDates> runtimeDates(const ControlHost& host) {
+std::shared_ptr<Runtime> runtimeFor(const ControlHost& host) {
     const SharedSettings& settings = host.settings;
-    return (settings.Runtime ? settings.Runtime : settings.makeDefaultRuntime())->RuntimeDates();
+    return settings.Runtime ? settings.Runtime : settings.makeDefaultRuntime();
 }
+
+std::shared_ptr<RuntimeDates> runtimeDates(const ControlHost& host) { return runtimeFor(host)->RuntimeDates(); }
 
 void moveFocusOn(const ControlHost& host) {
     if (const auto runtime = host.settings.Runtime) runtime->SendKey(keys::Tab);

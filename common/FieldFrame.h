@@ -24,7 +24,9 @@ void sizeCaption(Label& label, const FieldLayout& layout);
 void setCaptionFont(const ControlHost& host, TextualWidget& widget);
 void setFieldFont(const ControlHost& host, TextualWidget& widget);
 
-/// The conversions of the host's run-time object, of a default one while none is held.
+/// The host's run-time object, a default one for this once while none is held.
+std::shared_ptr<Runtime> runtimeFor(const ControlHost& host);
+/// Its conversions.
 std::shared_ptr<RuntimeDates> runtimeDates(const ControlHost& host);
 
 /// The focus goes on to the next control, as by Tab.

@@ -18,11 +18,6 @@ constexpr std::int16_t TagSeparator = u',';
 
 std::int32_t listPixels(std::int32_t twips) { return (twips + TwipsPerListPixel / 2) / TwipsPerListPixel; }
 
-/// The one that the host gave, else a default one for this once.
-std::shared_ptr<Runtime> runtimeFor(const SharedSettings& settings) {
-    return settings.Runtime ? settings.Runtime : settings.makeDefaultRuntime();
-}
-
 }  // namespace
 
 KelCombo::KelCombo(ControlHost& host)
@@ -48,7 +43,7 @@ void KelCombo::loadItems(ListItems items) {
 }
 
 std::u16string KelCombo::get_List() const {
-    const auto runtime = runtimeFor(Host_.settings);
+    const auto runtime = runtimeFor(Host_);
     std::u16string list;
     for (std::int32_t i = 0; i < get_ListCount(); ++i)
         list = runtime->ListAppend(std::move(list), Combo1_->items().item(i));
@@ -81,7 +76,7 @@ void KelCombo::put_ListTag(const std::u16string& tags) {
 std::u16string KelCombo::get_ListTagItem(std::int16_t Item) const {
     const std::int32_t item = Item == 0 ? Combo1_->listIndex() + 1 : Item;
     if (item < 1 || item > get_ListCount()) return {};
-    const auto runtime = runtimeFor(Host_.settings);
+    const auto runtime = runtimeFor(Host_);
     std::int32_t position = 0;
     std::u16string tag;
     for (std::int32_t read = 0; read < item; ++read) {
