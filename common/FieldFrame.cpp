@@ -26,12 +26,13 @@ void sizeCaption(Label& label, const FieldLayout& layout) {
 }
 
 void setCaptionFont(const ControlHost& host, TextualWidget& widget) {
-    if (const auto runtime = host.settings.Runtime)
-        widget.setFont(runtime->CaptionFontName(), runtime->CaptionFontSize());
+    const auto runtime = runtimeFor(host);
+    widget.setFont(runtime->CaptionFontName(), runtime->CaptionFontSize());
 }
 
 void setFieldFont(const ControlHost& host, TextualWidget& widget) {
-    if (const auto runtime = host.settings.Runtime) widget.setFont(runtime->FieldFontName(), runtime->FieldFontSize());
+    const auto runtime = runtimeFor(host);
+    widget.setFont(runtime->FieldFontName(), runtime->FieldFontSize());
 }
 
 std::shared_ptr<Runtime> runtimeFor(const ControlHost& host) {
@@ -41,8 +42,6 @@ std::shared_ptr<Runtime> runtimeFor(const ControlHost& host) {
 
 std::shared_ptr<RuntimeDates> runtimeDates(const ControlHost& host) { return runtimeFor(host)->RuntimeDates(); }
 
-void moveFocusOn(const ControlHost& host) {
-    if (const auto runtime = host.settings.Runtime) runtime->SendKey(keys::Tab);
-}
+void moveFocusOn(const ControlHost& host) { runtimeFor(host)->SendKey(keys::Tab); }
 
 }  // namespace kel

@@ -29,6 +29,13 @@ std::shared_ptr<Runtime> runtimeFor(const ControlHost& host);
 /// Its conversions.
 std::shared_ptr<RuntimeDates> runtimeDates(const ControlHost& host);
 
+/// The tooltip that the host gives the control. Where it gives none, the widget keeps its own.
+template <class Shown>
+void takeToolTip(const ControlHost& host, Shown& widget) {
+    const std::u16string text = host.container.toolTipText();
+    if (!text.empty()) widget.setToolTip(text);
+}
+
 /// The focus goes on to the next control, as by Tab.
 void moveFocusOn(const ControlHost& host);
 

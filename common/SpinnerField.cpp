@@ -107,7 +107,7 @@ void SpinnerField::layOut() {
 void SpinnerField::show() {
     setFieldFont(Host_, *Label1_);
     setFieldFont(Host_, *Text1_);
-    Text1_->setToolTip(Host_.container.toolTipText());
+    takeToolTip(Host_, *Text1_);
 }
 
 // ---- Keys, mouse and messages

@@ -84,7 +84,7 @@ void KelCheck::Resize() {
 
 void KelCheck::Show() {
     setFieldFont(Host_, *Check1_);
-    Check1_->setToolTip(Host_.container.toolTipText());
+    takeToolTip(Host_, *Check1_);
 }
 
 // ---- The check box

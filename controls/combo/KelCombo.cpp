@@ -287,7 +287,7 @@ void KelCombo::Resize() {
 void KelCombo::Show() {
     setCaptionFont(Host_, *Label1_);
     setFieldFont(Host_, *Combo1_);
-    Combo1_->setToolTip(Host_.container.toolTipText());
+    takeToolTip(Host_, *Combo1_);
 }
 
 // ---- Design-time properties

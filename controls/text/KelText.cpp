@@ -184,10 +184,9 @@ void KelText::Resize() {
 void KelText::Show() {
     Shown_ = true;
     setCaptionFont(Host_, *Label1_);
-    const std::u16string tooltip = Host_.container.toolTipText();
-    forEachBox([&](TextBox& box) {
+    forEachBox([this](TextBox& box) {
         setFieldFont(Host_, box);
-        box.setToolTip(tooltip);
+        takeToolTip(Host_, box);
     });
 }
 

@@ -47,6 +47,18 @@ TEST_F(TextField, EnterMovesOnAsTabDoes) {
     EXPECT_EQ(looks(B), "\r\n|");
 }
 
+TEST(UnloadedFields, HaveARuntimeObjectToMoveOnAndATooltipOfTheirOwn) {
+    TestForm form;
+    auto& first = static_cast<KelText&>(form.place(u"first", KelTextModel).control());
+    form.place(u"second", KelTextModel);
+    first.widgets().field->setToolTip(u"own");
+    form.window().show();
+    ASSERT_EQ(form.home().settings().Runtime, nullptr);
+    EXPECT_EQ(first.widgets().field->toolTip(), u"own") << "the host gives none";
+    press(form.window(), "Tab Enter");
+    EXPECT_EQ(form.focused(), "second");
+}
+
 TEST_F(TextField, OverwritingReplacesOneCharacterAStep) {
     A.put_InsertMode(false);
     A.put_Text(u"abc");
