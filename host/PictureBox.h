@@ -14,6 +14,7 @@ struct BarPicture {
     std::int32_t textLeft = 0;
     std::int32_t textTop = 0;
     std::int32_t barWidth = 0;
+    std::int32_t percent = 0;  ///< for those who cannot see the bar
 };
 
 /// A surface without a border that takes no focus. The bar has the fore colour, and so has the text, save where the

@@ -32,19 +32,14 @@ void KelProgressBar::put_Max(std::int32_t maximum) {
     Range_.max = maximum;
     report(u"Max");
     Range_.min = std::min(Range_.min, Range_.max);
-    rangeChanged();
+    LastBarWidth_ = NeverDrawn;
 }
 
 void KelProgressBar::put_Min(std::int32_t minimum) {
     Range_.min = minimum;
     report(u"Min");
     Range_.max = std::max(Range_.max, Range_.min);
-    rangeChanged();
-}
-
-void KelProgressBar::rangeChanged() {
     LastBarWidth_ = NeverDrawn;
-    SameBar_ = {};
 }
 
 void KelProgressBar::put_ShowTime(bool show) {
@@ -60,21 +55,21 @@ void KelProgressBar::Start() {
     NextTimeUpdate_ = *ProgressStartTime_ + SecondsToFirstTimeUpdate;
 }
 
+/// Asked with every step of a job.
 void KelProgressBar::put_Value(std::int32_t value) {
     Value_ = Range_.clamp(value);
-    const bool moved = movesBar(value);
+    Share_ = Range_.share(value);
+    const bool moved = barWidth(Share_) != LastBarWidth_;
     if (!ShowTime_ && !moved) return;
     const float now = ShowTime_ ? clock() : 0;
     if (!moved && now <= static_cast<float>(NextTimeUpdate_)) return;
-    const double share = Range_.share(value);
-    LastBarWidth_ = barWidth(share);
-    SameBar_ = valuesOfSameBar(Range_, Value_, Picture1_->bounds().width);
-    draw(ShowTime_ ? percentText(share) + timeText(now) : percentText(share));
+    drawValue(now);
 }
 
-/// Asked with every step of a job.
-bool KelProgressBar::movesBar(std::int32_t value) const {
-    return !SameBar_.contains(value) && barWidth(Range_.share(value)) != LastBarWidth_;
+void KelProgressBar::drawValue(float now) {
+    DrawnShare_ = Share_;
+    LastBarWidth_ = barWidth(DrawnShare_);
+    draw(ShowTime_ ? percentText(DrawnShare_) + timeText(now) : percentText(DrawnShare_));
 }
 
 std::u16string KelProgressBar::timeText(float now) {
@@ -84,12 +79,22 @@ std::u16string KelProgressBar::timeText(float now) {
     return std::move(left.text);
 }
 
-void KelProgressBar::draw(const std::u16string& text) {
+void KelProgressBar::draw(std::u16string text) {
     const Rect surface = Picture1_->bounds();
-    Picture1_->draw({.text = text,
-                     .textLeft = inTheMiddle(surface.width, Picture1_->textWidth(text)),
-                     .textTop = inTheMiddle(surface.height, Picture1_->textHeight(text)),
-                     .barWidth = LastBarWidth_});
+    const std::int32_t left = inTheMiddle(surface.width, Picture1_->textWidth(text));
+    const std::int32_t top = inTheMiddle(surface.height, Picture1_->textHeight(text));
+    Picture1_->draw({.text = std::move(text),
+                     .textLeft = left,
+                     .textTop = top,
+                     .barWidth = barWidth(DrawnShare_),
+                     .percent = percentOf(DrawnShare_)});
+}
+
+/// What is there, for a surface or a font that has become another one.
+void KelProgressBar::drawAgain() {
+    if (!isDrawn()) return;
+    if (LastBarWidth_ != NeverDrawn) LastBarWidth_ = barWidth(DrawnShare_);
+    draw(Picture1_->picture().text);
 }
 
 // ---- The container
@@ -101,13 +106,19 @@ void KelProgressBar::WriteProperties(PropertyBag& bag) const { writePersisted(*t
 void KelProgressBar::Resize() {
     if (!Host_.container.hasSize()) return;
     const Size size = Host_.container.size();
+    const bool hadWidth = Picture1_->bounds().width > 0;
     Picture1_->move({0, 0, size.width, size.height});
-    SameBar_ = {};
+    // Without a width all bars are alike, and the one that was drawn need not be the one of the last value.
+    if (!hadWidth && isDrawn())
+        drawValue(ShowTime_ ? clock() : 0);
+    else
+        drawAgain();
 }
 
 void KelProgressBar::Show() {
     setFieldFont(Host_, *Picture1_);
-    Picture1_->setToolTip(Host_.container.toolTipText());
+    takeToolTip(Host_, *Picture1_);
+    drawAgain();
 }
 
 }  // namespace kel

@@ -48,11 +48,12 @@ private:
     static constexpr std::int32_t NeverDrawn = -1;
 
     float clock() const { return static_cast<float>(Host_.system.timer()); }
-    void rangeChanged();
-    bool movesBar(std::int32_t value) const;
     std::int32_t barWidth(double share) const { return nearestPart(share, Picture1_->bounds().width); }
+    bool isDrawn() const { return !Picture1_->picture().text.empty(); }
+    void drawValue(float now);
     std::u16string timeText(float now);
-    void draw(const std::u16string& text);
+    void draw(std::u16string text);
+    void drawAgain();
     void report(std::u16string_view bagName) { Host_.container.propertyChanged(bagName); }
 
     ControlHost Host_;
@@ -62,7 +63,8 @@ private:
     std::int32_t Value_ = 1;
     bool ShowTime_ = true;
     std::int32_t LastBarWidth_ = NeverDrawn;
-    ValueSpan SameBar_;                        ///< some of the values that leave the bar as it was drawn
+    double Share_ = 0;                         ///< of the value put last
+    double DrawnShare_ = 0;                    ///< what the picture shows
     std::optional<double> ProgressStartTime_;  ///< none before the first job
     double NextTimeUpdate_ = 0;
 };

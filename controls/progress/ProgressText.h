@@ -33,18 +33,10 @@ constexpr std::int32_t nearestPart(double share, std::int32_t whole) {
     return goesUp ? below + 1 : below;
 }
 
-/// Some values in a row; none in a new one.
-struct ValueSpan {
-    std::int32_t first = 1;
-    std::int32_t last = 0;
+/// Rounded in that way.
+constexpr std::int32_t percentOf(double share) { return nearestPart(share, 100); }
 
-    constexpr bool contains(std::int32_t value) const { return value >= first && value <= last; }
-};
-
-/// The values around `value`, which is in the range, that make a bar as wide as it does on a surface of `width`.
-ValueSpan valuesOfSameBar(const ProgressRange& range, std::int32_t value, std::int32_t width);
-
-/// "42%", rounded in that way.
+/// "42%"
 std::u16string percentText(double share);
 
 /// What is said of the time that a job still takes.

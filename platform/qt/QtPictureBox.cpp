@@ -32,7 +32,7 @@ public:
         return own.isEmpty() && kind == QAccessible::Name ? parent()->text(kind) : own;
     }
 
-    QVariant currentValue() const override { return Box_.percent(); }
+    QVariant currentValue() const override { return Box_.picture().percent; }
     void setCurrentValue(const QVariant& /*value*/) override {}
     QVariant maximumValue() const override { return Whole; }
     QVariant minimumValue() const override { return 0; }
@@ -73,14 +73,8 @@ void QtPictureBox::draw(const BarPicture& picture) {
     Picture_ = picture;
     repaint();
     if (!QAccessible::isActive()) return;
-    QAccessibleValueChangeEvent event(this, percent());
+    QAccessibleValueChangeEvent event(this, Picture_.percent);
     QAccessible::updateAccessibility(&event);
-}
-
-int QtPictureBox::percent() const {
-    const std::int64_t width = bounds().width;
-    if (width <= 0) return 0;
-    return static_cast<int>(std::clamp<std::int64_t>(Picture_.barWidth, 0, width) * Whole / width);
 }
 
 // ---- Painting

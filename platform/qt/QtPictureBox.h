@@ -26,9 +26,6 @@ public:
     void clear() override { draw({}); }
     void draw(const BarPicture& picture) override;
 
-    /// How far the bar reaches, in hundredths of the width.
-    int percent() const;
-
 protected:
     void paintEvent(QPaintEvent* event) override;
 

@@ -3,7 +3,6 @@
 #include <commctrl.h>
 
 #include <algorithm>
-#include <cmath>
 
 #include "platform/win32/WideText.h"
 
@@ -105,18 +104,13 @@ std::int32_t Win32PictureBox::textHeight(std::u16string_view text) const {
     return frame().grid().twips(static_cast<int>(pixelsOf(text).cy));
 }
 
-int Win32PictureBox::percentage() const {
-    const double whole = std::max(bounds().width, 1);
-    return std::clamp(static_cast<int>(std::lround(WholeBar * Picture_.barWidth / whole)), 0, WholeBar);
-}
-
 void Win32PictureBox::draw(const BarPicture& picture) {
-    const int before = percentage();
+    const std::int32_t before = Picture_.percent;
     Picture_ = picture;
     refresh();
     if (window() == nullptr) return;
     UpdateWindow(window());
-    if (percentage() != before) NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, window(), OBJID_CLIENT, CHILDID_SELF);
+    if (Picture_.percent != before) NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, window(), OBJID_CLIENT, CHILDID_SELF);
 }
 
 void Win32PictureBox::draw(HDC context, POINT origin) const {
@@ -152,7 +146,7 @@ LRESULT Win32PictureBox::handle(UINT message, WPARAM wide, LPARAM data) {
         // The system's bar would have a border.
         case WM_NCCALCSIZE:
         case WM_NCPAINT: return 0;
-        case PBM_GETPOS: return percentage();
+        case PBM_GETPOS: return Picture_.percent;
         case PBM_GETRANGE: return rangeOfBar(wide != FALSE, reinterpret_cast<PBRANGE*>(data));
         case WM_GETTEXTLENGTH: return static_cast<LRESULT>(Picture_.text.size());
         case WM_GETTEXT: return static_cast<LRESULT>(copyText(Picture_.text, wide, reinterpret_cast<wchar_t*>(data)));

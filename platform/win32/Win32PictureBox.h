@@ -41,8 +41,6 @@ private:
     void fontChanged() override { refresh(); }
     void showToolTip();
     SIZE pixelsOf(std::u16string_view text) const;
-    /// Of the bar, 0 to 100.
-    int percentage() const;
 
     void paint(HDC context, const RECT& area) const override;
     LRESULT handle(UINT message, WPARAM wide, LPARAM data) override;

@@ -39,10 +39,23 @@ TEST_F(Progress, TheTextStandsInTheMiddleAndMayOverhang) {
     EXPECT_EQ(picture.textLeft, (4500 - Surface.textWidth(u"50%")) / 2);
     EXPECT_EQ(picture.textTop, (300 - Surface.textHeight(u"50%")) / 2);
     Form.placed().setBounds({0, 0, 101, 101});
-    It.put_Value(50);
     ASSERT_GT(Surface.textWidth(u"50%"), 101);
     EXPECT_EQ(picture.textLeft, -((Surface.textWidth(u"50%") - 101) / 2)) << "cut towards the edge";
     EXPECT_EQ(picture.textTop, -((Surface.textHeight(u"50%") - 101) / 2));
+}
+
+TEST_F(Progress, WhatWasPutBeforeItHadASizeOrWasShownIsSeen) {
+    OneControl form(KelProgressBarModel, {0, 300});
+    auto& bar = form.as<KelProgressBar>();
+    const PictureBox& surface = *bar.widgets().picture;
+    for (std::int32_t value = 1; value <= 25; ++value) bar.put_Value(value);
+    form.placed().setBounds({0, 0, 4500, 300});
+    EXPECT_EQ(toUtf8(surface.picture().text), "25%");
+    EXPECT_EQ(surface.picture().barWidth, 1125);
+    const std::int32_t narrow = surface.picture().textLeft;
+    bar.widgets().picture->setFontBold(true);
+    bar.Show();
+    EXPECT_EQ(surface.picture().textLeft, (4500 - surface.textWidth(u"25%")) / 2) << "and not " << narrow;
 }
 
 TEST_F(Progress, TimeIsComparedInSinglePrecision) {

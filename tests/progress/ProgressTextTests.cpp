@@ -39,33 +39,6 @@ TEST(ProgressText, BarAndPercentage) {
     }
 }
 
-TEST(ProgressText, ValuesOfTheSameBarAreAllOfThem) {
-    struct {
-        ProgressRange range;
-        std::int32_t value, width;
-    } const cases[] = {
-        {{1, 100}, 1, 4500},
-        {{1, 100}, 100, 4500},
-        {{1, 2'000'000'000}, 77, 4500},
-        {{1, 200}, 3, 100},
-        {{7, 7}, 7, 1000},
-        {{1, 100}, 50, 0},
-        {{Lowest, Highest}, 0, 300},
-        {{Lowest, Highest}, Highest, 4500},
-        {{Lowest, Highest}, Lowest, Highest},
-    };
-    for (const auto& test : cases) {
-        SCOPED_TRACE(test.value);
-        const ValueSpan span = valuesOfSameBar(test.range, test.value, test.width);
-        const auto bar = [&](std::int32_t value) { return nearestPart(test.range.share(value), test.width); };
-        EXPECT_TRUE(span.contains(test.value));
-        EXPECT_EQ(bar(span.first), bar(test.value));
-        EXPECT_EQ(bar(span.last), bar(test.value));
-        EXPECT_TRUE(span.first == test.range.min || bar(span.first - 1) < bar(test.value));
-        EXPECT_TRUE(span.last == test.range.max || bar(span.last + 1) > bar(test.value));
-    }
-}
-
 TEST(ProgressText, TimeLeft) {
     struct {
         const char* what;

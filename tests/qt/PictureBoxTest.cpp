@@ -164,6 +164,13 @@ TEST_F(Picture, IsReadOutAsAProgressBarByTheNameOfItsControl) {
     EXPECT_EQ(spoken->valueInterface()->currentValue().toInt(), 42);
     EXPECT_EQ(spoken->valueInterface()->minimumValue().toInt(), 0);
     EXPECT_EQ(spoken->valueInterface()->maximumValue().toInt(), 100);
+    // As it is written, whatever the bar in whole twips comes to.
+    bar().put_Max(1000);
+    for (const int value : {425, 435}) {
+        bar().put_Value(value);
+        const int percent = spoken->valueInterface()->currentValue().toInt();
+        EXPECT_EQ(spoken->text(QAccessible::Value), QString::number(percent) + QLatin1Char('%'));
+    }
     field.setAccessibleName(QStringLiteral("Copying"));
     EXPECT_EQ(spoken->text(QAccessible::Name), QStringLiteral("Copying"));
     box().setAccessibleName(QStringLiteral("Bar"));

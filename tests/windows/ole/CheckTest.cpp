@@ -255,6 +255,10 @@ TEST(progress_is_shown_inside_the_put) {
     EXPECT(!GetUpdateRect(surface, nullptr, FALSE));
     EXPECT_EQ(windowTextOf(surface), std::wstring(L"40%"));
     EXPECT_EQ(SendMessageW(surface, PBM_GETPOS, 0, 0), LRESULT{40});
+    EXPECT_CODE(bar->put_Max(1000), S_OK);
+    EXPECT_CODE(bar->put_Value(425), S_OK);
+    EXPECT_EQ(windowTextOf(surface), std::wstring(L"42%"));
+    EXPECT_EQ(SendMessageW(surface, PBM_GETPOS, 0, 0), LRESULT{42});
     EXPECT_CODE(bar->Clear(), S_OK);
     EXPECT_EQ(windowTextOf(surface), std::wstring());
     EXPECT_CODE(bar->put_Enabled(VARIANT_FALSE), S_OK);

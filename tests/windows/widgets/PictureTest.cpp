@@ -36,7 +36,7 @@ public:
         const Rect surface = box().bounds();
         const std::int32_t left = (surface.width - box().textWidth(text)) / 2;
         const std::int32_t top = (surface.height - box().textHeight(text)) / 2;
-        return {std::move(text), left, top, pixels * machine().twipsPerPixel()};
+        return {std::move(text), left, top, pixels * machine().twipsPerPixel(), pixels * 100 / Width};
     }
 
     /// Pixels of the ink between two columns, as they are on the screen at this moment.
