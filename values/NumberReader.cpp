@@ -28,6 +28,19 @@ constexpr bool isPadding(char16_t unit) {
     return isBlank(unit) || (unit >= 0x09 && unit <= 0x0D) || isDirectionMark(unit);
 }
 
+bool isAlike(char16_t written, char16_t separator) {
+    return (isBlank(separator) && isBlank(written)) || (isApostrophe(separator) && isApostrophe(written));
+}
+
+/// Units of the group separator that `text` begins with, else 0.
+std::size_t separatorLength(std::u16string_view text, const DigitGrouping& grouping) {
+    const std::u16string_view separator = grouping.separator();
+    if (text.empty() || !grouping.exists()) return 0;
+    const bool isOne =
+        text.starts_with(separator) || (separator.size() == 1 && isAlike(text.front(), separator.front()));
+    return isOne ? separator.size() : 0;
+}
+
 void trim(std::u16string_view& text) {
     while (!text.empty() && isPadding(text.front())) text.remove_prefix(1);
     while (!text.empty() && isPadding(text.back())) text.remove_suffix(1);
@@ -109,17 +122,9 @@ private:
 
     /// Units of the group separator in front, when a digit follows it; else 0.
     std::size_t separatorInFront() const {
-        const std::u16string_view separator = Grouping_.separator();
-        if (Rest_.empty() || !Grouping_.exists()) return 0;
-        const std::size_t length = separator.size();
-        const bool isEqual = Rest_.starts_with(separator);
-        if (!isEqual && (length != 1 || !isAlike(Rest_.front(), separator.front()))) return 0;
+        const std::size_t length = separatorLength(Rest_, Grouping_);
         std::size_t units = 0;
-        return digitIn(Rest_.substr(length), units) < 10 ? length : 0;
-    }
-
-    static bool isAlike(char16_t written, char16_t separator) {
-        return (isBlank(separator) && isBlank(written)) || (isApostrophe(separator) && isApostrophe(written));
+        return length != 0 && digitIn(Rest_.substr(length), units) < 10 ? length : 0;
     }
 
     bool takeGroup(std::size_t& digits) {
@@ -268,6 +273,21 @@ NumberReading readNumber(std::u16string_view text, const RegionalSettings& regio
     return std::isinf(*size) ? NumberReading::TooLarge : NumberReading::Number;
 }
 
+NumberReading readEditedNumber(std::u16string_view text, const RegionalSettings& region, double& out) {
+    const NumberReading asItStands = readNumber(text, region, out);
+    if (asItStands != NumberReading::None) return asItStands;
+    const DigitGrouping grouping(region);
+    const bool isNegative = text.find(u')', std::min(text.find(u'('), text.size())) != std::u16string_view::npos;
+    std::u16string bare = isNegative ? u"(" : u"";
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t length = separatorLength(text.substr(at), grouping);
+        if (length == 0 && text[at] != u'(' && text[at] != u')') bare += text[at];
+        at += std::max<std::size_t>(length, 1);
+    }
+    if (isNegative) bare += u')';
+    return readNumber(bare, region, out);
+}
+
 bool isNumeric(const Variant& value, const RegionalSettings& region) {
     return std::visit(
         [&region](const auto& held) {
@@ -290,7 +310,7 @@ double numberFrom(const Variant& value, const RegionalSettings& region) {
             using Held = std::decay_t<decltype(held)>;
             if constexpr (std::is_same_v<Held, std::u16string>) {
                 double number = 0;
-                readNumber(held, region, number);
+                readEditedNumber(held, region, number);
                 return number;
             } else if constexpr (std::is_same_v<Held, bool>) {
                 return held ? -1 : 0;

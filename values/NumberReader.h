@@ -29,12 +29,17 @@ enum class NumberReading : std::uint8_t {
 /// is too large. Never gives a negative zero. The time taken grows with the length of the text.
 NumberReading readNumber(std::u16string_view text, const RegionalSettings& region, double& out);
 
+/// The text of a field that is being edited. Where it is no number, what is left in it of a display form is passed
+/// over, wherever it stands: "1,23.00" is 123, where there was 1,235.00 and the 5 has been deleted. Of parentheses only
+/// both together mean negative.
+NumberReading readEditedNumber(std::u16string_view text, const RegionalSettings& region, double& out);
+
 /// Whether `value` is a finite number, a boolean, Empty, or text that reads as a number that a double holds.
 /// Dates are not.
 bool isNumeric(const Variant& value, const RegionalSettings& region);
 
-/// What `value` is as a number: text is read, True is -1, a date is its serial. All that is no number is 0;
-/// what is too large is the largest double of its sign.
+/// What `value` is as a number: text is read as a field's, True is -1, a date is its serial. All that is no number is
+/// 0; what is too large is the largest double of its sign.
 double numberFrom(const Variant& value, const RegionalSettings& region);
 
 }  // namespace kel

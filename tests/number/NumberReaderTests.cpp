@@ -201,6 +201,37 @@ TEST(NumericValues, AreNumbersAndTextsOfNumbers) {
         EXPECT_EQ(numberFromValue(test.value, 2, defaultRegion()), test.number);
     }
     EXPECT_EQ(numberFromValue(std::u16string(u"1,5"), 0, *findRegion(u"de-DE")), 2);
+
+    // What an edit has left of a display form.
+    const struct {
+        const char16_t* text;
+        double number;
+        std::u16string_view region = u"en-GB";
+    } leavings[] = {
+        {u"1,23.00", 123},
+        {u",235.00", 235},
+        {u"1,.5", 1.5},
+        {u"1.2,5", 1.25},
+        {u"(1,23.00)", -123},
+        {u"-(1,23.00)", -123},
+        {u"(1,235.00", 1235},
+        {u"5.00)", 5},
+        {u"9(5.00)", -95},
+        {u")5(", 5},
+        {u"1.23,00", 123, u"de-DE"},
+        {u"1\u202F23,00", 123, u"fr-FR"},
+        {u"12 ,5", 12.5, u"fr-FR"},
+        {u"1.2.3", 0},
+        {u"1 2", 0},
+        {u",", 0},
+        {u"(", 0},
+    };
+    for (const auto& left : leavings) {
+        SCOPED_TRACE(toUtf8(left.text));
+        const Variant text = std::u16string(left.text);
+        EXPECT_EQ(numberFromValue(text, 2, *findRegion(left.region)), left.number);
+        EXPECT_FALSE(isNumeric(text, *findRegion(left.region)));
+    }
 }
 
 TEST(RuntimeNumbers, FollowTheRegionWhenItChanges) {
