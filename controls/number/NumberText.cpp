@@ -72,18 +72,32 @@ TextSpan insideOf(std::u16string_view text, TextSpan span) {
     return {start, std::min(span.length, text.size() - start)};
 }
 
+/// What surrounds a number where it was copied.
+std::u16string_view withoutPadding(std::u16string_view text) {
+    constexpr std::u16string_view Padding = u" \t\v\f\r\n\u00A0\u2007\u2009\u202F\u200E\u200F\u061C";
+    const std::size_t first = std::min(text.find_first_not_of(Padding), text.size());
+    const std::size_t end = text.find_last_not_of(Padding) + 1;
+    return text.substr(first, std::max(first, end) - first);
+}
+
 /// The plain form of a pasted number. Digits alone are plain, with their leading zeros: behind a decimal
 /// separator these count.
 std::u16string plainForm(std::u16string_view pasted, double number, std::int16_t decimals,
                          const RegionalSettings& region) {
-    constexpr std::u16string_view LineEnds = u" \t\r\n";
-    const std::size_t first = std::min(pasted.find_first_not_of(LineEnds), pasted.size());
-    const std::size_t end = pasted.find_last_not_of(LineEnds) + 1;
-    const std::u16string_view core = pasted.substr(first, std::max(first, end) - first);
-    if (std::all_of(core.begin(), core.end(), isAsciiDigit)) return std::u16string(core);
+    if (std::all_of(pasted.begin(), pasted.end(), isAsciiDigit)) return std::u16string(pasted);
     std::u16string plain = editText(number, decimals, region);
     if (plain.empty()) plain = u'0';
     return plain;
+}
+
+/// The number that `text` is with `inserted` in the place of `selection`, as the field will round it.
+std::optional<double> numberWith(std::u16string_view inserted, std::u16string_view text, TextSpan selection,
+                                 std::int16_t decimals, const RegionalSettings& region) {
+    std::u16string result(text);
+    result.replace(selection.start, selection.length, inserted);
+    double number = 0;
+    if (readNumber(result, region, number) != NumberReading::Number) return std::nullopt;
+    return roundDecimally(number, decimals);
 }
 
 }  // namespace
@@ -131,12 +145,12 @@ KeyEffect filterKey(char32_t key, std::u16string_view text, TextSpan selection, 
 std::optional<std::u16string> filterPaste(std::u16string_view pasted, std::u16string_view text, TextSpan selection,
                                           std::int16_t decimals, const RegionalSettings& region) {
     double number = 0;
+    pasted = withoutPadding(pasted);
     if (readNumber(pasted, region, number) != NumberReading::Number) return std::nullopt;
     std::u16string plain = plainForm(pasted, number, decimals, region);
     selection = insideOf(text, selection);
-    std::u16string result(text);
-    result.replace(selection.start, selection.length, plain);
-    if (readNumber(result, region, number) != NumberReading::Number) return std::nullopt;
+    const auto asPasted = numberWith(pasted, text, selection, decimals, region);
+    if (!asPasted || asPasted != numberWith(plain, text, selection, decimals, region)) return std::nullopt;
     return plain;
 }
 

@@ -134,7 +134,9 @@ TEST(NumberPaste, BringsThePlainFormOrNothing) {
         {"1.5|", u"2.5", 2, nullptr},      {"1,2|34.50", u"9", 2, nullptr},
         {"|", u"12abc", 2, nullptr},       {"|", u"", 2, nullptr},
         {"|", u"1e400", 2, nullptr},       {"|", u"1,23", 2, nullptr},
-        {"|", u"\xD800", 2, nullptr},
+        {"|", u"\xD800", 2, nullptr},      {"1|", u"0.5", 2, nullptr},
+        {"1|", u"2.50\u00A0", 2, "12.5"},  {"|7", u"2.505", 2, nullptr},
+        {"-|", u"0.5", 2, "-.5"},          {"|12", u"5-", 2, nullptr},
     };
     for (const auto& test : cases) {
         SCOPED_TRACE(testing::Message() << test.before << " and " << toUtf8(test.pasted));
