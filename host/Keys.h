@@ -42,6 +42,11 @@ struct KeyStroke {
     Modifiers modifiers = NoModifier;
 };
 
+/// The Insert key alone switches between inserting and overwriting; with another key held it copies or pastes.
+constexpr bool togglesOverwriting(std::int16_t code, Modifiers modifiers) {
+    return code == keys::Insert && modifiers == NoModifier;
+}
+
 /// The stroke that types `character`.
 KeyStroke strokeFor(char32_t character);
 

@@ -119,8 +119,8 @@ void DateTimeField::Text1_LostFocus() { Frame_.box().setSelStart(0); }
 
 // ---- Keys, mouse and spinner
 
-void DateTimeField::Text1_KeyDown(std::int16_t& KeyCode, Modifiers /*Shift*/) {
-    switch (keyDownEffect(KeyCode)) {
+void DateTimeField::Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) {
+    switch (keyDownEffect(KeyCode, Shift)) {
         case KeyDownEffect::StepsUp:
         case KeyDownEffect::StepsDown:
             step(KeyCode == keys::Up ? 1 : -1);

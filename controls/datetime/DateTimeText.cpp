@@ -1,6 +1,5 @@
 #include "controls/datetime/DateTimeText.h"
 
-#include "host/Keys.h"
 #include "values/Calendar.h"
 
 namespace kel {
@@ -83,11 +82,11 @@ std::u16string complaint(Validity validity, std::u16string_view kind, const Fiel
     return text += u" in this field.";
 }
 
-KeyDownEffect keyDownEffect(std::int16_t keyCode) {
+KeyDownEffect keyDownEffect(std::int16_t keyCode, Modifiers modifiers) {
+    if (togglesOverwriting(keyCode, modifiers)) return KeyDownEffect::TogglesInsertMode;
     switch (keyCode) {
         case keys::Up: return KeyDownEffect::StepsUp;
         case keys::Down: return KeyDownEffect::StepsDown;
-        case keys::Insert: return KeyDownEffect::TogglesInsertMode;
         default: return KeyDownEffect::Edits;
     }
 }

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <utility>
 
+#include "host/Keys.h"
 #include "values/FormatExpression.h"
 #include "values/RegionalSettings.h"
 #include "values/Variant.h"
@@ -100,7 +101,7 @@ enum class KeyDownEffect : std::uint8_t {
     TogglesInsertMode,  ///< the text box gets it as well
 };
 
-KeyDownEffect keyDownEffect(std::int16_t keyCode);
+KeyDownEffect keyDownEffect(std::int16_t keyCode, Modifiers modifiers);
 
 /// What a character does.
 enum class KeyPressEffect : std::uint8_t {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 #include "common/Persistence.h"
 #include "values/NumberFormat.h"
@@ -179,8 +180,9 @@ void KelNumber::ExitFocus() {
 
 // ---- Keys, mouse and spinner
 
-void KelNumber::Text1_KeyDown(std::int16_t& KeyCode, Modifiers /*Shift*/) {
-    KeypadDecimal_ = KeyCode == keys::Decimal;
+void KelNumber::Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) {
+    KeypadDecimal_ = KeyCode == keys::Decimal && (Shift & (ControlKey | AltKey)) == 0;
+    if (togglesOverwriting(KeyCode, Shift)) return Field_.toggleInsertMode();
     switch (KeyCode) {
         case keys::Up:
         case keys::Down:
@@ -188,7 +190,6 @@ void KelNumber::Text1_KeyDown(std::int16_t& KeyCode, Modifiers /*Shift*/) {
             StepValue(KeyCode == keys::Up ? UpDownChange_ : -UpDownChange_);
             KeyCode = 0;
             return;
-        case keys::Insert: Field_.toggleInsertMode(); return;
         default: TextDirty_ = true;
     }
 }
@@ -205,8 +206,9 @@ void KelNumber::select(TextSpan span) {
 
 void KelNumber::Text1_KeyPress(char32_t& KeyAscii) {
     TextDirty_ = true;  // an input method types without a key going down
-    // Whatever the keyboard's layout makes of it, the keypad's key is the one for decimals.
-    if (KeypadDecimal_) KeyAscii = DecimalCharacter_;
+    // Whatever the keyboard's layout makes of it, the keypad's key is the one for decimals; what an input method types
+    // after it is what it is.
+    if (std::exchange(KeypadDecimal_, false)) KeyAscii = DecimalCharacter_;
     const KeyEffect effect = filterKey(KeyAscii, Field_.box().text(), selection(),
                                        {.decimals = DecimalsInUse_,
                                         .decimalCharacter = DecimalCharacter_,

@@ -225,8 +225,8 @@ void KelText::Text1_Change() { Host_.container.raiseEvent(Change, {}); }
 
 void KelText::Text1_Click() { Host_.container.raiseEvent(Click, {}); }
 
-void KelText::Text1_KeyDown(std::int16_t& KeyCode, Modifiers /*Shift*/) {
-    if (KeyCode == keys::Insert) InsertMode_ = !InsertMode_;
+void KelText::Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) {
+    if (togglesOverwriting(KeyCode, Shift)) InsertMode_ = !InsertMode_;
 }
 
 void KelText::Text1_KeyPress(char32_t& KeyAscii) {

@@ -59,7 +59,7 @@ bool claimsKey(const KeyStroke& stroke, bool locked) {
     const char32_t character = keyPressCharacter(stroke);
     const EditAction action = character != 0 ? actionFor(character, stroke.modifiers) : actionFor(stroke);
     if (action != EditAction::None) return !locked || !edits(action);
-    return stroke.code == keys::Insert && stroke.modifiers == NoModifier;
+    return togglesOverwriting(stroke.code, stroke.modifiers);
 }
 
 }  // namespace kel

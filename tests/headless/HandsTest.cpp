@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "controls/number/KelNumber.h"
 #include "tests/headless/Keys.h"
 #include "tests/headless/TestForm.h"
 
@@ -248,6 +249,18 @@ TEST_F(Hands, TheKeypadsDecimalKeyHasItsOwnCodeAndTypesWhatTheLayoutGives) {
     press(Window, "'5'");
     EXPECT_EQ(codes, std::vector<std::int16_t>{keys::Decimal});
     EXPECT_EQ(drawn(Box), "1,5|");
+}
+
+TEST_F(Hands, WhatAnInputMethodTypesAfterTheKeypadsDecimalKeyIsWhatItIs) {
+    PlacedControl& placed = Form.place(u"amount", KelNumberModel);
+    auto& amount = static_cast<KelNumber&>(placed.control());
+    amount.put_Decimals(2);
+    Window.focus(placed);
+    const KeyStroke keypad{keys::Decimal, U',', NoModifier};
+    const KeyStroke silent{keys::Decimal, 0, ControlKey};
+    for (const KeyStroke& stroke : {KeyStroke{0, U'1'}, keypad, KeyStroke{0, U'5'}, silent, KeyStroke{0, U'7'}})
+        Window.press(stroke);
+    EXPECT_EQ(drawn(*amount.widgets().entry), "1.57|");
 }
 
 }  // namespace
