@@ -36,7 +36,11 @@ private:
     std::size_t Count_ = 1;
 };
 
-std::u16string_view firstLine(std::u16string_view text) { return text.substr(0, text.find_first_of(LineBreak)); }
+/// A text that was copied with the line end in front of it is wanted all the same.
+std::u16string_view firstLine(std::u16string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(LineBreak), text.size()));
+    return text.substr(0, text.find_first_of(LineBreak));
+}
 
 /// Line ends of every kind as line breaks.
 std::u16string withLineBreaks(std::u16string_view text) {
@@ -177,10 +181,11 @@ bool EditBuffer::breakLine() {
     return MultiLine_ && LineBreak.size() <= room() && replaceSelection(EditKind::Single, LineBreak);
 }
 
-bool EditBuffer::paste(std::u16string_view text) {
-    if (MultiLine_) return replaceSelection(EditKind::Single, fitting(withLineBreaks(text)));
-    return replaceSelection(EditKind::Single, fitting(firstLine(text)));
+std::u16string EditBuffer::pasted(std::u16string_view text) const {
+    return MultiLine_ ? withLineBreaks(text) : std::u16string(firstLine(text));
 }
+
+bool EditBuffer::paste(std::u16string_view text) { return replaceSelection(EditKind::Single, fitting(text)); }
 
 bool EditBuffer::eraseBack() {
     return erase(EditKind::Backspace, previousCodePoint(Text_, Selection_.caret, MultiLine_));

@@ -74,6 +74,9 @@ public:
 
     bool type(char32_t character);
     bool breakLine();
+    /// What of a text from elsewhere can stand here: one line of it in a single-line box.
+    std::u16string pasted(std::u16string_view text) const;
+    /// As much of a text that can stand here as there is room for.
     bool paste(std::u16string_view text);
     /// These remove the selection where there is one.
     bool eraseBack();

@@ -129,11 +129,12 @@ bool TextBoxEditor::edit(EditAction action, char32_t character) {
     }
 }
 
-void TextBoxEditor::paste(std::u16string text) {
-    if (!Locked_) tell(insertPasted(std::move(text)));
+void TextBoxEditor::paste(std::u16string_view text) {
+    if (!Locked_) tell(insertPasted(text));
 }
 
-bool TextBoxEditor::insertPasted(std::u16string text) {
+bool TextBoxEditor::insertPasted(std::u16string_view foreign) {
+    std::u16string text = Buffer_.pasted(foreign);
     const bool wanted = Listener_.Text1_Paste(text) && !Locked_ && Surroundings_.takesInput();
     return wanted && Buffer_.paste(text);
 }

@@ -74,7 +74,7 @@ public:
     /// From a menu.
     void perform(EditAction action) { act(action, 0, false); }
     /// A text that comes from elsewhere than the clipboard, such as a dropped one, in place of the selection.
-    void paste(std::u16string text);
+    void paste(std::u16string_view text);
 
     /// As the mouse has made it.
     void select(const Selection& selection);
@@ -90,7 +90,7 @@ private:
     bool edit(EditAction action, char32_t character);
     bool cut();
     void copy();
-    bool insertPasted(std::u16string text);
+    bool insertPasted(std::u16string_view foreign);
     void tell(bool changed);
 
     TextBoxListener& Listener_;

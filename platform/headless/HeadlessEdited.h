@@ -26,7 +26,7 @@ public:
     }
     void drop(std::int32_t position, std::u16string_view text) override {
         this->setSelStart(position);
-        edit().paste(std::u16string(text));
+        edit().paste(text);
     }
 
 protected:

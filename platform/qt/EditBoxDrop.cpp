@@ -32,7 +32,7 @@ void EditBox::dropped(QDropEvent& event) {
         moveSelection(place);
     } else {
         Edit_.select({place, place});
-        Edit_.paste(std::u16string(viewOf(text)));
+        Edit_.paste(viewOf(text));
     }
 }
 

@@ -126,7 +126,7 @@ void EditBox::mouseReleased(const QMouseEvent& event) {
 void EditBox::menuAsked(const QPoint& globalPosition) { showEditMenu(*this, globalPosition); }
 
 void EditBox::pastePicked(const QString& text) {
-    if (!text.isEmpty()) Edit_.paste(std::u16string(viewOf(text)));
+    if (!text.isEmpty()) Edit_.paste(viewOf(text));
 }
 
 bool EditBox::wheelTurned(const QWheelEvent& event) {

@@ -97,6 +97,7 @@ TEST(Editing, Clipboard) {
         {"a password stays", Password, 0, "[ab]", "paste'x' Ctrl+A Ctrl+C Ctrl+X End Ctrl+V", "xx|", 2},
         {"a locked box lets copy", Locked, 0, "[ab]", "Ctrl+X Ctrl+C", "[ab]", 0},
         {"the first line into one line", Single, 0, "a|b", "paste'1\n2'", "a1|b", 1},
+        {"the first that there is", Single, 0, "a[b]c", "paste'\r\n\n1\r2'", "a1|c", 1},
         {"every line end into several", Multi, 0, "|", "paste'1\n2\r3\r\n4\u20295'", "1\r\n2\r\n3\r\n4\r\n5|", 1},
         {"an empty clipboard takes the selection", Single, 0, "a[b]c", "paste'' paste''", "a|c", 1},
     };
