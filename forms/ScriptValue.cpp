@@ -45,15 +45,6 @@ std::optional<std::array<std::int32_t, 3>> readTriple(std::u16string_view text, 
     return numbers;
 }
 
-void appendCodePoint(std::u16string& text, std::uint32_t code) {
-    if (code < 0x10000) {
-        text += static_cast<char16_t>(code);
-        return;
-    }
-    text += static_cast<char16_t>(0xD800 + ((code - 0x10000) >> 10));
-    text += static_cast<char16_t>(0xDC00 + ((code - 0x10000) & 0x3FF));
-}
-
 /// The {HEX} behind \u.
 bool takeHexEscape(std::u16string_view& rest, std::u16string& text) {
     const std::size_t end = rest.find(u'}');

@@ -15,8 +15,8 @@ namespace kel {
 class TextBox : public TextEntry {
 public:
     /// Shown in place of every character; 0 shows the text.
-    virtual char16_t passwordChar() const = 0;
-    virtual void setPasswordChar(char16_t character) = 0;
+    virtual char32_t passwordChar() const = 0;
+    virtual void setPasswordChar(char32_t character) = 0;
 };
 
 /// What a text box tells its control, as it happens. A handler may do anything to the widget, also move the

@@ -45,15 +45,6 @@ void appendUtf8(std::string& bytes, char32_t point) {
     }
 }
 
-void appendUtf16(std::u16string& text, char32_t point) {
-    if (point < 0x10000) {
-        text.push_back(static_cast<char16_t>(point));
-    } else {
-        text.push_back(static_cast<char16_t>(0xD7C0U + (point >> 10)));
-        text.push_back(static_cast<char16_t>(0xDC00U + (point & 0x3FFU)));
-    }
-}
-
 struct Utf8Lead {
     int trails = -1;  ///< bytes that follow; -1: no lead byte
     char32_t bits = 0;
@@ -92,6 +83,15 @@ std::optional<char> windows1252Byte(char16_t unit) {
 
 }  // namespace
 
+void appendCodePoint(std::u16string& text, char32_t code) {
+    if (code < 0x10000) {
+        text.push_back(static_cast<char16_t>(code));
+    } else {
+        text.push_back(static_cast<char16_t>(0xD7C0U + (code >> 10)));
+        text.push_back(static_cast<char16_t>(0xDC00U + (code & 0x3FFU)));
+    }
+}
+
 bool equalsIgnoringCase(std::u16string_view left, std::u16string_view right) {
     return std::equal(left.begin(), left.end(), right.begin(), right.end(),
                       [](char16_t a, char16_t b) { return toLowerAscii(a) == toLowerAscii(b); });
@@ -110,7 +110,7 @@ std::optional<std::u16string> fromUtf8(std::string_view bytes) {
     for (std::size_t position = 0; position < bytes.size();) {
         const std::optional<char32_t> point = takeUtf8(bytes, position);
         if (!point) return std::nullopt;
-        appendUtf16(text, *point);
+        appendCodePoint(text, *point);
     }
     return text;
 }

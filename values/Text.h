@@ -31,6 +31,9 @@ constexpr char32_t takeCodePoint(std::u16string_view& text) {
     return code;
 }
 
+/// The one or two units of a character.
+void appendCodePoint(std::u16string& text, char32_t code);
+
 constexpr char16_t toLowerAscii(char16_t unit) {
     return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
 }

@@ -3,6 +3,7 @@
 #include "common/FieldFrame.h"
 #include "common/FieldLook.h"
 #include "common/Persistence.h"
+#include "values/Text.h"
 
 namespace kel {
 
@@ -15,6 +16,14 @@ constexpr LayoutRule MultiLineLayout{.fixedHeight = false, .widenAlways = false,
 
 bool isBlank(std::u16string_view text, bool multiLine) {
     return text.find_last_not_of(multiLine ? u" \r\n" : u" ") == std::u16string_view::npos;
+}
+
+/// The first character, which hides a text also where it is only half of one.
+char32_t maskOf(std::u16string_view text) {
+    constexpr char32_t Replacement = 0xFFFD;
+    if (text.empty()) return 0;
+    const char32_t first = takeCodePoint(text);
+    return first >= 0xD800 && first < 0xE000 ? Replacement : first;
 }
 
 }  // namespace
@@ -64,12 +73,13 @@ void KelText::put_MaxLength(std::int16_t units) {
 }
 
 std::u16string KelText::get_PasswordChar() const {
-    const char16_t character = Text1_[0]->passwordChar();
-    return character == 0 ? std::u16string() : std::u16string(1, character);
+    std::u16string text;
+    if (const char32_t character = Text1_[0]->passwordChar(); character != 0) appendCodePoint(text, character);
+    return text;
 }
 
 void KelText::put_PasswordChar(const std::u16string& character) {
-    const char16_t first = character.empty() ? u'\0' : character.front();
+    const char32_t first = maskOf(character);
     forEachBox([first](TextBox& box) { box.setPasswordChar(first); });
     reportChanged(u"PasswordChar");
 }

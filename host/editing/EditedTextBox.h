@@ -13,8 +13,8 @@ namespace kel {
 template <class Base>
 class EditedTextBox : public EditedText<Base, TextBoxEditor> {
 public:
-    char16_t passwordChar() const override { return Editor_.passwordChar(); }
-    void setPasswordChar(char16_t character) override { Editor_.setPasswordChar(character); }
+    char32_t passwordChar() const override { return Editor_.passwordChar(); }
+    void setPasswordChar(char32_t character) override { Editor_.setPasswordChar(character); }
 
 protected:
     template <class... Arguments>

@@ -23,7 +23,7 @@ void TextBoxEditor::setMaxLength(std::int32_t units) {
     Buffer_.setMaximum(static_cast<std::size_t>(std::max(units, 0)));
 }
 
-void TextBoxEditor::setPasswordChar(char16_t character) {
+void TextBoxEditor::setPasswordChar(char32_t character) {
     PasswordChar_ = character;
     Buffer_.setMasked(isPassword());
 }

@@ -55,8 +55,10 @@ public:
     void setLocked(bool locked) { Locked_ = locked; }
     std::int32_t maxLength() const { return static_cast<std::int32_t>(Buffer_.maximum()); }
     void setMaxLength(std::int32_t units);
-    char16_t passwordChar() const { return PasswordChar_; }
-    void setPasswordChar(char16_t character);
+    char32_t passwordChar() const { return PasswordChar_; }
+    void setPasswordChar(char32_t character);
+    /// What a view shows in place of each unit: a bullet for a character of two.
+    char16_t mask() const { return PasswordChar_ < 0x10000 ? static_cast<char16_t>(PasswordChar_) : u'\u25CF'; }
     /// A box of several lines hides nothing.
     bool isPassword() const { return PasswordChar_ != 0 && !Buffer_.multiLine(); }
 
@@ -96,7 +98,7 @@ private:
     TextBoxListener& Listener_;
     EditSurroundings& Surroundings_;
     EditBuffer Buffer_;
-    char16_t PasswordChar_ = 0;
+    char32_t PasswordChar_ = 0;
     bool Locked_ = false;
 };
 

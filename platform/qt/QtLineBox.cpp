@@ -4,9 +4,9 @@
 
 namespace kel::qt {
 
-void QtLineBox::showPasswordChar(char16_t character) {
-    setStyle(character == 0 ? nullptr : passwordStyle(character));
-    setEchoMode(character == 0 ? Normal : Password);
+void QtLineBox::showPasswordChar(char16_t mask) {
+    setStyle(mask == 0 ? nullptr : passwordStyle(mask));
+    setEchoMode(mask == 0 ? Normal : Password);
 }
 
 }  // namespace kel::qt

@@ -10,7 +10,7 @@ public:
     QtLineBox(ControlSite& site, TextBoxListener& listener, QWidget& parent) : QtLine(parent, site, listener, false) {}
 
 private:
-    void showPasswordChar(char16_t character) override;
+    void showPasswordChar(char16_t mask) override;
 };
 
 }  // namespace kel::qt

@@ -49,7 +49,7 @@ private:
     void showSelection(const Selection& selection) override;
     void showLocked(bool locked) override;
     /// Several lines are always shown in clear.
-    void showPasswordChar(char16_t /*character*/) override {}
+    void showPasswordChar(char16_t /*mask*/) override {}
     void compose(QInputMethodEvent& event) override { QPlainTextEdit::inputMethodEvent(&event); }
     bool isMirrored() const override;
     std::size_t positionAt(const QPoint& point) const override;

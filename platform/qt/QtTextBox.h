@@ -18,10 +18,10 @@ public:
         EditedTextBox::setLocked(locked);
         showLocked(locked);
     }
-    void setPasswordChar(char16_t character) override {
+    void setPasswordChar(char32_t character) override {
         if (character == passwordChar()) return;
         EditedTextBox::setPasswordChar(character);
-        showPasswordChar(character);
+        showPasswordChar(Editor_.mask());
     }
 
     void gotFocus() override { gainFocus(); }
@@ -36,7 +36,7 @@ protected:
 private:
     bool takesInput() const override { return QtField::takesInput(); }
 
-    virtual void showPasswordChar(char16_t character) = 0;
+    virtual void showPasswordChar(char16_t mask) = 0;
 };
 
 }  // namespace kel::qt

@@ -61,7 +61,7 @@ void Win32TextBox::setLocked(bool locked) {
     refresh();
 }
 
-void Win32TextBox::setPasswordChar(char16_t character) {
+void Win32TextBox::setPasswordChar(char32_t character) {
     if (character == passwordChar()) return;
     Editor_.setPasswordChar(character);
     showPasswordChar();
@@ -69,7 +69,7 @@ void Win32TextBox::setPasswordChar(char16_t character) {
 }
 
 void Win32TextBox::showPasswordChar() {
-    if (window() != nullptr && !buffer().multiLine()) View_.base(EM_SETPASSWORDCHAR, passwordChar());
+    if (window() != nullptr && !buffer().multiLine()) View_.base(EM_SETPASSWORDCHAR, Editor_.mask());
 }
 
 void Win32TextBox::refresh() {
@@ -129,7 +129,7 @@ int Win32TextBox::baseline() const {
 }
 
 std::wstring Win32TextBox::drawnText() const {
-    return Editor_.isPassword() ? std::wstring(buffer().text().size(), static_cast<wchar_t>(passwordChar()))
+    return Editor_.isPassword() ? std::wstring(buffer().text().size(), static_cast<wchar_t>(Editor_.mask()))
                                 : wide(displayed(buffer().text(), buffer().multiLine()));
 }
 

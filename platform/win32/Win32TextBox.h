@@ -20,7 +20,7 @@ public:
     void refresh() override;
 
     void setLocked(bool locked) override;
-    void setPasswordChar(char16_t character) override;
+    void setPasswordChar(char32_t character) override;
 
     // ---- EditedField
 
