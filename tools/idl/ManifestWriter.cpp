@@ -2,23 +2,28 @@
 
 #include <ostream>
 
+#include "library/ControlStatus.h"
 #include "tools/idl/TypeNames.h"
 
 namespace kel::idl {
 
 namespace {
 
-constexpr std::string_view ControlStatus =
-    "recomposeonresize,cantlinkinside,insideout,activatewhenvisible,setclientsitefirst";
-
 std::string braced(const Guid& guid) { return '{' + textOf(guid) + '}'; }
 
-void writeClass(std::ostream& out, const Guid& clsid, const std::string& programId, bool inTypeLibrary,
-                bool isControl) {
+std::string statusWords(const ClassModel& model) {
+    std::string words;
+    for (const ControlStatus& status : ControlStatuses)
+        if (hasStatus(model, status)) words.append(words.empty() ? "" : ",").append(status.word);
+    return words;
+}
+
+/// `model` is none for a class that is not in the type library.
+void writeClass(std::ostream& out, const Guid& clsid, const std::string& programId, const ClassModel* model) {
     out << "    <comClass clsid=\"" << braced(clsid) << "\" progid=\"" << programId
         << "\" threadingModel=\"Apartment\"";
-    if (inTypeLibrary) out << "\n      tlbid=\"" << braced(identities::TypeLibrary) << '"';
-    if (isControl) out << "\n      miscStatusContent=\"" << ControlStatus << '"';
+    if (model != nullptr) out << "\n      tlbid=\"" << braced(identities::TypeLibrary) << '"';
+    if (model != nullptr && model->isControl()) out << "\n      miscStatusContent=\"" << statusWords(*model) << '"';
     out << ">\n      <progid>" << programId << ".1</progid>\n    </comClass>\n";
 }
 
@@ -29,13 +34,13 @@ void writeManifest(std::ostream& out, const ClassRegistry& classes) {
     out << "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n"
            "<assembly xmlns=\"urn:schemas-microsoft-com:asm.v1\" manifestVersion=\"1.0\">\n"
            "  <assemblyIdentity type=\"win32\" name=\""
-        << library << "\" version=\"8.0.0.20\"/>\n  <file name=\"" << library << ".ocx\">\n    <typelib tlbid=\""
+        << library << "\" version=\"" KEL_VERSION "\"/>\n  <file name=\"" << library << ".ocx\">\n    <typelib tlbid=\""
         << braced(identities::TypeLibrary) << "\" version=\"" << identities::MajorVersion << '.'
         << identities::MinorVersion << "\" helpdir=\"\" flags=\"control\"/>\n";
     for (const ClassModel* model : classes.all())
-        writeClass(out, identityOf(*model).coclass, library + '.' + narrow(model->name), true, model->isControl());
+        writeClass(out, identityOf(*model).coclass, library + '.' + narrow(model->name), model);
     out << "  </file>\n  <file name=\"KelRuntime8.dll\">\n";
-    writeClass(out, identities::Runtime, "KelRuntime8.Runtime", false, false);
+    writeClass(out, identities::Runtime, "KelRuntime8.Runtime", nullptr);
     out << "  </file>\n</assembly>\n";
 }
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <cwctype>
 
+#include "library/ControlStatus.h"
 #include "platform/win32/ole/OleControl.h"
 
 namespace kel::win32::ole {
@@ -136,7 +137,7 @@ HRESULT OleObjectPart::EnumAdvise(IEnumSTATDATA** out) noexcept {
 
 HRESULT OleObjectPart::GetMiscStatus(DWORD aspect, DWORD* status) noexcept {
     if (status == nullptr) return E_POINTER;
-    *status = aspect == DVASPECT_CONTENT ? miscStatusOf(Control_.model()) : 0;
+    *status = aspect == DVASPECT_CONTENT ? statusBitsOf(Control_.model()) : 0;
     return S_OK;
 }
 
@@ -204,7 +205,7 @@ HRESULT QuickActivatePart::QuickActivate(QACONTAINER* container, QACONTROL* cont
             Control_.connections().Events.Advise(container->pUnkEventSink, &control->dwEventCookie);
         if (container->pPropertyNotifySink != nullptr)
             Control_.connections().Notify.Advise(container->pPropertyNotifySink, &control->dwPropNotifyCookie);
-        control->dwMiscStatus = miscStatusOf(Control_.model());
+        control->dwMiscStatus = statusBitsOf(Control_.model());
         control->dwViewStatus = VIEWSTATUS_OPAQUE;
         return S_OK;
     });

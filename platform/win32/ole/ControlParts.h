@@ -6,13 +6,6 @@ namespace kel::win32::ole {
 
 class OleControl;
 
-/// How hosts treat a control: laid out anew when sized, active as long as it is seen, told its site first; one that
-/// takes no focus, never active for the user.
-inline DWORD miscStatusOf(const ClassModel& model) {
-    return OLEMISC_RECOMPOSEONRESIZE | OLEMISC_CANTLINKINSIDE | OLEMISC_INSIDEOUT | OLEMISC_ACTIVATEWHENVISIBLE |
-           OLEMISC_SETCLIENTSITEFIRST | (model.takesFocus ? 0 : OLEMISC_NOUIACTIVATE);
-}
-
 /// The control as an object embedded in a host.
 class OleObjectPart final : public Part<IOleObject> {
 public:

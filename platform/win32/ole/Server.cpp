@@ -3,9 +3,9 @@
 #include <cwchar>
 
 #include "library/ClassRegistry.h"
+#include "library/ControlStatus.h"
 #include "platform/win32/ole/Classes.h"
 #include "platform/win32/ole/ClassFactory.h"
-#include "platform/win32/ole/ControlParts.h"
 #include "platform/win32/ole/ModuleFile.h"
 #include "platform/win32/ole/Registration.h"
 
@@ -21,7 +21,7 @@ ClassEntry entryOf(const CreatableClass& found) {
     entry.programId = kel::win32::wide(std::u16string(kel::LibraryName) + u"." + std::u16string(found.model.name));
     entry.description = kel::win32::wide(found.model.name);
     entry.isControl = found.model.isControl();
-    entry.miscStatus = miscStatusOf(found.model);
+    entry.miscStatus = statusBitsOf(found.model);
     entry.toolboxPicture = FirstToolboxPicture + static_cast<int>(&found.identity - kel::identities::Classes.data());
     return entry;
 }

@@ -202,6 +202,14 @@ TEST(manifest_makes_objects_without_registration) {
         EXPECT_CODE(field->put_Text(Str(L"unregistered")), S_OK);
         EXPECT_EQ(text(field.get()), std::wstring(L"unregistered"));
         EXPECT(create(L"KelRuntime8.Runtime"));
+        // Hosts ask before they make an object.
+        for (const wchar_t* name : {L"KelControls8.KelText", L"KelControls8.KelProgressBar"}) {
+            DWORD told = 0, own = 0;
+            EXPECT_CODE(CLSIDFromProgID(name, &clsid), S_OK);
+            EXPECT_CODE(OleRegGetMiscStatus(clsid, DVASPECT_CONTENT, &told), S_OK);
+            EXPECT_CODE(create(name).as<IOleObject>()->GetMiscStatus(DVASPECT_CONTENT, &own), S_OK);
+            EXPECT_EQ(told, own);
+        }
     }
     DeactivateActCtx(0, cookie);
     ReleaseActCtx(made);
