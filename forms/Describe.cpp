@@ -33,7 +33,7 @@ std::string parameterText(std::span<const ParameterRow> parameters) {
     std::string text;
     for (const ParameterRow& parameter : parameters) {
         text += (text.empty() ? "" : ", ") + toUtf8(parameter.name) + ": " + toUtf8(nameOf(parameter.type));
-        if (parameter.byReference) text += " (by reference)";
+        if (parameter.isPointer()) text += " (by reference)";
         if (parameter.optional) text += " (optional)";
     }
     return text;
@@ -86,7 +86,7 @@ std::string jsonArray(const Rows& rows, Write write) {
 std::string jsonParameters(std::span<const ParameterRow> parameters) {
     return jsonArray(parameters, [](const ParameterRow& row) {
         return "{\"name\": " + jsonText(row.name) + ", \"type\": " + jsonText(nameOf(row.type)) +
-               ", \"byReference\": " + (row.byReference ? "true" : "false") +
+               ", \"byReference\": " + (row.isPointer() ? "true" : "false") +
                ", \"optional\": " + (row.optional ? "true" : "false") + "}";
     });
 }

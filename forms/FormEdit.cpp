@@ -1,7 +1,6 @@
 #include "forms/FormEdit.h"
 
 #include <algorithm>
-#include <array>
 
 #include "forms/FormError.h"
 #include "forms/FormReading.h"
@@ -18,13 +17,6 @@ constexpr std::u16string_view IndentStep = u"   ";
 constexpr std::u16string_view GapBeforeValue = u"   ";
 constexpr std::size_t ClassicColumn = 16;
 
-/// Properties that the host keeps for every control. They stand in front of the control's own.
-constexpr std::array<std::u16string_view, 21> HostProperties = {
-    u"Align",   u"CausesValidation", u"Cancel",   u"DataBindings", u"DataField",     u"DataSource",
-    u"Default", u"DragIcon",         u"DragMode", u"Height",       u"HelpContextID", u"Index",
-    u"Left",    u"TabIndex",         u"TabStop",  u"Tag",          u"ToolTipText",   u"Top",
-    u"Visible", u"WhatsThisHelpID",  u"Width"};
-
 enum class Rank : std::uint8_t { Host, Extent, Own };
 
 /// In a block of the library: the host's properties, then `_ExtentX` and its like, then the control's. Elsewhere
@@ -32,9 +24,7 @@ enum class Rank : std::uint8_t { Host, Extent, Own };
 Rank rankOf(std::u16string_view name, bool isLibraryBlock) {
     if (!isLibraryBlock) return Rank::Own;
     if (name.starts_with(u'_')) return Rank::Extent;
-    const bool isHost = std::any_of(HostProperties.begin(), HostProperties.end(),
-                                    [name](std::u16string_view host) { return equalsIgnoringCase(host, name); });
-    return isHost ? Rank::Host : Rank::Own;
+    return isHostProperty(name) ? Rank::Host : Rank::Own;
 }
 
 /// How a property's line is laid out.

@@ -1,5 +1,7 @@
 #include "forms/FormModel.h"
 
+#include <algorithm>
+
 #include "library/ClassRegistry.h"
 #include "values/Text.h"
 
@@ -9,6 +11,17 @@ bool isLibraryClass(const FormBlock& block) {
     const std::u16string_view name = block.className;
     const std::size_t point = name.find(u'.');
     return point != std::u16string_view::npos && equalsIgnoringCase(name.substr(0, point), LibraryName);
+}
+
+bool isHostProperty(std::u16string_view name) {
+    static constexpr std::u16string_view Names[] = {
+        u"Align",      u"Cancel",     u"CausesValidation", u"DataBindings", u"DataField",
+        u"DataFormat", u"DataMember", u"DataSource",       u"Default",      u"DragIcon",
+        u"DragMode",   u"Height",     u"HelpContextID",    u"Index",        u"Left",
+        u"Negotiate",  u"TabIndex",   u"TabStop",          u"Tag",          u"ToolTipText",
+        u"Top",        u"Visible",    u"WhatsThisHelpID",  u"Width"};
+    return std::any_of(std::begin(Names), std::end(Names),
+                       [name](std::u16string_view known) { return equalsIgnoringCase(known, name); });
 }
 
 std::size_t lineEndLength(std::string_view line) {

@@ -33,6 +33,9 @@ struct FormBlock {
 /// True for the controls of this library: "KelControls8.KelText", case ignored.
 bool isLibraryClass(const FormBlock& block);
 
+/// A property that the form keeps for every control, whatever its class.
+bool isHostProperty(std::u16string_view name);
+
 /// `Object = "{GUID}#1.4#0"; "FILE.ocx"`.
 struct FormObject {
     std::u16string library;

@@ -74,6 +74,9 @@ struct ParameterRow {
     TypeTag type = TypeTag::None;
     bool byReference = false;
     bool optional = false;  ///< left out: 0, False or ""
+
+    /// Callers hand over a pointer: to what is written back, and to an array, which Basic passes in no other way.
+    constexpr bool isPointer() const { return byReference || type == TypeTag::Strings; }
 };
 
 inline constexpr std::int32_t DefaultMemberId = 0;

@@ -98,39 +98,11 @@ ExitStatus saveForm(const Options& options) {
     return Done;
 }
 
-/// Properties that a form gives to every control, whatever its class.
-bool isExtenderProperty(std::u16string_view name) {
-    static constexpr std::u16string_view Names[] = {
-        u"Left",
-        u"Top",
-        u"Width",
-        u"Height",
-        u"TabIndex",
-        u"TabStop",
-        u"Visible",
-        u"Index",
-        u"Tag",
-        u"ToolTipText",
-        u"HelpContextID",
-        u"WhatsThisHelpID",
-        u"CausesValidation",
-        u"Align",
-        u"DragIcon",
-        u"DragMode",
-        u"DataField",
-        u"DataSource",
-        u"DataMember",
-        u"DataFormat",
-        u"Negotiate",
-        u"Object.Tag",
-        u"Object.ToolTipText",
-        u"Object.Visible",
-        u"Object.Width",
-        u"Object.Height",
-    };
-    return name.starts_with(u'_') || std::any_of(std::begin(Names), std::end(Names), [name](std::u16string_view known) {
-               return equalsIgnoringCase(known, name);
-           });
+/// A property that the form gives to the control. "Object." stands before one whose name the control has, too.
+bool isOfForm(std::u16string_view name) {
+    constexpr std::u16string_view OfObject = u"Object.";
+    const bool qualified = equalsIgnoringCase(name.substr(0, OfObject.size()), OfObject);
+    return name.starts_with(u'_') || isHostProperty(qualified ? name.substr(OfObject.size()) : name);
 }
 
 bool isPersisted(const ClassModel& model, std::u16string_view name) {
@@ -150,7 +122,7 @@ void printBlock(const FormFile& file, FormBlockId id) {
     const ClassModel* model = isLibraryClass(block) ? libraryClasses().find(block.className) : nullptr;
     if (model == nullptr) return;
     for (const FormProperty& property : file.properties(id))
-        if (!isExtenderProperty(property.name) && !isPersisted(*model, property.name))
+        if (!isOfForm(property.name) && !isPersisted(*model, property.name))
             std::cout << property.line << ": " << std::string(2 * depth + 2, ' ') << toUtf8(property.name)
                       << " is no property of " << toUtf8(model->name) << "; it is kept as it is\n";
 }

@@ -27,8 +27,10 @@ constexpr MemberRow Members[] = {
     method<&KelText::Refresh>(u"Refresh", 0x6003000F, u"Repaints the field"),
     property<&KelText::get_SelectOnFocus, &KelText::put_SelectOnFocus>(
         u"SelectOnFocus", 0x68030003, u"Entering the field with the Tab key selects its text"),
-    property<&KelText::get_Text, &KelText::put_Text>(u"Text", DefaultMemberId,
-                                                     u"The text, a multi-line one without its trailing empty lines"),
+    property<&KelText::get_Text, &KelText::put_Text>(
+        u"Text", DefaultMemberId,
+        u"The text, a multi-line one without its trailing empty lines: reading takes them out of the field, which "
+        u"moves the caret to its start; a Change handler reads TextRaw instead"),
     property<&KelText::get_TextOriginal, &KelText::put_TextOriginal>(u"TextOriginal", 0x68030002,
                                                                      u"What Changed compares with")
         .hiddenByReference(),

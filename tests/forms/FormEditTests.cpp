@@ -73,6 +73,7 @@ TEST(FormEdit, ANewLineStandsWhereSuchFilesHaveIt) {
         {u"Locked", "      Text", "      Locked          =   1\n"},
         {u"VeryLongPropertyName", "", "      VeryLongPropertyName=   1\n"},
         {u"Index", "      Left", "      Index           =   1\n"},
+        {u"DataMember", "      Height", "      DataMember      =   1\n"},
         {u"width", "      _ExtentX", "      width           =   1\n"},
     };
     for (const Case& c : cases) {

@@ -17,8 +17,7 @@ std::string valueType(TypeTag type) {
 }
 
 std::string declaration(const ParameterRow& row) {
-    const bool isPointer = row.byReference || row.type == TypeTag::Strings;
-    return valueType(row.type) + (isPointer ? " *" : " ") + narrow(row.name);
+    return valueType(row.type) + (row.isPointer() ? " *" : " ") + narrow(row.name);
 }
 
 class TableWriter {

@@ -30,15 +30,12 @@ std::string hexadecimal(std::int32_t id) {
 
 std::string dispatchId(std::int32_t id) { return id <= 0 ? std::to_string(id) : hexadecimal(id); }
 
-/// Arrays are passed by reference by every Basic.
-bool isPointer(const ParameterRow& row) { return row.byReference || row.type == TypeTag::Strings; }
-
 std::string parameter(const ParameterRow& row) {
-    std::string text = isPointer(row) ? "[in, out" : "[in";
+    std::string text = row.isPointer() ? "[in, out" : "[in";
     if (row.optional)
         text += row.type == TypeTag::String ? ", optional, defaultvalue(\"\")" : ", optional, defaultvalue(0)";
     text += "] " + std::string(typeName(row.type));
-    return text + (isPointer(row) ? " *" : " ") + narrow(row.name);
+    return text + (row.isPointer() ? " *" : " ") + narrow(row.name);
 }
 
 std::string parameters(std::span<const ParameterRow> rows) {
