@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "values/Calendar.h"
+#include "values/Digits.h"
 #include "values/Text.h"
 #include "values/Words.h"
 
@@ -11,6 +12,7 @@ namespace kel {
 namespace {
 
 constexpr std::u16string_view PartLetters = u"dmy";
+constexpr std::size_t SavedDigits = 8;
 
 enum class DatePart : std::uint8_t { Day, Month, Year };  // in the order of their letters
 
@@ -134,6 +136,15 @@ std::u16string savedDate(std::optional<Date> value, Date today) {
     appendDigits(text, parts.month, 2);
     appendDigits(text, parts.year, 4);
     return text;
+}
+
+Variant loadedDate(const std::u16string& text) {
+    std::u16string_view rest = text;
+    const DigitGroup digits = takeDigits(rest, U'0');
+    if (digits.digits != SavedDigits || !rest.empty()) return text;
+    const std::int32_t number = digits.value;
+    const std::optional<Date> date = dateOf({number % 10000, number / 10000 % 100, number / 1000000});
+    return date ? Variant(*date) : Variant(Null{});
 }
 
 KeyPressEffect dateKeyPressEffect(char32_t key) { return commonKeyPressEffect(key).value_or(KeyPressEffect::Writes); }

@@ -37,6 +37,10 @@ FieldStep stepDate(const BoxState& box, Date today, std::int32_t delta, const Fi
 /// form always opens with the current date; no date is "".
 std::u16string savedDate(std::optional<Date> value, Date today);
 
+/// What puts a saved text back: eight digits are the date that they were saved from, whatever the format, or Null;
+/// any other text is to be read.
+Variant loadedDate(const std::u16string& text);
+
 /// What the character `key` does in the text box.
 KeyPressEffect dateKeyPressEffect(char32_t key);
 

@@ -25,7 +25,7 @@ public:
     std::int16_t storedDaysFlag() const { return static_cast<std::int16_t>(DaysFlag_); }
     void loadDaysFlag(std::int16_t flag) { put_DaysFlag(static_cast<KelDateDaysFlag>(flag)); }
     std::u16string storedValue() const;
-    void loadValue(const std::u16string& text) { put_Value(text); }
+    void loadValue(const std::u16string& text) { put_Value(loadedDate(text)); }
 
     const ClassModel& model() const override;
 

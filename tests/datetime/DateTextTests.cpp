@@ -195,6 +195,11 @@ TEST(Dates, AreSavedInEightDigitsOrAsNow) {
     EXPECT_EQ(savedDate(day(2014, 3, 5), Today), u"05032014");
     EXPECT_EQ(savedDate(day(100, 12, 31), Today), u"31120100");
     EXPECT_EQ(savedDate(std::nullopt, Today), u"");
+    for (const Date date : {day(2013, 4, 5), day(2020, 12, 5), AllDates.minimum, AllDates.maximum})
+        EXPECT_EQ(loadedDate(savedDate(date, Today)), Variant(date));
+    EXPECT_EQ(loadedDate(u"20131231"), Variant(Null{}));
+    for (const std::u16string text : {u"Now", u"", u"15/3/2013", u"150313", u"150320130"})
+        EXPECT_EQ(loadedDate(text), Variant(text));
     EXPECT_EQ(AllDates, (DateBounds{day(FirstYear, 1, 1), day(LastYear, 12, 31)}));
 }
 
