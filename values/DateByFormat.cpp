@@ -1,5 +1,6 @@
 #include "values/DateByFormat.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <span>
@@ -44,6 +45,9 @@ constexpr NumberField numberField(DateField field) {
     }
 }
 
+/// Two at least, as years may be written with two digits where the format shows four.
+constexpr std::uint8_t TouchingDigits = 2;
+
 constexpr std::size_t FieldCount = static_cast<std::size_t>(DateField::General) + 1;
 
 constexpr std::array<NumberField, FieldCount> NumberFields = [] {
@@ -65,11 +69,14 @@ public:
         : Text_(text), Region_(region), Written_(written) {}
 
     bool read(const DateFormat& format) {
+        bool touches = false;
         for (const DateFormat::Step& step : format.steps()) {
             const NumberField& number = digitsOf(step.field);
-            if (!(number.exists() ? takeNumber(number, step.isBeforeDigit) : takeOther(format.token(step))))
+            if (!(number.exists() ? takeNumber(number, step.isBeforeDigit, touches) : takeOther(format.token(step))))
                 return false;
+            touches = step.isBeforeDigit;
         }
+        skipSeparators(Text_);
         return Text_.empty();
     }
 
@@ -101,11 +108,12 @@ private:
 
     bool takeRegional(std::u16string_view expression) {
         DateFieldScanner scanner(expression, DateFieldScanner::Source::Region);
+        bool touches = false;
         for (DateToken token; scanner.next(token);) {
             const NumberField& number = digitsOf(token.field);
-            const bool isTaken =
-                number.exists() ? takeNumber(number, mayBeginWithDigit(scanner.peek())) : takeOther(token);
-            if (!isTaken) return false;
+            const bool isBeforeDigit = number.exists() && mayBeginWithDigit(scanner.peek());
+            if (!(number.exists() ? takeNumber(number, isBeforeDigit, touches) : takeOther(token))) return false;
+            touches = isBeforeDigit;
         }
         return true;
     }
@@ -156,11 +164,13 @@ private:
         return month != 0 && put(DatePart::Month, {month, 1});
     }
 
-    bool takeNumber(const NumberField& number, bool isBeforeDigit) {
+    /// Digits that touch those of the part in front are no longer cut where the format cuts them when one is missing.
+    bool takeNumber(const NumberField& number, bool isBeforeDigit, bool touches) {
         if (isBeforeDigit && !number.isFixed()) return false;
         const std::size_t most = isBeforeDigit ? number.most : Text_.size();
         const DigitGroup group = takeDigits(Text_, Region_.ZeroDigit, most);
         if (group.digits == 0 || (isBeforeDigit && group.digits != number.most)) return false;
+        if (touches && group.digits < std::min(number.least, TouchingDigits)) return false;
         return number.part ? put(*number.part, group) : group.digits <= number.most;
     }
 

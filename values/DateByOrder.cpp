@@ -45,6 +45,8 @@ public:
 
     Parts all() const { return {Parts_.data(), Count_}; }
     bool has(DatePart part) const { return std::find(all().begin(), all().end(), part) != all().end(); }
+    bool beginWithYear() const { return Count_ != 0 && Parts_.front() == DatePart::Year; }
+    bool areMonthAndYear() const { return Count_ == 2 && !has(DatePart::Day); }
 
 private:
     void add(DateFieldScanner scanner, const RegionalSettings& region) {
@@ -85,12 +87,23 @@ WrittenDate split(const DigitGroup& group, Parts order) {
     return written;
 }
 
+/// The order of numbers in a field. A day that the format does not show goes beside the month.
+PartOrder orderOf(const ShownParts& shown, PartOrder regional) {
+    if (shown.areMonthAndYear()) {
+        if (shown.beginWithYear()) return YearFirst;
+        std::stable_partition(regional.begin(), regional.end(), [](DatePart part) { return part != DatePart::Year; });
+        return regional;
+    }
+    return reordered(regional, shown);
+}
+
 /// What the numbers of a date are for.
 class NumberRoles {
 public:
     NumberRoles(std::u16string_view format, const RegionalSettings& region)
         : Shown_(format, region),
-          Order_(reordered(reordered(DayFirst, ShownParts(region.ShortDateFormat, region)), Shown_)) {}
+          Regional_(reordered(DayFirst, ShownParts(region.ShortDateFormat, region))),
+          Order_(orderOf(Shown_, Regional_)) {}
 
     /// False when they can be no date; `hasMonth` where the month is named.
     bool put(std::span<const DigitGroup> numbers, bool hasMonth, WrittenDate& written) const {
@@ -101,10 +114,7 @@ public:
                 if (isLong(numbers[0])) return putAll(numbers, Parts(YearFirst).first(2), written);
                 if (isLong(numbers[1])) return putAll(numbers, Parts(DayFirst).last(2), written);
                 return putAll(numbers, pair().all(), written);
-            case 3: {
-                const bool isYearFirst = numbers.front().digits == YearDigits && Order_.front() != DatePart::Year;
-                return putAll(numbers, isYearFirst ? YearFirst : Order_, written);
-            }
+            case 3: return putAll(numbers, orderOfThree(numbers), written);
             default: return false;
         }
     }
@@ -119,6 +129,13 @@ private:
         std::array<DatePart, 2> Parts_;
     };
 
+    /// A year of four digits, first or last, tells the order where it is not where the format has it.
+    const PartOrder& orderOfThree(std::span<const DigitGroup> numbers) const {
+        const bool isYearFirst = numbers.front().digits == YearDigits;
+        if (!Shown_.beginWithYear()) return isYearFirst ? YearFirst : Order_;
+        return !isYearFirst && numbers.back().digits == YearDigits ? Regional_ : Order_;
+    }
+
     bool isBefore(DatePart left, DatePart right) const {
         return std::find(Order_.begin(), Order_.end(), left) < std::find(Order_.begin(), Order_.end(), right);
     }
@@ -128,10 +145,7 @@ private:
     }
 
     /// Two numbers are day and month, or month and year where the format shows no day.
-    Pair pair() const {
-        const bool hasNoDay = !Shown_.has(DatePart::Day) && Shown_.has(DatePart::Month) && Shown_.has(DatePart::Year);
-        return ordered(DatePart::Month, hasNoDay ? DatePart::Year : DatePart::Day);
-    }
+    Pair pair() const { return ordered(DatePart::Month, Shown_.areMonthAndYear() ? DatePart::Year : DatePart::Day); }
 
     /// One number is the day, or what comes first of the other parts where the format shows no day.
     DatePart single() const {
@@ -152,6 +166,8 @@ private:
             case 2: return written.put(single(), number);
             case 4: written = split(number, pair().all()); return true;
             case 6:
+                written = Shown_.areMonthAndYear() ? split(number, pair().all()) : split(number, Order_);
+                return true;
             case 7:
             case 8: written = split(number, Order_); return true;
             default: return false;
@@ -176,6 +192,7 @@ private:
     }
 
     ShownParts Shown_;
+    PartOrder Regional_;
     PartOrder Order_;
 };
 

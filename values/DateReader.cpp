@@ -17,8 +17,7 @@ std::int32_t fullYear(std::int32_t digits, std::int32_t last) {
     return last - ((last - digits) % Century + Century) % Century;
 }
 
-std::u16string_view withoutOuterSeparators(std::u16string_view text) {
-    skipSeparators(text);
+std::u16string_view withoutSeparatorsBehind(std::u16string_view text) {
     while (!text.empty() && !isWordUnit(text.back())) text.remove_suffix(1);
     return text;
 }
@@ -28,10 +27,8 @@ bool isWordForToday(std::u16string_view text) {
            (text.size() == 5 && equalsIgnoringCase(text, u"today"));
 }
 
-/// Whether `text` is seven or eight digits, which have a meaning in every format.
-bool isDayMonthYear(std::u16string_view text, char32_t zero, DigitGroup& digits) {
-    const bool hasLength = text.size() == 7 || text.size() == 8 || zero > 0xFFFF;
-    if (!hasLength) return false;
+/// Whether `text` is digits alone with a year of three or four among them.
+bool isWholeDateInDigits(std::u16string_view text, char32_t zero, DigitGroup& digits) {
     digits = takeDigits(text, zero);
     return text.empty() && (digits.digits == 7 || digits.digits == 8);
 }
@@ -72,26 +69,29 @@ bool resolve(const WrittenDate& written, const Surroundings& by, Date& out) {
     return true;
 }
 
-bool read(std::u16string_view text, const DateFormat& format, const Surroundings& by, Date& out) {
+/// `text` is `whole` without the separators behind, one of which may be the last of the format or of a name.
+bool read(std::u16string_view text, std::u16string_view whole, const DateFormat& format, const Surroundings& by,
+          Date& out) {
     WrittenDate written;
+    const bool hasLayout = readByFormat(whole, format, by.region, written);
+    if (hasLayout && resolve(written, by, out)) return true;
+    if (!hasLayout && readByOrder(text, format.expression(), by.region, written) && resolve(written, by, out))
+        return true;
     DigitGroup digits;
-    if (isDayMonthYear(text, by.region.ZeroDigit, digits)) {
-        if (resolve(splitAsDayMonthYear(digits), by, out)) return true;
-    } else if (readByFormat(text, format, by.region, written)) {
-        return resolve(written, by, out);
-    }
-    return readByOrder(text, format.expression(), by.region, written) && resolve(written, by, out);
+    return isWholeDateInDigits(text, by.region.ZeroDigit, digits) && resolve(splitAsDayMonthYear(digits), by, out);
 }
 
 }  // namespace
 
 std::optional<Date> readDate(std::u16string_view text, const DateFormat& format, Date defaultDate, TwoDigitYears years,
                              const RegionalSettings& region) {
-    text = withoutOuterSeparators(text);
+    std::u16string_view whole = text;
+    skipSeparators(whole);
+    text = withoutSeparatorsBehind(whole);
     if (text.empty()) return std::nullopt;
     if (isWordForToday(text)) return dayOf(defaultDate);
     std::optional<Date> date(std::in_place);
-    if (!read(text, format, {defaultDate, years, region}, *date)) date.reset();
+    if (!read(text, whole, format, {defaultDate, years, region}, *date)) date.reset();
     return date;
 }
 

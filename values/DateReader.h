@@ -11,13 +11,14 @@
 ///
 /// - A text that has the layout of the format is read by it. Otherwise the order of day, month and year is the
 ///   format's, and the region's for what the format does not show. Whatever is neither letter nor digit
-///   separates; letters may touch digits. A first number of four digits is a year, with month and day behind.
+///   separates; letters may touch digits. A first number of four digits is a year, with month and day behind; a last
+///   one, in a format that begins with the year, makes the order the region's.
 /// - Months are numbers or names: the region's or English ones, in full or from three letters on, as long as they
 ///   fit one month. Case and accents do not matter. Weekdays are passed over, and so are the words that the
 ///   format or the region's long date writes between the parts.
-/// - Digits alone: eight are day, month and year of four digits if there is such a date (so are seven, with a year
-///   below 1000), else in the order of the format; six, with a year of two digits, four, without a year, and one or
-///   two, the day alone, in the order of the format.
+/// - Digits alone, in the order of the format: eight have a year of four digits (seven, one below 1000) and are day,
+///   month and year where that is no date; six have a year of two digits, four none, and one or two are the day. Six
+///   and four are month and year in a format of these alone.
 /// - A year of one or two digits is in the hundred years that end with the region's `TwoDigitYearMax`. Others
 ///   stand as written.
 /// - Parts that are not written come from the default date, but the day is 1 when month and year are written.

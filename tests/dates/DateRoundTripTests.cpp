@@ -55,10 +55,11 @@ private:
 
 TEST(RoundTrip, DatesReadBackAsTheyAreShown) {
     const std::u16string_view formats[] = {
-        u"dd/mm/yyyy",  u"d/m/yyyy",     u"m/d/yyyy",       u"mm/dd/yyyy",       u"yyyy/mm/dd",     u"yyyy-mm-dd",
-        u"yyyy/dd/mm",  u"dd.mm.yyyy",   u"d m yyyy",       u"ddmmyyyy",         u"ddddd",          u"Long Date",
-        u"dd mmm yyyy", u"d-mmm-yyyy",   u"mmm d, yyyy",    u"ddmmmyyyy",        u"yyyy mmm dd",    u"yyyy, d mmm",
-        u"d mmmm yyyy", u"mmmm d, yyyy", u"ddd dd/mm/yyyy", u"dddd d mmmm yyyy", u"ddd d mmm yyyy",
+        u"dd/mm/yyyy",  u"d/m/yyyy",     u"m/d/yyyy",       u"mm/dd/yyyy",       u"yyyy/mm/dd",      u"yyyy-mm-dd",
+        u"yyyy/dd/mm",  u"dd.mm.yyyy",   u"d m yyyy",       u"ddmmyyyy",         u"mmddyyyy",        u"Long Date",
+        u"dd mmm yyyy", u"d-mmm-yyyy",   u"mmm d, yyyy",    u"ddmmmyyyy",        u"yyyy mmm dd",     u"yyyy, d mmm",
+        u"d mmmm yyyy", u"mmmm d, yyyy", u"ddd dd/mm/yyyy", u"dddd d mmmm yyyy", u"ddd d mmm yyyy",  u"ddddd",
+        u"yyyymmdd",    u"yyyyddmm",     u"dd/mm/yyyy ddd", u"yyyy d mmm",       u"dd/mm/yyyy AMPM",
     };
     for (const std::u16string_view region : regionNames())
         for (const std::u16string_view format : formats)
