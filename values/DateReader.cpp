@@ -95,4 +95,16 @@ std::optional<Date> readDate(std::u16string_view text, const DateFormat& format,
     return date;
 }
 
+bool isDateInAnyOrder(std::u16string_view text, const RegionalSettings& region) {
+    constexpr Date LeapDay = calendar::dayWith(calendar::serialOf({2000, 2, 29}));
+    const Surroundings by{LeapDay, TwoDigitYears::AnyTime, region};
+    WrittenDate written;
+    Date date;
+    for (const std::u16string_view order : {u"d/m/yyyy", u"m/d/yyyy", u"yyyy/m/d"}) {
+        if (readByOrder(text, order, region, written) && written.has(DatePart::Month) && resolve(written, by, date))
+            return true;
+    }
+    return false;
+}
+
 }  // namespace kel

@@ -35,4 +35,7 @@ enum class TwoDigitYears : std::uint8_t {
 std::optional<Date> readDate(std::u16string_view text, const DateFormat& format, Date defaultDate, TwoDigitYears years,
                              const RegionalSettings& region);
 
+/// Whether all of `text` is a date that says its month, be day, month or year first.
+bool isDateInAnyOrder(std::u16string_view text, const RegionalSettings& region);
+
 }  // namespace kel

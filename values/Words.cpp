@@ -54,8 +54,7 @@ bool isWordUnitBeyondAscii(char16_t unit) {
     return unit > std::prev(after)->last;
 }
 
-char16_t plainLetter(char16_t unit) {
-    if (unit < 0x0080) return toLowerAscii(unit);
+char16_t plainLetterBeyondAscii(char16_t unit) {
     const auto folded = static_cast<char16_t>(foldCase(unit));
     const auto inTable = [folded](char16_t first, std::u16string_view table) {
         return folded >= first && folded < first + table.size();

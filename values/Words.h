@@ -12,6 +12,7 @@ namespace kel {
 /// Letters, the marks that go with them, and digits: all that is no blank, punctuation or symbol. Half a
 /// surrogate pair counts too, as what is written in pairs are mostly rare letters.
 bool isWordUnitBeyondAscii(char16_t unit);
+char16_t plainLetterBeyondAscii(char16_t unit);
 
 namespace detail {
 
@@ -32,7 +33,9 @@ inline bool isWordUnit(char16_t unit) {
 
 /// The letter that stands for this one when case and accents of Latin, Greek and Cyrillic are left aside; any
 /// other unit itself. "É", "é" and "E" are all "e".
-char16_t plainLetter(char16_t unit);
+inline char16_t plainLetter(char16_t unit) {
+    return unit < detail::AsciiWordUnits.size() ? toLowerAscii(unit) : plainLetterBeyondAscii(unit);
+}
 
 /// Takes what is no word unit off the front.
 inline void skipSeparators(std::u16string_view& text) {

@@ -75,9 +75,10 @@ TEST(RoundTrip, TwoDigitYearsReadBackInTheirHundredYears) {
 
 TEST(RoundTrip, TimesReadBackAsTheyAreShown) {
     const std::u16string_view formats[] = {
-        u"hh:nn:ss",      u"h:nn:ss", u"hh.nn.ss", u"hhnnss",    u"hh:nn:ss am/pm", u"h:n:s A/P",
-        u"AMPM hh:nn:ss", u"ttttt",   u"",         u"Long Time", u"h:nn:ssAMPM",    u"hh nn ss",
-        u"hh:nn AM/PM",   u"hh:nn",   u"hhnn",     u"h.nn a/p",  u"Medium Time",    u"Short Time"};
+        u"hh:nn:ss", u"h:nn:ss",  u"hh.nn.ss",    u"hhnnss",      u"hh:nn:ss am/pm", u"h:n:s A/P",    u"AMPM hh:nn:ss",
+        u"ttttt",    u"",         u"Long Time",   u"h:nn:ssAMPM", u"hh nn ss",       u"hh:nn AM/PM",  u"hh:nn",
+        u"hhnn",     u"h.nn a/p", u"Medium Time", u"Short Time",  u"d/m h:n:s AMPM", u"ddddd hhnnss", u"d mmm h:nn \\z",
+        u"hh\"h\"nn"};
     for (const std::u16string_view name : regionNames()) {
         const RegionalSettings& region = *findRegion(name);
         for (const std::u16string_view format : formats) {
