@@ -87,6 +87,12 @@ double KelNumber::roundNumber(double number) const {
     return runtimeDates(Field_.host())->RoundNumber(number, DecimalsInUse_);
 }
 
+/// A bound that has more decimals than are in use gives a value like any other.
+double KelNumber::bounded(double value) const {
+    const double clamped = clampNumber(value, MinValue_, MaxValue_);
+    return clamped == value ? value : roundNumber(clamped);
+}
+
 double KelNumber::number() {
     if (TextDirty_) CommitText();
     return Value_;
@@ -94,7 +100,7 @@ double KelNumber::number() {
 
 double KelNumber::storedValue() const {
     if (!TextDirty_ || get_Locked()) return Value_;
-    return clampNumber(parseField(), MinValue_, MaxValue_);
+    return bounded(parseField());
 }
 
 void KelNumber::put_Value(const Variant& value) {
@@ -114,7 +120,7 @@ void KelNumber::showValue() {
 void KelNumber::CommitText() {
     TextDirty_ = false;
     if (get_Locked()) return;
-    Value_ = clampNumber(parseField(), MinValue_, MaxValue_);
+    Value_ = bounded(parseField());
     showValue();
 }
 
@@ -137,7 +143,7 @@ bool KelNumber::get_Valid(bool ShowMessage) {
         if (ShowMessage) Field_.complain(u"Please enter a non-zero value in this field.", Title);
         return false;
     }
-    if (isInRange(value, MinValue_, MaxValue_)) return true;
+    if (bounded(value) == value) return true;
     if (ShowMessage)
         Field_.complain(rangeMessage(MinValue_, MaxValue_, DecimalsInUse_, GroupDigits_, Field_.host().region), Title);
     return false;
@@ -166,7 +172,7 @@ void KelNumber::Text1_GotFocus() {
         SpinFocus_ = false;
         box.setSelStart(0);
         if (get_SelectOnFocus()) box.setSelLength(box.textLength());
-        if (!isInRange(Value_, MinValue_, MaxValue_)) TextDirty_ = true;
+        if (bounded(Value_) != Value_) TextDirty_ = true;
     }
     Field_.colorOnGotFocus();
 }

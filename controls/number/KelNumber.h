@@ -91,6 +91,7 @@ private:
     void StepValue(double delta);
     double numberFromValue(const Variant& value) const;
     double roundNumber(double number) const;
+    double bounded(double value) const;
     double parseField() const { return numberFromValue(Field_.box().text()); }
     void takeDecimals();
     void showValue();

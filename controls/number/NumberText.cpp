@@ -118,8 +118,6 @@ double clampNumber(double value, double minimum, double maximum) {
     return value <= maximum ? value : maximum;
 }
 
-bool isInRange(double value, double minimum, double maximum) { return value >= minimum && value <= maximum; }
-
 double steppedNumber(double value, double delta) { return addDecimally(value, delta); }
 
 std::u16string rangeMessage(double minimum, double maximum, std::int16_t decimals, bool groupDigits,

@@ -30,8 +30,6 @@ Color numberColor(double value);
 /// The lower bound is looked at first.
 double clampNumber(double value, double minimum, double maximum);
 
-bool isInRange(double value, double minimum, double maximum);
-
 /// The number that a step leads to, before the run-time object rounds it and the bounds stop it.
 double steppedNumber(double value, double delta);
 
