@@ -29,7 +29,9 @@ private:
     Date assigned(Date date) const override { return date; }
     Date committed(Date date) const override { return field().bounds().clamp(date); }
     FieldStep step(const BoxState& box, std::int32_t delta) const override;
-    KeyPressEffect keyPressEffect(char32_t key) const override { return timeKeyPressEffect(key); }
+    KeyPressEffect keyPressEffect(char32_t key) const override {
+        return timeKeyPressEffect(key, field().region().ZeroDigit);
+    }
     bool allowsAnyText() const override { return true; }
     std::u16string_view complaintTitle() const override { return InvalidTimeTitle; }
     std::u16string complaint(Validity validity) const override { return timeComplaint(validity, field().textRules()); }

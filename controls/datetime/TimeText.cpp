@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "values/Digits.h"
 #include "values/Text.h"
 
 namespace kel {
@@ -94,12 +95,14 @@ std::u16string savedTime(std::optional<Date> value) {
     return text;
 }
 
-KeyPressEffect timeKeyPressEffect(char32_t key) {
+KeyPressEffect timeKeyPressEffect(char32_t key, char32_t zeroDigit) {
     constexpr char32_t FirstPrintable = 32;
     constexpr std::u32string_view Accepted = U".0123456789:AMPamp";
     if (const auto effect = commonKeyPressEffect(key)) return *effect;
     if (key < FirstPrintable) return KeyPressEffect::Passes;
-    return Accepted.find(key) == std::u32string_view::npos ? KeyPressEffect::Refused : KeyPressEffect::Writes;
+    const bool isDigit = key >= zeroDigit && key - zeroDigit < NoDigit;
+    return isDigit || Accepted.find(key) != std::u32string_view::npos ? KeyPressEffect::Writes
+                                                                      : KeyPressEffect::Refused;
 }
 
 std::u16string timeComplaint(Validity validity, const FieldRules& rules) { return complaint(validity, u"time", rules); }
