@@ -11,7 +11,7 @@
 /// What the date field shows and makes of texts, values and keys, as pure functions.
 namespace kel {
 
-inline constexpr DateBounds AllDates{{-657434}, {2958465}};  ///< years 100 to 9999
+inline constexpr DateBounds AllDates{{-657434}, {2958465}, BoundsCompare::ByDay};  ///< years 100 to 9999
 inline constexpr std::u16string_view DefaultDateFormat = u"dd/mm/yyyy";
 inline constexpr std::u16string_view InvalidDateTitle = u"Invalid Date";
 

@@ -48,22 +48,26 @@ std::u16string FieldFormat::show(std::optional<Date> value, const RegionalSettin
     return value ? Expression_.format(*value, region) : std::u16string();
 }
 
+Date DateBounds::counted(Date date) const { return compare == BoundsCompare::ByDay ? dayOf(date) : date; }
+
+bool DateBounds::isBefore(Date left, Date right) const { return isEarlier(counted(left), counted(right)); }
+
 void DateBounds::putMinimum(Date date) {
     minimum = date;
-    if (isEarlier(maximum, minimum)) maximum = minimum;
+    if (isBefore(maximum, minimum)) maximum = minimum;
 }
 
 void DateBounds::putMaximum(Date date) {
     maximum = date;
-    if (isEarlier(maximum, minimum)) minimum = maximum;
+    if (isBefore(maximum, minimum)) minimum = maximum;
 }
 
 Date DateBounds::clamp(Date date) const {
-    if (isEarlier(date, minimum)) return minimum;
-    return isEarlier(maximum, date) ? maximum : date;
+    if (isBefore(date, minimum)) return counted(minimum);
+    return isBefore(maximum, date) ? counted(maximum) : date;
 }
 
-bool DateBounds::contain(Date date) const { return !isEarlier(date, minimum) && !isEarlier(maximum, date); }
+bool DateBounds::contain(Date date) const { return !isBefore(date, minimum) && !isBefore(maximum, date); }
 
 Validity validityOf(std::optional<Date> value, const DateBounds& bounds, bool mayBeEmpty) {
     if (!value) return mayBeEmpty ? Validity::Valid : Validity::NoValue;

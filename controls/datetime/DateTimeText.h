@@ -44,10 +44,17 @@ private:
 
 // ---- Ranges
 
-/// The least and the greatest value that a field takes. Where a put would make them cross, the other one goes along.
+enum class BoundsCompare : std::uint8_t {
+    ByTime,
+    ByDay  ///< whatever time of day they carry
+};
+
+/// The least and the greatest value that a field takes, as they were put. Where a put would make them cross, the
+/// other one goes along.
 struct DateBounds {
     Date minimum;
     Date maximum;
+    BoundsCompare compare = BoundsCompare::ByTime;
 
     void putMinimum(Date date);
     void putMaximum(Date date);
@@ -57,6 +64,10 @@ struct DateBounds {
     bool contain(Date date) const;
 
     friend bool operator==(const DateBounds&, const DateBounds&) = default;
+
+private:
+    Date counted(Date date) const;
+    bool isBefore(Date left, Date right) const;
 };
 
 enum class Validity : std::uint8_t { Valid, OutOfRange, NoValue };

@@ -200,7 +200,7 @@ TEST(Dates, AreSavedInEightDigitsOrAsNow) {
     EXPECT_EQ(loadedDate(u"20131231"), Variant(Null{}));
     for (const std::u16string text : {u"Now", u"", u"15/3/2013", u"150313", u"150320130"})
         EXPECT_EQ(loadedDate(text), Variant(text));
-    EXPECT_EQ(AllDates, (DateBounds{day(FirstYear, 1, 1), day(LastYear, 12, 31)}));
+    EXPECT_EQ(AllDates, (DateBounds{day(FirstYear, 1, 1), day(LastYear, 12, 31), BoundsCompare::ByDay}));
 }
 
 TEST(DateKeys, StepMoveOnOrWrite) {

@@ -68,6 +68,14 @@ TEST(FieldBounds, GoByTime) {
     EXPECT_EQ(day1850.clamp({-18000.875}), day1850.maximum);
     EXPECT_FALSE(day1850.contain({-18000}) || day1850.contain({-17999}));
 
+    // Of dates, the days alone.
+    DateBounds dates{day(2013, 3, 10), {day(2013, 5, 20).Serial + 0.25}, BoundsCompare::ByDay};
+    dates.putMinimum({day(2013, 5, 20).Serial + 0.5});
+    EXPECT_EQ(dates.maximum.Serial, day(2013, 5, 20).Serial + 0.25);
+    EXPECT_TRUE(dates.contain(day(2013, 5, 20)));
+    EXPECT_EQ(dates.clamp(day(2013, 5, 19)), day(2013, 5, 20));
+    EXPECT_EQ(dates.clamp(day(2013, 5, 21)), day(2013, 5, 20));
+
     const DateBounds crossed{day(2013, 5, 1), day(2013, 3, 1)};
     EXPECT_EQ(crossed.clamp(day(2013, 4, 1)), crossed.minimum) << "the lower bound comes first";
 }
