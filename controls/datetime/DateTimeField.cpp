@@ -15,13 +15,17 @@ void DateTimeField::putFormat(std::u16string format) {
     const bool stands = showsValue();
     Format_ = FieldFormat(std::move(format));
     Frame_.report(u"Format");
-    if (!stands)
-        CommitText();
-    else if (!Frame_.locked())
-        show(dateIn(Value_));
+    if (!stands) return CommitText();
+    TextDirty_ = false;
+    if (!Frame_.locked()) takeRead(dateIn(Value_));
+    show(dateIn(Value_));
 }
 
 bool DateTimeField::showsValue() const { return Frame_.box().textEquals(Format_.show(dateIn(Value_), region())); }
+
+std::optional<Date> DateTimeField::read() const {
+    return dateIn(showsValue() ? Value_ : Rules_.parse(Frame_.box().text()));
+}
 
 void DateTimeField::putMinimum(Date date) {
     Bounds_.putMinimum(date);
@@ -49,12 +53,12 @@ void DateTimeField::putValue(const Variant& value) {
 
 std::optional<Date> DateTimeField::valueToStore() const {
     if (!TextDirty_ || Frame_.locked()) return dateIn(Value_);
-    const std::optional<Date> date = dateIn(Rules_.parse(Frame_.box().text()));
+    const std::optional<Date> date = read();
     return date ? std::optional(Rules_.committed(*date)) : std::nullopt;
 }
 
 bool DateTimeField::valid(bool showMessage) {
-    const std::optional<Date> candidate = dateIn(TextDirty_ ? Rules_.parse(Frame_.box().text()) : Value_);
+    const std::optional<Date> candidate = TextDirty_ ? read() : dateIn(Value_);
     if (Frame_.locked()) return true;
     const bool mayBeEmpty = !Frame_.mandatory() && (Rules_.allowsAnyText() || Frame_.box().textLength() == 0);
     const Validity validity = validityOf(candidate, Bounds_, mayBeEmpty);
@@ -68,17 +72,18 @@ bool DateTimeField::valid(bool showMessage) {
 void DateTimeField::CommitText() {
     TextDirty_ = false;
     if (Frame_.locked()) return;
-    const std::optional<Date> date = dateIn(Rules_.parse(Frame_.box().text()));
-    Value_ = date ? Variant(Rules_.committed(*date)) : Variant(Null{});
+    takeRead(read());
     show(dateIn(Value_));
+}
+
+void DateTimeField::takeRead(std::optional<Date> date) {
+    Value_ = date ? Variant(Rules_.committed(*date)) : Variant(Null{});
 }
 
 void DateTimeField::step(std::int32_t delta) {
     if (Frame_.locked()) return;
     TextBox& box = Frame_.box();
-    const BoxState before{.text = box.text(),
-                          .caret = static_cast<std::size_t>(box.selStart()),
-                          .value = dateIn(Rules_.parse(box.text()))};
+    const BoxState before{.text = box.text(), .caret = static_cast<std::size_t>(box.selStart()), .value = read()};
     const FieldStep step = Rules_.step(before, delta);
     Value_ = step.value;
     box.setText(step.text);

@@ -40,7 +40,8 @@ public:
 
     // ---- Properties. Each put of a persisted one reports its own name.
 
-    /// A text that stands as it was displayed keeps its value; one that is being edited is read by the new format.
+    /// A text that stands as it was displayed shows its value anew, in a locked field too; one that is being edited is
+    /// read by the new format.
     void putFormat(std::u16string format);
     void putMinimum(Date date);
     void putMaximum(Date date);
@@ -79,6 +80,10 @@ private:
 
     void CommitText();
     void step(std::int32_t delta);
+    /// The value that the text stands for. As it was displayed it is not read again: it may leave much of the value
+    /// out (the century), or be no text that can be read.
+    std::optional<Date> read() const;
+    void takeRead(std::optional<Date> date);
     void show(std::optional<Date> date) { Frame_.box().setText(Format_.show(date, region())); }
     bool showsValue() const;
     bool isValueOutOfRange() const;

@@ -91,7 +91,7 @@ std::u16string complaint(Validity validity, std::u16string_view kind, const Fiel
 struct BoxState {
     std::u16string text;
     std::size_t caret = 0;
-    std::optional<Date> value{};  ///< what the run-time object reads in the text
+    std::optional<Date> value{};  ///< that the text stands for
 };
 
 /// Where a step leads.
