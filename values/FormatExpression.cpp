@@ -35,8 +35,12 @@ std::u16string FormatExpression::format(double number, const RegionalSettings& r
 }
 
 std::u16string FormatExpression::format(Date date, const RegionalSettings& region, const WeekRule& weeks) const {
-    if (!Date_.hasParts() && Sections_[Positive].hasPlaces()) return format(date.Serial, region);
-    return Date_.text(date, region, weeks);
+    return showsSerial() ? format(date.Serial, region) : Date_.text(date, region, weeks);
+}
+
+std::vector<ShownField> FormatExpression::fields(Date date, const RegionalSettings& region,
+                                                 const WeekRule& weeks) const {
+    return showsSerial() ? std::vector<ShownField>() : Date_.fields(date, region, weeks);
 }
 
 std::u16string FormatExpression::formatNull(const RegionalSettings& region) const {

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "values/FormatExpressionDate.h"
 #include "values/FormatExpressionNumber.h"
@@ -99,10 +100,14 @@ public:
     /// Days outside the calendar count as its nearest end.
     std::u16string format(Date date, const RegionalSettings& region, const WeekRule& weeks = {}) const;
 
+    /// Where the fields of the date stand in that text, in order. A number has none.
+    std::vector<ShownField> fields(Date date, const RegionalSettings& region, const WeekRule& weeks = {}) const;
+
 private:
     enum SectionPlace : std::size_t { Positive, Negative, Zero, Nothing, SectionPlaces };
 
     bool has(SectionPlace place) const { return !Sections_[place].isEmpty(); }
+    bool showsSerial() const { return !Date_.hasParts() && Sections_[Positive].hasPlaces(); }
 
     bool IsGeneral_ = false;
     bool IsDateName_ = false;

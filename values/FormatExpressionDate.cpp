@@ -74,6 +74,11 @@ public:
         return at + 1;
     }
 
+    /// Of a place, in the whole text.
+    std::size_t offset(const char16_t* at) const {
+        return Written_.size() + static_cast<std::size_t>(at - Place_.data());
+    }
+
     std::u16string take(char16_t* end) {
         if (Written_.empty()) return {Place_.data(), end};
         flush(end);
@@ -182,20 +187,23 @@ private:
 
 class Printer {
 public:
-    Printer(Date date, const Clock& clock, const RegionalSettings& region, const WeekRule& weeks)
+    /// Where the fields come to stand is noted in `fields`, if it is there.
+    Printer(Date date, const Clock& clock, const RegionalSettings& region, const WeekRule& weeks,
+            std::vector<ShownField>* fields = nullptr)
         : Date_(date, clock),
-          HasPlainDigits_(region.ZeroDigit == U'0'),
+          IsPlain_(region.ZeroDigit == U'0' && fields == nullptr),
           DateSeparator_(singleUnit(region.DateSeparator)),
           TimeSeparator_(singleUnit(region.TimeSeparator)),
           Region_(region),
-          Weeks_(weeks) {}
+          Weeks_(weeks),
+          Fields_(fields) {}
 
     /// What the steps print; `text` is that of all of them.
     std::u16string print(std::span<const DateStep> steps, const char16_t* text) {
         char16_t* at = Place_.begin();
         for (const DateStep& step : steps) {
             at = Place_.withRoom(at);
-            if (step.pair != DatePair::None && HasPlainDigits_)
+            if (step.pair != DatePair::None && IsPlain_)
                 at = printPlain(at, Date_.pair(step.pair), step.leastOfTwoDigits);
             else
                 at = print(at, step, {text, step.textUnits});
@@ -231,6 +239,22 @@ private:
     }
 
     char16_t* print(char16_t* at, const DateStep& step, std::u16string_view text) {
+        if (Fields_ == nullptr) return printUnnoted(at, step, text);
+        const std::size_t start = Place_.offset(at);
+        at = printUnnoted(at, step, text);
+        note(step, start, Place_.offset(at));
+        return at;
+    }
+
+    void note(const DateStep& step, std::size_t start, std::size_t end) {
+        if (!isPart(step.field) || isRegional(step.field)) return;
+        if (step.pair == DatePair::YearOfCentury && step.field == DateField::Year)
+            Fields_->back().end = end;  // the second half of the year
+        else
+            Fields_->push_back({step.field, start, end});
+    }
+
+    char16_t* printUnnoted(char16_t* at, const DateStep& step, std::u16string_view text) {
         if (step.pair != DatePair::None) return printNumber(at, Date_.pair(step.pair), step.leastOfTwoDigits);
         return printOther(at, step.field, text);
     }
@@ -315,11 +339,12 @@ private:
     }
 
     ShownDate Date_;
-    const bool HasPlainDigits_;
+    const bool IsPlain_;  ///< digits are, and nobody asks where they come to stand
     const char16_t DateSeparator_;
     const char16_t TimeSeparator_;
     const RegionalSettings& Region_;
     const WeekRule& Weeks_;
+    std::vector<ShownField>* const Fields_;
     TextPlace Place_;
 };
 
@@ -351,6 +376,12 @@ void DateSection::append(const DateStep& step) {
 
 std::u16string DateSection::text(Date date, const RegionalSettings& region, const WeekRule& weeks) const {
     return Printer(date, Clock_, region, weeks).print(Steps_, Texts_.data());
+}
+
+std::vector<ShownField> DateSection::fields(Date date, const RegionalSettings& region, const WeekRule& weeks) const {
+    std::vector<ShownField> fields;
+    Printer(date, Clock_, region, weeks, &fields).print(Steps_, Texts_.data());
+    return fields;
 }
 
 }  // namespace kel

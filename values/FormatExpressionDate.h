@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -43,6 +44,13 @@ struct Clock {
 
 }  // namespace detail
 
+/// A field of a date or time, and where it stands in the text that shows it.
+struct ShownField {
+    DateField field;
+    std::size_t start;
+    std::size_t end;
+};
+
 /// The section of a format expression that shows dates and times, as the steps that print it.
 class DateSection {
 public:
@@ -54,6 +62,8 @@ public:
     bool hasParts() const { return HasParts_; }
 
     std::u16string text(Date date, const RegionalSettings& region, const WeekRule& weeks) const;
+    /// The fields of that text in order, those of the region's own formats one by one.
+    std::vector<ShownField> fields(Date date, const RegionalSettings& region, const WeekRule& weeks) const;
 
 private:
     void append(const detail::DateStep& step);

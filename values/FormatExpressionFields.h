@@ -52,6 +52,11 @@ constexpr bool isHalfDay(DateField field) { return field == DateField::HalfDay |
 constexpr bool isSeparator(DateField field) {
     return field == DateField::DateSeparator || field == DateField::TimeSeparator;
 }
+/// Whether a field is shown by a format of the region's.
+constexpr bool isRegional(DateField field) {
+    return field == DateField::ShortDate || field == DateField::LongDate || field == DateField::LongTime ||
+           field == DateField::General;
+}
 /// Whether a token is a part of a date or time, not something between parts.
 constexpr bool isPart(DateField field) { return field > DateField::TimeSeparator; }
 
@@ -112,6 +117,9 @@ public:
 
     /// The next token; false at the end.
     bool next(DateToken& token);
+
+    /// The expression from the next token on; at the end, the sections that are for numbers alone.
+    std::u16string_view rest() const { return Scanner_.rest(); }
 
     /// The field of the next token; `Literal` at the end, too.
     DateField peek() const { return isAtLetter() ? nextField() : DateField::Literal; }

@@ -11,16 +11,8 @@ namespace kel {
 
 namespace {
 
-constexpr std::u16string_view PartLetters = u"dmy";
+constexpr PartLetters Parts{u"dmy", StepPart::Day};
 constexpr std::size_t SavedDigits = 8;
-
-enum class DatePart : std::uint8_t { Day, Month, Year };  // in the order of their letters
-
-/// A part of the date, and how many separators stand in front of it.
-struct PartPlace {
-    DatePart part;
-    std::size_t separators;
-};
 
 bool keepsDay(KelDateDaysFlag flag) { return flag == KelDateDaysFlag::FirstDay || flag == KelDateDaysFlag::LastDay; }
 
@@ -50,32 +42,11 @@ Date pinnedByCalendar(Date date, KelDateDaysFlag flag) {
     return pinned(date, pin);
 }
 
-std::optional<DatePart> partOf(char16_t formatUnit) {
-    const std::size_t place = PartLetters.find(toLowerAscii(formatUnit));
-    if (place == std::u16string_view::npos) return std::nullopt;
-    return static_cast<DatePart>(place);
-}
-
-/// The last place where the format shows the part.
-PartPlace placeOf(DatePart part, std::u16string_view format) {
-    std::size_t position = format.size();
-    while (position > 0 && partOf(format[position - 1]) != part) --position;
-    return {part, countSeparators(format.substr(0, position))};
-}
-
-/// The first part that the format shows behind so many separators; `other` when it shows none there.
-DatePart partBehind(std::size_t separators, std::u16string_view format, DatePart other) {
-    std::size_t position = separators == 0 ? 0 : findSeparator(format, separators);
-    if (position == std::u16string_view::npos) position = std::max<std::size_t>(format.size(), 1) - 1;
-    for (const char16_t unit : format.substr(position)) {
-        if (const auto part = partOf(unit)) return *part;
-    }
-    return other;
-}
-
-PartPlace placeAtCaret(const BoxState& box, std::u16string_view format, DatePart other) {
-    const std::size_t separators = countSeparators(std::u16string_view(box.text).substr(0, box.caret));
-    return {partBehind(separators, format, other), separators};
+/// Where the word at the caret begins: "15/03|/2013" is at its second word.
+std::size_t wordStart(std::u16string_view text, std::size_t caret) {
+    std::size_t start = std::min(caret, text.size());
+    while (start > 0 && !isSeparator(text[start - 1])) --start;
+    return start;
 }
 
 /// At the end of the part that stands behind so many separators, where a backspace takes off what is seen.
@@ -86,13 +57,12 @@ std::size_t caretBehind(std::size_t separators, std::u16string_view text) {
     return position;
 }
 
-std::optional<Date> moved(Date date, DatePart part, std::int32_t delta) {
+std::optional<Date> moved(Date date, StepPart part, std::int32_t delta) {
     switch (part) {
-        case DatePart::Day: return addDays(date, delta);
-        case DatePart::Month: return addMonths(date, delta);
-        case DatePart::Year: return addYears(date, delta);
+        case StepPart::Month: return addMonths(date, delta);
+        case StepPart::Year: return addYears(date, delta);
+        default: return addDays(date, delta);
     }
-    return std::nullopt;
 }
 
 void appendDigits(std::u16string& text, std::int32_t number, std::int32_t digits) {
@@ -113,17 +83,25 @@ Date pinned(Date date, const DayPin& pin) {
 Date committed(Date date, const DateBounds& bounds, const DayPin& pin) { return pinned(bounds.clamp(date), pin); }
 
 FieldStep stepDate(const BoxState& box, Date today, std::int32_t delta, const FieldRules& rules, const DayPin& pin) {
-    const std::u16string& format = rules.format.text();
-    const DatePart usual = keepsDay(pin.flag) ? DatePart::Month : DatePart::Day;
+    const StepPart usual = keepsDay(pin.flag) ? StepPart::Month : StepPart::Day;
     const Date base = pinnedByCalendar(box.value.value_or(today), pin.flag);
     const bool isAsShown = box.text == rules.format.show(base, rules.region);
-    PartPlace place = isAsShown ? placeAtCaret(box, format, usual) : placeOf(usual, format);
-    if (place.part == DatePart::Day) place.part = usual;
-    const Date next = box.value ? moved(base, place.part, delta).value_or(base) : base;
+    const StepPlace place =
+        isAsShown ? placeFrom(wordStart(box.text, box.caret), base, rules, Parts, usual) : StepPlace{usual};
+    const StepPart part = place.part == StepPart::Day ? usual : place.part;
+    const Date next = box.value ? moved(base, part, delta).value_or(base) : base;
 
     FieldStep step{.value = committed(next, rules.bounds, pin), .isFirst = !box.value};
     step.text = rules.format.show(step.value, rules.region);
-    step.caret = caretBehind(place.separators, step.text);
+    const std::optional<ShownField> field = fieldOf(place, step.value, rules, Parts);
+    if (!Parts.writeAllOf(rules.format.text(), rules.region)) {
+        step.caret = field ? field->end : box.caret;
+        return step;
+    }
+    // The caret keeps to its word, also to one that shows no part: in "(1)" behind d/m/yyyy (q) the day steps.
+    const std::u16string_view passed = isAsShown ? std::u16string_view(box.text).substr(0, box.caret)
+                                                 : std::u16string_view(step.text).substr(0, field ? field->start : 0);
+    step.caret = caretBehind(countSeparators(passed), step.text);
     return step;
 }
 

@@ -1,6 +1,10 @@
 #include "controls/datetime/DateTimeText.h"
 
+#include <algorithm>
+
 #include "values/Calendar.h"
+#include "values/FormatExpressionNames.h"
+#include "values/Text.h"
 
 namespace kel {
 
@@ -28,6 +32,29 @@ bool equals(const Variant& reference, const Variant& value) {
         return text->empty() && std::holds_alternative<Empty>(value);
     const std::optional<double> serial = std::visit(SerialOf{}, reference);
     return serial && serial == std::visit(SerialOf{}, value);
+}
+
+std::optional<StepPart> stepPartOf(DateField field) {
+    switch (field) {
+        case DateField::Day:
+        case DateField::TwoDigitDay:
+        case DateField::ShortWeekday:
+        case DateField::Weekday: return StepPart::Day;
+        case DateField::Month:
+        case DateField::TwoDigitMonth:
+        case DateField::ShortMonthName:
+        case DateField::MonthName: return StepPart::Month;
+        case DateField::DayOfYear:
+        case DateField::TwoDigitYear:
+        case DateField::Year: return StepPart::Year;
+        case DateField::Hour:
+        case DateField::TwoDigitHour: return StepPart::Hour;
+        case DateField::Minute:
+        case DateField::TwoDigitMinute: return StepPart::Minute;
+        case DateField::Second:
+        case DateField::TwoDigitSecond: return StepPart::Second;
+        default: return std::nullopt;
+    }
 }
 
 }  // namespace
@@ -84,6 +111,56 @@ std::u16string complaint(Validity validity, std::u16string_view kind, const Fiel
     }
     (text += u"Please enter a valid ") += kind;
     return text += u" in this field.";
+}
+
+std::optional<StepPart> PartLetters::partOf(char16_t formatUnit) const {
+    const std::size_t place = letters.find(toLowerAscii(formatUnit));
+    if (place == std::u16string_view::npos) return std::nullopt;
+    return static_cast<StepPart>(static_cast<std::size_t>(first) + place);
+}
+
+std::optional<StepPart> PartLetters::partOf(DateField field) const {
+    const std::optional<StepPart> part = stepPartOf(field);
+    const bool isOwn =
+        part && *part >= first && static_cast<std::size_t>(*part) - static_cast<std::size_t>(first) < letters.size();
+    return isOwn ? part : std::nullopt;
+}
+
+bool PartLetters::writeAllOf(std::u16string_view format, const RegionalSettings& region) const {
+    const auto isWide = [&](DateField field) {
+        return isSeparator(field) &&
+               (field == DateField::DateSeparator ? region.DateSeparator : region.TimeSeparator).size() != 1;
+    };
+    if (findNamedFormat(format) != nullptr) return false;
+    DateFieldScanner scanner(format);
+    std::u16string_view rest = format;
+    for (DateToken token; scanner.next(token); rest = scanner.rest()) {
+        if (FormatScanner::protects(rest.front()) || isRegional(token.field) || isWide(token.field)) return false;
+        const std::u16string_view written = rest.substr(0, rest.size() - scanner.rest().size());
+        const std::optional<StepPart> shown = partOf(token.field);
+        const bool isSame =
+            std::all_of(written.begin(), written.end(), [&](char16_t unit) { return partOf(unit) == shown; });
+        if (!isSame) return false;
+    }
+    return rest.empty();
+}
+
+StepPlace placeFrom(std::size_t start, Date value, const FieldRules& rules, const PartLetters& parts, StepPart usual) {
+    const std::vector<ShownField> fields = rules.format.fields(value, rules.region);
+    for (std::size_t at = 0; at < fields.size(); ++at) {
+        const auto part = parts.partOf(fields[at].field);
+        if (part && fields[at].end >= start) return {*part, at};
+    }
+    return {usual};
+}
+
+std::optional<ShownField> fieldOf(const StepPlace& place, Date value, const FieldRules& rules,
+                                  const PartLetters& parts) {
+    const std::vector<ShownField> fields = rules.format.fields(value, rules.region);
+    if (place.field && *place.field < fields.size()) return fields[*place.field];
+    const auto last = std::find_if(fields.rbegin(), fields.rend(),
+                                   [&](const ShownField& field) { return parts.partOf(field.field) == place.part; });
+    return last == fields.rend() ? std::nullopt : std::optional(*last);
 }
 
 KeyDownEffect keyDownEffect(std::int16_t keyCode, Modifiers modifiers) {

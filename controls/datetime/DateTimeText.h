@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "host/Keys.h"
 #include "values/FormatExpression.h"
@@ -36,6 +37,10 @@ public:
     const std::u16string& text() const { return Text_; }
     /// No value shows as "".
     std::u16string show(std::optional<Date> value, const RegionalSettings& region) const;
+    /// Where the fields of the value stand in that text.
+    std::vector<ShownField> fields(Date value, const RegionalSettings& region) const {
+        return Expression_.fields(value, region);
+    }
 
 private:
     std::u16string Text_;
@@ -101,6 +106,36 @@ struct FieldStep {
     std::size_t caret = 0;  ///< may be past the end of the text, which means the end
     bool isFirst = false;   ///< there was no value to start from
 };
+
+/// What can be stepped.
+enum class StepPart : std::uint8_t { Day, Month, Year, Hour, Minute, Second };
+
+/// The parts that a field steps, by the letters that formats write them with.
+struct PartLetters {
+    std::u16string_view letters;
+    StepPart first;  ///< of the first letter; the others follow it
+
+    std::optional<StepPart> partOf(char16_t formatUnit) const;
+    /// The part that a field of a format shows.
+    std::optional<StepPart> partOf(DateField field) const;
+
+    /// Whether a format shows its parts by their letters, each in its place: without words in quotes, names of
+    /// formats, formats of the region's and separators that it writes with more than one character.
+    bool writeAllOf(std::u16string_view format, const RegionalSettings& region) const;
+};
+
+/// The part that a step moves, and the field that shows it at the caret: its number among those of the text.
+struct StepPlace {
+    StepPart part;
+    std::optional<std::size_t> field{};
+};
+
+/// The first part that ends at this place or behind it, in a text that shows `value`; `usual` where there is none.
+StepPlace placeFrom(std::size_t start, Date value, const FieldRules& rules, const PartLetters& parts, StepPart usual);
+
+/// The field at that place in the text that shows `value`, or without a number the last that shows the part.
+std::optional<ShownField> fieldOf(const StepPlace& place, Date value, const FieldRules& rules,
+                                  const PartLetters& parts);
 
 // ---- Keys
 

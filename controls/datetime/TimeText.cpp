@@ -10,31 +10,26 @@ namespace kel {
 
 namespace {
 
-struct TimePart {
-    char16_t letter;
-    std::int32_t seconds;
-};
+constexpr PartLetters Parts{u"hns", StepPart::Hour};
 
-constexpr TimePart Parts[] = {{u'h', 3600}, {u'n', 60}, {u's', 1}};
-constexpr TimePart Minute = Parts[1];
-
-bool isLetter(char16_t formatUnit, const TimePart& part) { return toLowerAscii(formatUnit) == part.letter; }
+constexpr std::int64_t secondsIn(StepPart part) {
+    if (part == StepPart::Second) return 1;
+    return part == StepPart::Hour ? 3600 : 60;
+}
 
 /// Texts have the layout of their format, so the caret's place in the one is its place in the other.
-TimePart partAtCaret(std::size_t caret, std::u16string_view format) {
+StepPart partAtCaret(std::size_t caret, std::u16string_view format) {
     const std::size_t position = std::max<std::size_t>(caret, 1) - 1;
     for (std::size_t at = position; at < format.size(); ++at) {
-        for (const TimePart& part : Parts) {
-            if (isLetter(format[at], part)) return part;
-        }
+        if (const auto part = Parts.partOf(format[at])) return *part;
     }
-    return Minute;
+    return StepPart::Minute;
 }
 
 /// Behind the part's last letter in the format; past the end where that is the end.
-std::size_t caretBehind(const TimePart& part, std::u16string_view format) {
+std::size_t caretBehind(StepPart part, std::u16string_view format) {
     std::size_t position = format.size();
-    while (position > 0 && !isLetter(format[position - 1], part)) --position;
+    while (position > 0 && Parts.partOf(format[position - 1]) != part) --position;
     return position == format.size() ? position + 1 : position;
 }
 
@@ -73,12 +68,22 @@ FieldStep stepTime(const BoxState& box, Date now, std::int32_t delta, const Fiel
     const std::u16string& format = rules.format.text();
     const Date base = box.value.value_or(now);
     const bool isAsShown = box.text == rules.format.show(base, rules.region);
-    const TimePart part = isAsShown ? partAtCaret(box.caret, format) : Minute;
-    const Date next = box.value ? addSeconds(base, std::int64_t{delta} * part.seconds).value_or(base) : base;
+    const bool isWrittenInLetters = Parts.writeAllOf(format, rules.region);
+    StepPlace place{StepPart::Minute};
+    if (isAsShown && isWrittenInLetters)
+        place.part = partAtCaret(box.caret, format);
+    else if (isAsShown)
+        place = placeFrom(box.caret, base, rules, Parts, StepPart::Minute);
+    const Date next = box.value ? addSeconds(base, delta * secondsIn(place.part)).value_or(base) : base;
 
     FieldStep step{.value = rules.bounds.clamp(next), .isFirst = !box.value};
     step.text = rules.format.show(step.value, rules.region);
-    step.caret = caretBehind(part, format);
+    if (isWrittenInLetters)
+        step.caret = caretBehind(place.part, format);
+    else if (const auto field = fieldOf(place, step.value, rules, Parts))
+        step.caret = field->end;
+    else
+        step.caret = box.caret;
     return step;
 }
 

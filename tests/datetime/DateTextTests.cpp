@@ -82,7 +82,15 @@ TEST(DateSteps, KnowLettersAndSeparatorsOfOtherScripts) {
                         {"15. März |2013", {2013, 3, 15}, 1, "15. März 2014|"}});
     german.format = u"d mmm yyyy";  // the full stop of an abbreviation counts, in the text alone
     checkSteps(german, {{"15 J|an. 2013", {2013, 1, 15}, 1, "15 Feb|. 2013"},
-                        {"15 Jan. 20|13", {2013, 1, 15}, 1, "15 Jan. 2014|"}});
+                        {"15 Jan.| 2013", {2013, 1, 15}, 1, "15 Feb.| 2013"},
+                        {"15 Jan. 20|13", {2013, 1, 15}, 1, "15 Jan. 2014|"},
+                        {"15.4.2013|", {2013, 4, 15}, 1, "16| Apr. 2013"}});
+    german.format = u"mmm d yyyy";
+    checkSteps(german, {{"Jan. 1|5 2013", {2013, 1, 15}, 1, "Jan. 16| 2013"}});
+    checkSteps({.region = *findRegion(u"sk-SK")}, {{"15.| 03. 2013", {2013, 3, 15}, 1, "15. 04|. 2013"},
+                                                   {"15. 03|. 2013", {2013, 3, 15}, 1, "15. 04|. 2013"},
+                                                   {"15. 03. 2|013", {2013, 3, 15}, 1, "15. 03. 2014|"}});
+    checkSteps({.flag = FirstDay, .region = *findRegion(u"sk-SK")}, {{"15|", {2013, 3, 15}, 1, "01. 04|. 2013"}});
 
     // The caret ends up in front of the next separator, and what it passes on the way is none.
     Field separated;
@@ -103,6 +111,47 @@ TEST(DateSteps, KnowLettersAndSeparatorsOfOtherScripts) {
         named.region.MonthNames[2] = month;
         EXPECT_EQ(draw(named.step("15 |April 2013", day(2013, 4, 15), -1)), "15 " + toUtf8(month) + "| 2013");
     }
+}
+
+TEST(DateSteps, FindThePartsThatAFormatShows) {
+    checkSteps({.format = u"d \"de\" mmmm \"de\" yyyy"},
+               {
+                   {"15| de March de 2013", {2013, 3, 15}, 1, "16| de March de 2013"},
+                   {"15 d|e March de 2013", {2013, 3, 15}, 1, "15 de April| de 2013"},
+                   {"15 de Ma|rch de 2013", {2013, 3, 15}, 1, "15 de April| de 2013"},
+                   {"15 de March |de 2013", {2013, 3, 15}, 1, "15 de March de 2014|"},
+                   {"15/3/20|13", {2013, 3, 15}, 1, "16| de March de 2013"},
+               });
+    checkSteps({.format = u"\"Date: \"dd/mm/yyyy"}, {{"|Date: 15/03/2013", {2013, 3, 15}, 1, "Date: 16|/03/2013"}});
+    checkSteps({.format = u"\\d\\a\\y d/m \\(yyyy\\)"}, {{"day 15/3| (2013)", {2013, 3, 15}, -1, "day 15/2| (2013)"},
+                                                         {"day 15/3 (2013)|", {2013, 3, 15}, -1, "day 14|/3 (2013)"}});
+    checkSteps({.format = u"Medium Date"}, {{"15-|Mar-13", {2013, 3, 15}, 1, "15-Apr|-13"}});
+    checkSteps({.format = u"dd/mm/yyyy hh:mm"}, {{"15/0|3/2013 00:00", {2013, 3, 15}, 1, "15/04|/2013 00:00"},
+                                                 {"15/03/2013 00:|00", {2013, 3, 15}, 1, "16|/03/2013 00:00"}});
+    checkSteps({.format = u"dd.mm;yyyy"}, {{"15.|03", {2013, 3, 15}, 1, "15.04|"}});
+    checkSteps({.format = u"aaaa, oooo"}, {{"Fri|day, March", {2013, 3, 15}, 1, "Saturday|, March"},
+                                           {"Friday|, March", {2013, 3, 29}, 1, "Saturday|, March"},
+                                           {"Friday, |March", {2013, 3, 15}, 1, "Monday, April|"}});
+    checkSteps({.format = u"\"From\" d mmm", .flag = FirstDay},
+               {{"From 1| Mar", {2013, 3, 1}, 1, "From 1| Apr"}, {"march|", {2013, 3, 1}, 1, "From 1 Apr|"}});
+    checkSteps({.format = u"Standard"}, {{"41,34|8.00", {2013, 3, 15}, 1, "41,34|9.00"}});
+
+    // Names of several words, and years that come first.
+    Field wordy{.format = u"Long Date"};
+    wordy.region.LongDateFormat = u"dddd, d mmmm, yyyy";
+    wordy.region.WeekdayNames = {u"", u"Thứ Hai", u"", u"", u"", u"Thứ Sáu", u"Thứ Bảy"};
+    wordy.region.MonthNames[2] = u"tháng 3";
+    wordy.region.MonthNames[3] = u"tháng 4";
+    checkSteps(wordy, {{"Thứ |Sáu, 15 tháng 3, 2013", {2013, 3, 15}, 1, "Thứ Bảy|, 16 tháng 3, 2013"},
+                       {"Thứ Sáu, 1|5 tháng 3, 2013", {2013, 3, 15}, 1, "Thứ Bảy, 16| tháng 3, 2013"},
+                       {"Thứ Sáu, 15 tháng |3, 2013", {2013, 3, 15}, 1, "Thứ Hai, 15 tháng 4|, 2013"}});
+    checkSteps({.format = u"Long Date", .region = *findRegion(u"es-ES")},
+               {{"viernes, 15 de |marzo de 2013", {2013, 3, 15}, 1, "lunes, 15 de abril| de 2013"}});
+    checkSteps({.format = u"ddddd", .region = *findRegion(u"ja-JP")},
+               {{"2013/|03/15", {2013, 3, 15}, 1, "2013/04|/15"}});
+    checkSteps({.format = u"Short Date", .region = *findRegion(u"ar-EG")},
+               {{"١٥\u200F/|٣\u200F/٢٠١٣", {2013, 3, 15}, 1, "١٥\u200F/٤|\u200F/٢٠١٣"},
+                {"١٥\u200F|/٣\u200F/٢٠١٣", {2013, 3, 15}, 1, "١٦|\u200F/٣\u200F/٢٠١٣"}});
 }
 
 TEST(DateSteps, MoveTheDayOfATextThatIsNotAsShown) {

@@ -61,10 +61,22 @@ TEST(TimeSteps, TakeTheCaretForAPlaceInTheFormat) {
     checkSteps(u"h:nn:ss", {{"10:1|5:30", {10, 15, 30}, 1, "10:1|6:30"},
                             {"10:15|:30", {10, 15, 30}, 1, "10:15:31|"},
                             {"1:15|:30", {1, 15, 30}, 1, "1:16|:30"}});
-    checkSteps(u"hh \\h nn", {{"10 h| 15", {10, 15, 0}, 1, "11 h |15"}});
     checkSteps(u"", {{"|10:15:30", {10, 15, 30}, 1, "1|0:16:30"}});
     checkSteps(u"hh", {{"10|", {10, 15, 0}, 1, "11|"}, {"9|", {9, 15, 0}, 1, "|09"}});
     EXPECT_EQ(step(u"hh:nn:ss", "10:15:30|", clock(10, 15, 30), 1).caret, 9U) << "the end, however long the text";
+}
+
+TEST(TimeSteps, FindThePartsThatAFormatShows) {
+    checkSteps(u"hh \\h nn", {{"10| h 15", {10, 15, 0}, 1, "11| h 15"}, {"10 h| 15", {10, 15, 0}, 1, "10 h 16|"}});
+    checkSteps(u"\"The hours: \"h:nn \"Uhr\"", {{"|The hours: 9:59 Uhr", {9, 59, 0}, 1, "The hours: 10|:59 Uhr"},
+                                                {"The hours: 9:5|9 Uhr", {9, 59, 0}, 1, "The hours: 10:00| Uhr"},
+                                                {"The hours: 9:59 U|hr", {9, 59, 0}, 1, "The hours: 10:00| Uhr"},
+                                                {"9.59|", {9, 59, 0}, 1, "The hours: 10:00| Uhr"}});
+    checkSteps(u"Long Time",
+               {{"10:1|5:30", {10, 15, 30}, 1, "10:16|:30"}, {"10:15:30|", {10, 15, 30}, 1, "10:15:31|"}});
+    checkSteps(u"Medium Time", {{"10|:15 AM", {10, 15, 0}, 1, "11|:15 AM"}});
+    checkSteps(u"hh.mm", {{"10.|15", {10, 15, 0}, 1, "10.16|"}});
+    checkSteps(u"Short Date", {{"30|/12/1899", {10, 15, 0}, 1, "30|/12/1899"}});
 }
 
 TEST(TimeSteps, MoveTheMinuteOfATextThatIsNotAsShown) {
