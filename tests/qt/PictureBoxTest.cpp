@@ -109,6 +109,20 @@ TEST_F(Picture, TheBarReachesFromItsEdgeAndTheTextStandsInTheMiddle) {
     }
 }
 
+TEST_F(Picture, ABarKeepsItsShareFromBeforeItWasShownAndInEveryWidth) {
+    KelProgressBarWidget late(&window);
+    late.setValue(25);
+    late.setValue(50);
+    late.setGeometry(0, 30, 200, 20);
+    late.show();
+    QCoreApplication::processEvents();
+    auto& surface = dynamic_cast<qt::QtPictureBox&>(*static_cast<KelProgressBar&>(late.control()).widgets().picture);
+    EXPECT_EQ(barIn(surface.grab().toImage()), QRect(0, 0, 100, 20));
+    late.resize(100, 20);
+    EXPECT_EQ(barIn(surface.grab().toImage()), QRect(0, 0, 50, 20));
+    EXPECT_EQ(surface.picture().text.substr(0, 3), u"50%");
+}
+
 TEST_F(Picture, TextIsReadableOverBarAndGroundOnEveryDesktop) {
     QPalette contrast(Qt::black);
     contrast.setColor(QPalette::WindowText, Qt::white);
