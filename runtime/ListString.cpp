@@ -8,10 +8,7 @@ namespace {
 
 constexpr char16_t Quote = u'"';
 
-bool needsQuotes(std::u16string_view item) {
-    if (item.empty()) return false;
-    return item.find_first_of(u",\"\r\n") != std::u16string_view::npos || item.front() == u' ' || item.back() == u' ';
-}
+bool needsQuotes(std::u16string_view item) { return item.find_first_of(u",\"") != std::u16string_view::npos; }
 
 }  // namespace
 

@@ -7,7 +7,7 @@
 /// Comma-separated lists with double quotes: `a,"b,c","say ""hi"""` holds a / b,c / say "hi".
 namespace kel {
 
-/// Puts `item` behind the items of `list`; items with a separator, a quote, a line end or an outer blank are quoted.
+/// Puts `item` behind the items of `list`; items with a separator or a quote are quoted.
 /// An empty item appended to an empty list gives `""`, so that it is not mistaken for no item.
 void appendListItem(std::u16string& list, std::u16string_view item);
 
