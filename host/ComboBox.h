@@ -10,6 +10,8 @@
 
 namespace kel {
 
+enum class EditAction : std::uint8_t;
+
 /// A single-line edit box with a list that drops down below it. Items count from 0. A new box is enabled, visible,
 /// unlocked, empty and closed, with `colors::SystemWindow` behind `colors::SystemWindowText`.
 ///
@@ -19,13 +21,14 @@ namespace kel {
 class ComboBox : public TextEntry {
 public:
     virtual const ListItems& items() const = 0;
-    /// Closes the list and empties the text, and notifies nobody.
+    /// Closes the list and leaves none selected; the text stays. Notifies nobody.
     virtual void setItems(ListItems items) = 0;
 
     /// The selected item, `ListItems::NotFound` when there is none.
     virtual std::int32_t listIndex() const = 0;
     /// Selects an item: it becomes the text, the caret goes to 0. What is no item selects none and empties the text.
-    /// Notifies nobody.
+    /// A text that was the item already keeps caret and selection, and so does it in `setText`; an open list moves its
+    /// highlight with the text. Notifies nobody.
     virtual void setListIndex(std::int32_t index) = 0;
 
     virtual bool isDropped() const = 0;
@@ -36,7 +39,8 @@ public:
     virtual std::int32_t droppedWidth() const = 0;
     virtual void setDroppedWidth(std::int32_t pixels) = 0;
 
-    /// Passed on to a native box, whose owner may ask for it. Keys do the same with and without.
+    /// Down opens a closed list instead of picking in it. The keys of every box do so anyhow; it is passed on to a
+    /// native box, whose owner may ask for it.
     virtual void setExtendedUi(bool extended) = 0;
 
     /// Draws from now on, over the widget's own painting, a sunken frame and at its right end inside it the raised edge
@@ -54,6 +58,8 @@ public:
     virtual void Combo1_Click() = 0;
     /// A key goes down; `KeyCode` set to 0 swallows it.
     virtual void Combo1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) = 0;
+    /// The user is about to edit the text in this way, by whatever means.
+    virtual void Combo1_Edit(EditAction Action) = 0;
     /// A character is about to be inserted, or a control character to act; 0 swallows it.
     virtual void Combo1_KeyPress(char32_t& KeyAscii) = 0;
     virtual void Combo1_GotFocus() = 0;

@@ -9,6 +9,8 @@
 
 namespace kel {
 
+enum class EditAction : std::uint8_t;
+
 /// A single-line or multi-line edit box. A line break of a multi-line box is a carriage return and a line feed and
 /// counts two. A new box is enabled, visible, unlocked, empty, with `colors::SystemWindow` behind
 /// `colors::SystemWindowText`.
@@ -31,6 +33,8 @@ public:
     virtual void Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) = 0;
     /// A character is about to be inserted, or a control character to act; 0 swallows it.
     virtual void Text1_KeyPress(char32_t& KeyAscii) = 0;
+    /// The user is about to edit the text in this way: by key, from a menu, by a drop.
+    virtual void Text1_Edit(EditAction /*Action*/) {}
     /// The user pastes or drops `Text` in the place of the selection; what it is changed to comes instead.
     /// False refuses it: the box stays as it is.
     virtual bool Text1_Paste(std::u16string& Text) = 0;

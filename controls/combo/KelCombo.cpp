@@ -5,7 +5,9 @@
 #include "common/FieldLook.h"
 #include "common/Persistence.h"
 #include "controls/combo/ListText.h"
+#include "host/editing/EditAction.h"
 #include "values/Coercion.h"
+#include "values/TextBoundaries.h"
 
 namespace kel {
 
@@ -15,6 +17,10 @@ constexpr std::int32_t WidestDropDown = 8000;
 constexpr std::int32_t TwipsPerListPixel = 15;  ///< whatever the screen's own resolution
 constexpr std::int16_t NoListIndex = -1;
 constexpr std::int16_t TagSeparator = u',';
+
+std::int32_t wordStart(std::u16string_view text, std::int32_t position) {
+    return static_cast<std::int32_t>(previousWord(text, static_cast<std::size_t>(position), false));
+}
 
 std::int32_t listPixels(std::int32_t twips) { return (twips + TwipsPerListPixel / 2) / TwipsPerListPixel; }
 
@@ -134,6 +140,7 @@ void KelCombo::settleText() const {
         showText(Combo1_->text());
     else if (Mandatory_)
         Combo1_->setText(TextOriginal_);
+    Combo1_->setSelStart(0);
 }
 
 void KelCombo::put_LimitToList(bool limit) {
@@ -211,9 +218,28 @@ void KelCombo::selectFrom(std::int32_t caret) {
     Combo1_->setSelLength(Combo1_->textLength());
 }
 
-void KelCombo::Combo1_KeyDown(std::int16_t& KeyCode, Modifiers /*Shift*/) {
+void KelCombo::Combo1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) {
     Typing_ = true;
-    if (KeyCode == keys::Delete && Combo1_->selLength() != 0 && !Combo1_->locked()) Combo1_->setSelText({});
+    const bool deletes = KeyCode == keys::Delete && Shift == NoModifier;
+    if (deletes && Combo1_->selLength() != 0 && !Combo1_->locked()) Combo1_->setSelText({});
+}
+
+/// What is taken away on purpose does not come back as a completion. All else is typing, also without a key; but
+/// Delete may have been handled as one already.
+void KelCombo::Combo1_Edit(EditAction Action) {
+    const bool hasSelection = Combo1_->selLength() != 0;
+    switch (Action) {
+        case EditAction::Cut:
+        case EditAction::EraseSelection: Typing_ = false; return;
+        case EditAction::EraseWordForward: Typing_ = !hasSelection; return;
+        case EditAction::EraseForward: return;
+        case EditAction::EraseWordBack:
+            if (!LimitToList_ && hasSelection && Combo1_->selStart() + Combo1_->selLength() == Combo1_->textLength())
+                selectFrom(wordStart(Combo1_->text(), Combo1_->selStart()));
+            break;
+        default: break;
+    }
+    Typing_ = true;
 }
 
 void KelCombo::Combo1_KeyPress(char32_t& KeyAscii) {
@@ -228,8 +254,6 @@ void KelCombo::Combo1_KeyPress(char32_t& KeyAscii) {
             break;
         default: break;
     }
-    // An input method types without keys.
-    Typing_ = true;
 }
 
 // ---- Looks

@@ -80,6 +80,7 @@ private:
     void Combo1_Change() override;
     void Combo1_Click() override;
     void Combo1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) override;
+    void Combo1_Edit(EditAction Action) override;
     void Combo1_KeyPress(char32_t& KeyAscii) override;
     void Combo1_GotFocus() override;
     void Combo1_LostFocus() override;

@@ -17,28 +17,22 @@ bool togglesList(std::int16_t code, Modifiers modifiers) {
 // ---- By code
 
 void ComboEditor::setText(std::u16string_view text) {
-    select(ListItems::NotFound);
-    Edit_.setText(text);
+    ListIndex_ = ListItems::NotFound;
+    if (text != buffer().text()) Edit_.setText(text);
 }
 
 void ComboEditor::setItems(ListItems items) {
     showDropDown(false);
     Items_ = std::move(items);
-    setListIndex(ListItems::NotFound);
+    ListIndex_ = ListItems::NotFound;
 }
 
 void ComboEditor::setListIndex(std::int32_t index) {
     const bool exists = Items_.contains(index);
-    select(exists ? index : ListItems::NotFound);
-    changeSilently(exists ? Items_.item(index) : std::u16string_view());
-}
-
-void ComboEditor::select(std::int32_t index) {
-    ListIndex_ = index;
-    highlight(index);
-}
-
-void ComboEditor::changeSilently(std::u16string_view text) {
+    ListIndex_ = exists ? index : ListItems::NotFound;
+    const std::u16string_view text = exists ? Items_.item(index) : std::u16string_view();
+    if (text == buffer().text()) return;
+    highlight(ListIndex_);
     Silent_ = true;
     Edit_.setText(text);
     Silent_ = false;
@@ -80,13 +74,16 @@ bool ComboEditor::actOnList(std::int16_t code, Modifiers modifiers) {
     }
     if ((modifiers & (ControlKey | AltKey)) != 0) return false;
     switch (code) {
-        case keys::Up: step(-1); return true;
-        case keys::Down: step(1); return true;
-        case keys::PageUp: step(-Surroundings_.linesOfPage()); return true;
-        case keys::PageDown: step(Surroundings_.linesOfPage()); return true;
-        case keys::Enter:
-            if (Dropped_) pick(Highlighted_);
-            return false;
+        case keys::Up: walk(-1); return true;
+        case keys::Down:
+            if (Dropped_)
+                walk(1);
+            else
+                showDropDown(true);
+            return true;
+        case keys::PageUp: walk(-Surroundings_.linesOfPage()); return true;
+        case keys::PageDown: walk(Surroundings_.linesOfPage()); return true;
+        case keys::Enter: showDropDown(false); return false;
         case keys::Escape: {
             const bool closes = Dropped_;
             showDropDown(false);
@@ -96,17 +93,13 @@ bool ComboEditor::actOnList(std::int16_t code, Modifiers modifiers) {
     }
 }
 
-void ComboEditor::step(std::int64_t rows) {
-    if (Dropped_)
-        highlight(rowFrom(Highlighted_, rows));
-    else
-        pickNeighbour(rows);
-}
-
-void ComboEditor::pickNeighbour(std::int64_t rows) {
-    const std::int32_t current = currentItem();
-    const std::int32_t next = rowFrom(current, rows);
-    if (next != current) pick(next);
+/// At an end of the list, the row that is picked already is not picked again.
+void ComboEditor::walk(std::int64_t rows) {
+    if (!Dropped_) return;
+    const std::int32_t row = rowFrom(Highlighted_, rows);
+    if (row == Highlighted_ && row == ListIndex_) return;
+    highlight(row);
+    take(row);
 }
 
 /// The selected item, or the one that the text is without being selected.
@@ -131,21 +124,21 @@ void ComboEditor::highlight(std::int32_t index) {
 
 void ComboEditor::pick(std::int32_t index) {
     showDropDown(false);
-    if (locked() || !Items_.contains(index)) return;
-    setListIndex(index);
-    Listener_.Combo1_Click();
+    take(index);
 }
 
-/// An open list scrolls on its own.
-void ComboEditor::Text1_Wheel(std::int32_t Notches) {
-    if (!Dropped_) pickNeighbour(-std::int64_t{Notches});
+void ComboEditor::take(std::int32_t index) {
+    if (locked() || !Items_.contains(index)) return;
+    setListIndex(index);
+    Edit_.setSelStart(0);
+    Listener_.Combo1_Click();
 }
 
 // ---- Text and focus
 
 void ComboEditor::Text1_Change() {
     if (Silent_) return;
-    select(ListItems::NotFound);
+    ListIndex_ = ListItems::NotFound;
     Listener_.Combo1_Change();
 }
 

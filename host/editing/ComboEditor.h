@@ -22,11 +22,12 @@ protected:
 /// `edit()` as it drives any text box, strokes, focus and wheel included, and adds what the mouse does to button and
 /// list; then it has only to draw.
 ///
-/// F4, Alt+Down and Alt+Up open and close the list. While it is closed, Up and Down pick the neighbouring item, Page Up
-/// and Page Down the one a page away, the wheel as many further on as it has turned. From a text that is no item, all
-/// that lead forwards pick the first item, all that lead backwards none. While the list is open the same keys move the
-/// highlight, Enter picks the highlighted item and Escape closes without picking; the wheel is left to the list. Enter
-/// goes on to the key-press handler, which may want to leave the field. A locked box opens and gives nothing.
+/// F4, Alt+Down and Alt+Up open and close the list, and Down opens it; nothing else does anything in a closed one, the
+/// wheel is left to what is around the box. In an open list Up, Down, Page Up and Page Down go from the highlighted row
+/// to another and pick it at once; where none is highlighted those that lead down begin at the first, the others lead
+/// nowhere. The pointer only highlights. Enter and Escape close the list and keep what was picked, and so does a home
+/// when Tab is pressed; Enter goes on to the key-press handler, which may want to leave the field. The wheel is left to
+/// the open list. A locked box opens and gives nothing.
 class ComboEditor final : private TextBoxListener {
 public:
     /// Both outlive the editor.
@@ -59,7 +60,7 @@ public:
 
     // ---- By the user
 
-    /// The row that a dropped list shows as the one that Enter picks.
+    /// The row that a dropped list shows as the one that keys go on from.
     std::int32_t highlighted() const { return Highlighted_; }
     /// The pointer has moved over this row of the dropped list.
     void highlight(std::int32_t index);
@@ -76,20 +77,19 @@ private:
     void Text1_Click() override {}
     void Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) override;
     void Text1_KeyPress(char32_t& KeyAscii) override { Listener_.Combo1_KeyPress(KeyAscii); }
+    void Text1_Edit(EditAction Action) override { Listener_.Combo1_Edit(Action); }
     bool Text1_Paste(std::u16string& /*Text*/) override { return true; }
     void Text1_MouseDown(MouseButton /*Button*/) override {}
-    bool Text1_UsesWheel() override { return true; }
-    void Text1_Wheel(std::int32_t Notches) override;
+    bool Text1_UsesWheel() override { return Dropped_; }
+    void Text1_Wheel(std::int32_t /*Notches*/) override {}
     void Text1_GotFocus() override { Listener_.Combo1_GotFocus(); }
     void Text1_LostFocus() override;
 
     bool actOnList(std::int16_t code, Modifiers modifiers);
-    void step(std::int64_t rows);
-    void pickNeighbour(std::int64_t rows);
+    void walk(std::int64_t rows);
+    void take(std::int32_t index);
     std::int32_t currentItem() const;
     std::int32_t rowFrom(std::int32_t row, std::int64_t rows) const;
-    void select(std::int32_t index);
-    void changeSilently(std::u16string_view text);
 
     ComboBoxListener& Listener_;
     ComboSurroundings& Surroundings_;

@@ -22,7 +22,7 @@ public:
     std::int32_t droppedWidth() const override { return Editor_.droppedWidth(); }
     void setDroppedWidth(std::int32_t pixels) override { Editor_.setDroppedWidth(pixels); }
 
-    /// There is no native box to pass it on to.
+    /// The editor's keys do so from the start.
     void setExtendedUi(bool /*extended*/) override {}
 
 protected:

@@ -76,6 +76,7 @@ bool TextBoxEditor::act(EditAction action, char32_t character, bool extend) {
     if (moves(action)) return moveCaret(action, extend);
     if (edits(action)) {
         if (Locked_ || (action == EditAction::BreakLine && !Buffer_.multiLine())) return false;
+        Listener_.Text1_Edit(action);
         tell(edit(action, character));
         return true;
     }
@@ -130,7 +131,9 @@ bool TextBoxEditor::edit(EditAction action, char32_t character) {
 }
 
 void TextBoxEditor::paste(std::u16string_view text) {
-    if (!Locked_) tell(insertPasted(text));
+    if (Locked_) return;
+    Listener_.Text1_Edit(EditAction::Paste);
+    tell(insertPasted(text));
 }
 
 bool TextBoxEditor::insertPasted(std::u16string_view foreign) {

@@ -113,10 +113,17 @@ PlacedControl* HeadlessWindow::focused() const {
 }
 
 void HeadlessWindow::moveByTab(bool back) {
+    closeList();
     FocusTarget* const target = nextByTab(back);
     if (target == nullptr) return;
     const Input::TabKey held(Input_, true);
     Focus_.moveTo(*target);
+}
+
+/// Also where the focus has nowhere to go and stays.
+void HeadlessWindow::closeList() {
+    HeadlessComboBox* const box = Focus_.holder() != nullptr ? Focus_.holder()->seat().owner.comboBox() : nullptr;
+    if (box != nullptr) box->showDropDown(false);
 }
 
 FocusTarget* HeadlessWindow::nextByTab(bool back) const {

@@ -39,6 +39,7 @@ public:
 
 private:
     void moveByTab(bool back);
+    void closeList();
     FocusTarget* nextByTab(bool back) const;
 
     /// Runs what a person does here, on the window that then has the keyboard.

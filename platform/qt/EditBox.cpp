@@ -48,7 +48,9 @@ bool EditBox::adopt(std::u16string_view text, std::size_t caret) {
         Edit_.select(replaced);
     }
     if (buffer().selection() != replaced) return false;
-    Edit_.setSelText(text.substr(difference.start, difference.newEnd - difference.start));
+    const std::u16string_view written = text.substr(difference.start, difference.newEnd - difference.start);
+    Edit_.listener().Text1_Edit(written.empty() ? EditAction::EraseSelection : EditAction::Paste);
+    Edit_.setSelText(written);
     return true;
 }
 

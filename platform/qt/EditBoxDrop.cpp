@@ -60,6 +60,7 @@ void EditBox::moveSelection(std::size_t place) {
 
     Edit_.select({start, end});
     if (Edit_.listener().Text1_Paste(text) && !Edit_.locked() && takesInput()) {
+        Edit_.listener().Text1_Edit(EditAction::Paste);
         Edit_.setSelText(text);
         Edit_.select({caret, caret});
     } else {

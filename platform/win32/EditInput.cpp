@@ -120,7 +120,9 @@ bool EditInput::handleText(UINT message, WPARAM wide, LPARAM data, LRESULT& resu
             return true;
         case EM_SETSEL: selectFromOutside(wide, data); return true;
         case EM_REPLACESEL:
-            if (data != 0) Editor_.setSelText(unwiden(reinterpret_cast<const wchar_t*>(data)));
+            if (data == 0) return true;
+            Editor_.listener().Text1_Edit(EditAction::Paste);
+            Editor_.setSelText(unwiden(reinterpret_cast<const wchar_t*>(data)));
             return true;
         case EM_SETLIMITTEXT: Field_.limitSent(static_cast<std::int32_t>(std::min<WPARAM>(wide, NoLimit))); return true;
         case EM_GETLIMITTEXT: result = Editor_.maxLength() > 0 ? Editor_.maxLength() : NoLimit; return true;

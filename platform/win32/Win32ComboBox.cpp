@@ -150,6 +150,16 @@ bool Win32ComboBox::wantsKey(const KeyStroke& stroke) const {
     return Input_.wantsKey(stroke) || Editor_.claims(stroke);
 }
 
+/// A reader's tool writes so for the user.
+void Win32ComboBox::textSent(std::u16string_view text) {
+    if (textEquals(text)) return;
+    Editor_.edit().select({0, buffer().text().size()});
+    if (text.empty())
+        Editor_.edit().perform(EditAction::EraseSelection);
+    else
+        Editor_.edit().paste(std::u16string(text));
+}
+
 // ---- The list
 
 std::ptrdiff_t Win32ComboBox::linesOfPage() const { return RowsOfList; }

@@ -37,7 +37,7 @@ public:
     int baseline() const override;
     void draw(HDC context, POINT origin) const override;
     POINT showPosition(std::int32_t position) override { return Input_.showPosition(position); }
-    void textSent(std::u16string_view text) override { setText(text); }
+    void textSent(std::u16string_view text) override;
     void limitSent(std::int32_t units) override { setMaxLength(units); }
     void lockSent(bool locked) override { setLocked(locked); }
     void passwordCharSent(char16_t /*character*/) override {}

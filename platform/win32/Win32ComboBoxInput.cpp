@@ -71,6 +71,8 @@ LRESULT Win32ComboBox::handleEdit(UINT message, WPARAM wide, LPARAM data) {
     if (NativeDepth_ > 0 && meddles(message)) return TRUE;
     switch (message) {
         case WM_KEYDOWN:
+            if (wide == VK_TAB) showDropDown(false);
+            [[fallthrough]];
         case WM_SYSKEYDOWN: readHighlight(); break;
         case WM_LBUTTONDOWN:
         case WM_RBUTTONDOWN:
@@ -100,7 +102,10 @@ LRESULT Win32ComboBox::handleCombo(UINT message, WPARAM wide, LPARAM data) {
     switch (message) {
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK: return pressed(message, wide, data);
-        case WM_MOUSEWHEEL: return handleEdit(message, wide, data);
+        // Also what the edit window has no use for.
+        case WM_MOUSEWHEEL:
+            if (isDropped()) return nativeList(message, wide, data);
+            return DefWindowProcW(Combo_, message, wide, data);
         case WM_SETFOCUS: setFocus(); return 0;
         case WM_COMMAND:
             result = native(message, wide, data);

@@ -8,6 +8,7 @@
 #include "platform/win32/ForeignWindows.h"
 #include "platform/win32/Session.h"
 #include "platform/win32/WideText.h"
+#include "platform/win32/Win32ComboBox.h"
 #include "platform/win32/Win32Label.h"
 
 namespace kel::win32 {
@@ -124,6 +125,9 @@ void Win32FormWindow::giveFocus(HWND field, bool byTab) {
 }
 
 void Win32FormWindow::moveByTab(bool back) {
+    const PlacedWin32Control* const holder = focusedControl();
+    // Also where the focus has nowhere to go and stays.
+    if (Win32ComboBox* const box = holder != nullptr ? holder->comboBox() : nullptr) box->showDropDown(false);
     if (PlacedWin32Control* const next = nextByTab(back)) giveFocus(next->focusTarget(), true);
 }
 

@@ -15,8 +15,6 @@ bool takeWord(std::string_view& text, std::string_view word) {
 
 std::int32_t numberIn(std::string_view text) { return std::stoi(std::string(text)); }
 
-std::u16string quotedIn(std::string_view text) { return fromUtf8(text.substr(1, text.size() - 2)).value(); }
-
 }  // namespace
 
 void FakeBox::play(std::string_view script) {
@@ -33,15 +31,10 @@ void FakeBox::playStep(std::string_view step) {
     } else if (takeWord(step, "hover ")) {
         Editor_.highlight(numberIn(step));
     } else if (takeWord(step, "wheel ")) {
-        Editor_.edit().listener().Text1_Wheel(numberIn(step));
+        TextBoxListener& listener = Editor_.edit().listener();
+        if (listener.Text1_UsesWheel()) listener.Text1_Wheel(numberIn(step));
     } else if (takeWord(step, "button")) {
         Editor_.pressButton();
-    } else if (takeWord(step, "input ")) {
-        Editor_.edit().typeCommitted(quotedIn(step));
-    } else if (takeWord(step, "drop ")) {
-        Editor_.edit().paste(quotedIn(step));
-    } else if (takeWord(step, "menu EraseSelection")) {
-        Editor_.edit().perform(EditAction::EraseSelection);
     } else {
         test::press(*this, step);
     }

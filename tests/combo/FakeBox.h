@@ -18,8 +18,7 @@ public:
 
     explicit FakeBox(ComboBoxListener& listener) : EditedComboBox(listener, *this, colors::SystemWindowText) {}
 
-    /// Steps separated by ";": keys as `press` reads them, or "pick 2", "hover 2", "wheel -1", "button", "input 'x'"
-    /// from an input method, "drop 'x'", "menu EraseSelection".
+    /// Steps separated by ";": keys as `press` reads them, or "pick 2", "hover 2", "wheel -1" or "button".
     void play(std::string_view script);
 
     /// "Ap[ple] 0", with " open 2" behind for a dropped list with its third row highlighted.

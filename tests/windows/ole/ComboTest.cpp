@@ -190,6 +190,7 @@ TEST(combo_event_may_be_refused_by_its_host) {
     EXPECT_EQ(textOf(host.Field.get()), L"Banana");
     EXPECT(host.Sink.Heard == (std::vector<DISPID>{ChangeExId, ChangeId}));
     host.Sink.Heard.clear();
+    host.type(VK_F4);
     refuse = true;
     host.type(VK_UP);
     EXPECT_EQ(textOf(host.Field.get()), L"Apple");
