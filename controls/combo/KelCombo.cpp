@@ -76,6 +76,7 @@ std::u16string KelCombo::get_ListItem(std::int16_t Item) const {
 
 void KelCombo::put_ListTag(const std::u16string& tags) {
     ListTag_ = tags;
+    TagPlace_ = {};
     report(u"ListTag");
 }
 
@@ -83,9 +84,12 @@ std::u16string KelCombo::get_ListTagItem(std::int16_t Item) const {
     const std::int32_t item = Item == 0 ? Combo1_->listIndex() + 1 : Item;
     if (item < 1 || item > get_ListCount()) return {};
     const auto runtime = runtimeFor(Host_);
-    std::int32_t position = 0;
+    if (item <= TagPlace_.passed || TagPlace_.reader.lock() != runtime) TagPlace_ = {.reader = runtime};
+    std::int32_t position = TagPlace_.position;
     std::u16string tag;
-    for (std::int32_t read = 0; read < item; ++read) {
+    for (std::int32_t read = TagPlace_.passed; read < item; ++read) {
+        TagPlace_.passed = read;
+        TagPlace_.position = position;
         tag = runtime->ReadField(ListTag_, position, TagSeparator);
         if (position < 0) return {};
     }

@@ -95,6 +95,13 @@ private:
     void applyStateLook();
     void report(std::u16string_view bagName) { Host_.container.propertyChanged(bagName); }
 
+    /// Where the tag asked for last stands, so that a loop over all tags reads each of them once more and not all.
+    struct TagPlace {
+        std::weak_ptr<Runtime> reader;  ///< the run-time object whose position it is
+        std::int32_t passed = 0;        ///< fields in front of it
+        std::int32_t position = 0;
+    };
+
     ControlHost Host_;
     std::unique_ptr<Label> Label1_;
     std::unique_ptr<ComboBox> Combo1_;
@@ -104,6 +111,7 @@ private:
     bool SelectOnFocus_ = false;
     std::int32_t DropDownWidth_ = 0;
     std::u16string ListTag_;
+    mutable TagPlace TagPlace_;
     std::u16string TextOriginal_;
     std::u16string TextSaved_;
     std::int16_t LoadingDepth_ = 0;

@@ -6,6 +6,7 @@
 #include "tests/check/OneControl.h"
 #include "tests/headless/Keys.h"
 #include "tests/Heap.h"
+#include "values/Text.h"
 
 namespace kel::test {
 namespace {
@@ -81,6 +82,27 @@ TEST_F(Combo, WorksWithoutHavingBeenLoaded) {
     It.put_List(u"\"a,b\"");
     EXPECT_EQ(It.get_List(), u"\"a,b\"");
     EXPECT_EQ(It.get_ListItem(-32768), u"");
+}
+
+TEST_F(Combo, ALoopOverAllTagsReadsEachAFewTimes) {
+    constexpr std::int16_t Count = 2000;
+    std::u16string tags;
+    // So long that each that is read takes something from the heap.
+    const auto tag = [](int item) { return fromUtf8("the tag of item " + std::to_string(item)).value(); };
+    for (int item = 1; item < Count; ++item) tags += (item == 1 ? u"" : u",") + tag(item);
+    load({{u"List", std::u16string(Count - 1, u',')}, {u"ListTag", tags}});
+
+    const HeapUse use;
+    for (std::int16_t item = 1; item < Count; ++item) {
+        ASSERT_TRUE(It.get_ListTagItem(item) == tag(item)) << item;
+        ASSERT_TRUE(It.get_ListTagItem(item) == tag(item)) << item << " asked for again";
+    }
+    EXPECT_LE(use.allocations(), std::size_t{12} * Count);
+    EXPECT_EQ(It.get_ListTagItem(Count), u"") << "there is one tag too few";
+    for (const std::int16_t item : std::initializer_list<std::int16_t>{1999, 3, 2, 1000})
+        EXPECT_EQ(It.get_ListTagItem(item), tag(item));
+    It.put_ListTag(u"a,b");
+    EXPECT_EQ(It.get_ListTagItem(2), u"b");
 }
 
 /// What a key takes from the heap in a list with so many items.
