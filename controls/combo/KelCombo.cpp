@@ -136,13 +136,13 @@ void KelCombo::showText(const std::u16string& text) const {
 }
 
 /// What the user leaves behind: an item where there is one, no text that is none where only items may stand, and no
-/// mandatory field without a text.
+/// mandatory field without a text, as long as there is one that may stand.
 void KelCombo::settleText() const {
     const DepthGuard guard(SelectionDepth_);
     Typing_ = false;
     if (Combo1_->textLength() != 0)
         showText(Combo1_->text());
-    else if (Mandatory_)
+    else if (Mandatory_ && (!LimitToList_ || Combo1_->items().findExact(TextOriginal_) != ListItems::NotFound))
         Combo1_->setText(TextOriginal_);
     Combo1_->setSelStart(0);
 }
