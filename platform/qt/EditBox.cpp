@@ -3,8 +3,8 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include "host/editing/TextDifference.h"
 #include "platform/qt/TextBridge.h"
-#include "platform/qt/TextDifference.h"
 
 namespace kel::qt {
 

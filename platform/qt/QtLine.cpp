@@ -10,9 +10,9 @@
 #include <QStyleOptionFrame>
 #include <utility>
 
+#include "host/editing/TextDifference.h"
 #include "platform/qt/EdgeGuard.h"
 #include "platform/qt/FocusTracker.h"
-#include "platform/qt/TextDifference.h"
 
 namespace kel::qt {
 

@@ -9,10 +9,10 @@
 #include <QTextDocument>
 #include <QTextLayout>
 
+#include "host/editing/TextDifference.h"
 #include "platform/qt/EdgeGuard.h"
 #include "platform/qt/FocusTracker.h"
 #include "platform/qt/PlainText.h"
-#include "platform/qt/TextDifference.h"
 #include "values/TextBoundaries.h"
 
 namespace kel::qt {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/editing/TextDifference.h"
 #include "platform/win32/Look.h"
 #include "platform/win32/WideText.h"
 
@@ -104,24 +105,10 @@ void EditView::show(const EditBuffer& buffer) {
 /// Replaces no more than what differs, so that the window has little to paint.
 void EditView::showText(std::u16string_view text, const EditBuffer& buffer) {
     if (text == Shown_) return;
-    Difference change = differenceFrom(text, buffer.selection().end());
+    TextDifference change = differenceOf(Shown_, text, buffer.selection().end());
     // The window must not see a line break come in two pieces.
-    if (MultiLine_ && change.at > 0 && text[change.at - 1] == u'\r')
-        change = {change.at - 1, change.removed + 1, change.inserted + 1};
-    replace(change.at, change.at + change.removed, text.substr(change.at, change.inserted), buffer.canUndo());
-}
-
-/// Of `text`, in front of the caret that stands in it rather than behind.
-EditView::Difference EditView::differenceFrom(std::u16string_view text, std::size_t caret) const {
-    const std::size_t shorter = std::min(text.size(), Shown_.size());
-    const std::size_t behindCaret = std::min(text.size() - std::min(caret, text.size()), shorter);
-    const auto tail =
-        std::mismatch(text.rbegin(), text.rbegin() + static_cast<std::ptrdiff_t>(behindCaret), Shown_.rbegin());
-    const auto same = static_cast<std::size_t>(tail.first - text.rbegin());
-    const auto head =
-        std::mismatch(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(shorter - same), Shown_.begin());
-    const auto at = static_cast<std::size_t>(head.first - text.begin());
-    return {at, Shown_.size() - same - at, text.size() - same - at};
+    if (MultiLine_ && change.start > 0 && text[change.start - 1] == u'\r') --change.start;
+    replace(change.start, change.end, text.substr(change.start, change.newEnd - change.start), buffer.canUndo());
 }
 
 void EditView::replace(std::size_t from, std::size_t to, std::u16string_view text, bool undoable) {
@@ -167,10 +154,10 @@ TextChange EditView::takeForeignChange() {
     std::u16string text = windowText();
     if (text == Shown_) return {};
     const Selection now = selection();
-    const Difference change = differenceFrom(text, now.end());
+    const TextDifference change = differenceOf(Shown_, text, now.end());
     Shown_ = std::move(text);
     ShownSelection_ = now;
-    return {change.at, change.removed, Shown_.substr(change.at, change.inserted)};
+    return {change.start, change.end - change.start, Shown_.substr(change.start, change.newEnd - change.start)};
 }
 
 POINT EditView::showPosition(std::size_t position) {

@@ -65,13 +65,6 @@ public:
 private:
     void replace(std::size_t from, std::size_t to, std::u16string_view text, bool undoable);
     void showText(std::u16string_view text, const EditBuffer& buffer);
-    /// Units that differ, in what is shown and in what is to come.
-    struct Difference {
-        std::size_t at;
-        std::size_t removed;
-        std::size_t inserted;
-    };
-    Difference differenceFrom(std::u16string_view text, std::size_t caret) const;
     std::u16string windowText() const;
     void showSelection(const Selection& selection);
 

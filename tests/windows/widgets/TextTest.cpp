@@ -275,6 +275,17 @@ void putPastTheBox(HWND edit, const wchar_t* text) {
 
 }  // namespace
 
+TEST(a_pair_that_differs_in_one_half_comes_whole) {
+    HostWindow host;
+    Stage stage;
+    stage.placeOn(host.window());
+    stage.box().setText(u"a\U0001F600b");
+    stage.box().setSelStart(1);
+    stage.box().setSelLength(2);
+    putPastTheBox(stage.edit(), L"\U0001F601");
+    expectShown(stage, L"a\U0001F601|b");
+}
+
 TEST(nothing_is_pasted_past_the_control) {
     struct Way {
         const char* name;

@@ -1,10 +1,10 @@
-#include "platform/qt/TextDifference.h"
+#include "host/editing/TextDifference.h"
 
 #include <algorithm>
 
 #include "values/Text.h"
 
-namespace kel::qt {
+namespace kel {
 
 TextDifference differenceOf(std::u16string_view before, std::u16string_view now, std::size_t caret) {
     if (before == now) return {};
@@ -21,4 +21,4 @@ TextDifference differenceOf(std::u16string_view before, std::u16string_view now,
     return {head, before.size() - tail, now.size() - tail};
 }
 
-}  // namespace kel::qt
+}  // namespace kel

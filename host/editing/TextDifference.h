@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <string_view>
 
-namespace kel::qt {
+namespace kel {
 
 /// From `start` on, what reached to `end` before reaches to `newEnd` now; nothing else differs.
 struct TextDifference {
@@ -18,4 +18,4 @@ struct TextDifference {
 /// surrogate pair.
 TextDifference differenceOf(std::u16string_view before, std::u16string_view now, std::size_t caret);
 
-}  // namespace kel::qt
+}  // namespace kel
