@@ -33,25 +33,35 @@ void EditBox::textChangedInWidget() {
     if (Showing_) return;
     const std::u16string text = shownText();
     if (textIs(text)) return;
+    const Selection before = buffer().selection();
     const Selection selection = shownSelection();
-    if (!adopt(text, selection.caret)) Edit_.setText(text);
-    if (textIs(text)) Edit_.select(selection);
+    const std::u16string textBefore = buffer().text();
+    if (takesInput()) adopt(text, selection.caret);
+    if (textIs(text))
+        Edit_.select(selection);
+    else if (textIs(textBefore))
+        Edit_.select(before);
+    // What was refused, or changed, stands in Qt's widget all the same.
+    OutOfDate_ = true;
     bringUpToDate();
 }
 
-/// As an edit that can be undone. False when it would split a line break.
-bool EditBox::adopt(std::u16string_view text, std::size_t caret) {
-    const TextDifference difference = differenceOf(buffer().text(), text, caret);
-    const Selection replaced{difference.start, difference.end};
+/// As a paste in the place of what differs: with its filter, its limit and one step to undo.
+void EditBox::adopt(std::u16string_view text, std::size_t caret) {
+    TextDifference difference = differenceOf(buffer().text(), text, caret);
     {
         const ShowingScope scope(Adopting_);
-        Edit_.select(replaced);
+        Edit_.select({difference.start, difference.end});
+        // No edit begins or ends within a line break.
+        if (buffer().selection() != Selection{difference.start, difference.end}) {
+            difference = {0, buffer().text().size(), text.size()};
+            Edit_.select({difference.start, difference.end});
+        }
     }
-    if (buffer().selection() != replaced) return false;
-    const std::u16string_view written = text.substr(difference.start, difference.newEnd - difference.start);
-    Edit_.listener().Text1_Edit(written.empty() ? EditAction::EraseSelection : EditAction::Paste);
-    Edit_.setSelText(written);
-    return true;
+    if (difference.newEnd == difference.start)
+        Edit_.perform(EditAction::EraseSelection);
+    else
+        Edit_.paste(text.substr(difference.start, difference.newEnd - difference.start));
 }
 
 void EditBox::selectionChangedInWidget() {

@@ -137,7 +137,7 @@ private:
     void stepMirrored(EditAction step, bool extend);
     void showComposition(QInputMethodEvent& event);
 
-    bool adopt(std::u16string_view text, std::size_t caret);
+    void adopt(std::u16string_view text, std::size_t caret);
     bool isMovedHere(const QDropEvent& event);
     void chooseDropAction(QDropEvent& event);
     bool takeFocus();

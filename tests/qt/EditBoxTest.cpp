@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QInputMethodEvent>
@@ -6,6 +7,7 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 
+#include "controls/number/KelNumber.h"
 #include "platform/qt/EditBox.h"
 #include "platform/qt/KeyMap.h"
 #include "platform/qt/QtHome.h"
@@ -140,6 +142,38 @@ TEST(EditBox, ChangesByOthersAreReportedAndUndone) {
         field.form.window().press({'Z', 0, ControlKey});
         EXPECT_EQ(drawn(field.box()), "a[b]c");
     }
+}
+
+TEST(EditBox, AssistiveWritingPassesTheControlsRules) {
+    const auto insert = [](QWidget& widget, int at, const QString& text) {
+        QAccessible::queryAccessibleInterface(&widget)->editableTextInterface()->insertText(at, text);
+    };
+    for (const bool multiLine : {false, true}) {
+        OneField field(multiLine);
+        textOf(field.placed).put_MaxLength(4);
+        put(field.box(), "|ab");
+        QCoreApplication::sendPostedEvents();
+        insert(field.widget(), 2, QStringLiteral("xyz"));
+        EXPECT_EQ(drawn(field.box()), "abxy|") << "no longer than it may be";
+        textOf(field.placed).put_MaxLength(0);
+        textOf(field.placed).put_Locked(true);
+        field.form.takeLog();
+        insert(field.widget(), 0, QStringLiteral("x"));
+        EXPECT_TRUE(field.box().textEquals(u"abxy"));
+        EXPECT_EQ(field.form.takeLog(), "");
+    }
+    TextForm form(qt::makeHome({}));
+    PlacedControl& number = form.place(u"n", 300, KelNumberModel);
+    form.show();
+    form.window().focus(number);
+    put(boxOf(number), "1|2");
+    QCoreApplication::sendPostedEvents();
+    form.takeLog();
+    insert(widgetOf(boxOf(number)), 2, QStringLiteral("x"));
+    EXPECT_EQ(drawn(boxOf(number)), "1|2");
+    EXPECT_EQ(dynamic_cast<QLineEdit&>(widgetOf(boxOf(number))).text(), QStringLiteral("12")) << "nor is it shown";
+    insert(widgetOf(boxOf(number)), 2, QStringLiteral("3"));
+    EXPECT_EQ(drawn(boxOf(number)), "123|");
 }
 
 TEST(EditBox, HoldsMoreThanQtsOwnLimit) {
