@@ -127,6 +127,8 @@ void ControlSite::setEnabled(bool enabled) {
 
 void ControlSite::enabledMayDiffer() {
     if (!Control_ || enabled() == Enabled_) return;
+    // Not every control lets its widget go along.
+    Enabled_ = enabled();
     if (const MemberRow* const row = findMember(Control_->model(), u"Enabled"))
         putMember(*Control_, *row, enabled(), Surroundings_.region);
 }

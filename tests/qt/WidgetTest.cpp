@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <KelComboWidget.h>
 #include <KelNumberWidget.h>
 #include <KelTextWidget.h>
 #include <QAccessible>
@@ -128,6 +129,15 @@ TEST(Widget, IsEnabledFromEitherSide) {
     parent.show();
     EXPECT_FALSE(field->enabled());
     EXPECT_EQ(field->control().widgets().field->backColor(), locked) << "told late, but told";
+    QWidget group;
+    KelComboWidget combo(&group);
+    QWidget* const around[] = {&group, &combo};
+    for (QWidget* const widget : around) {
+        widget->setEnabled(false);
+        widget->setEnabled(true);
+        EXPECT_TRUE(combo.control().widgets().field->enabled()) << "and back, where its box alone is enabled";
+        EXPECT_TRUE(widgetOf(*combo.control().widgets().entry).isEnabled());
+    }
 }
 
 TEST(Widget, SpeaksItsCaptionAndTooltip) {
