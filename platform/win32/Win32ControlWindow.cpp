@@ -183,8 +183,9 @@ void Win32ControlWindow::setEnabled(bool enabled) {
 void Win32ControlWindow::setToolTip(HWND field, const wchar_t* text) {
     if (ToolTips_ == nullptr) {
         if (*text == L'\0') return;
+        // Nobody owns it: it would go with the top-level window of today, which the control may outlive in another.
         ToolTips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
-                                    CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, Window_, nullptr,
+                                    CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr,
                                     thisModule(), nullptr);
     }
     TTTOOLINFOW tool{};

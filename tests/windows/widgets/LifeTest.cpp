@@ -1,5 +1,9 @@
 #include <windows.h>
+// The common controls stand on the system's header.
+#include <commctrl.h>
 
+#include <memory>
+#include <string>
 #include <vector>
 
 #include "tests/windows/ole/Check.h"
@@ -25,6 +29,21 @@ BOOL CALLBACK countTop(HWND window, LPARAM count) {
 int countWindows() {
     int count = 0;
     EnumThreadWindows(GetCurrentThreadId(), &countTop, reinterpret_cast<LPARAM>(&count));
+    return count;
+}
+
+BOOL CALLBACK countTools(HWND window, LPARAM count) {
+    wchar_t name[32]{};
+    GetClassNameW(window, name, 32);
+    if (std::wstring(name) == TOOLTIPS_CLASSW)
+        *reinterpret_cast<LRESULT*>(count) += SendMessageW(window, TTM_GETTOOLCOUNT, 0, 0);
+    return TRUE;
+}
+
+/// How many windows have a tooltip.
+LRESULT countToolTips() {
+    LRESULT count = 0;
+    EnumThreadWindows(GetCurrentThreadId(), &countTools, reinterpret_cast<LPARAM>(&count));
     return count;
 }
 
@@ -91,6 +110,20 @@ TEST(moving_to_another_parent_keeps_text_and_window) {
     EXPECT(stage.window().handle() == before);
     EXPECT(GetParent(before) == two.window());
     EXPECT_EQ(shownLine(stage.edit()), L"text");
+}
+
+TEST(tooltips_outlive_the_window_that_the_control_was_in) {
+    Stage stage;
+    stage.box().setToolTip(u"tip");
+    EXPECT(stage.window().handle() != nullptr);
+    EXPECT_EQ(countToolTips(), 1);
+    auto one = std::make_unique<HostWindow>();
+    stage.placeOn(one->window());
+    EXPECT_EQ(countToolTips(), 1);
+    const HostWindow two;
+    stage.placeOn(two.window());
+    one.reset();
+    EXPECT_EQ(countToolTips(), 1);
 }
 
 TEST(two_hundred_controls_come_and_go_without_a_trace) {
