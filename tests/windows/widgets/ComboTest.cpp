@@ -150,6 +150,16 @@ TEST(combo_types_as_a_text_box_does) {
     EXPECT_EQ(shownLine(scene.edit()), L"ab");
 }
 
+TEST(combo_keeps_what_other_programs_send_with_the_frame_hooked_in) {
+    constexpr std::int16_t ButtonWidth = 16;
+    ComboScene scene;
+    scene.box().installFrame(ButtonWidth);
+    EXPECT(IsWindowUnicode(scene.combo()));
+    SetWindowTextW(scene.combo(), L"\u03A9\u0436\u3042");
+    EXPECT_EQ(drawn(scene.box()), L"|\u03A9\u0436\u3042");
+    EXPECT_EQ(textOf(scene.combo()), L"\u03A9\u0436\u3042");
+}
+
 TEST(combo_keys_work_the_list) {
     ComboScene scene;
     scene.enter();
