@@ -145,8 +145,9 @@ void KelText::put_MultiLine(bool multiLine) {
     if (multiLine && !Text1_[1]) makeMultiLineBox();
     FieldIndex_ = multiLine ? 1 : 0;
     reportChanged(u"MultiLine");
-    Text1_[0]->setVisible(!multiLine);
-    if (Text1_[1]) Text1_[1]->setVisible(multiLine);
+    // First the one that shows from now on: it takes the focus over from the other.
+    activeBox().setVisible(true);
+    if (TextBox* const other = Text1_[multiLine ? 0 : 1].get()) other->setVisible(false);
     put_Text(text);
     Resize();
 }

@@ -2,14 +2,31 @@
 
 #include <utility>
 
+#include "platform/headless/PlacedHeadlessControl.h"
+
 namespace kel::headless {
 
 void FocusKeeper::moveTo(FocusTarget& target) {
     if (target.takesInput() && &target != Holder_) move(&target);
 }
 
+void FocusKeeper::moveTo(TabStop* stop, bool byTab) {
+    const Input::TabKey held(Input_, byTab);
+    move(stop != nullptr ? static_cast<PlacedHeadlessControl*>(stop)->focusTarget() : nullptr);
+}
+
+void FocusKeeper::moveByTab(bool back) {
+    const TabStop* const from = Holder_ != nullptr ? &Holder_->seat().owner : nullptr;
+    if (TabStop* const next = Order_.next(from, back)) moveTo(next, true);
+}
+
+/// Also from where it was just about to come.
 void FocusKeeper::recheck() {
-    if (Holder_ != nullptr && !Holder_->takesInput()) move(nullptr);
+    const FocusTarget* const barred = Holder_ != nullptr ? Holder_ : Target_;
+    if (barred == nullptr || barred->takesInput()) return;
+    TabStop& stop = barred->seat().owner;
+    TabStop* const next = Order_.afterBarred(stop);
+    moveTo(next, next != &stop);
 }
 
 void FocusKeeper::forget(const FocusTarget& target) {

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "host/focus/TabOrder.h"
 #include "platform/headless/Input.h"
 
 namespace kel::headless {
@@ -28,7 +29,9 @@ struct Seat {
 /// and the earlier one stops where it is.
 class FocusKeeper {
 public:
-    FocusKeeper(Input& input, FormWindow& window) : Input_(input), Window_(window) {}
+    /// All of it outlives the keeper.
+    FocusKeeper(Input& input, FormWindow& window, const TabOrder& order)
+        : Input_(input), Window_(window), Order_(order) {}
 
     /// The widget with the focus, nullptr while nothing has it.
     FocusTarget* holder() const { return Holder_; }
@@ -36,7 +39,10 @@ public:
     /// Does nothing when `target` takes no input.
     void moveTo(FocusTarget& target);
 
-    /// A widget or a control was disabled or hidden: the focus leaves what can no longer have it.
+    /// As the Tab key does.
+    void moveByTab(bool back);
+
+    /// A widget or a control was disabled or hidden: the focus goes on from what can no longer have it.
     void recheck();
 
     /// The widget is about to go, without a word to anybody.
@@ -45,6 +51,7 @@ public:
 
 private:
     void move(FocusTarget* target);
+    void moveTo(TabStop* stop, bool byTab);
     bool leaveHolder(std::uint32_t turn);
     bool leaveSeat(std::uint32_t turn);
     bool enterSeat(std::uint32_t turn);
@@ -52,6 +59,7 @@ private:
 
     Input& Input_;
     FormWindow& Window_;
+    const TabOrder& Order_;
     FocusTarget* Holder_ = nullptr;
     FocusTarget* Target_ = nullptr;  ///< where the move under way goes
     Seat* Entered_ = nullptr;        ///< whose control has been entered and not yet left

@@ -6,44 +6,41 @@ namespace kel::headless {
 
 namespace {
 
-/// The Tab key's way from one control through all others and around.
-class TabWay {
+/// What is placed in a hidden panel is as good as hidden itself.
+class HeadlessPanel final : public PlacedPanel {
 public:
-    TabWay(const PlacedHeadlessControl* from, bool back) : From_(from), Back_(back) {}
-
-    bool reachesSooner(const PlacedHeadlessControl& one, const PlacedHeadlessControl& other) const {
-        if (wraps(one) != wraps(other)) return wraps(other);
-        return precedes(one, other);
-    }
+    explicit HeadlessPanel(bool visible) : Visible_(visible) {}
+    bool visible() const { return Visible_; }
 
 private:
-    bool precedes(const PlacedHeadlessControl& one, const PlacedHeadlessControl& other) const {
-        return Back_ ? other.tabPlace() < one.tabPlace() : one.tabPlace() < other.tabPlace();
-    }
-    bool wraps(const PlacedHeadlessControl& control) const { return From_ != nullptr && !precedes(*From_, control); }
-
-    const PlacedHeadlessControl* From_;
-    bool Back_;
+    bool Visible_;
 };
+
+bool isSeen(const Placement& placement) {
+    const auto* const panel = static_cast<const HeadlessPanel*>(placement.parent);
+    return placement.visible && (panel == nullptr || panel->visible());
+}
 
 }  // namespace
 
 HeadlessWindow::HeadlessWindow(System& system, SharedSettings& settings, const RegionalSettings& region, Input& input)
-    : Input_(input), Focus_(input, *this), Services_{system, settings, region, input, Focus_} {}
+    : Input_(input), Focus_(input, *this, Order_), Services_{system, settings, region, input, Focus_} {}
 
 HeadlessWindow::~HeadlessWindow() { Input_.forget(*this); }
 
 PlacedControl& HeadlessWindow::place(const ClassModel& model, const Placement& placement, ControlObserver& observer) {
-    Controls_.push_back(
-        std::make_unique<PlacedHeadlessControl>(model, placement, Controls_.size(), observer, Services_));
+    Placement seen = placement;
+    seen.visible = isSeen(placement);
+    Controls_.push_back(std::make_unique<PlacedHeadlessControl>(model, seen, Controls_.size(), observer, Services_));
     PlacedHeadlessControl& placed = *Controls_.back();
+    Order_.add(placed);
     placed.control().Initialize();
     return placed;
 }
 
 PlacedPanel* HeadlessWindow::placeForeign(const ForeignBlock& block) {
     if (block.kind != ForeignBlock::Kind::Panel) return nullptr;
-    return Panels_.emplace_back(std::make_unique<PlacedPanel>()).get();
+    return Panels_.emplace_back(std::make_unique<HeadlessPanel>(isSeen(block.placement))).get();
 }
 
 void HeadlessWindow::show() {
@@ -59,7 +56,9 @@ void HeadlessWindow::press(const KeyStroke& stroke) {
     byHand([this, &stroke] {
         if (stroke.code == keys::Tab && (stroke.modifiers & ControlKey) == 0) {
             // Alt and Tab go to another program.
-            if ((stroke.modifiers & AltKey) == 0) moveByTab((stroke.modifiers & ShiftKey) != 0);
+            if ((stroke.modifiers & AltKey) != 0) return;
+            closeList();
+            Focus_.moveByTab((stroke.modifiers & ShiftKey) != 0);
         } else if (Focus_.holder() != nullptr) {
             Focus_.holder()->strike(stroke);
         }
@@ -112,35 +111,10 @@ PlacedControl* HeadlessWindow::focused() const {
     return Focus_.holder() != nullptr ? &Focus_.holder()->seat().owner : nullptr;
 }
 
-void HeadlessWindow::moveByTab(bool back) {
-    closeList();
-    FocusTarget* const target = nextByTab(back);
-    if (target == nullptr) return;
-    const Input::TabKey held(Input_, true);
-    Focus_.moveTo(*target);
-}
-
 /// Also where the focus has nowhere to go and stays.
 void HeadlessWindow::closeList() {
     HeadlessComboBox* const box = Focus_.holder() != nullptr ? Focus_.holder()->seat().owner.comboBox() : nullptr;
     if (box != nullptr) box->showDropDown(false);
-}
-
-FocusTarget* HeadlessWindow::nextByTab(bool back) const {
-    const PlacedHeadlessControl* const from = Focus_.holder() != nullptr ? &Focus_.holder()->seat().owner : nullptr;
-    const TabWay way(from, back);
-    const PlacedHeadlessControl* next = nullptr;
-    FocusTarget* target = nullptr;
-    // Along the key's own way most others are found to come later, and need not be asked for their widgets.
-    for (std::size_t i = 0; i < Controls_.size(); ++i) {
-        const auto& control = Controls_[back ? Controls_.size() - 1 - i : i];
-        if (!control->tabStop() || (next != nullptr && !way.reachesSooner(*control, *next))) continue;
-        if (FocusTarget* const its = control->focusTarget()) {
-            next = control.get();
-            target = its;
-        }
-    }
-    return target;
 }
 
 }  // namespace kel::headless

@@ -38,9 +38,7 @@ public:
     void drop(PlacedControl& control, std::int32_t position, std::u16string_view text);
 
 private:
-    void moveByTab(bool back);
     void closeList();
-    FocusTarget* nextByTab(bool back) const;
 
     /// Runs what a person does here, on the window that then has the keyboard.
     template <class Action>
@@ -71,6 +69,7 @@ private:
     }
 
     Input& Input_;
+    TabOrder Order_;
     FocusKeeper Focus_;
     WindowServices Services_;
     std::vector<std::unique_ptr<PlacedPanel>> Panels_;

@@ -9,11 +9,10 @@ namespace kel::headless {
 
 PlacedHeadlessControl::PlacedHeadlessControl(const ClassModel& model, const Placement& placement, std::size_t order,
                                              ControlObserver& observer, const WindowServices& services)
-    : Observer_(observer),
+    : TabStop(placement.tabIndex, order, placement.tabStop),
+      Observer_(observer),
       Name_(placement.name),
       Bounds_(placement.bounds),
-      TabPlace_{placement.tabIndex, order},
-      TabStop_(placement.tabStop),
       Seat_{.focus = services.focus, .input = services.input, .owner = *this, .visible = placement.visible} {
     ControlHost host{*this, *this, services.system, services.settings, services.region};
     Control_ = model.makeControl(host);

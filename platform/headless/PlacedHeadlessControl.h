@@ -5,7 +5,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <utility>
 
 #include "forms/Home.h"
 #include "platform/headless/FocusKeeper.h"
@@ -24,11 +23,8 @@ struct WindowServices {
     FocusKeeper& focus;
 };
 
-/// When the Tab key comes to a control: by tab index, equal ones in the order they were placed.
-using TabPlace = std::pair<std::int32_t, std::size_t>;
-
 /// A control with everything it stands on: its place on the form, its container, the maker of its widgets.
-class PlacedHeadlessControl final : public PlacedControl, private Container, private WidgetFactory {
+class PlacedHeadlessControl final : public PlacedControl, public TabStop, private Container, private WidgetFactory {
 public:
     /// `order` counts the controls placed before.
     PlacedHeadlessControl(const ClassModel& model, const Placement& placement, std::size_t order,
@@ -42,8 +38,8 @@ public:
     std::u16string toolTipText() const override { return ToolTipText_; }
     void setToolTipText(std::u16string_view text) override { ToolTipText_.assign(text); }
 
-    const TabPlace& tabPlace() const { return TabPlace_; }
-    bool tabStop() const { return TabStop_; }
+    bool hasField() const override { return Control_->widgets().field != nullptr; }
+    bool takesFocus() const override { return focusTarget() != nullptr; }
 
     /// The widget that has the focus or would take it; nullptr while the control takes none.
     FocusTarget* focusTarget() const;
@@ -76,8 +72,6 @@ private:
     std::u16string Name_;
     std::u16string ToolTipText_;
     Rect Bounds_;
-    TabPlace TabPlace_;
-    bool TabStop_;
     bool Sized_ = false;
     Seat Seat_;
     std::unique_ptr<Control> Control_;  ///< last, so that it goes before all it stands on

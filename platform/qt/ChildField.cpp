@@ -4,6 +4,7 @@
 
 #include "platform/qt/ControlSite.h"
 #include "platform/qt/FocusTracker.h"
+#include "platform/qt/FocusWay.h"
 
 namespace kel::qt {
 
@@ -12,6 +13,13 @@ ChildField::ChildField(ControlSite& site, QWidget& widget) : ChildWidget(site, w
 ChildField::~ChildField() {
     focus::forget(*this);
     site().removeField(*this);
+}
+
+bool ChildField::takesFocus() const { return qt::takesFocus(widget()); }
+
+void ChildField::giveUpFocus() {
+    if (widget().window()->focusWidget() == &widget()) focus::passOn(*this);
+    focus::departed(*this, Qt::OtherFocusReason);
 }
 
 int ChildField::widthFor(int characters) const { return characters * widget().fontMetrics().averageCharWidth(); }

@@ -10,6 +10,12 @@ public:
     ChildField(ControlSite& site, QWidget& widget);
     ~ChildField() override;
 
+    /// Enabled and shown, with all around it.
+    bool takesFocus() const;
+    /// For one that can have it no longer, or in a moment: the focus goes on. Qt would do so in some cases only, and
+    /// say nothing while the window is inactive.
+    void giveUpFocus();
+
     virtual void gotFocus() = 0;
     virtual void lostFocus() = 0;
 

@@ -122,6 +122,10 @@ bool ControlSite::enabled() const { return !Widget_->testAttribute(Qt::WA_ForceD
 
 void ControlSite::setEnabled(bool enabled) {
     Enabled_ = enabled;
+    // Whoever hears of the focus that goes finds the control as it will be.
+    Widget_->setAttribute(Qt::WA_ForceDisabled, !enabled);
+    if (!enabled && Active_ != nullptr) Active_->giveUpFocus();
+    if (enabled != Enabled_) return;  // a handler has put it again
     Widget_->setEnabled(enabled);
 }
 
@@ -166,6 +170,10 @@ void ControlSite::shown() {
     if (Shown_) return;
     Shown_ = true;
     Control_->Show();
+}
+
+void ControlSite::hidden() {
+    if (Active_ != nullptr && !Active_->takesFocus()) Active_->giveUpFocus();
 }
 
 void ControlSite::recolored() {
@@ -250,7 +258,7 @@ void ControlSite::tabAfter(ControlSite& before) {
     fieldEnabled(*Active_, isFieldEnabled());
 }
 
-bool ControlSite::takesFocus() const { return Active_ != nullptr && Active_->widget().isEnabled(); }
+bool ControlSite::takesFocus() const { return Active_ != nullptr && Active_->takesFocus(); }
 
 bool ControlSite::owns(const QWidget& widget) const { return Widget_->isAncestorOf(&widget); }
 

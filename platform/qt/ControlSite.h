@@ -78,6 +78,8 @@ public:
     void toolTipChanged();
     /// The first time only: the control's `Show`.
     void shown();
+    /// It is seen no longer: itself or something around it is hidden, or its window.
+    void hidden();
     /// Somebody pressed the key of a mnemonic. Returns whether it was the caption's.
     bool mnemonicPressed(int shortcutId);
     void paint(QPainter& painter) const;

@@ -8,6 +8,7 @@
 #include "library/Control.h"
 #include "platform/qt/ChildField.h"
 #include "platform/qt/ControlSite.h"
+#include "platform/qt/FocusWay.h"
 
 namespace kel::qt::focus {
 
@@ -71,7 +72,12 @@ void watchApplication() {
 
 void arrived(ChildField& field, Qt::FocusReason reason) {
     watchApplication();
-    const QWidget& widget = field.widget();
+    QWidget& widget = field.widget();
+    // Qt lets code give it to what only its surroundings hide.
+    if (!widget.isVisible()) {
+        widget.clearFocus();
+        return;
+    }
     if (&field == Holder) {
         Suspended = !widget.hasFocus();
         return;
@@ -94,8 +100,21 @@ void departed(ChildField& field, Qt::FocusReason reason) {
         Suspended = true;
         return;
     }
-    const Telling telling(reason);
-    leaveHolder(siteOf(QApplication::focusWidget()));
+    {
+        const Telling telling(reason);
+        leaveHolder(siteOf(QApplication::focusWidget()));
+    }
+    // From what stands in something that is disabled Qt takes the focus, and gives it to nobody.
+    if (!field.takesFocus() && field.widget().window()->focusWidget() == nullptr) passOn(field);
+}
+
+void passOn(ChildField& field) {
+    QWidget& widget = field.widget();
+    ChildField* const shown = field.site().activeField();
+    const bool stays = shown != nullptr && shown != &field && shown->takesFocus();
+    QWidget* const heir = stays ? &shown->widget() : nextByTab(widget);
+    if (heir == nullptr || isChanging()) widget.clearFocus();
+    if (heir != nullptr) focusWidget(*heir, stays ? Qt::OtherFocusReason : Qt::TabFocusReason);
 }
 
 void forget(const ChildField& field) {

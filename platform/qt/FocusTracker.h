@@ -15,6 +15,10 @@ namespace focus {
 void arrived(ChildField& field, Qt::FocusReason reason);
 void departed(ChildField& field, Qt::FocusReason reason);
 
+/// From a field that can have it no longer: into the one that has taken its place in the same control, else on as by
+/// Tab. Nowhere when nothing else takes it.
+void passOn(ChildField& field);
+
 /// The field or the control is about to go, without a word to anybody.
 void forget(const ChildField& field);
 void forget(const ControlSite& site);

@@ -95,6 +95,8 @@ void KelControlWidget::resizeEvent(QResizeEvent* /*event*/) { Site_->resized(); 
 
 void KelControlWidget::showEvent(QShowEvent* /*event*/) { Site_->shown(); }
 
+void KelControlWidget::hideEvent(QHideEvent* /*event*/) { Site_->hidden(); }
+
 void KelControlWidget::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     Site_->paint(painter);

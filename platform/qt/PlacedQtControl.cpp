@@ -1,14 +1,17 @@
 #include "platform/qt/PlacedQtControl.h"
 
 #include "platform/qt/ChildField.h"
+#include "platform/qt/FocusWay.h"
 #include "platform/qt/TextBridge.h"
-#include "platform/qt/WidgetLook.h"
 
 namespace kel::qt {
 
-PlacedQtControl::PlacedQtControl(const ClassModel& model, const Placement& placement, const Surroundings& surroundings,
-                                 ControlObserver& observer, QWidget& parent)
-    : KelControlWidget(model, surroundings, &parent), Observer_(observer), Placement_(placement) {
+PlacedQtControl::PlacedQtControl(const ClassModel& model, const Placement& placement, std::size_t order,
+                                 const Surroundings& surroundings, ControlObserver& observer, QWidget& parent)
+    : KelControlWidget(model, surroundings, &parent),
+      TabStop(placement.tabIndex, order, placement.tabStop),
+      Observer_(observer),
+      Placement_(placement) {
     setObjectName(toQString(placement.name));
     if (!placement.tabStop) site().leaveTabOrder();
     if (!placement.visible) hide();
@@ -27,7 +30,7 @@ void PlacedQtControl::setBounds(const Rect& bounds) {
 }
 
 void PlacedQtControl::takeFocus() {
-    if (site().takesFocus()) qt::focusWidget(site().activeField()->widget());
+    if (site().activeField() != nullptr) qt::focusWidget(site().activeField()->widget());
 }
 
 }  // namespace kel::qt

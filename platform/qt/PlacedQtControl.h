@@ -1,16 +1,18 @@
 #pragma once
 
 #include "forms/Home.h"
+#include "host/focus/TabOrder.h"
 #include "platform/qt/ControlSite.h"
 #include "platform/qt/KelControlWidget.h"
 
 namespace kel::qt {
 
 /// A control on a form's window, of whichever class.
-class PlacedQtControl final : public KelControlWidget, public PlacedControl {
+class PlacedQtControl final : public KelControlWidget, public PlacedControl, public TabStop {
 public:
-    PlacedQtControl(const ClassModel& model, const Placement& placement, const Surroundings& surroundings,
-                    ControlObserver& observer, QWidget& parent);
+    /// `order` counts the controls placed before.
+    PlacedQtControl(const ClassModel& model, const Placement& placement, std::size_t order,
+                    const Surroundings& surroundings, ControlObserver& observer, QWidget& parent);
 
     Control& control() override { return KelControlWidget::control(); }
     const std::u16string& name() const override { return Placement_.name; }
@@ -19,12 +21,12 @@ public:
     std::u16string toolTipText() const override { return site().toolTipText(); }
     void setToolTipText(std::u16string_view text) override { site().setToolTipText(text); }
 
-    const Placement& placement() const { return Placement_; }
     /// The control's `Show`, whether or not the form lets it be seen.
     void showControl() { site().shown(); }
     /// As code gives it: a disabled field does not take it.
     void takeFocus();
-    bool hasField() const { return site().activeField() != nullptr; }
+    bool hasField() const override { return site().activeField() != nullptr; }
+    bool takesFocus() const override { return site().takesFocus(); }
     void tabAfter(const PlacedQtControl& before) { site().tabAfter(before.site()); }
     bool owns(const QWidget& widget) const { return site().owns(widget); }
 

@@ -2,7 +2,7 @@
 
 #include "host/Widgets.h"
 #include "platform/qt/ChildField.h"
-#include "platform/qt/FocusTracker.h"
+#include "platform/qt/FocusWay.h"
 #include "platform/qt/QtTextual.h"
 
 namespace kel::qt {
@@ -20,7 +20,10 @@ public:
     void setBackColor(Color color) override { setColors({color, Colors_.fore}); }
 
     void setEnabled(bool enabled) override {
-        if (!enabled) giveUpFocus();
+        // Whoever hears of the focus that goes finds the field as it will be.
+        widget().setAttribute(Qt::WA_ForceDisabled, !enabled);
+        if (!enabled) this->giveUpFocus();
+        if (enabled != this->enabled()) return;  // a handler has put it again
         QtTextual<Interface, ChildField>::setEnabled(enabled);
         site().fieldEnabled(*this, enabled);
     }
@@ -46,16 +49,9 @@ protected:
     template <class Show>
     void changeVisible(bool visible, Show show) {
         Visible_ = visible;
-        if (!visible) giveUpFocus();
+        if (!visible) this->giveUpFocus();
         show();
         if (visible) site().fieldShown(*this);
-    }
-
-    /// For fields that can have it no longer. Qt would hand it on to the next widget, and say nothing while the
-    /// window is inactive.
-    void giveUpFocus() {
-        if (widget().window()->focusWidget() == &widget()) widget().clearFocus();
-        focus::departed(*this, Qt::OtherFocusReason);
     }
 
 private:

@@ -1,6 +1,5 @@
 #include "platform/qt/QtFormWindow.h"
 
-#include <algorithm>
 #include <QEvent>
 #include <QLabel>
 #include <QWidget>
@@ -52,8 +51,9 @@ QWidget& QtFormWindow::parentOf(const Placement& placement) const {
 }
 
 PlacedControl& QtFormWindow::place(const ClassModel& model, const Placement& placement, ControlObserver& observer) {
-    Controls_.push_back(
-        std::make_unique<PlacedQtControl>(model, placement, Surroundings_, observer, parentOf(placement)));
+    Controls_.push_back(std::make_unique<PlacedQtControl>(model, placement, Controls_.size(), Surroundings_, observer,
+                                                          parentOf(placement)));
+    Order_.add(*Controls_.back());
     return *Controls_.back();
 }
 
@@ -78,28 +78,19 @@ void QtFormWindow::show() {
 }
 
 void QtFormWindow::setTabOrder() {
-    std::vector<PlacedQtControl*> order;
-    order.reserve(Controls_.size());
-    for (const auto& control : Controls_)
-        if (control->hasField()) order.push_back(control.get());
-    std::stable_sort(order.begin(), order.end(), [](const PlacedQtControl* one, const PlacedQtControl* other) {
-        return one->placement().tabIndex < other->placement().tabIndex;
-    });
-    for (std::size_t i = 1; i < order.size(); ++i) order[i]->tabAfter(*order[i - 1]);
+    PlacedQtControl* before = nullptr;
+    for (TabStop* const stop : Order_.sorted()) {
+        auto* const control = static_cast<PlacedQtControl*>(stop);
+        if (!control->hasField()) continue;
+        if (before != nullptr) control->tabAfter(*before);
+        before = control;
+    }
 }
 
 /// The mnemonic of a plain label leads to the control that comes next.
 void QtFormWindow::befriendLabels() {
-    for (const Caption& caption : Captions_) {
-        PlacedQtControl* next = nullptr;
-        for (const auto& control : Controls_) {
-            if (!control->hasField()) continue;
-            const std::int32_t tabIndex = control->placement().tabIndex;
-            if (tabIndex > caption.tabIndex && (next == nullptr || tabIndex < next->placement().tabIndex))
-                next = control.get();
-        }
-        caption.label->setBuddy(next);
-    }
+    for (const Caption& caption : Captions_)
+        caption.label->setBuddy(static_cast<PlacedQtControl*>(Order_.namedBy(caption.tabIndex)));
 }
 
 }  // namespace kel::qt

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "forms/Home.h"
+#include "host/focus/TabOrder.h"
 #include "platform/qt/ControlSite.h"
 
 class QLabel;
@@ -47,6 +48,7 @@ private:
 
     Surroundings Surroundings_;
     std::unique_ptr<QWidget> Window_;
+    TabOrder Order_;
     std::vector<std::unique_ptr<PlacedPanel>> Panels_;
     std::vector<Caption> Captions_;                           ///< plain labels, which name the next control
     std::vector<std::unique_ptr<PlacedQtControl>> Controls_;  ///< last: they stand on the window

@@ -104,7 +104,7 @@ void QtFormWindow::focus(PlacedControl& control) {
 
 void QtFormWindow::click(PlacedControl& control, std::int32_t position) {
     activate();
-    if (EditBox* const box = editBoxOf(control)) {
+    if (EditBox* const box = editBoxOf(control); box != nullptr && box->field().widget().isVisible()) {
         const QPointer<QWidget> area = &box->mouseArea();
         closePopups();
         giveFocusByClick(box->field().widget());
@@ -123,7 +123,7 @@ void QtFormWindow::click(PlacedControl& control, std::int32_t position) {
 void QtFormWindow::rightClick(PlacedControl& control) {
     const QPointer<QWidget> window = Window_.get();
     activate();
-    if (EditBox* const box = editBoxOf(control)) {
+    if (EditBox* const box = editBoxOf(control); box != nullptr && box->field().widget().isVisible()) {
         const QPointer<QWidget> area = &box->mouseArea();
         closePopups();
         giveFocusByClick(box->field().widget());
@@ -131,7 +131,7 @@ void QtFormWindow::rightClick(PlacedControl& control) {
         if (!area.isNull()) sendMenu(*area);
         closePopups();
         if (!area.isNull()) sendMouse(*area, QEvent::MouseButtonRelease, Qt::RightButton);
-    } else if (QtCheckBox* const check = checkBoxOf(control)) {
+    } else if (QtCheckBox* const check = checkBoxOf(control); check != nullptr && check->isVisible()) {
         closePopups();
         giveFocusByClick(*check);
     }

@@ -1,9 +1,7 @@
 #include "platform/qt/WidgetLook.h"
 
-#include <QApplication>
+#include <QWidget>
 
-#include "platform/qt/ComboList.h"
-#include "platform/qt/FocusTracker.h"
 #include "platform/qt/TextBridge.h"
 
 namespace kel::qt {
@@ -25,18 +23,6 @@ void setWidgetToolTip(QWidget& widget, std::u16string_view text) {
 
 void colorWidget(QWidget& widget, const FieldColors& colors) {
     widget.setPalette(fieldPalette(colors, widget.parentWidget()->palette()));
-}
-
-void focusWidget(QWidget& widget) {
-    if (!focus::isChanging()) {
-        // An open list would keep the keys, and its box the focus.
-        auto* const list = dynamic_cast<ComboList*>(QApplication::activePopupWidget());
-        if (list != nullptr && !widget.hasFocus()) list->close();
-        widget.setFocus(Qt::OtherFocusReason);
-        return;
-    }
-    QMetaObject::invokeMethod(
-        &widget, [&widget] { widget.setFocus(Qt::OtherFocusReason); }, Qt::QueuedConnection);
 }
 
 }  // namespace kel::qt

@@ -17,7 +17,4 @@ void setWidgetFont(QWidget& widget, const QFont& font);
 void setWidgetToolTip(QWidget& widget, std::u16string_view text);
 void colorWidget(QWidget& widget, const FieldColors& colors);
 
-/// Gives it the focus; after the change of focus that is under way, if there is one.
-void focusWidget(QWidget& widget);
-
 }  // namespace kel::qt

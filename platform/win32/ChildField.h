@@ -88,7 +88,7 @@ public:
     /// The window of the field has got the focus, or has lost it to `next`.
     virtual void arrived(ChildField& field) = 0;
     virtual void departed(ChildField& field, HWND next) = 0;
-    /// The focus goes nowhere when it is in `window`, and a mouse button held there counts as released.
+    /// The focus goes on when it is in `window`, and a mouse button held there counts as released.
     virtual void takeInputFrom(HWND window) = 0;
 
     virtual void setToolTip(HWND field, const wchar_t* text) = 0;

@@ -23,6 +23,10 @@ public:
     /// The focus has gone to a window outside the control; said after the child widget told its listener.
     virtual void focusLeft() = 0;
 
+    /// The field that has the focus can have it no longer. It goes to another field of the control where one shows in
+    /// its place, else on to the host's next control, as by Tab. Where it stays, the field drops it.
+    virtual void passFocusOn() = 0;
+
     /// The control looks other than it did: where the host paints its picture itself, it is out of date.
     virtual void viewChanged() = 0;
 

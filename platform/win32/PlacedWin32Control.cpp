@@ -2,18 +2,19 @@
 
 #include "platform/win32/Win32ComboBox.h"
 #include "platform/win32/Win32ControlWindow.h"
+#include "platform/win32/Win32FormWindow.h"
 #include "platform/win32/Win32UpDown.h"
 
 namespace kel::win32 {
 
 PlacedWin32Control::PlacedWin32Control(const ClassModel& model, const Placement& placement, std::size_t order,
                                        ControlObserver& observer, const Surroundings& surroundings)
-    : Observer_(observer),
+    : TabStop(placement.tabIndex, order, placement.tabStop),
+      Observer_(observer),
+      Form_(surroundings.form),
       Grid_(surroundings.system.twipsPerPixel()),
       Name_(placement.name),
-      Bounds_(placement.bounds),
-      TabPlace_{placement.tabIndex, order},
-      TabStop_(placement.tabStop) {
+      Bounds_(placement.bounds) {
     ControlWindowOwner& owner = *this;
     Window_ = std::make_unique<Win32ControlWindow>(owner, surroundings.system, surroundings.clipboard);
     Window_->setParent(surroundings.parent);
@@ -74,6 +75,8 @@ void PlacedWin32Control::focusEntered() {
 void PlacedWin32Control::focusLeft() {
     if (Control_) Control_->ExitFocus();
 }
+
+void PlacedWin32Control::passFocusOn() { Form_.passFocusOn(*this); }
 
 HWND PlacedWin32Control::focusTarget() const {
     const auto* const field = dynamic_cast<ChildField*>(Control_->widgets().field);

@@ -3,9 +3,9 @@
 #include <cstddef>
 #include <memory>
 #include <string>
-#include <utility>
 
 #include "forms/Home.h"
+#include "host/focus/TabOrder.h"
 #include "platform/win32/ControlWindow.h"
 #include "platform/win32/TwipGrid.h"
 
@@ -15,13 +15,11 @@ class Clipboard;
 class EditedField;
 class Win32ComboBox;
 class Win32ControlWindow;
+class Win32FormWindow;
 class Win32UpDown;
 
-/// When the Tab key comes to a control: by tab index, equal ones in the order they were placed.
-using TabPlace = std::pair<std::int32_t, std::size_t>;
-
 /// A control with everything it stands on: its place on the form, its container, its window.
-class PlacedWin32Control final : public PlacedControl, private Container, private ControlWindowOwner {
+class PlacedWin32Control final : public PlacedControl, public TabStop, private Container, private ControlWindowOwner {
 public:
     struct Surroundings {
         System& system;
@@ -29,6 +27,7 @@ public:
         const RegionalSettings& region;
         std::shared_ptr<Clipboard> clipboard;
         HWND parent;
+        Win32FormWindow& form;
     };
 
     /// `order` counts the controls placed before.
@@ -46,8 +45,8 @@ public:
     ControlWindow& window() const;
     /// The form is on a screen of another resolution.
     void setGrid(const TwipGrid& grid);
-    const TabPlace& tabPlace() const { return TabPlace_; }
-    bool tabStop() const { return TabStop_; }
+    bool hasField() const override { return Control_->widgets().field != nullptr; }
+    bool takesFocus() const override { return focusTarget() != nullptr; }
 
     /// The window of the field, where it can take the focus; nullptr where not.
     HWND focusTarget() const;
@@ -76,18 +75,18 @@ private:
     void letGo() override {}
     void focusEntered() override;
     void focusLeft() override;
+    void passFocusOn() override;
     void viewChanged() override {}
     void mnemonicChanged() override {}
 
     void showPlace();
 
     ControlObserver& Observer_;
+    Win32FormWindow& Form_;
     TwipGrid Grid_;
     std::u16string Name_;
     std::u16string ToolTipText_;
     Rect Bounds_;
-    TabPlace TabPlace_;
-    bool TabStop_;
     bool Enabled_ = true;
     bool Sized_ = false;
     std::unique_ptr<Win32ControlWindow> Window_;

@@ -143,7 +143,7 @@ void Win32ControlWindow::setParent(HWND parent) {
     if (Window_ == nullptr) {
         makeWindow(parent != nullptr ? parent : parkingWindow());
     } else {
-        if (parent == nullptr) takeInputFrom(Window_);
+        if (parent == nullptr) dropInputOf(Window_);
         SetParent(Window_, parent != nullptr ? parent : parkingWindow());
     }
     if (parent != nullptr && Parking_ != nullptr) DestroyWindow(std::exchange(Parking_, nullptr));
@@ -166,7 +166,7 @@ void Win32ControlWindow::place(const RECT& bounds, const RECT& clip) {
 
 void Win32ControlWindow::setVisible(bool visible) {
     Visible_ = visible;
-    if (!visible) takeInputFrom(Window_);
+    if (!visible) dropInputOf(Window_);
     if (Window_ != nullptr) ShowWindow(Window_, visible ? SW_SHOWNA : SW_HIDE);
 }
 
@@ -174,6 +174,7 @@ void Win32ControlWindow::setEnabled(bool enabled) {
     if (enabled == Enabled_) return;
     Enabled_ = enabled;
     if (!enabled) takeInputFrom(Window_);
+    if (enabled != Enabled_) return;  // a handler has put it again
     for (ChildWidget* const widget : Widgets_) widget->frameEnabledChanged();
     if (Window_ == nullptr) return;
     EnableWindow(Window_, enabled);
@@ -221,6 +222,13 @@ void Win32ControlWindow::pressMnemonic() {
 bool Win32ControlWindow::hasFocus() const { return Window_ != nullptr && isIn(Window_, GetFocus()); }
 
 void Win32ControlWindow::takeInputFrom(HWND window) {
+    if (window == nullptr) return;
+    if (isIn(window, GetFocus())) Owner_.passFocusOn();
+    dropInputOf(window);
+}
+
+/// Where its host takes the control away, the host knows where the focus goes.
+void Win32ControlWindow::dropInputOf(HWND window) const {
     if (window == nullptr) return;
     if (isIn(window, GetCapture())) ReleaseCapture();
     if (isIn(window, GetFocus())) SetFocus(nullptr);

@@ -59,6 +59,7 @@ private:
     void arrived(ChildField& field) override { Focus_.arrived(Window_, field); }
     void departed(ChildField& /*field*/, HWND next) override { Focus_.departed(Window_, next); }
     void takeInputFrom(HWND window) override;
+    void dropInputOf(HWND window) const;
     void setToolTip(HWND field, const wchar_t* text) override;
     void setLabel(Win32Label* label) override;
     void captionChanged() override;

@@ -17,7 +17,7 @@ public:
         if (visible == Visible_) return;
         Visible_ = visible;
         if (!visible) this->frame().takeInputFrom(wholeWindow());
-        if (wholeWindow() != nullptr) ShowWindow(wholeWindow(), visible ? SW_SHOWNA : SW_HIDE);
+        if (wholeWindow() != nullptr) ShowWindow(wholeWindow(), Visible_ ? SW_SHOWNA : SW_HIDE);
         this->frame().fieldShown();
     }
 

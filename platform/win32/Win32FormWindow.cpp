@@ -72,8 +72,10 @@ HWND Win32FormWindow::parentOf(const Placement& placement) const {
 PlacedControl& Win32FormWindow::place(const ClassModel& model, const Placement& placement, ControlObserver& observer) {
     Controls_.push_back(std::make_unique<PlacedWin32Control>(
         model, placement, Controls_.size(), observer,
-        PlacedWin32Control::Surroundings{System_, Settings_, Region_, Session_.clipboard(), parentOf(placement)}));
+        PlacedWin32Control::Surroundings{System_, Settings_, Region_, Session_.clipboard(), parentOf(placement),
+                                         *this}));
     PlacedWin32Control& placed = *Controls_.back();
+    Order_.add(placed);
     placed.control().Initialize();
     return placed;
 }
@@ -113,9 +115,10 @@ void Win32FormWindow::setForeignFont() {
 
 // ---- Focus
 
-PlacedWin32Control* Win32FormWindow::focusedControl() const {
-    const auto found = std::find_if(Controls_.begin(), Controls_.end(),
-                                    [](const auto& control) { return control->window().hasFocus(); });
+PlacedWin32Control* Win32FormWindow::controlOf(HWND window) const {
+    const auto found = std::find_if(Controls_.begin(), Controls_.end(), [window](const auto& control) {
+        return window != nullptr && IsChild(control->window().handle(), window) != FALSE;
+    });
     return found != Controls_.end() ? found->get() : nullptr;
 }
 
@@ -128,31 +131,13 @@ void Win32FormWindow::moveByTab(bool back) {
     const PlacedWin32Control* const holder = focusedControl();
     // Also where the focus has nowhere to go and stays.
     if (Win32ComboBox* const box = holder != nullptr ? holder->comboBox() : nullptr) box->showDropDown(false);
-    if (PlacedWin32Control* const next = nextByTab(back)) giveFocus(next->focusTarget(), true);
+    if (TabStop* const next = Order_.next(holder, back))
+        giveFocus(static_cast<PlacedWin32Control*>(next)->focusTarget(), true);
 }
 
-/// From where the focus is through all others and around; from nowhere the first or the last.
-PlacedWin32Control* Win32FormWindow::nextByTab(bool back) const {
-    std::vector<PlacedWin32Control*> way;
-    for (const auto& control : Controls_) way.push_back(control.get());
-    std::sort(way.begin(), way.end(), [back](const PlacedWin32Control* one, const PlacedWin32Control* other) {
-        return back ? other->tabPlace() < one->tabPlace() : one->tabPlace() < other->tabPlace();
-    });
-    const auto from = std::find(way.begin(), way.end(), focusedControl());
-    if (from != way.end()) std::rotate(way.begin(), from + 1, way.end());
-    const auto next = std::find_if(way.begin(), way.end(), [](const PlacedWin32Control* control) {
-        return control->tabStop() && control->focusTarget() != nullptr;
-    });
-    return next != way.end() ? *next : nullptr;
-}
-
-PlacedWin32Control* Win32FormWindow::namedBy(const Caption& caption) const {
-    PlacedWin32Control* next = nullptr;
-    for (const auto& control : Controls_) {
-        const std::int32_t tabIndex = control->tabPlace().first;
-        if (tabIndex > caption.tabIndex && (next == nullptr || tabIndex < next->tabPlace().first)) next = control.get();
-    }
-    return next;
+void Win32FormWindow::passFocusOn(PlacedWin32Control& from) {
+    if (TabStop* const next = Order_.afterBarred(from))
+        giveFocus(static_cast<PlacedWin32Control*>(next)->focusTarget(), next != &from);
 }
 
 bool Win32FormWindow::pressMnemonic(char16_t character) {
@@ -162,9 +147,9 @@ bool Win32FormWindow::pressMnemonic(char16_t character) {
         return true;
     }
     for (const Caption& caption : Captions_) {
-        PlacedWin32Control* const control = isSameLetter(caption.mnemonic, character) ? namedBy(caption) : nullptr;
-        if (control == nullptr) continue;
-        control->window().setFocus();
+        TabStop* const named = isSameLetter(caption.mnemonic, character) ? Order_.namedBy(caption.tabIndex) : nullptr;
+        if (named == nullptr) continue;
+        static_cast<PlacedWin32Control*>(named)->window().setFocus();
         return true;
     }
     return false;
@@ -214,8 +199,18 @@ void Win32FormWindow::activated(WPARAM state) {
     }
     Session_.activate(*this);
     if (HIWORD(state) != 0) return;
-    const bool canHaveIt = IsChild(Window_, FocusBefore_) != FALSE && IsWindowEnabled(FocusBefore_) != FALSE;
-    SetFocus(canHaveIt ? FocusBefore_ : Window_);
+    if (canHaveFocusAgain(FocusBefore_)) {
+        SetFocus(FocusBefore_);
+        return;
+    }
+    SetFocus(Window_);
+    if (PlacedWin32Control* const before = controlOf(FocusBefore_)) passFocusOn(*before);
+}
+
+bool Win32FormWindow::canHaveFocusAgain(HWND window) const {
+    if (IsChild(Window_, window) == FALSE) return false;
+    const PlacedWin32Control* const control = controlOf(window);
+    return control != nullptr ? control->focusTarget() == window : IsWindowEnabled(window) != FALSE;
 }
 
 LRESULT Win32FormWindow::handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) {

@@ -37,6 +37,8 @@ public:
 
     /// Keys that are the form's own: Tab, and Alt with a mnemonic.
     bool takesKey(const MSG& message);
+    /// The control has the focus, and its field can have it no longer.
+    void passFocusOn(PlacedWin32Control& from);
     /// Presses and releases a key behind what is under way.
     void sendKey(std::int16_t code);
 
@@ -60,12 +62,12 @@ private:
 
     HWND parentOf(const Placement& placement) const;
     void setForeignFont();
-    PlacedWin32Control* focusedControl() const;
+    PlacedWin32Control* controlOf(HWND window) const;
+    PlacedWin32Control* focusedControl() const { return controlOf(GetFocus()); }
     void moveByTab(bool back);
-    PlacedWin32Control* nextByTab(bool back) const;
     bool pressMnemonic(char16_t character);
-    PlacedWin32Control* namedBy(const Caption& caption) const;
     void giveFocus(HWND field, bool byTab);
+    bool canHaveFocusAgain(HWND window) const;
 
     void activate();
     HWND keyTarget() const;
@@ -81,6 +83,7 @@ private:
     Font Font_;
     HWND Window_ = nullptr;
     HWND FocusBefore_ = nullptr;  ///< which had the focus when another window came in front
+    TabOrder Order_;
     std::vector<Foreign> Foreign_;
     std::vector<Caption> Captions_;
     std::vector<std::unique_ptr<PlacedPanel>> Panels_;

@@ -46,8 +46,14 @@ TEST(TabOrder, GoesByIndexAroundPastWhatTakesNoFocus) {
     hidden.visible = false;
     Placement noStop = tabAt(5);
     noStop.tabStop = false;
+    ForeignBlock panel;
+    panel.kind = ForeignBlock::Kind::Panel;
+    panel.placement.visible = false;
+    Placement inHidden = tabAt(1);
+    inHidden.parent = form.window().placeForeign(panel);
     form.place(u"last", ProbeControl::SingleLine, tabAt(9));
     form.place(u"hidden", ProbeControl::SingleLine, hidden);
+    form.place(u"inHidden", ProbeControl::SingleLine, inHidden);
     form.place(u"first", ProbeControl::SingleLine, tabAt(1));
     PlacedControl& byHand = form.place(u"byHand", ProbeControl::SingleLine, noStop);
     form.place(u"second", ProbeControl::SingleLine, tabAt(1));
@@ -90,7 +96,7 @@ TEST_F(Focus, StaysWhereNothingElseTakesIt) {
     EXPECT_EQ(log(), "");
 }
 
-TEST_F(Focus, LeavesWhatIsDisabledOrHidden) {
+TEST_F(Focus, GoesOnFromWhatIsDisabledOrHidden) {
     const std::function<void()> bars[] = {
         [this] { a().box().setEnabled(false); },
         [this] { a().box().setVisible(false); },
@@ -102,11 +108,17 @@ TEST_F(Focus, LeavesWhatIsDisabledOrHidden) {
         Window.focus(A);
         log();
         bar();
-        EXPECT_EQ(log(), "a.LostFocus a.ExitFocus");
-        EXPECT_EQ(Form.focused(), "nowhere");
-        press(Window, "'x'");
-        EXPECT_EQ(log(), "") << "keys go nowhere";
+        EXPECT_EQ(log(), "a.LostFocus a.ExitFocus b.EnterFocus b.GotFocusByTab");
+        EXPECT_FALSE(Form.home().system().tabKeyDown());
     }
+    b().box().setVisible(false);
+    log();
+    c().box().setEnabled(false);
+    EXPECT_EQ(log(), "c.LostFocus c.ExitFocus") << "nothing else takes it";
+    b().box().setFocus();
+    press(Window, "'x'");
+    EXPECT_EQ(log(), "") << "keys go nowhere";
+    EXPECT_EQ(Form.focused(), "nowhere");
 }
 
 TEST_F(Focus, HandlersMayMoveIt) {
@@ -129,11 +141,12 @@ TEST_F(Focus, HandlersMayMoveIt) {
         {"sent on by the field entered", b(), "GotFocusByTab", [this] { Window.focus(C); },
          "a.LostFocus a.ExitFocus b.EnterFocus b.GotFocusByTab b.LostFocus b.ExitFocus c.EnterFocus c.GotFocus", "c"},
         {"disabled before it came", a(), "LostFocus", [this] { b().box().setEnabled(false); },
-         "a.LostFocus a.ExitFocus", "nowhere"},
+         "a.LostFocus a.ExitFocus c.EnterFocus c.GotFocusByTab", "c"},
         {"disabled on entering", b(), "EnterFocus", [this] { b().host().container.setEnabled(false); },
-         "a.LostFocus a.ExitFocus b.EnterFocus b.ExitFocus", "nowhere"},
+         "a.LostFocus a.ExitFocus b.EnterFocus b.ExitFocus c.EnterFocus c.GotFocusByTab", "c"},
         {"hidden as soon as it has it", b(), "GotFocusByTab", [this] { b().box().setVisible(false); },
-         "a.LostFocus a.ExitFocus b.EnterFocus b.GotFocusByTab b.LostFocus b.ExitFocus", "nowhere"},
+         "a.LostFocus a.ExitFocus b.EnterFocus b.GotFocusByTab b.LostFocus b.ExitFocus c.EnterFocus c.GotFocusByTab",
+         "c"},
     };
     for (const Case& row : rows) {
         SCOPED_TRACE(row.what);

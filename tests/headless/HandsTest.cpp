@@ -68,9 +68,9 @@ TEST_F(Hands, HandlersOfAKeyMayDoAnythingToTheBox) {
     };
     const Case rows[] = {
         {"disabled on key-down", "KeyDown", [this] { Box.setEnabled(false); }, "a[b]c",
-         "a.KeyDown a.LostFocus a.ExitFocus"},
+         "a.KeyDown a.LostFocus a.ExitFocus b.EnterFocus b.GotFocusByTab"},
         {"hidden on key-press", "KeyPress", [this] { Box.setVisible(false); }, "a[b]c",
-         "a.KeyDown a.KeyPress a.LostFocus a.ExitFocus"},
+         "a.KeyDown a.KeyPress a.LostFocus a.ExitFocus b.EnterFocus b.GotFocusByTab"},
         {"locked on key-press", "KeyPress", [this] { Box.setLocked(true); }, "a[b]c", "a.KeyDown a.KeyPress"},
         {"focus moved on key-press", "KeyPress", [this] { B.control().widgets().field->setFocus(); }, "aq|c",
          "a.KeyDown a.KeyPress a.LostFocus a.ExitFocus b.EnterFocus b.GotFocus a.Change"},
@@ -89,7 +89,7 @@ TEST_F(Hands, HandlersOfAKeyMayDoAnythingToTheBox) {
          },
          "awq|c", "a.KeyDown a.KeyPress a.KeyPress a.Change a.Change"},
         {"disabled on change", "Change", [this] { Control.host().container.setEnabled(false); }, "aq|c",
-         "a.KeyDown a.KeyPress a.Change a.LostFocus a.ExitFocus"},
+         "a.KeyDown a.KeyPress a.Change a.LostFocus a.ExitFocus b.EnterFocus b.GotFocusByTab"},
     };
     for (const Case& row : rows) {
         SCOPED_TRACE(row.what);
@@ -111,7 +111,7 @@ TEST_F(Hands, HandlersOfAKeyMayDoAnythingToTheBox) {
 TEST_F(Hands, AFieldDisabledByThePressIsNotClicked) {
     Control.on("MouseDown", [this] { Box.setEnabled(false); });
     Window.click(A, 0);
-    EXPECT_EQ(log(), "a.EnterFocus a.GotFocus a.MouseDown a.LostFocus a.ExitFocus");
+    EXPECT_EQ(log(), "a.EnterFocus a.GotFocus a.MouseDown a.LostFocus a.ExitFocus b.EnterFocus b.GotFocusByTab");
     Window.click(A, 0);
     Window.rightClick(A);
     EXPECT_EQ(log(), "");
@@ -170,7 +170,7 @@ TEST_F(Hands, TheWheelIsForTheFieldWithTheFocus) {
     Window.turnWheel(B, -1);
     probe(B).box().setEnabled(false);
     Window.turnWheel(B, 1);
-    EXPECT_EQ(log(), "b.Wheel2 b.Wheel-1 b.LostFocus b.ExitFocus");
+    EXPECT_EQ(log(), "b.Wheel2 b.Wheel-1 b.LostFocus b.ExitFocus a.EnterFocus a.GotFocusByTab");
 }
 
 TEST_F(Hands, ADropTakesTheFocusAndPastes) {

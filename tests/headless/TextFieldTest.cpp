@@ -40,11 +40,6 @@ TEST_F(TextField, EnterMovesOnAsTabDoes) {
     EXPECT_EQ(Form.focused(), "b");
     EXPECT_EQ(looks(A), "|x");
     EXPECT_EQ(looks(B), "[second]");
-    B.put_MultiLine(true);
-    EXPECT_EQ(Form.focused(), "nowhere") << "the box that had the focus is hidden";
-    press(Window, "Shift+Tab Enter");
-    EXPECT_EQ(Form.focused(), "b");
-    EXPECT_EQ(looks(B), "\r\n|");
 }
 
 TEST(UnloadedFields, HaveARuntimeObjectToMoveOnAndATooltipOfTheirOwn) {
@@ -68,16 +63,6 @@ TEST_F(TextField, OverwritingReplacesOneCharacterAStep) {
     EXPECT_EQ(A.get_Text(), u"xbc");
     press(Window, "End 'de' Ctrl+Z");
     EXPECT_EQ(looks(A), "xbc|") << "behind the text it is plain typing";
-}
-
-TEST_F(TextField, DisabledWhileItHasTheFocus) {
-    press(Window, "Tab 'x'");
-    A.put_Enabled(false);
-    EXPECT_EQ(Form.focused(), "nowhere");
-    EXPECT_EQ(A.widgets().field->backColor(), Form.home().settings().FieldBackLocked);
-    press(Window, "Tab");
-    EXPECT_EQ(Form.focused(), "b");
-    EXPECT_EQ(B.widgets().field->backColor(), Form.home().settings().FieldBackFocus);
 }
 
 }  // namespace

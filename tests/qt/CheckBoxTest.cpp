@@ -224,9 +224,8 @@ TEST_F(Check, AnEventMayDoAnything) {
     EXPECT_EQ(form.takeLog(), "b.Change() b:Value ");
     form.onEvent = [this](PlacedControl&, const EventRow&) { check().put_Enabled(false); };
     form.window().click(checked, -1);
-    press(strokeFor(U' '));
     EXPECT_TRUE(check().get_Value());
-    EXPECT_EQ(form.window().focused(), nullptr);
+    EXPECT_NE(form.window().focused(), &checked);
     EXPECT_EQ(form.takeLog(), "b.Change() b:Enabled ");
 }
 

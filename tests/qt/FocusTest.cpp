@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <KelTextWidget.h>
+#include <functional>
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
@@ -130,16 +131,59 @@ TEST_F(MixedWindow, AFocusThatMovedWhileTheWindowWasAwayHasLeft) {
     EXPECT_FALSE(hasFocusColor(first));
 }
 
-TEST_F(MixedWindow, DisablingTakesTheFocusAwayAltogether) {
+TEST_F(MixedWindow, GoesOnFromWhatIsDisabledOrHidden) {
+    QWidget group(&window);
+    KelTextWidget inside(&group);
+    KelTextWidget beside(&group);
+    window.layout()->addWidget(&group);
+    settle();
+    const auto selectAll = [this] { return second.control().widgets().entry->selLength(); };
+    second.setText(QStringLiteral("text"));
+    second.setSelectOnFocus(true);
+    between.setFocusPolicy(Qt::ClickFocus);
+    struct Case {
+        const char* what;
+        KelTextWidget& field;
+        QWidget& barred;
+        QWidget* next;
+    };
+    const Case cases[] = {
+        {"itself", first, first, boxOf(second)},
+        {"its group", inside, group, boxOf(first)},
+    };
+    for (const Case& row : cases) {
+        const std::pair<const char*, std::function<void(bool)>> bars[] = {
+            {"disabled", [&row](bool bar) { row.barred.setDisabled(bar); }},
+            {"hidden", [&row](bool bar) { row.barred.setHidden(bar); }},
+        };
+        for (const auto& [how, bar] : bars) {
+            row.field.setFocus();
+            ASSERT_TRUE(hasFocusColor(row.field));
+            bar(true);
+            settle();
+            EXPECT_EQ(QApplication::focusWidget(), row.next) << row.what << ' ' << how;
+            EXPECT_FALSE(hasFocusColor(row.field)) << row.what << ' ' << how;
+            row.field.setFocus();
+            row.field.control().widgets().field->setFocus();
+            settle();
+            EXPECT_NE(QApplication::focusWidget(), boxOf(row.field)) << "by code neither: " << row.what << ' ' << how;
+            bar(false);
+        }
+    }
     first.setFocus();
-    QWidget* const plain = &first;
-    plain->setEnabled(false);
-    EXPECT_EQ(first.control().widgets().field->backColor(), qt::defaultHome().settings().FieldBackLocked);
-    EXPECT_NE(QApplication::focusWidget(), boxOf(first));
+    first.setEnabled(false);
+    EXPECT_EQ(selectAll(), 4) << "as by Tab";
 
-    second.setFocus();
-    second.setMultiLine(true);
-    EXPECT_EQ(QApplication::focusWidget(), nullptr) << "the box that had it is hidden";
+    for (const bool multiLine : {true, false}) {
+        second.setFocus();
+        second.setMultiLine(multiLine);
+        EXPECT_EQ(QApplication::focusWidget(), boxOf(second)) << "its other box takes over";
+        EXPECT_TRUE(hasFocusColor(second));
+    }
+    behind.setEnabled(false);
+    group.setEnabled(false);
+    second.setEnabled(false);
+    EXPECT_EQ(QApplication::focusWidget(), nullptr) << "nothing else takes it";
 }
 
 TEST_F(MixedWindow, MnemonicsLeadToTheField) {

@@ -58,6 +58,17 @@ void ClientSite::onFocus(bool has) const {
     if (const auto site = as<IOleControlSite>()) site->OnFocus(has ? TRUE : FALSE);
 }
 
+void ClientSite::pressTab(HWND window) const {
+    const auto site = as<IOleControlSite>();
+    if (!site) return;
+    MSG tab{};
+    tab.hwnd = window;
+    tab.message = WM_KEYDOWN;
+    tab.wParam = VK_TAB;
+    tab.lParam = 1 | static_cast<LPARAM>(MapVirtualKeyW(VK_TAB, MAPVK_VK_TO_VSC)) << 16;
+    site->TranslateAccelerator(&tab, 0);
+}
+
 void ClientSite::controlInfoChanged() const {
     if (const auto site = as<IOleControlSite>()) site->OnControlInfoChanged();
 }

@@ -26,6 +26,8 @@ public:
     void setToolTipText(std::u16string_view text) const;
 
     void onFocus(bool has) const;
+    /// The Tab key, as if it had been pressed in `window`.
+    void pressTab(HWND window) const;
     void controlInfoChanged() const;
     void saveObject() const;
 

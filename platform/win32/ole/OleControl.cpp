@@ -165,6 +165,14 @@ void OleControl::focusLeft() {
     Site_.onFocus(false);
 }
 
+/// The host alone knows its order of Tab: it is given the key.
+void OleControl::passFocusOn() {
+    if (Dying_) return;
+    HWND const field = GetFocus();
+    Window_->setFocus();
+    if (GetFocus() == field) Site_.pressTab(field);
+}
+
 void OleControl::viewChanged() {
     if (!Dying_ && !Activation_.inPlace()) View_.outOfDate();
 }

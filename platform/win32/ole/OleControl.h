@@ -81,6 +81,7 @@ private:
     void letGo() override;
     void focusEntered() override;
     void focusLeft() override;
+    void passFocusOn() override;
     void viewChanged() override;
     void mnemonicChanged() override;
 

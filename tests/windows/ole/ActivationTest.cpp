@@ -94,6 +94,11 @@ TEST(activation_keys_go_to_the_field_or_to_the_host) {
     EXPECT_CODE(active->TranslateAccelerator(&key), S_FALSE);
     EXPECT(host.called("TranslateAccelerator"));
     EXPECT_CODE(active->TranslateAccelerator(nullptr), E_POINTER);
+    // Only the host knows where the focus goes from a field that is disabled.
+    host.Calls.clear();
+    EXPECT_CODE(field->put_Enabled(VARIANT_FALSE), S_OK);
+    EXPECT(host.called("TranslateAccelerator"));
+    EXPECT(GetFocus() != key.hwnd);
 }
 
 TEST(activation_forces_its_height_on_the_host) {

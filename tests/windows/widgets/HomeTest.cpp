@@ -3,6 +3,8 @@
 #include "controls/check/KelCheck.h"
 #include "controls/Classes.h"
 #include "controls/combo/KelCombo.h"
+#include "controls/progress/KelProgressBar.h"
+#include "controls/text/KelText.h"
 #include "platform/win32/Win32Home.h"
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/widgets/Stage.h"
@@ -103,6 +105,8 @@ TEST(a_check_boxs_own_mnemonic_toggles_it_and_that_of_a_label_before_it_does_not
     window->placeForeign(label);
     Placement placement;
     placement.tabIndex = 1;
+    window->place(KelProgressBarModel, placement, observer);
+    placement.tabIndex = 2;
     PlacedControl& placed = window->place(KelCheckModel, placement, observer);
     auto& check = static_cast<KelCheck&>(placed.control());
     check.put_Caption(u"I &agree");
@@ -138,6 +142,29 @@ TEST(a_form_that_comes_in_front_again_gives_the_focus_back) {
     SetActiveWindow(GetAncestor(field, GA_ROOT));
     settle();
     EXPECT(GetFocus() == field);
+    EXPECT(form.window().focused() == &form.two());
+}
+
+TEST(a_field_that_is_disabled_or_turns_to_several_lines_hands_the_focus_on) {
+    TwoFields form;
+    auto& one = static_cast<KelText&>(form.one().control());
+    form.window().focus(form.one());
+    one.put_MultiLine(true);
+    EXPECT(form.window().focused() == &form.one());
+    EXPECT((GetWindowLongW(GetFocus(), GWL_STYLE) & ES_MULTILINE) != 0);
+    one.put_Enabled(false);
+    EXPECT(form.window().focused() == &form.two());
+    one.put_Enabled(true);
+    // Behind another window too.
+    form.window().focus(form.one());
+    HWND const root = GetAncestor(GetFocus(), GA_ROOT);
+    {
+        const HostWindow other;
+        settle();
+        one.put_Enabled(false);
+    }
+    SetActiveWindow(root);
+    settle();
     EXPECT(form.window().focused() == &form.two());
 }
 

@@ -44,6 +44,7 @@ private:
     void letGo() override {}
     void focusEntered() override;
     void focusLeft() override { tell(L"exit"); }
+    void passFocusOn() override {}
     void viewChanged() override {}
     void mnemonicChanged() override { tell(L"mnemonic"); }
 

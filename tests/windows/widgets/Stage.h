@@ -65,6 +65,7 @@ private:
     void letGo() override { --Held_; }
     void focusEntered() override { tell(L"enter"); }
     void focusLeft() override { tell(L"exit"); }
+    void passFocusOn() override {}
     void viewChanged() override {}
     void mnemonicChanged() override {}
 

@@ -1,0 +1,59 @@
+#include "host/focus/TabOrder.h"
+
+#include <algorithm>
+
+namespace kel {
+
+namespace {
+
+/// The Tab key's way from one control through all others and around.
+class TabWay {
+public:
+    TabWay(const TabStop* from, bool back) : From_(from), Back_(back) {}
+
+    bool reachesSooner(const TabStop& one, const TabStop& other) const {
+        if (wraps(one) != wraps(other)) return wraps(other);
+        return precedes(one, other);
+    }
+
+private:
+    bool precedes(const TabStop& one, const TabStop& other) const {
+        return Back_ ? other.tabPlace() < one.tabPlace() : one.tabPlace() < other.tabPlace();
+    }
+    bool wraps(const TabStop& stop) const { return From_ != nullptr && !precedes(*From_, stop); }
+
+    const TabStop* From_;
+    bool Back_;
+};
+
+}  // namespace
+
+TabStop* TabOrder::next(const TabStop* from, bool back) const {
+    const TabWay way(from, back);
+    TabStop* next = nullptr;
+    // Along the key's own way most others are found to come later, and need not be asked for their widgets.
+    for (std::size_t i = 0; i < Stops_.size(); ++i) {
+        TabStop* const stop = Stops_[back ? Stops_.size() - 1 - i : i];
+        if (stop == from || !stop->takesTab() || (next != nullptr && !way.reachesSooner(*stop, *next))) continue;
+        if (stop->takesFocus()) next = stop;
+    }
+    return next;
+}
+
+TabStop* TabOrder::namedBy(std::int32_t labelIndex) const {
+    TabStop* named = nullptr;
+    for (TabStop* const stop : Stops_) {
+        const bool isSooner = named == nullptr || stop->tabPlace() < named->tabPlace();
+        if (stop->tabPlace().first > labelIndex && isSooner && stop->hasField()) named = stop;
+    }
+    return named;
+}
+
+std::vector<TabStop*> TabOrder::sorted() const {
+    std::vector<TabStop*> stops = Stops_;
+    std::sort(stops.begin(), stops.end(),
+              [](const TabStop* one, const TabStop* other) { return one->tabPlace() < other->tabPlace(); });
+    return stops;
+}
+
+}  // namespace kel
