@@ -52,12 +52,6 @@ std::string padded(std::string text, std::size_t width) {
     return text;
 }
 
-const PersistedRow* persistedAs(const ClassModel& model, std::u16string_view name) {
-    const auto found = std::find_if(model.loaded.begin(), model.loaded.end(),
-                                    [name](const PersistedRow& row) { return row.name == name; });
-    return found == model.loaded.end() ? nullptr : &*found;
-}
-
 std::string jsonText(std::u16string_view text) {
     std::string quoted = "\"";
     for (const char unit : toUtf8(text)) {
@@ -117,19 +111,18 @@ std::string jsonClass(const ClassModel& model) {
            ",\n  \"properties\": " + jsonArray(model.loaded, jsonPersisted) + "}";
 }
 
-std::string markdownMember(const ClassModel& model, const MemberRow& row) {
-    const PersistedRow* persisted = persistedAs(model, row.name);
+std::string markdownMember(const MemberRow& row) {
     const std::string parameters = parameterText(row.parameters());
     return "| `" + toUtf8(row.name) + "` | " + access(row) + (row.hidden ? ", hidden" : "") + " | " + typeText(row) +
            " | " + (parameters.empty() ? "-" : parameters) + " | " + idText(row.id) + " | " +
-           (persisted == nullptr ? "-" : "`" + defaultText(*persisted) + "`") + " | " + toUtf8(row.help) + " |\n";
+           (row.isPersisted() ? "`" + defaultText(row.persisted) + "`" : "-") + " | " + toUtf8(row.help) + " |\n";
 }
 
 std::string markdownClass(const ClassModel& model) {
     std::string text = "\n## " + toUtf8(model.name) + "\n\n" + toUtf8(model.help) + ".\n\n";
     text += "| Member | Access | Type | Arguments | Identifier | Saved, default | What it is |\n";
     text += "|---|---|---|---|---|---|---|\n";
-    for (const MemberRow& row : model.members) text += markdownMember(model, row);
+    for (const MemberRow& row : model.members) text += markdownMember(row);
     if (model.events.empty()) return text;
     text += "\n| Event | Identifier | Arguments | Raised when |\n|---|---|---|---|\n";
     for (const EventRow& row : model.events) {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <memory>
 #include <span>
 #include <string_view>
@@ -83,6 +85,22 @@ inline constexpr std::int32_t DefaultMemberId = 0;
 inline constexpr std::int32_t EnabledId = -514;
 inline constexpr std::int32_t CaptionId = -518;
 
+/// A default as a property bag compares it; text stays a view on static storage.
+using PropertyDefault = std::variant<std::u16string_view, bool, std::int16_t, std::int32_t, double, Date>;
+
+/// One property as a form file or another property bag keeps it.
+struct PersistedRow {
+    std::u16string_view name;      ///< as written
+    std::u16string_view readName;  ///< as read; differs for historical reasons in one case
+    TypeTag type = TypeTag::None;
+    PropertyDefault readDefault;
+    PropertyDefault writeDefault;
+    /// Puts a value of exactly `type` through the public setter.
+    void (*load)(Object& target, const Variant& value) = nullptr;
+    /// The value to save, of exactly `type`.
+    Variant (*save)(const Object& target) = nullptr;
+};
+
 struct MemberRow {
     std::u16string_view name;
     std::int32_t id = 0;
@@ -96,8 +114,13 @@ struct MemberRow {
     Thunk call = nullptr;
     std::uint8_t parameterCount = 0;
     std::array<ParameterRow, 4> parameterRows{};
+    PersistedRow persisted{};  ///< how a property is saved; of no type where it is not
+    /// Saved properties are read and written in the order of their rows, but for those that come before this one.
+    std::u16string_view readBefore{};
+    std::u16string_view writtenBefore{};
 
     constexpr std::span<const ParameterRow> parameters() const { return {parameterRows.data(), parameterCount}; }
+    constexpr bool isPersisted() const { return persisted.type != TypeTag::None; }
 
     template <class... Names>
     constexpr MemberRow arguments(Names... names) const {
@@ -130,29 +153,6 @@ struct EventRow {
     std::int32_t id = 0;
     std::u16string_view help;
     std::span<const ParameterRow> parameters{};
-};
-
-/// A default as a property bag compares it; text stays a view on static storage.
-using PropertyDefault = std::variant<std::u16string_view, bool, std::int16_t, std::int32_t, double, Date>;
-
-/// One property as a form file or another property bag keeps it.
-struct PersistedRow {
-    std::u16string_view name;      ///< as written
-    std::u16string_view readName;  ///< as read; differs for historical reasons in one case
-    TypeTag type = TypeTag::None;
-    PropertyDefault readDefault;
-    PropertyDefault writeDefault;
-    /// Puts a value of exactly `type` through the public setter.
-    void (*load)(Object& target, const Variant& value) = nullptr;
-    /// The value to save, of exactly `type`.
-    Variant (*save)(const Object& target) = nullptr;
-
-    constexpr PersistedRow readAs(std::u16string_view otherName) const {
-        return {name, otherName, type, readDefault, writeDefault, load, save};
-    }
-    constexpr PersistedRow writtenUnless(PropertyDefault value) const {
-        return {name, readName, type, readDefault, value, load, save};
-    }
 };
 
 namespace detail {
@@ -242,6 +242,22 @@ void writeBack([[maybe_unused]] std::span<Variant> arguments, [[maybe_unused]] s
     }
 }
 
+/// The object that an accessor of class `C` works on: the control itself, or the part of it that `C::of` finds.
+template <class C>
+C& targetOf(Object& object) {
+    if constexpr (std::is_base_of_v<Object, C>)
+        return static_cast<C&>(object);
+    else
+        return C::of(object);
+}
+template <class C>
+const C& targetOf(const Object& object) {
+    if constexpr (std::is_base_of_v<Object, C>)
+        return static_cast<const C&>(object);
+    else
+        return C::of(object);
+}
+
 template <auto F, std::size_t... I>
 DispatchFault invokeAccessor(Object& target, [[maybe_unused]] std::span<Variant> arguments,
                              [[maybe_unused]] Variant* result, [[maybe_unused]] const RegionalSettings& region,
@@ -251,7 +267,7 @@ DispatchFault invokeAccessor(Object& target, [[maybe_unused]] std::span<Variant>
     DispatchFault fault;
     static_cast<void>(((fault = readArgument(arguments, I, region, std::get<I>(values))).ok() && ...));
     if (!fault.ok()) return fault;
-    auto& object = static_cast<typename Traits::Class&>(target);
+    auto& object = targetOf<typename Traits::Class>(target);
     if constexpr (std::is_void_v<typename Traits::Result>) {
         (object.*F)(std::get<I>(values)...);
     } else {
@@ -290,16 +306,6 @@ constexpr MemberRow property(std::u16string_view name, std::int32_t id, std::u16
     return row;
 }
 
-template <auto Get, auto Put>
-constexpr MemberRow property(std::u16string_view name, std::int32_t id, std::u16string_view help) {
-    using Value = std::remove_cvref_t<typename detail::Accessor<decltype(Get)>::Result>;
-    using Values = typename detail::Accessor<decltype(Put)>::Values;
-    static_assert(std::is_same_v<Values, std::tuple<Value>>, "get and put of a property have one type");
-    MemberRow row = property<Get>(name, id, help);
-    row.put = &detail::invoke<Put>;
-    return row;
-}
-
 template <auto Call>
 constexpr MemberRow method(std::u16string_view name, std::int32_t id, std::u16string_view help) {
     MemberRow row = detail::rowFor<Call>(name, id, help);
@@ -310,11 +316,14 @@ constexpr MemberRow method(std::u16string_view name, std::int32_t id, std::u16st
 
 namespace detail {
 
+/// The type that a setter takes.
+template <auto Put>
+using PutValue = std::tuple_element_t<0, typename Accessor<decltype(Put)>::Values>;
+
 template <auto Put>
 void loadProperty(Object& target, const Variant& value) {
-    using Traits = Accessor<decltype(Put)>;
-    using Value = std::tuple_element_t<0, typename Traits::Values>;
-    auto& object = static_cast<typename Traits::Class&>(target);
+    using Value = PutValue<Put>;
+    auto& object = targetOf<typename Accessor<decltype(Put)>::Class>(target);
     if constexpr (std::is_same_v<Value, Variant>)
         (object.*Put)(value);
     else
@@ -323,7 +332,7 @@ void loadProperty(Object& target, const Variant& value) {
 
 template <auto Get>
 Variant saveProperty(const Object& target) {
-    return toVariant((static_cast<const typename Accessor<decltype(Get)>::Class&>(target).*Get)());
+    return toVariant((targetOf<typename Accessor<decltype(Get)>::Class>(target).*Get)());
 }
 
 template <class T>
@@ -341,20 +350,63 @@ struct DefaultOf<Variant> {
 
 }  // namespace detail
 
-/// A persisted property, loaded through `Put` and saved from `Get`, with the default for both.
-template <auto Put, auto Get>
-constexpr PersistedRow persisted(
-    std::u16string_view name,
-    typename detail::DefaultOf<std::tuple_element_t<0, typename detail::Accessor<decltype(Put)>::Values>>::type
-        defaultValue) {
-    using Value = std::tuple_element_t<0, typename detail::Accessor<decltype(Put)>::Values>;
-    return {.name = name,
-            .readName = name,
-            .type = detail::tagOf<Value>,
-            .readDefault = defaultValue,
-            .writeDefault = defaultValue,
-            .load = &detail::loadProperty<Put>,
-            .save = &detail::saveProperty<Get>};
+/// The row of a property that can be put. It knows the property's type, so that a default of another one, or a way of
+/// saving that the setter does not understand, does not compile.
+template <auto Get, auto Put>
+struct PropertyRow : MemberRow {
+    /// A default of the type that `Load` takes.
+    template <auto Load>
+    using Default = typename detail::DefaultOf<detail::PutValue<Load>>::type;
+
+    /// Saved, and with the same default left out when it is written and taken when it is not found.
+    constexpr PropertyRow saved(Default<Put> byDefault) const { return savedAs<Put, Get>(byDefault); }
+
+    /// The same for a property that is loaded and saved in another form than hosts see.
+    template <auto Load, auto Save>
+    constexpr PropertyRow savedAs(Default<Load> byDefault) const {
+        using Saved = std::remove_cvref_t<typename detail::Accessor<decltype(Save)>::Result>;
+        static_assert(std::is_same_v<detail::PutValue<Load>, Saved>, "what is saved is what is loaded");
+        PropertyRow row = *this;
+        row.persisted = {.name = name,
+                         .readName = name,
+                         .type = detail::tagOf<Saved>,
+                         .readDefault = byDefault,
+                         .writeDefault = byDefault,
+                         .load = &detail::loadProperty<Load>,
+                         .save = &detail::saveProperty<Save>};
+        return row;
+    }
+
+    constexpr PropertyRow readAs(std::u16string_view otherName) const {
+        PropertyRow row = *this;
+        row.persisted.readName = otherName;
+        return row;
+    }
+    constexpr PropertyRow writtenUnless(PropertyDefault value) const {
+        PropertyRow row = *this;
+        row.persisted.writeDefault = value;
+        return row;
+    }
+    constexpr PropertyRow beforeReading(std::u16string_view otherName) const {
+        PropertyRow row = *this;
+        row.readBefore = otherName;
+        return row;
+    }
+    constexpr PropertyRow beforeWriting(std::u16string_view otherName) const {
+        PropertyRow row = *this;
+        row.writtenBefore = otherName;
+        return row;
+    }
+};
+
+template <auto Get, auto Put>
+constexpr PropertyRow<Get, Put> property(std::u16string_view name, std::int32_t id, std::u16string_view help) {
+    using Value = std::remove_cvref_t<typename detail::Accessor<decltype(Get)>::Result>;
+    using Values = typename detail::Accessor<decltype(Put)>::Values;
+    static_assert(std::is_same_v<Values, std::tuple<Value>>, "get and put of a property have one type");
+    PropertyRow<Get, Put> row{property<Get>(name, id, help)};
+    row.put = &detail::invoke<Put>;
+    return row;
 }
 
 /// Finds rows by name without regard to case. Built at compile time.
@@ -383,14 +435,76 @@ private:
     std::array<std::uint8_t, Slots> Rows_{};
 };
 
+/// The saved properties of a class in the order in which they are read, or written. Built at compile time.
+class PersistedRows {
+public:
+    /// `before` says which hint of a row counts.
+    constexpr PersistedRows(std::span<const MemberRow> rows, std::u16string_view MemberRow::*before) : Rows_(rows) {
+        for (std::size_t i = 0; i < rows.size(); ++i)
+            if (rows[i].isPersisted()) Order_.at(Count_++) = static_cast<std::uint8_t>(i);
+        for (const MemberRow& row : rows)
+            if (!(row.*before).empty()) place(row.name, row.*before);
+    }
+
+    class Iterator {
+    public:
+        using iterator_category = std::forward_iterator_tag;
+        using value_type = PersistedRow;
+        using difference_type = std::ptrdiff_t;
+        using pointer = const PersistedRow*;
+        using reference = const PersistedRow&;
+
+        constexpr Iterator() = default;
+        constexpr Iterator(const MemberRow* rows, const std::uint8_t* at) : Rows_(rows), At_(at) {}
+        constexpr reference operator*() const { return Rows_[*At_].persisted; }
+        constexpr pointer operator->() const { return &**this; }
+        constexpr Iterator& operator++() {
+            ++At_;
+            return *this;
+        }
+        constexpr Iterator operator++(int) {
+            const Iterator old = *this;
+            ++At_;
+            return old;
+        }
+        friend constexpr bool operator==(const Iterator&, const Iterator&) = default;
+
+    private:
+        const MemberRow* Rows_ = nullptr;
+        const std::uint8_t* At_ = nullptr;
+    };
+
+    constexpr Iterator begin() const { return {Rows_.data(), Order_.data()}; }
+    constexpr Iterator end() const { return {Rows_.data(), Order_.data() + Count_}; }
+    constexpr bool empty() const { return Count_ == 0; }
+
+private:
+    constexpr std::size_t positionOf(std::u16string_view name) const {
+        std::size_t position = 0;
+        while (position < Count_ && Rows_[Order_[position]].name != name) ++position;
+        if (position == Count_) throw "a saved property comes before one that is not saved";
+        return position;
+    }
+    constexpr void place(std::u16string_view name, std::u16string_view before) {
+        std::size_t from = positionOf(name);
+        const std::size_t to = positionOf(before);
+        for (; from > to; --from) std::swap(Order_[from], Order_[from - 1]);
+        for (; from + 1 < to; ++from) std::swap(Order_[from], Order_[from + 1]);
+    }
+
+    std::span<const MemberRow> Rows_;
+    std::array<std::uint8_t, 24> Order_{};
+    std::size_t Count_ = 0;
+};
+
 /// Everything that a host can know of a class.
 struct ClassModel {
     std::u16string_view name;
     std::u16string_view help;
     std::span<const MemberRow> members;
     std::span<const EventRow> events{};
-    std::span<const PersistedRow> loaded{};  ///< persisted properties in the order they are read
-    std::span<const PersistedRow> saved{};   ///< the same in the order they are written
+    PersistedRows loaded{members, &MemberRow::readBefore};
+    PersistedRows saved{members, &MemberRow::writtenBefore};
     MemberIndex index{members};
     /// Makes the control for a host that outlives it; null for a class that is no control.
     std::unique_ptr<Control> (*makeControl)(ControlHost& host) = nullptr;

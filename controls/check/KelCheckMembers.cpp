@@ -5,20 +5,26 @@ namespace kel {
 namespace {
 
 constexpr MemberRow Members[] = {
-    property<&KelCheck::get_Caption, &KelCheck::put_Caption>(u"Caption", CaptionId, u"Text beside the check box"),
+    property<&KelCheck::get_Caption, &KelCheck::put_Caption>(u"Caption", CaptionId, u"Text beside the check box")
+        .savedAs<&KelCheck::loadCaption, &KelCheck::get_Caption>(u""),
     property<&KelCheck::get_Changed>(u"Changed", 0x68030007, u"The value differs from the original value"),
     property<&KelCheck::get_ChangedSaved>(u"ChangedSaved", 0x68030006, u"The value differs from the saved value"),
-    property<&KelCheck::get_Enabled, &KelCheck::put_Enabled>(u"Enabled", EnabledId, u"The check box takes input"),
-    property<&KelCheck::get_FontBold, &KelCheck::put_FontBold>(u"FontBold", 0x68030005,
-                                                               u"The caption is shown in bold"),
+    property<&KelCheck::get_Enabled, &KelCheck::put_Enabled>(u"Enabled", EnabledId, u"The check box takes input")
+        .saved(true),
+    property<&KelCheck::get_FontBold, &KelCheck::put_FontBold>(u"FontBold", 0x68030005, u"The caption is shown in bold")
+        .savedAs<&KelCheck::loadFontBold, &KelCheck::get_FontBold>(false),
     property<&KelCheck::get_Locked, &KelCheck::put_Locked>(u"Locked", 0x68030004,
-                                                           u"The value is shown but cannot be changed by the user"),
+                                                           u"The value is shown but cannot be changed by the user")
+        .saved(false),
     property<&KelCheck::get_Mandatory, &KelCheck::put_Mandatory>(u"Mandatory", 0x68030003,
-                                                                 u"The caption has the colour of mandatory fields"),
+                                                                 u"The caption has the colour of mandatory fields")
+        .saved(true),
     method<&KelCheck::Refresh>(u"Refresh", 0x60030008, u"Repaints the check box"),
     method<&KelCheck::TooltipSet>(u"TooltipSet", 0x60030009, u"Sets the tooltip").arguments(u"Tooltip"),
     property<&KelCheck::get_Valid>(u"Valid", 0x68030002, u"Always true"),
-    property<&KelCheck::get_Value, &KelCheck::put_Value>(u"Value", DefaultMemberId, u"The box is checked"),
+    property<&KelCheck::get_Value, &KelCheck::put_Value>(u"Value", DefaultMemberId, u"The box is checked")
+        // Although a new check box is unchecked: form files rely on it.
+        .saved(true),
     property<&KelCheck::get_ValueOriginal, &KelCheck::put_ValueOriginal>(u"ValueOriginal", 0x68030001,
                                                                          u"What Changed compares with")
         .hiddenByReference(),
@@ -29,16 +35,6 @@ constexpr MemberRow Members[] = {
 
 constexpr EventRow Events[] = {
     {u"Change", 1, u"The user has checked or unchecked the box"},
-};
-
-constexpr PersistedRow Persisted[] = {
-    persisted<&KelCheck::loadCaption, &KelCheck::get_Caption>(u"Caption", u""),
-    persisted<&KelCheck::put_Enabled, &KelCheck::get_Enabled>(u"Enabled", true),
-    persisted<&KelCheck::loadFontBold, &KelCheck::get_FontBold>(u"FontBold", false),
-    persisted<&KelCheck::put_Locked, &KelCheck::get_Locked>(u"Locked", false),
-    persisted<&KelCheck::put_Mandatory, &KelCheck::get_Mandatory>(u"Mandatory", true),
-    // Although a new check box is unchecked: form files rely on it.
-    persisted<&KelCheck::put_Value, &KelCheck::get_Value>(u"Value", true),
 };
 
 std::unique_ptr<Control> make(ControlHost& host) { return std::make_unique<KelCheck>(host); }
@@ -52,8 +48,6 @@ constinit const ClassModel KelCheckModel{
     .help = u"Check box with change tracking",
     .members = Members,
     .events = Events,
-    .loaded = Persisted,
-    .saved = Persisted,
     .makeControl = &make,
 };
 

@@ -5,18 +5,25 @@ namespace kel {
 namespace {
 
 constexpr MemberRow Members[] = {
-    property<&KelCombo::get_Caption, &KelCombo::put_Caption>(u"Caption", 0x68030013, u"Text of the caption"),
+    property<&KelCombo::get_Caption, &KelCombo::put_Caption>(u"Caption", 0x68030013, u"Text of the caption").saved(u""),
     property<&KelCombo::get_CaptionWidth, &KelCombo::put_CaptionWidth>(u"CaptionWidth", 0x68030012,
-                                                                       u"Width of the caption in twips"),
+                                                                       u"Width of the caption in twips")
+        .saved(0),
     property<&KelCombo::get_Changed>(u"Changed", 0x68030011, u"The text differs from the original text"),
     property<&KelCombo::get_ChangedSaved>(u"ChangedSaved", 0x68030010, u"The text differs from the saved text"),
     property<&KelCombo::get_DropDownWidth, &KelCombo::put_DropDownWidth>(
-        u"DropDownWidth", 0x6803000F, u"Width of the dropped list in twips, up to 8000; 0 for the field's width"),
-    property<&KelCombo::get_Enabled, &KelCombo::put_Enabled>(u"Enabled", 0x6803000E, u"The field takes input"),
+        u"DropDownWidth", 0x6803000F, u"Width of the dropped list in twips, up to 8000; 0 for the field's width")
+        // Read by another name than written: kept, since forms were saved so.
+        .savedAs<&KelCombo::loadDropDownWidth, &KelCombo::storedDropDownWidth>(0)
+        .readAs(u"DropdownWidth"),
+    property<&KelCombo::get_Enabled, &KelCombo::put_Enabled>(u"Enabled", 0x6803000E, u"The field takes input")
+        .saved(true),
     property<&KelCombo::get_LimitToList, &KelCombo::put_LimitToList>(u"LimitToList", 0x6803000D,
-                                                                     u"The text is an item of the list, or empty"),
+                                                                     u"The text is an item of the list, or empty")
+        .saved(true),
     property<&KelCombo::get_List, &KelCombo::put_List>(
-        u"List", 0x6803000C, u"The items, separated by commas; items with commas or quotes stand in double quotes"),
+        u"List", 0x6803000C, u"The items, separated by commas; items with commas or quotes stand in double quotes")
+        .saved(u""),
     property<&KelCombo::get_ListCount>(u"ListCount", 0x6803000B, u"Count of the items"),
     property<&KelCombo::get_ListIndex, &KelCombo::put_ListIndex>(
         u"ListIndex", 0x6803000A, u"The item that is the text, counted from 1; -1 for none or without LimitToList")
@@ -26,22 +33,28 @@ constexpr MemberRow Members[] = {
         .arguments(u"Item")
         .lastOptional(),
     property<&KelCombo::get_ListTag, &KelCombo::put_ListTag>(u"ListTag", 0x68030008,
-                                                             u"Tags of the items, written as the list is"),
+                                                             u"Tags of the items, written as the list is")
+        .saved(u""),
     property<&KelCombo::get_ListTagItem>(u"ListTagItem", 0x68030007,
                                          u"Tag of an item, counted from 1; left out, of the selected one")
         .arguments(u"Item")
         .lastOptional(),
     property<&KelCombo::get_Locked, &KelCombo::put_Locked>(u"Locked", 0x68030006,
-                                                           u"The text can be read and copied but not changed"),
+                                                           u"The text can be read and copied but not changed")
+        .saved(false),
     property<&KelCombo::get_Mandatory, &KelCombo::put_Mandatory>(u"Mandatory", 0x68030005,
-                                                                 u"The field must not be left empty"),
+                                                                 u"The field must not be left empty")
+        .saved(true),
     property<&KelCombo::get_MaxLength, &KelCombo::put_MaxLength>(
-        u"MaxLength", 0x68030004, u"Most UTF-16 units that can be typed or pasted; 0 for no limit"),
+        u"MaxLength", 0x68030004, u"Most UTF-16 units that can be typed or pasted; 0 for no limit")
+        .saved(0),
     method<&KelCombo::Refresh>(u"Refresh", 0x60030014, u"Repaints the field"),
     property<&KelCombo::get_SelectOnFocus, &KelCombo::put_SelectOnFocus>(
-        u"SelectOnFocus", 0x68030003, u"Entering the field with the Tab key selects its text"),
+        u"SelectOnFocus", 0x68030003, u"Entering the field with the Tab key selects its text")
+        .saved(false),
     property<&KelCombo::get_Text, &KelCombo::put_Text>(u"Text", DefaultMemberId,
-                                                       u"The text; where only items may stand, an item or empty"),
+                                                       u"The text; where only items may stand, an item or empty")
+        .saved(u""),
     property<&KelCombo::get_TextOriginal, &KelCombo::put_TextOriginal>(u"TextOriginal", 0x68030002,
                                                                        u"What Changed compares with")
         .hiddenByReference(),
@@ -65,23 +78,6 @@ constexpr EventRow Events[] = {
     {u"ChangeEx", 3, u"Comes first; Handled set to False holds Change and Click back", ChangeParameters},
 };
 
-constexpr PersistedRow Persisted[] = {
-    persisted<&KelCombo::put_Caption, &KelCombo::get_Caption>(u"Caption", u""),
-    persisted<&KelCombo::put_CaptionWidth, &KelCombo::get_CaptionWidth>(u"CaptionWidth", 0),
-    // Read by another name than written: kept, since forms were saved so.
-    persisted<&KelCombo::loadDropDownWidth, &KelCombo::storedDropDownWidth>(u"DropDownWidth", 0)
-        .readAs(u"DropdownWidth"),
-    persisted<&KelCombo::put_Enabled, &KelCombo::get_Enabled>(u"Enabled", true),
-    persisted<&KelCombo::put_LimitToList, &KelCombo::get_LimitToList>(u"LimitToList", true),
-    persisted<&KelCombo::put_List, &KelCombo::get_List>(u"List", u""),
-    persisted<&KelCombo::put_ListTag, &KelCombo::get_ListTag>(u"ListTag", u""),
-    persisted<&KelCombo::put_Locked, &KelCombo::get_Locked>(u"Locked", false),
-    persisted<&KelCombo::put_Mandatory, &KelCombo::get_Mandatory>(u"Mandatory", true),
-    persisted<&KelCombo::put_MaxLength, &KelCombo::get_MaxLength>(u"MaxLength", 0),
-    persisted<&KelCombo::put_SelectOnFocus, &KelCombo::get_SelectOnFocus>(u"SelectOnFocus", false),
-    persisted<&KelCombo::put_Text, &KelCombo::get_Text>(u"Text", u""),
-};
-
 std::unique_ptr<Control> make(ControlHost& host) { return std::make_unique<KelCombo>(host); }
 
 }  // namespace
@@ -95,8 +91,6 @@ constinit const ClassModel KelComboModel{
     .help = u"Choice from a list with a caption; completes what is typed",
     .members = Members,
     .events = Events,
-    .loaded = Persisted,
-    .saved = Persisted,
     .makeControl = &make,
 };
 

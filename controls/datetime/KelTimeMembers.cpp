@@ -5,33 +5,44 @@ namespace kel {
 namespace {
 
 constexpr MemberRow Members[] = {
-    property<&KelTime::get_Caption, &KelTime::put_Caption>(u"Caption", 0x6803000E, u"Text of the caption"),
+    property<&KelTime::get_Caption, &KelTime::put_Caption>(u"Caption", 0x6803000E, u"Text of the caption").saved(u""),
     property<&KelTime::get_CaptionWidth, &KelTime::put_CaptionWidth>(u"CaptionWidth", 0x6803000D,
-                                                                     u"Width of the caption in twips"),
+                                                                     u"Width of the caption in twips")
+        .saved(0),
     property<&KelTime::get_Changed>(u"Changed", 0x6803000C, u"The value differs from the original value"),
     property<&KelTime::get_ChangedSaved>(u"ChangedSaved", 0x6803000B, u"The value differs from the saved value"),
-    property<&KelTime::get_Enabled, &KelTime::put_Enabled>(u"Enabled", EnabledId, u"The field takes input"),
+    property<&KelTime::get_Enabled, &KelTime::put_Enabled>(u"Enabled", EnabledId, u"The field takes input").saved(true),
     property<&KelTime::get_Format, &KelTime::put_Format>(u"Format", 0x6803000A,
-                                                         u"How the time is shown, such as hh:nn am/pm"),
+                                                         u"How the time is shown, such as hh:nn am/pm")
+        .saved(DefaultTimeFormat),
     property<&KelTime::get_InsertMode, &KelTime::put_InsertMode>(
-        u"InsertMode", 0x68030009, u"Typing inserts instead of overwriting; the Insert key toggles it"),
+        u"InsertMode", 0x68030009, u"Typing inserts instead of overwriting; the Insert key toggles it")
+        .saved(false),
     property<&KelTime::get_Locked, &KelTime::put_Locked>(u"Locked", 0x68030008,
-                                                         u"The value can be read and copied but not edited"),
+                                                         u"The value can be read and copied but not edited")
+        .saved(false),
     property<&KelTime::get_Mandatory, &KelTime::put_Mandatory>(u"Mandatory", 0x68030007,
-                                                               u"The field must not be left empty"),
-    property<&KelTime::get_MaxValue, &KelTime::put_MaxValue>(u"MaxValue", 0x68030006, u"Latest time accepted"),
-    property<&KelTime::get_MinValue, &KelTime::put_MinValue>(u"MinValue", 0x68030005, u"Earliest time accepted"),
+                                                               u"The field must not be left empty")
+        .saved(true),
+    property<&KelTime::get_MaxValue, &KelTime::put_MaxValue>(u"MaxValue", 0x68030006, u"Latest time accepted")
+        .saved(AllTimes.maximum),
+    property<&KelTime::get_MinValue, &KelTime::put_MinValue>(u"MinValue", 0x68030005, u"Earliest time accepted")
+        .saved(AllTimes.minimum),
     method<&KelTime::Refresh>(u"Refresh", 0x6003000F, u"Repaints the field"),
     property<&KelTime::get_SelectOnFocus, &KelTime::put_SelectOnFocus>(
-        u"SelectOnFocus", 0x68030004, u"Entering the field with the Tab key selects its text"),
+        u"SelectOnFocus", 0x68030004, u"Entering the field with the Tab key selects its text")
+        .saved(false),
     method<&KelTime::TooltipSet>(u"TooltipSet", 0x60030010, u"Sets the tooltip of the field").arguments(u"Tooltip"),
-    property<&KelTime::get_UpDown, &KelTime::put_UpDown>(u"UpDown", 0x68030003, u"A spinner is shown"),
+    property<&KelTime::get_UpDown, &KelTime::put_UpDown>(u"UpDown", 0x68030003, u"A spinner is shown").saved(true),
     property<&KelTime::get_Valid>(u"Valid", 0x68030002,
                                   u"The value is in range, and there in a mandatory field, or the field is locked")
         .arguments(u"ShowMessage")
         .lastOptional(),
     property<&KelTime::get_Value, &KelTime::put_Value>(u"Value", DefaultMemberId,
-                                                       u"The time; Null for none, Empty before the first one"),
+                                                       u"The time; Null for none, Empty before the first one")
+        // Written as a text, which equals no number: always.
+        .savedAs<&KelTime::put_Value, &KelTime::storedValue>(std::int16_t{0})
+        .beforeWriting(u"UpDown"),
     property<&KelTime::get_ValueOriginal, &KelTime::put_ValueOriginal>(u"ValueOriginal", 0x68030001,
                                                                        u"What Changed compares with")
         .hiddenByReference(),
@@ -44,30 +55,6 @@ constexpr EventRow Events[] = {
     {u"Change", 1, u"A step has changed the time"},
 };
 
-constexpr PersistedRow Caption = persisted<&KelTime::put_Caption, &KelTime::get_Caption>(u"Caption", u"");
-constexpr PersistedRow CaptionWidth =
-    persisted<&KelTime::put_CaptionWidth, &KelTime::get_CaptionWidth>(u"CaptionWidth", 0);
-constexpr PersistedRow Enabled = persisted<&KelTime::put_Enabled, &KelTime::get_Enabled>(u"Enabled", true);
-constexpr PersistedRow Format = persisted<&KelTime::put_Format, &KelTime::get_Format>(u"Format", DefaultTimeFormat);
-constexpr PersistedRow InsertMode = persisted<&KelTime::put_InsertMode, &KelTime::get_InsertMode>(u"InsertMode", false);
-constexpr PersistedRow Locked = persisted<&KelTime::put_Locked, &KelTime::get_Locked>(u"Locked", false);
-constexpr PersistedRow Mandatory = persisted<&KelTime::put_Mandatory, &KelTime::get_Mandatory>(u"Mandatory", true);
-constexpr PersistedRow MaxValue =
-    persisted<&KelTime::put_MaxValue, &KelTime::get_MaxValue>(u"MaxValue", AllTimes.maximum);
-constexpr PersistedRow MinValue =
-    persisted<&KelTime::put_MinValue, &KelTime::get_MinValue>(u"MinValue", AllTimes.minimum);
-constexpr PersistedRow SelectOnFocus =
-    persisted<&KelTime::put_SelectOnFocus, &KelTime::get_SelectOnFocus>(u"SelectOnFocus", false);
-constexpr PersistedRow UpDownShown = persisted<&KelTime::put_UpDown, &KelTime::get_UpDown>(u"UpDown", true);
-// Written as a text, which equals no number: always.
-constexpr PersistedRow Value = persisted<&KelTime::put_Value, &KelTime::storedValue>(u"Value", std::int16_t{0});
-
-constexpr PersistedRow Loaded[] = {Caption,   CaptionWidth, Enabled,  Format,        InsertMode,  Locked,
-                                   Mandatory, MaxValue,     MinValue, SelectOnFocus, UpDownShown, Value};
-// The spinner is written last.
-constexpr PersistedRow Saved[] = {Caption,   CaptionWidth, Enabled,  Format,        InsertMode, Locked,
-                                  Mandatory, MaxValue,     MinValue, SelectOnFocus, Value,      UpDownShown};
-
 std::unique_ptr<Control> make(ControlHost& host) { return std::make_unique<KelTime>(host); }
 
 }  // namespace
@@ -79,8 +66,6 @@ constinit const ClassModel KelTimeModel{
     .help = u"Time entry with a caption, a display format and a spinner",
     .members = Members,
     .events = Events,
-    .loaded = Loaded,
-    .saved = Saved,
     .makeControl = &make,
     .datesAreTimes = true,
 };

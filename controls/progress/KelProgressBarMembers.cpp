@@ -8,20 +8,19 @@ constexpr MemberRow Members[] = {
     method<&KelProgressBar::Clear>(u"Clear", 0x60030004, u"Wipes the bar and its text"),
     property<&KelProgressBar::get_Enabled, &KelProgressBar::put_Enabled>(u"Enabled", 0x68030003,
                                                                          u"The control is enabled"),
-    property<&KelProgressBar::get_Max, &KelProgressBar::put_Max>(u"Max", 0x68030002, u"Last value of the job"),
-    property<&KelProgressBar::get_Min, &KelProgressBar::put_Min>(u"Min", 0x68030001, u"First value of the job"),
+    property<&KelProgressBar::get_Max, &KelProgressBar::put_Max>(u"Max", 0x68030002, u"Last value of the job")
+        .saved(100),
+    property<&KelProgressBar::get_Min, &KelProgressBar::put_Min>(u"Min", 0x68030001, u"First value of the job")
+        .saved(1)
+        .beforeReading(u"Max")
+        .beforeWriting(u"Max"),
     method<&KelProgressBar::Refresh>(u"Refresh", 0x60030005, u"Repaints the bar"),
     property<&KelProgressBar::get_ShowTime, &KelProgressBar::put_ShowTime>(
-        u"ShowTime", 0x68030000, u"The time left stands behind the percentage"),
+        u"ShowTime", 0x68030000, u"The time left stands behind the percentage")
+        .saved(true),
     method<&KelProgressBar::Start>(u"Start", 0x60030006, u"Begins a job: the time counts from here"),
     property<&KelProgressBar::get_Value, &KelProgressBar::put_Value>(
         u"Value", DefaultMemberId, u"How far the job is, within Min and Max; setting it moves the bar"),
-};
-
-constexpr PersistedRow Persisted[] = {
-    persisted<&KelProgressBar::put_Min, &KelProgressBar::get_Min>(u"Min", 1),
-    persisted<&KelProgressBar::put_Max, &KelProgressBar::get_Max>(u"Max", 100),
-    persisted<&KelProgressBar::put_ShowTime, &KelProgressBar::get_ShowTime>(u"ShowTime", true),
 };
 
 std::unique_ptr<Control> make(ControlHost& host) { return std::make_unique<KelProgressBar>(host); }
@@ -32,8 +31,6 @@ constinit const ClassModel KelProgressBarModel{
     .name = u"KelProgressBar",
     .help = u"Progress bar with the percentage and an estimate of the time left",
     .members = Members,
-    .loaded = Persisted,
-    .saved = Persisted,
     .makeControl = &make,
     .takesFocus = false,
 };

@@ -5,32 +5,41 @@ namespace kel {
 namespace {
 
 constexpr MemberRow Members[] = {
-    property<&KelText::get_Caption, &KelText::put_Caption>(u"Caption", 0x6803000E, u"Text of the caption"),
+    property<&KelText::get_Caption, &KelText::put_Caption>(u"Caption", 0x6803000E, u"Text of the caption").saved(u""),
     property<&KelText::get_CaptionWidth, &KelText::put_CaptionWidth>(u"CaptionWidth", 0x6803000D,
-                                                                     u"Width of the caption in twips"),
+                                                                     u"Width of the caption in twips")
+        .saved(0),
     property<&KelText::get_Changed>(u"Changed", 0x6803000C, u"The text differs from the original text"),
     property<&KelText::get_ChangedSaved>(u"ChangedSaved", 0x6803000B, u"The text differs from the saved text"),
-    property<&KelText::get_Enabled, &KelText::put_Enabled>(u"Enabled", EnabledId, u"The field takes input"),
+    property<&KelText::get_Enabled, &KelText::put_Enabled>(u"Enabled", EnabledId, u"The field takes input").saved(true),
     property<&KelText::get_hWnd>(u"hWnd", 0x6803000A, u"Handle of the control's own window"),
     property<&KelText::get_InsertMode, &KelText::put_InsertMode>(
-        u"InsertMode", 0x68030009, u"Typing inserts instead of overwriting; the Insert key toggles it"),
+        u"InsertMode", 0x68030009, u"Typing inserts instead of overwriting; the Insert key toggles it")
+        .saved(true),
     property<&KelText::get_Locked, &KelText::put_Locked>(u"Locked", 0x68030008,
-                                                         u"The text can be read and copied but not edited"),
+                                                         u"The text can be read and copied but not edited")
+        .saved(false),
     property<&KelText::get_Mandatory, &KelText::put_Mandatory>(u"Mandatory", 0x68030007,
-                                                               u"The field must not be left empty"),
+                                                               u"The field must not be left empty")
+        .saved(true),
     property<&KelText::get_MaxLength, &KelText::put_MaxLength>(
-        u"MaxLength", 0x68030006, u"Most UTF-16 units that can be typed or pasted; 0 for no limit"),
+        u"MaxLength", 0x68030006, u"Most UTF-16 units that can be typed or pasted; 0 for no limit")
+        .saved(0),
     property<&KelText::get_MultiLine, &KelText::put_MultiLine>(u"MultiLine", 0x68030005,
-                                                               u"The field holds several lines"),
+                                                               u"The field holds several lines")
+        .saved(false),
     property<&KelText::get_PasswordChar, &KelText::put_PasswordChar>(
-        u"PasswordChar", 0x68030004, u"Character shown in place of each one typed; empty shows the text"),
+        u"PasswordChar", 0x68030004, u"Character shown in place of each one typed; empty shows the text")
+        .saved(u""),
     method<&KelText::Refresh>(u"Refresh", 0x6003000F, u"Repaints the field"),
     property<&KelText::get_SelectOnFocus, &KelText::put_SelectOnFocus>(
-        u"SelectOnFocus", 0x68030003, u"Entering the field with the Tab key selects its text"),
+        u"SelectOnFocus", 0x68030003, u"Entering the field with the Tab key selects its text")
+        .saved(false),
     property<&KelText::get_Text, &KelText::put_Text>(
         u"Text", DefaultMemberId,
         u"The text, a multi-line one without its trailing empty lines: reading takes them out of the field, which "
-        u"moves the caret to its start; a Change handler reads TextRaw instead"),
+        u"moves the caret to its start; a Change handler reads TextRaw instead")
+        .savedAs<&KelText::put_Text, &KelText::get_TextRaw>(u""),
     property<&KelText::get_TextOriginal, &KelText::put_TextOriginal>(u"TextOriginal", 0x68030002,
                                                                      u"What Changed compares with")
         .hiddenByReference(),
@@ -48,20 +57,6 @@ constexpr EventRow Events[] = {
     {u"Click", 2, u"The field was clicked"},
 };
 
-constexpr PersistedRow Persisted[] = {
-    persisted<&KelText::put_Caption, &KelText::get_Caption>(u"Caption", u""),
-    persisted<&KelText::put_CaptionWidth, &KelText::get_CaptionWidth>(u"CaptionWidth", 0),
-    persisted<&KelText::put_Enabled, &KelText::get_Enabled>(u"Enabled", true),
-    persisted<&KelText::put_InsertMode, &KelText::get_InsertMode>(u"InsertMode", true),
-    persisted<&KelText::put_Locked, &KelText::get_Locked>(u"Locked", false),
-    persisted<&KelText::put_Mandatory, &KelText::get_Mandatory>(u"Mandatory", true),
-    persisted<&KelText::put_MaxLength, &KelText::get_MaxLength>(u"MaxLength", 0),
-    persisted<&KelText::put_MultiLine, &KelText::get_MultiLine>(u"MultiLine", false),
-    persisted<&KelText::put_PasswordChar, &KelText::get_PasswordChar>(u"PasswordChar", u""),
-    persisted<&KelText::put_SelectOnFocus, &KelText::get_SelectOnFocus>(u"SelectOnFocus", false),
-    persisted<&KelText::put_Text, &KelText::get_TextRaw>(u"Text", u""),
-};
-
 std::unique_ptr<Control> make(ControlHost& host) { return std::make_unique<KelText>(host); }
 
 }  // namespace
@@ -74,8 +69,6 @@ constinit const ClassModel KelTextModel{
     .help = u"Free text entry with a caption, single-line or multi-line",
     .members = Members,
     .events = Events,
-    .loaded = Persisted,
-    .saved = Persisted,
     .makeControl = &make,
 };
 

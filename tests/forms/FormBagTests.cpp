@@ -9,13 +9,26 @@ PersistedRow row(std::u16string_view name, TypeTag type, PropertyDefault byDefau
     return {.name = name, .readName = name, .type = type, .readDefault = byDefault, .writeDefault = byDefault};
 }
 
+PersistedRow dropDownRow() {
+    PersistedRow dropDown = row(u"DropDownWidth", TypeTag::Integer16, std::int16_t{0});
+    dropDown.readName = u"DropdownWidth";
+    return dropDown;
+}
+
+/// Written always: no number equals a text.
+PersistedRow numberRow() {
+    PersistedRow number = row(u"Value", TypeTag::Double, 0.0);
+    number.writeDefault = u"";
+    return number;
+}
+
 const PersistedRow Caption = row(u"Caption", TypeTag::String, u"");
 const PersistedRow Width = row(u"CaptionWidth", TypeTag::Integer16, std::int16_t{0});
 const PersistedRow Enabled = row(u"Enabled", TypeTag::Boolean, true);
 const PersistedRow MaxValue = row(u"MaxValue", TypeTag::Date, Date{2958465});
 const PersistedRow Value = row(u"Value", TypeTag::Any, std::int16_t{0});
-const PersistedRow DropDown = row(u"DropDownWidth", TypeTag::Integer16, std::int16_t{0}).readAs(u"DropdownWidth");
-const PersistedRow Number = row(u"Value", TypeTag::Double, 0.0).writtenUnless(u"");
+const PersistedRow DropDown = dropDownRow();
+const PersistedRow Number = numberRow();
 
 Variant read(const std::string& lines, const PersistedRow& row) {
     const FormFile form = parseWith(lines);

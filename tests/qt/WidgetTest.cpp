@@ -37,11 +37,9 @@ TEST(Properties, AreThoseOfTheTypeModel) {
         const int index = meta.indexOfProperty(name.toLatin1());
         ASSERT_GE(index, meta.propertyOffset()) << name.toStdString();
         const QMetaProperty property = meta.property(index);
-        const bool isPersisted = std::any_of(KelTextModel.saved.begin(), KelTextModel.saved.end(),
-                                             [&member](const PersistedRow& row) { return row.name == member.name; });
         EXPECT_EQ(property.isWritable(), member.put != nullptr) << name.toStdString();
         EXPECT_EQ(property.isDesignable(), member.put != nullptr && !member.hidden) << name.toStdString();
-        EXPECT_EQ(property.isStored(), isPersisted) << name.toStdString();
+        EXPECT_EQ(property.isStored(), member.isPersisted()) << name.toStdString();
     }
     EXPECT_EQ(static_cast<std::size_t>(meta.propertyCount() - meta.propertyOffset()), properties);
     EXPECT_STREQ(meta.userProperty().name(), "text");

@@ -21,11 +21,6 @@ bool isQtProperty(const MemberRow& member) {
     return !member.isMethod && std::all_of(member.parameters().begin(), member.parameters().end(), &isOptional);
 }
 
-bool isPersisted(const ClassModel& model, const MemberRow& member) {
-    return std::any_of(model.saved.begin(), model.saved.end(),
-                       [&member](const PersistedRow& row) { return row.name == member.name; });
-}
-
 bool hasChangeEvent(const ClassModel& model) {
     return std::any_of(model.events.begin(), model.events.end(),
                        [](const EventRow& event) { return event.name == ChangeEvent; });
@@ -69,7 +64,7 @@ void writeProperty(std::ostream& out, const ClassModel& model, const MemberRow& 
     const bool isDefault = member.id == DefaultMemberId;
     if (isDefault && hasChangeEvent(model)) out << " NOTIFY change";
     if (member.hidden || member.put == nullptr) out << " DESIGNABLE false";
-    if (!isPersisted(model, member)) out << " STORED false";
+    if (!member.isPersisted()) out << " STORED false";
     if (isDefault) out << " USER true";
     out << ")\n";
 }

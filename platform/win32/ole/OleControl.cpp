@@ -130,9 +130,7 @@ void OleControl::propertyChanged(std::u16string_view bagName) {
 }
 
 bool OleControl::mayPut(const MemberRow& member) {
-    const bool isPersisted = std::any_of(Model_.saved.begin(), Model_.saved.end(),
-                                         [&member](const PersistedRow& row) { return row.name == member.name; });
-    return !isPersisted || Connections_.Notify.mayChange(member.id);
+    return !member.isPersisted() || Connections_.Notify.mayChange(member.id);
 }
 
 void OleControl::raiseEvent(const EventRow& event, std::span<Variant> arguments) {

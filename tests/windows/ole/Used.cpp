@@ -23,9 +23,9 @@ void use(std::u16string_view className, const char* how, std::u16string_view nam
 }
 
 /// The row whose `key` is `name`, whatever its case.
-template <class Row>
-void useRow(std::u16string_view className, std::span<const Row> ClassModel::*rows, std::u16string_view Row::*key,
-            const char* how, const std::wstring& name) {
+template <class Rows, class Row>
+void useRow(std::u16string_view className, Rows ClassModel::*rows, std::u16string_view Row::*key, const char* how,
+            const std::wstring& name) {
     const ClassModel* const model = libraryClasses().find(className);
     if (model == nullptr) return;
     for (const Row& row : model->*rows)
