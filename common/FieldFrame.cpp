@@ -2,19 +2,6 @@
 
 namespace kel {
 
-void putCaption(ControlHost& host, Label& label, const std::u16string& caption) {
-    if (label.caption() == caption) return;
-    label.setCaption(caption);
-    host.container.propertyChanged(u"Caption");
-}
-
-bool putCaptionWidth(ControlHost& host, Label& label, std::int16_t twips) {
-    if (twips < 0) return false;
-    setWidth(label, twips);
-    host.container.propertyChanged(u"CaptionWidth");
-    return true;
-}
-
 void nameNewCaption(ControlHost& host, Label& label) {
     label.setCaption(host.container.displayName());
     setWidth(label, NewCaptionWidth);

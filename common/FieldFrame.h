@@ -9,12 +9,6 @@
 /// What every entry field does alike with its caption and with the host's run-time object.
 namespace kel {
 
-/// Reports "Caption"; the text that is there already changes and reports nothing.
-void putCaption(ControlHost& host, Label& label, const std::u16string& caption);
-
-/// Reports "CaptionWidth". False for a negative width, which changes nothing; otherwise the layout follows.
-bool putCaptionWidth(ControlHost& host, Label& label, std::int16_t twips);
-
 /// A control that has just been placed in a designer goes by its name in the container.
 void nameNewCaption(ControlHost& host, Label& label);
 

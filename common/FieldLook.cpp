@@ -28,7 +28,7 @@ void selectOnFocus(TextEntry& box, bool tabKeyDown) {
     box.setSelLength(box.textLength());
 }
 
-void selectOverwritten(TextBox& box) {
+void selectOverwritten(TextEntry& box) {
     if (box.selLength() != 0) return;
     box.setSelLength(1);
     if (box.selLength() != 0) return;

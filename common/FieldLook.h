@@ -29,6 +29,6 @@ void selectOnFocus(TextEntry& box, bool tabKeyDown);
 
 /// Selects what the next typed character overwrites: the character behind the caret, unless something is
 /// selected already. Never half a surrogate pair, and never a line break.
-void selectOverwritten(TextBox& box);
+void selectOverwritten(TextEntry& box);
 
 }  // namespace kel

@@ -29,8 +29,8 @@ public:
     /// The name the host knows the control by.
     virtual std::u16string displayName() const = 0;
 
-    /// A persisted property changed: the host's form needs saving.
-    virtual void propertyChanged(std::u16string_view bagName) = 0;
+    /// A property that the host's form keeps was set: the form needs saving.
+    virtual void propertyChanged(const MemberRow& property) = 0;
 
     /// Runs the host's handlers; by-reference arguments come back in `arguments`.
     virtual void raiseEvent(const EventRow& event, std::span<Variant> arguments) = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
@@ -107,6 +108,7 @@ struct MemberRow {
     std::u16string_view help;
     bool isMethod = false;
     bool hidden = false;          ///< not listed by browsers and designers
+    bool isWritable = false;      ///< it has a `put`, which not every compiler may ask before the program runs
     bool putByReference = false;  ///< the put's argument is a pointer; the caller's variable never changes
     TypeTag type = TypeTag::None;
     Thunk get = nullptr;
@@ -405,6 +407,7 @@ constexpr PropertyRow<Get, Put> property(std::u16string_view name, std::int32_t 
     using Values = typename detail::Accessor<decltype(Put)>::Values;
     static_assert(std::is_same_v<Values, std::tuple<Value>>, "get and put of a property have one type");
     PropertyRow<Get, Put> row{property<Get>(name, id, help)};
+    row.isWritable = true;
     row.put = &detail::invoke<Put>;
     return row;
 }
@@ -497,6 +500,31 @@ private:
     std::size_t Count_ = 0;
 };
 
+/// Finds the row of a property by its setter. Built at compile time; the setters stand side by side, so that looking
+/// through them is a matter of two cache lines.
+class PutIndex {
+public:
+    constexpr explicit PutIndex(std::span<const MemberRow> rows) {
+        for (std::size_t i = 0; i < rows.size(); ++i)
+            if (rows[i].isWritable) {
+                Puts_.at(Count_) = rows[i].put;
+                Rows_.at(Count_++) = static_cast<std::uint8_t>(i);
+            }
+    }
+
+    const MemberRow& find(std::span<const MemberRow> rows, Thunk put) const {
+        std::size_t i = 0;
+        while (i < Count_ && Puts_[i] != put) ++i;
+        assert(i < Count_);
+        return rows[Rows_.at(i)];
+    }
+
+private:
+    std::array<Thunk, 24> Puts_{};
+    std::array<std::uint8_t, 24> Rows_{};
+    std::size_t Count_ = 0;
+};
+
 /// Everything that a host can know of a class.
 struct ClassModel {
     std::u16string_view name;
@@ -506,6 +534,7 @@ struct ClassModel {
     PersistedRows loaded{members, &MemberRow::readBefore};
     PersistedRows saved{members, &MemberRow::writtenBefore};
     MemberIndex index{members};
+    PutIndex puts{members};
     /// Makes the control for a host that outlives it; null for a class that is no control.
     std::unique_ptr<Control> (*makeControl)(ControlHost& host) = nullptr;
     /// Makes a creatable class that is no control; null for controls.
@@ -516,6 +545,12 @@ struct ClassModel {
     bool takesFocus = true;
 
     bool isControl() const { return makeControl != nullptr; }
+
+    /// The row of the property that `Put` sets. The class has one.
+    template <auto Put>
+    const MemberRow& rowPutBy() const {
+        return puts.find(members, &detail::invoke<Put>);
+    }
 };
 
 }  // namespace kel

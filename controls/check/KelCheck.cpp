@@ -18,19 +18,19 @@ KelCheck::KelCheck(ControlHost& host) : Host_(host), Check1_(host.widgets.makeCh
 void KelCheck::put_Caption(const std::u16string& caption) {
     if (get_Caption() == caption) return;
     Check1_->setCaption(caption);
-    report(u"Caption");
+    report<&KelCheck::put_Caption>();
 }
 
 void KelCheck::put_Enabled(bool enabled) {
     Enabled_ = enabled;
-    report(u"Enabled");
+    report<&KelCheck::put_Enabled>();
     applyEnabled();
     applyTextColor();
 }
 
 void KelCheck::put_Locked(bool locked) {
     Locked_ = locked;
-    report(u"Locked");
+    report<&KelCheck::put_Locked>();
     applyEnabled();
 }
 
@@ -43,12 +43,12 @@ void KelCheck::applyTextColor() { Check1_->setForeColor(Enabled_ ? captionColor(
 
 void KelCheck::put_FontBold(bool bold) {
     Check1_->setFontBold(bold);
-    report(u"FontBold");
+    report<&KelCheck::put_FontBold>();
 }
 
 void KelCheck::put_Mandatory(bool mandatory) {
     Mandatory_ = mandatory;
-    report(u"Mandatory");
+    report<&KelCheck::put_Mandatory>();
     applyTextColor();
 }
 
@@ -63,7 +63,7 @@ void KelCheck::put_Value(bool value) {
         Check1_->setValue(value ? CheckBox::Checked : CheckBox::Unchecked);
     }
     ValueOriginal_ = value;
-    report(u"Value");
+    report<&KelCheck::put_Value>();
 }
 
 // ---- The container

@@ -58,7 +58,10 @@ private:
 
     void applyEnabled();
     void applyTextColor();
-    void report(std::u16string_view bagName) { Host_.container.propertyChanged(bagName); }
+    template <auto Put>
+    void report() {
+        Host_.container.propertyChanged(model().rowPutBy<Put>());
+    }
 
     ControlHost Host_;
     std::unique_ptr<CheckBox> Check1_;

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "common/FieldLook.h"
+#include "common/FieldFrame.h"
 #include "common/Persistence.h"
 #include "controls/combo/ListText.h"
 #include "host/editing/EditAction.h"
@@ -17,6 +17,7 @@ constexpr std::int32_t WidestDropDown = 8000;
 constexpr std::int32_t TwipsPerListPixel = 15;  ///< whatever the screen's own resolution
 constexpr std::int16_t NoListIndex = -1;
 constexpr std::int16_t TagSeparator = u',';
+constexpr EntryKind Kind{.disablesContainer = false};
 
 std::int32_t wordStart(std::u16string_view text, std::int32_t position) {
     return static_cast<std::int32_t>(previousWord(text, static_cast<std::size_t>(position), false));
@@ -26,13 +27,16 @@ std::int32_t listPixels(std::int32_t twips) { return (twips + TwipsPerListPixel 
 
 }  // namespace
 
-KelCombo::KelCombo(ControlHost& host)
-    : Host_(host), Label1_(host.widgets.makeLabel()), Combo1_(host.widgets.makeComboBox(*this)) {}
+KelCombo::KelCombo(ControlHost& host) : Field_(host, *this, Kind), Combo1_(host.widgets.makeComboBox(*this)) {
+    Field_.add(*Combo1_);
+}
 
-void KelCombo::Initialize() { Combo1_->installFrame(Host_.settings.ButtonWidthPixels); }
+void KelCombo::Initialize() { Combo1_->installFrame(Field_.host().settings.ButtonWidthPixels); }
 
 WidgetSet KelCombo::widgets() {
-    return {.label = Label1_.get(), .field = Combo1_.get(), .entry = Combo1_.get(), .comboBox = Combo1_.get()};
+    WidgetSet widgets = Field_.widgets();
+    widgets.comboBox = Combo1_.get();
+    return widgets;
 }
 
 // ---- List
@@ -45,11 +49,11 @@ void KelCombo::loadItems(ListItems items) {
     const std::u16string text = Combo1_->text();
     Combo1_->setItems(std::move(items));
     put_Text(text);
-    report(u"List");
+    Field_.report<&KelCombo::put_List>();
 }
 
 std::u16string KelCombo::get_List() const {
-    const auto runtime = runtimeFor(Host_);
+    const auto runtime = runtimeFor(Field_.host());
     std::u16string list;
     for (std::int32_t i = 0; i < get_ListCount(); ++i)
         list = runtime->ListAppend(std::move(list), Combo1_->items().item(i));
@@ -77,13 +81,13 @@ std::u16string KelCombo::get_ListItem(std::int16_t Item) const {
 void KelCombo::put_ListTag(const std::u16string& tags) {
     ListTag_ = tags;
     TagPlace_ = {};
-    report(u"ListTag");
+    Field_.report<&KelCombo::put_ListTag>();
 }
 
 std::u16string KelCombo::get_ListTagItem(std::int16_t Item) const {
     const std::int32_t item = Item == 0 ? Combo1_->listIndex() + 1 : Item;
     if (item < 1 || item > get_ListCount()) return {};
-    const auto runtime = runtimeFor(Host_);
+    const auto runtime = runtimeFor(Field_.host());
     if (item <= TagPlace_.passed || TagPlace_.reader.lock() != runtime) TagPlace_ = {.reader = runtime};
     std::int32_t position = TagPlace_.position;
     std::u16string tag;
@@ -102,7 +106,7 @@ void KelCombo::put_DropDownWidth(std::int32_t twips) {
     const std::int32_t stored = inRange && twips != fieldWidth ? twips : 0;
     if (stored != DropDownWidth_) {
         DropDownWidth_ = stored;
-        report(u"DropDownWidth");
+        Field_.report<&KelCombo::put_DropDownWidth>();
     }
     Combo1_->setDroppedWidth(listPixels(inRange ? twips : fieldWidth));
 }
@@ -121,7 +125,7 @@ void KelCombo::put_Text(const std::u16string& text) {
         showText(text);
     }
     TextOriginal_ = Combo1_->text();
-    report(u"Text");
+    Field_.report<&KelCombo::put_Text>();
 }
 
 bool KelCombo::selectEqual(const std::u16string& text) const {
@@ -142,27 +146,22 @@ void KelCombo::settleText() const {
     Typing_ = false;
     if (Combo1_->textLength() != 0)
         showText(Combo1_->text());
-    else if (Mandatory_ && (!LimitToList_ || Combo1_->items().findExact(TextOriginal_) != ListItems::NotFound))
+    else if (Field_.get_Mandatory() &&
+             (!LimitToList_ || Combo1_->items().findExact(TextOriginal_) != ListItems::NotFound))
         Combo1_->setText(TextOriginal_);
     Combo1_->setSelStart(0);
 }
 
 void KelCombo::put_LimitToList(bool limit) {
     LimitToList_ = limit;
-    report(u"LimitToList");
+    Field_.report<&KelCombo::put_LimitToList>();
     if (!limit) return;
     const DepthGuard guard(SelectionDepth_);
     if (!selectEqual(Combo1_->text())) Combo1_->setText({});
 }
 
-void KelCombo::put_MaxLength(std::int16_t units) {
-    if (units < 0) return;
-    Combo1_->setMaxLength(units);
-    report(u"MaxLength");
-}
-
 bool KelCombo::get_Valid() const {
-    if (Combo1_->locked() || !Mandatory_) return true;
+    if (Combo1_->locked() || !Field_.get_Mandatory()) return true;
     return Combo1_->text().find_last_not_of(u' ') != std::u16string::npos;
 }
 
@@ -177,23 +176,23 @@ void KelCombo::Combo1_Change() {
         Combo1_->setText({});
     }
     if (!get_Changed() || !hostWantsChange()) return;
-    Host_.container.raiseEvent(Change, {});
+    Field_.host().container.raiseEvent(Change, {});
     if (LimitToList_) TextOriginal_ = Combo1_->text();
 }
 
 void KelCombo::Combo1_Click() {
     if (SelectionDepth_ > 0 || !get_Changed() || !hostWantsChange()) return;
-    Host_.container.raiseEvent(Click, {});
-    Host_.container.raiseEvent(Change, {});
+    Field_.host().container.raiseEvent(Click, {});
+    Field_.host().container.raiseEvent(Change, {});
     TextOriginal_ = Combo1_->text();
 }
 
 bool KelCombo::hostWantsChange() {
     Typing_ = false;
     Variant handled = true;
-    Host_.container.raiseEvent(ChangeEx, {&handled, 1});
+    Field_.host().container.raiseEvent(ChangeEx, {&handled, 1});
     bool wants = true;
-    static_cast<void>(coerce(handled, Host_.region, wants));
+    static_cast<void>(coerce(handled, Field_.region(), wants));
     return wants;
 }
 
@@ -247,99 +246,34 @@ void KelCombo::Combo1_Edit(EditAction Action) {
 }
 
 void KelCombo::Combo1_KeyPress(char32_t& KeyAscii) {
-    switch (KeyAscii) {
-        case keys::Enter:
-            KeyAscii = 0;
-            moveFocusOn(Host_);
-            return;
-        case keys::Backspace:
-            // The completed rest goes together with the character in front of it.
-            if (!LimitToList_ && !Combo1_->locked() && Combo1_->selStart() > 0) selectFrom(Combo1_->selStart() - 1);
-            break;
-        default: break;
-    }
+    if (KeyAscii == keys::Enter) return Field_.carryOut(KeyAnswer::MovesOn, KeyAscii);
+    // The completed rest goes together with the character in front of it.
+    const bool takesRest = KeyAscii == keys::Backspace && !LimitToList_ && !Combo1_->locked();
+    if (takesRest && Combo1_->selStart() > 0) selectFrom(Combo1_->selStart() - 1);
 }
 
-// ---- Looks
-
-void KelCombo::put_CaptionWidth(std::int16_t twips) {
-    if (putCaptionWidth(Host_, *Label1_, twips)) Resize();
-}
-
-void KelCombo::put_Enabled(bool enabled) {
-    report(u"Enabled");
-    Label1_->setEnabled(enabled);
-    Combo1_->setEnabled(enabled);
-    applyStateLook();
-}
-
-void KelCombo::put_Locked(bool locked) {
-    Combo1_->setLocked(locked);
-    report(u"Locked");
-    applyStateLook();
-}
-
-/// A box that is disabled alone looks as if it were not.
-void KelCombo::applyStateLook() {
-    const bool barred = Combo1_->locked() || !Host_.container.enabled();
-    Combo1_->setBackColor(backOnStateChange(Host_.settings, barred, Combo1_->backColor()).color);
-}
-
-void KelCombo::put_Mandatory(bool mandatory) {
-    Mandatory_ = mandatory;
-    report(u"Mandatory");
-    Label1_->setForeColor(captionColor(mandatory));
-}
-
-void KelCombo::put_SelectOnFocus(bool select) {
-    SelectOnFocus_ = select;
-    report(u"SelectOnFocus");
-}
-
-void KelCombo::TooltipSet(const std::u16string& tooltip) {
-    Combo1_->setToolTip(tooltip);
-    Host_.container.setToolTipText(tooltip);
-}
+// ---- The container
 
 void KelCombo::Resize() {
-    if (LoadingDepth_ != 0 || !Host_.container.hasSize()) return;
-    const DepthGuard guard(LoadingDepth_);
-    const FieldLayout layout = layOutField({}, Host_.container.size(), Label1_->bounds().width);
-    Host_.container.setSize(layout.control);
-    sizeCaption(*Label1_, layout);
-    Combo1_->move(layout.field);
+    if (!Field_.layOut()) return;
     if (DropDownWidth_ == 0) put_DropDownWidth(0);
     Combo1_->setSelLength(0);
 }
 
-void KelCombo::Show() {
-    setCaptionFont(Host_, *Label1_);
-    setFieldFont(Host_, *Combo1_);
-    takeToolTip(Host_, *Combo1_);
-}
-
-// ---- Design-time properties
-
 void KelCombo::InitProperties() {
     LimitToList_ = true;
-    Mandatory_ = true;
-    SelectOnFocus_ = false;
+    Field_.initMandatory(true);
+    Field_.initSelectOnFocus(false);
     Combo1_->setLocked(false);
     Combo1_->setListIndex(ListItems::NotFound);
-    Label1_->setForeColor(captionColor(Mandatory_));
-    nameNewCaption(Host_, *Label1_);
-    Resize();
+    Field_.colorCaption();
+    Field_.initNew();
 }
 
 void KelCombo::ReadProperties(PropertyBag& bag) {
-    {
-        const DepthGuard guard(LoadingDepth_);
-        readPersisted(Host_, *this, bag);
-    }
+    Field_.load(bag);
     Resize();
 }
-
-void KelCombo::WriteProperties(PropertyBag& bag) const { writePersisted(*this, bag); }
 
 // ---- Focus
 
@@ -350,12 +284,12 @@ void KelCombo::EnterFocus() {
 
 void KelCombo::ExitFocus() {
     settleText();
-    Combo1_->setBackColor(backOnExitFocus(Host_.settings, Combo1_->locked()).color);
+    Field_.colorOnExit();
 }
 
 void KelCombo::Combo1_GotFocus() {
-    if (SelectOnFocus_) selectOnFocus(*Combo1_, Host_.system.tabKeyDown());
-    Combo1_->setBackColor(backOnGotFocus(Host_.settings, Combo1_->locked()).color);
+    Field_.selectByTab();
+    Field_.colorOnGotFocus();
 }
 
 void KelCombo::Combo1_LostFocus() { Combo1_->setSelStart(0); }

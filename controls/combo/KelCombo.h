@@ -1,14 +1,13 @@
 #pragma once
 
-#include "common/FieldFrame.h"
+#include "common/EntryField.h"
 #include "host/ComboBox.h"
-#include "library/Control.h"
 
 namespace kel {
 
 /// Choice from a list: a caption and a combo box that completes what is typed, and may take nothing but its items.
 /// Public indexes count from 1.
-class KelCombo final : public Control, private ComboBoxListener {
+class KelCombo final : public EntryControl, private ComboBoxListener {
 public:
     static const EventRow Change;
     static const EventRow Click;
@@ -16,17 +15,11 @@ public:
 
     explicit KelCombo(ControlHost& host);
 
-    const std::u16string& get_Caption() const { return Label1_->caption(); }
-    void put_Caption(const std::u16string& caption) { putCaption(Host_, *Label1_, caption); }
-    std::int16_t get_CaptionWidth() const { return static_cast<std::int16_t>(Label1_->bounds().width); }
-    void put_CaptionWidth(std::int16_t twips);
     bool get_Changed() const { return !Combo1_->textEquals(TextOriginal_); }
     bool get_ChangedSaved() const { return !Combo1_->textEquals(TextSaved_); }
     std::int32_t get_DropDownWidth() const { return DropDownWidth_; }
     /// Twips. From 1 to 8000, other than the field's own width; anything else stands for that width, and is 0.
     void put_DropDownWidth(std::int32_t twips);
-    bool get_Enabled() const { return Combo1_->enabled(); }
-    void put_Enabled(bool enabled);
     bool get_LimitToList() const { return LimitToList_; }
     void put_LimitToList(bool limit);
     std::u16string get_List() const;
@@ -42,15 +35,6 @@ public:
     void put_ListTag(const std::u16string& tags);
     /// Without a number, the tag of the selected item.
     std::u16string get_ListTagItem(std::int16_t Item) const;
-    bool get_Locked() const { return Combo1_->locked(); }
-    void put_Locked(bool locked);
-    bool get_Mandatory() const { return Mandatory_; }
-    void put_Mandatory(bool mandatory);
-    std::int16_t get_MaxLength() const { return static_cast<std::int16_t>(Combo1_->maxLength()); }
-    void put_MaxLength(std::int16_t units);
-    void Refresh() { Combo1_->refresh(); }
-    bool get_SelectOnFocus() const { return SelectOnFocus_; }
-    void put_SelectOnFocus(bool select);
     /// Settles what is being typed first.
     const std::u16string& get_Text() const;
     void put_Text(const std::u16string& text);
@@ -58,7 +42,6 @@ public:
     void put_TextOriginal(const std::u16string& text) { TextOriginal_ = text; }
     const std::u16string& get_TextSaved() const { return TextSaved_; }
     void put_TextSaved(const std::u16string& text) { TextSaved_ = text; }
-    void TooltipSet(const std::u16string& tooltip);
     bool get_Valid() const;
 
     /// The width as form files keep it.
@@ -69,12 +52,11 @@ public:
     void Initialize() override;
     void InitProperties() override;
     void ReadProperties(PropertyBag& bag) override;
-    void WriteProperties(PropertyBag& bag) const override;
     void Resize() override;
-    void Show() override;
     void EnterFocus() override;
     void ExitFocus() override;
     WidgetSet widgets() override;
+    EntryField& entry() override { return Field_; }
 
 private:
     void Combo1_Change() override;
@@ -92,8 +74,6 @@ private:
     void completeTyping();
     void selectFrom(std::int32_t caret);
     bool hostWantsChange();
-    void applyStateLook();
-    void report(std::u16string_view bagName) { Host_.container.propertyChanged(bagName); }
 
     /// Where the tag asked for last stands, so that a loop over all tags reads each of them once more and not all.
     struct TagPlace {
@@ -102,19 +82,15 @@ private:
         std::int32_t position = 0;
     };
 
-    ControlHost Host_;
-    std::unique_ptr<Label> Label1_;
+    EntryField Field_;
     std::unique_ptr<ComboBox> Combo1_;
 
     bool LimitToList_ = true;
-    bool Mandatory_ = true;
-    bool SelectOnFocus_ = false;
     std::int32_t DropDownWidth_ = 0;
     std::u16string ListTag_;
     mutable TagPlace TagPlace_;
     std::u16string TextOriginal_;
     std::u16string TextSaved_;
-    std::int16_t LoadingDepth_ = 0;
 
     // Reading the text settles it, as if it had been settled all along.
     mutable std::int16_t SelectionDepth_ = 0;  ///< above 0 while the control itself changes text or selection

@@ -1,3 +1,4 @@
+#include "common/EntryMembers.h"
 #include "controls/combo/KelCombo.h"
 
 namespace kel {
@@ -5,10 +6,8 @@ namespace kel {
 namespace {
 
 constexpr MemberRow Members[] = {
-    property<&KelCombo::get_Caption, &KelCombo::put_Caption>(u"Caption", 0x68030013, u"Text of the caption").saved(u""),
-    property<&KelCombo::get_CaptionWidth, &KelCombo::put_CaptionWidth>(u"CaptionWidth", 0x68030012,
-                                                                       u"Width of the caption in twips")
-        .saved(0),
+    entry::caption(0x68030013),
+    entry::captionWidth(0x68030012),
     property<&KelCombo::get_Changed>(u"Changed", 0x68030011, u"The text differs from the original text"),
     property<&KelCombo::get_ChangedSaved>(u"ChangedSaved", 0x68030010, u"The text differs from the saved text"),
     property<&KelCombo::get_DropDownWidth, &KelCombo::put_DropDownWidth>(
@@ -16,8 +15,7 @@ constexpr MemberRow Members[] = {
         // Read by another name than written: kept, since forms were saved so.
         .savedAs<&KelCombo::loadDropDownWidth, &KelCombo::storedDropDownWidth>(0)
         .readAs(u"DropdownWidth"),
-    property<&KelCombo::get_Enabled, &KelCombo::put_Enabled>(u"Enabled", 0x6803000E, u"The field takes input")
-        .saved(true),
+    entry::enabled(0x6803000E),
     property<&KelCombo::get_LimitToList, &KelCombo::put_LimitToList>(u"LimitToList", 0x6803000D,
                                                                      u"The text is an item of the list, or empty")
         .saved(true),
@@ -39,29 +37,17 @@ constexpr MemberRow Members[] = {
                                          u"Tag of an item, counted from 1; left out, of the selected one")
         .arguments(u"Item")
         .lastOptional(),
-    property<&KelCombo::get_Locked, &KelCombo::put_Locked>(u"Locked", 0x68030006,
-                                                           u"The text can be read and copied but not changed")
-        .saved(false),
-    property<&KelCombo::get_Mandatory, &KelCombo::put_Mandatory>(u"Mandatory", 0x68030005,
-                                                                 u"The field must not be left empty")
-        .saved(true),
-    property<&KelCombo::get_MaxLength, &KelCombo::put_MaxLength>(
-        u"MaxLength", 0x68030004, u"Most UTF-16 units that can be typed or pasted; 0 for no limit")
-        .saved(0),
-    method<&KelCombo::Refresh>(u"Refresh", 0x60030014, u"Repaints the field"),
-    property<&KelCombo::get_SelectOnFocus, &KelCombo::put_SelectOnFocus>(
-        u"SelectOnFocus", 0x68030003, u"Entering the field with the Tab key selects its text")
-        .saved(false),
+    entry::locked(0x68030006, u"The text can be read and copied but not changed"),
+    entry::mandatory(0x68030005),
+    entry::maxLength(0x68030004),
+    entry::refresh(0x60030014),
+    entry::selectOnFocus(0x68030003),
     property<&KelCombo::get_Text, &KelCombo::put_Text>(u"Text", DefaultMemberId,
                                                        u"The text; where only items may stand, an item or empty")
         .saved(u""),
-    property<&KelCombo::get_TextOriginal, &KelCombo::put_TextOriginal>(u"TextOriginal", 0x68030002,
-                                                                       u"What Changed compares with")
-        .hiddenByReference(),
-    property<&KelCombo::get_TextSaved, &KelCombo::put_TextSaved>(u"TextSaved", 0x68030001,
-                                                                 u"What ChangedSaved compares with")
-        .hiddenByReference(),
-    method<&KelCombo::TooltipSet>(u"TooltipSet", 0x60030015, u"Sets the tooltip of the field").arguments(u"Tooltip"),
+    entry::original<&KelCombo::get_TextOriginal, &KelCombo::put_TextOriginal>(u"TextOriginal", 0x68030002),
+    entry::saved<&KelCombo::get_TextSaved, &KelCombo::put_TextSaved>(u"TextSaved", 0x68030001),
+    entry::tooltipSet(0x60030015),
     property<&KelCombo::get_Valid>(u"Valid", 0x68030000, u"The field is not mandatory, or not blank, or locked"),
     // Came later than the others and so stands last, in nobody's place.
     method<&KelCombo::ListFromArray>(u"ListFromArray", 0x60030016, u"Takes the items from an array, as they are")

@@ -125,7 +125,9 @@ Variant loadedDate(const std::u16string& text) {
     return date ? Variant(*date) : Variant(Null{});
 }
 
-KeyPressEffect dateKeyPressEffect(char32_t key) { return commonKeyPressEffect(key).value_or(KeyPressEffect::Writes); }
+KeyAnswer answerToDateCharacter(char32_t character) {
+    return answerToCommonCharacter(character).value_or(KeyAnswer::Writes);
+}
 
 std::u16string dateComplaint(Validity validity, const FieldRules& rules) { return complaint(validity, u"date", rules); }
 

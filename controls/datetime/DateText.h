@@ -41,8 +41,8 @@ std::u16string savedDate(std::optional<Date> value, Date today);
 /// any other text is to be read.
 Variant loadedDate(const std::u16string& text);
 
-/// What the character `key` does in the text box.
-KeyPressEffect dateKeyPressEffect(char32_t key);
+/// What the character comes to in the text box.
+KeyAnswer answerToDateCharacter(char32_t character);
 
 /// What to tell the user of a date that is not valid.
 std::u16string dateComplaint(Validity validity, const FieldRules& rules);

@@ -5,104 +5,129 @@
 
 namespace kel {
 
-DateTimeField::DateTimeField(ControlHost& host, DateTimeRules& rules, std::u16string_view format,
-                             const DateBounds& bounds)
-    : Rules_(rules), Frame_(host, *this, *this), Format_(std::u16string(format)), Bounds_(bounds) {}
+namespace {
 
-// ---- Properties
+constexpr EntryKind Kind{.hasCaptionFont = false};
 
-void DateTimeField::putFormat(std::u16string format) {
+}  // namespace
+
+DateTimeField::DateTimeField(ControlHost& host, EntryControl& control, const DateTimeRules& rules,
+                             const EventRow& change, std::u16string_view format, const DateBounds& bounds)
+    : Rules_(rules),
+      Change_(change),
+      Entry_(host, control, Kind),
+      Text1_(host.widgets.makeTextBox(*this, false)),
+      Format_(std::u16string(format)),
+      Bounds_(bounds) {
+    Entry_.add(*Text1_);
+    Entry_.addSpinner(*this);
+}
+
+DateTimeField& DateTimeField::of(Object& control) { return static_cast<DateTimeControl&>(control).field(); }
+
+const DateTimeField& DateTimeField::of(const Object& control) {
+    return static_cast<const DateTimeControl&>(control).field();
+}
+
+// ---- Members
+
+void DateTimeField::put_Format(const std::u16string& format) {
+    std::optional<std::u16string> accepted = Rules_.acceptedFormat(format);
+    if (!accepted) return;
     const bool stands = showsValue();
-    Format_ = FieldFormat(std::move(format));
-    Frame_.report(u"Format");
+    Format_ = FieldFormat(std::move(*accepted));
+    Entry_.report<&DateTimeField::put_Format>();
     if (!stands) return CommitText();
     TextDirty_ = false;
-    if (!Frame_.locked()) takeRead(dateIn(Value_));
+    if (!Entry_.get_Locked()) takeRead(dateIn(Value_));
     show(dateIn(Value_));
 }
 
-bool DateTimeField::showsValue() const { return Frame_.box().textEquals(Format_.show(dateIn(Value_), region())); }
-
-std::optional<Date> DateTimeField::read() const {
-    return dateIn(showsValue() ? Value_ : Rules_.parse(Frame_.box().text()));
+void DateTimeField::put_MinValue(Date minimum) {
+    Bounds_.putMinimum(Rules_.acceptedBound(minimum));
+    Entry_.report<&DateTimeField::put_MinValue>();
 }
 
-void DateTimeField::putMinimum(Date date) {
-    Bounds_.putMinimum(date);
-    Frame_.report(u"MinValue");
+void DateTimeField::put_MaxValue(Date maximum) {
+    Bounds_.putMaximum(Rules_.acceptedBound(maximum));
+    Entry_.report<&DateTimeField::put_MaxValue>();
 }
 
-void DateTimeField::putMaximum(Date date) {
-    Bounds_.putMaximum(date);
-    Frame_.report(u"MaxValue");
-}
-
-const Variant& DateTimeField::value() {
+const Variant& DateTimeField::get_Value() {
     if (TextDirty_) CommitText();
     return Value_;
 }
 
-void DateTimeField::putValue(const Variant& value) {
-    const std::optional<Date> date = dateIn(Rules_.parse(value));
-    Value_ = date ? Variant(Rules_.assigned(*date)) : Variant(Null{});
+void DateTimeField::put_Value(const Variant& value) {
+    const std::optional<Date> date = parsed(value);
+    Value_ = date ? Variant(Rules_.assigned(*date, host())) : Variant(Null{});
     ValueOriginal_ = Value_;
     show(dateIn(Value_));
     TextDirty_ = false;
-    Frame_.report(u"Value");
+    Entry_.report<&DateTimeField::put_Value>();
 }
 
 std::optional<Date> DateTimeField::valueToStore() const {
-    if (!TextDirty_ || Frame_.locked()) return dateIn(Value_);
+    if (!TextDirty_ || Entry_.get_Locked()) return dateIn(Value_);
     const std::optional<Date> date = read();
-    return date ? std::optional(Rules_.committed(*date)) : std::nullopt;
+    return date ? std::optional(Rules_.committed(*date, host(), Bounds_)) : std::nullopt;
 }
 
-bool DateTimeField::valid(bool showMessage) {
+bool DateTimeField::get_Valid(bool ShowMessage) {
     const std::optional<Date> candidate = TextDirty_ ? read() : dateIn(Value_);
-    if (Frame_.locked()) return true;
-    const bool mayBeEmpty = !Frame_.mandatory() && (Rules_.allowsAnyText() || Frame_.box().textLength() == 0);
+    if (Entry_.get_Locked()) return true;
+    const bool mayBeEmpty = !Entry_.get_Mandatory() && (Rules_.allowsAnyText() || Text1_->textLength() == 0);
     const Validity validity = validityOf(candidate, Bounds_, mayBeEmpty);
-    if (validity != Validity::Valid && showMessage)
-        Frame_.complain(Rules_.complaint(validity), Rules_.complaintTitle());
+    if (validity != Validity::Valid && ShowMessage)
+        Entry_.complain(Rules_.complaint(validity, textRules()), Rules_.complaintTitle());
     return validity == Validity::Valid;
 }
 
 // ---- The value and its text
 
+std::optional<Date> DateTimeField::parsed(const Variant& text) const {
+    return dateIn(Rules_.parse(text, host(), Format_.text()));
+}
+
+bool DateTimeField::showsValue() const { return Text1_->textEquals(Format_.show(dateIn(Value_), Entry_.region())); }
+
+std::optional<Date> DateTimeField::read() const { return showsValue() ? dateIn(Value_) : parsed(Text1_->text()); }
+
 void DateTimeField::CommitText() {
     TextDirty_ = false;
-    if (Frame_.locked()) return;
+    if (Entry_.get_Locked()) return;
     takeRead(read());
     show(dateIn(Value_));
 }
 
 void DateTimeField::takeRead(std::optional<Date> date) {
-    Value_ = date ? Variant(Rules_.committed(*date)) : Variant(Null{});
+    Value_ = date ? Variant(Rules_.committed(*date, host(), Bounds_)) : Variant(Null{});
 }
 
 void DateTimeField::step(std::int32_t delta) {
-    if (Frame_.locked()) return;
-    TextBox& box = Frame_.box();
-    const BoxState before{.text = box.text(), .caret = static_cast<std::size_t>(box.selStart()), .value = read()};
-    const FieldStep step = Rules_.step(before, delta);
+    if (Entry_.get_Locked()) return;
+    const BoxState before{
+        .text = Text1_->text(), .caret = static_cast<std::size_t>(Text1_->selStart()), .value = read()};
+    const FieldStep step = Rules_.step(before, delta, host(), textRules());
     Value_ = step.value;
-    box.setText(step.text);
-    box.setSelStart(static_cast<std::int32_t>(step.caret));
+    Text1_->setText(step.text);
+    Text1_->setSelStart(static_cast<std::int32_t>(step.caret));
     if (!step.isFirst && !isChangedByStep(ValueOriginal_, step.value)) return;
-    Rules_.raiseChange();
+    host().container.raiseEvent(Change_, {});
     ValueOriginal_ = Value_;
 }
 
 // ---- The container
 
 void DateTimeField::initNew() {
-    Frame_.initNew(true);
-    Frame_.label().setForeColor(captionColor(Frame_.mandatory()));
+    Entry_.initUpDown(true);
+    Entry_.initNew();
+    Entry_.colorCaption();
 }
 
 void DateTimeField::exitFocus() {
     CommitText();
-    Frame_.colorOnExit();
+    Entry_.colorOnExit();
 }
 
 // ---- Focus
@@ -115,39 +140,27 @@ bool DateTimeField::isValueOutOfRange() const {
 }
 
 void DateTimeField::Text1_GotFocus() {
-    if (Frame_.selectOnFocus()) selectOnFocus(Frame_.box(), Frame_.host().system.tabKeyDown());
-    Frame_.colorOnGotFocus();
-    if (!Frame_.locked() && isValueOutOfRange()) TextDirty_ = true;
+    Entry_.selectByTab();
+    Entry_.colorOnGotFocus();
+    if (!Entry_.get_Locked() && isValueOutOfRange()) TextDirty_ = true;
 }
 
-void DateTimeField::Text1_LostFocus() { Frame_.box().setSelStart(0); }
+void DateTimeField::Text1_LostFocus() { Text1_->setSelStart(0); }
 
 // ---- Keys, mouse and spinner
 
 void DateTimeField::Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) {
-    switch (keyDownEffect(KeyCode, Shift)) {
-        case KeyDownEffect::StepsUp:
-        case KeyDownEffect::StepsDown:
-            step(KeyCode == keys::Up ? 1 : -1);
-            KeyCode = 0;
-            return;
-        case KeyDownEffect::TogglesInsertMode: Frame_.toggleInsertMode(); return;
-        case KeyDownEffect::Edits: TextDirty_ = true;
-    }
+    const KeyAnswer answer = EntryField::answerToKey(KeyCode, Shift, true);
+    if (answer == KeyAnswer::Passes) TextDirty_ = true;
+    Entry_.carryOut(answer, KeyCode);
+    if (const int delta = stepOf(answer)) step(delta);
 }
 
 void DateTimeField::Text1_KeyPress(char32_t& KeyAscii) {
     TextDirty_ = true;  // an input method types without a key going down
-    const KeyPressEffect effect = Rules_.keyPressEffect(KeyAscii);
-    if (effect != KeyPressEffect::Passes && effect != KeyPressEffect::Writes) KeyAscii = 0;
-    switch (effect) {
-        case KeyPressEffect::Writes: Frame_.prepareOverwriting(); return;
-        case KeyPressEffect::StepsUp: step(1); return;
-        case KeyPressEffect::StepsDown: step(-1); return;
-        case KeyPressEffect::MovesOn: Frame_.moveOn(); return;
-        case KeyPressEffect::Passes:
-        case KeyPressEffect::Refused: return;
-    }
+    const KeyAnswer answer = Rules_.answerToCharacter(KeyAscii, Entry_.region());
+    Entry_.carryOut(answer, KeyAscii);
+    if (const int delta = stepOf(answer)) step(delta);
 }
 
 bool DateTimeField::Text1_Paste(std::u16string& /*Text*/) {
@@ -164,10 +177,10 @@ void DateTimeField::Text1_Wheel(std::int32_t Notches) {
 }
 
 void DateTimeField::UpDown1_Change() {
-    const int direction = Frame_.answerSpinner();
+    const int direction = Entry_.answerSpinner();
     if (direction == 0) return;
     step(direction);
-    Frame_.restSpinner();
+    Entry_.restSpinner();
 }
 
 }  // namespace kel

@@ -1,25 +1,29 @@
 #pragma once
 
-#include "common/SpinnerField.h"
+#include "common/EntryField.h"
 #include "controls/datetime/DateTimeText.h"
 
 namespace kel {
 
-/// What makes a date field of a field, or a time field.
+/// What makes a date field of a field, or a time field. The rules are told what they need of the field: its host, and
+/// its format and bounds.
 class DateTimeRules {
 public:
     /// The date or time that the run-time object reads in a text or a value, else Null.
-    virtual Variant parse(const Variant& text) const = 0;
+    virtual Variant parse(const Variant& text, const ControlHost& host, const std::u16string& format) const = 0;
+    /// A format as the field keeps it that it is given; nothing for one that it does not take.
+    virtual std::optional<std::u16string> acceptedFormat(const std::u16string& format) const = 0;
+    virtual Date acceptedBound(Date bound) const = 0;
     /// A value as the field holds it that comes from code, or from its own text.
-    virtual Date assigned(Date date) const = 0;
-    virtual Date committed(Date date) const = 0;
-    virtual FieldStep step(const BoxState& box, std::int32_t delta) const = 0;
-    virtual KeyPressEffect keyPressEffect(char32_t key) const = 0;
+    virtual Date assigned(Date date, const ControlHost& host) const = 0;
+    virtual Date committed(Date date, const ControlHost& host, const DateBounds& bounds) const = 0;
+    virtual FieldStep step(const BoxState& box, std::int32_t delta, const ControlHost& host,
+                           const FieldRules& rules) const = 0;
+    virtual KeyAnswer answerToCharacter(char32_t character, const RegionalSettings& region) const = 0;
     /// Whether a field that is not mandatory may hold a text that is no value.
     virtual bool allowsAnyText() const = 0;
     virtual std::u16string_view complaintTitle() const = 0;
-    virtual std::u16string complaint(Validity validity) const = 0;
-    virtual void raiseChange() = 0;
+    virtual std::u16string complaint(Validity validity, const FieldRules& rules) const = 0;
 
 protected:
     ~DateTimeRules() = default;
@@ -28,35 +32,41 @@ protected:
 /// The value of a date or time field behind its text: read, shown, stepped and validated alike in both.
 class DateTimeField final : private TextBoxListener, private UpDownListener {
 public:
-    /// `rules` outlives it.
-    DateTimeField(ControlHost& host, DateTimeRules& rules, std::u16string_view format, const DateBounds& bounds);
+    /// `control`, whose part it is, `rules` and `change`, the event of a step, outlive it.
+    DateTimeField(ControlHost& host, EntryControl& control, const DateTimeRules& rules, const EventRow& change,
+                  std::u16string_view format, const DateBounds& bounds);
 
-    SpinnerField& frame() { return Frame_; }
-    const SpinnerField& frame() const { return Frame_; }
-    const RegionalSettings& region() const { return Frame_.host().region; }
-    const FieldFormat& format() const { return Format_; }
-    const DateBounds& bounds() const { return Bounds_; }
-    FieldRules textRules() const { return {Format_, Bounds_, region()}; }
+    /// Of a control that is a `DateTimeControl`.
+    static DateTimeField& of(Object& control);
+    static const DateTimeField& of(const Object& control);
 
-    // ---- Properties. Each put of a persisted one reports its own name.
+    EntryField& entry() { return Entry_; }
+    const ControlHost& host() const { return Entry_.host(); }
 
+    // ---- Members of the controls
+
+    bool get_Changed() { return isChanged(ValueOriginal_, get_Value()); }
+    bool get_ChangedSaved() { return isChanged(ValueSaved_, get_Value()); }
+    const std::u16string& get_Format() const { return Format_.text(); }
     /// A text that stands as it was displayed shows its value anew, in a locked field too; one that is being edited is
     /// read by the new format.
-    void putFormat(std::u16string format);
-    void putMinimum(Date date);
-    void putMaximum(Date date);
-    /// Empty until the first assignment, then Null or a date; text that is being edited is committed first.
-    const Variant& value();
-    /// Does not heed the bounds.
-    void putValue(const Variant& value);
-    const Variant& valueOriginal() const { return ValueOriginal_; }
-    void putValueOriginal(const Variant& value) { ValueOriginal_ = value; }
-    const Variant& valueSaved() const { return ValueSaved_; }
-    void putValueSaved(const Variant& value) { ValueSaved_ = value; }
-    bool changed() { return isChanged(ValueOriginal_, value()); }
-    bool changedSaved() { return isChanged(ValueSaved_, value()); }
+    void put_Format(const std::u16string& format);
+    /// Putting either bound takes the other one along when it passes it. The value stays until it is next committed.
+    Date get_MaxValue() const { return Bounds_.maximum; }
+    void put_MaxValue(Date maximum);
+    Date get_MinValue() const { return Bounds_.minimum; }
+    void put_MinValue(Date minimum);
     /// Looks at the text as it stands, without committing it.
-    bool valid(bool showMessage);
+    bool get_Valid(bool ShowMessage);
+    /// Empty until the first assignment, then Null or a date; text that is being edited is committed first.
+    const Variant& get_Value();
+    /// Does not heed the bounds.
+    void put_Value(const Variant& value);
+    const Variant& get_ValueOriginal() const { return ValueOriginal_; }
+    void put_ValueOriginal(const Variant& value) { ValueOriginal_ = value; }
+    const Variant& get_ValueSaved() const { return ValueSaved_; }
+    void put_ValueSaved(const Variant& value) { ValueSaved_ = value; }
+
     /// The value as it would be committed now.
     std::optional<Date> valueToStore() const;
 
@@ -72,30 +82,46 @@ private:
     void Text1_KeyPress(char32_t& KeyAscii) override;
     bool Text1_Paste(std::u16string& Text) override;
     void Text1_MouseDown(MouseButton Button) override;
-    bool Text1_UsesWheel() override { return Frame_.upDown(); }
+    bool Text1_UsesWheel() override { return Entry_.get_UpDown(); }
     void Text1_Wheel(std::int32_t Notches) override;
     void Text1_GotFocus() override;
     void Text1_LostFocus() override;
     void UpDown1_Change() override;
 
+    FieldRules textRules() const { return {Format_, Bounds_, Entry_.region()}; }
     void CommitText();
     void step(std::int32_t delta);
     /// The value that the text stands for. As it was displayed it is not read again: it may leave much of the value
     /// out (the century), or be no text that can be read.
     std::optional<Date> read() const;
+    std::optional<Date> parsed(const Variant& text) const;
     void takeRead(std::optional<Date> date);
-    void show(std::optional<Date> date) { Frame_.box().setText(Format_.show(date, region())); }
+    void show(std::optional<Date> date) { Text1_->setText(Format_.show(date, Entry_.region())); }
     bool showsValue() const;
     bool isValueOutOfRange() const;
 
-    DateTimeRules& Rules_;
-    SpinnerField Frame_;
+    const DateTimeRules& Rules_;
+    const EventRow& Change_;
+    EntryField Entry_;
+    std::unique_ptr<TextBox> Text1_;
     FieldFormat Format_;
     DateBounds Bounds_;
     Variant Value_;
     Variant ValueOriginal_;
     Variant ValueSaved_;
     bool TextDirty_ = false;  ///< the text must be read before the value is used
+};
+
+/// A control that is a date or time field, as the rows of its members and its container see it.
+class DateTimeControl : public EntryControl {
+public:
+    virtual DateTimeField& field() = 0;
+    const DateTimeField& field() const { return const_cast<DateTimeControl*>(this)->field(); }
+
+    EntryField& entry() final { return field().entry(); }
+    void InitProperties() override { field().initNew(); }
+    void EnterFocus() override {}
+    void ExitFocus() override { field().exitFocus(); }
 };
 
 }  // namespace kel

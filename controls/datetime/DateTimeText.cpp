@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/Keys.h"
 #include "values/Calendar.h"
 #include "values/FormatExpressionNames.h"
 #include "values/Text.h"
@@ -163,22 +164,13 @@ std::optional<ShownField> fieldOf(const StepPlace& place, Date value, const Fiel
     return last == fields.rend() ? std::nullopt : std::optional(*last);
 }
 
-KeyDownEffect keyDownEffect(std::int16_t keyCode, Modifiers modifiers) {
-    if (togglesOverwriting(keyCode, modifiers)) return KeyDownEffect::TogglesInsertMode;
-    switch (keyCode) {
-        case keys::Up: return KeyDownEffect::StepsUp;
-        case keys::Down: return KeyDownEffect::StepsDown;
-        default: return KeyDownEffect::Edits;
-    }
-}
-
-std::optional<KeyPressEffect> commonKeyPressEffect(char32_t character) {
+std::optional<KeyAnswer> answerToCommonCharacter(char32_t character) {
     switch (character) {
         case keys::Backspace:
-        case keys::Escape: return KeyPressEffect::Passes;
-        case keys::Enter: return KeyPressEffect::MovesOn;
-        case U'+': return KeyPressEffect::StepsUp;
-        case U'-': return KeyPressEffect::StepsDown;
+        case keys::Escape: return KeyAnswer::Passes;
+        case keys::Enter: return KeyAnswer::MovesOn;
+        case U'+': return KeyAnswer::StepsUp;
+        case U'-': return KeyAnswer::StepsDown;
         default: return std::nullopt;
     }
 }

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "host/Keys.h"
+#include "common/KeyAnswer.h"
 #include "values/FormatExpression.h"
 #include "values/RegionalSettings.h"
 #include "values/Variant.h"
@@ -139,27 +139,7 @@ std::optional<ShownField> fieldOf(const StepPlace& place, Date value, const Fiel
 
 // ---- Keys
 
-/// What a key that goes down does.
-enum class KeyDownEffect : std::uint8_t {
-    Edits,  ///< the text box gets it, and the text must be read again
-    StepsUp,
-    StepsDown,
-    TogglesInsertMode,  ///< the text box gets it as well
-};
-
-KeyDownEffect keyDownEffect(std::int16_t keyCode, Modifiers modifiers);
-
-/// What a character does.
-enum class KeyPressEffect : std::uint8_t {
-    Passes,  ///< the text box gets it
-    Writes,  ///< the text box gets it, and it overwrites in overwrite mode
-    StepsUp,
-    StepsDown,
-    MovesOn,
-    Refused,
-};
-
-/// What Enter, "+", "-", backspace and Escape do in either field; nothing for other characters.
-std::optional<KeyPressEffect> commonKeyPressEffect(char32_t character);
+/// What Enter, "+", "-", backspace and Escape come to in either field; nothing for other characters.
+std::optional<KeyAnswer> answerToCommonCharacter(char32_t character);
 
 }  // namespace kel

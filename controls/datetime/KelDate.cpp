@@ -1,29 +1,49 @@
 #include "controls/datetime/KelDate.h"
 
+#include "common/FieldFrame.h"
+
 namespace kel {
 
+// ---- Rules
+
+Variant DateRules::parse(const Variant& text, const ControlHost& host, const std::u16string& format) const {
+    return runtimeDates(host)->ParseDate(text, format, host.system.today(), DaysFlag == KelDateDaysFlag::BirthDay);
+}
+
+std::optional<std::u16string> DateRules::acceptedFormat(const std::u16string& format) const {
+    return format.empty() ? std::nullopt : std::optional(format);
+}
+
+DayPin DateRules::pin(const ControlHost& host) const {
+    return {DaysFlag, [&host](Date date) { return runtimeDates(host)->LastDayOfMonth(date); }};
+}
+
+Date DateRules::committed(Date date, const ControlHost& host, const DateBounds& bounds) const {
+    return kel::committed(date, bounds, pin(host));
+}
+
+FieldStep DateRules::step(const BoxState& box, std::int32_t delta, const ControlHost& host,
+                          const FieldRules& rules) const {
+    return stepDate(box, host.system.today(), delta, rules, pin(host));
+}
+
+KeyAnswer DateRules::answerToCharacter(char32_t character, const RegionalSettings& /*region*/) const {
+    return answerToDateCharacter(character);
+}
+
+std::u16string DateRules::complaint(Validity validity, const FieldRules& rules) const {
+    return dateComplaint(validity, rules);
+}
+
+// ---- The control
+
+KelDate::KelDate(ControlHost& host) : Field_(host, *this, Rules_, Change, DefaultDateFormat, AllDates) {}
+
 void KelDate::put_DaysFlag(KelDateDaysFlag flag) {
-    DaysFlag_ = flag;
-    field().frame().report(u"DaysFlag");
+    Rules_.DaysFlag = flag;
+    entry().report<&KelDate::put_DaysFlag>();
 }
 
-void KelDate::put_Format(const std::u16string& format) {
-    if (!format.empty()) field().putFormat(format);
-}
-
-Variant KelDate::parse(const Variant& text) const {
-    return runtimeDates(host())->ParseDate(text, get_Format(), host().system.today(),
-                                           DaysFlag_ == KelDateDaysFlag::BirthDay);
-}
-
-DayPin KelDate::pin() const {
-    return {DaysFlag_, [this](Date date) { return runtimeDates(host())->LastDayOfMonth(date); }};
-}
-
-FieldStep KelDate::step(const BoxState& box, std::int32_t delta) const {
-    return stepDate(box, host().system.today(), delta, field().textRules(), pin());
-}
-
-std::u16string KelDate::storedValue() const { return savedDate(field().valueToStore(), host().system.today()); }
+std::u16string KelDate::storedValue() const { return savedDate(Field_.valueToStore(), Field_.host().system.today()); }
 
 }  // namespace kel

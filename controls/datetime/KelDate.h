@@ -1,9 +1,31 @@
 #pragma once
 
 #include "controls/datetime/DateText.h"
-#include "controls/datetime/DateTimeControl.h"
+#include "controls/datetime/DateTimeField.h"
 
 namespace kel {
+
+/// The rules of a field that holds a date.
+class DateRules final : public DateTimeRules {
+public:
+    KelDateDaysFlag DaysFlag = KelDateDaysFlag::Allow;
+
+    Variant parse(const Variant& text, const ControlHost& host, const std::u16string& format) const override;
+    /// An empty format is none.
+    std::optional<std::u16string> acceptedFormat(const std::u16string& format) const override;
+    Date acceptedBound(Date bound) const override { return bound; }
+    Date assigned(Date date, const ControlHost& host) const override { return pinned(date, pin(host)); }
+    Date committed(Date date, const ControlHost& host, const DateBounds& bounds) const override;
+    FieldStep step(const BoxState& box, std::int32_t delta, const ControlHost& host,
+                   const FieldRules& rules) const override;
+    KeyAnswer answerToCharacter(char32_t character, const RegionalSettings& region) const override;
+    bool allowsAnyText() const override { return false; }
+    std::u16string_view complaintTitle() const override { return InvalidDateTitle; }
+    std::u16string complaint(Validity validity, const FieldRules& rules) const override;
+
+private:
+    DayPin pin(const ControlHost& host) const;
+};
 
 /// Date entry: a caption, a text field that takes a date in free form, and a spinner that steps the part of the
 /// date under the caret.
@@ -11,38 +33,24 @@ class KelDate final : public DateTimeControl {
 public:
     static const EventRow Change;
 
-    explicit KelDate(ControlHost& host) : DateTimeControl(host, DefaultDateFormat, AllDates) {}
+    explicit KelDate(ControlHost& host);
 
-    KelDateDaysFlag get_DaysFlag() const { return DaysFlag_; }
+    KelDateDaysFlag get_DaysFlag() const { return Rules_.DaysFlag; }
     /// Heeded from the next commit or step on.
     void put_DaysFlag(KelDateDaysFlag flag);
-    /// An empty format is ignored.
-    void put_Format(const std::u16string& format);
-    void put_MaxValue(Date maximum) { field().putMaximum(maximum); }
-    void put_MinValue(Date minimum) { field().putMinimum(minimum); }
 
     /// The flag and the value as a form file keeps them.
-    std::int16_t storedDaysFlag() const { return static_cast<std::int16_t>(DaysFlag_); }
+    std::int16_t storedDaysFlag() const { return static_cast<std::int16_t>(Rules_.DaysFlag); }
     void loadDaysFlag(std::int16_t flag) { put_DaysFlag(static_cast<KelDateDaysFlag>(flag)); }
     std::u16string storedValue() const;
-    void loadValue(const std::u16string& text) { put_Value(loadedDate(text)); }
+    void loadValue(const std::u16string& text) { Field_.put_Value(loadedDate(text)); }
 
     const ClassModel& model() const override;
+    DateTimeField& field() override { return Field_; }
 
 private:
-    Variant parse(const Variant& text) const override;
-    Date assigned(Date date) const override { return pinned(date, pin()); }
-    Date committed(Date date) const override { return kel::committed(date, field().bounds(), pin()); }
-    FieldStep step(const BoxState& box, std::int32_t delta) const override;
-    KeyPressEffect keyPressEffect(char32_t key) const override { return dateKeyPressEffect(key); }
-    bool allowsAnyText() const override { return false; }
-    std::u16string_view complaintTitle() const override { return InvalidDateTitle; }
-    std::u16string complaint(Validity validity) const override { return dateComplaint(validity, field().textRules()); }
-    void raiseChange() override { host().container.raiseEvent(Change, {}); }
-
-    DayPin pin() const;
-
-    KelDateDaysFlag DaysFlag_ = KelDateDaysFlag::Allow;
+    DateRules Rules_;
+    DateTimeField Field_;
 };
 
 extern const ClassModel KelDateModel;

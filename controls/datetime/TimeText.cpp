@@ -100,14 +100,13 @@ std::u16string savedTime(std::optional<Date> value) {
     return text;
 }
 
-KeyPressEffect timeKeyPressEffect(char32_t key, char32_t zeroDigit) {
+KeyAnswer answerToTimeCharacter(char32_t character, char32_t zeroDigit) {
     constexpr char32_t FirstPrintable = 32;
     constexpr std::u32string_view Accepted = U".0123456789:AMPamp";
-    if (const auto effect = commonKeyPressEffect(key)) return *effect;
-    if (key < FirstPrintable) return KeyPressEffect::Passes;
-    const bool isDigit = key >= zeroDigit && key - zeroDigit < NoDigit;
-    return isDigit || Accepted.find(key) != std::u32string_view::npos ? KeyPressEffect::Writes
-                                                                      : KeyPressEffect::Refused;
+    if (const auto answer = answerToCommonCharacter(character)) return *answer;
+    if (character < FirstPrintable) return KeyAnswer::Passes;
+    const bool isDigit = character >= zeroDigit && character - zeroDigit < NoDigit;
+    return isDigit || Accepted.find(character) != std::u32string_view::npos ? KeyAnswer::Writes : KeyAnswer::Refused;
 }
 
 std::u16string timeComplaint(Validity validity, const FieldRules& rules) { return complaint(validity, u"time", rules); }

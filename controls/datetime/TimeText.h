@@ -33,8 +33,8 @@ FieldStep stepTime(const BoxState& box, Date now, std::int32_t delta, const Fiel
 /// What a time is saved as: "hh:nn:ss", in every region alike; no time is "".
 std::u16string savedTime(std::optional<Date> value);
 
-/// What the character `key` does in the text box; the region's digits, from `zeroDigit` on, are written as the others.
-KeyPressEffect timeKeyPressEffect(char32_t key, char32_t zeroDigit);
+/// What the character comes to in the text box; the region's digits, from `zeroDigit` on, are written as the others.
+KeyAnswer answerToTimeCharacter(char32_t character, char32_t zeroDigit);
 
 /// What to tell the user of a time that is not valid.
 std::u16string timeComplaint(Validity validity, const FieldRules& rules);

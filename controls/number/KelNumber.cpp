@@ -4,7 +4,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "common/Persistence.h"
+#include "common/FieldFrame.h"
 #include "values/NumberFormat.h"
 #include "values/NumberReader.h"
 
@@ -14,47 +14,40 @@ namespace {
 
 constexpr Color Black = 0x00000000;
 constexpr std::int16_t RegionalDecimals = -1;
+constexpr EntryKind Kind{.hasCaptionFont = false, .captionWithinControl = true};
 
 std::int32_t unitsOf(std::size_t count) { return static_cast<std::int32_t>(count); }
 
 }  // namespace
 
-KelNumber::KelNumber(ControlHost& host) : Field_(host, *this, *this) { takeDecimals(); }
+KelNumber::KelNumber(ControlHost& host) : Field_(host, *this, Kind), Text1_(host.widgets.makeTextBox(*this, false)) {
+    Field_.add(*Text1_);
+    Field_.addSpinner(*this);
+    takeDecimals();
+}
 
 // ---- Properties
 
-void KelNumber::put_CaptionWidth(std::int16_t twips) {
-    const Container& container = Field_.host().container;
-    const std::int32_t widest = container.hasSize() ? container.size().width : twips;
-    Field_.putCaptionWidth(static_cast<std::int16_t>(std::min<std::int32_t>(twips, widest)));
-}
-
 bool KelNumber::get_ChangedCaption(std::u16string& CaptionToSave) const {
     // A caption differs from the one its label was bound with, which is none: nothing here binds labels to data.
-    CaptionToSave = get_Caption();
+    CaptionToSave = Field_.get_Caption();
     return false;
-}
-
-void KelNumber::put_FontBold(bool bold) {
-    Field_.label().setFontBold(bold);
-    Field_.box().setFontBold(bold);
-    Field_.report(u"FontBold");
 }
 
 void KelNumber::put_GroupDigits(bool group) {
     GroupDigits_ = group;
-    Field_.report(u"GroupDigits");
+    Field_.report<&KelNumber::put_GroupDigits>();
 }
 
 void KelNumber::put_UpDownChange(double step) {
     UpDownChange_ = step;
-    Field_.report(u"UpDownChange");
+    Field_.report<&KelNumber::put_UpDownChange>();
 }
 
 void KelNumber::put_Decimals(std::int16_t count) {
     if (count < RegionalDecimals || count > MostDecimals) return;
     Decimals_ = count;
-    Field_.report(u"Decimals");
+    Field_.report<&KelNumber::put_Decimals>();
     takeDecimals();
     put_Value(number());
 }
@@ -67,13 +60,13 @@ void KelNumber::takeDecimals() {
 
 void KelNumber::put_MaxValue(double maximum) {
     MaxValue_ = roundNumber(maximum);
-    Field_.report(u"MaxValue");
+    Field_.report<&KelNumber::put_MaxValue>();
     MinValue_ = std::min(MinValue_, MaxValue_);
 }
 
 void KelNumber::put_MinValue(double minimum) {
     MinValue_ = roundNumber(minimum);
-    Field_.report(u"MinValue");
+    Field_.report<&KelNumber::put_MinValue>();
     MaxValue_ = std::max(MaxValue_, MinValue_);
 }
 
@@ -99,36 +92,34 @@ double KelNumber::number() {
 }
 
 double KelNumber::storedValue() const {
-    if (!TextDirty_ || get_Locked()) return Value_;
+    if (!TextDirty_ || Field_.get_Locked()) return Value_;
     return bounded(parseField());
 }
 
 void KelNumber::put_Value(const Variant& value) {
-    if (!isNumeric(value, Field_.host().region)) return;
+    if (!isNumeric(value, Field_.region())) return;
     Value_ = numberFromValue(value);
     ValueOriginal_ = Value_;
     showValue();
-    Field_.box().setForeColor(numberColor(Value_));
+    Text1_->setForeColor(numberColor(Value_));
     TextDirty_ = false;
-    Field_.report(u"Value");
+    Field_.report<&KelNumber::put_Value>();
 }
 
-void KelNumber::showValue() {
-    Field_.box().setText(displayText(Value_, DecimalsInUse_, GroupDigits_, Field_.host().region));
-}
+void KelNumber::showValue() { Text1_->setText(displayText(Value_, DecimalsInUse_, GroupDigits_, Field_.region())); }
 
 void KelNumber::CommitText() {
     TextDirty_ = false;
-    if (get_Locked()) return;
+    if (Field_.get_Locked()) return;
     Value_ = bounded(parseField());
     showValue();
 }
 
 void KelNumber::StepValue(double delta) {
-    if (get_Locked()) return;
+    if (Field_.get_Locked()) return;
     CommitText();
     const double stepped = roundNumber(steppedNumber(Value_, delta));
-    Field_.box().setText(generalNumber(stepped, Field_.host().region));
+    Text1_->setText(generalNumber(stepped, Field_.region()));
     CommitText();
     if (Value_ == ValueOriginal_) return;
     Field_.host().container.raiseEvent(Change, {});
@@ -137,41 +128,40 @@ void KelNumber::StepValue(double delta) {
 
 bool KelNumber::get_Valid(bool ShowMessage) {
     const double value = TextDirty_ ? parseField() : Value_;
-    if (get_Locked()) return true;
+    if (Field_.get_Locked()) return true;
     constexpr std::u16string_view Title = u"Invalid Value";
-    if (get_Mandatory() && value == 0) {
+    if (Field_.get_Mandatory() && value == 0) {
         if (ShowMessage) Field_.complain(u"Please enter a non-zero value in this field.", Title);
         return false;
     }
     if (bounded(value) == value) return true;
     if (ShowMessage)
-        Field_.complain(rangeMessage(MinValue_, MaxValue_, DecimalsInUse_, GroupDigits_, Field_.host().region), Title);
+        Field_.complain(rangeMessage(MinValue_, MaxValue_, DecimalsInUse_, GroupDigits_, Field_.region()), Title);
     return false;
 }
 
 // ---- Design-time properties
 
 void KelNumber::InitProperties() {
-    Field_.initNew(false);
-    Field_.box().setText(u"0");
+    Field_.initUpDown(false);
+    Field_.initNew();
+    Text1_->setText(u"0");
 }
-
-void KelNumber::WriteProperties(PropertyBag& bag) const { writePersisted(*this, bag); }
 
 // ---- Focus
 
 void KelNumber::EnterFocus() {
     ValueOriginal_ = Value_;
-    Field_.box().setForeColor(Black);
+    Text1_->setForeColor(Black);
 }
 
 void KelNumber::Text1_GotFocus() {
-    TextBox& box = Field_.box();
-    if (!get_Locked()) {
-        if (!SpinFocus_) box.setText(editText(Value_, DecimalsInUse_, Field_.host().region));
+    TextBox& box = *Text1_;
+    if (!Field_.get_Locked()) {
+        if (!SpinFocus_) box.setText(editText(Value_, DecimalsInUse_, Field_.region()));
         SpinFocus_ = false;
         box.setSelStart(0);
-        if (get_SelectOnFocus()) box.setSelLength(box.textLength());
+        if (Field_.get_SelectOnFocus()) box.setSelLength(box.textLength());
         if (bounded(Value_) != Value_) TextDirty_ = true;
     }
     Field_.colorOnGotFocus();
@@ -179,7 +169,7 @@ void KelNumber::Text1_GotFocus() {
 
 void KelNumber::ExitFocus() {
     CommitText();
-    Field_.box().setForeColor(numberColor(Value_));
+    Text1_->setForeColor(numberColor(Value_));
     Field_.colorOnExit();
     SpinFocus_ = false;
 }
@@ -188,26 +178,21 @@ void KelNumber::ExitFocus() {
 
 void KelNumber::Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) {
     KeypadDecimal_ = KeyCode == keys::Decimal && (Shift & (ControlKey | AltKey)) == 0;
-    if (togglesOverwriting(KeyCode, Shift)) return Field_.toggleInsertMode();
-    switch (KeyCode) {
-        case keys::Up:
-        case keys::Down:
-            if (!get_UpDown()) return;
-            StepValue(KeyCode == keys::Up ? UpDownChange_ : -UpDownChange_);
-            KeyCode = 0;
-            return;
-        default: TextDirty_ = true;
-    }
+    const bool isArrow = KeyCode == keys::Up || KeyCode == keys::Down;
+    const KeyAnswer answer = EntryField::answerToKey(KeyCode, Shift, Field_.get_UpDown());
+    if (answer == KeyAnswer::Passes && !isArrow) TextDirty_ = true;
+    Field_.carryOut(answer, KeyCode);
+    if (const int direction = stepOf(answer)) StepValue(direction * UpDownChange_);
 }
 
 TextSpan KelNumber::selection() const {
-    const TextBox& box = Field_.box();
+    const TextBox& box = *Text1_;
     return {static_cast<std::size_t>(box.selStart()), static_cast<std::size_t>(box.selLength())};
 }
 
 void KelNumber::select(TextSpan span) {
-    Field_.box().setSelStart(unitsOf(span.start));
-    Field_.box().setSelLength(unitsOf(span.length));
+    Text1_->setSelStart(unitsOf(span.start));
+    Text1_->setSelLength(unitsOf(span.length));
 }
 
 void KelNumber::Text1_KeyPress(char32_t& KeyAscii) {
@@ -215,29 +200,27 @@ void KelNumber::Text1_KeyPress(char32_t& KeyAscii) {
     // Whatever the keyboard's layout makes of it, the keypad's key is the one for decimals; what an input method types
     // after it is what it is.
     if (std::exchange(KeypadDecimal_, false)) KeyAscii = DecimalCharacter_;
-    const KeyEffect effect = filterKey(KeyAscii, Field_.box().text(), selection(),
+    const KeyEffect effect = filterKey(KeyAscii, Text1_->text(), selection(),
                                        {.decimals = DecimalsInUse_,
                                         .decimalCharacter = DecimalCharacter_,
-                                        .zeroDigit = Field_.host().region.ZeroDigit,
-                                        .insertMode = get_InsertMode(),
-                                        .locked = get_Locked()});
-    if (effect.verdict != KeyVerdict::Passed) KeyAscii = 0;
+                                        .zeroDigit = Field_.region().ZeroDigit,
+                                        .insertMode = Field_.get_InsertMode(),
+                                        .locked = Field_.get_Locked()});
     apply(effect);
+    Field_.carryOut(effect.answer, KeyAscii);
 }
 
 void KelNumber::apply(const KeyEffect& effect) {
     if (effect.replaced) {
         select(*effect.replaced);
-        Field_.box().setSelText(std::u16string_view(&effect.inserted, 1));
+        Text1_->setSelText(std::u16string_view(&effect.inserted, 1));
     }
     if (effect.selection) select(*effect.selection);
-    if (effect.verdict == KeyVerdict::Beep) Field_.host().system.beep();
-    if (effect.verdict == KeyVerdict::MoveOn) Field_.moveOn();
 }
 
 bool KelNumber::Text1_Paste(std::u16string& Text) {
     TextDirty_ = true;
-    auto plain = filterPaste(Text, Field_.box().text(), selection(), DecimalsInUse_, Field_.host().region);
+    auto plain = filterPaste(Text, Text1_->text(), selection(), DecimalsInUse_, Field_.region());
     if (!plain) {
         Field_.host().system.beep();
         return false;

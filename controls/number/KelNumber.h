@@ -1,51 +1,30 @@
 #pragma once
 
-#include "common/SpinnerField.h"
+#include "common/EntryField.h"
 #include "controls/number/NumberText.h"
 
 namespace kel {
 
 /// Number entry: a caption, a text field that takes only what makes a number, and a spinner.
-class KelNumber final : public Control, private TextBoxListener, private UpDownListener {
+class KelNumber final : public EntryControl, private TextBoxListener, private UpDownListener {
 public:
     static const EventRow Change;
 
     explicit KelNumber(ControlHost& host);
 
-    const std::u16string& get_Caption() const { return Field_.label().caption(); }
-    void put_Caption(const std::u16string& caption) { Field_.putCaption(caption); }
-    std::int16_t get_CaptionWidth() const { return Field_.captionWidth(); }
-    /// A width beyond the control's own is cut to it.
-    void put_CaptionWidth(std::int16_t twips);
     bool get_Changed() { return number() != ValueOriginal_; }
     bool get_ChangedCaption(std::u16string& CaptionToSave) const;
     bool get_ChangedSaved() { return number() != ValueSaved_; }
     std::int16_t get_Decimals() const { return Decimals_; }
     /// -1: as many as the region uses. Beyond 16 it is ignored.
     void put_Decimals(std::int16_t count);
-    bool get_Enabled() const { return Field_.enabled(); }
-    void put_Enabled(bool enabled) { Field_.putEnabled(enabled); }
-    bool get_FontBold() const { return Field_.label().fontBold(); }
-    void put_FontBold(bool bold);
     bool get_GroupDigits() const { return GroupDigits_; }
     void put_GroupDigits(bool group);
-    bool get_InsertMode() const { return Field_.insertMode(); }
-    void put_InsertMode(bool insert) { Field_.putInsertMode(insert); }
-    bool get_Locked() const { return Field_.locked(); }
-    void put_Locked(bool locked) { Field_.putLocked(locked); }
-    bool get_Mandatory() const { return Field_.mandatory(); }
-    void put_Mandatory(bool mandatory) { Field_.putMandatory(mandatory); }
     /// Either bound takes the other one along when it passes it. The value stays until it is next committed.
     double get_MaxValue() const { return MaxValue_; }
     void put_MaxValue(double maximum);
     double get_MinValue() const { return MinValue_; }
     void put_MinValue(double minimum);
-    void Refresh() { Field_.box().refresh(); }
-    bool get_SelectOnFocus() const { return Field_.selectOnFocus(); }
-    void put_SelectOnFocus(bool select) { Field_.putSelectOnFocus(select); }
-    void TooltipSet(const std::u16string& tooltip) { Field_.setToolTip(tooltip); }
-    bool get_UpDown() const { return Field_.upDown(); }
-    void put_UpDown(bool shown) { Field_.putUpDown(shown); }
     double get_UpDownChange() const { return UpDownChange_; }
     void put_UpDownChange(double step);
     /// Looks at the text as it stands, without committing it.
@@ -65,13 +44,9 @@ public:
 
     const ClassModel& model() const override;
     void InitProperties() override;
-    void ReadProperties(PropertyBag& bag) override { Field_.load(*this, bag); }
-    void WriteProperties(PropertyBag& bag) const override;
-    void Resize() override { Field_.layOut(); }
-    void Show() override { Field_.show(); }
     void EnterFocus() override;
     void ExitFocus() override;
-    WidgetSet widgets() override { return Field_.widgets(); }
+    EntryField& entry() override { return Field_; }
 
 private:
     void Text1_Change() override {}
@@ -80,7 +55,7 @@ private:
     void Text1_KeyPress(char32_t& KeyAscii) override;
     bool Text1_Paste(std::u16string& Text) override;
     void Text1_MouseDown(MouseButton Button) override;
-    bool Text1_UsesWheel() override { return get_UpDown(); }
+    bool Text1_UsesWheel() override { return Field_.get_UpDown(); }
     void Text1_Wheel(std::int32_t Notches) override;
     void Text1_GotFocus() override;
     void Text1_LostFocus() override {}
@@ -92,14 +67,15 @@ private:
     double numberFromValue(const Variant& value) const;
     double roundNumber(double number) const;
     double bounded(double value) const;
-    double parseField() const { return numberFromValue(Field_.box().text()); }
+    double parseField() const { return numberFromValue(Text1_->text()); }
     void takeDecimals();
     void showValue();
     TextSpan selection() const;
     void select(TextSpan span);
     void apply(const KeyEffect& effect);
 
-    SpinnerField Field_;
+    EntryField Field_;
+    std::unique_ptr<TextBox> Text1_;
     std::int16_t Decimals_ = -1;
     std::int16_t DecimalsInUse_ = 0;
     char16_t DecimalCharacter_ = u'.';

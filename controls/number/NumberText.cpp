@@ -30,7 +30,7 @@ TextSpan nextCharacter(std::u16string_view text, std::size_t caret) {
 
 /// A sign in front, unless there is one, and everything behind it selected.
 KeyEffect typeMinus(std::u16string_view text) {
-    KeyEffect effect{.verdict = KeyVerdict::Swallowed};
+    KeyEffect effect{.answer = KeyAnswer::Refused};
     std::size_t length = text.size();
     if (!text.starts_with(Minus)) {
         effect.replaced = TextSpan{0, 0};
@@ -52,7 +52,7 @@ TextSpan decimalPlace(std::u16string_view text, TextSpan selection, const KeyRul
 }
 
 KeyEffect typeDecimal(std::u16string_view text, TextSpan selection, const KeyRules& rules) {
-    KeyEffect effect{.verdict = KeyVerdict::Swallowed};
+    KeyEffect effect{.answer = KeyAnswer::Refused};
     if (rules.decimals <= 0) return effect;
     effect.replaced = decimalPlace(text, selection, rules);
     effect.inserted = rules.decimalCharacter;
@@ -132,12 +132,12 @@ std::u16string rangeMessage(double minimum, double maximum, std::int16_t decimal
 KeyEffect filterKey(char32_t key, std::u16string_view text, TextSpan selection, const KeyRules& rules) {
     constexpr char32_t FirstPrintable = 32;
     selection = insideOf(text, selection);
-    if (key == keys::Enter) return {.verdict = KeyVerdict::MoveOn};
+    if (key == keys::Enter) return {.answer = KeyAnswer::MovesOn};
     if (key < FirstPrintable) return {};
     if (key == Minus) return rules.locked ? KeyEffect{} : typeMinus(text);
     if (key == rules.decimalCharacter) return rules.locked ? KeyEffect{} : typeDecimal(text, selection, rules);
     if (isDigit(key, rules.zeroDigit)) return typeDigit(text, selection, rules);
-    return {.verdict = KeyVerdict::Beep};
+    return {.answer = KeyAnswer::Beeps};
 }
 
 std::optional<std::u16string> filterPaste(std::u16string_view pasted, std::u16string_view text, TextSpan selection,

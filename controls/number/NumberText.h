@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "common/KeyAnswer.h"
 #include "values/Color.h"
 #include "values/RegionalSettings.h"
 #include "values/Variant.h"
@@ -46,17 +47,10 @@ struct TextSpan {
     friend bool operator==(const TextSpan&, const TextSpan&) = default;
 };
 
-enum class KeyVerdict : std::uint8_t {
-    Passed,  ///< the text box handles the key, with the selection as it is now
-    Swallowed,
-    Beep,    ///< swallowed, with a beep
-    MoveOn,  ///< swallowed; the focus moves on as by Tab
-};
-
 /// What a key does to a text box. An edit puts `inserted` in the place of `replaced`, as typing would; then,
 /// also without an edit, `selection` is selected.
 struct KeyEffect {
-    KeyVerdict verdict = KeyVerdict::Passed;
+    KeyAnswer answer = KeyAnswer::Passes;
     std::optional<TextSpan> replaced{};
     char16_t inserted = 0;
     std::optional<TextSpan> selection{};  ///< nothing: stays as it is

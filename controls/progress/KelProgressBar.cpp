@@ -23,28 +23,28 @@ KelProgressBar::KelProgressBar(ControlHost& host) : Host_(host), Picture1_(host.
 // ---- Properties
 
 void KelProgressBar::put_Enabled(bool enabled) {
-    report(u"Enabled");
+    report<&KelProgressBar::put_Enabled>();
     Host_.container.setEnabled(enabled);
     Picture1_->setEnabled(enabled);
 }
 
 void KelProgressBar::put_Max(std::int32_t maximum) {
     Range_.max = maximum;
-    report(u"Max");
+    report<&KelProgressBar::put_Max>();
     Range_.min = std::min(Range_.min, Range_.max);
     LastBarWidth_ = NeverDrawn;
 }
 
 void KelProgressBar::put_Min(std::int32_t minimum) {
     Range_.min = minimum;
-    report(u"Min");
+    report<&KelProgressBar::put_Min>();
     Range_.max = std::max(Range_.max, Range_.min);
     LastBarWidth_ = NeverDrawn;
 }
 
 void KelProgressBar::put_ShowTime(bool show) {
     ShowTime_ = show;
-    report(u"ShowTime");
+    report<&KelProgressBar::put_ShowTime>();
 }
 
 // ---- The job

@@ -54,7 +54,10 @@ private:
     std::u16string timeText(float now);
     void draw(std::u16string text);
     void drawAgain();
-    void report(std::u16string_view bagName) { Host_.container.propertyChanged(bagName); }
+    template <auto Put>
+    void report() {
+        Host_.container.propertyChanged(model().rowPutBy<Put>());
+    }
 
     ControlHost Host_;
     std::unique_ptr<PictureBox> Picture1_;

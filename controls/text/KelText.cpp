@@ -1,8 +1,5 @@
 #include "controls/text/KelText.h"
 
-#include "common/FieldFrame.h"
-#include "common/FieldLook.h"
-#include "common/Persistence.h"
 #include "values/Text.h"
 
 namespace kel {
@@ -13,6 +10,7 @@ constexpr std::u16string_view LineBreak = u"\r\n";
 
 constexpr LayoutRule SingleLineLayout{.fixedHeight = false, .widenAlways = false};
 constexpr LayoutRule MultiLineLayout{.fixedHeight = false, .widenAlways = false, .captionFillsHeight = true};
+constexpr EntryKind Kind{.layout = SingleLineLayout};
 
 bool isBlank(std::u16string_view text, bool multiLine) {
     return text.find_last_not_of(multiLine ? u" \r\n" : u" ") == std::u16string_view::npos;
@@ -28,49 +26,15 @@ char32_t maskOf(std::u16string_view text) {
 
 }  // namespace
 
-KelText::KelText(ControlHost& host) : Host_(host), Label1_(host.widgets.makeLabel()) {
+KelText::KelText(ControlHost& host) : Field_(host, *this, Kind) {
     Text1_[0] = host.widgets.makeTextBox(*this, false);
+    Field_.add(*Text1_[0]);
+    Field_.initInsertMode(true);
 }
 
-// ---- Properties kept in the widgets
+// ---- Properties
 
-std::u16string KelText::get_Caption() const { return Label1_->caption(); }
-
-void KelText::put_Caption(const std::u16string& caption) { putCaption(Host_, *Label1_, caption); }
-
-std::int16_t KelText::get_CaptionWidth() const { return static_cast<std::int16_t>(Label1_->bounds().width); }
-
-void KelText::put_CaptionWidth(std::int16_t twips) {
-    if (putCaptionWidth(Host_, *Label1_, twips)) Resize();
-}
-
-bool KelText::get_Enabled() const { return Host_.container.enabled(); }
-
-void KelText::put_Enabled(bool enabled) {
-    reportChanged(u"Enabled");
-    Host_.container.setEnabled(enabled);
-    Label1_->setEnabled(enabled);
-    forEachBox([enabled](TextBox& box) { box.setEnabled(enabled); });
-    applyStateLook();
-}
-
-std::int32_t KelText::get_hWnd() const { return Host_.container.windowHandle(); }
-
-bool KelText::get_Locked() const { return Text1_[0]->locked(); }
-
-void KelText::put_Locked(bool locked) {
-    forEachBox([locked](TextBox& box) { box.setLocked(locked); });
-    reportChanged(u"Locked");
-    applyStateLook();
-}
-
-std::int16_t KelText::get_MaxLength() const { return static_cast<std::int16_t>(Text1_[0]->maxLength()); }
-
-void KelText::put_MaxLength(std::int16_t units) {
-    if (units < 0) return;
-    forEachBox([units](TextBox& box) { box.setMaxLength(units); });
-    reportChanged(u"MaxLength");
-}
+std::int32_t KelText::get_hWnd() const { return Field_.host().container.windowHandle(); }
 
 std::u16string KelText::get_PasswordChar() const {
     std::u16string text;
@@ -80,33 +44,9 @@ std::u16string KelText::get_PasswordChar() const {
 
 void KelText::put_PasswordChar(const std::u16string& character) {
     const char32_t first = maskOf(character);
-    forEachBox([first](TextBox& box) { box.setPasswordChar(first); });
-    reportChanged(u"PasswordChar");
-}
-
-void KelText::TooltipSet(const std::u16string& tooltip) {
-    forEachBox([&tooltip](TextBox& box) { box.setToolTip(tooltip); });
-    Host_.container.setToolTipText(tooltip);
-}
-
-void KelText::Refresh() { activeBox().refresh(); }
-
-// ---- Properties of the control's own
-
-void KelText::put_InsertMode(bool insert) {
-    InsertMode_ = insert;
-    reportChanged(u"InsertMode");
-}
-
-void KelText::put_Mandatory(bool mandatory) {
-    Mandatory_ = mandatory;
-    reportChanged(u"Mandatory");
-    Label1_->setForeColor(captionColor(mandatory));
-}
-
-void KelText::put_SelectOnFocus(bool select) {
-    SelectOnFocus_ = select;
-    reportChanged(u"SelectOnFocus");
+    for (const auto& box : Text1_)
+        if (box) box->setPasswordChar(first);
+    Field_.report<&KelText::put_PasswordChar>();
 }
 
 bool KelText::get_Changed() const { return !activeBox().textEquals(TextOriginal_); }
@@ -114,7 +54,7 @@ bool KelText::get_Changed() const { return !activeBox().textEquals(TextOriginal_
 bool KelText::get_ChangedSaved() const { return !activeBox().textEquals(TextSaved_); }
 
 bool KelText::get_Valid() const {
-    if (activeBox().locked() || !Mandatory_) return true;
+    if (activeBox().locked() || !Field_.get_Mandatory()) return true;
     return !isBlank(activeBox().text(), get_MultiLine());
 }
 
@@ -144,120 +84,63 @@ void KelText::put_MultiLine(bool multiLine) {
     const std::u16string text = get_Text();
     if (multiLine && !Text1_[1]) makeMultiLineBox();
     FieldIndex_ = multiLine ? 1 : 0;
-    reportChanged(u"MultiLine");
-    // First the one that shows from now on: it takes the focus over from the other.
-    activeBox().setVisible(true);
-    if (TextBox* const other = Text1_[multiLine ? 0 : 1].get()) other->setVisible(false);
+    Field_.activate(activeBox(), multiLine ? MultiLineLayout : SingleLineLayout);
+    Field_.report<&KelText::put_MultiLine>();
+    Field_.showActive();
     put_Text(text);
     Resize();
 }
 
 void KelText::makeMultiLineBox() {
-    const TextBox& first = *Text1_[0];
-    auto box = Host_.widgets.makeTextBox(*this, true);
-    box->setVisible(false);
-    box->setEnabled(first.enabled());
-    box->setLocked(first.locked());
-    box->setMaxLength(first.maxLength());
-    box->setPasswordChar(first.passwordChar());
-    box->setToolTip(first.toolTip());
-    box->setBackColor(CommonBack_);
-    if (Shown_) setFieldFont(Host_, *box);
-    Text1_[1] = std::move(box);
+    Text1_[1] = Field_.host().widgets.makeTextBox(*this, true);
+    Text1_[1]->setPasswordChar(Text1_[0]->passwordChar());
+    Field_.add(*Text1_[1]);
 }
-
-// ---- Looks
-
-void KelText::applyBack(const BackChange& change) {
-    if (!change.everyField) {
-        activeBox().setBackColor(change.color);
-        return;
-    }
-    CommonBack_ = change.color;
-    forEachBox([&change](TextBox& box) { box.setBackColor(change.color); });
-}
-
-void KelText::applyStateLook() {
-    const bool barred = get_Locked() || !Host_.container.enabled();
-    applyBack(backOnStateChange(Host_.settings, barred, activeBox().backColor()));
-}
-
-void KelText::Resize() {
-    if (LoadingDepth_ != 0 || !Host_.container.hasSize()) return;
-    const DepthGuard guard(LoadingDepth_);
-    const LayoutRule& rule = get_MultiLine() ? MultiLineLayout : SingleLineLayout;
-    const FieldLayout layout = layOutField(rule, Host_.container.size(), Label1_->bounds().width);
-    Host_.container.setSize(layout.control);
-    sizeCaption(*Label1_, layout);
-    activeBox().move(layout.field);
-}
-
-void KelText::Show() {
-    Shown_ = true;
-    setCaptionFont(Host_, *Label1_);
-    forEachBox([this](TextBox& box) {
-        setFieldFont(Host_, box);
-        takeToolTip(Host_, box);
-    });
-}
-
-// ---- Design-time properties
 
 void KelText::InitProperties() {
-    InsertMode_ = true;
-    Mandatory_ = true;
-    SelectOnFocus_ = false;
-    nameNewCaption(Host_, *Label1_);
-    Resize();
+    Field_.initInsertMode(true);
+    Field_.initMandatory(true);
+    Field_.initSelectOnFocus(false);
+    Field_.initNew();
 }
-
-void KelText::ReadProperties(PropertyBag& bag) {
-    const DepthGuard guard(LoadingDepth_);
-    readPersisted(Host_, *this, bag);
-}
-
-void KelText::WriteProperties(PropertyBag& bag) const { writePersisted(*this, bag); }
 
 // ---- Focus, keys and mouse
 
 void KelText::EnterFocus() { TextOriginal_ = activeBox().text(); }
 
-void KelText::ExitFocus() { applyBack(backOnExitFocus(Host_.settings, get_Locked())); }
+void KelText::ExitFocus() { Field_.colorOnExit(); }
 
 void KelText::Text1_GotFocus() {
-    TextBox& box = activeBox();
-    if (SelectOnFocus_) selectOnFocus(box, Host_.system.tabKeyDown());
-    applyBack(backOnGotFocus(Host_.settings, box.locked()));
+    Field_.selectByTab();
+    Field_.colorOnGotFocus();
 }
 
 void KelText::Text1_LostFocus() { activeBox().setSelStart(0); }
 
-void KelText::Text1_Change() { Host_.container.raiseEvent(Change, {}); }
+void KelText::Text1_Change() { Field_.host().container.raiseEvent(Change, {}); }
 
-void KelText::Text1_Click() { Host_.container.raiseEvent(Click, {}); }
+void KelText::Text1_Click() { Field_.host().container.raiseEvent(Click, {}); }
 
 void KelText::Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) {
-    if (togglesOverwriting(KeyCode, Shift)) InsertMode_ = !InsertMode_;
+    Field_.carryOut(EntryField::answerToKey(KeyCode, Shift, false), KeyCode);
+}
+
+KeyAnswer KelText::answerToCharacter(char32_t character) const {
+    switch (character) {
+        case keys::Backspace:
+        case keys::Escape: return KeyAnswer::Passes;
+        case keys::Enter: return get_MultiLine() ? KeyAnswer::Passes : KeyAnswer::MovesOn;
+        default: return KeyAnswer::Writes;
+    }
 }
 
 void KelText::Text1_KeyPress(char32_t& KeyAscii) {
-    switch (KeyAscii) {
-        case keys::Backspace:
-        case keys::Escape: return;
-        case keys::Enter:
-            if (get_MultiLine()) return;
-            KeyAscii = 0;
-            moveFocusOn(Host_);
-            return;
-        default: break;
-    }
-    TextBox& box = activeBox();
-    if (InsertMode_ || box.locked()) return;
-    selectOverwritten(box);
+    const KeyAnswer answer = answerToCharacter(KeyAscii);
+    Field_.carryOut(answer, KeyAscii);
+    if (answer != KeyAnswer::Writes || !get_MultiLine() || !Field_.overwrites()) return;
     // Overwriting never joins two lines.
-    if (get_MultiLine() && box.selText().ends_with(u'\r')) box.setSelLength(box.selLength() - 1);
+    TextBox& box = activeBox();
+    if (box.selText().ends_with(u'\r')) box.setSelLength(box.selLength() - 1);
 }
-
-WidgetSet KelText::widgets() { return {.label = Label1_.get(), .field = &activeBox(), .entry = &activeBox()}; }
 
 }  // namespace kel

@@ -1,3 +1,4 @@
+#include "common/EntryMembers.h"
 #include "controls/text/KelText.h"
 
 namespace kel {
@@ -5,48 +6,32 @@ namespace kel {
 namespace {
 
 constexpr MemberRow Members[] = {
-    property<&KelText::get_Caption, &KelText::put_Caption>(u"Caption", 0x6803000E, u"Text of the caption").saved(u""),
-    property<&KelText::get_CaptionWidth, &KelText::put_CaptionWidth>(u"CaptionWidth", 0x6803000D,
-                                                                     u"Width of the caption in twips")
-        .saved(0),
+    entry::caption(0x6803000E),
+    entry::captionWidth(0x6803000D),
     property<&KelText::get_Changed>(u"Changed", 0x6803000C, u"The text differs from the original text"),
     property<&KelText::get_ChangedSaved>(u"ChangedSaved", 0x6803000B, u"The text differs from the saved text"),
-    property<&KelText::get_Enabled, &KelText::put_Enabled>(u"Enabled", EnabledId, u"The field takes input").saved(true),
+    entry::enabled(),
     property<&KelText::get_hWnd>(u"hWnd", 0x6803000A, u"Handle of the control's own window"),
-    property<&KelText::get_InsertMode, &KelText::put_InsertMode>(
-        u"InsertMode", 0x68030009, u"Typing inserts instead of overwriting; the Insert key toggles it")
-        .saved(true),
-    property<&KelText::get_Locked, &KelText::put_Locked>(u"Locked", 0x68030008,
-                                                         u"The text can be read and copied but not edited")
-        .saved(false),
-    property<&KelText::get_Mandatory, &KelText::put_Mandatory>(u"Mandatory", 0x68030007,
-                                                               u"The field must not be left empty")
-        .saved(true),
-    property<&KelText::get_MaxLength, &KelText::put_MaxLength>(
-        u"MaxLength", 0x68030006, u"Most UTF-16 units that can be typed or pasted; 0 for no limit")
-        .saved(0),
+    entry::insertMode(0x68030009, true),
+    entry::locked(0x68030008, u"The text can be read and copied but not edited"),
+    entry::mandatory(0x68030007),
+    entry::maxLength(0x68030006),
     property<&KelText::get_MultiLine, &KelText::put_MultiLine>(u"MultiLine", 0x68030005,
                                                                u"The field holds several lines")
         .saved(false),
     property<&KelText::get_PasswordChar, &KelText::put_PasswordChar>(
         u"PasswordChar", 0x68030004, u"Character shown in place of each one typed; empty shows the text")
         .saved(u""),
-    method<&KelText::Refresh>(u"Refresh", 0x6003000F, u"Repaints the field"),
-    property<&KelText::get_SelectOnFocus, &KelText::put_SelectOnFocus>(
-        u"SelectOnFocus", 0x68030003, u"Entering the field with the Tab key selects its text")
-        .saved(false),
+    entry::refresh(0x6003000F),
+    entry::selectOnFocus(0x68030003),
     property<&KelText::get_Text, &KelText::put_Text>(
         u"Text", DefaultMemberId,
         u"The text, a multi-line one without its trailing empty lines: reading takes them out of the field, which "
         u"moves the caret to its start; a Change handler reads TextRaw instead")
         .savedAs<&KelText::put_Text, &KelText::get_TextRaw>(u""),
-    property<&KelText::get_TextOriginal, &KelText::put_TextOriginal>(u"TextOriginal", 0x68030002,
-                                                                     u"What Changed compares with")
-        .hiddenByReference(),
-    property<&KelText::get_TextSaved, &KelText::put_TextSaved>(u"TextSaved", 0x68030001,
-                                                               u"What ChangedSaved compares with")
-        .hiddenByReference(),
-    method<&KelText::TooltipSet>(u"TooltipSet", 0x60030010, u"Sets the tooltip of the field").arguments(u"Tooltip"),
+    entry::original<&KelText::get_TextOriginal, &KelText::put_TextOriginal>(u"TextOriginal", 0x68030002),
+    entry::saved<&KelText::get_TextSaved, &KelText::put_TextSaved>(u"TextSaved", 0x68030001),
+    entry::tooltipSet(0x60030010),
     property<&KelText::get_Valid>(u"Valid", 0x68030000, u"The field is not mandatory, or not empty, or locked"),
     // Came later than the others and so stands last, in nobody's place.
     property<&KelText::get_TextRaw>(u"TextRaw", 0x68030011, u"The text exactly as it stands in the field"),

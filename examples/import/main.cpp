@@ -99,7 +99,7 @@ private:
     void setBusy(bool busy) {
         Busy_ = busy;
         Button_->setText(busy ? "Stop" : ButtonText_);
-        field<kel::KelText>(u"txtFile").put_Locked(busy);
+        field<kel::KelText>(u"txtFile").entry().put_Locked(busy);
         for (const char16_t* const box : {u"chkHeader", u"chkDuplicates", u"chkConsent"})
             field<kel::KelCheck>(box).put_Locked(busy);
     }

@@ -143,9 +143,9 @@ std::int32_t ControlSite::windowHandle() { return static_cast<std::int32_t>(Widg
 
 std::u16string ControlSite::displayName() const { return std::u16string(viewOf(Widget_->objectName())); }
 
-void ControlSite::propertyChanged(std::u16string_view bagName) {
+void ControlSite::propertyChanged(const MemberRow& property) {
     const ForeignCode running;
-    if (Host_ != nullptr) Host_->propertyReported(bagName);
+    if (Host_ != nullptr) Host_->propertyReported(property.name);
 }
 
 void ControlSite::raiseEvent(const EventRow& event, std::span<Variant> arguments) {

@@ -65,7 +65,7 @@ private:
     void setEnabled(bool enabled) override;
     std::int32_t windowHandle() override;
     std::u16string displayName() const override { return Name_; }
-    void propertyChanged(std::u16string_view bagName) override { Observer_.propertyReported(*this, bagName); }
+    void propertyChanged(const MemberRow& property) override { Observer_.propertyReported(*this, property.name); }
     void raiseEvent(const EventRow& event, std::span<Variant> arguments) override {
         Observer_.controlEvent(*this, event, arguments);
     }

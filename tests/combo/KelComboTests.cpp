@@ -77,7 +77,7 @@ TEST_F(Combo, ASavedWidthIsReadByAnotherName) {
 
 TEST_F(Combo, WorksWithoutHavingBeenLoaded) {
     It.InitProperties();
-    EXPECT_EQ(It.get_Caption(), u"it");
+    EXPECT_EQ(It.entry().get_Caption(), u"it");
     EXPECT_EQ(Form.told(), Lines{});
     It.put_List(u"\"a,b\"");
     EXPECT_EQ(It.get_List(), u"\"a,b\"");

@@ -253,15 +253,15 @@ TEST(Dates, AreSavedInEightDigitsOrAsNow) {
 }
 
 TEST(DateKeys, StepMoveOnOrWrite) {
-    using enum KeyPressEffect;
+    using enum KeyAnswer;
     const struct {
         char32_t key;
-        KeyPressEffect effect;
+        KeyAnswer effect;
     } cases[] = {
         {8, Passes},    {27, Passes},   {13, MovesOn},  {U'+', StepsUp},     {U'-', StepsDown},       {22, Writes},
         {U'/', Writes}, {U'5', Writes}, {U'x', Writes}, {U'\u2212', Writes}, {U'\U0001F600', Writes},
     };
-    for (const auto& test : cases) EXPECT_EQ(dateKeyPressEffect(test.key), test.effect) << unsigned{test.key};
+    for (const auto& test : cases) EXPECT_EQ(answerToDateCharacter(test.key), test.effect) << unsigned{test.key};
 }
 
 }  // namespace

@@ -100,15 +100,5 @@ TEST(FieldValidity, IsExplained) {
     EXPECT_EQ(dates.show(std::nullopt, defaultRegion()), u"");
 }
 
-TEST(FieldKeys, StepOrEditWhenTheyGoDown) {
-    using enum KeyDownEffect;
-    EXPECT_EQ(keyDownEffect(38, NoModifier), StepsUp);
-    EXPECT_EQ(keyDownEffect(40, NoModifier), StepsDown);
-    EXPECT_EQ(keyDownEffect(45, NoModifier), TogglesInsertMode);
-    for (const std::int16_t code : std::initializer_list<std::int16_t>{0, 8, 37, 39, 46, 53, 107, 109, 231})
-        EXPECT_EQ(keyDownEffect(code, NoModifier), Edits) << code;
-    EXPECT_EQ(keyDownEffect(45, ShiftKey), Edits);
-}
-
 }  // namespace
 }  // namespace kel

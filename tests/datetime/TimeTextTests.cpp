@@ -171,10 +171,10 @@ TEST(Times, AreSavedTheSameEverywhere) {
 }
 
 TEST(TimeKeys, StepMoveOnWriteOrAreRefused) {
-    using enum KeyPressEffect;
+    using enum KeyAnswer;
     const struct {
         const char32_t* keys;
-        KeyPressEffect effect;
+        KeyAnswer effect;
     } cases[] = {
         {U"\b\x1B\x16\x03\t\n", Passes},
         {U"\r", MovesOn},
@@ -185,7 +185,7 @@ TEST(TimeKeys, StepMoveOnWriteOrAreRefused) {
     };
     for (const auto& test : cases) {
         for (const char32_t key : std::u32string_view(test.keys))
-            EXPECT_EQ(timeKeyPressEffect(key, U'\u0660'), test.effect) << unsigned{key};
+            EXPECT_EQ(answerToTimeCharacter(key, U'\u0660'), test.effect) << unsigned{key};
     }
 }
 

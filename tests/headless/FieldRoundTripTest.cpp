@@ -44,12 +44,8 @@ public:
     }
 
     void check(Date value, Random& random) {
-        auto& field = dynamic_cast<DateTimeControl&>(Placed_.control());
-        const auto put = [&](const std::u16string& format) {
-            if (auto* date = dynamic_cast<KelDate*>(&field)) return date->put_Format(format);
-            dynamic_cast<KelTime&>(field).put_Format(format);
-        };
-        put(anyFormat(random));
+        DateTimeField& field = DateTimeField::of(Placed_.control());
+        field.put_Format(anyFormat(random));
         field.put_Value(value);
         const Variant before = field.get_Value();
         const std::u16string text = Placed_.control().widgets().entry->text();
@@ -66,9 +62,9 @@ public:
         EXPECT_TRUE(field.get_Valid(false));
         expectSame();
         way = "left after another format";
-        put(anyFormat(random));
+        field.put_Format(anyFormat(random));
         press(Form_.window(), "End Tab Shift+Tab Right");
-        put(shown);
+        field.put_Format(shown);
         press(Form_.window(), "Tab Shift+Tab Shift+Tab");
         expectSame();
     }

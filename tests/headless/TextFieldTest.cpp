@@ -33,7 +33,7 @@ protected:
 };
 
 TEST_F(TextField, EnterMovesOnAsTabDoes) {
-    B.put_SelectOnFocus(true);
+    B.entry().put_SelectOnFocus(true);
     B.put_Text(u"second");
     Window.show();
     press(Window, "Tab 'x' Enter");
@@ -55,7 +55,7 @@ TEST(UnloadedFields, HaveARuntimeObjectToMoveOnAndATooltipOfTheirOwn) {
 }
 
 TEST_F(TextField, OverwritingReplacesOneCharacterAStep) {
-    A.put_InsertMode(false);
+    A.entry().put_InsertMode(false);
     A.put_Text(u"abc");
     press(Window, "Tab 'xy'");
     EXPECT_EQ(looks(A), "xy|c");

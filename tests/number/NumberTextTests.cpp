@@ -41,7 +41,7 @@ struct Box {
 struct KeyCase {
     const char* before;
     char32_t key;
-    KeyVerdict verdict;
+    KeyAnswer answer;
     const char* after;
 };
 
@@ -50,71 +50,71 @@ void checkKeys(const KeyRules& rules, std::initializer_list<KeyCase> cases) {
         SCOPED_TRACE(testing::Message() << test.before << " and key " << static_cast<unsigned>(test.key));
         Box box(test.before);
         const KeyEffect effect = filterKey(test.key, box.text, box.selection, rules);
-        EXPECT_EQ(effect.verdict, test.verdict);
+        EXPECT_EQ(effect.answer, test.answer);
         box.apply(effect);
         EXPECT_EQ(box.drawn(), test.after);
     }
 }
 
 TEST(NumberKeys, InsertingLetOnlyNumbersThrough) {
-    using enum KeyVerdict;
+    using enum KeyAnswer;
     checkKeys({.decimals = 2, .insertMode = true}, {
-                                                       {"1|2", 8, Passed, "1|2"},
-                                                       {"1|2", 27, Passed, "1|2"},
-                                                       {"1|2", 22, Passed, "1|2"},
-                                                       {"1|2", 13, MoveOn, "1|2"},
-                                                       {"1|2", U'5', Passed, "1|2"},
-                                                       {"[12]", U'5', Passed, "[12]"},
-                                                       {"1|2", U'a', Beep, "1|2"},
-                                                       {"1|2", U',', Beep, "1|2"},
-                                                       {"1|2", U' ', Beep, "1|2"},
-                                                       {"1|2", U'\u2212', Beep, "1|2"},
-                                                       {"1|2", U'\U0001F600', Beep, "1|2"},
-                                                       {"1|2", U'-', Swallowed, "-[12]"},
-                                                       {"-1|2", U'-', Swallowed, "-[12]"},
-                                                       {"|", U'-', Swallowed, "-|"},
-                                                       {"(5.0|0)", U'-', Swallowed, "-[(5.00)]"},
-                                                       {"1|2", U'.', Swallowed, "1.[2]"},
-                                                       {"12|", U'.', Swallowed, "12.|"},
-                                                       {"|", U'.', Swallowed, ".|"},
-                                                       {"1[23]4", U'.', Swallowed, "1.[4]"},
-                                                       {"1|2.34", U'.', Swallowed, "1.[34]"},
-                                                       {"12|.34", U'.', Swallowed, "12.[34]"},
-                                                       {"12.|34", U'.', Swallowed, "12.[34]"},
-                                                       {"12.3|4", U'.', Swallowed, "12.[4]"},
-                                                       {"12.34|", U'.', Swallowed, "12.|"},
-                                                       {"[12.34]", U'.', Swallowed, ".[34]"},
+                                                       {"1|2", 8, Passes, "1|2"},
+                                                       {"1|2", 27, Passes, "1|2"},
+                                                       {"1|2", 22, Passes, "1|2"},
+                                                       {"1|2", 13, MovesOn, "1|2"},
+                                                       {"1|2", U'5', Passes, "1|2"},
+                                                       {"[12]", U'5', Passes, "[12]"},
+                                                       {"1|2", U'a', Beeps, "1|2"},
+                                                       {"1|2", U',', Beeps, "1|2"},
+                                                       {"1|2", U' ', Beeps, "1|2"},
+                                                       {"1|2", U'\u2212', Beeps, "1|2"},
+                                                       {"1|2", U'\U0001F600', Beeps, "1|2"},
+                                                       {"1|2", U'-', Refused, "-[12]"},
+                                                       {"-1|2", U'-', Refused, "-[12]"},
+                                                       {"|", U'-', Refused, "-|"},
+                                                       {"(5.0|0)", U'-', Refused, "-[(5.00)]"},
+                                                       {"1|2", U'.', Refused, "1.[2]"},
+                                                       {"12|", U'.', Refused, "12.|"},
+                                                       {"|", U'.', Refused, ".|"},
+                                                       {"1[23]4", U'.', Refused, "1.[4]"},
+                                                       {"1|2.34", U'.', Refused, "1.[34]"},
+                                                       {"12|.34", U'.', Refused, "12.[34]"},
+                                                       {"12.|34", U'.', Refused, "12.[34]"},
+                                                       {"12.3|4", U'.', Refused, "12.[4]"},
+                                                       {"12.34|", U'.', Refused, "12.|"},
+                                                       {"[12.34]", U'.', Refused, ".[34]"},
                                                    });
 }
 
 TEST(NumberKeys, OverwritingReplacesTheNextCharacter) {
-    using enum KeyVerdict;
+    using enum KeyAnswer;
     checkKeys({.decimals = 2}, {
-                                   {"1|23", U'5', Passed, "1[2]3"},
-                                   {"123|", U'5', Passed, "123|"},
-                                   {"[12]3", U'5', Passed, "[12]3"},
-                                   {"1|\U0001E951", U'5', Passed, "1[\U0001E951]"},
-                                   {"1|23", U'.', Swallowed, "1.[3]"},
-                                   {"123|", U'.', Swallowed, "123.|"},
-                                   {"[1234]", U'.', Swallowed, ".[234]"},
-                                   {"1|2.34", U'.', Swallowed, "1.[34]"},
+                                   {"1|23", U'5', Passes, "1[2]3"},
+                                   {"123|", U'5', Passes, "123|"},
+                                   {"[12]3", U'5', Passes, "[12]3"},
+                                   {"1|\U0001E951", U'5', Passes, "1[\U0001E951]"},
+                                   {"1|23", U'.', Refused, "1.[3]"},
+                                   {"123|", U'.', Refused, "123.|"},
+                                   {"[1234]", U'.', Refused, ".[234]"},
+                                   {"1|2.34", U'.', Refused, "1.[34]"},
                                });
 }
 
 TEST(NumberKeys, FollowTheFieldsState) {
-    using enum KeyVerdict;
-    checkKeys({.decimals = 0}, {{"1|2", U'.', Swallowed, "1|2"}});
+    using enum KeyAnswer;
+    checkKeys({.decimals = 0}, {{"1|2", U'.', Refused, "1|2"}});
     checkKeys({.decimals = 2, .locked = true}, {
-                                                   {"1|2", U'-', Passed, "1|2"},
-                                                   {"1|2", U'.', Passed, "1|2"},
-                                                   {"1|2", U'5', Passed, "1|2"},
-                                                   {"1|2", U'a', Beep, "1|2"},
-                                                   {"1|2", 13, MoveOn, "1|2"},
+                                                   {"1|2", U'-', Passes, "1|2"},
+                                                   {"1|2", U'.', Passes, "1|2"},
+                                                   {"1|2", U'5', Passes, "1|2"},
+                                                   {"1|2", U'a', Beeps, "1|2"},
+                                                   {"1|2", 13, MovesOn, "1|2"},
                                                });
     checkKeys({.decimals = 2, .decimalCharacter = u',', .insertMode = true},
-              {{"1|2", U',', Swallowed, "1,[2]"}, {"1|2", U'.', Beep, "1|2"}});
+              {{"1|2", U',', Refused, "1,[2]"}, {"1|2", U'.', Beeps, "1|2"}});
     checkKeys({.decimals = 2, .decimalCharacter = u'\u066B', .zeroDigit = U'\u0660', .insertMode = true},
-              {{"1|2", U'\u0665', Passed, "1|2"}, {"1|2", U'\u066B', Swallowed, "1\u066B[2]"}});
+              {{"1|2", U'\u0665', Passes, "1|2"}, {"1|2", U'\u066B', Refused, "1\u066B[2]"}});
     const KeyEffect far = filterKey(U'.', u"12", {7, 9}, {.decimals = 2, .insertMode = true});
     EXPECT_EQ(far.replaced, (TextSpan{2, 0})) << "a caret behind the end is at the end";
 }

@@ -129,7 +129,7 @@ TEST_F(Combo, HandsAndKeysWorkTheList) {
         {"Escape", press({{keys::Down}, {keys::Down}, {keys::Escape}}), "|Apple", Picked},
         {"a character closes the list", press({{keys::F4}, strokeFor(U'c')}), "C[herry]", Typed},
     };
-    combo().put_Mandatory(false);
+    combo().entry().put_Mandatory(false);
     for (const Case& row : cases) {
         combo().put_Text(u"");
         window().focus(*second);
@@ -153,8 +153,8 @@ TEST_F(Combo, PickingGivesTheFocus) {
 TEST_F(Combo, GivesNothingWhenBarred) {
     combo().put_Text(u"Cherry");
     for (const bool locked : {true, false}) {
-        combo().put_Locked(locked);
-        combo().put_Enabled(locked);
+        combo().entry().put_Locked(locked);
+        combo().entry().put_Enabled(locked);
         window().pick(*first, 0);
         EXPECT_EQ(combo().get_Text(), u"Cherry") << locked;
         EXPECT_EQ(window().focused() == first, locked) << "a locked field can be read";
@@ -170,7 +170,7 @@ TEST_F(Combo, TheListIsNoChangeOfFocus) {
     EXPECT_TRUE(box().hasFocus());
     key(keys::Escape);
     EXPECT_EQ(box().backColor(), focused);
-    combo().put_Mandatory(false);
+    combo().entry().put_Mandatory(false);
     type(U"zz");
     combo().put_LimitToList(false);
     key(keys::F4);
@@ -182,7 +182,7 @@ TEST_F(Combo, TheListIsNoChangeOfFocus) {
 
 TEST_F(Combo, TabLeavesTheOpenList) {
     comboOf(*second).put_Text(u"Fig");
-    comboOf(*second).put_SelectOnFocus(true);
+    comboOf(*second).entry().put_SelectOnFocus(true);
     open();
     key(keys::Tab);
     EXPECT_FALSE(isOpen());
@@ -193,14 +193,14 @@ TEST_F(Combo, TabLeavesTheOpenList) {
 
 TEST_F(Combo, ClosesWhenItIsBarredOrGone) {
     const std::pair<const char*, std::function<void()>> ends[] = {
-        {"disabled", [this] { combo().put_Enabled(false); }},
+        {"disabled", [this] { combo().entry().put_Enabled(false); }},
         {"hidden", [this] { box().setVisible(false); }},
         {"another list", [this] { combo().put_List(u"x"); }},
         {"another field", [this] { window().focus(*second); }},
         {"a click into another field", [this] { window().click(*second, 0); }},
     };
     for (const auto& [what, end] : ends) {
-        combo().put_Enabled(true);
+        combo().entry().put_Enabled(true);
         box().setVisible(true);
         open();
         end();
@@ -281,7 +281,7 @@ TEST_F(Combo, TheWheelIsTheFormsAndScrollsTheOpenList) {
 
 TEST_F(Combo, TakesDroppedTextAsTyping) {
     combo().put_LimitToList(false);
-    combo().put_MaxLength(6);
+    combo().entry().put_MaxLength(6);
     QMimeData text;
     text.setText(QStringLiteral("too long\nfor it"));
     window().focus(*first);

@@ -82,8 +82,8 @@ TEST(Drop, FollowsTheRulesOfPasting) {
         form.show();
         form.window().focus(field);
         put(boxOf(field), "|ab");
-        textOf(field).put_MaxLength(row.maxLength);
-        textOf(field).put_Locked(row.locked);
+        textOf(field).entry().put_MaxLength(row.maxLength);
+        textOf(field).entry().put_Locked(row.locked);
         form.takeLog();
         dropText(boxOf(field), QStringLiteral("x\ny"));
         EXPECT_EQ(drawn(boxOf(field)), row.after) << row.what;

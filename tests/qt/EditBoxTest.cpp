@@ -84,9 +84,9 @@ TEST(InputMethod, PassesTheControlsRules) {
         for (const Case& row : cases) {
             OneField field(multiLine);
             KelText& control = textOf(field.placed);
-            control.put_Locked(row.locked);
-            control.put_InsertMode(row.insert);
-            control.put_MaxLength(row.maxLength);
+            control.entry().put_Locked(row.locked);
+            control.entry().put_InsertMode(row.insert);
+            control.entry().put_MaxLength(row.maxLength);
             put(field.box(), row.before);
             field.compose({}, QString::fromUtf16(row.commit));
             EXPECT_EQ(drawn(field.box()), row.after) << row.what;
@@ -103,7 +103,7 @@ TEST(InputMethod, CorrectsWhatStandsInFront) {
 
 TEST(ContextMenu, WorksOnTheControlsTerms) {
     OneField field;
-    textOf(field.placed).put_MaxLength(4);
+    textOf(field.placed).entry().put_MaxLength(4);
     put(field.box(), "a[b]c");
     field.form.takeLog();
     field.form.window().setClipboard(u"xyz\n2");
@@ -118,7 +118,7 @@ TEST(ContextMenu, WorksOnTheControlsTerms) {
     EXPECT_EQ(drawn(field.box()), "a|c");
     EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("b"));
 
-    textOf(field.placed).put_Locked(true);
+    textOf(field.placed).entry().put_Locked(true);
     for (const char* const entry : {"edit-paste", "edit-undo", "edit-cut", "edit-delete"})
         EXPECT_FALSE(field.menuEntry(entry)->isEnabled()) << entry;
     textOf(field.placed).put_PasswordChar(u"*");
@@ -150,13 +150,13 @@ TEST(EditBox, AssistiveWritingPassesTheControlsRules) {
     };
     for (const bool multiLine : {false, true}) {
         OneField field(multiLine);
-        textOf(field.placed).put_MaxLength(4);
+        textOf(field.placed).entry().put_MaxLength(4);
         put(field.box(), "|ab");
         QCoreApplication::sendPostedEvents();
         insert(field.widget(), 2, QStringLiteral("xyz"));
         EXPECT_EQ(drawn(field.box()), "abxy|") << "no longer than it may be";
-        textOf(field.placed).put_MaxLength(0);
-        textOf(field.placed).put_Locked(true);
+        textOf(field.placed).entry().put_MaxLength(0);
+        textOf(field.placed).entry().put_Locked(true);
         field.form.takeLog();
         insert(field.widget(), 0, QStringLiteral("x"));
         EXPECT_TRUE(field.box().textEquals(u"abxy"));
@@ -209,7 +209,7 @@ TEST(EditBox, KeysThatMeanNothingHereGoOn) {
     };
     for (const Case& row : cases) {
         OneField field(row.multiLine);
-        textOf(field.placed).put_Locked(row.locked);
+        textOf(field.placed).entry().put_Locked(row.locked);
         const qt::QtKey key = qt::keyFor(row.stroke);
         QKeyEvent asked(QEvent::ShortcutOverride, key.key, key.modifiers, key.text);
         asked.ignore();
@@ -265,8 +265,8 @@ TEST(EditBox, HandlersMayDoAnythingToIt) {
         if (event.id != KelText::Change.id || rounds++ > 0) return;
         textOf(field.placed).put_Text(u"other");
         textOf(field.placed).put_MultiLine(true);
-        textOf(field.placed).put_Locked(true);
-        textOf(field.placed).put_Enabled(false);
+        textOf(field.placed).entry().put_Locked(true);
+        textOf(field.placed).entry().put_Enabled(false);
     };
     typeInto(field.form.window(), U"x");
     EXPECT_EQ(drawn(field.box()), "|other");

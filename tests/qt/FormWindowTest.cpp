@@ -20,11 +20,11 @@ TEST(FormWindow, StartsWithTheFocusNowhere) {
     form.window().press({keys::Tab, 0, NoModifier});
     EXPECT_EQ(form.window().focused(), &first);
 
-    textOf(first).put_Enabled(false);
+    textOf(first).entry().put_Enabled(false);
     EXPECT_EQ(form.window().focused(), &last);
-    textOf(last).put_Enabled(false);
+    textOf(last).entry().put_Enabled(false);
     EXPECT_EQ(form.window().focused(), nullptr);
-    textOf(last).put_Enabled(true);
+    textOf(last).entry().put_Enabled(true);
     form.window().press({keys::Tab, 0, ShiftKey});
     EXPECT_EQ(form.window().focused(), &last) << "back from nowhere is the last";
 }
@@ -84,7 +84,7 @@ TEST(FormWindow, ClicksPutTheCaretExactly) {
     EXPECT_EQ(form.takeLog(), "") << "the right button is no click";
     EXPECT_EQ(form.window().focused(), &line);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-    textOf(line).put_Enabled(false);
+    textOf(line).entry().put_Enabled(false);
     form.takeLog();
     form.window().click(line, 0);
     EXPECT_EQ(form.takeLog(), "");

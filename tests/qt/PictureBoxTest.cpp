@@ -208,9 +208,9 @@ TEST(ProgressOnAForm, TakesNoFocusAndIsNoStopOnTheWay) {
     PlacedControl* const middle = place(u"middle", 2, KelTextModel);
     PlacedControl* const job = place(u"job", 1, KelProgressBarModel);
     PlacedControl* const first = place(u"first", 0, KelTextModel);
-    textOf(*middle).put_Enabled(false);
+    textOf(*middle).entry().put_Enabled(false);
     form.show();
-    textOf(*middle).put_Enabled(true);
+    textOf(*middle).entry().put_Enabled(true);
     FormWindow& window = form.window();
     window.focus(*first);
     window.focus(*job);

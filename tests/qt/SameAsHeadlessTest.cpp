@@ -27,8 +27,8 @@ class Worked {
 public:
     explicit Worked(std::unique_ptr<Home> home) : Form_(std::move(home)) {
         for (const char16_t* const name : {u"a", u"b", u"c", u"m"}) Controls_.push_back(&Form_.place(name, 1500));
-        text(1).put_MaxLength(6);
-        text(2).put_SelectOnFocus(true);
+        text(1).entry().put_MaxLength(6);
+        text(2).entry().put_SelectOnFocus(true);
         text(3).put_MultiLine(true);
         Controls_.push_back(&Form_.place(u"n", 300, KelNumberModel));
         Controls_.push_back(&Form_.place(u"d", 300, KelDateModel));
@@ -38,10 +38,10 @@ public:
             combo(Controls_.size() - 1).put_List(u"abc,abd,17,,X y,abc,70");
         }
         combo(FreeField).put_LimitToList(false);
-        combo(FreeField).put_SelectOnFocus(true);
+        combo(FreeField).entry().put_SelectOnFocus(true);
         auto& number = static_cast<KelNumber&>(control(NumberField).control());
         number.put_Decimals(2);
-        number.put_UpDown(true);
+        number.entry().put_UpDown(true);
         Form_.show();
     }
 
@@ -139,15 +139,19 @@ Step program(Dice& dice) {
     const std::u16string text(dice.oneOf(Texts));
     const std::size_t list = dice.oneOf({LimitedField, FreeField});
     switch (dice.below(17)) {
-        case 11: return [=](Worked& form) { form.combo(list).put_Locked(!form.combo(list).get_Locked()); };
-        case 12: return [=](Worked& form) { form.combo(list).put_Enabled(!form.combo(list).get_Enabled()); };
+        case 11:
+            return [=](Worked& form) { form.combo(list).entry().put_Locked(!form.combo(list).entry().get_Locked()); };
+        case 12:
+            return [=](Worked& form) { form.combo(list).entry().put_Enabled(!form.combo(list).entry().get_Enabled()); };
         case 13: return [=](Worked& form) { form.combo(list).put_LimitToList(number < 6); };
         case 14: return [=](Worked& form) { form.combo(list).put_ListIndex(number); };
         case 15: return [=](Worked& form) { form.combo(list).put_Text(number < 5 ? u"abd" : text); };
         case 16: return [=](Worked& form) { static_cast<void>(form.combo(list).get_Text()); };
-        case 0: return [=](Worked& form) { form.text(field).put_Locked(!form.text(field).get_Locked()); };
-        case 1: return [=](Worked& form) { form.text(field).put_Enabled(!form.text(field).get_Enabled()); };
-        case 2: return [=](Worked& form) { form.text(field).put_MaxLength(number); };
+        case 0:
+            return [=](Worked& form) { form.text(field).entry().put_Locked(!form.text(field).entry().get_Locked()); };
+        case 1:
+            return [=](Worked& form) { form.text(field).entry().put_Enabled(!form.text(field).entry().get_Enabled()); };
+        case 2: return [=](Worked& form) { form.text(field).entry().put_MaxLength(number); };
         case 3: return [=](Worked& form) { form.text(field).put_MultiLine(!form.text(field).get_MultiLine()); };
         case 4: return [=](Worked& form) { form.text(field).put_PasswordChar(number < 7 ? u"" : u"*"); };
         case 5: return [=](Worked& form) { boxOf(form.control(field)).setSelStart(number); };

@@ -67,8 +67,8 @@ TEST(Properties, WriteAndReadTheControl) {
         EXPECT_EQ(field.property(name), value) << name;
     }
     const auto& control = static_cast<KelText&>(field.control());
-    EXPECT_EQ(control.get_Caption(), u"&Caption");
-    EXPECT_EQ(control.get_CaptionWidth(), 1500);
+    EXPECT_EQ(EntryField::of(control).get_Caption(), u"&Caption");
+    EXPECT_EQ(EntryField::of(control).get_CaptionWidth(), 1500);
 
     field.setMaxLength(70000);
     EXPECT_EQ(field.maxLength(), 32767) << "the nearest that fits";

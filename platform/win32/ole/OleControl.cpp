@@ -123,10 +123,9 @@ std::int32_t OleControl::windowHandle() {
     return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(Window_->handle()));
 }
 
-void OleControl::propertyChanged(std::u16string_view bagName) {
+void OleControl::propertyChanged(const MemberRow& property) {
     Dirty_ = true;
-    const MemberRow* member = findMember(Model_, bagName);
-    Connections_.Notify.changed(member != nullptr ? member->id : DISPID_UNKNOWN);
+    Connections_.Notify.changed(property.id);
 }
 
 bool OleControl::mayPut(const MemberRow& member) {

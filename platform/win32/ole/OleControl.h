@@ -71,7 +71,7 @@ private:
     void setEnabled(bool enabled) override;
     std::int32_t windowHandle() override;
     std::u16string displayName() const override { return Site_.displayName(); }
-    void propertyChanged(std::u16string_view bagName) override;
+    void propertyChanged(const MemberRow& property) override;
     void raiseEvent(const EventRow& event, std::span<Variant> arguments) override;
     std::u16string toolTipText() const override { return Site_.toolTipText(); }
     void setToolTipText(std::u16string_view text) override { Site_.setToolTipText(text); }

@@ -1,0 +1,178 @@
+#pragma once
+
+#include <array>
+#include <memory>
+
+#include "common/FieldLayout.h"
+#include "common/FieldLook.h"
+#include "common/KeyAnswer.h"
+#include "host/Container.h"
+#include "host/System.h"
+#include "host/Widgets.h"
+#include "library/Control.h"
+
+namespace kel {
+
+/// How the entry fields differ in what they have in common.
+struct EntryKind {
+    LayoutRule layout{};
+    bool hasCaptionFont = true;         ///< the caption has a font of its own, not the field's
+    bool disablesContainer = true;      ///< not its widgets alone
+    bool captionWithinControl = false;  ///< the width of a caption is cut to the control's when it is put
+};
+
+class EntryControl;
+
+/// What every field for texts, numbers, dates, times and choices has and does alike: a caption, a box beside it, with a
+/// spinner or without, and the properties, colours and rules that go with them. What the text stands for is the
+/// control's own affair.
+class EntryField {
+public:
+    /// `control`, whose part it is, and `kind` outlive it.
+    EntryField(ControlHost& host, EntryControl& control, const EntryKind& kind);
+
+    /// Of a control that is an `EntryControl`.
+    static EntryField& of(Object& control);
+    static const EntryField& of(const Object& control);
+
+    ControlHost& host() { return Host_; }
+    const ControlHost& host() const { return Host_; }
+    const RegionalSettings& region() const { return Host_.region; }
+    Label& label() const { return *Label1_; }
+
+    /// A box of the control's, which owns it. The first is the one that shows; a further one takes over what is kept in
+    /// the first, and waits.
+    void add(TextEntry& box);
+    /// From now on the field is this box, laid out as `layout` says; `showActive` shows it in the place of the other.
+    void activate(TextEntry& box, const LayoutRule& layout);
+    void showActive();
+    TextEntry& box() const { return *Active_; }
+
+    void addSpinner(UpDownListener& listener) { UpDown1_ = Host_.widgets.makeUpDown(listener); }
+
+    /// Tells the container that the saved property which `Put` sets has been set.
+    template <auto Put>
+    void report() {
+        Host_.container.propertyChanged(model().rowPutBy<Put>());
+    }
+
+    // ---- Members of the controls
+
+    const std::u16string& get_Caption() const { return Label1_->caption(); }
+    /// The caption that is there already reports nothing.
+    void put_Caption(const std::u16string& caption);
+    std::int16_t get_CaptionWidth() const { return static_cast<std::int16_t>(Label1_->bounds().width); }
+    /// A negative width is ignored.
+    void put_CaptionWidth(std::int16_t twips);
+    bool get_Enabled() const { return Kind_.disablesContainer ? Host_.container.enabled() : Active_->enabled(); }
+    void put_Enabled(bool enabled);
+    bool get_FontBold() const { return Label1_->fontBold(); }
+    void put_FontBold(bool bold);
+    bool get_InsertMode() const { return InsertMode_; }
+    void put_InsertMode(bool insert);
+    bool get_Locked() const { return Boxes_[0]->locked(); }
+    void put_Locked(bool locked);
+    bool get_Mandatory() const { return Mandatory_; }
+    void put_Mandatory(bool mandatory);
+    std::int16_t get_MaxLength() const { return static_cast<std::int16_t>(Boxes_[0]->maxLength()); }
+    /// A negative length is ignored.
+    void put_MaxLength(std::int16_t units);
+    void Refresh() { Active_->refresh(); }
+    bool get_SelectOnFocus() const { return SelectOnFocus_; }
+    void put_SelectOnFocus(bool select);
+    void TooltipSet(const std::u16string& tooltip);
+    bool get_UpDown() const { return UpDown_; }
+    void put_UpDown(bool shown);
+
+    // ---- What the container tells
+
+    /// A control newly placed in a designer goes by its name in the container.
+    void initNew();
+    void load(PropertyBag& bag);
+    /// False where there is nothing to lay out: while properties are read, or before the control has a size.
+    bool layOut();
+    void show();
+    WidgetSet widgets() const;
+
+    // ---- State that a control sets without a report
+
+    void initInsertMode(bool insert) { InsertMode_ = insert; }
+    void initMandatory(bool mandatory) { Mandatory_ = mandatory; }
+    void initSelectOnFocus(bool select) { SelectOnFocus_ = select; }
+    void initUpDown(bool shown);
+    void colorCaption() { Label1_->setForeColor(captionColor(Mandatory_)); }
+
+    // ---- Focus
+
+    /// Where select-on-focus goes by the Tab key: all by Tab, nothing by a click.
+    void selectByTab();
+    void colorOnGotFocus() { Active_->setBackColor(backOnGotFocus(Host_.settings, get_Locked()).color); }
+    void colorOnExit() { applyBack(backOnExitFocus(Host_.settings, get_Locked())); }
+
+    // ---- Keys, spinner and messages
+
+    /// What every field makes of a key that goes down: Up and Down step where the field `steps`; the Insert key alone
+    /// switches overwriting on and off.
+    static KeyAnswer answerToKey(std::int16_t keyCode, Modifiers shift, bool steps);
+    /// Does what a key comes to, but for steps, which are the control's affair. `key`, a key code or a character, is
+    /// swallowed where the box does not get it.
+    template <class Key>
+    void carryOut(KeyAnswer answer, Key& key) {
+        if (!reachesBox(answer)) key = 0;
+        carryOut(answer);
+    }
+
+    /// A typed character replaces the next one.
+    bool overwrites() const { return !InsertMode_ && !get_Locked(); }
+
+    /// Gives the box the focus, as a press of the spinner does. +1 or -1 for a press, 0 for none.
+    int answerSpinner();
+    void restSpinner() { UpDown1_->setValue(UpDown::Rest); }
+
+    /// Tells the user what is wrong with the text and puts the focus back into it.
+    void complain(std::u16string_view prompt, std::u16string_view title);
+
+private:
+    const ClassModel& model() const;
+    void carryOut(KeyAnswer answer);
+    template <class Action>
+    void forEachBox(Action action) {
+        for (TextEntry* const box : Boxes_)
+            if (box != nullptr) action(*box);
+    }
+    LayoutRule layout() const;
+    void applyBack(const BackChange& change);
+    void applyStateLook();
+
+    ControlHost Host_;
+    EntryControl& Control_;
+    const EntryKind& Kind_;
+    std::unique_ptr<Label> Label1_;
+    std::unique_ptr<UpDown> UpDown1_;
+    std::array<TextEntry*, 2> Boxes_{};
+    TextEntry* Active_ = nullptr;
+    LayoutRule Layout_;
+
+    bool InsertMode_ = false;
+    bool Mandatory_ = true;
+    bool SelectOnFocus_ = false;
+    bool UpDown_ = false;
+    bool Shown_ = false;
+    std::int16_t LoadingDepth_ = 0;
+    Color CommonBack_ = colors::SystemWindow;  ///< the last ground that every box was given
+};
+
+/// A control that is an entry field, as the rows of its members and its container see it.
+class EntryControl : public Control {
+public:
+    virtual EntryField& entry() = 0;
+    const EntryField& entry() const { return const_cast<EntryControl*>(this)->entry(); }
+
+    void Resize() override { entry().layOut(); }
+    void Show() override { entry().show(); }
+    void ReadProperties(PropertyBag& bag) override { entry().load(bag); }
+    void WriteProperties(PropertyBag& bag) const override;
+    WidgetSet widgets() override { return entry().widgets(); }
+};
+
+}  // namespace kel
