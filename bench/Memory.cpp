@@ -7,6 +7,7 @@
 #include <QComboBox>
 
 #include "bench/Names.h"
+#include "bench/PaintBench.h"
 #include "bench/Widgets.h"
 #include "controls/combo/KelCombo.h"
 #include "controls/combo/ListText.h"
@@ -29,6 +30,18 @@ std::size_t bytesOfList(Fill fill, Open open) {
     return heapBytes() - before;
 }
 
+/// Most a form may take of what the same one of plain Qt widgets takes.
+struct FormLimit {
+    int fields;
+    double most;
+};
+constexpr FormLimit FormLimits[] = {{30, 0.8}, {300, 0.5}, {1200, 0.4}};
+
+void printLine(const std::string& what, double ours, double peers, double most) {
+    std::printf("%-58s %9.1f MB %9.1f MB %8.2f %10.2f %s\n", what.c_str(), ours / 1e6, peers / 1e6, ours / peers, most,
+                ours / peers <= most ? "" : "OVER");
+}
+
 }  // namespace
 
 void printMemory() {
@@ -46,10 +59,13 @@ void printMemory() {
             for (const std::u16string& name : names(MostListItems)) box.addItem(QString::fromStdU16String(name));
         },
         [](QComboBox& box) { box.showPopup(); });
-    const double ratio = static_cast<double>(ours) / static_cast<double>(peers);
-    std::printf("%-58s %9.1f MB %9.1f MB %8.2f %10.2f %s\n", "memory of 32,767 items, list open / combo box",
-                static_cast<double>(ours) / 1e6, static_cast<double>(peers) / 1e6, ratio, 1.0,
-                ratio <= 1 ? "" : "OVER");
+    printLine("memory of 32,767 items, list open / combo box", static_cast<double>(ours), static_cast<double>(peers),
+              1);
+    for (const FormLimit& limit : FormLimits) {
+        const FormMemory memory = memoryOfForm(limit.fields, &heapBytes);
+        printLine("memory of a shown form of " + std::to_string(limit.fields) + " fields / plain Qt",
+                  static_cast<double>(memory.ours), static_cast<double>(memory.peers), limit.most);
+    }
 }
 
 }  // namespace kel::bench

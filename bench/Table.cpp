@@ -9,13 +9,23 @@ namespace kel::bench {
 
 namespace {
 
+/// "OpenForm/300" of a benchmark that was given 300.
+std::string nameOf(const benchmark::BenchmarkReporter::Run& run) {
+    const std::string& arguments = run.run_name.args;
+    return run.run_name.function_name + (arguments.empty() ? "" : "/" + arguments);
+}
+
+double nanosecondsOf(const benchmark::BenchmarkReporter::Run& run) {
+    return run.GetAdjustedCPUTime() / benchmark::GetTimeUnitMultiplier(run.time_unit) * 1e9;
+}
+
 /// Keeps the median of each benchmark's repetitions, in nanoseconds.
 class MedianKeeper final : public benchmark::BenchmarkReporter {
 public:
     bool ReportContext(const Context&) override { return true; }
     void ReportRuns(const std::vector<Run>& runs) override {
         for (const Run& run : runs)
-            if (run.aggregate_name == "median") Medians[run.run_name.function_name] = run.GetAdjustedCPUTime();
+            if (run.aggregate_name == "median") Medians[nameOf(run)] = nanosecondsOf(run);
     }
     std::map<std::string, double> Medians;
 };
