@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "host/Keys.h"
-#include "host/Widget.h"
+#include "host/widgets/Widget.h"
 
 namespace kel {
 

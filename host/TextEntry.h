@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/Widget.h"
+#include "host/widgets/Widget.h"
 
 namespace kel {
 

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "host/Widget.h"
+#include "host/widgets/Widget.h"
 
 namespace kel {
 

@@ -16,8 +16,8 @@ std::int32_t inTheMiddle(std::int32_t room, std::int32_t extent) { return (room 
 
 }  // namespace
 
-KelProgressBar::KelProgressBar(ControlHost& host) : Host_(host), Picture1_(host.widgets.makePictureBox()) {
-    Picture1_->setForeColor(colors::SystemHighlight);
+KelProgressBar::KelProgressBar(ControlHost& host) : Host_(host), Picture1_(host.widgets) {
+    Picture1_.setForeColor(colors::SystemHighlight);
 }
 
 // ---- Properties
@@ -25,7 +25,7 @@ KelProgressBar::KelProgressBar(ControlHost& host) : Host_(host), Picture1_(host.
 void KelProgressBar::put_Enabled(bool enabled) {
     report<&KelProgressBar::put_Enabled>();
     Host_.container.setEnabled(enabled);
-    Picture1_->setEnabled(enabled);
+    Picture1_.setEnabled(enabled);
 }
 
 void KelProgressBar::put_Max(std::int32_t maximum) {
@@ -80,21 +80,22 @@ std::u16string KelProgressBar::timeText(float now) {
 }
 
 void KelProgressBar::draw(std::u16string text) {
-    const Rect surface = Picture1_->bounds();
-    const std::int32_t left = inTheMiddle(surface.width, Picture1_->textWidth(text));
-    const std::int32_t top = inTheMiddle(surface.height, Picture1_->textHeight(text));
-    Picture1_->draw({.text = std::move(text),
-                     .textLeft = left,
-                     .textTop = top,
-                     .barWidth = barWidth(DrawnShare_),
-                     .percent = percentOf(DrawnShare_)});
+    const Rect surface = Picture1_.bounds();
+    const Size extent = Picture1_.extentOf(text);
+    const std::int32_t left = inTheMiddle(surface.width, extent.width);
+    const std::int32_t top = inTheMiddle(surface.height, extent.height);
+    Picture1_.draw({.text = std::move(text),
+                    .textLeft = left,
+                    .textTop = top,
+                    .barWidth = barWidth(DrawnShare_),
+                    .percent = percentOf(DrawnShare_)});
 }
 
 /// What is there, for a surface or a font that has become another one.
 void KelProgressBar::drawAgain() {
     if (!isDrawn()) return;
     if (LastBarWidth_ != NeverDrawn) LastBarWidth_ = barWidth(DrawnShare_);
-    draw(Picture1_->picture().text);
+    draw(Picture1_.picture().text);
 }
 
 // ---- The container
@@ -106,8 +107,8 @@ void KelProgressBar::WriteProperties(PropertyBag& bag) const { writePersisted(*t
 void KelProgressBar::Resize() {
     if (!Host_.container.hasSize()) return;
     const Size size = Host_.container.size();
-    const bool hadWidth = Picture1_->bounds().width > 0;
-    Picture1_->move({0, 0, size.width, size.height});
+    const bool hadWidth = Picture1_.bounds().width > 0;
+    Picture1_.move({0, 0, size.width, size.height});
     // Without a width all bars are alike, and the one that was drawn need not be the one of the last value.
     if (!hadWidth && isDrawn())
         drawValue(ShowTime_ ? clock() : 0);
@@ -116,8 +117,8 @@ void KelProgressBar::Resize() {
 }
 
 void KelProgressBar::Show() {
-    setFieldFont(Host_, *Picture1_);
-    takeToolTip(Host_, *Picture1_);
+    setFieldFont(Host_, Picture1_);
+    takeToolTip(Host_, Picture1_);
     drawAgain();
 }
 

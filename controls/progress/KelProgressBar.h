@@ -16,7 +16,7 @@ public:
     explicit KelProgressBar(ControlHost& host);
 
     /// Wipes the bar and its text; the next value that moves the bar draws them again.
-    void Clear() { Picture1_->clear(); }
+    void Clear() { Picture1_.clear(); }
     bool get_Enabled() const { return Host_.container.enabled(); }
     void put_Enabled(bool enabled);
     /// First and last value of the job. Either takes the other one along when it passes it; `Value` stays.
@@ -24,7 +24,7 @@ public:
     void put_Max(std::int32_t maximum);
     std::int32_t get_Min() const { return Range_.min; }
     void put_Min(std::int32_t minimum);
-    void Refresh() { Picture1_->refresh(); }
+    void Refresh() { Picture1_.refresh(); }
     bool get_ShowTime() const { return ShowTime_; }
     void put_ShowTime(bool show);
     /// A job begins: back to the first value, without drawing, and the time counts from here.
@@ -42,14 +42,14 @@ public:
     void Show() override;
     void EnterFocus() override {}
     void ExitFocus() override {}
-    WidgetSet widgets() override { return {.picture = Picture1_.get()}; }
+    WidgetSet widgets() override { return {.picture = &Picture1_}; }
 
 private:
     static constexpr std::int32_t NeverDrawn = -1;
 
     float clock() const { return static_cast<float>(Host_.system.timer()); }
-    std::int32_t barWidth(double share) const { return nearestPart(share, Picture1_->bounds().width); }
-    bool isDrawn() const { return !Picture1_->picture().text.empty(); }
+    std::int32_t barWidth(double share) const { return nearestPart(share, Picture1_.bounds().width); }
+    bool isDrawn() const { return !Picture1_.picture().text.empty(); }
     void drawValue(float now);
     std::u16string timeText(float now);
     void draw(std::u16string text);
@@ -60,7 +60,7 @@ private:
     }
 
     ControlHost Host_;
-    std::unique_ptr<PictureBox> Picture1_;
+    PictureBox Picture1_;
 
     ProgressRange Range_;
     std::int32_t Value_ = 1;

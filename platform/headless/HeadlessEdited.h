@@ -40,7 +40,7 @@ private:
     std::u16string clipboardText() override { return this->seat().input.Clipboard; }
     void setClipboardText(std::u16string_view text) override { this->seat().input.Clipboard.assign(text); }
     std::ptrdiff_t linesOfPage() const override {
-        return std::max<std::ptrdiff_t>(static_cast<std::ptrdiff_t>(this->bounds().height / this->lineHeight()), 1);
+        return std::max<std::ptrdiff_t>(this->bounds().height / this->extentUnseen(0).height, 1);
     }
 };
 

@@ -2,7 +2,6 @@
 
 #include "platform/headless/HeadlessCheckBox.h"
 #include "platform/headless/HeadlessComboBox.h"
-#include "platform/headless/HeadlessPictureBox.h"
 #include "platform/headless/HeadlessTextBox.h"
 
 namespace kel::headless {
@@ -69,8 +68,6 @@ std::unique_ptr<UpDown> PlacedHeadlessControl::makeUpDown(UpDownListener& listen
 std::unique_ptr<CheckBox> PlacedHeadlessControl::makeCheckBox(CheckBoxListener& listener) {
     return std::make_unique<HeadlessCheckBox>(Seat_, listener);
 }
-
-std::unique_ptr<PictureBox> PlacedHeadlessControl::makePictureBox() { return std::make_unique<HeadlessPictureBox>(); }
 
 std::unique_ptr<ComboBox> PlacedHeadlessControl::makeComboBox(ComboBoxListener& listener) {
     return std::make_unique<HeadlessComboBox>(Seat_, listener);

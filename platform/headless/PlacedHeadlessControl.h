@@ -65,7 +65,6 @@ private:
     std::unique_ptr<TextBox> makeTextBox(TextBoxListener& listener, bool multiLine) override;
     std::unique_ptr<UpDown> makeUpDown(UpDownListener& listener) override;
     std::unique_ptr<CheckBox> makeCheckBox(CheckBoxListener& listener) override;
-    std::unique_ptr<PictureBox> makePictureBox() override;
     std::unique_ptr<ComboBox> makeComboBox(ComboBoxListener& listener) override;
 
     ControlObserver& Observer_;

@@ -8,7 +8,9 @@
 
 namespace kel::qt {
 
-ChildField::ChildField(ControlSite& site, QWidget& widget) : ChildWidget(site, widget) { site.addField(*this); }
+ChildField::ChildField(ControlSite& site, QWidget& widget, FieldWidget& shown) : ChildWidget(site, widget, shown) {
+    site.addField(*this);
+}
 
 ChildField::~ChildField() {
     focus::forget(*this);

@@ -2,12 +2,16 @@
 
 #include "platform/qt/ChildWidget.h"
 
+namespace kel {
+class FieldWidget;
+}
+
 namespace kel::qt {
 
 /// A child widget that can have the focus.
 class ChildField : public ChildWidget {
 public:
-    ChildField(ControlSite& site, QWidget& widget);
+    ChildField(ControlSite& site, QWidget& widget, FieldWidget& shown);
     ~ChildField() override;
 
     /// Enabled and shown, with all around it.

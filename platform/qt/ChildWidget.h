@@ -2,6 +2,10 @@
 
 class QWidget;
 
+namespace kel {
+class Widget;
+}
+
 namespace kel::qt {
 
 class ControlSite;
@@ -9,8 +13,8 @@ class ControlSite;
 /// A child widget of a control, as the composite around it knows it.
 class ChildWidget {
 public:
-    /// Both outlive this.
-    ChildWidget(ControlSite& site, QWidget& widget);
+    /// All of them outlive this. `widget` shows `shown`.
+    ChildWidget(ControlSite& site, QWidget& widget, Widget& shown);
     ChildWidget(const ChildWidget&) = delete;
     ChildWidget& operator=(const ChildWidget&) = delete;
     virtual ~ChildWidget();
@@ -19,11 +23,12 @@ public:
     QWidget& widget() const { return Widget_; }
 
     /// The composite is mirrored now, or no longer, or its pixels are others.
-    virtual void placeAgain() = 0;
+    void placeAgain();
 
 private:
     ControlSite& Site_;
     QWidget& Widget_;
+    Widget& Shown_;
 };
 
 }  // namespace kel::qt

@@ -183,6 +183,10 @@ void ControlSite::recolored() {
 
 // ---- Child widgets
 
+std::unique_ptr<PictureView> ControlSite::makeView(PictureBox& box) {
+    return std::make_unique<QtPictureBox>(*this, box, *Widget_);
+}
+
 std::unique_ptr<Label> ControlSite::makeLabel() { return std::make_unique<CaptionLabel>(*this); }
 
 std::unique_ptr<TextBox> ControlSite::makeTextBox(TextBoxListener& listener, bool multiLine) {
@@ -200,8 +204,6 @@ std::unique_ptr<UpDown> ControlSite::makeUpDown(UpDownListener& listener) {
 std::unique_ptr<CheckBox> ControlSite::makeCheckBox(CheckBoxListener& listener) {
     return std::make_unique<QtCheckBox>(*this, listener, *Widget_);
 }
-
-std::unique_ptr<PictureBox> ControlSite::makePictureBox() { return std::make_unique<QtPictureBox>(*this, *Widget_); }
 
 std::unique_ptr<ComboBox> ControlSite::makeComboBox(ComboBoxListener& listener) {
     return std::make_unique<QtComboBox>(*this, listener, *Widget_);

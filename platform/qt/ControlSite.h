@@ -61,11 +61,11 @@ public:
     std::u16string toolTipText() const override;
     void setToolTipText(std::u16string_view text) override;
 
+    std::unique_ptr<PictureView> makeView(PictureBox& box) override;
     std::unique_ptr<Label> makeLabel() override;
     std::unique_ptr<TextBox> makeTextBox(TextBoxListener& listener, bool multiLine) override;
     std::unique_ptr<UpDown> makeUpDown(UpDownListener& listener) override;
     std::unique_ptr<CheckBox> makeCheckBox(CheckBoxListener& listener) override;
-    std::unique_ptr<PictureBox> makePictureBox() override;
     std::unique_ptr<ComboBox> makeComboBox(ComboBoxListener& listener) override;
 
     // ---- What the widget tells

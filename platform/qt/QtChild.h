@@ -2,7 +2,6 @@
 
 #include <QWidget>
 
-#include "host/Geometry.h"
 #include "platform/qt/ControlSite.h"
 
 namespace kel::qt {
@@ -12,23 +11,17 @@ namespace kel::qt {
 template <class Interface, class Child>
 class QtChild : public Interface, public Child {
 public:
-    Rect bounds() const override { return Bounds_; }
     void move(const Rect& bounds) override {
-        if (bounds == Bounds_) return;
-        Bounds_ = bounds;
-        placeAgain();
+        if (bounds == this->bounds()) return;
+        Interface::move(bounds);
+        this->placeAgain();
     }
 
     bool enabled() const override { return !this->widget().testAttribute(Qt::WA_ForceDisabled); }
     void setEnabled(bool enabled) override { this->widget().setEnabled(enabled); }
 
-    void placeAgain() override { this->widget().setGeometry(this->site().pixelRect(Bounds_)); }
-
 protected:
-    QtChild(ControlSite& site, QWidget& widget) : Child(site, widget) {}
-
-private:
-    Rect Bounds_;
+    QtChild(ControlSite& site, QWidget& widget) : Child(site, widget, *this) {}
 };
 
 }  // namespace kel::qt

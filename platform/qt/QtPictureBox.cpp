@@ -8,6 +8,8 @@
 
 #include "platform/qt/ControlSite.h"
 #include "platform/qt/FieldColors.h"
+#include "platform/qt/TextBridge.h"
+#include "platform/qt/WidgetLook.h"
 
 namespace kel::qt {
 
@@ -49,41 +51,38 @@ QAccessibleInterface* makeSpoken(const QString& /*className*/, QObject* object) 
 
 }  // namespace
 
-QtPictureBox::QtPictureBox(ControlSite& site, QWidget& parent) : QWidget(&parent), QtTextual(site, *this) {
+QtPictureBox::QtPictureBox(ControlSite& site, PictureBox& box, QWidget& parent)
+    : QWidget(&parent), ChildWidget(site, *this, box), Box_(box) {
     // What is behind it need not be painted with each step of a job.
     setAttribute(Qt::WA_OpaquePaintEvent);
     QAccessible::installFactory(&makeSpoken);
 }
 
-void QtPictureBox::setForeColor(Color color) {
-    if (color == ForeColor_) return;
-    ForeColor_ = color;
+void QtPictureBox::outOfDate() {
+    const Changes changes = Box_.takeChanges();
+    if (changes.has(Change::Place)) placeAgain();
+    if (changes.has(Change::Enabled)) setEnabled(Box_.enabled());
+    if (changes.has(Change::Font)) setWidgetFont(*this, Box_.font());
+    if (changes.has(Change::ToolTip)) setWidgetToolTip(*this, Box_.toolTip());
     update();
-}
-
-std::int32_t QtPictureBox::textWidth(std::u16string_view text) const {
-    return site().grid().twips(fontMetrics().horizontalAdvance(toQString(text)));
-}
-
-std::int32_t QtPictureBox::textHeight(std::u16string_view /*text*/) const {
-    return site().grid().twips(fontMetrics().height());
-}
-
-void QtPictureBox::draw(const BarPicture& picture) {
-    Picture_ = picture;
-    repaint();
-    if (!QAccessible::isActive()) return;
-    QAccessibleValueChangeEvent event(this, Picture_.percent);
+    if (!changes.has(Change::Percent) || !QAccessible::isActive()) return;
+    QAccessibleValueChangeEvent event(this, picture().percent);
     QAccessible::updateAccessibility(&event);
+}
+
+Size QtPictureBox::extentOf(std::u16string_view text) const {
+    const QFontMetrics metrics = fontMetrics();
+    return site().grid().twips(QSize(metrics.horizontalAdvance(toQString(text)), metrics.height()));
 }
 
 // ---- Painting
 
 /// Its end lies between two dots of the screen, which may be finer than Qt's pixels.
 QRectF QtPictureBox::barArea() const {
-    if (bounds().width <= 0) return {};
+    const std::int32_t whole = Box_.bounds().width;
+    if (whole <= 0) return {};
     const double dots = width() * devicePixelRatioF();
-    const double share = static_cast<double>(Picture_.barWidth) / bounds().width;
+    const double share = static_cast<double>(picture().barWidth) / whole;
     const double length = std::round(dots * std::clamp(share, 0.0, 1.0)) / devicePixelRatioF();
     return {isRightToLeft() ? width() - length : 0, 0, length, static_cast<double>(height())};
 }
@@ -92,19 +91,19 @@ void QtPictureBox::paintEvent(QPaintEvent* /*event*/) {
     const QPalette& colors = palette();
     const QColor ground = colors.color(QPalette::Window);
     // Readable on the ground, and so the ground on it.
-    const QColor ink = isEnabled() ? captionColorOn(colors, ForeColor_) : disabledCaptionColor(colors);
+    const QColor ink = isEnabled() ? captionColorOn(colors, Box_.foreColor()) : disabledCaptionColor(colors);
     const QRectF bar = barArea();
     QPainter painter(this);
     painter.fillRect(rect(), colors.window());
     if (!bar.isEmpty()) painter.fillRect(bar, ink);
-    if (!Picture_.text.empty()) paintText(painter, bar, ink, ground);
+    if (!picture().text.empty()) paintText(painter, bar, ink, ground);
 }
 
 void QtPictureBox::paintText(QPainter& painter, const QRectF& bar, const QColor& ink, const QColor& ground) const {
-    const QString text = toQString(Picture_.text);
+    const QString text = toQString(picture().text);
     const QFontMetrics metrics = fontMetrics();
     const TwipGrid& grid = site().grid();
-    QRect area(grid.pixel(Picture_.textLeft), grid.pixel(Picture_.textTop), metrics.horizontalAdvance(text),
+    QRect area(grid.pixel(picture().textLeft), grid.pixel(picture().textTop), metrics.horizontalAdvance(text),
                metrics.height());
     area = QStyle::visualRect(layoutDirection(), rect(), area);
     const QPointF start(area.left(), area.top() + metrics.ascent());

@@ -2,9 +2,8 @@
 
 #include <QWidget>
 
-#include "host/Widgets.h"
+#include "host/widgets/PictureBox.h"
 #include "platform/qt/ChildWidget.h"
-#include "platform/qt/QtTextual.h"
 
 class QPainter;
 
@@ -12,19 +11,16 @@ namespace kel::qt {
 
 /// A bar with a text over it. It never has the focus; a screen reader reads it as a progress bar. From right to left
 /// the bar begins at the right.
-class QtPictureBox final : public QWidget, public QtTextual<PictureBox, ChildWidget> {
+class QtPictureBox final : public QWidget, public PictureView, public ChildWidget {
 public:
-    QtPictureBox(ControlSite& site, QWidget& parent);
+    QtPictureBox(ControlSite& site, PictureBox& box, QWidget& parent);
 
-    Color foreColor() const override { return ForeColor_; }
-    void setForeColor(Color color) override;
+    const BarPicture& picture() const { return Box_.picture(); }
 
-    std::int32_t textWidth(std::u16string_view text) const override;
-    std::int32_t textHeight(std::u16string_view text) const override;
-
-    const BarPicture& picture() const override { return Picture_; }
-    void clear() override { draw({}); }
-    void draw(const BarPicture& picture) override;
+    void outOfDate() override;
+    void paintAgain() override { update(); }
+    Size extentOf(std::u16string_view text) const override;
+    void paintNow() override { repaint(); }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -33,8 +29,7 @@ private:
     QRectF barArea() const;
     void paintText(QPainter& painter, const QRectF& bar, const QColor& ink, const QColor& ground) const;
 
-    BarPicture Picture_;
-    Color ForeColor_ = colors::SystemWindowText;
+    PictureBox& Box_;
 };
 
 }  // namespace kel::qt

@@ -17,6 +17,12 @@ void setWidgetFont(QWidget& widget, const QFont& font) {
     if (font != widget.font()) widget.setFont(font);
 }
 
+void setWidgetFont(QWidget& widget, const FontFace& font) {
+    QFont shown = fontLike(widget.font(), font.name, font.size);
+    shown.setBold(font.bold);
+    setWidgetFont(widget, shown);
+}
+
 void setWidgetToolTip(QWidget& widget, std::u16string_view text) {
     if (widget.toolTip() != qtViewOf(text)) widget.setToolTip(toQString(text));
 }

@@ -26,6 +26,11 @@ void Font::choose(std::u16string_view name, double points, const TwipGrid& grid)
     if (Handle_ == nullptr || std::memcmp(&description, &Description_, sizeof description) != 0) make(description);
 }
 
+void Font::choose(const FontFace& face, const TwipGrid& grid) {
+    if (face.size > 0) choose(face.name, face.size, grid);
+    setBold(face.bold);
+}
+
 void Font::rescale(const TwipGrid& grid) {
     if (Points_ <= 0) return;
     LOGFONTW description = Description_;

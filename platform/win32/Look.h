@@ -5,8 +5,8 @@
 #include <string_view>
 #include <utility>
 
+#include "host/widgets/Widget.h"
 #include "platform/win32/TwipGrid.h"
-#include "values/Color.h"
 
 namespace kel::win32 {
 
@@ -33,6 +33,7 @@ public:
     HFONT handle() const;
 
     void choose(std::u16string_view name, double points, const TwipGrid& grid);
+    void choose(const FontFace& face, const TwipGrid& grid);
     /// The same on a screen of another resolution.
     void rescale(const TwipGrid& grid);
     bool bold() const { return Description_.lfWeight >= FW_BOLD; }

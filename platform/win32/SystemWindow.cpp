@@ -1,7 +1,6 @@
 #include "platform/win32/SystemWindow.h"
 
 #include "platform/win32/ControlWindow.h"
-#include "platform/win32/TwipGrid.h"
 
 namespace kel::win32 {
 
@@ -17,13 +16,20 @@ void SystemWindow::destroy() {
     if (Handle_ != nullptr) DestroyWindow(Handle_);
 }
 
+void SystemWindow::placeAs(const Widget& shown) const {
+    const RECT place = pixelsOf(shown);
+    if (Handle_ != nullptr)
+        SetWindowPos(Handle_, nullptr, place.left, place.top, widthOf(place), heightOf(place),
+                     SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+}
+
 LRESULT SystemWindow::base(UINT message, WPARAM wide, LPARAM data) const {
     return CallWindowProcW(Base_, Handle_, message, wide, data);
 }
 
 LRESULT SystemWindow::handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) {
     Handle_ = window;
-    ControlWindowOwner& owner = Owner_;
+    ControlWindowOwner& owner = Frame_.owner();
     owner.holdOpen();
     const LRESULT result = atEdge([&] { return handle(message, wide, data); });
     if (message == WM_NCDESTROY) Handle_ = nullptr;

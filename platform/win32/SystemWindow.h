@@ -1,6 +1,8 @@
 #pragma once
 
+#include "host/widgets/Widget.h"
 #include "platform/win32/ChildField.h"
+#include "platform/win32/TwipGrid.h"
 #include "platform/win32/WindowClass.h"
 
 namespace kel::win32 {
@@ -13,7 +15,7 @@ public:
     SystemWindow& operator=(const SystemWindow&) = delete;
 
 protected:
-    explicit SystemWindow(ControlFrame& frame) : Owner_(frame.owner()) {}
+    explicit SystemWindow(ControlFrame& frame) : Frame_(frame) {}
     /// The window is gone before: it is handled by what derives from this.
     ~SystemWindow() = default;
 
@@ -24,13 +26,19 @@ protected:
     bool create(const WindowClass& windowClass, HWND parent, DWORD style, const RECT& place);
     void destroy();
 
+    ControlFrame& frame() const { return Frame_; }
+
+    /// Where the window is to stand, and puts it there.
+    RECT pixelsOf(const Widget& shown) const { return Frame_.grid().pixels(shown.bounds()); }
+    void placeAs(const Widget& shown) const;
+
     LRESULT base(UINT message, WPARAM wide = 0, LPARAM data = 0) const;
     virtual LRESULT handle(UINT message, WPARAM wide, LPARAM data) = 0;
 
 private:
     LRESULT handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) override;
 
-    ControlWindowOwner& Owner_;
+    ControlFrame& Frame_;
     HWND Handle_ = nullptr;
     WNDPROC Base_ = nullptr;
 };

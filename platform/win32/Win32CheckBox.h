@@ -40,6 +40,8 @@ public:
     void draw(HDC context, POINT origin) const override;
 
 private:
+    using Win32FieldWidget::frame;
+
     void placeChanged() override;
     void fontChanged() override;
     /// A control that takes no input leaves the caption as it is.

@@ -52,6 +52,11 @@ Win32ControlWindow::~Win32ControlWindow() {
 
 // ---- Widgets
 
+std::unique_ptr<PictureView> Win32ControlWindow::makeView(PictureBox& box) {
+    ControlFrame& frame = *this;
+    return std::make_unique<Win32PictureBox>(frame, box);
+}
+
 std::unique_ptr<Label> Win32ControlWindow::makeLabel() {
     ControlFrame& frame = *this;
     return std::make_unique<Win32Label>(frame);
@@ -70,11 +75,6 @@ std::unique_ptr<UpDown> Win32ControlWindow::makeUpDown(UpDownListener& listener)
 std::unique_ptr<CheckBox> Win32ControlWindow::makeCheckBox(CheckBoxListener& listener) {
     ControlFrame& frame = *this;
     return std::make_unique<Win32CheckBox>(frame, listener);
-}
-
-std::unique_ptr<PictureBox> Win32ControlWindow::makePictureBox() {
-    ControlFrame& frame = *this;
-    return std::make_unique<Win32PictureBox>(frame);
 }
 
 std::unique_ptr<ComboBox> Win32ControlWindow::makeComboBox(ComboBoxListener& listener) {

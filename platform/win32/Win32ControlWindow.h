@@ -38,11 +38,11 @@ public:
     void setGrid(const TwipGrid& grid);
 
 private:
+    std::unique_ptr<PictureView> makeView(PictureBox& box) override;
     std::unique_ptr<Label> makeLabel() override;
     std::unique_ptr<TextBox> makeTextBox(TextBoxListener& listener, bool multiLine) override;
     std::unique_ptr<UpDown> makeUpDown(UpDownListener& listener) override;
     std::unique_ptr<CheckBox> makeCheckBox(CheckBoxListener& listener) override;
-    std::unique_ptr<PictureBox> makePictureBox() override;
     std::unique_ptr<ComboBox> makeComboBox(ComboBoxListener& listener) override;
 
     HWND window() const override { return Window_; }

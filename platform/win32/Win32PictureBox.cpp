@@ -37,8 +37,7 @@ LRESULT rangeOfBar(bool lowest, PBRANGE* range) {
 
 }  // namespace
 
-Win32PictureBox::Win32PictureBox(ControlFrame& frame)
-    : Win32TextualWidget(frame, colors::SystemWindowText), PaintedWindow(frame) {
+Win32PictureBox::Win32PictureBox(ControlFrame& frame, PictureBox& box) : PaintedWindow(frame), Box_(box) {
     frame.add(*this);
 }
 
@@ -50,71 +49,56 @@ Win32PictureBox::~Win32PictureBox() {
 // ---- The window
 
 void Win32PictureBox::makeWindow() {
-    if (!create(progressClass(), frame().window(), 0, pixels())) return;
-    EnableWindow(window(), enabled());
+    if (!create(progressClass(), frame().window(), 0, pixelsOf(Box_))) return;
+    EnableWindow(window(), Box_.enabled());
     showToolTip();
     ShowWindow(window(), SW_SHOWNA);
 }
 
-void Win32PictureBox::placeChanged() {
-    placeWindow(window());
-    refresh();
-}
-
-void Win32PictureBox::enabledChanged() {
-    if (window() != nullptr) EnableWindow(window(), enabled());
+void Win32PictureBox::outOfDate() {
+    const Changes changes = Box_.takeChanges();
+    if (changes.has(Change::Place)) placeAs(Box_);
+    if (changes.has(Change::Enabled) && window() != nullptr) EnableWindow(window(), Box_.enabled());
+    if (changes.has(Change::Font)) Font_.choose(Box_.font(), frame().grid());
+    if (changes.has(Change::ToolTip)) showToolTip();
+    paintAgain();
+    if (changes.has(Change::Percent) && window() != nullptr)
+        NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, window(), OBJID_CLIENT, CHILDID_SELF);
 }
 
 void Win32PictureBox::rescale() {
-    rescaleFont();
-    placeChanged();
-}
-
-void Win32PictureBox::refresh() {
-    invalidate();
-    frame().viewChanged();
-}
-
-void Win32PictureBox::setToolTip(std::u16string_view text) {
-    if (text == ToolTip_) return;
-    ToolTip_.assign(text);
-    showToolTip();
+    Font_.rescale(frame().grid());
+    placeAs(Box_);
+    paintAgain();
 }
 
 void Win32PictureBox::showToolTip() {
-    if (window() != nullptr) frame().setToolTip(window(), wide(ToolTip_).c_str());
+    if (window() != nullptr) frame().setToolTip(window(), wide(Box_.toolTip()).c_str());
 }
 
 // ---- Picture
 
-SIZE Win32PictureBox::pixelsOf(std::u16string_view text) const {
+Size Win32PictureBox::extentOf(std::u16string_view text) const {
     const WindowContext context(window());
-    const Selected selected(context.get(), font().handle());
+    const Selected selected(context.get(), Font_.handle());
     const std::wstring units = wide(text);
     SIZE size{};
     GetTextExtentPoint32W(context.get(), units.c_str(), static_cast<int>(units.size()), &size);
-    return size;
+    const TwipGrid& grid = frame().grid();
+    return {grid.twips(static_cast<int>(size.cx)), grid.twips(static_cast<int>(size.cy))};
 }
 
-std::int32_t Win32PictureBox::textWidth(std::u16string_view text) const {
-    return frame().grid().twips(static_cast<int>(pixelsOf(text).cx));
+void Win32PictureBox::paintAgain() {
+    invalidate();
+    frame().viewChanged();
 }
 
-std::int32_t Win32PictureBox::textHeight(std::u16string_view text) const {
-    return frame().grid().twips(static_cast<int>(pixelsOf(text).cy));
-}
-
-void Win32PictureBox::draw(const BarPicture& picture) {
-    const std::int32_t before = Picture_.percent;
-    Picture_ = picture;
-    refresh();
-    if (window() == nullptr) return;
-    UpdateWindow(window());
-    if (Picture_.percent != before) NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, window(), OBJID_CLIENT, CHILDID_SELF);
+void Win32PictureBox::paintNow() {
+    if (window() != nullptr) UpdateWindow(window());
 }
 
 void Win32PictureBox::draw(HDC context, POINT origin) const {
-    RECT area = pixels();
+    RECT area = pixelsOf(Box_);
     OffsetRect(&area, origin.x, origin.y);
     paint(context, area);
 }
@@ -122,18 +106,19 @@ void Win32PictureBox::draw(HDC context, POINT origin) const {
 void Win32PictureBox::paint(HDC context, const RECT& area) const {
     const SavedContext saved(context);
     const TwipGrid& grid = frame().grid();
-    const RECT inControl = pixels();
-    const Rect place = bounds();
-    const POINT text{area.left - inControl.left + grid.pixel(place.left + Picture_.textLeft),
-                     area.top - inControl.top + grid.pixel(place.top + Picture_.textTop)};
-    const LONG end = area.left - inControl.left + grid.pixel(place.left + Picture_.barWidth);
+    const BarPicture& picture = Box_.picture();
+    const RECT inControl = pixelsOf(Box_);
+    const Rect place = Box_.bounds();
+    const POINT text{area.left - inControl.left + grid.pixel(place.left + picture.textLeft),
+                     area.top - inControl.top + grid.pixel(place.top + picture.textTop)};
+    const LONG end = area.left - inControl.left + grid.pixel(place.left + picture.barWidth);
     const RECT bar{area.left, area.top, std::clamp(end, area.left, area.right), area.bottom};
 
-    SelectObject(context, font().handle());
+    SelectObject(context, Font_.handle());
     SetBkMode(context, TRANSPARENT);
     SetTextAlign(context, TA_LEFT | TA_TOP | TA_NOUPDATECP);
-    const std::wstring units = wide(Picture_.text);
-    const COLORREF fore = colorOf(foreColor());
+    const std::wstring units = wide(picture.text);
+    const COLORREF fore = colorOf(Box_.foreColor());
     const COLORREF ground = GetSysColor(COLOR_BTNFACE);
     paintPart(context, bar, fore, ground, text, units);
     paintPart(context, {bar.right, area.top, area.right, area.bottom}, ground, fore, text, units);
@@ -146,10 +131,11 @@ LRESULT Win32PictureBox::handle(UINT message, WPARAM wide, LPARAM data) {
         // The system's bar would have a border.
         case WM_NCCALCSIZE:
         case WM_NCPAINT: return 0;
-        case PBM_GETPOS: return Picture_.percent;
+        case PBM_GETPOS: return Box_.picture().percent;
         case PBM_GETRANGE: return rangeOfBar(wide != FALSE, reinterpret_cast<PBRANGE*>(data));
-        case WM_GETTEXTLENGTH: return static_cast<LRESULT>(Picture_.text.size());
-        case WM_GETTEXT: return static_cast<LRESULT>(copyText(Picture_.text, wide, reinterpret_cast<wchar_t*>(data)));
+        case WM_GETTEXTLENGTH: return static_cast<LRESULT>(Box_.picture().text.size());
+        case WM_GETTEXT:
+            return static_cast<LRESULT>(copyText(Box_.picture().text, wide, reinterpret_cast<wchar_t*>(data)));
         default: return PaintedWindow::handle(message, wide, data);
     }
 }

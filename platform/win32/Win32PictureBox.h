@@ -1,29 +1,23 @@
 #pragma once
 
+#include "host/widgets/PictureBox.h"
+#include "platform/win32/Look.h"
 #include "platform/win32/SystemWindow.h"
-#include "platform/win32/Win32Widget.h"
 
 namespace kel::win32 {
 
 /// A picture box: the system's progress bar, for those who cannot see it, with a picture of our own.
-class Win32PictureBox final : public Win32TextualWidget<PictureBox>, public ChildWidget, private PaintedWindow {
+class Win32PictureBox final : public PictureView, public ChildWidget, private PaintedWindow {
 public:
-    explicit Win32PictureBox(ControlFrame& frame);
+    Win32PictureBox(ControlFrame& frame, PictureBox& box);
     ~Win32PictureBox() override;
 
-    // ---- PictureBox
+    // ---- PictureView
 
-    void refresh() override;
-
-    std::u16string toolTip() const override { return ToolTip_; }
-    void setToolTip(std::u16string_view text) override;
-
-    std::int32_t textWidth(std::u16string_view text) const override;
-    std::int32_t textHeight(std::u16string_view text) const override;
-
-    const BarPicture& picture() const override { return Picture_; }
-    void clear() override { draw(BarPicture()); }
-    void draw(const BarPicture& picture) override;
+    void outOfDate() override;
+    void paintAgain() override;
+    Size extentOf(std::u16string_view text) const override;
+    void paintNow() override;
 
     // ---- ChildWidget
 
@@ -36,17 +30,13 @@ public:
     void draw(HDC context, POINT origin) const override;
 
 private:
-    void placeChanged() override;
-    void enabledChanged() override;
-    void fontChanged() override { refresh(); }
     void showToolTip();
-    SIZE pixelsOf(std::u16string_view text) const;
 
     void paint(HDC context, const RECT& area) const override;
     LRESULT handle(UINT message, WPARAM wide, LPARAM data) override;
 
-    BarPicture Picture_;
-    std::u16string ToolTip_;
+    PictureBox& Box_;
+    Font Font_;
 };
 
 }  // namespace kel::win32

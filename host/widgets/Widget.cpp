@@ -1,0 +1,37 @@
+#include "host/widgets/Widget.h"
+
+#include <algorithm>
+
+namespace kel {
+
+void Widget::changed(Changes changes) {
+    const bool isNews = Changes_.none();
+    Changes_ |= changes;
+    if (View* const seen = view(); seen != nullptr && isNews) seen->outOfDate();
+}
+
+void Widget::move(const Rect& bounds) { change(Bounds_, bounds, Change::Place); }
+
+void Widget::setEnabled(bool enabled) { change(Enabled_, enabled, Change::Enabled); }
+
+void TextualWidget::setFont(std::u16string_view name, double size) {
+    if (name == Font_.name && size == Font_.size) return;
+    Font_.name.assign(name);
+    Font_.size = size;
+    changed(Change::Font);
+}
+
+void TextualWidget::refresh() {
+    if (View* const seen = view()) seen->paintAgain();
+}
+
+Size TextualWidget::extentUnseen(std::size_t characters) const {
+    constexpr double UsualSize = 8;
+    constexpr double WidthOfPoint = 10;
+    constexpr double HeightOfPoint = 24;
+    const double size = Font_.size > 0 ? std::max(Font_.size, 1.0) : UsualSize;
+    return {static_cast<std::int32_t>(size * WidthOfPoint * static_cast<double>(characters)),
+            static_cast<std::int32_t>(size * HeightOfPoint)};
+}
+
+}  // namespace kel

@@ -1,0 +1,113 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "host/View.h"
+#include "values/Color.h"
+
+/// The child widgets that a control is made of: they own what can be asked of them and know what a person's deeds do to
+/// them. The control holds each one and destroys it before its container goes.
+namespace kel {
+
+/// What is virtual here is so for the widgets that a home still implements itself.
+class Widget {
+public:
+    Widget() = default;
+    Widget(const Widget&) = delete;
+    Widget& operator=(const Widget&) = delete;
+    virtual ~Widget() = default;
+
+    /// Place inside the control, kept to the twip whatever the screen's resolution.
+    virtual Rect bounds() const { return Bounds_; }
+    virtual void move(const Rect& bounds);
+
+    virtual bool enabled() const { return Enabled_; }
+    virtual void setEnabled(bool enabled);
+
+    /// nullptr where nobody looks.
+    virtual View* view() const { return nullptr; }
+    /// What has changed since the view last asked.
+    Changes takeChanges() { return std::exchange(Changes_, {}); }
+
+protected:
+    void changed(Changes changes);
+
+    /// Where it is another one, which the view then hears of.
+    template <class Kept, class Value>
+    void change(Kept& kept, const Value& value, Change what) {
+        if (kept == value) return;
+        kept = value;
+        changed(what);
+    }
+
+private:
+    Rect Bounds_;
+    bool Enabled_ = true;
+    Changes Changes_;
+};
+
+/// Changes the width alone.
+inline void setWidth(Widget& widget, std::int32_t width) {
+    Rect bounds = widget.bounds();
+    bounds.width = width;
+    widget.move(bounds);
+}
+
+/// A font as the controls choose it; what is not chosen is the home's own.
+struct FontFace {
+    std::u16string name;
+    double size = 0;  ///< points
+    bool bold = false;
+};
+
+/// A widget that shows text.
+class TextualWidget : public Widget {
+public:
+    virtual Color foreColor() const { return ForeColor_; }
+    virtual void setForeColor(Color color) { change(ForeColor_, color, Change::Colors); }
+
+    const FontFace& font() const { return Font_; }
+    /// `size` in points. The bold style is kept.
+    virtual void setFont(std::u16string_view name, double size);
+    virtual bool fontBold() const { return Font_.bold; }
+    virtual void setFontBold(bool bold) { change(Font_.bold, bold, Change::Font); }
+
+    /// Repaints at the next opportunity.
+    virtual void refresh();
+
+protected:
+    explicit TextualWidget(Color foreColor = colors::SystemWindowText) : ForeColor_(foreColor) {}
+
+    /// Of so many characters in one line, where no view can measure them: all are alike, and there is a gap between
+    /// lines.
+    Size extentUnseen(std::size_t characters) const;
+
+private:
+    FontFace Font_;
+    Color ForeColor_;
+};
+
+class Label : public TextualWidget {
+public:
+    virtual const std::u16string& caption() const = 0;
+    virtual void setCaption(std::u16string_view caption) = 0;
+};
+
+/// A widget that takes the focus and is coloured by the field's state.
+class FieldWidget : public TextualWidget {
+public:
+    virtual bool visible() const = 0;
+    virtual void setVisible(bool visible) = 0;
+
+    virtual Color backColor() const = 0;
+    virtual void setBackColor(Color color) = 0;
+
+    virtual std::u16string toolTip() const = 0;
+    virtual void setToolTip(std::u16string_view text) = 0;
+
+    virtual void setFocus() = 0;
+};
+
+}  // namespace kel
