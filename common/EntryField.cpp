@@ -15,7 +15,7 @@ constexpr std::int32_t InformationIcon = 64;
 }  // namespace
 
 EntryField::EntryField(ControlHost& host, EntryControl& control, const EntryKind& kind)
-    : Host_(host), Control_(control), Kind_(kind), Label1_(host.widgets.makeLabel()), Layout_(kind.layout) {}
+    : Host_(host), Control_(control), Kind_(kind), Label1_(host.widgets), Layout_(kind.layout) {}
 
 EntryField& EntryField::of(Object& control) { return static_cast<EntryControl&>(control).entry(); }
 
@@ -57,15 +57,15 @@ void EntryField::showActive() {
 // ---- Members
 
 void EntryField::put_Caption(const std::u16string& caption) {
-    if (Label1_->caption() == caption) return;
-    Label1_->setCaption(caption);
+    if (Label1_.caption() == caption) return;
+    Label1_.setCaption(caption);
     report<&EntryField::put_Caption>();
 }
 
 void EntryField::put_CaptionWidth(std::int16_t twips) {
     if (twips < 0) return;
     const bool cut = Kind_.captionWithinControl && Host_.container.hasSize();
-    setWidth(*Label1_, cut ? std::min<std::int32_t>(twips, Host_.container.size().width) : twips);
+    setWidth(Label1_, cut ? std::min<std::int32_t>(twips, Host_.container.size().width) : twips);
     report<&EntryField::put_CaptionWidth>();
     Control_.Resize();
 }
@@ -73,13 +73,13 @@ void EntryField::put_CaptionWidth(std::int16_t twips) {
 void EntryField::put_Enabled(bool enabled) {
     report<&EntryField::put_Enabled>();
     if (Kind_.disablesContainer) Host_.container.setEnabled(enabled);
-    Label1_->setEnabled(enabled);
+    Label1_.setEnabled(enabled);
     forEachBox([enabled](TextEntry& box) { box.setEnabled(enabled); });
     applyStateLook();
 }
 
 void EntryField::put_FontBold(bool bold) {
-    Label1_->setFontBold(bold);
+    Label1_.setFontBold(bold);
     forEachBox([bold](TextEntry& box) { box.setFontBold(bold); });
     report<&EntryField::put_FontBold>();
 }
@@ -150,7 +150,7 @@ void EntryField::initUpDown(bool shown) {
 }
 
 void EntryField::initNew() {
-    nameNewCaption(Host_, *Label1_);
+    nameNewCaption(Host_, Label1_);
     Control_.Resize();
 }
 
@@ -168,9 +168,9 @@ LayoutRule EntryField::layout() const {
 bool EntryField::layOut() {
     if (LoadingDepth_ != 0 || !Host_.container.hasSize()) return false;
     const DepthGuard guard(LoadingDepth_);
-    const FieldLayout places = layOutField(layout(), Host_.container.size(), Label1_->bounds().width);
+    const FieldLayout places = layOutField(layout(), Host_.container.size(), Label1_.bounds().width);
     Host_.container.setSize(places.control);
-    sizeCaption(*Label1_, places);
+    sizeCaption(Label1_, places);
     Active_->move(places.field);
     if (UpDown1_) UpDown1_->move(places.spinner);
     return true;
@@ -179,17 +179,17 @@ bool EntryField::layOut() {
 void EntryField::show() {
     Shown_ = true;
     if (Kind_.hasCaptionFont)
-        setCaptionFont(Host_, *Label1_);
+        setCaptionFont(Host_, Label1_);
     else
-        setFieldFont(Host_, *Label1_);
+        setFieldFont(Host_, Label1_);
     forEachBox([this](TextEntry& box) {
         setFieldFont(Host_, box);
         takeToolTip(Host_, box);
     });
 }
 
-WidgetSet EntryField::widgets() const {
-    return {.label = Label1_.get(), .field = Active_, .entry = Active_, .upDown = UpDown1_.get()};
+WidgetSet EntryField::widgets() {
+    return {.label = &Label1_, .field = Active_, .entry = Active_, .upDown = UpDown1_ ? &*UpDown1_ : nullptr};
 }
 
 // ---- Focus

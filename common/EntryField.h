@@ -1,7 +1,7 @@
 #pragma once
 
 #include <array>
-#include <memory>
+#include <optional>
 
 #include "common/FieldLayout.h"
 #include "common/FieldLook.h"
@@ -38,7 +38,7 @@ public:
     ControlHost& host() { return Host_; }
     const ControlHost& host() const { return Host_; }
     const RegionalSettings& region() const { return Host_.region; }
-    Label& label() const { return *Label1_; }
+    Label& label() { return Label1_; }
 
     /// A box of the control's, which owns it. The first is the one that shows; a further one takes over what is kept in
     /// the first, and waits.
@@ -48,7 +48,7 @@ public:
     void showActive();
     TextEntry& box() const { return *Active_; }
 
-    void addSpinner(UpDownListener& listener) { UpDown1_ = Host_.widgets.makeUpDown(listener); }
+    void addSpinner(UpDownListener& listener) { UpDown1_.emplace(Host_.widgets, listener); }
 
     /// Tells the container that the saved property which `Put` sets has been set.
     template <auto Put>
@@ -58,15 +58,15 @@ public:
 
     // ---- Members of the controls
 
-    const std::u16string& get_Caption() const { return Label1_->caption(); }
+    const std::u16string& get_Caption() const { return Label1_.caption(); }
     /// The caption that is there already reports nothing.
     void put_Caption(const std::u16string& caption);
-    std::int16_t get_CaptionWidth() const { return static_cast<std::int16_t>(Label1_->bounds().width); }
+    std::int16_t get_CaptionWidth() const { return static_cast<std::int16_t>(Label1_.bounds().width); }
     /// A negative width is ignored.
     void put_CaptionWidth(std::int16_t twips);
     bool get_Enabled() const { return Kind_.disablesContainer ? Host_.container.enabled() : Active_->enabled(); }
     void put_Enabled(bool enabled);
-    bool get_FontBold() const { return Label1_->fontBold(); }
+    bool get_FontBold() const { return Label1_.fontBold(); }
     void put_FontBold(bool bold);
     bool get_InsertMode() const { return InsertMode_; }
     void put_InsertMode(bool insert);
@@ -92,7 +92,7 @@ public:
     /// False where there is nothing to lay out: while properties are read, or before the control has a size.
     bool layOut();
     void show();
-    WidgetSet widgets() const;
+    WidgetSet widgets();
 
     // ---- State that a control sets without a report
 
@@ -100,7 +100,7 @@ public:
     void initMandatory(bool mandatory) { Mandatory_ = mandatory; }
     void initSelectOnFocus(bool select) { SelectOnFocus_ = select; }
     void initUpDown(bool shown);
-    void colorCaption() { Label1_->setForeColor(captionColor(Mandatory_)); }
+    void colorCaption() { Label1_.setForeColor(captionColor(Mandatory_)); }
 
     // ---- Focus
 
@@ -147,8 +147,8 @@ private:
     ControlHost Host_;
     EntryControl& Control_;
     const EntryKind& Kind_;
-    std::unique_ptr<Label> Label1_;
-    std::unique_ptr<UpDown> UpDown1_;
+    Label Label1_;
+    std::optional<UpDown> UpDown1_;
     std::array<TextEntry*, 2> Boxes_{};
     TextEntry* Active_ = nullptr;
     LayoutRule Layout_;

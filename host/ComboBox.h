@@ -46,6 +46,9 @@ public:
     /// Draws from now on, over the widget's own painting, a sunken frame and at its right end inside it the raised edge
     /// of a button, so many pixels wide. `buttonWidthPixels` is read at each painting and outlives the box.
     virtual void installFrame(const std::int16_t& buttonWidthPixels) = 0;
+
+protected:
+    using TextEntry::TextEntry;
 };
 
 /// What a combo box tells its control, as it happens. A handler may do anything to the widget, also move the focus

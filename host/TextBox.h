@@ -19,6 +19,9 @@ public:
     /// Shown in place of every character; 0 shows the text.
     virtual char32_t passwordChar() const = 0;
     virtual void setPasswordChar(char32_t character) = 0;
+
+protected:
+    using TextEntry::TextEntry;
 };
 
 /// What a text box tells its control, as it happens. A handler may do anything to the widget, also move the

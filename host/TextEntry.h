@@ -36,6 +36,9 @@ public:
     /// Binds typing and pasting, not `setText`; 0 is no limit.
     virtual std::int32_t maxLength() const = 0;
     virtual void setMaxLength(std::int32_t units) = 0;
+
+protected:
+    using FieldWidget::FieldWidget;
 };
 
 }  // namespace kel

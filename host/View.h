@@ -8,8 +8,11 @@
 
 namespace kel {
 
+class CheckBox;
 class FieldWidget;
+class Label;
 class PictureBox;
+class UpDown;
 
 /// What of a widget may look different from one moment to the next.
 enum class Change : std::uint16_t {
@@ -19,8 +22,11 @@ enum class Change : std::uint16_t {
     Colors = 1U << 3U,
     Font = 1U << 4U,
     ToolTip = 1U << 5U,
-    Picture = 1U << 6U,
-    Percent = 1U << 7U,
+    Caption = 1U << 6U,
+    Mnemonic = 1U << 7U,
+    Value = 1U << 8U,
+    Picture = 1U << 9U,
+    Percent = 1U << 10U,
 };
 
 class Changes {
@@ -73,6 +79,16 @@ class WidgetHost {
 public:
     /// nullptr where nobody looks.
     virtual std::unique_ptr<PictureView> makeView(PictureBox& /*box*/) { return nullptr; }
+    virtual std::unique_ptr<View> makeView(CheckBox& /*box*/) { return nullptr; }
+    virtual std::unique_ptr<View> makeView(UpDown& /*spinner*/) { return nullptr; }
+    virtual std::unique_ptr<View> makeView(Label& /*label*/) { return nullptr; }
+
+    /// The control is enabled and shown, so that its widgets take input.
+    virtual bool takesInput() const = 0;
+    /// By code; a field that takes none stays without it.
+    virtual void moveFocusTo(FieldWidget& field) = 0;
+    /// A field has been disabled or hidden, which is about to be seen: the focus goes on from it.
+    virtual void focusBarred(FieldWidget& field) = 0;
 
 protected:
     ~WidgetHost() = default;

@@ -2,11 +2,12 @@
 
 #include <memory>
 
-#include "host/CheckBox.h"
 #include "host/ComboBox.h"
 #include "host/TextBox.h"
-#include "host/UpDown.h"
+#include "host/widgets/CheckBox.h"
+#include "host/widgets/Label.h"
 #include "host/widgets/PictureBox.h"
+#include "host/widgets/UpDown.h"
 
 /// How a control comes by its child widgets.
 namespace kel {
@@ -14,11 +15,8 @@ namespace kel {
 /// Makes the child widgets of one control that its home implements itself. A listener outlives its widget.
 class WidgetFactory : public WidgetHost {
 public:
-    virtual std::unique_ptr<Label> makeLabel() = 0;
     virtual std::unique_ptr<TextBox> makeTextBox(TextBoxListener& listener, bool multiLine) = 0;
-    virtual std::unique_ptr<UpDown> makeUpDown(UpDownListener& listener) = 0;
     virtual std::unique_ptr<ComboBox> makeComboBox(ComboBoxListener& listener) = 0;
-    virtual std::unique_ptr<CheckBox> makeCheckBox(CheckBoxListener& listener) = 0;
 
 protected:
     ~WidgetFactory() = default;

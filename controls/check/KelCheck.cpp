@@ -11,13 +11,13 @@ constexpr std::int32_t BoxHeight = 240;
 
 }  // namespace
 
-KelCheck::KelCheck(ControlHost& host) : Host_(host), Check1_(host.widgets.makeCheckBox(*this)) {}
+KelCheck::KelCheck(ControlHost& host) : Host_(host), Check1_(host.widgets, *this) {}
 
 // ---- Properties
 
 void KelCheck::put_Caption(const std::u16string& caption) {
     if (get_Caption() == caption) return;
-    Check1_->setCaption(caption);
+    Check1_.setCaption(caption);
     report<&KelCheck::put_Caption>();
 }
 
@@ -36,13 +36,13 @@ void KelCheck::put_Locked(bool locked) {
 
 void KelCheck::applyEnabled() {
     Host_.container.setEnabled(Enabled_ && !Locked_);
-    Check1_->setEnabled(Enabled_);
+    Check1_.setEnabled(Enabled_);
 }
 
-void KelCheck::applyTextColor() { Check1_->setForeColor(Enabled_ ? captionColor(Mandatory_) : colors::SystemGrayText); }
+void KelCheck::applyTextColor() { Check1_.setForeColor(Enabled_ ? captionColor(Mandatory_) : colors::SystemGrayText); }
 
 void KelCheck::put_FontBold(bool bold) {
-    Check1_->setFontBold(bold);
+    Check1_.setFontBold(bold);
     report<&KelCheck::put_FontBold>();
 }
 
@@ -53,14 +53,14 @@ void KelCheck::put_Mandatory(bool mandatory) {
 }
 
 void KelCheck::TooltipSet(const std::u16string& tooltip) {
-    Check1_->setToolTip(tooltip);
+    Check1_.setToolTip(tooltip);
     Host_.container.setToolTipText(tooltip);
 }
 
 void KelCheck::put_Value(bool value) {
     {
         const DepthGuard guard(EventDepth_);
-        Check1_->setValue(value ? CheckBox::Checked : CheckBox::Unchecked);
+        Check1_.setValue(value ? CheckBox::Checked : CheckBox::Unchecked);
     }
     ValueOriginal_ = value;
     report<&KelCheck::put_Value>();
@@ -68,7 +68,7 @@ void KelCheck::put_Value(bool value) {
 
 // ---- The container
 
-void KelCheck::InitProperties() { Check1_->setCaption(Host_.container.displayName()); }
+void KelCheck::InitProperties() { Check1_.setCaption(Host_.container.displayName()); }
 
 void KelCheck::ReadProperties(PropertyBag& bag) { readPersisted(Host_, *this, bag); }
 
@@ -79,12 +79,12 @@ void KelCheck::Resize() {
     const DepthGuard guard(LayoutDepth_);
     Host_.container.setSize({Host_.container.size().width, FieldHeight});
     const Size size = Host_.container.size();
-    Check1_->move({0, (size.height - BoxHeight) / 2, size.width, BoxHeight});
+    Check1_.move({0, (size.height - BoxHeight) / 2, size.width, BoxHeight});
 }
 
 void KelCheck::Show() {
-    setFieldFont(Host_, *Check1_);
-    takeToolTip(Host_, *Check1_);
+    setFieldFont(Host_, Check1_);
+    takeToolTip(Host_, Check1_);
 }
 
 // ---- The check box

@@ -12,25 +12,25 @@ public:
 
     explicit KelCheck(ControlHost& host);
 
-    const std::u16string& get_Caption() const { return Check1_->caption(); }
+    const std::u16string& get_Caption() const { return Check1_.caption(); }
     /// The caption that is there already reports nothing.
     void put_Caption(const std::u16string& caption);
     bool get_Changed() const { return get_Value() != ValueOriginal_; }
     bool get_ChangedSaved() const { return get_Value() != ValueSaved_; }
     bool get_Enabled() const { return Enabled_; }
     void put_Enabled(bool enabled);
-    bool get_FontBold() const { return Check1_->fontBold(); }
+    bool get_FontBold() const { return Check1_.fontBold(); }
     void put_FontBold(bool bold);
     bool get_Locked() const { return Locked_; }
     /// A locked box is drawn as it was, and takes neither clicks nor keys.
     void put_Locked(bool locked);
     bool get_Mandatory() const { return Mandatory_; }
     void put_Mandatory(bool mandatory);
-    void Refresh() { Check1_->refresh(); }
+    void Refresh() { Check1_.refresh(); }
     void TooltipSet(const std::u16string& tooltip);
     bool get_Valid() const { return true; }
     /// Neither an unchecked nor a grey box is true.
-    bool get_Value() const { return Check1_->value() == CheckBox::Checked; }
+    bool get_Value() const { return Check1_.value() == CheckBox::Checked; }
     /// Raises no `Change`.
     void put_Value(bool value);
     bool get_ValueOriginal() const { return ValueOriginal_; }
@@ -39,8 +39,8 @@ public:
     void put_ValueSaved(bool value) { ValueSaved_ = value; }
 
     /// As a form file has them, without a report.
-    void loadCaption(const std::u16string& caption) { Check1_->setCaption(caption); }
-    void loadFontBold(bool bold) { Check1_->setFontBold(bold); }
+    void loadCaption(const std::u16string& caption) { Check1_.setCaption(caption); }
+    void loadFontBold(bool bold) { Check1_.setFontBold(bold); }
 
     const ClassModel& model() const override;
     void InitProperties() override;
@@ -50,7 +50,7 @@ public:
     void Show() override;
     void EnterFocus() override { ValueOriginal_ = get_Value(); }
     void ExitFocus() override {}
-    WidgetSet widgets() override { return {.field = Check1_.get(), .checkBox = Check1_.get()}; }
+    WidgetSet widgets() override { return {.field = &Check1_, .checkBox = &Check1_}; }
 
 private:
     void Check1_Click() override;
@@ -64,7 +64,7 @@ private:
     }
 
     ControlHost Host_;
-    std::unique_ptr<CheckBox> Check1_;
+    CheckBox Check1_;
 
     bool Mandatory_ = true;
     bool Enabled_ = true;

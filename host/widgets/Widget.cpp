@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "host/focus/Mnemonic.h"
+
 namespace kel {
 
 void Widget::changed(Changes changes) {
@@ -12,7 +14,12 @@ void Widget::changed(Changes changes) {
 
 void Widget::move(const Rect& bounds) { change(Bounds_, bounds, Change::Place); }
 
-void Widget::setEnabled(bool enabled) { change(Enabled_, enabled, Change::Enabled); }
+void Widget::setEnabled(bool enabled) {
+    if (enabled == Enabled_) return;
+    Enabled_ = enabled;
+    if (!enabled) barred();
+    changed(Change::Enabled);
+}
 
 void TextualWidget::setFont(std::u16string_view name, double size) {
     if (name == Font_.name && size == Font_.size) return;
@@ -21,8 +28,22 @@ void TextualWidget::setFont(std::u16string_view name, double size) {
     changed(Change::Font);
 }
 
+void TextualWidget::changeCaption(std::u16string& kept, std::u16string_view caption) {
+    if (caption == kept) return;
+    const bool keepsMnemonic = mnemonicIn(caption) == mnemonicIn(kept);
+    kept.assign(caption);
+    changed(keepsMnemonic ? Changes(Change::Caption) : Change::Caption | Change::Mnemonic);
+}
+
 void TextualWidget::refresh() {
     if (View* const seen = view()) seen->paintAgain();
+}
+
+void FieldWidget::setVisible(bool visible) {
+    if (visible == Visible_) return;
+    Visible_ = visible;
+    if (!visible) barred();
+    changed(Change::Visible);
 }
 
 Size TextualWidget::extentUnseen(std::size_t characters) const {

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <utility>
 
+#include "host/Keys.h"
 #include "host/View.h"
 #include "values/Color.h"
 
@@ -43,6 +44,9 @@ protected:
     }
 
 private:
+    /// It takes no input any longer, before that is seen.
+    virtual void barred() {}
+
     Rect Bounds_;
     bool Enabled_ = true;
     Changes Changes_;
@@ -80,6 +84,8 @@ public:
 protected:
     explicit TextualWidget(Color foreColor = colors::SystemWindowText) : ForeColor_(foreColor) {}
 
+    void changeCaption(std::u16string& kept, std::u16string_view caption);
+
     /// Of so many characters in one line, where no view can measure them: all are alike, and there is a gap between
     /// lines.
     Size extentUnseen(std::size_t characters) const;
@@ -89,25 +95,56 @@ private:
     Color ForeColor_;
 };
 
-class Label : public TextualWidget {
-public:
-    virtual const std::u16string& caption() const = 0;
-    virtual void setCaption(std::u16string_view caption) = 0;
-};
-
 /// A widget that takes the focus and is coloured by the field's state.
 class FieldWidget : public TextualWidget {
 public:
-    virtual bool visible() const = 0;
-    virtual void setVisible(bool visible) = 0;
+    virtual bool visible() const { return Visible_; }
+    virtual void setVisible(bool visible);
 
-    virtual Color backColor() const = 0;
-    virtual void setBackColor(Color color) = 0;
+    virtual Color backColor() const { return BackColor_; }
+    virtual void setBackColor(Color color) { change(BackColor_, color, Change::Colors); }
 
-    virtual std::u16string toolTip() const = 0;
-    virtual void setToolTip(std::u16string_view text) = 0;
+    virtual std::u16string toolTip() const { return ToolTip_; }
+    virtual void setToolTip(std::u16string_view text) { change(ToolTip_, text, Change::ToolTip); }
 
-    virtual void setFocus() = 0;
+    virtual void setFocus() { Host_->moveFocusTo(*this); }
+
+    /// Enabled and shown, its control as well.
+    virtual bool takesInput() const { return enabled() && visible() && Host_->takesInput(); }
+
+    /// Where it stands. None for the widgets that a home with views still implements itself.
+    WidgetHost& host() const { return *Host_; }
+
+    // ---- What its home tells
+
+    virtual void gotFocus() {}
+    virtual void lostFocus() {}
+
+    // ---- What a person does where there is no view
+
+    virtual void strike(const KeyStroke& /*stroke*/) {}
+    /// The left mouse button, pressed and released; `position` in the text, if it has one, may be past either end.
+    virtual void click(std::int32_t /*position*/) {}
+    virtual void rightClick() {}
+    /// A mouse button goes down anywhere in the window, before what it is meant for hears of it.
+    virtual void pressedAnywhere() {}
+    /// The wheel, over the widget that has the focus.
+    virtual void turnWheel(std::int32_t /*notches*/) {}
+    /// Text dragged from elsewhere, when the widget has taken the focus; `position` as for a click.
+    virtual void drop(std::int32_t /*position*/, std::u16string_view /*text*/) {}
+
+protected:
+    FieldWidget() = default;
+    explicit FieldWidget(WidgetHost& host, Color backColor = colors::SystemWindow)
+        : Host_(&host), BackColor_(backColor) {}
+
+private:
+    void barred() override { Host_->focusBarred(*this); }
+
+    WidgetHost* Host_ = nullptr;
+    std::u16string ToolTip_;
+    Color BackColor_ = colors::SystemWindow;
+    bool Visible_ = true;
 };
 
 }  // namespace kel

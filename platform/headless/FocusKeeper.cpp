@@ -6,7 +6,13 @@
 
 namespace kel::headless {
 
-void FocusKeeper::moveTo(FocusTarget& target) {
+namespace {
+
+Seat& seatOf(const FieldWidget& field) { return static_cast<PlacedHeadlessControl&>(field.host()).seat(); }
+
+}  // namespace
+
+void FocusKeeper::moveTo(FieldWidget& target) {
     if (target.takesInput() && &target != Holder_) move(&target);
 }
 
@@ -16,29 +22,26 @@ void FocusKeeper::moveTo(TabStop* stop, bool byTab) {
 }
 
 void FocusKeeper::moveByTab(bool back) {
-    const TabStop* const from = Holder_ != nullptr ? &Holder_->seat().owner : nullptr;
+    const TabStop* const from = Holder_ != nullptr ? &seatOf(*Holder_).owner : nullptr;
     if (TabStop* const next = Order_.next(from, back)) moveTo(next, true);
 }
 
 /// Also from where it was just about to come.
 void FocusKeeper::recheck() {
-    const FocusTarget* const barred = Holder_ != nullptr ? Holder_ : Target_;
+    const FieldWidget* const barred = Holder_ != nullptr ? Holder_ : Target_;
     if (barred == nullptr || barred->takesInput()) return;
-    TabStop& stop = barred->seat().owner;
+    TabStop& stop = seatOf(*barred).owner;
     TabStop* const next = Order_.afterBarred(stop);
     moveTo(next, next != &stop);
 }
 
-void FocusKeeper::forget(const FocusTarget& target) {
-    if (Holder_ == &target) Holder_ = nullptr;
-    if (Target_ == &target) Target_ = nullptr;
-}
-
 void FocusKeeper::forget(const Seat& seat) {
+    if (Holder_ != nullptr && &seatOf(*Holder_) == &seat) Holder_ = nullptr;
+    if (Target_ != nullptr && &seatOf(*Target_) == &seat) Target_ = nullptr;
     if (Entered_ == &seat) Entered_ = nullptr;
 }
 
-void FocusKeeper::move(FocusTarget* target) {
+void FocusKeeper::move(FieldWidget* target) {
     const std::uint32_t turn = ++Turn_;
     Target_ = target;
     if (!leaveHolder(turn) || !leaveSeat(turn) || !enterSeat(turn)) return;
@@ -53,7 +56,7 @@ void FocusKeeper::move(FocusTarget* target) {
 
 /// Where the focus goes, if it can still go there.
 Seat* FocusKeeper::destination() const {
-    return Target_ != nullptr && Target_->takesInput() ? &Target_->seat() : nullptr;
+    return Target_ != nullptr && Target_->takesInput() ? &seatOf(*Target_) : nullptr;
 }
 
 // Each step returns false when somebody it told has moved the focus.

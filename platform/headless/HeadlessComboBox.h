@@ -6,11 +6,11 @@
 namespace kel::headless {
 
 /// A combo box in memory. Nobody sees its frame.
-class HeadlessComboBox final : public HeadlessEdited<EditedComboBox<HeadlessField<ComboBox>>, ComboSurroundings> {
+class HeadlessComboBox final : public HeadlessEdited<EditedComboBox<ComboBox>, ComboSurroundings> {
 public:
-    HeadlessComboBox(Seat& seat, ComboBoxListener& listener) : HeadlessEdited(listener, *this, seat) {}
+    HeadlessComboBox(WidgetHost& host, ComboBoxListener& listener) : HeadlessEdited(listener, *this, host) {}
 
-    void mousePressed() override { showDropDown(false); }
+    void pressedAnywhere() override { showDropDown(false); }
 
     /// The mouse opens the list and clicks this item. The box has the focus.
     void pick(std::int32_t item) {

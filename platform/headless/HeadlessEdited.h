@@ -3,12 +3,12 @@
 #include <algorithm>
 
 #include "host/editing/TextBoxEditor.h"
-#include "platform/headless/HeadlessWidgets.h"
+#include "platform/headless/PlacedHeadlessControl.h"
 
 namespace kel::headless {
 
-/// What every widget keeps whose text is edited in memory. `Edited` is the part that is the same on every home, over a
-/// `HeadlessField`; `Surroundings` is what its editor wants around it.
+/// What every widget keeps whose text is edited in memory. `Edited` is the part that is the same on every home;
+/// `Surroundings` is what its editor wants around it.
 template <class Edited, class Surroundings>
 class HeadlessEdited : public Edited, protected Surroundings {
 public:
@@ -35,10 +35,12 @@ protected:
     virtual TextBoxEditor& edit() = 0;
 
 private:
+    Input& input() { return static_cast<PlacedHeadlessControl&>(this->host()).seat().input; }
+
     bool takesInput() const override { return Edited::takesInput(); }
     void bufferChanged() override {}
-    std::u16string clipboardText() override { return this->seat().input.Clipboard; }
-    void setClipboardText(std::u16string_view text) override { this->seat().input.Clipboard.assign(text); }
+    std::u16string clipboardText() override { return input().Clipboard; }
+    void setClipboardText(std::u16string_view text) override { input().Clipboard.assign(text); }
     std::ptrdiff_t linesOfPage() const override {
         return std::max<std::ptrdiff_t>(this->bounds().height / this->extentUnseen(0).height, 1);
     }

@@ -1,7 +1,6 @@
 #include "platform/headless/HeadlessHome.h"
 
 #include "host/LocalClock.h"
-#include "platform/headless/HeadlessWidgets.h"
 #include "platform/headless/HeadlessWindow.h"
 #include "platform/headless/Input.h"
 #include "runtime/KelRuntime.h"
@@ -13,6 +12,7 @@ namespace {
 constexpr std::int32_t UsualTwipsPerPixel = 15;
 constexpr std::int32_t UsualColorDepth = 24;
 constexpr std::u16string_view FontName = u"Sans";
+constexpr double FontSize = 8;  // points
 
 class HeadlessSystem final : public System {
 public:
@@ -41,7 +41,7 @@ public:
 
     std::int32_t colorDepth() const override { return ColorDepth_; }
     const RegionalSettings& region() const override { return Region_; }
-    FontChoice captionFont() const override { return {std::u16string(FontName), NewFontSize}; }
+    FontChoice captionFont() const override { return {std::u16string(FontName), FontSize}; }
     FontChoice fieldFont() const override { return captionFont(); }
     void sendKey(std::int16_t keyCode) override { Input_.send(keyCode); }
 

@@ -6,10 +6,10 @@
 namespace kel::headless {
 
 /// An edit box in memory.
-class HeadlessTextBox final : public HeadlessEdited<EditedTextBox<HeadlessField<TextBox>>, EditSurroundings> {
+class HeadlessTextBox final : public HeadlessEdited<EditedTextBox<TextBox>, EditSurroundings> {
 public:
-    HeadlessTextBox(Seat& seat, TextBoxListener& listener, bool multiLine)
-        : HeadlessEdited(listener, *this, multiLine, seat) {}
+    HeadlessTextBox(WidgetHost& host, TextBoxListener& listener, bool multiLine)
+        : HeadlessEdited(listener, *this, multiLine, host) {}
 
 private:
     TextBoxEditor& edit() override { return Editor_; }

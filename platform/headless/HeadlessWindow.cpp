@@ -67,7 +67,7 @@ void HeadlessWindow::press(const KeyStroke& stroke) {
 
 void HeadlessWindow::focus(PlacedControl& control) {
     byHand([&] {
-        FocusTarget* const target = placedHere(control).focusTarget();
+        FieldWidget* const target = placedHere(control).focusTarget();
         if (target == nullptr) return;
         const Input::TabKey released(Input_, false);
         Focus_.moveTo(*target);
@@ -75,28 +75,28 @@ void HeadlessWindow::focus(PlacedControl& control) {
 }
 
 void HeadlessWindow::click(PlacedControl& control, std::int32_t position) {
-    byMouseInField(control, [position](FocusTarget& field) { field.click(position); });
+    byMouseInField(control, [position](FieldWidget& field) { field.click(position); });
 }
 
 void HeadlessWindow::rightClick(PlacedControl& control) {
-    byMouseInField(control, [](FocusTarget& field) { field.rightClick(); });
+    byMouseInField(control, [](FieldWidget& field) { field.rightClick(); });
 }
 
 void HeadlessWindow::spin(PlacedControl& control, bool up) {
     byMouse([&] {
-        if (HeadlessUpDown* const spinner = placedHere(control).spinner()) spinner->click(up);
+        if (UpDown* const spinner = control.control().widgets().upDown) spinner->press(up);
     });
 }
 
 void HeadlessWindow::pick(PlacedControl& control, std::int32_t item) {
-    byMouseInField(control, [&](FocusTarget& field) {
+    byMouseInField(control, [&](FieldWidget& field) {
         if (&field == Focus_.holder()) placedHere(control).comboBox()->pick(item);
     });
 }
 
 void HeadlessWindow::turnWheel(PlacedControl& control, std::int32_t notches) {
     Input_.run([&] {
-        FocusTarget* const target = placedHere(control).focusTarget();
+        FieldWidget* const target = placedHere(control).focusTarget();
         if (target != nullptr && target == Focus_.holder()) target->turnWheel(notches);
     });
 }
@@ -104,17 +104,19 @@ void HeadlessWindow::turnWheel(PlacedControl& control, std::int32_t notches) {
 void HeadlessWindow::drop(PlacedControl& control, std::int32_t position, std::u16string_view text) {
     const TextEntry* const box = control.control().widgets().entry;
     if (box == nullptr || box->locked()) return;
-    byMouseInField(control, [&](FocusTarget& field) { field.drop(position, text); });
+    byMouseInField(control, [&](FieldWidget& field) { field.drop(position, text); });
 }
 
-PlacedControl* HeadlessWindow::focused() const {
-    return Focus_.holder() != nullptr ? &Focus_.holder()->seat().owner : nullptr;
+PlacedControl* HeadlessWindow::focused() const { return placedWithFocus(); }
+
+PlacedHeadlessControl* HeadlessWindow::placedWithFocus() const {
+    return Focus_.holder() != nullptr ? static_cast<PlacedHeadlessControl*>(&Focus_.holder()->host()) : nullptr;
 }
 
 /// Also where the focus has nowhere to go and stays.
 void HeadlessWindow::closeList() {
-    HeadlessComboBox* const box = Focus_.holder() != nullptr ? Focus_.holder()->seat().owner.comboBox() : nullptr;
-    if (box != nullptr) box->showDropDown(false);
+    const PlacedHeadlessControl* const holder = placedWithFocus();
+    if (HeadlessComboBox* const box = holder != nullptr ? holder->comboBox() : nullptr) box->showDropDown(false);
 }
 
 }  // namespace kel::headless

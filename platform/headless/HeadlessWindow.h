@@ -38,6 +38,7 @@ public:
     void drop(PlacedControl& control, std::int32_t position, std::u16string_view text);
 
 private:
+    PlacedHeadlessControl* placedWithFocus() const;
     void closeList();
 
     /// Runs what a person does here, on the window that then has the keyboard.
@@ -50,7 +51,7 @@ private:
     template <class Action>
     void byMouse(Action action) {
         byHand([&] {
-            if (Focus_.holder() != nullptr) Focus_.holder()->mousePressed();
+            if (Focus_.holder() != nullptr) Focus_.holder()->pressedAnywhere();
             action();
         });
     }
@@ -60,7 +61,7 @@ private:
     void byMouseInField(PlacedControl& control, Action action) {
         byMouse([&] {
             focus(control);
-            if (FocusTarget* const target = placedHere(control).focusTarget()) action(*target);
+            if (FieldWidget* const target = placedHere(control).focusTarget()) action(*target);
         });
     }
 

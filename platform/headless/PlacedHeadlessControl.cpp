@@ -1,6 +1,5 @@
 #include "platform/headless/PlacedHeadlessControl.h"
 
-#include "platform/headless/HeadlessCheckBox.h"
 #include "platform/headless/HeadlessComboBox.h"
 #include "platform/headless/HeadlessTextBox.h"
 
@@ -42,8 +41,8 @@ void PlacedHeadlessControl::setEnabled(bool enabled) {
     Seat_.focus.recheck();
 }
 
-FocusTarget* PlacedHeadlessControl::focusTarget() const {
-    auto* const target = dynamic_cast<FocusTarget*>(Control_->widgets().field);
+FieldWidget* PlacedHeadlessControl::focusTarget() const {
+    FieldWidget* const target = Control_->widgets().field;
     return target != nullptr && target->takesInput() ? target : nullptr;
 }
 
@@ -51,26 +50,12 @@ HeadlessComboBox* PlacedHeadlessControl::comboBox() const {
     return static_cast<HeadlessComboBox*>(Control_->widgets().comboBox);
 }
 
-HeadlessUpDown* PlacedHeadlessControl::spinner() const {
-    return static_cast<HeadlessUpDown*>(Control_->widgets().upDown);
-}
-
-std::unique_ptr<Label> PlacedHeadlessControl::makeLabel() { return std::make_unique<HeadlessLabel>(); }
-
 std::unique_ptr<TextBox> PlacedHeadlessControl::makeTextBox(TextBoxListener& listener, bool multiLine) {
-    return std::make_unique<HeadlessTextBox>(Seat_, listener, multiLine);
-}
-
-std::unique_ptr<UpDown> PlacedHeadlessControl::makeUpDown(UpDownListener& listener) {
-    return std::make_unique<HeadlessUpDown>(Seat_, listener);
-}
-
-std::unique_ptr<CheckBox> PlacedHeadlessControl::makeCheckBox(CheckBoxListener& listener) {
-    return std::make_unique<HeadlessCheckBox>(Seat_, listener);
+    return std::make_unique<HeadlessTextBox>(*this, listener, multiLine);
 }
 
 std::unique_ptr<ComboBox> PlacedHeadlessControl::makeComboBox(ComboBoxListener& listener) {
-    return std::make_unique<HeadlessComboBox>(Seat_, listener);
+    return std::make_unique<HeadlessComboBox>(*this, listener);
 }
 
 }  // namespace kel::headless

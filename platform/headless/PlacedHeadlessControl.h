@@ -12,7 +12,6 @@
 namespace kel::headless {
 
 class HeadlessComboBox;
-class HeadlessUpDown;
 
 /// What the controls of one window have in common.
 struct WindowServices {
@@ -24,7 +23,7 @@ struct WindowServices {
 };
 
 /// A control with everything it stands on: its place on the form, its container, the maker of its widgets.
-class PlacedHeadlessControl final : public PlacedControl, public TabStop, private Container, private WidgetFactory {
+class PlacedHeadlessControl final : public PlacedControl, public TabStop, public WidgetFactory, private Container {
 public:
     /// `order` counts the controls placed before.
     PlacedHeadlessControl(const ClassModel& model, const Placement& placement, std::size_t order,
@@ -42,13 +41,18 @@ public:
     bool takesFocus() const override { return focusTarget() != nullptr; }
 
     /// The widget that has the focus or would take it; nullptr while the control takes none.
-    FocusTarget* focusTarget() const;
+    FieldWidget* focusTarget() const;
 
     /// nullptr where the control has none.
-    HeadlessUpDown* spinner() const;
     HeadlessComboBox* comboBox() const;
 
+    Seat& seat() { return Seat_; }
+
 private:
+    bool takesInput() const override { return Seat_.takesInput(); }
+    void moveFocusTo(FieldWidget& field) override { Seat_.focus.moveTo(field); }
+    void focusBarred(FieldWidget& /*field*/) override { Seat_.focus.recheck(); }
+
     bool hasSize() const override { return Sized_; }
     Size size() const override { return {Bounds_.width, Bounds_.height}; }
     void setSize(Size size) override;
@@ -61,10 +65,7 @@ private:
         Observer_.controlEvent(*this, event, arguments);
     }
 
-    std::unique_ptr<Label> makeLabel() override;
     std::unique_ptr<TextBox> makeTextBox(TextBoxListener& listener, bool multiLine) override;
-    std::unique_ptr<UpDown> makeUpDown(UpDownListener& listener) override;
-    std::unique_ptr<CheckBox> makeCheckBox(CheckBoxListener& listener) override;
     std::unique_ptr<ComboBox> makeComboBox(ComboBoxListener& listener) override;
 
     ControlObserver& Observer_;

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
+#include <utility>
 
 #include "common/FieldLayout.h"
 #include "platform/qt/ControlSite.h"
@@ -12,79 +13,53 @@
 
 namespace kel::qt {
 
-CaptionLabel::CaptionLabel(ControlSite& site) : Site_(site) { Site_.setLabel(this); }
+namespace {
 
-CaptionLabel::~CaptionLabel() { Site_.setLabel(nullptr); }
-
-void CaptionLabel::move(const Rect& bounds) {
-    if (bounds == Bounds_) return;
-    const bool widthChanges = bounds.width != Bounds_.width;
-    Bounds_ = bounds;
-    if (widthChanges) Site_.widget().updateGeometry();
-    refresh();
-}
-
-void CaptionLabel::setEnabled(bool enabled) {
-    if (enabled == Enabled_) return;
-    Enabled_ = enabled;
-    refresh();
-}
-
-void CaptionLabel::setForeColor(Color color) {
-    if (color == ForeColor_) return;
-    ForeColor_ = color;
-    refresh();
-}
-
-QFont CaptionLabel::font() const { return Font_ ? *Font_ : Site_.widget().font(); }
-
-void CaptionLabel::setFont(std::u16string_view name, double size) {
-    Font_ = fontLike(font(), name, size);
-    refresh();
-}
-
-void CaptionLabel::setFontBold(bool bold) {
-    QFont changed = font();
-    changed.setBold(bold);
-    Font_ = changed;
-    refresh();
-}
-
-void CaptionLabel::refresh() { Site_.widget().update(); }
-
-void CaptionLabel::setCaption(std::u16string_view caption) {
-    const QString spokenBefore = spokenCaption();
-    Caption_.assign(caption);
-    Site_.captionChanged(spokenBefore);
-    refresh();
-}
-
-QString CaptionLabel::spokenCaption() const {
-    if (Caption_.find(u'&') == std::u16string::npos) return toQString(Caption_);
+/// A mark that stands behind a mark is read out.
+QString spokenOf(std::u16string_view caption) {
+    if (caption.find(u'&') == caption.npos) return toQString(caption);
     QString spoken;
     bool marks = false;
-    for (const char16_t unit : Caption_) {
+    for (const char16_t unit : caption) {
         marks = !marks && unit == u'&';
         if (!marks) spoken += QChar(unit);
     }
     return spoken;
 }
 
+}  // namespace
+
+CaptionLabel::CaptionLabel(ControlSite& site, Label& label) : Site_(site), Label_(label) { Site_.setLabel(this); }
+
+CaptionLabel::~CaptionLabel() { Site_.setLabel(nullptr); }
+
+void CaptionLabel::outOfDate() {
+    const Changes changes = Label_.takeChanges();
+    const std::int32_t width = Label_.bounds().width;
+    if (std::exchange(Width_, width) != width) Site_.widget().updateGeometry();
+    if (changes.has(Change::Font)) Font_ = fontOf(Font_.value_or(Site_.widget().font()), Label_.font());
+    if (changes.has(Change::Caption)) Site_.captionChanged(std::exchange(Spoken_, spokenOf(Label_.caption())));
+    paintAgain();
+}
+
+void CaptionLabel::paintAgain() { Site_.widget().update(); }
+
 void CaptionLabel::paint(QPainter& painter, int baseline) const {
-    if (Caption_.empty() || Bounds_.width <= 0) return;
+    const Rect bounds = Label_.bounds();
+    if (Label_.caption().empty() || bounds.width <= 0) return;
     const QWidget& widget = Site_.widget();
     const QStyle& style = *widget.style();
     QStyleOption option;
     option.initFrom(&widget);
-    const bool enabled = Enabled_ && widget.isEnabled();
-    const bool severalLines = Bounds_.height > CaptionHeight;
+    const bool enabled = Label_.enabled() && widget.isEnabled();
+    const bool severalLines = bounds.height > CaptionHeight;
 
-    QRect area = Site_.pixelRect(Bounds_);
+    QRect area = Site_.pixelRect(bounds);
     area.setTop(0);
     area.setBottom(widget.height() - 1);
     painter.setClipRect(area);
-    painter.setFont(font());
-    painter.setPen(enabled ? captionColorOn(option.palette, ForeColor_) : disabledCaptionColor(option.palette));
+    painter.setFont(Font_.value_or(widget.font()));
+    painter.setPen(enabled ? captionColorOn(option.palette, Label_.foreColor()) : disabledCaptionColor(option.palette));
 
     const bool underlines = style.styleHint(QStyle::SH_UnderlineShortcut, &option, &widget) != 0;
     const Qt::Alignment alignment = QStyle::visualAlignment(widget.layoutDirection(), Qt::AlignLeft) | Qt::AlignTop;
@@ -92,7 +67,7 @@ void CaptionLabel::paint(QPainter& painter, int baseline) const {
     flags |= underlines ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
     flags |= severalLines ? Qt::TextWordWrap : Qt::TextSingleLine;
     area.setTop(baseline - painter.fontMetrics().ascent());
-    style.drawItemText(&painter, area, flags, option.palette, enabled, toQString(Caption_));
+    style.drawItemText(&painter, area, flags, option.palette, enabled, toQString(Label_.caption()));
 }
 
 }  // namespace kel::qt

@@ -8,7 +8,8 @@
 
 namespace kel::qt {
 
-ChildField::ChildField(ControlSite& site, QWidget& widget, FieldWidget& shown) : ChildWidget(site, widget, shown) {
+ChildField::ChildField(ControlSite& site, QWidget& widget, FieldWidget& shown)
+    : ChildWidget(site, widget, shown), Shown_(shown) {
     site.addField(*this);
 }
 

@@ -1,10 +1,7 @@
 #pragma once
 
+#include "host/widgets/Widget.h"
 #include "platform/qt/ChildWidget.h"
-
-namespace kel {
-class FieldWidget;
-}
 
 namespace kel::qt {
 
@@ -13,6 +10,8 @@ class ChildField : public ChildWidget {
 public:
     ChildField(ControlSite& site, QWidget& widget, FieldWidget& shown);
     ~ChildField() override;
+
+    FieldWidget& shown() const { return Shown_; }
 
     /// Enabled and shown, with all around it.
     bool takesFocus() const;
@@ -32,6 +31,9 @@ public:
     virtual int baseline() const = 0;
     /// How wide it is best, to show about so many characters. In pixels.
     virtual int widthFor(int characters) const;
+
+private:
+    FieldWidget& Shown_;
 };
 
 }  // namespace kel::qt

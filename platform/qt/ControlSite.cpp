@@ -10,6 +10,7 @@
 #include "platform/qt/CaptionLabel.h"
 #include "platform/qt/ChildField.h"
 #include "platform/qt/FocusTracker.h"
+#include "platform/qt/FocusWay.h"
 #include "platform/qt/KelControlWidget.h"
 #include "platform/qt/QtCheckBox.h"
 #include "platform/qt/QtComboBox.h"
@@ -108,7 +109,7 @@ void ControlSite::mirrored() {
 
 QSize ControlSite::sizeHint(int characters) const {
     const bool isTall = Active_ != nullptr && Active_->isTall();
-    const int caption = Label_ != nullptr ? Grid_.pixel(Label_->bounds().width) : 0;
+    const int caption = Label_ != nullptr ? Grid_.pixel(Label_->shown().bounds().width) : 0;
     const UpDown* const upDown = Control_->widgets().upDown;
     const int spinner = upDown != nullptr && upDown->visible() ? Grid_.pixel(upDown->bounds().width) : 0;
     const int field =
@@ -161,7 +162,7 @@ void ControlSite::toolTipChanged() {
     // Before it shows, the control takes the tooltip over by itself.
     if (!Shown_) return;
     const QString text = Widget_->toolTip();
-    for (const ChildField* const field : Fields_) setWidgetToolTip(field->widget(), viewOf(text));
+    for (ChildField* const field : Fields_) field->shown().setToolTip(viewOf(text));
     if (PictureBox* const picture = Control_->widgets().picture) picture->setToolTip(viewOf(text));
 }
 
@@ -187,7 +188,19 @@ std::unique_ptr<PictureView> ControlSite::makeView(PictureBox& box) {
     return std::make_unique<QtPictureBox>(*this, box, *Widget_);
 }
 
-std::unique_ptr<Label> ControlSite::makeLabel() { return std::make_unique<CaptionLabel>(*this); }
+std::unique_ptr<View> ControlSite::makeView(CheckBox& box) {
+    return std::make_unique<QtCheckBox>(*this, box, *Widget_);
+}
+
+std::unique_ptr<View> ControlSite::makeView(UpDown& spinner) {
+    return std::make_unique<QtUpDown>(*this, spinner, *Widget_);
+}
+
+std::unique_ptr<View> ControlSite::makeView(Label& label) { return std::make_unique<CaptionLabel>(*this, label); }
+
+void ControlSite::moveFocusTo(FieldWidget& field) { focusWidget(dynamic_cast<ChildField&>(*field.view()).widget()); }
+
+void ControlSite::focusBarred(FieldWidget& field) { dynamic_cast<ChildField&>(*field.view()).giveUpFocus(); }
 
 std::unique_ptr<TextBox> ControlSite::makeTextBox(TextBoxListener& listener, bool multiLine) {
     if (!multiLine) return std::make_unique<QtLineBox>(*this, listener, *Widget_);
@@ -195,14 +208,6 @@ std::unique_ptr<TextBox> ControlSite::makeTextBox(TextBoxListener& listener, boo
     // Shown as every new box, but not yet in the other one's place: few controls show both.
     if (Widget_->isVisible()) box->QPlainTextEdit::setVisible(true);
     return box;
-}
-
-std::unique_ptr<UpDown> ControlSite::makeUpDown(UpDownListener& listener) {
-    return std::make_unique<QtUpDown>(*this, listener, *Widget_);
-}
-
-std::unique_ptr<CheckBox> ControlSite::makeCheckBox(CheckBoxListener& listener) {
-    return std::make_unique<QtCheckBox>(*this, listener, *Widget_);
 }
 
 std::unique_ptr<ComboBox> ControlSite::makeComboBox(ComboBoxListener& listener) {
@@ -277,8 +282,8 @@ void ControlSite::captionChanged(const QString& spokenBefore) {
 
     if (Mnemonic_ != 0) Widget_->releaseShortcut(Mnemonic_);
     Mnemonic_ = 0;
-    if (Label_->caption().find(u'&') == std::u16string::npos) return;
-    const QKeySequence key = QKeySequence::mnemonic(toQString(Label_->caption()));
+    if (Label_->shown().caption().find(u'&') == std::u16string::npos) return;
+    const QKeySequence key = QKeySequence::mnemonic(toQString(Label_->shown().caption()));
     if (!key.isEmpty()) Mnemonic_ = Widget_->grabShortcut(key);
 }
 

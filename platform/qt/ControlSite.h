@@ -3,6 +3,7 @@
 #include <memory>
 #include <QPoint>
 #include <QRect>
+#include <QWidget>
 #include <vector>
 
 #include "host/Container.h"
@@ -13,7 +14,6 @@
 
 class QKeySequence;
 class QPainter;
-class QWidget;
 
 namespace kel::qt {
 
@@ -62,10 +62,13 @@ public:
     void setToolTipText(std::u16string_view text) override;
 
     std::unique_ptr<PictureView> makeView(PictureBox& box) override;
-    std::unique_ptr<Label> makeLabel() override;
+    std::unique_ptr<View> makeView(CheckBox& box) override;
+    std::unique_ptr<View> makeView(UpDown& spinner) override;
+    std::unique_ptr<View> makeView(Label& label) override;
+    bool takesInput() const override { return Widget_->isEnabled(); }
+    void moveFocusTo(FieldWidget& field) override;
+    void focusBarred(FieldWidget& field) override;
     std::unique_ptr<TextBox> makeTextBox(TextBoxListener& listener, bool multiLine) override;
-    std::unique_ptr<UpDown> makeUpDown(UpDownListener& listener) override;
-    std::unique_ptr<CheckBox> makeCheckBox(CheckBoxListener& listener) override;
     std::unique_ptr<ComboBox> makeComboBox(ComboBoxListener& listener) override;
 
     // ---- What the widget tells

@@ -7,10 +7,13 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 
+#include "platform/qt/ControlSite.h"
 #include "platform/qt/EdgeGuard.h"
 #include "platform/qt/FieldColors.h"
 #include "platform/qt/FocusTracker.h"
 #include "platform/qt/KeyMap.h"
+#include "platform/qt/TextBridge.h"
+#include "platform/qt/WidgetLook.h"
 
 namespace kel::qt {
 
@@ -30,49 +33,59 @@ Qt::CheckState stateFor(std::int32_t value) {
     }
 }
 
-}  // namespace
-
-QtCheckBox::QtCheckBox(ControlSite& site, CheckBoxListener& listener, QWidget& parent)
-    : QCheckBox(&parent), QtField(site, *this), Listener_(listener) {
-    setFocusPolicy(Qt::StrongFocus);
-    // An error must not fly through Qt, which is amid the toggling.
-    connect(this, StateChanged, this, [this] {
-        atEdge([this] {
-            Listener_.Check1_Click();
-            return true;
-        });
-    });
-}
-
-void QtCheckBox::setCaption(std::u16string_view caption) {
-    Caption_.assign(caption);
-    QCheckBox::setText(toQString(caption));
-    site().widget().updateGeometry();
-}
-
-std::int32_t QtCheckBox::value() const {
-    switch (checkState()) {
-        case Qt::Unchecked: return Unchecked;
-        case Qt::Checked: return Checked;
-        default: return Grey;
+std::int32_t valueOf(Qt::CheckState state) {
+    switch (state) {
+        case Qt::Unchecked: return CheckBox::Unchecked;
+        case Qt::Checked: return CheckBox::Checked;
+        default: return CheckBox::Grey;
     }
 }
 
-void QtCheckBox::setValue(std::int32_t value) { setCheckState(stateFor(value)); }
+}  // namespace
 
-void QtCheckBox::nextCheckState() { setValue(value() == Unchecked ? Checked : Unchecked); }
+QtCheckBox::QtCheckBox(ControlSite& site, CheckBox& box, QWidget& parent)
+    : QCheckBox(&parent), ChildField(site, *this, box), Box_(box) {
+    setFocusPolicy(Qt::StrongFocus);
+    connect(this, StateChanged, this, [this] { stateChangedInWidget(); });
+}
 
-// ---- Looks
-
-/// In a locked control Qt sees no difference.
-void QtCheckBox::setEnabled(bool enabled) {
-    QtField::setEnabled(enabled);
+void QtCheckBox::outOfDate() {
+    const Changes changes = Box_.takeChanges();
+    if (changes.has(Change::Place)) placeAgain();
+    if (changes.has(Change::Enabled)) {
+        setEnabled(Box_.enabled());
+        site().fieldEnabled(*this, Box_.enabled());
+    }
+    if (changes.has(Change::Visible)) {
+        setVisible(Box_.visible());
+        if (Box_.visible()) site().fieldShown(*this);
+    }
+    if (changes.has(Change::Font)) setWidgetFont(*this, fontOf(font(), Box_.font()));
+    if (changes.has(Change::ToolTip)) setWidgetToolTip(*this, Box_.toolTip());
+    if (changes.has(Change::Caption)) {
+        setText(toQString(Box_.caption()));
+        site().widget().updateGeometry();
+    }
+    if (changes.has(Change::Value)) setCheckState(stateFor(Box_.value()));
     update();
 }
 
-void QtCheckBox::setVisible(bool visible) {
-    changeVisible(visible, [&] { QCheckBox::setVisible(visible); });
+/// Also by somebody who found Qt's own widget. An error must not fly through Qt, which is amid the toggling.
+void QtCheckBox::stateChangedInWidget() {
+    atEdge([this] {
+        Box_.setValue(valueOf(checkState()));
+        return true;
+    });
 }
+
+void QtCheckBox::nextCheckState() {
+    atEdge([this] {
+        Box_.release();
+        return true;
+    });
+}
+
+// ---- Looks
 
 int QtCheckBox::baseline() const {
     const QFontMetrics metrics = fontMetrics();
@@ -86,7 +99,7 @@ int QtCheckBox::widthFor(int /*characters*/) const { return QCheckBox::sizeHint(
 /// there.
 bool QtCheckBox::looksEnabled() const {
     const QWidget* const around = site().widget().parentWidget();
-    return enabled() && (around == nullptr || around->isEnabled());
+    return Box_.enabled() && (around == nullptr || around->isEnabled());
 }
 
 QStyleOptionButton QtCheckBox::look() const {
@@ -99,7 +112,7 @@ QStyleOptionButton QtCheckBox::look() const {
         option.state.setFlag(QStyle::State_MouseOver, false);
         palette.setCurrentColorGroup(isActiveWindow() ? QPalette::Active : QPalette::Inactive);
     }
-    const QColor text = enabled ? captionColorOn(palette, foreColor()) : disabledCaptionColor(palette);
+    const QColor text = enabled ? captionColorOn(palette, Box_.foreColor()) : disabledCaptionColor(palette);
     if (text != palette.color(QPalette::WindowText)) palette.setColor(QPalette::WindowText, text);
     return option;
 }
@@ -120,8 +133,8 @@ bool QtCheckBox::event(QEvent* event) {
             // Qt would show the box pressed for a while before it toggles.
             if (static_cast<QShortcutEvent*>(event)->isAmbiguous()) break;
             return atEdge([this] {
-                QCheckBox::setFocus(Qt::ShortcutFocusReason);
-                click();
+                setFocus(Qt::ShortcutFocusReason);
+                Box_.press();
                 return true;
             });
         default: break;
@@ -131,20 +144,12 @@ bool QtCheckBox::event(QEvent* event) {
 
 /// Qt's own keys for buttons, which also move among them, are not asked.
 void QtCheckBox::keyPressEvent(QKeyEvent* event) {
-    const KeyStroke stroke = strokeOf(*event);
-    // Tab arrives here only when there is nowhere to go.
-    char32_t character = stroke.code == keys::Tab ? 0 : keyPressCharacter(stroke);
-    if (character == 0) {
-        event->ignore();
-        return;
-    }
-    Listener_.Check1_KeyPress(character);
-    const bool presses = character == U' ' && takesInput();
-    if (presses && !event->isAutoRepeat()) {
+    const CheckBox::Key deed = Box_.keyDown(strokeOf(*event));
+    if (deed == CheckBox::Key::Presses && !event->isAutoRepeat()) {
         HeldKey_ = event->key();
         setDown(true);
     }
-    event->setAccepted(presses || character == 0);
+    event->setAccepted(deed != CheckBox::Key::Ignored);
 }
 
 void QtCheckBox::keyReleaseEvent(QKeyEvent* event) {

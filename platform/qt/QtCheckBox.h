@@ -2,7 +2,8 @@
 
 #include <QCheckBox>
 
-#include "platform/qt/QtField.h"
+#include "host/widgets/CheckBox.h"
+#include "platform/qt/ChildField.h"
 
 class QStyleOptionButton;
 
@@ -10,21 +11,16 @@ namespace kel::qt {
 
 /// A check box in the style's look. All of it takes clicks. It stands on the ground of its window, whatever its back
 /// colour.
-class QtCheckBox final : public QCheckBox, public QtField<CheckBox> {
+class QtCheckBox final : public QCheckBox, public View, public ChildField {
 public:
-    QtCheckBox(ControlSite& site, CheckBoxListener& listener, QWidget& parent);
+    QtCheckBox(ControlSite& site, CheckBox& box, QWidget& parent);
 
-    const std::u16string& caption() const override { return Caption_; }
-    void setCaption(std::u16string_view caption) override;
+    void outOfDate() override;
+    void paintAgain() override { update(); }
 
-    std::int32_t value() const override;
-    void setValue(std::int32_t value) override;
-
-    void setEnabled(bool enabled) override;
-    void setVisible(bool visible) override;
-
-    void gotFocus() override {}
-    void lostFocus() override {}
+    void gotFocus() override { Box_.gotFocus(); }
+    void lostFocus() override { Box_.lostFocus(); }
+    void colorAgain() override { update(); }
     bool isTall() const override { return false; }
     int baseline() const override;
     int widthFor(int characters) const override;
@@ -43,12 +39,11 @@ protected:
     void nextCheckState() override;
 
 private:
-    void showColors() override { update(); }
+    void stateChangedInWidget();
     bool looksEnabled() const;
     QStyleOptionButton look() const;
 
-    CheckBoxListener& Listener_;
-    std::u16string Caption_;
+    CheckBox& Box_;
     int HeldKey_ = 0;  ///< Qt's code of the key that presses the box down
 };
 

@@ -30,7 +30,8 @@ void settle() {
 EditBox* editBoxOf(PlacedControl& control) { return dynamic_cast<EditBox*>(control.control().widgets().field); }
 
 QtCheckBox* checkBoxOf(PlacedControl& control) {
-    return dynamic_cast<QtCheckBox*>(control.control().widgets().checkBox);
+    const CheckBox* const box = control.control().widgets().checkBox;
+    return box != nullptr ? dynamic_cast<QtCheckBox*>(box->view()) : nullptr;
 }
 
 /// Qt gives the focus only for events that come from the window system.
@@ -141,7 +142,8 @@ void QtFormWindow::rightClick(PlacedControl& control) {
 
 void QtFormWindow::spin(PlacedControl& control, bool up) {
     activate();
-    const QPointer<QtUpDown> spinner = dynamic_cast<QtUpDown*>(control.control().widgets().upDown);
+    const UpDown* const shown = control.control().widgets().upDown;
+    const QPointer<QtUpDown> spinner = shown != nullptr ? dynamic_cast<QtUpDown*>(shown->view()) : nullptr;
     if (!spinner.isNull() && spinner->isVisible()) {
         closePopups();
         clickLeft(*spinner, spinner->half(up).center());

@@ -62,7 +62,7 @@ void QtPictureBox::outOfDate() {
     const Changes changes = Box_.takeChanges();
     if (changes.has(Change::Place)) placeAgain();
     if (changes.has(Change::Enabled)) setEnabled(Box_.enabled());
-    if (changes.has(Change::Font)) setWidgetFont(*this, Box_.font());
+    if (changes.has(Change::Font)) setWidgetFont(*this, fontOf(font(), Box_.font()));
     if (changes.has(Change::ToolTip)) setWidgetToolTip(*this, Box_.toolTip());
     update();
     if (!changes.has(Change::Percent) || !QAccessible::isActive()) return;

@@ -6,7 +6,9 @@
 #include <QPointer>
 #include <QStyle>
 #include <QStyleOptionButton>
+#include <utility>
 
+#include "platform/qt/ControlSite.h"
 #include "platform/qt/EdgeGuard.h"
 
 namespace kel::qt {
@@ -23,23 +25,20 @@ bool tellsDisabled(const QPalette& palette) {
 
 }  // namespace
 
-QtUpDown::QtUpDown(ControlSite& site, UpDownListener& listener, QWidget& parent)
-    : QWidget(&parent), QtChild(site, *this), Listener_(listener) {
+QtUpDown::QtUpDown(ControlSite& site, UpDown& spinner, QWidget& parent)
+    : QWidget(&parent), ChildWidget(site, *this, spinner), Spinner_(spinner) {
     setFocusPolicy(Qt::NoFocus);
     setMouseTracking(true);
-    QWidget::setVisible(false);
+    hide();
 }
 
-void QtUpDown::move(const Rect& bounds) {
-    const bool widthChanges = bounds.width != this->bounds().width;
-    QtChild::move(bounds);
-    if (widthChanges) site().widget().updateGeometry();
-}
-
-void QtUpDown::setVisible(bool visible) {
-    Visible_ = visible;
-    QWidget::setVisible(visible);
-    site().widget().updateGeometry();
+void QtUpDown::outOfDate() {
+    const Changes changes = Spinner_.takeChanges();
+    if (changes.has(Change::Place)) placeAgain();
+    if (changes.has(Change::Enabled)) setEnabled(Spinner_.enabled());
+    if (changes.has(Change::Visible)) setVisible(Spinner_.visible());
+    const std::int32_t width = Spinner_.bounds().width;
+    if (std::exchange(Width_, width) != width || changes.has(Change::Visible)) site().widget().updateGeometry();
 }
 
 // ---- Buttons
@@ -64,9 +63,8 @@ void QtUpDown::hover(std::optional<Button> button) {
 /// The handler may do anything, also let the button go or destroy the spinner.
 void QtUpDown::step(int millisecondsToNext) {
     Repeat_.stop();
-    Value_ = Held_ == Button::Upper ? Up : Down;
     const QPointer<QtUpDown> self = this;
-    Listener_.UpDown1_Change();
+    Spinner_.press(Held_ == Button::Upper);
     if (!self.isNull() && Held_) Repeat_.start(millisecondsToNext, this);
 }
 

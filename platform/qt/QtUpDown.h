@@ -4,24 +4,18 @@
 #include <QBasicTimer>
 #include <QWidget>
 
-#include "host/Widgets.h"
+#include "host/widgets/UpDown.h"
 #include "platform/qt/ChildWidget.h"
-#include "platform/qt/QtChild.h"
 
 namespace kel::qt {
 
 /// A spinner: two buttons in the style's look with its arrows. It never has the focus.
-class QtUpDown final : public QWidget, public QtChild<UpDown, ChildWidget> {
+class QtUpDown final : public QWidget, public View, public ChildWidget {
 public:
-    QtUpDown(ControlSite& site, UpDownListener& listener, QWidget& parent);
+    QtUpDown(ControlSite& site, UpDown& spinner, QWidget& parent);
 
-    void move(const Rect& bounds) override;
-
-    bool visible() const override { return Visible_; }
-    void setVisible(bool visible) override;
-
-    std::int32_t value() const override { return Value_; }
-    void setValue(std::int32_t value) override { Value_ = value; }
+    void outOfDate() override;
+    void paintAgain() override { update(); }
 
     /// Where the button is.
     QRect half(bool upper) const;
@@ -46,12 +40,11 @@ private:
     void release();
     void paint(QPainter& painter, Button button) const;
 
-    UpDownListener& Listener_;
+    UpDown& Spinner_;
     QBasicTimer Repeat_;
     std::optional<Button> Held_;
     std::optional<Button> Hovered_;
-    std::int32_t Value_ = Rest;
-    bool Visible_ = false;
+    std::int32_t Width_ = 0;  ///< twips, as the composite knows it
 };
 
 }  // namespace kel::qt

@@ -17,10 +17,10 @@ void setWidgetFont(QWidget& widget, const QFont& font) {
     if (font != widget.font()) widget.setFont(font);
 }
 
-void setWidgetFont(QWidget& widget, const FontFace& font) {
-    QFont shown = fontLike(widget.font(), font.name, font.size);
-    shown.setBold(font.bold);
-    setWidgetFont(widget, shown);
+QFont fontOf(const QFont& base, const FontFace& face) {
+    QFont font = fontLike(base, face.name, face.size);
+    font.setBold(face.bold);
+    return font;
 }
 
 void setWidgetToolTip(QWidget& widget, std::u16string_view text) {

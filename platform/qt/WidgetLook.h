@@ -14,9 +14,10 @@ namespace kel::qt {
 /// `base` in another family and size (points).
 QFont fontLike(const QFont& base, std::u16string_view family, double size);
 
+/// `base` with what is chosen of `face`.
+QFont fontOf(const QFont& base, const FontFace& face);
+
 void setWidgetFont(QWidget& widget, const QFont& font);
-/// What is chosen of it; the rest stays as it is.
-void setWidgetFont(QWidget& widget, const FontFace& font);
 void setWidgetToolTip(QWidget& widget, std::u16string_view text);
 void colorWidget(QWidget& widget, const FieldColors& colors);
 

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "host/Keys.h"
+#include "host/widgets/Widget.h"
 
 namespace kel::win32 {
 
@@ -65,6 +66,13 @@ public:
 protected:
     ~ChildField() = default;
 };
+
+/// Whoever shows the widget, which may be the widget itself; nullptr for none.
+inline ChildField* childOf(FieldWidget* field) {
+    if (field == nullptr) return nullptr;
+    View* const view = field->view();
+    return view != nullptr ? dynamic_cast<ChildField*>(view) : dynamic_cast<ChildField*>(field);
+}
 
 /// What the widgets know of the window they stand in. Outlives them.
 class ControlFrame {

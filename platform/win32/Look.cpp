@@ -38,6 +38,14 @@ void Font::rescale(const TwipGrid& grid) {
     make(description);
 }
 
+TEXTMETRICW Font::metrics(HWND window) const {
+    const WindowContext context(window);
+    const Selected selected(context.get(), handle());
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(context.get(), &metrics);
+    return metrics;
+}
+
 void Font::setBold(bool bold) {
     if (bold == this->bold()) return;
     LOGFONTW description = Description_;

@@ -36,6 +36,8 @@ public:
     void choose(const FontFace& face, const TwipGrid& grid);
     /// The same on a screen of another resolution.
     void rescale(const TwipGrid& grid);
+    /// Ascent of it, and height of its lines, where `window` stands.
+    TEXTMETRICW metrics(HWND window) const;
     bool bold() const { return Description_.lfWeight >= FW_BOLD; }
     void setBold(bool bold);
 

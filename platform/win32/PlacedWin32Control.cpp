@@ -79,7 +79,7 @@ void PlacedWin32Control::focusLeft() {
 void PlacedWin32Control::passFocusOn() { Form_.passFocusOn(*this); }
 
 HWND PlacedWin32Control::focusTarget() const {
-    const auto* const field = dynamic_cast<ChildField*>(Control_->widgets().field);
+    const ChildField* const field = childOf(Control_->widgets().field);
     return field != nullptr && field->acceptsInput() ? field->window() : nullptr;
 }
 
@@ -89,6 +89,9 @@ Win32ComboBox* PlacedWin32Control::comboBox() const {
     return dynamic_cast<Win32ComboBox*>(Control_->widgets().comboBox);
 }
 
-Win32UpDown* PlacedWin32Control::upDown() const { return dynamic_cast<Win32UpDown*>(Control_->widgets().upDown); }
+Win32UpDown* PlacedWin32Control::upDown() const {
+    const UpDown* const shown = Control_->widgets().upDown;
+    return shown != nullptr ? dynamic_cast<Win32UpDown*>(shown->view()) : nullptr;
+}
 
 }  // namespace kel::win32

@@ -5,9 +5,8 @@
 
 #include <algorithm>
 
-#include "platform/win32/ControlWindow.h"
 #include "platform/win32/EditInput.h"
-#include "platform/win32/Win32Label.h"
+#include "platform/win32/WideText.h"
 #include "values/Text.h"
 
 namespace kel::win32 {
@@ -73,10 +72,7 @@ RECT turned(HDC context, const RECT& area) {
 
 }  // namespace
 
-Win32CheckBox::Win32CheckBox(ControlFrame& frame, CheckBoxListener& listener)
-    : Win32FieldWidget(frame, kel::colors::SystemWindowText, kel::colors::SystemButtonFace),
-      PaintedWindow(frame),
-      Listener_(listener) {
+Win32CheckBox::Win32CheckBox(ControlFrame& frame, CheckBox& box) : PaintedWindow(frame), Box_(box) {
     frame.addField(*this);
 }
 
@@ -88,50 +84,46 @@ Win32CheckBox::~Win32CheckBox() {
 // ---- The window
 
 void Win32CheckBox::makeWindow() {
-    if (!create(buttonClass(), frame().window(), WS_TABSTOP | BS_3STATE, pixels())) return;
-    base(WM_SETFONT, reinterpret_cast<WPARAM>(font().handle()));
-    base(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(wide(Caption_).c_str()));
-    base(BM_SETCHECK, static_cast<WPARAM>(Value_));
-    showState();
+    if (!create(buttonClass(), frame().window(), WS_TABSTOP | BS_3STATE, pixelsOf(Box_))) return;
+    base(WM_SETFONT, reinterpret_cast<WPARAM>(Font_.handle()));
+    base(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(wide(Box_.caption()).c_str()));
+    base(BM_SETCHECK, static_cast<WPARAM>(Box_.value()));
+    EnableWindow(window(), Box_.enabled());
+    showToolTip();
+    if (Box_.visible()) ShowWindow(window(), SW_SHOWNA);
 }
 
-void Win32CheckBox::placeChanged() {
-    placeWindow(window());
-    refresh();
-}
-
-void Win32CheckBox::fontChanged() {
-    if (window() != nullptr) base(WM_SETFONT, reinterpret_cast<WPARAM>(font().handle()));
-    refresh();
+void Win32CheckBox::outOfDate() {
+    const Changes changes = Box_.takeChanges();
+    if (changes.has(Change::Font)) Font_.choose(Box_.font(), frame().grid());
+    if (window() != nullptr) {
+        if (changes.has(Change::Place)) placeAs(Box_);
+        if (changes.has(Change::Enabled)) EnableWindow(window(), Box_.enabled());
+        if (changes.has(Change::Visible)) ShowWindow(window(), Box_.visible() ? SW_SHOWNA : SW_HIDE);
+        if (changes.has(Change::Font)) base(WM_SETFONT, reinterpret_cast<WPARAM>(Font_.handle()));
+        if (changes.has(Change::ToolTip)) showToolTip();
+        if (changes.has(Change::Caption)) base(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(wide(Box_.caption()).c_str()));
+        if (changes.has(Change::Value)) base(BM_SETCHECK, static_cast<WPARAM>(Box_.value()));
+    }
+    if (changes.has(Change::Visible)) frame().fieldShown();
+    paintAgain();
+    if (changes.has(Change::Mnemonic)) frame().mnemonicChanged();
 }
 
 void Win32CheckBox::rescale() {
-    rescaleFont();
-    placeChanged();
+    Font_.rescale(frame().grid());
+    base(WM_SETFONT, reinterpret_cast<WPARAM>(Font_.handle()));
+    placeAs(Box_);
+    paintAgain();
 }
 
-void Win32CheckBox::refresh() {
+void Win32CheckBox::paintAgain() {
     invalidate();
     frame().viewChanged();
 }
 
-void Win32CheckBox::setCaption(std::u16string_view caption) {
-    if (caption == Caption_) return;
-    const char16_t before = mnemonic();
-    Caption_.assign(caption);
-    if (window() != nullptr) base(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(wide(Caption_).c_str()));
-    refresh();
-    if (mnemonic() != before) frame().mnemonicChanged();
-}
-
-char16_t Win32CheckBox::mnemonic() const { return mnemonicIn(Caption_); }
-
-void Win32CheckBox::setValue(std::int32_t value) {
-    if (value == Value_) return;
-    Value_ = value;
-    if (window() != nullptr) base(BM_SETCHECK, static_cast<WPARAM>(Value_));
-    refresh();
-    Listener_.Check1_Click();
+void Win32CheckBox::showToolTip() {
+    if (window() != nullptr) frame().setToolTip(window(), wide(Box_.toolTip()).c_str());
 }
 
 // ---- Picture
@@ -145,13 +137,13 @@ bool Win32CheckBox::hides(UINT interfaceState) const {
 }
 
 int Win32CheckBox::baseline() const {
-    const RECT area = pixels();
-    const TEXTMETRICW metrics = textMetrics();
+    const RECT area = pixelsOf(Box_);
+    const TEXTMETRICW metrics = Font_.metrics(window());
     return static_cast<int>(area.top + (heightOf(area) - metrics.tmHeight) / 2 + metrics.tmAscent);
 }
 
 void Win32CheckBox::draw(HDC context, POINT origin) const {
-    RECT area = pixels();
+    RECT area = pixelsOf(Box_);
     OffsetRect(&area, origin.x, origin.y);
     paint(context, area, nullptr);
 }
@@ -168,6 +160,14 @@ void Win32CheckBox::paint(HDC context, const RECT& area, HTHEME theme) const {
     paintCaption(context, {box.right + frame().grid().pixel(CaptionGap), area.top, area.right, area.bottom});
 }
 
+/// A control that takes no input leaves the caption as it is.
+HBRUSH Win32CheckBox::colors(HDC context) const {
+    const COLORREF back = colorOf(Box_.backColor());
+    SetTextColor(context, Box_.enabled() ? colorOf(Box_.foreColor()) : GetSysColor(COLOR_GRAYTEXT));
+    SetBkColor(context, back);
+    return brushFor(context, back);
+}
+
 RECT Win32CheckBox::boxIn(const RECT& area) const {
     const int size = frame().grid().pixel(BoxSize);
     const LONG top = area.top + (heightOf(area) - size) / 2;
@@ -178,21 +178,21 @@ void Win32CheckBox::paintBox(HDC context, const RECT& place, HTHEME theme) const
     const SavedContext saved(context);
     RECT box = turned(context, place);
     if (theme != nullptr) {
-        const int look = !enabled()         ? CBS_UNCHECKEDDISABLED
+        const int look = !Box_.enabled()    ? CBS_UNCHECKEDDISABLED
                          : isIn(BST_PUSHED) ? CBS_UNCHECKEDPRESSED
                          : isIn(BST_HOT)    ? CBS_UNCHECKEDHOT
                                             : CBS_UNCHECKEDNORMAL;
-        DrawThemeBackground(theme, context, BP_CHECKBOX, themeState(Value_, look), &box, nullptr);
+        DrawThemeBackground(theme, context, BP_CHECKBOX, themeState(Box_.value(), look), &box, nullptr);
         return;
     }
-    const UINT look = (isIn(BST_PUSHED) ? DFCS_PUSHED : 0U) | (enabled() ? 0U : DFCS_INACTIVE);
-    DrawFrameControl(context, &box, DFC_BUTTON, frameState(Value_) | look);
+    const UINT look = (isIn(BST_PUSHED) ? DFCS_PUSHED : 0U) | (Box_.enabled() ? 0U : DFCS_INACTIVE);
+    DrawFrameControl(context, &box, DFC_BUTTON, frameState(Box_.value()) | look);
 }
 
 void Win32CheckBox::paintCaption(HDC context, const RECT& area) const {
-    SelectObject(context, font().handle());
+    SelectObject(context, Font_.handle());
     SetBkMode(context, TRANSPARENT);
-    const std::wstring text = wide(Caption_);
+    const std::wstring text = wide(Box_.caption());
     const UINT flags = DT_SINGLELINE | readingOrder(context) | (hides(UISF_HIDEACCEL) ? DT_HIDEPREFIX : 0U);
     RECT place = area;
     DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &place, flags | DT_CALCRECT);
@@ -225,17 +225,15 @@ LRESULT Win32CheckBox::handle(UINT message, WPARAM wide, LPARAM data) {
         case WM_GETDLGCODE: return dialogCode(reinterpret_cast<const MSG*>(data));
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
-        case WM_RBUTTONDOWN: return takeFocus() ? native(message, wide, data) : 0;
+        case WM_RBUTTONDOWN: return Box_.takePress() ? native(message, wide, data) : 0;
         case WM_KEYDOWN: return keyDown(message, wide, data);
         case WM_LBUTTONUP:
         case WM_KEYUP: return released(message, wide, data);
         case WM_CHAR: typed(static_cast<char16_t>(wide)); return 0;
-        case BM_CLICK:
-            if (takeFocus()) toggle();
-            return 0;
-        case BM_SETCHECK: setValue(static_cast<std::int32_t>(std::min<WPARAM>(wide, Grey))); return 0;
+        case BM_CLICK: Box_.press(); return 0;
+        case BM_SETCHECK: Box_.setValue(static_cast<std::int32_t>(std::min<WPARAM>(wide, CheckBox::Grey))); return 0;
         case WM_SETTEXT:
-            setCaption(data != 0 ? unwiden(reinterpret_cast<const wchar_t*>(data)) : std::u16string());
+            Box_.setCaption(data != 0 ? unwiden(reinterpret_cast<const wchar_t*>(data)) : std::u16string());
             return TRUE;
         default: return native(message, wide, data);
     }
@@ -248,12 +246,6 @@ LRESULT Win32CheckBox::native(UINT message, WPARAM wide, LPARAM data) {
     return result;
 }
 
-/// The focus comes first, with all that other fields do then. False when the box does not take the press.
-bool Win32CheckBox::takeFocus() {
-    setFocus();
-    return window() != nullptr && acceptsInput() && GetFocus() == window();
-}
-
 LRESULT Win32CheckBox::notified(UINT notification, LPARAM /*details*/) {
     if (notification == BN_CLICKED) Clicked_ = true;
     return 0;
@@ -263,7 +255,7 @@ LRESULT Win32CheckBox::notified(UINT notification, LPARAM /*details*/) {
 /// it is told behind that.
 LRESULT Win32CheckBox::released(UINT message, WPARAM wide, LPARAM data) {
     const LRESULT result = native(message, wide, data);
-    if (std::exchange(Clicked_, false) && acceptsInput()) toggle();
+    if (std::exchange(Clicked_, false)) Box_.release();
     return result;
 }
 
@@ -293,16 +285,13 @@ LRESULT Win32CheckBox::keyDown(UINT message, WPARAM wide, LPARAM data) {
 /// toggles at once.
 void Win32CheckBox::typed(char16_t unit) {
     // Half a pair is no character.
-    if (unit == keys::Tab || unit == DeleteCharacter || isHighSurrogate(unit) || isLowSurrogate(unit) ||
-        !acceptsInput())
-        return;
-    char32_t character = unit;
-    Listener_.Check1_KeyPress(character);
+    if (unit == keys::Tab || unit == DeleteCharacter || isHighSurrogate(unit) || isLowSurrogate(unit)) return;
+    const bool presses = Box_.typed(unit) == CheckBox::Key::Presses;
     if (window() == nullptr) return;
     const bool isPressed = isIn(BST_PUSHED);
-    if (character == U' ' && !isPressed && acceptsInput())
-        toggle();
-    else if (character != U' ' && isPressed)
+    if (presses && !isPressed)
+        Box_.release();
+    else if (!presses && isPressed)
         ReleaseCapture();
 }
 

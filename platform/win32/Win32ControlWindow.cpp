@@ -57,24 +57,24 @@ std::unique_ptr<PictureView> Win32ControlWindow::makeView(PictureBox& box) {
     return std::make_unique<Win32PictureBox>(frame, box);
 }
 
-std::unique_ptr<Label> Win32ControlWindow::makeLabel() {
+std::unique_ptr<View> Win32ControlWindow::makeView(CheckBox& box) {
     ControlFrame& frame = *this;
-    return std::make_unique<Win32Label>(frame);
+    return std::make_unique<Win32CheckBox>(frame, box);
+}
+
+std::unique_ptr<View> Win32ControlWindow::makeView(UpDown& spinner) {
+    ControlFrame& frame = *this;
+    return std::make_unique<Win32UpDown>(frame, spinner);
+}
+
+std::unique_ptr<View> Win32ControlWindow::makeView(Label& label) {
+    ControlFrame& frame = *this;
+    return std::make_unique<Win32Label>(frame, label);
 }
 
 std::unique_ptr<TextBox> Win32ControlWindow::makeTextBox(TextBoxListener& listener, bool multiLine) {
     ControlFrame& frame = *this;
     return std::make_unique<Win32TextBox>(frame, listener, multiLine);
-}
-
-std::unique_ptr<UpDown> Win32ControlWindow::makeUpDown(UpDownListener& listener) {
-    ControlFrame& frame = *this;
-    return std::make_unique<Win32UpDown>(frame, listener);
-}
-
-std::unique_ptr<CheckBox> Win32ControlWindow::makeCheckBox(CheckBoxListener& listener) {
-    ControlFrame& frame = *this;
-    return std::make_unique<Win32CheckBox>(frame, listener);
 }
 
 std::unique_ptr<ComboBox> Win32ControlWindow::makeComboBox(ComboBoxListener& listener) {
@@ -202,13 +202,16 @@ void Win32ControlWindow::setToolTip(HWND field, const wchar_t* text) {
 
 // ---- Focus and keys
 
-void Win32ControlWindow::setFocus() {
-    ChildField* const field = shownField();
+void Win32ControlWindow::setFocus() { give(shownField()); }
+
+void Win32ControlWindow::moveFocusTo(FieldWidget& field) { give(childOf(&field)); }
+
+void Win32ControlWindow::give(const ChildField* field) {
     if (field != nullptr && field->window() != nullptr && field->acceptsInput()) SetFocus(field->window());
 }
 
 char16_t Win32ControlWindow::mnemonic() const {
-    if (Label_ != nullptr) return Label_->mnemonic();
+    if (Label_ != nullptr) return Label_->shown().mnemonic();
     const ChildField* const field = shownField();
     return field != nullptr ? field->mnemonic() : u'\0';
 }
@@ -267,7 +270,7 @@ void Win32ControlWindow::draw(HDC context, const RECT& bounds) {
 /// The label's window is the part of the control that its caption may take.
 void Win32ControlWindow::drawLabelWindow(const DRAWITEMSTRUCT& item) const {
     FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_BTNFACE));
-    const LONG left = Grid_.pixels(Label_->bounds()).left;
+    const LONG left = Grid_.pixels(Label_->shown().bounds()).left;
     drawCaption(item.hDC, {-left, 0, widthOf(Bounds_) - left, height()});
 }
 

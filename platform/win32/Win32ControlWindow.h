@@ -39,10 +39,13 @@ public:
 
 private:
     std::unique_ptr<PictureView> makeView(PictureBox& box) override;
-    std::unique_ptr<Label> makeLabel() override;
+    std::unique_ptr<View> makeView(CheckBox& box) override;
+    std::unique_ptr<View> makeView(UpDown& spinner) override;
+    std::unique_ptr<View> makeView(Label& label) override;
+    bool takesInput() const override { return acceptsInput(); }
+    void moveFocusTo(FieldWidget& field) override;
+    void focusBarred(FieldWidget& field) override { takeInputFrom(childOf(&field)->window()); }
     std::unique_ptr<TextBox> makeTextBox(TextBoxListener& listener, bool multiLine) override;
-    std::unique_ptr<UpDown> makeUpDown(UpDownListener& listener) override;
-    std::unique_ptr<CheckBox> makeCheckBox(CheckBoxListener& listener) override;
     std::unique_ptr<ComboBox> makeComboBox(ComboBoxListener& listener) override;
 
     HWND window() const override { return Window_; }
@@ -60,6 +63,7 @@ private:
     void departed(ChildField& /*field*/, HWND next) override { Focus_.departed(Window_, next); }
     void takeInputFrom(HWND window) override;
     void dropInputOf(HWND window) const;
+    static void give(const ChildField* field);
     void setToolTip(HWND field, const wchar_t* text) override;
     void setLabel(Win32Label* label) override;
     void captionChanged() override;

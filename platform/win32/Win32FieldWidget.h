@@ -69,14 +69,7 @@ protected:
         if (Visible_) ShowWindow(wholeWindow(), SW_SHOWNA);
     }
 
-    /// Ascent of the font, and height of its lines.
-    TEXTMETRICW textMetrics() const {
-        const WindowContext context(this->window());
-        const Selected selected(context.get(), this->font().handle());
-        TEXTMETRICW metrics{};
-        GetTextMetricsW(context.get(), &metrics);
-        return metrics;
-    }
+    TEXTMETRICW textMetrics() const { return this->font().metrics(this->window()); }
 
 private:
     void enabledChanged() override {

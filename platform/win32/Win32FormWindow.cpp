@@ -4,12 +4,12 @@
 #include <stdexcept>
 #include <utility>
 
+#include "host/focus/Mnemonic.h"
 #include "library/SharedSettings.h"
 #include "platform/win32/ForeignWindows.h"
 #include "platform/win32/Session.h"
 #include "platform/win32/WideText.h"
 #include "platform/win32/Win32ComboBox.h"
-#include "platform/win32/Win32Label.h"
 
 namespace kel::win32 {
 

@@ -18,8 +18,7 @@ const WindowClass& upDownClass() {
 
 }  // namespace
 
-Win32UpDown::Win32UpDown(ControlFrame& frame, UpDownListener& listener)
-    : Win32Widget(frame), SystemWindow(frame), Listener_(listener) {
+Win32UpDown::Win32UpDown(ControlFrame& frame, UpDown& spinner) : SystemWindow(frame), Spinner_(spinner) {
     frame.add(*this);
 }
 
@@ -31,30 +30,21 @@ Win32UpDown::~Win32UpDown() {
 // ---- The window
 
 void Win32UpDown::makeWindow() {
-    if (!create(upDownClass(), frame().window(), 0, pixels())) return;
-    base(UDM_SETRANGE32, Down, Up);
-    base(UDM_SETPOS32, 0, Rest);
+    if (!create(upDownClass(), frame().window(), 0, pixelsOf(Spinner_))) return;
+    base(UDM_SETRANGE32, UpDown::Down, UpDown::Up);
+    base(UDM_SETPOS32, 0, UpDown::Rest);
     EnableWindow(window(), looksEnabled());
-    if (Visible_) ShowWindow(window(), SW_SHOWNA);
+    if (Spinner_.visible()) ShowWindow(window(), SW_SHOWNA);
 }
 
-void Win32UpDown::placeChanged() {
-    placeWindow(window());
-    frame().viewChanged();
-}
-
-void Win32UpDown::setVisible(bool visible) {
-    if (visible == Visible_) return;
-    Visible_ = visible;
-    if (!visible) frame().takeInputFrom(window());
-    if (window() != nullptr) ShowWindow(window(), visible ? SW_SHOWNA : SW_HIDE);
-    frame().viewChanged();
-}
-
-void Win32UpDown::enabledChanged() {
-    if (!enabled()) frame().takeInputFrom(window());
-    frameEnabledChanged();
-    frame().viewChanged();
+void Win32UpDown::outOfDate() {
+    const Changes changes = Spinner_.takeChanges();
+    if (!Spinner_.enabled() || !Spinner_.visible()) frame().takeInputFrom(window());
+    if (changes.has(Change::Place)) placeAs(Spinner_);
+    if (changes.has(Change::Enabled)) frameEnabledChanged();
+    if (changes.has(Change::Visible) && window() != nullptr)
+        ShowWindow(window(), Spinner_.visible() ? SW_SHOWNA : SW_HIDE);
+    paintAgain();
 }
 
 void Win32UpDown::frameEnabledChanged() {
@@ -62,7 +52,7 @@ void Win32UpDown::frameEnabledChanged() {
 }
 
 void Win32UpDown::draw(HDC context, POINT origin) const {
-    RECT area = pixels();
+    RECT area = pixelsOf(Spinner_);
     OffsetRect(&area, origin.x, origin.y);
     const LONG middle = (area.top + area.bottom) / 2;
     RECT upper{area.left, area.top, area.right, middle};
@@ -83,7 +73,7 @@ LRESULT Win32UpDown::handle(UINT message, WPARAM wide, LPARAM data) {
                 return 0;
             }
             // Not while the handler of the step before is still at it.
-            return Value_ == Rest ? step(message, wide, data) : 0;
+            return Spinner_.value() == UpDown::Rest ? step(message, wide, data) : 0;
         default: return base(message, wide, data);
     }
 }
@@ -91,18 +81,16 @@ LRESULT Win32UpDown::handle(UINT message, WPARAM wide, LPARAM data) {
 /// The listener may do away with the window, which the system's control would not survive in the middle of its
 /// work: it is told behind that.
 LRESULT Win32UpDown::step(UINT message, WPARAM wide, LPARAM data) {
-    Pressed_ = Rest;
+    Pressed_ = UpDown::Rest;
     const LRESULT result = base(message, wide, data);
-    if (Pressed_ == Rest) return result;
-    Value_ = Pressed_;
-    Listener_.UpDown1_Change();
+    if (Pressed_ != UpDown::Rest) Spinner_.press(Pressed_ == UpDown::Up);
     return result;
 }
 
 /// True keeps the system's control from counting.
 LRESULT Win32UpDown::notified(UINT notification, LPARAM details) {
     if (notification != static_cast<UINT>(UDN_DELTAPOS)) return FALSE;
-    Pressed_ = reinterpret_cast<const NMUPDOWN*>(details)->iDelta > 0 ? Up : Down;
+    Pressed_ = reinterpret_cast<const NMUPDOWN*>(details)->iDelta > 0 ? UpDown::Up : UpDown::Down;
     return TRUE;
 }
 

@@ -1,52 +1,44 @@
 #pragma once
 
+#include "host/widgets/UpDown.h"
 #include "platform/win32/SystemWindow.h"
-#include "platform/win32/Win32Widget.h"
 
 namespace kel::win32 {
 
 /// A spinner: the system's up-down control, which holds no number here and only says which of its buttons is
 /// pressed or held.
-class Win32UpDown final : public Win32Widget<UpDown>, public ChildWidget, private SystemWindow {
+class Win32UpDown final : public View, public ChildWidget, private SystemWindow {
 public:
-    Win32UpDown(ControlFrame& frame, UpDownListener& listener);
+    Win32UpDown(ControlFrame& frame, UpDown& spinner);
     ~Win32UpDown() override;
 
-    // ---- UpDown
+    // ---- View
 
-    bool visible() const override { return Visible_; }
-    void setVisible(bool visible) override;
-    std::int32_t value() const override { return Value_; }
-    void setValue(std::int32_t value) override { Value_ = value; }
+    void outOfDate() override;
+    void paintAgain() override { frame().viewChanged(); }
 
     // ---- ChildWidget
 
     HWND window() const override { return windowHandle(); }
     void makeWindow() override;
-    bool shown() const override { return Visible_; }
+    bool shown() const override { return Spinner_.visible(); }
     void frameEnabledChanged() override;
-    void rescale() override { placeWindow(window()); }
+    void rescale() override { placeAs(Spinner_); }
     LRESULT notified(UINT notification, LPARAM details) override;
     void draw(HDC context, POINT origin) const override;
 
-    bool acceptsInput() const { return enabled() && Visible_ && frame().acceptsInput(); }
+    bool acceptsInput() const { return Spinner_.takesInput(); }
 
 private:
-    using Win32Widget::frame;
-
-    void placeChanged() override;
-    void enabledChanged() override;
-    bool looksEnabled() const { return enabled() && frame().enabled(); }
+    bool looksEnabled() const { return Spinner_.enabled() && frame().enabled(); }
 
     LRESULT handle(UINT message, WPARAM wide, LPARAM data) override;
     LRESULT step(UINT message, WPARAM wide, LPARAM data);
     bool isHeld() const;
     void letButtonGo(WPARAM timer);
 
-    UpDownListener& Listener_;
-    std::int32_t Value_ = Rest;
-    std::int32_t Pressed_ = Rest;  ///< by the message in hand
-    bool Visible_ = false;
+    UpDown& Spinner_;
+    std::int32_t Pressed_ = UpDown::Rest;  ///< by the message in hand
 };
 
 }  // namespace kel::win32

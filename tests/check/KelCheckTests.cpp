@@ -64,18 +64,6 @@ TEST_F(Check, AnEventThatDisablesTheBoxEndsTheUsersTurn) {
     EXPECT_EQ(Form.told(), (Lines{"Change!", "Locked"}));
 }
 
-TEST_F(Check, OnlyAPlainBlankToggles) {
-    Form.window().focus(Form.placed());
-    Form.window().press({keys::Space, U' ', ControlKey});
-    Form.window().press({keys::Space, U' ', AltKey});
-    Form.window().press({keys::Packet, 0xA0, NoModifier});
-    EXPECT_FALSE(It.get_Value());
-    Form.window().press({0, U' ', NoModifier});
-    EXPECT_TRUE(It.get_Value()) << "from an input method";
-    Form.window().press({keys::Space, U' ', ShiftKey});
-    EXPECT_FALSE(It.get_Value());
-}
-
 TEST_F(Check, ALockedBoxTakesNoFocusAndIsDrawnEnabled) {
     struct {
         bool enabled, locked;

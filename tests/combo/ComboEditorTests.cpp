@@ -182,11 +182,11 @@ TEST(ComboEditor, NoShortcutTakesItsKeys) {
     const KeyStroke escape{keys::Escape, 0, NoModifier}, enter{keys::Enter, 0, NoModifier}, down{keys::Down};
     for (const KeyStroke& stroke : {drop, f4, down}) EXPECT_TRUE(box.claims(stroke)) << stroke.code;
     for (const KeyStroke& stroke : {closeWindow, escape}) EXPECT_FALSE(box.claims(stroke)) << stroke.code;
-    EXPECT_FALSE(box.strike(escape)) << "a closed box leaves Escape to the window";
+    EXPECT_FALSE(box.answers(escape)) << "a closed box leaves Escape to the window";
     box.showDropDown(true);
     EXPECT_TRUE(box.claims(escape));
     EXPECT_TRUE(box.claims(enter));
-    EXPECT_TRUE(box.strike(escape)) << "an open list keeps Escape from closing the window too";
+    EXPECT_TRUE(box.answers(escape)) << "an open list keeps Escape from closing the window too";
 }
 
 }  // namespace

@@ -9,11 +9,14 @@
 namespace kel::test {
 
 /// A combo box in memory, worked as a person would.
-class FakeBox final : public EditedComboBox<ComboBox>, public FormWindow, private ComboSurroundings {
+class FakeBox final : public EditedComboBox<ComboBox>,
+                      public FormWindow,
+                      private ComboSurroundings,
+                      private WidgetHost {
 public:
     static constexpr std::ptrdiff_t RowsOfList = 3;
 
-    explicit FakeBox(ComboBoxListener& listener) : EditedComboBox(listener, *this) {}
+    explicit FakeBox(ComboBoxListener& listener) : EditedComboBox(listener, *this, static_cast<WidgetHost&>(*this)) {}
 
     /// Steps separated by ";": keys as `press` reads them, or "pick 2", "hover 2", "wheel -1" or "button".
     void play(std::string_view script);
@@ -21,19 +24,12 @@ public:
     /// "Ap[ple] 0", with " open 2" behind for a dropped list with its third row highlighted.
     std::string look() const;
 
-    void gotFocus() { Editor_.edit().listener().Text1_GotFocus(); }
-    void lostFocus() { Editor_.edit().listener().Text1_LostFocus(); }
+    void gotFocus() override { Editor_.edit().listener().Text1_GotFocus(); }
+    void lostFocus() override { Editor_.edit().listener().Text1_LostFocus(); }
     bool claims(const KeyStroke& stroke) const { return Editor_.claims(stroke); }
-    bool strike(const KeyStroke& stroke) { return Editor_.edit().strike(stroke); }
+    bool answers(const KeyStroke& stroke) { return Editor_.edit().strike(stroke); }
     int repaints() const { return Repaints_; }
 
-    bool visible() const override { return Visible_; }
-    void setVisible(bool visible) override { Visible_ = visible; }
-    Color backColor() const override { return BackColor_; }
-    void setBackColor(Color color) override { BackColor_ = color; }
-    std::u16string toolTip() const override { return ToolTip_; }
-    void setToolTip(std::u16string_view text) override { ToolTip_.assign(text); }
-    void setFocus() override {}
     void installFrame(const std::int16_t&) override {}
 
 private:
@@ -52,17 +48,18 @@ private:
     PlacedControl* focused() const override { return nullptr; }
     bool savePicture(const std::string&) override { return false; }
 
-    bool takesInput() const override { return enabled() && Visible_; }
+    using FieldWidget::click;
+    using FieldWidget::rightClick;
+    void moveFocusTo(FieldWidget&) override {}
+    void focusBarred(FieldWidget&) override {}
+    bool takesInput() const override { return enabled() && visible(); }
     void bufferChanged() override {}
     void listChanged() override { ++Repaints_; }
     std::u16string clipboardText() override { return Clipboard_; }
     void setClipboardText(std::u16string_view text) override { Clipboard_.assign(text); }
     std::ptrdiff_t linesOfPage() const override { return RowsOfList; }
 
-    std::u16string ToolTip_;
     std::u16string Clipboard_;
-    Color BackColor_ = colors::SystemWindow;
-    bool Visible_ = true;
     int Repaints_ = 0;
 };
 

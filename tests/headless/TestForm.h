@@ -23,7 +23,7 @@ public:
     ProbeControl(ControlHost& host, bool multiLine);
 
     TextBox& box() { return *Box_; }
-    UpDown& spinner() { return *UpDown_; }
+    UpDown& spinner() { return UpDown_; }
     ControlHost& host() { return Host_; }
 
     /// Runs when the control is told `what`: "GotFocus".
@@ -48,7 +48,7 @@ public:
     void Show() override { tell("Show"); }
     void EnterFocus() override { tell("EnterFocus"); }
     void ExitFocus() override { tell("ExitFocus"); }
-    WidgetSet widgets() override { return {.field = Box_.get(), .entry = Box_.get(), .upDown = UpDown_.get()}; }
+    WidgetSet widgets() override { return {.field = Box_.get(), .entry = Box_.get(), .upDown = &UpDown_}; }
 
 private:
     void Text1_Change() override { tell("Change"); }
@@ -68,7 +68,7 @@ private:
 
     ControlHost Host_;
     std::unique_ptr<TextBox> Box_;
-    std::unique_ptr<UpDown> UpDown_;
+    UpDown UpDown_;
     std::map<std::string, Handler> Handlers_;
 };
 

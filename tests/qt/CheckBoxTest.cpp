@@ -29,7 +29,7 @@ protected:
 
     static KelCheck& checkOf(PlacedControl& placed) { return static_cast<KelCheck&>(placed.control()); }
     static qt::QtCheckBox& boxOf(PlacedControl& placed) {
-        return dynamic_cast<qt::QtCheckBox&>(*placed.control().widgets().checkBox);
+        return dynamic_cast<qt::QtCheckBox&>(*placed.control().widgets().checkBox->view());
     }
     KelCheck& check() { return checkOf(checked); }
     qt::QtCheckBox& box() { return boxOf(checked); }
@@ -44,112 +44,44 @@ protected:
     PlacedControl& below;
 };
 
-TEST_F(Check, OnlyABlankAndAClickToggle) {
-    const struct {
-        const char* what;
-        std::function<void()> act;
-        bool toggles;
-    } cases[] = {
-        {"a blank", [this] { press(strokeFor(U' ')); }, true},
-        {"Shift and the blank",
-         [this] {
-             press({keys::Space, U' ', ShiftKey});
-         },
-         true},
-        {"a blank from no key",
-         [this] {
-             press({0, U' ', NoModifier});
-         },
-         true},
-        {"Ctrl and the blank",
-         [this] {
-             press({keys::Space, U' ', ControlKey});
-         },
-         false},
-        {"Alt and the blank",
-         [this] {
-             press({keys::Space, U' ', AltKey});
-         },
-         false},
-        {"a blank that does not break", [this] { press(strokeFor(U'\u00A0')); }, false},
-        {"its letter", [this] { press(strokeFor(U'a')); }, false},
-        {"Escape", [this] { press({keys::Escape}); }, false},
-        {"Up", [this] { press({keys::Up}); }, false},
-        {"Down", [this] { press({keys::Down}); }, false},
-        {"Left", [this] { press({keys::Left}); }, false},
-        {"Right", [this] { press({keys::Right}); }, false},
-        {"the hand", [this] { form.window().click(checked, -1); }, true},
-        {"the hand's other button", [this] { form.window().rightClick(checked); }, false},
-        {"a real click at its far end",
-         [this] {
-             const QPoint end(box().width() - 2, box().height() - 2);
-             pressMouse(box(), end);
-             releaseMouse(box(), end);
-         },
-         true},
-        {"the mnemonic",
-         [this] {
-             press({'A', U'a', AltKey});
-         },
-         true},
-    };
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.what);
-        form.window().focus(checked);
-        check().put_Value(false);
-        form.takeLog();
-        row.act();
-        EXPECT_EQ(check().get_Value(), row.toggles);
-        EXPECT_EQ(form.takeLog(), row.toggles ? "b.Change() " : "");
-        EXPECT_TRUE(isFocused());
-        EXPECT_FALSE(box().isDown());
-    }
-}
-
-TEST_F(Check, EnterMovesOnAndTogglesNothing) {
+TEST_F(Check, NothingOfQtsOwnKeysForButtonsIsLeft) {
     form.window().focus(checked);
-    press({keys::Enter});
-    EXPECT_EQ(form.window().focused(), &below);
-    EXPECT_EQ(form.takeLog(), "");
-    press({keys::Tab, 0, ShiftKey});
+    for (const std::int16_t code : {keys::Escape, keys::Up, keys::Down, keys::Left, keys::Right}) press({code});
+    press(strokeFor(U'a'));
+    press({keys::Space, U' ', ControlKey});
+    EXPECT_FALSE(check().get_Value());
     EXPECT_TRUE(isFocused());
+    press({0, U' ', NoModifier});
+    EXPECT_TRUE(check().get_Value()) << "a blank from no key";
+    EXPECT_FALSE(box().isDown());
 }
 
-TEST_F(Check, AClickGivesTheFocus) {
+TEST_F(Check, AllOfItTakesClicksAndItsMnemonicIsOne) {
+    const QPoint end(box().width() - 2, box().height() - 2);
     const std::function<void()> clicks[] = {
-        [this] { form.window().click(checked, -1); },
-        [this] { form.window().rightClick(checked); },
+        [&] { pressMouse(box(), end), releaseMouse(box(), end); },
         [this] {
             press({'A', U'a', AltKey});
-        },
-        [this] {
-            pressMouse(box(), {5, 5}), releaseMouse(box(), {5, 5});
         },
     };
     for (const auto& click : clicks) {
         form.window().focus(above);
-        click();
-        EXPECT_TRUE(isFocused());
-    }
-}
-
-TEST_F(Check, BarredItIsNeitherToggledNorFocused) {
-    for (const bool locked : {true, false}) {
-        check().put_Locked(locked);
-        check().put_Enabled(locked);
-        form.window().focus(above);
         form.takeLog();
-        form.window().click(checked, -1);
-        form.window().rightClick(checked);
-        form.window().focus(checked);
-        press({'A', U'a', AltKey});
-        pressMouse(box(), {5, 5});
-        releaseMouse(box(), {5, 5});
-        EXPECT_FALSE(check().get_Value());
-        EXPECT_EQ(form.takeLog(), "");
-        EXPECT_EQ(form.window().focused(), &above);
-        press({keys::Tab});
-        EXPECT_EQ(form.window().focused(), &below) << "Tab leaves it out";
+        click();
+        EXPECT_EQ(form.takeLog(), "b.Change() ");
+        EXPECT_TRUE(isFocused());
+        for (const bool locked : {true, false}) {
+            check().put_Locked(locked);
+            check().put_Enabled(locked);
+            form.window().focus(above);
+            form.takeLog();
+            click();
+            EXPECT_EQ(form.takeLog(), "");
+            EXPECT_EQ(form.window().focused(), &above);
+            press({keys::Tab});
+            EXPECT_EQ(form.window().focused(), &below) << "Tab leaves it out";
+        }
+        check().put_Enabled(true);
     }
 }
 
@@ -217,21 +149,8 @@ TEST_F(Check, AReleaseThatWentElsewhereLeavesItUp) {
     EXPECT_FALSE(box().isDown()) << "a message box has come in front";
 }
 
-TEST_F(Check, AnEventMayDoAnything) {
-    form.onEvent = [this](PlacedControl&, const EventRow&) { check().put_Value(false); };
-    form.window().click(checked, -1);
-    EXPECT_FALSE(check().get_Value());
-    EXPECT_EQ(form.takeLog(), "b.Change() b:Value ");
-    form.onEvent = [this](PlacedControl&, const EventRow&) { check().put_Enabled(false); };
-    form.window().click(checked, -1);
-    EXPECT_TRUE(check().get_Value());
-    EXPECT_NE(form.window().focused(), &checked);
-    EXPECT_EQ(form.takeLog(), "b.Change() b:Enabled ");
-}
-
-qt::QtCheckBox& boxOf(const KelCheckWidget& field) {
-    return dynamic_cast<qt::QtCheckBox&>(*field.control().widgets().checkBox);
-}
+CheckBox& widgetOf(const KelCheckWidget& field) { return *field.control().widgets().checkBox; }
+qt::QtCheckBox& boxOf(const KelCheckWidget& field) { return dynamic_cast<qt::QtCheckBox&>(*widgetOf(field).view()); }
 
 TEST(CheckInQt, AnEventMayDestroyIt) {
     for (const bool byKey : {true, false}) {
@@ -264,11 +183,11 @@ TEST(CheckInQt, ItIsReadOutAndWorkedByAScreenReader) {
     EXPECT_EQ(changes, 1);
     EXPECT_TRUE(field.value());
     EXPECT_TRUE(spoken->state().checked);
-    boxOf(field).setValue(CheckBox::Grey);
+    widgetOf(field).setValue(CheckBox::Grey);
     EXPECT_TRUE(spoken->state().checkStateMixed);
-    EXPECT_EQ(boxOf(field).value(), CheckBox::Grey);
+    EXPECT_EQ(widgetOf(field).value(), CheckBox::Grey);
     spoken->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
-    EXPECT_EQ(boxOf(field).value(), CheckBox::Unchecked);
+    EXPECT_EQ(widgetOf(field).value(), CheckBox::Unchecked);
     EXPECT_EQ(changes, 3);
     // By somebody who found Qt's own widget.
     boxOf(field).setChecked(true);

@@ -81,7 +81,7 @@ void ProbeForm::raise(PlacedControl& placed, std::function<void()> handler) {
 
 QWidget& boxWidgetOf(PlacedControl& placed) { return dynamic_cast<QWidget&>(probe(placed).box()); }
 
-QWidget& spinnerWidgetOf(PlacedControl& placed) { return dynamic_cast<QWidget&>(probe(placed).spinner()); }
+QWidget& spinnerWidgetOf(PlacedControl& placed) { return dynamic_cast<QWidget&>(*probe(placed).spinner().view()); }
 
 void pressMouse(QWidget& widget, const QPoint& place) {
     QTest::mousePress(&windowOf(widget), Qt::LeftButton, {}, placeInWindow(widget, place));

@@ -63,16 +63,6 @@ struct SpinnerOffTheTabOrder : Spinner {
     SpinnerOffTheTabOrder() : Spinner(false) {}
 };
 
-TEST_F(Spinner, IsHiddenAndEnabledAtFirst) {
-    struct Listener final : UpDownListener {
-        void UpDown1_Change() override {}
-    } listener;
-    const auto made = probe(first).host().widgets.makeUpDown(listener);
-    EXPECT_FALSE(made->visible());
-    EXPECT_TRUE(made->enabled());
-    EXPECT_EQ(made->value(), UpDown::Rest);
-}
-
 TEST_F(Spinner, GivesNoFocusBeforeItsControlDoes) {
     expectFocusComesWithTheStep();
     probe(second).box().setText(u"12.5");
@@ -102,13 +92,6 @@ TEST_F(Spinner, IsClickedByTheFormsHand) {
     form.window().spin(second, false);
     EXPECT_EQ(ProbeControl::takeLog(), "b.Spin0");
     EXPECT_TRUE(rests()) << "let go again";
-
-    probe(second).spinner().setEnabled(false);
-    form.window().spin(second, true);
-    probe(second).spinner().setEnabled(true);
-    probe(second).host().container.setEnabled(false);
-    form.window().spin(second, true);
-    EXPECT_EQ(steps(ProbeControl::takeLog()), 0);
 }
 
 TEST_F(Spinner, RepeatsWhileItIsHeldAndPointedAt) {

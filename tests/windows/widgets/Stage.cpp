@@ -54,9 +54,10 @@ Stage::Stage(bool multiLine) {
     win32::ControlWindowOwner& owner = *this;
     TextBoxListener& listener = *this;
     Window_ = win32::makeControlWindow(owner, machine());
-    Label_ = Window_->widgets().makeLabel();
+    Label_ = std::make_unique<Label>(Window_->widgets());
     Box_ = Window_->widgets().makeTextBox(listener, multiLine);
-    UpDown_ = Window_->widgets().makeUpDown(*this);
+    UpDownListener& spinning = *this;
+    UpDown_ = std::make_unique<UpDown>(Window_->widgets(), spinning);
     const std::int32_t twips = machine().twipsPerPixel();
     Label_->move({0, 0, Width / 3 * twips, 195});
     Box_->move({Width / 3 * twips, 0, Width * 2 / 3 * twips, (multiLine ? Height : 20) * twips});
