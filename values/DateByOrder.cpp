@@ -41,23 +41,37 @@ std::optional<DatePart> partOf(DateField field) {
 /// The parts that a format shows, each once, in order.
 class ShownParts {
 public:
-    ShownParts(std::u16string_view format, const RegionalSettings& region) { add(DateFieldScanner(format), region); }
+    ShownParts(const DateFormat& format, const RegionalSettings& region) {
+        for (const DateFormat::Step& step : format.steps()) add(step.field, region);
+    }
+    explicit ShownParts(std::u16string_view regionalFormat) { addRegional(regionalFormat); }
 
     Parts all() const { return {Parts_.data(), Count_}; }
+    bool areAll() const { return Count_ == Parts_.size(); }
+    /// All three.
+    const PartOrder& order() const { return Parts_; }
     bool has(DatePart part) const { return std::find(all().begin(), all().end(), part) != all().end(); }
     bool beginWithYear() const { return Count_ != 0 && Parts_.front() == DatePart::Year; }
     bool areMonthAndYear() const { return Count_ == 2 && !has(DatePart::Day); }
 
 private:
-    void add(DateFieldScanner scanner, const RegionalSettings& region) {
-        for (DateToken token; Count_ < Parts_.size() && scanner.next(token);) {
-            if (token.field == DateField::ShortDate || token.field == DateField::General)
-                add(DateFieldScanner(region.ShortDateFormat, DateFieldScanner::Source::Region), region);
-            else if (token.field == DateField::LongDate)
-                add(DateFieldScanner(region.LongDateFormat, DateFieldScanner::Source::Region), region);
-            else if (const auto part = partOf(token.field); part && !has(*part))
-                Parts_[Count_++] = *part;
-        }
+    void add(DateField field, const RegionalSettings& region) {
+        if (field == DateField::ShortDate || field == DateField::General)
+            addRegional(region.ShortDateFormat);
+        else if (field == DateField::LongDate)
+            addRegional(region.LongDateFormat);
+        else
+            add(field);
+    }
+
+    void addRegional(std::u16string_view format) {
+        DateFieldScanner scanner(format, DateFieldScanner::Source::Region);
+        for (DateToken token; !areAll() && scanner.next(token);) add(token.field);
+    }
+
+    void add(DateField field) {
+        if (areAll()) return;
+        if (const auto part = partOf(field); part && !has(*part)) Parts_[Count_++] = *part;
     }
 
     PartOrder Parts_{};
@@ -87,8 +101,12 @@ WrittenDate split(const DigitGroup& group, Parts order) {
     return written;
 }
 
+PartOrder orderIn(const RegionalSettings& region) { return reordered(DayFirst, ShownParts(region.ShortDateFormat)); }
+
 /// The order of numbers in a field. A day that the format does not show goes beside the month.
-PartOrder orderOf(const ShownParts& shown, PartOrder regional) {
+PartOrder orderOf(const ShownParts& shown, const RegionalSettings& region) {
+    if (shown.areAll()) return shown.order();
+    PartOrder regional = orderIn(region);
     if (shown.areMonthAndYear()) {
         if (shown.beginWithYear()) return YearFirst;
         std::stable_partition(regional.begin(), regional.end(), [](DatePart part) { return part != DatePart::Year; });
@@ -100,10 +118,8 @@ PartOrder orderOf(const ShownParts& shown, PartOrder regional) {
 /// What the numbers of a date are for.
 class NumberRoles {
 public:
-    NumberRoles(std::u16string_view format, const RegionalSettings& region)
-        : Shown_(format, region),
-          Regional_(reordered(DayFirst, ShownParts(region.ShortDateFormat, region))),
-          Order_(orderOf(Shown_, Regional_)) {}
+    NumberRoles(const DateFormat& format, const RegionalSettings& region)
+        : Region_(region), Shown_(format, region), Order_(orderOf(Shown_, region)) {}
 
     /// False when they can be no date; `hasMonth` where the month is named.
     bool put(std::span<const DigitGroup> numbers, bool hasMonth, WrittenDate& written) const {
@@ -130,10 +146,10 @@ private:
     };
 
     /// A year of four digits, first or last, tells the order where it is not where the format has it.
-    const PartOrder& orderOfThree(std::span<const DigitGroup> numbers) const {
+    PartOrder orderOfThree(std::span<const DigitGroup> numbers) const {
         const bool isYearFirst = numbers.front().digits == YearDigits;
         if (!Shown_.beginWithYear()) return isYearFirst ? YearFirst : Order_;
-        return !isYearFirst && numbers.back().digits == YearDigits ? Regional_ : Order_;
+        return !isYearFirst && numbers.back().digits == YearDigits ? orderIn(Region_) : Order_;
     }
 
     bool isBefore(DatePart left, DatePart right) const {
@@ -191,8 +207,8 @@ private:
         }
     }
 
+    const RegionalSettings& Region_;
     ShownParts Shown_;
-    PartOrder Regional_;
     PartOrder Order_;
 };
 
@@ -273,13 +289,13 @@ private:
 
 WrittenDate splitAsDayMonthYear(const DigitGroup& group) { return split(group, DayFirst); }
 
-bool readByOrder(std::u16string_view text, std::u16string_view expression, const RegionalSettings& region,
+bool readByOrder(std::u16string_view text, const DateFormat& format, const RegionalSettings& region,
                  WrittenDate& written) {
     written = {};
-    Collector collector(text, expression, region);
+    Collector collector(text, format.expression(), region);
     if (!collector.run()) return false;
     const bool hasMonth = collector.month() != NoMonth;
-    if (!NumberRoles(expression, region).put(collector.numbers(), hasMonth, written)) return false;
+    if (!NumberRoles(format, region).put(collector.numbers(), hasMonth, written)) return false;
     if (hasMonth) written.of(DatePart::Month) = collector.month();
     return true;
 }

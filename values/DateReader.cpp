@@ -75,8 +75,7 @@ bool read(std::u16string_view text, std::u16string_view whole, const DateFormat&
     WrittenDate written;
     const bool hasLayout = readByFormat(whole, format, by.region, written);
     if (hasLayout && resolve(written, by, out)) return true;
-    if (!hasLayout && readByOrder(text, format.expression(), by.region, written) && resolve(written, by, out))
-        return true;
+    if (!hasLayout && readByOrder(text, format, by.region, written) && resolve(written, by, out)) return true;
     DigitGroup digits;
     return isWholeDateInDigits(text, by.region.ZeroDigit, digits) && resolve(splitAsDayMonthYear(digits), by, out);
 }
@@ -100,7 +99,8 @@ bool isDateInAnyOrder(std::u16string_view text, const RegionalSettings& region) 
     const Surroundings by{LeapDay, TwoDigitYears::AnyTime, region};
     WrittenDate written;
     Date date;
-    for (const std::u16string_view order : {u"d/m/yyyy", u"m/d/yyyy", u"yyyy/m/d"}) {
+    static const DateFormat Orders[] = {DateFormat(u"d/m/yyyy"), DateFormat(u"m/d/yyyy"), DateFormat(u"yyyy/m/d")};
+    for (const DateFormat& order : Orders) {
         if (readByOrder(text, order, region, written) && written.has(DatePart::Month) && resolve(written, by, date))
             return true;
     }
