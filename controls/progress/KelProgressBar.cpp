@@ -107,13 +107,15 @@ void KelProgressBar::WriteProperties(PropertyBag& bag) const { writePersisted(*t
 void KelProgressBar::Resize() {
     if (!Host_.container.hasSize()) return;
     const Size size = Host_.container.size();
-    const bool hadWidth = Picture1_.bounds().width > 0;
+    const std::int32_t before = Picture1_.bounds().width;
     Picture1_.move({0, 0, size.width, size.height});
     // Without a width all bars are alike, and the one that was drawn need not be the one of the last value.
-    if (!hadWidth && isDrawn())
+    if (before <= 0 && isDrawn())
         drawValue(ShowTime_ ? clock() : 0);
     else
         drawAgain();
+    // A bar that was wiped cannot be compared with one of another width.
+    if (before != size.width && !isDrawn()) LastBarWidth_ = NeverDrawn;
 }
 
 void KelProgressBar::Show() {
