@@ -88,7 +88,8 @@ std::u16string KelCombo::get_ListTagItem(std::int16_t Item) const {
     const std::int32_t item = Item == 0 ? Combo1_->listIndex() + 1 : Item;
     if (item < 1 || item > get_ListCount()) return {};
     const auto runtime = runtimeFor(Field_.host());
-    if (item <= TagPlace_.passed || TagPlace_.reader.lock() != runtime) TagPlace_ = {.reader = runtime};
+    const std::shared_ptr<Runtime>& held = Field_.host().settings.Runtime;
+    if (item <= TagPlace_.passed || TagPlace_.reader.lock() != held) TagPlace_ = {.reader = held};
     std::int32_t position = TagPlace_.position;
     std::u16string tag;
     for (std::int32_t read = TagPlace_.passed; read < item; ++read) {

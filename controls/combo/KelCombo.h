@@ -77,7 +77,7 @@ private:
 
     /// Where the tag asked for last stands, so that a loop over all tags reads each of them once more and not all.
     struct TagPlace {
-        std::weak_ptr<Runtime> reader;  ///< the run-time object whose position it is
+        std::weak_ptr<Runtime> reader;  ///< the held run-time object whose position it is; none: a default one's
         std::int32_t passed = 0;        ///< fields in front of it
         std::int32_t position = 0;
     };
