@@ -19,6 +19,7 @@ ControlSite* Entered = nullptr;  ///< whose control has been entered and not yet
 bool Suspended = false;          ///< the holder's focus is away for a while: a popup, another window
 bool ByTab = false;
 int Changing = 0;
+const QWidget* Refusing = nullptr;  ///< a hidden field that was given the focus a moment ago
 
 bool isTab(Qt::FocusReason reason) { return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason; }
 
@@ -61,11 +62,21 @@ void focusMoved(const QWidget* now) {
     leaveHolder(siteOf(now));
 }
 
+/// The focus has come to a hidden field and gone: it stays where it was.
+void giveBack(QWidget* from, const QWidget* now) {
+    if (Refusing == nullptr || from == Refusing) return;
+    Refusing = nullptr;
+    if (from != nullptr && now == nullptr) focusWidget(*from, Qt::OtherFocusReason);
+}
+
 void watchApplication() {
     static QPointer<QCoreApplication> watched;
     if (watched == qApp) return;
     watched = qApp;
-    QObject::connect(qApp, &QApplication::focusChanged, qApp, [](QWidget* /*old*/, QWidget* now) { focusMoved(now); });
+    QObject::connect(qApp, &QApplication::focusChanged, qApp, [](QWidget* old, QWidget* now) {
+        focusMoved(now);
+        giveBack(old, now);
+    });
 }
 
 }  // namespace
@@ -75,6 +86,7 @@ void arrived(ChildField& field, Qt::FocusReason reason) {
     QWidget& widget = field.widget();
     // Qt lets code give it to what only its surroundings hide.
     if (!widget.isVisible()) {
+        if (widget.hasFocus()) Refusing = &widget;
         widget.clearFocus();
         return;
     }
