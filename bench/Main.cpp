@@ -56,7 +56,7 @@ int main(int argc, char** argv) {
             {"reading 15/03/2013 / strptime", "ReadDate", {"ReadDateByStrptime"}, 2},
             {"reading 15 March 2013 in dd/mm/yyyy / QDate", "ReadWrittenDate", {"ReadDateByQDate"}, 1},
             {"a step of a job that does not move the bar", "StepOfJob", {}, 30},
-            {"the same without the time left", "StepOfJobWithoutTime", {}, 5},
+            {"the same without the time left", "StepOfJobWithoutTime", {}, 30},
             {"a moving bar / QProgressBar", "MoveProgressBarWidget", {"MoveProgressBar"}, 1},
             {"loading a form of 1,000 text fields, headless", "LoadThousandFields", {}, 20e6},
         });
