@@ -185,13 +185,17 @@ private:
     bool CountsToTwelve_ = false;
 };
 
+/// Of a text that is merely shown nobody asks where its fields stand.
+enum class Noting : std::uint8_t { Nothing, Fields };
+
+template <Noting Notes>
 class Printer {
 public:
-    /// Where the fields come to stand is noted in `fields`, if it is there.
+    /// Where the fields come to stand is noted in `fields`.
     Printer(Date date, const Clock& clock, const RegionalSettings& region, const WeekRule& weeks,
             std::vector<ShownField>* fields = nullptr)
         : Date_(date, clock),
-          IsPlain_(region.ZeroDigit == U'0' && fields == nullptr),
+          HasPlainDigits_(region.ZeroDigit == U'0'),
           DateSeparator_(singleUnit(region.DateSeparator)),
           TimeSeparator_(singleUnit(region.TimeSeparator)),
           Region_(region),
@@ -203,7 +207,7 @@ public:
         char16_t* at = Place_.begin();
         for (const DateStep& step : steps) {
             at = Place_.withRoom(at);
-            if (step.pair != DatePair::None && IsPlain_)
+            if (Notes == Noting::Nothing && step.pair != DatePair::None && HasPlainDigits_)
                 at = printPlain(at, Date_.pair(step.pair), step.leastOfTwoDigits);
             else
                 at = print(at, step, {text, step.textUnits});
@@ -239,11 +243,14 @@ private:
     }
 
     char16_t* print(char16_t* at, const DateStep& step, std::u16string_view text) {
-        if (Fields_ == nullptr) return printUnnoted(at, step, text);
-        const std::size_t start = Place_.offset(at);
-        at = printUnnoted(at, step, text);
-        note(step, start, Place_.offset(at));
-        return at;
+        if constexpr (Notes == Noting::Nothing) {
+            return printUnnoted(at, step, text);
+        } else {
+            const std::size_t start = Place_.offset(at);
+            at = printUnnoted(at, step, text);
+            note(step, start, Place_.offset(at));
+            return at;
+        }
     }
 
     void note(const DateStep& step, std::size_t start, std::size_t end) {
@@ -339,7 +346,7 @@ private:
     }
 
     ShownDate Date_;
-    const bool IsPlain_;  ///< digits are, and nobody asks where they come to stand
+    const bool HasPlainDigits_;
     const char16_t DateSeparator_;
     const char16_t TimeSeparator_;
     const RegionalSettings& Region_;
@@ -375,12 +382,12 @@ void DateSection::append(const DateStep& step) {
 }
 
 std::u16string DateSection::text(Date date, const RegionalSettings& region, const WeekRule& weeks) const {
-    return Printer(date, Clock_, region, weeks).print(Steps_, Texts_.data());
+    return Printer<Noting::Nothing>(date, Clock_, region, weeks).print(Steps_, Texts_.data());
 }
 
 std::vector<ShownField> DateSection::fields(Date date, const RegionalSettings& region, const WeekRule& weeks) const {
     std::vector<ShownField> fields;
-    Printer(date, Clock_, region, weeks, &fields).print(Steps_, Texts_.data());
+    Printer<Noting::Fields>(date, Clock_, region, weeks, &fields).print(Steps_, Texts_.data());
     return fields;
 }
 
