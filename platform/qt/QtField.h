@@ -1,68 +1,89 @@
 #pragma once
 
-#include "host/Widgets.h"
+#include <QWidget>
+
 #include "platform/qt/ChildField.h"
+#include "platform/qt/ControlSite.h"
 #include "platform/qt/FocusWay.h"
-#include "platform/qt/QtTextual.h"
+#include "platform/qt/TextBridge.h"
+#include "platform/qt/WidgetLook.h"
 
 namespace kel::qt {
 
-/// What all field widgets on Qt have in common. `Interface` is one of the field widgets of host/Widgets.h.
+/// What the field widgets have in common that Qt's own widgets are. `Interface` is one of the field widgets of
+/// host/Widgets.h.
 template <class Interface>
-class QtField : public QtTextual<Interface, ChildField> {
+class QtField : public Interface, public ChildField {
 public:
     using ChildWidget::site;
     using ChildWidget::widget;
 
-    Color foreColor() const override { return Colors_.fore; }
-    void setForeColor(Color color) override { setColors({Colors_.back, color}); }
-    Color backColor() const override { return Colors_.back; }
-    void setBackColor(Color color) override { setColors({color, Colors_.fore}); }
-
-    void setEnabled(bool enabled) override {
-        // Whoever hears of the focus that goes finds the field as it will be.
-        widget().setAttribute(Qt::WA_ForceDisabled, !enabled);
-        if (!enabled) this->giveUpFocus();
-        if (enabled != this->enabled()) return;  // a handler has put it again
-        QtTextual<Interface, ChildField>::setEnabled(enabled);
-        site().fieldEnabled(*this, enabled);
+    void move(const Rect& bounds) override {
+        if (bounds == this->bounds()) return;
+        Interface::move(bounds);
+        placeAgain();
     }
 
-    bool visible() const override { return Visible_; }
+    void setEnabled(bool enabled) override {
+        Interface::setEnabled(enabled);
+        widget().setEnabled(this->enabled());
+        site().fieldEnabled(*this, this->enabled());
+    }
+
+    void setForeColor(Color color) override {
+        if (color == this->foreColor()) return;
+        Interface::setForeColor(color);
+        showColors();
+    }
+    void setBackColor(Color color) override {
+        if (color == this->backColor()) return;
+        Interface::setBackColor(color);
+        showColors();
+    }
+
+    void setFont(std::u16string_view name, double size) override {
+        Interface::setFont(name, size);
+        showFont();
+    }
+    void setFontBold(bool bold) override {
+        Interface::setFontBold(bold);
+        showFont();
+    }
+
+    void setToolTip(std::u16string_view text) override {
+        Interface::setToolTip(text);
+        setWidgetToolTip(widget(), text);
+    }
+
+    void refresh() override { widget().update(); }
 
     void setFocus() override { focusWidget(widget()); }
 
     void colorAgain() override {
-        if (Colors_ != FieldColors{}) showColors();
+        if (colors() != FieldColors{}) showColors();
     }
 
 protected:
-    QtField(ControlSite& place, QWidget& shown) : QtTextual<Interface, ChildField>(place, shown) {}
+    QtField(ControlSite& place, QWidget& widget) : ChildField(place, widget, *this) {}
 
     /// They are others, or the desktop's are.
-    virtual void showColors() { colorWidget(widget(), Colors_); }
+    virtual void showColors() { colorWidget(widget(), colors()); }
 
     /// Enabled and shown, its control as well.
-    bool takesInput() const { return Visible_ && widget().isEnabled(); }
+    bool takesInput() const override { return this->visible() && widget().isEnabled(); }
 
     /// For overrides of `setVisible`, which Qt calls too: `show` does the showing and hiding.
     template <class Show>
     void changeVisible(bool visible, Show show) {
-        Visible_ = visible;
-        if (!visible) this->giveUpFocus();
+        Interface::setVisible(visible);
         show();
         if (visible) site().fieldShown(*this);
     }
 
 private:
-    void setColors(const FieldColors& colors) {
-        if (colors == Colors_) return;
-        Colors_ = colors;
-        showColors();
-    }
-
-    FieldColors Colors_;
-    bool Visible_ = true;
+    void barred() override { giveUpFocus(); }
+    FieldColors colors() const { return {this->backColor(), this->foreColor()}; }
+    void showFont() { setWidgetFont(widget(), fontOf(widget().font(), Interface::font())); }
 };
 
 }  // namespace kel::qt

@@ -52,34 +52,26 @@ Win32ControlWindow::~Win32ControlWindow() {
 
 // ---- Widgets
 
-std::unique_ptr<PictureView> Win32ControlWindow::makeView(PictureBox& box) {
+template <class Child, class... Arguments>
+std::unique_ptr<Child> Win32ControlWindow::make(Arguments&&... arguments) {
     ControlFrame& frame = *this;
-    return std::make_unique<Win32PictureBox>(frame, box);
+    return std::make_unique<Child>(frame, std::forward<Arguments>(arguments)...);
 }
 
-std::unique_ptr<View> Win32ControlWindow::makeView(CheckBox& box) {
-    ControlFrame& frame = *this;
-    return std::make_unique<Win32CheckBox>(frame, box);
-}
+std::unique_ptr<PictureView> Win32ControlWindow::makeView(PictureBox& box) { return make<Win32PictureBox>(box); }
 
-std::unique_ptr<View> Win32ControlWindow::makeView(UpDown& spinner) {
-    ControlFrame& frame = *this;
-    return std::make_unique<Win32UpDown>(frame, spinner);
-}
+std::unique_ptr<View> Win32ControlWindow::makeView(CheckBox& box) { return make<Win32CheckBox>(box); }
 
-std::unique_ptr<View> Win32ControlWindow::makeView(Label& label) {
-    ControlFrame& frame = *this;
-    return std::make_unique<Win32Label>(frame, label);
-}
+std::unique_ptr<View> Win32ControlWindow::makeView(UpDown& spinner) { return make<Win32UpDown>(spinner); }
+
+std::unique_ptr<View> Win32ControlWindow::makeView(Label& label) { return make<Win32Label>(label); }
 
 std::unique_ptr<TextBox> Win32ControlWindow::makeTextBox(TextBoxListener& listener, bool multiLine) {
-    ControlFrame& frame = *this;
-    return std::make_unique<Win32TextBox>(frame, listener, multiLine);
+    return make<Win32TextBox>(listener, multiLine);
 }
 
 std::unique_ptr<ComboBox> Win32ControlWindow::makeComboBox(ComboBoxListener& listener) {
-    ControlFrame& frame = *this;
-    return std::make_unique<Win32ComboBox>(frame, listener);
+    return make<Win32ComboBox>(listener);
 }
 
 void Win32ControlWindow::setLabel(Win32Label* label) {

@@ -38,6 +38,8 @@ public:
     void setGrid(const TwipGrid& grid);
 
 private:
+    template <class Child, class... Arguments>
+    std::unique_ptr<Child> make(Arguments&&... arguments);
     std::unique_ptr<PictureView> makeView(PictureBox& box) override;
     std::unique_ptr<View> makeView(CheckBox& box) override;
     std::unique_ptr<View> makeView(UpDown& spinner) override;

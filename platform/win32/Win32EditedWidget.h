@@ -14,8 +14,7 @@ public:
 
 protected:
     Win32EditedWidget(ControlFrame& frame, bool multiLine)
-        : Win32FieldWidget<Base, EditedField>(frame, kel::colors::SystemWindowText, kel::colors::SystemWindow),
-          View_(multiLine) {}
+        : Win32FieldWidget<Base, EditedField>(frame), View_(multiLine) {}
 
     EditView View_;
 };

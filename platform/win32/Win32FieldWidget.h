@@ -12,26 +12,22 @@ namespace kel::win32 {
 template <class Base, class Child = ChildField>
 class Win32FieldWidget : public Win32TextualWidget<Base>, public Child {
 public:
-    bool visible() const override { return Visible_; }
     void setVisible(bool visible) override {
-        if (visible == Visible_) return;
-        Visible_ = visible;
-        if (!visible) this->frame().takeInputFrom(wholeWindow());
-        if (wholeWindow() != nullptr) ShowWindow(wholeWindow(), Visible_ ? SW_SHOWNA : SW_HIDE);
+        if (visible == this->visible()) return;
+        Base::setVisible(visible);
+        if (wholeWindow() != nullptr) ShowWindow(wholeWindow(), this->visible() ? SW_SHOWNA : SW_HIDE);
         this->frame().fieldShown();
     }
 
-    Color backColor() const override { return BackColor_; }
     void setBackColor(Color color) override {
-        if (color == BackColor_) return;
-        BackColor_ = color;
+        if (color == this->backColor()) return;
+        Base::setBackColor(color);
         this->refresh();
     }
 
-    std::u16string toolTip() const override { return ToolTip_; }
     void setToolTip(std::u16string_view text) override {
-        if (text == ToolTip_) return;
-        ToolTip_.assign(text);
+        if (text == this->toolTip()) return;
+        Base::setToolTip(text);
         showToolTip();
     }
 
@@ -41,20 +37,19 @@ public:
 
     // ---- ChildField
 
-    bool shown() const override { return Visible_; }
-    bool acceptsInput() const override { return this->enabled() && Visible_ && this->frame().acceptsInput(); }
+    bool shown() const override { return this->visible(); }
+    bool acceptsInput() const override { return this->enabled() && this->visible() && this->frame().acceptsInput(); }
     void frameEnabledChanged() override {}
 
     HBRUSH colors(HDC context) const override {
-        const COLORREF back = colorOf(BackColor_);
+        const COLORREF back = colorOf(this->backColor());
         SetTextColor(context, looksEnabled() ? colorOf(this->foreColor()) : GetSysColor(COLOR_GRAYTEXT));
         SetBkColor(context, back);
         return brushFor(context, back);
     }
 
 protected:
-    Win32FieldWidget(ControlFrame& frame, Color foreColor, Color backColor)
-        : Win32TextualWidget<Base>(frame, foreColor), BackColor_(backColor) {}
+    using Win32TextualWidget<Base>::Win32TextualWidget;
 
     /// The window that is all of the widget.
     virtual HWND wholeWindow() const { return this->window(); }
@@ -66,27 +61,23 @@ protected:
     void showState() {
         EnableWindow(wholeWindow(), this->enabled());
         showToolTip();
-        if (Visible_) ShowWindow(wholeWindow(), SW_SHOWNA);
+        if (this->visible()) ShowWindow(wholeWindow(), SW_SHOWNA);
     }
 
     TEXTMETRICW textMetrics() const { return this->font().metrics(this->window()); }
 
 private:
+    void barred() override { this->frame().takeInputFrom(wholeWindow()); }
     void enabledChanged() override {
-        if (!this->enabled()) this->frame().takeInputFrom(wholeWindow());
         if (wholeWindow() != nullptr) EnableWindow(wholeWindow(), this->enabled());
         this->refresh();
     }
 
     void showToolTip() {
-        const std::wstring text = wide(ToolTip_);
+        const std::wstring text = wide(this->toolTip());
         if (this->window() != nullptr) this->frame().setToolTip(this->window(), text.c_str());
         if (wholeWindow() != this->window()) this->frame().setToolTip(wholeWindow(), text.c_str());
     }
-
-    std::u16string ToolTip_;
-    Color BackColor_;
-    bool Visible_ = true;
 };
 
 }  // namespace kel::win32

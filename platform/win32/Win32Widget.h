@@ -10,17 +10,15 @@ namespace kel::win32 {
 template <class Base>
 class Win32Widget : public Base {
 public:
-    Rect bounds() const override { return Bounds_; }
     void move(const Rect& bounds) override {
-        if (bounds == Bounds_) return;
-        Bounds_ = bounds;
+        if (bounds == this->bounds()) return;
+        Base::move(bounds);
         placeChanged();
     }
 
-    bool enabled() const override { return Enabled_; }
     void setEnabled(bool enabled) override {
-        if (enabled == Enabled_) return;
-        Enabled_ = enabled;
+        if (enabled == this->enabled()) return;
+        Base::setEnabled(enabled);
         enabledChanged();
     }
 
@@ -28,7 +26,7 @@ protected:
     explicit Win32Widget(ControlFrame& frame) : Frame_(frame) {}
 
     ControlFrame& frame() const { return Frame_; }
-    RECT pixels() const { return Frame_.grid().pixels(Bounds_); }
+    RECT pixels() const { return Frame_.grid().pixels(this->bounds()); }
 
     /// Puts the widget's window, where there is one, where the widget stands.
     void placeWindow(HWND window) const {
@@ -43,18 +41,15 @@ private:
     virtual void enabledChanged() = 0;
 
     ControlFrame& Frame_;
-    Rect Bounds_;
-    bool Enabled_ = true;
 };
 
 /// What those keep that show text.
 template <class Base>
 class Win32TextualWidget : public Win32Widget<Base> {
 public:
-    Color foreColor() const override { return ForeColor_; }
     void setForeColor(Color color) override {
-        if (color == ForeColor_) return;
-        ForeColor_ = color;
+        if (color == this->foreColor()) return;
+        Base::setForeColor(color);
         refresh();
     }
 
@@ -62,8 +57,8 @@ public:
         Font_.choose(name, size, this->frame().grid());
         fontChanged();
     }
-    bool fontBold() const override { return Font_.bold(); }
     void setFontBold(bool bold) override {
+        Base::setFontBold(bold);
         Font_.setBold(bold);
         fontChanged();
     }
@@ -71,7 +66,7 @@ public:
     void refresh() override = 0;
 
 protected:
-    Win32TextualWidget(ControlFrame& frame, Color foreColor) : Win32Widget<Base>(frame), ForeColor_(foreColor) {}
+    using Win32Widget<Base>::Win32Widget;
 
     const Font& font() const { return Font_; }
 
@@ -85,7 +80,6 @@ private:
     virtual void fontChanged() = 0;
 
     Font Font_;
-    Color ForeColor_;
 };
 
 }  // namespace kel::win32
