@@ -152,16 +152,16 @@ TEST(a_field_that_is_disabled_or_turns_to_several_lines_hands_the_focus_on) {
     one.put_MultiLine(true);
     EXPECT(form.window().focused() == &form.one());
     EXPECT((GetWindowLongW(GetFocus(), GWL_STYLE) & ES_MULTILINE) != 0);
-    one.put_Enabled(false);
+    one.entry().put_Enabled(false);
     EXPECT(form.window().focused() == &form.two());
-    one.put_Enabled(true);
+    one.entry().put_Enabled(true);
     // Behind another window too.
     form.window().focus(form.one());
     HWND const root = GetAncestor(GetFocus(), GA_ROOT);
     {
         const HostWindow other;
         settle();
-        one.put_Enabled(false);
+        one.entry().put_Enabled(false);
     }
     SetActiveWindow(root);
     settle();
@@ -193,10 +193,10 @@ TEST(a_hand_picks_from_the_list_of_a_combo) {
     window->pick(placed, 1);
     EXPECT(combo.get_Text() == u"b");
     EXPECT_EQ(observer.Clicks, 2);
-    combo.put_Locked(true);
+    combo.entry().put_Locked(true);
     window->pick(placed, 2);
-    combo.put_Locked(false);
-    combo.put_Enabled(false);
+    combo.entry().put_Locked(false);
+    combo.entry().put_Enabled(false);
     window->pick(placed, 3);
     EXPECT(combo.get_Text() == u"b");
     EXPECT_EQ(observer.Clicks, 2);
