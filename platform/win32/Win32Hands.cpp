@@ -67,8 +67,8 @@ char32_t characterOf(std::int16_t code) {
 
 void postCharacter(HWND target, UINT message, char32_t character, LPARAM data) {
     if (character > 0xFFFF) {
-        PostMessageW(target, message, static_cast<WPARAM>(0xD7C0 + (character >> 10)), data);
-        PostMessageW(target, message, static_cast<WPARAM>(0xDC00 + (character & 0x3FF)), data);
+        PostMessageW(target, message, WPARAM{0xD7C0} + (character >> 10), data);
+        PostMessageW(target, message, WPARAM{0xDC00} + (character & 0x3FF), data);
     } else if (character != 0) {
         PostMessageW(target, message, static_cast<WPARAM>(character), data);
     }

@@ -47,7 +47,7 @@ void ProbeControl::Text1_KeyPress(char32_t& KeyAscii) {
 
 bool ProbeControl::Text1_Paste(std::u16string& Text) {
     auto changed = changePaste ? changePaste(Text) : Text;
-    if (changed) Text = *std::move(changed);
+    if (changed) Text = *changed;
     tell("Paste");
     return changed.has_value();
 }

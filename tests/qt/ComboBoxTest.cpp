@@ -97,7 +97,7 @@ TEST_F(Combo, HandsAndKeysWorkTheList) {
         const char* events;
     };
     const auto pick = [this](std::int32_t item) { return [this, item] { window().pick(*first, item); }; };
-    const auto press = [this](std::vector<KeyStroke> strokes) {
+    const auto press = [this](const std::vector<KeyStroke>& strokes) {
         return [this, strokes] {
             for (const KeyStroke& stroke : strokes) window().press(stroke);
         };

@@ -72,7 +72,7 @@ TEST(Showing, WhoeverLooksSeesTheTruth) {
     EXPECT_EQ(grabbed, shown.line.grab().toImage());
 
     shown.box.setText(u"aimed at by the mouse");
-    const QPointF end(shown.line.width() - 8, shown.line.height() / 2);
+    const QPointF end(shown.line.width() - 8, shown.line.height() / 2.0);
     QMouseEvent press(QEvent::MouseButtonPress, end, shown.line.mapToGlobal(end), Qt::LeftButton, Qt::LeftButton,
                       Qt::NoModifier);
     QApplication::sendEvent(&shown.line, &press);

@@ -42,7 +42,7 @@ std::string shownCode(long code);
 #define EXPECT_EQ(actual, wanted)                                                                             \
     do {                                                                                                      \
         const auto actualValue = (actual);                                                                    \
-        const decltype(actualValue) wantedValue = (wanted);                                                   \
+        const decltype(actualValue)& wantedValue = (wanted);                                                  \
         if (!(actualValue == wantedValue))                                                                    \
             kel::tests::fail(                                                                                 \
                 __FILE__, __LINE__,                                                                           \

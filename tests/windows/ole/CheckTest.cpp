@@ -157,7 +157,7 @@ TEST(check_keys_go_to_the_box_or_to_the_host) {
     key.hwnd = host.button();
     key.message = WM_KEYDOWN;
     key.lParam = 1;
-    for (const WPARAM pressed : {VK_LEFT, VK_DOWN, VK_SPACE}) {
+    for (const WPARAM pressed : std::initializer_list<WPARAM>{VK_LEFT, VK_DOWN, VK_SPACE}) {
         key.wParam = pressed;
         EXPECT_CODE(active->TranslateAccelerator(&key), S_OK);
     }
@@ -165,7 +165,7 @@ TEST(check_keys_go_to_the_box_or_to_the_host) {
     PostMessageW(host.button(), WM_KEYUP, VK_SPACE, static_cast<LPARAM>(0xC0000001U));
     pump();
     EXPECT(isChecked(host.Field.get()));
-    for (const WPARAM pressed : {VK_TAB, VK_ESCAPE}) {
+    for (const WPARAM pressed : std::initializer_list<WPARAM>{VK_TAB, VK_ESCAPE}) {
         key.wParam = pressed;
         EXPECT_CODE(active->TranslateAccelerator(&key), S_FALSE);
     }

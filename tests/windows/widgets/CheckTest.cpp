@@ -194,8 +194,9 @@ TEST(check_keeps_from_its_host_the_keys_that_act_in_it) {
         settle();
         return taken;
     };
-    for (const WPARAM code : {VK_LEFT, VK_UP, VK_RIGHT, VK_DOWN, VK_SPACE, VK_RETURN}) EXPECT(takes(code));
-    for (const WPARAM code : {VK_TAB, VK_ESCAPE, VK_F4, VK_HOME}) EXPECT(!takes(code));
+    for (const WPARAM code : std::initializer_list<WPARAM>{VK_LEFT, VK_UP, VK_RIGHT, VK_DOWN, VK_SPACE, VK_RETURN})
+        EXPECT(takes(code));
+    for (const WPARAM code : std::initializer_list<WPARAM>{VK_TAB, VK_ESCAPE, VK_F4, VK_HOME}) EXPECT(!takes(code));
     MSG enter{};
     enter.message = WM_KEYDOWN;
     enter.wParam = VK_RETURN;

@@ -101,7 +101,8 @@ TEST(a_locked_box_refuses_what_others_ask_it_to_cut_and_paste) {
     putClipboard(host.window(), L"new");
     stage.takeLog();
     SendMessageW(stage.edit(), EM_SETSEL, 0, 2);
-    for (const UINT message : {WM_CUT, WM_PASTE, WM_CLEAR}) SendMessageW(stage.edit(), message, 0, 0);
+    for (const UINT message : std::initializer_list<UINT>{WM_CUT, WM_PASTE, WM_CLEAR})
+        SendMessageW(stage.edit(), message, 0, 0);
     SendMessageW(stage.edit(), WM_CHAR, L'x', 1);
     EXPECT_EQ(stage.takeLog(), L"key:120");
     expectShown(stage, L"[fi]xed");
