@@ -65,7 +65,7 @@ void FirstSearch(benchmark::State& state) {
 }
 BENCHMARK(FirstSearch);
 
-/// Beginnings of items, each with a character behind that no item has there: a search cannot end early.
+/// Beginnings of items, each followed by a character that no item has there: a search cannot end early.
 std::vector<std::u16string> refusedBeginnings(int count) {
     constexpr std::size_t Searched = 50, MostLetters = 8;
     const auto items = names(count);

@@ -27,7 +27,7 @@ constexpr Color captionColor(bool mandatory) { return mandatory ? colors::System
 /// On entering a text or combo box with select-on-focus: Tab selects all, a click nothing.
 void selectOnFocus(TextEntry& box, bool tabKeyDown);
 
-/// Selects what the next typed character overwrites: the character behind the caret, unless something is
+/// Selects what the next typed character overwrites: the character after the caret, unless something is
 /// selected already. Never half a surrogate pair, and never a line break.
 void selectOverwritten(TextEntry& box);
 

@@ -47,11 +47,11 @@ struct FormObject {
 struct FormProperty {
     std::u16string name;
     FormValue value;
-    std::size_t line = 0;  ///< 1-based; of an added property the line it stands behind
+    std::size_t line = 0;  ///< 1-based; of an added property the line it stands after
 };
 
 /// A form file as its lines, which the file's own bytes back until they are changed. Everything up to the
-/// outermost End is in lines; the code behind it stays one piece.
+/// outermost End is in lines; the code after it stays one piece.
 struct FormModel {
     using LineId = std::uint32_t;
 

@@ -29,7 +29,7 @@ struct FormRaw {
 /// A property's value as the file has it. `-1  'True` is -1; `&H80000005&` is -2147483643.
 using FormValue = std::variant<std::int32_t, double, std::u16string, FormReference, FormRaw>;
 
-/// Reads what stands behind the = of a property; throws FormFault.
+/// Reads what stands after the = of a property; throws FormFault.
 FormValue readFormValue(std::string_view bytes, FormEncoding encoding);
 
 /// What the file will hold for a value that is to be written; nothing for Empty, Null, arrays, objects and

@@ -111,7 +111,7 @@ std::optional<KeyStroke> readKey(std::u16string_view word) {
     return stroke;
 }
 
-/// Reads one line behind its verb.
+/// Reads one line after its verb.
 class LineReader {
 public:
     LineReader(const std::string& file, std::size_t line, std::u16string_view rest)
@@ -147,7 +147,7 @@ public:
         return static_cast<std::int32_t>(number);
     }
 
-    /// All that is left, without the one blank behind the verb.
+    /// All that is left, without the one blank after the verb.
     std::u16string rest() {
         std::u16string_view text = Rest_.starts_with(u' ') ? Rest_.substr(1) : Rest_;
         Rest_ = {};

@@ -52,7 +52,7 @@ struct ScriptCommand {
     Verb verb = Verb::Where;
     std::size_t line = 0;   ///< 1-based
     std::u16string name;    ///< of a control
-    std::u16string member;  ///< behind the point
+    std::u16string member;  ///< after the point
     std::u16string text;    ///< of type and paste; a file of save and load
     KeyStroke stroke;       ///< of key
     std::vector<std::int32_t> numbers;

@@ -45,7 +45,7 @@ std::optional<std::array<std::int32_t, 3>> readTriple(std::u16string_view text, 
     return numbers;
 }
 
-/// The {HEX} behind \u.
+/// The {HEX} after \u.
 bool takeHexEscape(std::u16string_view& rest, std::u16string& text) {
     const std::size_t end = rest.find(u'}');
     if (rest.empty() || rest.front() != u'{' || end == std::u16string_view::npos) return false;

@@ -27,7 +27,7 @@ public:
     /// Selects from the selection's start; cut at the end of the text.
     virtual void setSelLength(std::int32_t length) = 0;
     virtual std::u16string selText() const = 0;
-    /// Replaces the selection as typing would, caret behind it, undo kept; the maximum length does not bind.
+    /// Replaces the selection as typing would, caret after it, undo kept; the maximum length does not bind.
     virtual void setSelText(std::u16string_view text) = 0;
 
     virtual bool locked() const = 0;

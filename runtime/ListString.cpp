@@ -34,7 +34,7 @@ std::u16string readListField(std::u16string_view text, std::int32_t& position, c
     }
     const auto start = static_cast<std::size_t>(position);
     const std::size_t end = fieldEnd(text, start, separator);
-    // One past the end marks a list that is read to its end: an empty last field, behind a final comma,
+    // One past the end marks a list that is read to its end: an empty last field, after a final comma,
     // starts at the end itself and is still to be read.
     position = static_cast<std::int32_t>(end + 1);
     return unquoted(text.substr(start, end - start));

@@ -9,7 +9,7 @@ namespace kel {
 /// several, so "ß" is not "ss".
 char32_t foldCase(char32_t point);
 
-/// Below 0, 0 or above 0 as `left` comes before `right`, equals it or comes behind it, by folded code points.
+/// Below 0, 0 or above 0 as `left` comes before `right`, equals it or comes after it, by folded code points.
 int compareFolded(std::u16string_view left, std::u16string_view right);
 
 /// As far as `beginning` goes; 0 when `text` begins with it.

@@ -261,7 +261,7 @@ private:
         return true;
     }
 
-    /// Words that stand between the parts of a date, alone or with a name right behind.
+    /// Words that stand between the parts of a date, alone or with a name right after.
     bool takeBehindWrittenWord(std::u16string_view word) {
         if (WrittenWords_.empty())
             WrittenWords_ = wordsWrittenBy(Format_) + u' ' + wordsWrittenBy(Region_.LongDateFormat);

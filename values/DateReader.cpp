@@ -69,7 +69,7 @@ bool resolve(const WrittenDate& written, const Surroundings& by, Date& out) {
     return true;
 }
 
-/// `text` is `whole` without the separators behind, one of which may be the last of the format or of a name.
+/// `text` is `whole` without the separators after it, one of which may be the last of the format or of a name.
 bool read(std::u16string_view text, std::u16string_view whole, const DateFormat& format, const Surroundings& by,
           Date& out) {
     WrittenDate written;

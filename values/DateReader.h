@@ -11,7 +11,7 @@
 ///
 /// - A text that has the layout of the format is read by it. Otherwise the order of day, month and year is the
 ///   format's, and the region's for what the format does not show. Whatever is neither letter nor digit
-///   separates; letters may touch digits. A first number of four digits is a year, with month and day behind; a last
+///   separates; letters may touch digits. A first number of four digits is a year, with month and day after; a last
 ///   one, in a format that begins with the year, makes the order the region's.
 /// - Months are numbers or names: the region's or English ones, in full or from three letters on, as long as they
 ///   fit one month. Case and accents do not matter. Weekdays are passed over, and so are the words that the

@@ -22,14 +22,14 @@ double toFinite(double number);
 /// negative zero.
 Decimal shortestDecimal(double number);
 
-/// Rounded to `places` behind the point, or in front of it when negative, half away from zero. What rounds
+/// Rounded to `places` after the point, or in front of it when negative, half away from zero. What rounds
 /// to zero has no sign.
 Decimal rounded(Decimal decimal, std::int32_t places);
 
 /// The nearest double; infinity beyond the largest one.
 double toDouble(const Decimal& decimal);
 
-/// The nearest double to the number that ASCII digits make, however many, as behind "0.", times ten to the
+/// The nearest double to the number that ASCII digits make, however many, as after "0.", times ten to the
 /// power of `exponent`; infinity beyond the largest one.
 double toDouble(std::string_view digits, std::int64_t exponent);
 

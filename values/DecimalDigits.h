@@ -27,7 +27,7 @@ public:
     bool isNegative() const { return IsNegative_; }
     /// Digits in front of the point, leading zeros not counted.
     std::size_t wholeDigits() const { return static_cast<std::size_t>(std::max(PointAt_, 0)); }
-    /// Digits behind the point that are there.
+    /// Digits after the point that are there.
     std::size_t fractionDigits() const { return static_cast<std::size_t>(std::max(Count_ - PointAt_, 0)); }
 
     /// Digits of the row in front of the point; negative when zeros stand between the point and the row.
@@ -49,7 +49,7 @@ private:
 };
 
 /// Writes a digit of the ten that begin with `zero` at `at`, which has room for two units; gives the place
-/// behind it.
+/// after it.
 inline char16_t* putDigit(char16_t* at, char32_t zero, unsigned digit) {
     const char32_t point = zero + digit;
     if (point <= 0xFFFF) {

@@ -15,16 +15,16 @@
 ///
 /// LITERALS, in every kind of expression
 ///   "text"     the text between the quotes; without a closing quote, all that follows
-///   \x         the character behind the backslash
+///   \x         the character after the backslash
 ///   others     every character that has no meaning below prints itself: blanks, $, -, +, (, ) and so on
 ///
 /// NUMBERS
 ///   0          a digit, or 0 where the number has none
 ///   #          a digit, or nothing where the number has none. A "#" between zeros counts as 0: "0#" shows
 ///              5 as 05.
-///   .          the region's decimal separator, shown even when no digit follows. The places behind it say
+///   .          the region's decimal separator, shown even when no digit follows. The places after it say
 ///              how many decimals there are: the number is rounded half away from zero on its shortest
-///              text, and with no places behind the point or no point, to a whole number. A second point
+///              text, and with no places after the point or no point, to a whole number. A second point
 ///              prints itself.
 ///   ,          between two places of the whole part: the whole part is grouped as the region does.
 ///              Behind the last place of the whole part, each one divides by a thousand: "#,##0,," shows
@@ -32,7 +32,7 @@
 ///   %          multiplies by a hundred, each of them, and prints itself
 ///   E+0 e+0    the number is shown as so many whole digits as there are places for, times a power of ten;
 ///   E-0 e-0    the zeros are the least digits of the power. With + it always has a sign, with - only a
-///              minus. There must be a place before, and one or more behind the sign.
+///              minus. There must be a place before, and one or more after the sign.
 ///
 ///   Whole digits for which there is no place print at the first one, so none is ever cut; literals
 ///   between places stay where they are: "00-00" shows 12345 as 123-45. Digits and the minus are the

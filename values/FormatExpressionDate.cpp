@@ -55,7 +55,7 @@ constexpr std::array<DigitPair, 100> DigitPairs = [] {
 }();
 
 /// Collects a text in a place of its own, so that most texts are made in one piece. Writers are given the place
-/// where to go on, and give back the place behind what they have written.
+/// where to go on, and give back the place after what they have written.
 class TextPlace {
 public:
     TextPlace() = default;

@@ -30,7 +30,7 @@ enum class DatePair : std::uint8_t { Day, Month, Century, YearOfCentury, Hour, M
 
 struct DateStep {
     DateField field;
-    DateField separator = DateField::Literal;  ///< that stands behind, or `Literal` for none
+    DateField separator = DateField::Literal;  ///< that stands after it, or `Literal` for none
     DatePair pair = DatePair::None;            ///< what the field shows, or a part of it
     std::uint8_t leastOfTwoDigits = 0;         ///< lesser ones are shown with one digit
     std::uint32_t textUnits = 0;               ///< of the text that goes with the field

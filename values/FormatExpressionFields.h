@@ -62,7 +62,7 @@ constexpr bool isPart(DateField field) { return field > DateField::TimeSeparator
 
 namespace detail {
 
-/// The field of one letter; those of two and more of it stand behind it in the enumeration.
+/// The field of one letter; those of two and more of it stand after it in the enumeration.
 struct LetterRun {
     DateField first = DateField::Literal;
     std::uint8_t most = 0;

@@ -52,7 +52,7 @@ private:
     std::uint32_t WholePlaces_ = 0;
     std::uint32_t LeastWhole_ = 0;  ///< digits always shown in front of the point
     std::uint32_t FractionPlaces_ = 0;
-    std::uint32_t LeastFraction_ = 0;  ///< and behind it
+    std::uint32_t LeastFraction_ = 0;  ///< and after it
     std::uint32_t LeastExponent_ = 1;
     std::int32_t Scale_ = 0;       ///< power of ten
     char16_t ExponentLetter_ = 0;  ///< 0: no exponent

@@ -12,7 +12,7 @@ namespace kel {
 struct NumberFormat {
     std::int16_t decimals = 2;  ///< 0 to 16; others are brought into this range
     bool leadingZero = true;    ///< 0.50, not .50; without it and without decimals zero is the empty text
-    bool trailingZeros = true;  ///< 12.50, not 12.5; without it a separator with nothing behind goes too
+    bool trailingZeros = true;  ///< 12.50, not 12.5; without it a separator with nothing after goes too
     bool group = false;         ///< as the region groups
     bool parentheses = false;   ///< (12.50), not -12.50
     bool typedSymbols = false;  ///< ASCII digits and "-", as keys give them, in place of the region's own
@@ -47,7 +47,7 @@ public:
 
     /// Separators in a whole number of this many digits; none where the region leaves short numbers alone.
     std::size_t countIn(std::size_t digits) const;
-    /// Digits behind the separator that is this one from the right, the last being 1.
+    /// Digits after the separator that is this one from the right, the last being 1.
     std::size_t digitsBehind(std::size_t separator) const { return Primary_ + (separator - 1) * Secondary_; }
 
 private:

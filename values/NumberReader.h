@@ -10,9 +10,9 @@
 ///
 /// - Digits are the region's or ASCII ones; the decimal separator is the region's. ".5" and "5." are numbers.
 /// - Group separators stand in front of the decimal separator, each with a digit before it and exactly as
-///   many digits behind it as the region groups; there need not be any. Blanks (also no-break, narrow and
+///   many digits after it as the region groups; there need not be any. Blanks (also no-break, narrow and
 ///   thin ones) are equal to one another, and so are straight and curly apostrophes.
-/// - One sign in front or behind: "+", "-", U+2212 or the region's own. Parentheses mean negative, a minus
+/// - One sign in front or after: "+", "-", U+2212 or the region's own. Parentheses mean negative, a minus
 ///   beside or inside them means no more: "-(5.00)" is -5.
 /// - An exponent may follow: "1E+20".
 /// - Blanks, line ends and writing direction marks around all of this, and blanks beside signs and

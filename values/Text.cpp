@@ -16,7 +16,7 @@ constexpr std::array<char16_t, 32> Windows1252Upper = {0x20AC, 0x0081, 0x201A, 0
                                                        0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                                        0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-/// The code point at `position`, which is moved behind it.
+/// The code point at `position`, which is moved after it.
 char32_t takeCodePoint(std::u16string_view text, std::size_t& position) {
     const char16_t unit = text[position++];
     if (isHighSurrogate(unit) && position < text.size() && isLowSurrogate(text[position])) {
@@ -59,7 +59,7 @@ constexpr Utf8Lead utf8Lead(unsigned char byte) {
     return {};
 }
 
-/// The code point at `position`, which is moved behind it; nothing when the bytes are no valid form.
+/// The code point at `position`, which is moved after it; nothing when the bytes are no valid form.
 std::optional<char32_t> takeUtf8(std::string_view bytes, std::size_t& position) {
     const Utf8Lead lead = utf8Lead(static_cast<unsigned char>(bytes[position++]));
     if (lead.trails < 0 || bytes.size() - position < static_cast<std::size_t>(lead.trails)) return std::nullopt;

@@ -64,7 +64,7 @@ constexpr bool joinsSyllable(Hangul before, Hangul after) {
     return false;
 }
 
-/// The second consonant of an Indic conjunct, behind the sign that takes the vowel from the first. In these scripts'
+/// The second consonant of an Indic conjunct, after the sign that takes the vowel from the first. In these scripts'
 /// blocks the letters and that sign stand at the same places.
 constexpr bool joinsConjunct(char32_t before, char32_t after) {
     const char32_t block = after & ~char32_t{0x7F};

@@ -85,8 +85,8 @@ public:
 private:
     bool isDigitAt(std::size_t position) const { return beginsWithDigit(Text_.substr(position), Region_.ZeroDigit); }
 
-    /// Takes what stands in front of the first digit and behind the last one off the text. False when there is
-    /// something else than words behind and one marker.
+    /// Takes what stands in front of the first digit and after the last one off the text. False when there is
+    /// something else than words after it and one marker.
     bool takeWords() {
         std::size_t first = 0;
         while (first < Text_.size() && !isDigitAt(first)) ++first;

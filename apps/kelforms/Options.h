@@ -16,7 +16,7 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-/// A command line taken apart. Options stand anywhere behind the command.
+/// A command line taken apart. Options stand anywhere after the command.
 struct Options {
     std::string command;
     std::vector<std::string> files;  ///< what is no option, in order

@@ -198,7 +198,7 @@ bool KelCombo::hostWantsChange() {
 }
 
 /// The first item that begins with what was typed comes in its place, the rest of it selected, so that the next
-/// character replaces it. Where only items may stand, the text behind the caret was such a rest, and a character that
+/// character replaces it. Where only items may stand, the text after the caret was such a rest, and a character that
 /// leads to no item is taken back.
 void KelCombo::completeTyping() {
     Combo1_->showDropDown(false);

@@ -49,7 +49,7 @@ std::size_t wordStart(std::u16string_view text, std::size_t caret) {
     return start;
 }
 
-/// At the end of the part that stands behind so many separators, where a backspace takes off what is seen.
+/// At the end of the part that stands after so many separators, where a backspace takes off what is seen.
 std::size_t caretBehind(std::size_t separators, std::u16string_view text) {
     std::size_t position = findSeparator(text, separators + 1);
     if (position == std::u16string_view::npos) return text.size();
@@ -98,7 +98,7 @@ FieldStep stepDate(const BoxState& box, Date today, std::int32_t delta, const Fi
         step.caret = field ? field->end : box.caret;
         return step;
     }
-    // The caret keeps to its word, also to one that shows no part: in "(1)" behind d/m/yyyy (q) the day steps.
+    // The caret keeps to its word, also to one that shows no part: in "(1)" after d/m/yyyy (q) the day steps.
     const std::u16string_view passed = isAsShown ? std::u16string_view(box.text).substr(0, box.caret)
                                                  : std::u16string_view(step.text).substr(0, field ? field->start : 0);
     step.caret = caretBehind(countSeparators(passed), step.text);

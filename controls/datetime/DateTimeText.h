@@ -130,7 +130,7 @@ struct StepPlace {
     std::optional<std::size_t> field{};
 };
 
-/// The first part that ends at this place or behind it, in a text that shows `value`; `usual` where there is none.
+/// The first part that ends at this place or after it, in a text that shows `value`; `usual` where there is none.
 StepPlace placeFrom(std::size_t start, Date value, const FieldRules& rules, const PartLetters& parts, StepPart usual);
 
 /// The field at that place in the text that shows `value`, or without a number the last that shows the part.

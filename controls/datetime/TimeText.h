@@ -14,7 +14,7 @@ inline constexpr DateBounds AllTimes{{0}, {static_cast<double>(SecondsPerDay - 1
 inline constexpr std::u16string_view DefaultTimeFormat = u"hh:nn am/pm";
 inline constexpr std::u16string_view InvalidTimeTitle = u"Invalid Time";
 
-/// `format` with minutes where it writes months behind an hour: "hh:mm" becomes "hh:nn", the first time it stands
+/// `format` with minutes where it writes months after an hour: "hh:mm" becomes "hh:nn", the first time it stands
 /// there.
 std::u16string correctedTimeFormat(std::u16string format);
 

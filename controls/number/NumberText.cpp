@@ -22,13 +22,13 @@ bool isDigit(char32_t key, char32_t zero) { return isAsciiDigit(key) || (key >= 
 
 TextSpan toEnd(std::size_t start, std::size_t textLength) { return {start, textLength - start}; }
 
-/// The character behind the caret, a pair as a whole; nothing at the end.
+/// The character after the caret, a pair as a whole; nothing at the end.
 TextSpan nextCharacter(std::u16string_view text, std::size_t caret) {
     const std::size_t units = std::min<std::size_t>(text.size() - caret, 1);
     return {caret, units + (splitsPair(text, caret + units) ? 1 : 0)};
 }
 
-/// A sign in front, unless there is one, and everything behind it selected.
+/// A sign in front, unless there is one, and everything after it selected.
 KeyEffect typeMinus(std::u16string_view text) {
     KeyEffect effect{.answer = KeyAnswer::Refused};
     std::size_t length = text.size();
@@ -80,7 +80,7 @@ std::u16string_view withoutPadding(std::u16string_view text) {
     return text.substr(first, std::max(first, end) - first);
 }
 
-/// The plain form of a pasted number. Digits alone are plain, with their leading zeros: behind a decimal
+/// The plain form of a pasted number. Digits alone are plain, with their leading zeros: after a decimal
 /// separator these count.
 std::u16string plainForm(std::u16string_view pasted, double number, std::int16_t decimals,
                          const RegionalSettings& region) {

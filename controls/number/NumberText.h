@@ -70,7 +70,7 @@ KeyEffect filterKey(char32_t key, std::u16string_view text, TextSpan selection, 
 
 /// The text that takes the place of `selection` when `pasted` is pasted: digits as they are, any other number
 /// in its editing form. Nothing when it is no number, would make `text` none, or makes it another one as it is than in
-/// that form: "0.5" behind "1" looks like 10.5, and its form ".5" makes 1.5.
+/// that form: "0.5" after "1" looks like 10.5, and its form ".5" makes 1.5.
 std::optional<std::u16string> filterPaste(std::u16string_view pasted, std::u16string_view text, TextSpan selection,
                                           std::int16_t decimals, const RegionalSettings& region);
 

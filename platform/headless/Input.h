@@ -21,7 +21,7 @@ public:
 
     bool tabHeld() const { return TabHeld_; }
 
-    /// Presses a key on the active window: behind the input that is under way, else at once.
+    /// Presses a key on the active window: after the input that is under way, else at once.
     void send(std::int16_t keyCode);
 
     /// Runs one input and the keys that are sent meanwhile.

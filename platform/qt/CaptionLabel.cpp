@@ -15,7 +15,7 @@ namespace kel::qt {
 
 namespace {
 
-/// A mark that stands behind a mark is read out.
+/// A mark that stands after a mark is read out.
 QString spokenOf(std::u16string_view caption) {
     if (caption.find(u'&') == caption.npos) return toQString(caption);
     QString spoken;

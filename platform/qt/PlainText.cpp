@@ -46,7 +46,7 @@ std::size_t startOf(const QTextBlock& block) {
 
 std::size_t lengthOf(const QTextBlock& block) { return static_cast<std::size_t>(block.length() - 1); }
 
-/// The block that holds `position`, or the line break behind it.
+/// The block that holds `position`, or the line break after it.
 QTextBlock blockAt(const QTextDocument& document, std::size_t position) {
     int first = 0;
     int behind = document.blockCount();

@@ -27,7 +27,7 @@ void appendText(std::vector<Piece>& pieces, const QString& text) {
     pieces.back().text += text;
 }
 
-/// The quoted text that begins at `position`, which is moved behind it; a doubled quote is a quote.
+/// The quoted text that begins at `position`, which is moved after it; a doubled quote is a quote.
 QString takeQuoted(const QString& format, qsizetype& position) {
     QString text;
     const bool isDoubled = format.mid(position, 2) == u"''";
@@ -44,7 +44,7 @@ QString takeQuoted(const QString& format, qsizetype& position) {
     return isDoubled ? QStringLiteral("'") : text;
 }
 
-/// The field that begins at `position`, which is moved behind it.
+/// The field that begins at `position`, which is moved after it.
 Piece takeField(const QString& format, qsizetype& position) {
     const QChar letter = format[position].toLower() == u'a' ? QChar(u'a') : format[position];
     const qsizetype start = position;

@@ -14,7 +14,7 @@ namespace kel::win32 {
 class ControlWindowOwner {
 public:
     /// Owner, control and window stay alive from `holdOpen` to the matching `letGo`. The window's procedures
-    /// stand between the two whenever they run, and touch nothing of their own behind the last `letGo`.
+    /// stand between the two whenever they run, and touch nothing of their own after the last `letGo`.
     virtual void holdOpen() = 0;
     virtual void letGo() = 0;
 

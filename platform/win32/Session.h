@@ -29,7 +29,7 @@ public:
 
     const std::shared_ptr<Clipboard>& clipboard() const { return Clipboard_; }
 
-    /// Presses a key on the active window, behind what is under way.
+    /// Presses a key on the active window, after what is under way.
     void send(std::int16_t keyCode);
 
     bool tabHeld() const { return TabHeld_; }

@@ -11,8 +11,8 @@ inline std::wstring wide(std::u16string_view text) { return {text.begin(), text.
 
 inline std::u16string unwiden(std::wstring_view text) { return {text.begin(), text.end()}; }
 
-/// What a window answers that is asked for its text: as much as fits in `capacity` units with a zero behind. Returns
-/// how much that is.
+/// What a window answers that is asked for its text: as much as fits in `capacity` units with a zero at its end.
+/// Returns how much that is.
 inline std::size_t copyText(std::u16string_view text, std::size_t capacity, wchar_t* out) {
     if (capacity == 0 || out == nullptr) return 0;
     const std::size_t units = std::min(capacity - 1, text.size());

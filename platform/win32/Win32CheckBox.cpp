@@ -252,7 +252,7 @@ LRESULT Win32CheckBox::notified(UINT notification, LPARAM /*details*/) {
 }
 
 /// The listener may do away with the window, which the system's button would not survive in the middle of its work:
-/// it is told behind that.
+/// it is told afterwards.
 LRESULT Win32CheckBox::released(UINT message, WPARAM wide, LPARAM data) {
     const LRESULT result = native(message, wide, data);
     if (std::exchange(Clicked_, false)) Box_.release();

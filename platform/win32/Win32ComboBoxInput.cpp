@@ -59,7 +59,7 @@ LRESULT Win32ComboBox::handle(HWND window, UINT message, WPARAM wide, LPARAM dat
 }
 
 /// The control may do away with the box, which the system's would not survive in the middle of its work: it is told
-/// behind that.
+/// after that.
 void Win32ComboBox::takePick() {
     if (NativeDepth_ > 0 || Picked_ == ListItems::NotFound) return;
     Editor_.pick(std::exchange(Picked_, ListItems::NotFound));

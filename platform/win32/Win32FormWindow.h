@@ -39,7 +39,7 @@ public:
     bool takesKey(const MSG& message);
     /// The control has the focus, and its field can have it no longer.
     void passFocusOn(PlacedWin32Control& from);
-    /// Presses and releases a key behind what is under way.
+    /// Presses and releases a key after what is under way.
     void sendKey(std::int16_t code);
 
 private:

@@ -79,7 +79,7 @@ LRESULT Win32UpDown::handle(UINT message, WPARAM wide, LPARAM data) {
 }
 
 /// The listener may do away with the window, which the system's control would not survive in the middle of its
-/// work: it is told behind that.
+/// work: it is told afterwards.
 LRESULT Win32UpDown::step(UINT message, WPARAM wide, LPARAM data) {
     Pressed_ = UpDown::Rest;
     const LRESULT result = base(message, wide, data);

@@ -81,7 +81,7 @@ private:
                  listed(server) + " |\n";
     }
 
-    /// The tests of all homes that have widgets, and behind them what only some of them have.
+    /// The tests of all homes that have widgets, and then what only some of them have.
     std::string scripts(const std::string& key) {
         Tests common = testsOf(0, key);
         for (std::size_t home = 1; home < WidgetHomes; ++home) {

@@ -16,7 +16,7 @@ inline constexpr std::size_t StreamHeadSize = 12;
 
 Bytes encode(const std::vector<StoredValue>& values);
 
-/// Length of the body behind this head. Throws AutomationError when it is no head of ours.
+/// Length of the body after this head. Throws AutomationError when it is no head of ours.
 std::size_t bodySize(std::span<const std::byte> head);
 
 /// The entries of a body; those of an unknown type are passed over. Throws AutomationError when the body
