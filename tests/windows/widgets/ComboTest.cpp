@@ -156,7 +156,7 @@ TEST(combo_keeps_what_other_programs_send_with_the_frame_hooked_in) {
     scene.box().installFrame(ButtonWidth);
     EXPECT(IsWindowUnicode(scene.combo()));
     SetWindowTextW(scene.combo(), L"\u03A9\u0436\u3042");
-    EXPECT_EQ(drawn(scene.box()), L"|\u03A9\u0436\u3042");
+    EXPECT_EQ(drawn(scene.box()), L"\u03A9\u0436\u3042|");
     EXPECT_EQ(textOf(scene.combo()), L"\u03A9\u0436\u3042");
 }
 
