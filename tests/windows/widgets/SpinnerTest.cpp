@@ -148,6 +148,7 @@ TEST(spinner_shows_that_it_takes_nothing) {
     // By its own state alone: the field beside it stays as it is.
     EXPECT(!IsWindowEnabled(scene.spinner()));
     scene.stage().window().setEnabled(true);
+    scene.stage().takeLog();
     scene.click(Lower);
     EXPECT_EQ(scene.stage().takeLog(), L"step:0");
 }
