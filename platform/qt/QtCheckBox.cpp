@@ -26,19 +26,13 @@ constexpr auto StateChanged = &QCheckBox::checkStateChanged;
 #endif
 
 Qt::CheckState stateFor(std::int32_t value) {
-    switch (value) {
-        case CheckBox::Unchecked: return Qt::Unchecked;
-        case CheckBox::Checked: return Qt::Checked;
-        default: return Qt::PartiallyChecked;
-    }
+    if (value == CheckBox::Grey) return Qt::PartiallyChecked;
+    return value == CheckBox::Checked ? Qt::Checked : Qt::Unchecked;
 }
 
-std::int32_t valueOf(Qt::CheckState state) {
-    switch (state) {
-        case Qt::Unchecked: return CheckBox::Unchecked;
-        case Qt::Checked: return CheckBox::Checked;
-        default: return CheckBox::Grey;
-    }
+std::int32_t valueFor(Qt::CheckState state) {
+    if (state == Qt::PartiallyChecked) return CheckBox::Grey;
+    return state == Qt::Checked ? CheckBox::Checked : CheckBox::Unchecked;
 }
 
 }  // namespace
@@ -73,7 +67,7 @@ void QtCheckBox::outOfDate() {
 /// Also by somebody who found Qt's own widget. An error must not fly through Qt, which is amid the toggling.
 void QtCheckBox::stateChangedInWidget() {
     atEdge([this] {
-        Box_.setValue(valueOf(checkState()));
+        Box_.setValue(valueFor(checkState()));
         return true;
     });
 }
