@@ -39,7 +39,8 @@ void DateTimeField::put_Format(const std::u16string& format) {
     Entry_.report<&DateTimeField::put_Format>();
     if (!stands) return CommitText();
     TextDirty_ = false;
-    if (!Entry_.get_Locked()) takeRead(dateIn(Value_));
+    const std::optional<Date> date = dateIn(Value_);
+    if (date && !Entry_.get_Locked()) takeRead(date);
     show(dateIn(Value_));
 }
 
