@@ -150,7 +150,8 @@ void EntryField::initUpDown(bool shown) {
 }
 
 void EntryField::initNew() {
-    nameNewCaption(Host_, Label1_);
+    Label1_.setCaption(Host_.container.displayName());
+    setWidth(Label1_, NewCaptionWidth);
     Control_.Resize();
 }
 
@@ -170,7 +171,8 @@ bool EntryField::layOut() {
     const DepthGuard guard(LoadingDepth_);
     const FieldLayout places = layOutField(layout(), Host_.container.size(), Label1_.bounds().width);
     Host_.container.setSize(places.control);
-    sizeCaption(Label1_, places);
+    const Rect caption = Label1_.bounds();
+    Label1_.move({caption.left, caption.top, places.captionWidth, places.captionHeight});
     Active_->move(places.field);
     if (UpDown1_) UpDown1_->move(places.spinner);
     return true;

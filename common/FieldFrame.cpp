@@ -2,16 +2,6 @@
 
 namespace kel {
 
-void nameNewCaption(ControlHost& host, Label& label) {
-    label.setCaption(host.container.displayName());
-    setWidth(label, NewCaptionWidth);
-}
-
-void sizeCaption(Label& label, const FieldLayout& layout) {
-    const Rect place = label.bounds();
-    label.move({place.left, place.top, layout.captionWidth, layout.captionHeight});
-}
-
 void setCaptionFont(const ControlHost& host, TextualWidget& widget) {
     const auto runtime = runtimeFor(host);
     widget.setFont(runtime->CaptionFontName(), runtime->CaptionFontSize());

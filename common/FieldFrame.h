@@ -6,14 +6,8 @@
 #include "host/Widgets.h"
 #include "library/SharedSettings.h"
 
-/// What every entry field does alike with its caption and with the host's run-time object.
+/// What controls ask of the host alike: its run-time object and the tooltip.
 namespace kel {
-
-/// A control that has just been placed in a designer goes by its name in the container.
-void nameNewCaption(ControlHost& host, Label& label);
-
-/// The caption's size changes, its place does not.
-void sizeCaption(Label& label, const FieldLayout& layout);
 
 void setCaptionFont(const ControlHost& host, TextualWidget& widget);
 void setFieldFont(const ControlHost& host, TextualWidget& widget);

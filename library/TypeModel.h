@@ -108,7 +108,6 @@ struct MemberRow {
     std::u16string_view help;
     bool isMethod = false;
     bool hidden = false;          ///< not listed by browsers and designers
-    bool isWritable = false;      ///< it has a `put`, which not every compiler may ask before the program runs
     bool putByReference = false;  ///< the put's argument is a pointer; the caller's variable never changes
     TypeTag type = TypeTag::None;
     Thunk get = nullptr;
@@ -407,7 +406,6 @@ constexpr PropertyRow<Get, Put> property(std::u16string_view name, std::int32_t 
     using Values = typename detail::Accessor<decltype(Put)>::Values;
     static_assert(std::is_same_v<Values, std::tuple<Value>>, "get and put of a property have one type");
     PropertyRow<Get, Put> row{property<Get>(name, id, help)};
-    row.isWritable = true;
     row.put = &detail::invoke<Put>;
     return row;
 }
@@ -505,24 +503,18 @@ private:
 class PutIndex {
 public:
     constexpr explicit PutIndex(std::span<const MemberRow> rows) {
-        for (std::size_t i = 0; i < rows.size(); ++i)
-            if (rows[i].isWritable) {
-                Puts_.at(Count_) = rows[i].put;
-                Rows_.at(Count_++) = static_cast<std::uint8_t>(i);
-            }
+        for (std::size_t i = 0; i < rows.size(); ++i) Puts_.at(i) = rows[i].put;
     }
 
     const MemberRow& find(std::span<const MemberRow> rows, Thunk put) const {
-        std::size_t i = 0;
-        while (i < Count_ && Puts_[i] != put) ++i;
-        assert(i < Count_);
-        return rows[Rows_.at(i)];
+        std::size_t row = 0;
+        while (row < rows.size() && Puts_[row] != put) ++row;
+        assert(row < rows.size());
+        return rows[row];
     }
 
 private:
-    std::array<Thunk, 24> Puts_{};
-    std::array<std::uint8_t, 24> Rows_{};
-    std::size_t Count_ = 0;
+    std::array<Thunk, 32> Puts_{};  ///< of each row; nullptr where it has none
 };
 
 /// Everything that a host can know of a class.
