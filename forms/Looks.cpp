@@ -73,4 +73,13 @@ std::u16string describeLayout(std::u16string_view name, const Rect& bounds, Cont
     return layout;
 }
 
+std::u16string describeTip(std::u16string_view name, Control& control) {
+    const WidgetSet widgets = control.widgets();
+    std::u16string tip;
+    if (widgets.field != nullptr) tip = widgets.field->toolTip();
+    if (widgets.checkBox != nullptr) tip = widgets.checkBox->toolTip();
+    if (widgets.picture != nullptr) tip = widgets.picture->toolTip();
+    return std::u16string(name) + u" tip " + quoteScriptText(tip);
+}
+
 }  // namespace kel

@@ -17,4 +17,7 @@ std::u16string describeLook(std::u16string_view name, Control& control);
 /// `agree 120 1200 4000 300 check 0 30 4000 240`, `job 120 1560 4500 300`
 std::u16string describeLayout(std::u16string_view name, const Rect& bounds, Control& control);
 
+/// `agree tip "What is meant"`: what comes up where the pointer rests on it
+std::u16string describeTip(std::u16string_view name, Control& control);
+
 }  // namespace kel

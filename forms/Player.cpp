@@ -138,6 +138,7 @@ void Player::execute(const ScriptCommand& command, const std::string& scriptFile
         case Verb::Answer: setAnswer(control(), command, scriptFile); break;
         case Verb::Show: print(describeLook(control().name(), control().control())); break;
         case Verb::Layout: print(describeLayout(control().name(), control().bounds(), control().control())); break;
+        case Verb::Tip: print(describeTip(control().name(), control().control())); break;
         case Verb::Reported: printReported(control()); break;
         case Verb::Bag: printBag(control()); break;
         case Verb::Resize: {

@@ -58,6 +58,7 @@ constexpr VerbRow Verbs[] = {
     {u"answer", Verb::Answer, Shape::Member, 1, 1},
     {u"show", Verb::Show, Shape::Name},
     {u"layout", Verb::Layout, Shape::Name},
+    {u"tip", Verb::Tip, Shape::Name},
     {u"reported", Verb::Reported, Shape::Name},
     {u"bag", Verb::Bag, Shape::Name},
     {u"resize", Verb::Resize, Shape::NameTwoNumbers, 2, 2},

@@ -39,6 +39,7 @@ struct ScriptCommand {
         Answer,
         Show,
         Layout,
+        Tip,
         Reported,
         Bag,
         Resize,

@@ -17,23 +17,6 @@ protected:
     std::u16string look() { return describeLook(u"it", It); }
 };
 
-TEST_F(Check, NewlyPlacedItIsUncheckedAndNamed) {
-    It.InitProperties();
-    EXPECT_EQ(look(), u"it unchecked caption \"it\" fore 80000008");
-    EXPECT_EQ(It.get_Enabled(), true);
-    EXPECT_EQ(It.get_Mandatory(), true);
-    EXPECT_EQ(It.get_FontBold(), false);
-    EXPECT_EQ(Form.told(), Lines{});
-
-    TestBag bag;
-    It.WriteProperties(bag);
-    ASSERT_TRUE(bag.Stored.contains(u"Value")) << "loaded without it, the box would come back checked";
-    OneControl copy(KelCheckModel);
-    copy.as<KelCheck>().ReadProperties(bag);
-    EXPECT_EQ(describeLook(u"it", copy.as<KelCheck>()), u"it unchecked caption \"it\" fore 8000000D");
-    EXPECT_EQ(copy.told(), (Lines{"Enabled", "Locked", "Mandatory", "Value"})) << "and no event";
-}
-
 TEST_F(Check, GreyIsNotTrueAndAClickUnchecksIt) {
     Box.setValue(CheckBox::Grey);
     EXPECT_EQ(Form.told(), Lines{"Change!"}) << "the box was set by code, but not by the control's";
@@ -78,15 +61,6 @@ TEST_F(Check, ALockedBoxTakesNoFocusAndIsDrawnEnabled) {
         Form.window().focus(Form.placed());
         EXPECT_EQ(Form.window().focused() != nullptr, state.enabled && !state.locked);
     }
-}
-
-TEST_F(Check, TheTooltipIsTheExtendersAndSetForBoth) {
-    Form.placed().setToolTipText(u"from the form");
-    It.Show();
-    EXPECT_EQ(Box.toolTip(), u"from the form");
-    It.TooltipSet(u"from code");
-    EXPECT_EQ(Box.toolTip(), u"from code");
-    EXPECT_EQ(Form.placed().toolTipText(), u"from code");
 }
 
 }  // namespace
