@@ -65,11 +65,15 @@ Value = False)");
 it 0 0 4000 300)");
 }
 
-TEST(FontBold, IsOfCaptionAndField) {
+TEST(EnabledAndFontBold, AreOfCaptionAndField) {
     OneControl form(KelNumberModel);
-    form.as<KelNumber>().entry().put_FontBold(true);
-    EXPECT_TRUE(form.as<KelNumber>().widgets().label->fontBold());
-    EXPECT_TRUE(form.as<KelNumber>().widgets().field->fontBold());
+    KelNumber& it = form.as<KelNumber>();
+    it.entry().put_FontBold(true);
+    it.entry().put_Enabled(false);
+    for (const TextualWidget* part : std::initializer_list<TextualWidget*>{it.widgets().label, it.widgets().field}) {
+        EXPECT_TRUE(part->fontBold());
+        EXPECT_FALSE(part->enabled());
+    }
 }
 
 }  // namespace
