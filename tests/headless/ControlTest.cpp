@@ -1,12 +1,18 @@
 #include <gtest/gtest.h>
 
+#include "common/basKelControls.h"
 #include "controls/Classes.h"
+#include "controls/datetime/KelDate.h"
 #include "controls/number/KelNumber.h"
+#include "controls/text/KelText.h"
 #include "forms/Looks.h"
 #include "forms/ScriptValue.h"
 #include "tests/check/OneControl.h"
+#include "tests/headless/Keys.h"
+#include "tests/headless/TestForm.h"
 #include "values/Text.h"
 
+/// What a control does that no script can see.
 namespace kel::test {
 namespace {
 
@@ -74,6 +80,41 @@ TEST(EnabledAndFontBold, AreOfCaptionAndField) {
         EXPECT_TRUE(part->fontBold());
         EXPECT_FALSE(part->enabled());
     }
+}
+
+TEST(PasswordField, HidesAPasswordInSeveralLinesToo) {
+    OneControl form(KelTextModel);
+    KelText& it = form.as<KelText>();
+    it.put_PasswordChar(u"*");
+    it.put_MultiLine(true);
+    EXPECT_EQ(dynamic_cast<TextBox&>(*it.widgets().entry).passwordChar(), U'*');
+}
+
+TEST(NumberField, TakesTheDecimalCommaOfItsRegion) {
+    TestForm form({.region = findRegion(u"de-DE")});
+    InitControls(form.home().settings(), form.home().system());
+    auto& number = static_cast<KelNumber&>(form.place(u"a", KelNumberModel).control());
+    press(form.window(), "Tab '1,5'");
+    EXPECT_EQ(std::get<double>(number.get_Value()), 1.5);
+}
+
+TEST(Wheel, StepsAFieldOnceANotch) {
+    const auto turn = [](OneControl& form, std::int32_t notches) {
+        EntryField::of(form.placed().control()).put_UpDown(true);
+        form.window().focus(form.placed());
+        dynamic_cast<headless::HeadlessWindow&>(form.window()).turnWheel(form.placed(), notches);
+    };
+    OneControl form(KelNumberModel);
+    turn(form, 3);
+    turn(form, -1);
+    EXPECT_EQ(std::get<double>(form.as<KelNumber>().get_Value()), 2);
+
+    OneControl dated(KelDateModel);
+    DateTimeField& field = DateTimeField::of(dated.placed().control());
+    field.put_Value(Date{41334});
+    turn(dated, 3);
+    turn(dated, -1);
+    EXPECT_EQ(std::get<Date>(field.get_Value()).Serial, 41336);
 }
 
 }  // namespace
