@@ -120,7 +120,8 @@ TEST_F(Progress, AReportedBoundIsInForceAndTheOtherFollows) {
     EXPECT_EQ(copy.as<KelProgressBar>().get_Max(), -7);
 }
 
-TEST_F(Progress, EnabledAndTooltipReachTheSurface) {
+TEST_F(Progress, ColorEnabledAndTooltipReachTheSurface) {
+    EXPECT_EQ(Surface.foreColor(), colors::SystemHighlight) << "the bar would be as black as its text";
     It.put_Enabled(false);
     EXPECT_FALSE(It.get_Enabled());
     EXPECT_FALSE(Surface.enabled());
