@@ -82,12 +82,15 @@ TEST(EnabledAndFontBold, AreOfCaptionAndField) {
     }
 }
 
-TEST(PasswordField, HidesAPasswordInSeveralLinesToo) {
+TEST(PasswordField, HidesItsTextInSeveralLinesTooAndKeepsItsFont) {
     OneControl form(KelTextModel);
     KelText& it = form.as<KelText>();
+    InitControls(form.home().settings(), form.home().system());
+    it.Show();
     it.put_PasswordChar(u"*");
     it.put_MultiLine(true);
     EXPECT_EQ(dynamic_cast<TextBox&>(*it.widgets().entry).passwordChar(), U'*');
+    EXPECT_EQ(it.widgets().field->font().name, it.widgets().label->font().name);
 }
 
 TEST(NumberField, TakesTheDecimalCommaOfItsRegion) {
@@ -105,16 +108,14 @@ TEST(Wheel, StepsAFieldOnceANotch) {
         dynamic_cast<headless::HeadlessWindow&>(form.window()).turnWheel(form.placed(), notches);
     };
     OneControl form(KelNumberModel);
-    turn(form, 3);
-    turn(form, -1);
-    EXPECT_EQ(std::get<double>(form.as<KelNumber>().get_Value()), 2);
+    for (const int notches : {2, 2, -1}) turn(form, notches);
+    EXPECT_EQ(std::get<double>(form.as<KelNumber>().get_Value()), 3);
 
     OneControl dated(KelDateModel);
     DateTimeField& field = DateTimeField::of(dated.placed().control());
     field.put_Value(Date{41334});
-    turn(dated, 3);
-    turn(dated, -1);
-    EXPECT_EQ(std::get<Date>(field.get_Value()).Serial, 41336);
+    for (const int notches : {2, 2, -1}) turn(dated, notches);
+    EXPECT_EQ(std::get<Date>(field.get_Value()).Serial, 41337);
 }
 
 }  // namespace
