@@ -23,8 +23,22 @@ public:
     void writeProperty(const PersistedRow& row, const Variant& value) override {
         if (!equalsDefault(value, row.writeDefault)) Entries.emplace_back(row.name, value);
     }
+    bool holds(std::u16string_view name) const {
+        return std::any_of(Entries.begin(), Entries.end(), [&](const auto& entry) { return entry.first == name; });
+    }
     std::vector<std::pair<std::u16string, Variant>> Entries;
 };
+
+/// Another value of the same type; a date where there is none. That date has a time of day, for controls that keep
+/// either.
+Variant another(const Variant& value) {
+    if (const bool* const truth = std::get_if<bool>(&value)) return !*truth;
+    if (const auto* const number = std::get_if<std::int16_t>(&value)) return static_cast<std::int16_t>(*number + 1);
+    if (const auto* const number = std::get_if<std::int32_t>(&value)) return *number + 1;
+    if (const double* const number = std::get_if<double>(&value)) return *number + 0.5;
+    if (const auto* const text = std::get_if<std::u16string>(&value)) return *text + u"x";
+    return Date{41334.75};
+}
 
 std::size_t repetitions(const ScriptCommand& command) {
     return command.numbers.empty() ? 1 : static_cast<std::size_t>(std::max(command.numbers.front(), 0));
@@ -141,6 +155,7 @@ void Player::execute(const ScriptCommand& command, const std::string& scriptFile
         case Verb::Tip: print(describeTip(control().name(), control().control())); break;
         case Verb::Reported: printReported(control()); break;
         case Verb::Bag: printBag(control()); break;
+        case Verb::Properties: printProperties(control()); break;
         case Verb::Resize: {
             const Rect old = control().bounds();
             control().setBounds({old.left, old.top, command.numbers[0], command.numbers[1]});
@@ -262,6 +277,35 @@ void Player::printBag(PlacedControl& control) {
               writeScriptValue(value, model.datesAreTimes));
     }
     if (bag.Entries.empty()) print(control.name() + u" bag nothing");
+}
+
+void Player::printProperties(PlacedControl& control) {
+    for (const MemberRow& row : control.control().model().members)
+        if (row.get != nullptr && row.put != nullptr) printProperty(control, row);
+}
+
+void Player::printProperty(PlacedControl& placed, const MemberRow& property) {
+    Control& control = placed.control();
+    const ClassModel& model = control.model();
+    std::vector<std::u16string>& reported = Reported_[&placed];
+    const Variant other = another(valueOf(placed, property));
+    reported.clear();
+    putMember(control, property, other, Home_.region());
+    use(model, "put", property.name);
+    ListingBag bag;
+    control.WriteProperties(bag);
+    if (bag.holds(property.name)) use(model, "save", property.name);
+    print(placed.name() + u"." + std::u16string(property.name) + u" = " +
+          writeScriptValue(valueOf(placed, property), model.datesAreTimes) + (reported.empty() ? u"" : u" reported") +
+          (bag.holds(property.name) ? u" saved" : u""));
+    reported.clear();
+}
+
+Variant Player::valueOf(PlacedControl& placed, const MemberRow& property) {
+    Variant value;
+    getMember(placed.control(), property, {}, value, Home_.region());
+    use(placed.control().model(), "get", property.name);
+    return value;
 }
 
 }  // namespace kel

@@ -51,6 +51,10 @@ private:
     void handOverRuntime();
     void printBag(PlacedControl& control);
     void printReported(PlacedControl& control);
+    void printProperties(PlacedControl& control);
+    void printProperty(PlacedControl& control, const MemberRow& property);
+    /// A property as it reads.
+    Variant valueOf(PlacedControl& control, const MemberRow& property);
 
     Home& Home_;
     std::vector<std::string> Printed_;

@@ -61,6 +61,7 @@ constexpr VerbRow Verbs[] = {
     {u"tip", Verb::Tip, Shape::Name},
     {u"reported", Verb::Reported, Shape::Name},
     {u"bag", Verb::Bag, Shape::Name},
+    {u"properties", Verb::Properties, Shape::Name},
     {u"resize", Verb::Resize, Shape::NameTwoNumbers, 2, 2},
     {u"where", Verb::Where, Shape::Nothing},
     {u"clock", Verb::Clock, Shape::Time},

@@ -42,6 +42,7 @@ struct ScriptCommand {
         Tip,
         Reported,
         Bag,
+        Properties,
         Resize,
         Where,
         Clock,
