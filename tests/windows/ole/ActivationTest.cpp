@@ -234,13 +234,6 @@ TEST(view_draws_without_a_window) {
     EXPECT_CODE(data->QueryGetData(&format), DV_E_FORMATETC);
 }
 
-TEST(extender_gives_and_takes_the_tooltip) {
-    Host host;
-    const auto field = host.place();
-    EXPECT_CODE(field->TooltipSet(Str(L"put by code")), S_OK);
-    EXPECT_EQ(host.Extended.ToolTipText, std::wstring(L"put by code"));
-}
-
 TEST(mnemonic_of_the_caption) {
     Host host;
     const auto field = host.place();

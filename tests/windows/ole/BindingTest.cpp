@@ -247,5 +247,8 @@ TEST(errors_carry_a_description) {
     EXPECT_CODE(handler.as<ISupportErrorInfo>()->InterfaceSupportsErrorInfo(__uuidof(_KelControlHandler)), S_OK);
     EXPECT_CODE(handler.as<ISupportErrorInfo>()->InterfaceSupportsErrorInfo(IID_IOleObject), S_FALSE);
     // The object was stored before it failed; a sound one takes its place.
-    EXPECT_CODE(early->SetRuntime(create(L"KelRuntime8.Runtime").get()), S_OK);
+    const auto sound = create(L"KelRuntime8.Runtime");
+    VARIANT right = plain(VT_DISPATCH);
+    right.pdispVal = sound.get();
+    EXPECT_CODE(invoke(handler.get(), L"SetRuntime", DISPATCH_METHOD, {right}), S_OK);
 }

@@ -214,35 +214,3 @@ TEST(manifest_makes_objects_without_registration) {
     DeactivateActCtx(0, cookie);
     ReleaseActCtx(made);
 }
-
-TEST(life_in_a_ready_made_container) {
-    HMODULE library = LoadLibraryW(L"atl100.dll");
-    EXPECT(library != nullptr);
-    const auto entry = [library](const char* name) { return reinterpret_cast<void*>(GetProcAddress(library, name)); };
-    reinterpret_cast<BOOL(STDMETHODCALLTYPE*)()>(entry("AtlAxWinInit"))();
-    HWND top = CreateWindowExW(0, L"STATIC", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 500, 200, nullptr, nullptr,
-                               nullptr, nullptr);
-    HWND holder = CreateWindowExW(0, L"AtlAxWin100", L"KelControls8.KelText", WS_CHILD | WS_VISIBLE, 20, 20, 300, 20,
-                                  top, nullptr, nullptr, nullptr);
-    EXPECT(holder != nullptr);
-    {
-        Ref<IUnknown> control;
-        EXPECT_CODE(reinterpret_cast<HRESULT(STDMETHODCALLTYPE*)(HWND, IUnknown**)>(entry("AtlAxGetControl"))(
-                        holder, control.receive()),
-                    S_OK);
-        const auto field = control.as<_KelText>();
-        EXPECT(field);
-        EXPECT_CODE(field->put_Text(Str(L"held")), S_OK);
-        LONG handle = 0;
-        EXPECT_CODE(field->get_hWnd(&handle), S_OK);
-        const HWND window = reinterpret_cast<HWND>(static_cast<INT_PTR>(handle));
-        EXPECT(IsChild(holder, window));
-        RECT area{};
-        GetClientRect(window, &area);
-        EXPECT_EQ(area.right, 300L);
-        EXPECT_EQ(area.bottom, 20L);
-    }
-    DestroyWindow(top);
-    pump();
-    EXPECT_CODE(Server(L"KelControls8.ocx").canUnload(), S_OK);
-}

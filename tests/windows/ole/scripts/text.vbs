@@ -3,39 +3,6 @@ Dim field, other, word
 On Error Resume Next
 
 Set field = CreateObject("KelControls8.KelText")
-field.Caption = "Name"
-Expect field.Caption, "Name", "Caption"
-field.CaptionWidth = 1200
-Expect field.CaptionWidth, CInt(1200), "CaptionWidth"
-field.CaptionWidth = "900"
-Expect field.CaptionWidth, CInt(900), "CaptionWidth from a string"
-field.CaptionWidth = -5
-Expect field.CaptionWidth, CInt(900), "CaptionWidth after a negative one"
-field.Enabled = False
-Expect field.Enabled, False, "Enabled"
-field.Enabled = True
-field.InsertMode = False
-Expect field.InsertMode, False, "InsertMode"
-field.Locked = True
-Expect field.Locked, True, "Locked"
-field.Locked = False
-field.Mandatory = False
-Expect field.Mandatory, False, "Mandatory"
-field.MaxLength = 7
-Expect field.MaxLength, CInt(7), "MaxLength"
-field.SelectOnFocus = True
-Expect field.SelectOnFocus, True, "SelectOnFocus"
-field.PasswordChar = "*+"
-Expect field.PasswordChar, "*", "PasswordChar"
-field.PasswordChar = ""
-Expect field.PasswordChar, "", "PasswordChar cleared"
-field.Refresh
-field.TooltipSet "tip"
-Expect TypeName(field.hWnd), "Long", "type of hWnd"
-Expect (field.hWnd <> 0), True, "hWnd is a window"
-Tested "script_text_properties"
-
-Set field = CreateObject("KelControls8.KelText")
 field.Text = "by default"
 Expect field & "", "by default", "the field itself"
 field.MultiLine = True
@@ -45,18 +12,6 @@ Expect field.Text, "a", "Text"
 Expect field.TextRaw, "a", "TextRaw after Text"
 Expect field.MultiLine, True, "MultiLine"
 Tested "script_text_default_member_and_lines"
-
-Set field = CreateObject("KelControls8.KelText")
-field.Mandatory = True
-Expect field.Valid, False, "Valid of an empty field"
-field.Text = "x"
-Expect field.Valid, True, "Valid"
-Expect field.Changed, False, "Changed after a put"
-field.TextOriginal = "y"
-Expect field.Changed, True, "Changed"
-field.TextSaved = "x"
-Expect field.ChangedSaved, False, "ChangedSaved"
-Tested "script_text_tracking"
 
 ' A put by reference leaves the caller's variable alone, whatever it holds.
 Set field = CreateObject("KelControls8.KelText")
