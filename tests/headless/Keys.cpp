@@ -67,7 +67,7 @@ std::string drawn(const TextEntry& box) {
     return toUtf8(text.insert(start + length, u"]").insert(start, u"["));
 }
 
-void put(TextBox& box, std::string_view drawing) {
+void put(TextEntry& box, std::string_view drawing) {
     std::u16string text = wide(drawing);
     const std::size_t start = text.find_first_of(u"|[");
     const std::size_t end = text.find(u']');

@@ -12,7 +12,7 @@ namespace kel::test {
 std::string drawn(const TextEntry& box);
 
 /// Puts a text that is drawn that way; the caret comes to stand at the selection's end.
-void put(TextBox& box, std::string_view drawing);
+void put(TextEntry& box, std::string_view drawing);
 
 /// Presses keys, separated by blanks: `'text'` types it, `paste'text'` pastes it, `Ctrl+Left*3` is a key.
 void press(FormWindow& window, std::string_view keys);

@@ -33,7 +33,6 @@ protected:
     }
     KelCheck& check() { return checkOf(checked); }
     qt::QtCheckBox& box() { return boxOf(checked); }
-    QWidget& fieldAbove() { return dynamic_cast<QWidget&>(*above.control().widgets().field); }
     bool isFocused() { return form.window().focused() == &checked; }
     void press(const KeyStroke& stroke) { form.window().press(stroke); }
     QImage picture() { return box().grab().toImage(); }
@@ -129,24 +128,6 @@ TEST_F(Check, AHeldKeyOrButtonTogglesOnceWhenItIsLetGo) {
     moveMouse(box(), {5, -20});
     releaseMouse(box(), {5, -20});
     EXPECT_EQ(form.takeLog(), "") << "let go beside it";
-}
-
-TEST_F(Check, AReleaseThatWentElsewhereLeavesItUp) {
-    form.window().focus(above);
-    // As with a message box that somebody shows who has lost the focus.
-    const auto connection = QObject::connect(qApp, &QApplication::focusChanged, qApp, [this] {
-        releaseMouse(fieldAbove(), {5, 5});
-    });
-    pressMouse(box(), {5, 5});
-    QObject::disconnect(connection);
-    EXPECT_FALSE(box().isDown());
-
-    pressMouse(box(), {5, 5});
-    ASSERT_TRUE(box().isDown());
-    QWidget front(nullptr, Qt::Dialog);
-    front.setWindowModality(Qt::ApplicationModal);
-    front.show();
-    EXPECT_FALSE(box().isDown()) << "a message box has come in front";
 }
 
 CheckBox& widgetOf(const KelCheckWidget& field) { return *field.control().widgets().checkBox; }

@@ -206,16 +206,5 @@ TEST_F(MixedWindow, MnemonicsLeadToTheField) {
     EXPECT_EQ(QApplication::focusWidget(), boxOf(second));
 }
 
-TEST_F(MixedWindow, EnterMovesOnAsTab) {
-    second.setSelectOnFocus(true);
-    second.setText(QStringLiteral("text"));
-    between.setParent(nullptr);
-    first.setFocus();
-    qt::strikeKey({keys::Enter, 0, NoModifier});
-    settle();
-    EXPECT_EQ(QApplication::focusWidget(), boxOf(second));
-    EXPECT_EQ(second.control().widgets().entry->selLength(), 4) << "seen as Tab";
-}
-
 }  // namespace
 }  // namespace kel::test

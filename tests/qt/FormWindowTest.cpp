@@ -9,26 +9,6 @@
 namespace kel::test {
 namespace {
 
-TEST(FormWindow, StartsWithTheFocusNowhere) {
-    TextForm form(qt::makeHome({}));
-    PlacedControl& first = form.place(u"a");
-    PlacedControl& last = form.place(u"b");
-    form.show();
-    EXPECT_EQ(form.window().focused(), nullptr);
-    typeInto(form.window(), U"x");
-    EXPECT_EQ(form.takeLog(), "") << "a key without the focus does nothing";
-    form.window().press({keys::Tab, 0, NoModifier});
-    EXPECT_EQ(form.window().focused(), &first);
-
-    textOf(first).entry().put_Enabled(false);
-    EXPECT_EQ(form.window().focused(), &last);
-    textOf(last).entry().put_Enabled(false);
-    EXPECT_EQ(form.window().focused(), nullptr);
-    textOf(last).entry().put_Enabled(true);
-    form.window().press({keys::Tab, 0, ShiftKey});
-    EXPECT_EQ(form.window().focused(), &last) << "back from nowhere is the last";
-}
-
 TEST(FormWindow, TabFollowsTheIndexNotThePlace) {
     TextForm form(qt::makeHome({}));
     ForeignBlock frame;

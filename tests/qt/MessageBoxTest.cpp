@@ -64,17 +64,6 @@ TEST_F(AMessageBox, SaysWhatItIsAbout) {
     EXPECT_EQ(shown, QStringLiteral("Invalid Value/Please enter <one>."));
 }
 
-TEST_F(AMessageBox, IsClosedByEscape) {
-    bool isUp = true;
-    const WhileABoxIsUp acting([&isUp](QMessageBox& box) {
-        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-        QApplication::sendEvent(&box, &escape);
-        isUp = box.isVisible();
-    });
-    tell(first);
-    EXPECT_FALSE(isUp);
-}
-
 TEST_F(AMessageBox, IsNoChangeOfFocus) {
     boxOf(first).setText(u"text");
     boxOf(first).setSelStart(1);
@@ -86,14 +75,6 @@ TEST_F(AMessageBox, IsNoChangeOfFocus) {
     EXPECT_EQ(ProbeControl::takeLog(), "");
     EXPECT_EQ(drawn(boxOf(first)), "t[ex]t");
     EXPECT_EQ(QApplication::focusWidget(), &boxWidgetOf(first)) << "and the user may go on";
-}
-
-TEST_F(AMessageBox, LetsTheControlTakeTheFocusBehindIt) {
-    const WhileABoxIsUp acting([](QMessageBox&) {});
-    tell(second);
-    boxOf(second).setFocus();
-    QCoreApplication::processEvents();
-    EXPECT_EQ(ProbeControl::takeLog(), "a.LostFocus a.ExitFocus b.EnterFocus b.GotFocus");
 }
 
 TEST_F(AMessageBox, LeavesTheFocusWhereItWentMeanwhile) {

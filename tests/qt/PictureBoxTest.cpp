@@ -8,7 +8,6 @@
 #include "platform/qt/FieldColors.h"
 #include "platform/qt/QtHome.h"
 #include "platform/qt/QtPictureBox.h"
-#include "tests/qt/QtForm.h"
 
 namespace kel::test {
 namespace {
@@ -175,38 +174,6 @@ TEST_F(Picture, IsReadOutAsAProgressBarByTheNameOfItsControl) {
     EXPECT_EQ(spoken->text(QAccessible::Name), QStringLiteral("Copying"));
     box().setAccessibleName(QStringLiteral("Bar"));
     EXPECT_EQ(spoken->text(QAccessible::Name), QStringLiteral("Bar"));
-}
-
-TEST_F(Picture, HasTheTooltipOfItsControl) {
-    field.setToolTip(QStringLiteral("So far"));
-    EXPECT_EQ(bar().widgets().picture->toolTip(), u"So far");
-}
-
-TEST(ProgressOnAForm, TakesNoFocusAndIsNoStopOnTheWay) {
-    TextForm form(qt::makeHome({}));
-    // Placed against the Tab key's way.
-    const auto place = [&form](const std::u16string& name, std::int32_t tabIndex, const ClassModel& model) {
-        const Rect bounds{120, 375 * tabIndex, 4500, 300};
-        return &form.placeAt({.name = name, .bounds = bounds, .tabIndex = tabIndex}, model);
-    };
-    PlacedControl* const last = place(u"last", 4, KelTextModel);
-    place(u"later", 3, KelProgressBarModel);
-    PlacedControl* const middle = place(u"middle", 2, KelTextModel);
-    PlacedControl* const job = place(u"job", 1, KelProgressBarModel);
-    PlacedControl* const first = place(u"first", 0, KelTextModel);
-    textOf(*middle).entry().put_Enabled(false);
-    form.show();
-    textOf(*middle).entry().put_Enabled(true);
-    FormWindow& window = form.window();
-    window.focus(*first);
-    window.focus(*job);
-    window.click(*job, 0);
-    window.rightClick(*job);
-    EXPECT_EQ(window.focused(), first);
-    for (PlacedControl* const next : {middle, last, first, middle}) {
-        window.press({keys::Tab});
-        EXPECT_EQ(window.focused(), next);
-    }
 }
 
 }  // namespace

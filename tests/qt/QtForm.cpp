@@ -52,25 +52,6 @@ TextEntry& boxOf(PlacedControl& control) { return *control.control().widgets().e
 
 QWidget& widgetOf(TextEntry& box) { return dynamic_cast<QWidget&>(box); }
 
-std::string drawn(const TextEntry& box) {
-    std::u16string text = box.text();
-    const auto start = static_cast<std::size_t>(box.selStart());
-    const auto length = static_cast<std::size_t>(box.selLength());
-    if (length == 0) return toUtf8(text.insert(start, u"|"));
-    return toUtf8(text.insert(start + length, u"]").insert(start, u"["));
-}
-
-void put(TextEntry& box, std::string_view drawing) {
-    std::u16string text = *fromUtf8(drawing);
-    const std::size_t start = text.find_first_of(u"|[");
-    const std::size_t end = text.find(u']');
-    const std::size_t length = end == std::u16string::npos ? 0 : end - start - 1;
-    std::erase_if(text, [](char16_t unit) { return unit == u'|' || unit == u'[' || unit == u']'; });
-    box.setText(text);
-    box.setSelStart(static_cast<std::int32_t>(start));
-    box.setSelLength(static_cast<std::int32_t>(length));
-}
-
 void typeInto(FormWindow& window, std::u32string_view characters) {
     for (const char32_t character : characters) window.press(strokeFor(character));
 }

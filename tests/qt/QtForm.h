@@ -9,6 +9,7 @@
 #include "controls/text/KelText.h"
 #include "forms/Home.h"
 #include "host/Widgets.h"
+#include "tests/headless/Keys.h"
 
 namespace kel::test {
 
@@ -46,11 +47,6 @@ TextEntry& boxOf(PlacedControl& control);
 
 /// The Qt widget behind a box.
 QWidget& widgetOf(TextEntry& box);
-
-/// The text with its caret or selection: "12.|34", "1[2.3]4".
-std::string drawn(const TextEntry& box);
-/// Puts text and selection as `drawn` shows them.
-void put(TextEntry& box, std::string_view drawing);
 
 void typeInto(FormWindow& window, std::u32string_view characters);
 

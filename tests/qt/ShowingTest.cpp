@@ -44,15 +44,6 @@ TEST(Showing, ManyEditsAreShownAtOnce) {
     EXPECT_EQ(changes.size(), 1);
 }
 
-TEST(Showing, GoesOnAfterEachTurn) {
-    ShownLine shown;
-    for (const char16_t* const text : {u"one", u"two", u"three"}) {
-        shown.box.setText(text);
-        QCoreApplication::sendPostedEvents();
-        EXPECT_EQ(shown.line.text(), QString::fromUtf16(text));
-    }
-}
-
 TEST(Showing, WhoeverLooksSeesTheTruth) {
     ShownLine shown;
     const auto asked = [&shown](Qt::InputMethodQuery what) {

@@ -19,8 +19,7 @@ int steps(const std::string& log) { return ProbeControl::countOf(log, "Spin"); }
 /// Two fields; the spinner of the second one is worked while the first has the focus.
 class Spinner : public testing::Test {
 protected:
-    explicit Spinner(bool tabStop = true)
-        : first(form.place(u"a")), second(form.place(u"b", ProbeControl::SingleLine, tabStop)) {
+    Spinner() : first(form.place(u"a")), second(form.place(u"b")) {
         form.show();
         form.window().focus(first);
         ProbeControl::takeLog();
@@ -28,15 +27,6 @@ protected:
 
     QWidget& spinner() { return spinnerWidgetOf(second); }
     void press(bool upper) { pressMouse(spinner(), buttonOf(spinner(), upper)); }
-    /// A control that gets its focus by the spinner has to know it by then.
-    void expectFocusComesWithTheStep() {
-        std::int32_t value = UpDown::Rest;
-        probe(second).on("GotFocus", [&] { value = probe(second).spinner().value(); });
-        press(true);
-        EXPECT_EQ(value, UpDown::Up);
-        EXPECT_EQ(ProbeControl::takeLog(), "a.LostFocus a.ExitFocus b.EnterFocus b.GotFocus b.Spin2");
-        release();
-    }
     void release() { releaseMouse(spinner(), buttonOf(spinner(), true)); }
     void moveTo(const QPoint& place) { moveMouse(spinner(), place); }
 
@@ -59,12 +49,14 @@ protected:
     PlacedControl& second;
 };
 
-struct SpinnerOffTheTabOrder : Spinner {
-    SpinnerOffTheTabOrder() : Spinner(false) {}
-};
-
 TEST_F(Spinner, GivesNoFocusBeforeItsControlDoes) {
-    expectFocusComesWithTheStep();
+    // A control that gets its focus by the spinner has to know it by then.
+    std::int32_t value = UpDown::Rest;
+    probe(second).on("GotFocus", [&] { value = probe(second).spinner().value(); });
+    press(true);
+    EXPECT_EQ(value, UpDown::Up);
+    EXPECT_EQ(ProbeControl::takeLog(), "a.LostFocus a.ExitFocus b.EnterFocus b.GotFocus b.Spin2");
+    release();
     probe(second).box().setText(u"12.5");
     probe(second).box().setSelStart(1);
     probe(second).box().setSelLength(2);
@@ -74,24 +66,6 @@ TEST_F(Spinner, GivesNoFocusBeforeItsControlDoes) {
     EXPECT_EQ(ProbeControl::takeLog(), "b.Spin0");
     EXPECT_EQ(probe(second).box().selText(), u"2.") << "the selection is the control's affair";
     EXPECT_EQ(probe(second).spinner().value(), UpDown::Rest);
-}
-
-TEST_F(SpinnerOffTheTabOrder, DoesNeither) { expectFocusComesWithTheStep(); }
-
-TEST_F(Spinner, IsNoTabStop) {
-    form.window().press({keys::Tab, 0, NoModifier});
-    EXPECT_EQ(form.focused(), "b");
-    form.window().press({keys::Tab, 0, NoModifier});
-    EXPECT_EQ(form.focused(), "a");
-}
-
-TEST_F(Spinner, IsClickedByTheFormsHand) {
-    form.window().spin(second, true);
-    EXPECT_EQ(form.focused(), "b");
-    EXPECT_EQ(steps(ProbeControl::takeLog()), 1);
-    form.window().spin(second, false);
-    EXPECT_EQ(ProbeControl::takeLog(), "b.Spin0");
-    EXPECT_TRUE(rests()) << "let go again";
 }
 
 TEST_F(Spinner, RepeatsWhileItIsHeldAndPointedAt) {

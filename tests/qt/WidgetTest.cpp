@@ -223,19 +223,6 @@ TEST(Widget, MayGoInASlotOfItsOwn) {
     EXPECT_TRUE(field.isNull());
 }
 
-TEST(Widget, ShowsItsPasswordCharacter) {
-    KelTextWidget field;
-    auto& edit = dynamic_cast<QLineEdit&>(boxOf(field));
-    field.show();
-    field.setText(QStringLiteral("abc"));
-    field.setPasswordChar(QStringLiteral("#!"));
-    EXPECT_EQ(edit.displayText(), QStringLiteral("###"));
-    field.setPasswordChar(QStringLiteral("x"));
-    EXPECT_EQ(edit.displayText(), QStringLiteral("xxx"));
-    field.setPasswordChar({});
-    EXPECT_EQ(edit.displayText(), QStringLiteral("abc"));
-}
-
 TEST(Widget, ShowsWhatItWasGivenOutOfSight) {
     KelTextWidget field;
     auto& edit = dynamic_cast<QLineEdit&>(boxOf(field));

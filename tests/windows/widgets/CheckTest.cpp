@@ -329,13 +329,6 @@ TEST(check_states_look_different_on_the_screen) {
     EXPECT(unchecked != checked);
     EXPECT(checked != grey);
     EXPECT(grey != unchecked);
-    scene.enter();
-    postMouse(scene.window(), WM_LBUTTONDOWN, MK_LBUTTON, Middle);
-    settle();
-    EXPECT(pixels() != grey);
-    postMouse(scene.window(), WM_LBUTTONUP, 0, Middle);
-    settle();
-    EXPECT(pixels() == unchecked);
 }
 
 }  // namespace kel::tests

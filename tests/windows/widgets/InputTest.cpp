@@ -8,22 +8,6 @@
 /// Keys, mouse and focus as the system delivers them.
 namespace kel::tests {
 
-TEST(keys_come_through_the_layout_with_their_characters) {
-    HostWindow host;
-    Stage stage;
-    stage.placeOn(host.window());
-    SetFocus(stage.edit());
-    stage.takeLog();
-    strike(stage.edit(), 'A');
-    EXPECT_EQ(stage.takeLog(), L"down:65 key:97 change");
-    strike(stage.edit(), VK_RETURN);
-    EXPECT_EQ(stage.takeLog(), L"down:13 key:13");
-    strike(stage.edit(), VK_BACK);
-    EXPECT_EQ(stage.takeLog(), L"down:8 key:8 change");
-    strike(stage.edit(), VK_TAB);
-    EXPECT_EQ(stage.takeLog(), L"");
-}
-
 TEST(the_keypads_decimal_key_is_known_by_its_code) {
     HostWindow host;
     Stage stage;

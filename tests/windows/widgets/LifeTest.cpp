@@ -15,23 +15,6 @@ namespace kel::tests {
 
 namespace {
 
-BOOL CALLBACK countChild(HWND /*window*/, LPARAM count) {
-    ++*reinterpret_cast<int*>(count);
-    return TRUE;
-}
-
-BOOL CALLBACK countTop(HWND window, LPARAM count) {
-    ++*reinterpret_cast<int*>(count);
-    EnumChildWindows(window, &countChild, count);
-    return TRUE;
-}
-
-int countWindows() {
-    int count = 0;
-    EnumThreadWindows(GetCurrentThreadId(), &countTop, reinterpret_cast<LPARAM>(&count));
-    return count;
-}
-
 BOOL CALLBACK countTools(HWND window, LPARAM count) {
     wchar_t name[32]{};
     GetClassNameW(window, name, 32);
@@ -51,19 +34,6 @@ constexpr DWORD Green = 0x00FF00;
 constexpr DWORD Red = 0xFF0000;
 
 }  // namespace
-
-TEST(widgets_work_without_any_window) {
-    Stage stage;
-    stage.label().setCaption(u"&Name");
-    stage.box().setText(u"text");
-    stage.box().setSelStart(2);
-    stage.box().setMaxLength(3);
-    EXPECT_EQ(drawn(stage.box()), L"te|xt");
-    EXPECT_EQ(stage.takeLog(), L"change");
-    EXPECT_EQ(static_cast<int>(stage.window().mnemonic()), int{'N'});
-    stage.box().setFocus();
-    EXPECT_EQ(stage.takeLog(), L"");
-}
 
 TEST(a_destroyed_parent_leaves_the_widgets_and_the_window_comes_back) {
     Stage stage;
@@ -98,20 +68,6 @@ TEST(a_parent_destroyed_under_the_focus_has_the_control_left) {
     EXPECT_EQ(stage.takeLog(), L"lost exit");
 }
 
-TEST(moving_to_another_parent_keeps_text_and_window) {
-    HostWindow one;
-    HostWindow two;
-    Stage stage;
-    stage.placeOn(one.window());
-    stage.box().setText(u"text");
-    HWND const before = stage.window().handle();
-    stage.window().setParent(nullptr);
-    stage.placeOn(two.window());
-    EXPECT(stage.window().handle() == before);
-    EXPECT(GetParent(before) == two.window());
-    EXPECT_EQ(shownLine(stage.edit()), L"text");
-}
-
 TEST(tooltips_outlive_the_window_that_the_control_was_in) {
     Stage stage;
     stage.box().setToolTip(u"tip");
@@ -124,28 +80,6 @@ TEST(tooltips_outlive_the_window_that_the_control_was_in) {
     stage.placeOn(two.window());
     one.reset();
     EXPECT_EQ(countToolTips(), 1);
-}
-
-TEST(two_hundred_controls_come_and_go_without_a_trace) {
-    HostWindow host;
-    const auto cycle = [&host] {
-        Stage stage;
-        stage.label().setCaption(u"caption");
-        stage.box().setFont(u"Tahoma", 9);
-        stage.box().setToolTip(u"tip");
-        stage.box().setBackColor(0x00C0FFC0);
-        stage.spinner().setVisible(true);
-        stage.placeOn(host.window());
-        SetFocus(stage.edit());
-        UpdateWindow(stage.edit());
-    };
-    cycle();
-    const int windows = countWindows();
-    const DWORD drawing = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-    for (int i = 0; i < 200; ++i) cycle();
-    EXPECT_EQ(countWindows(), windows);
-    // The system keeps some of its own.
-    EXPECT(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS) <= drawing + 20);
 }
 
 TEST(the_picture_is_the_same_with_and_without_a_window) {

@@ -133,18 +133,4 @@ TEST(picture_has_no_border_and_takes_no_focus) {
     EXPECT(!IsWindowEnabled(scene.window()));
 }
 
-TEST(picture_measures_texts_in_its_font) {
-    PictureScene scene;
-    const std::int32_t twips = machine().twipsPerPixel();
-    scene.box().setFont(u"Tahoma", 8);
-    const Size small = scene.box().extentOf(u"100%");
-    EXPECT_EQ(small.width % twips, 0);
-    EXPECT(small.width > 15 * twips && small.width < 50 * twips);
-    EXPECT(small.height > 8 * twips && small.height < 20 * twips);
-    scene.box().setFont(u"Tahoma", 16);
-    const Size large = scene.box().extentOf(u"100%");
-    EXPECT(large.width > small.width * 3 / 2 && large.height > small.height * 3 / 2);
-    EXPECT_EQ(scene.box().extentOf(u"").width, 0);
-}
-
 }  // namespace kel::tests

@@ -138,21 +138,6 @@ TEST(spinner_does_not_step_again_while_its_handler_is_at_it) {
     scene.release(Upper);
 }
 
-TEST(spinner_shows_that_it_takes_nothing) {
-    SpinnerStage scene;
-    EXPECT(IsWindowEnabled(scene.spinner()));
-    scene.stage().spinner().setEnabled(false);
-    EXPECT(!IsWindowEnabled(scene.spinner()));
-    scene.stage().spinner().setEnabled(true);
-    scene.stage().window().setEnabled(false);
-    // By its own state alone: the field beside it stays as it is.
-    EXPECT(!IsWindowEnabled(scene.spinner()));
-    scene.stage().window().setEnabled(true);
-    scene.stage().takeLog();
-    scene.click(Lower);
-    EXPECT_EQ(scene.stage().takeLog(), L"step:0");
-}
-
 TEST(spinner_comes_back_with_its_window) {
     Stage stage;
     {

@@ -76,38 +76,6 @@ TEST(text_from_outside_goes_through_the_box) {
     }
 }
 
-TEST(a_text_put_from_outside_can_be_undone_in_one_step) {
-    HostWindow host;
-    Stage stage;
-    stage.placeOn(host.window());
-    stage.box().setText(u"one");
-    EXPECT(SendMessageW(stage.edit(), EM_CANUNDO, 0, 0) == FALSE);
-    SendMessageW(stage.edit(), EM_SETSEL, 0, -1);
-    expectShown(stage, L"[one]");
-    SendMessageW(stage.edit(), EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"two"));
-    EXPECT(SendMessageW(stage.edit(), EM_CANUNDO, 0, 0) != FALSE);
-    stage.takeLog();
-    SendMessageW(stage.edit(), WM_UNDO, 0, 0);
-    EXPECT_EQ(stage.takeLog(), L"change");
-    expectShown(stage, L"[one]");
-}
-
-TEST(a_locked_box_refuses_what_others_ask_it_to_cut_and_paste) {
-    HostWindow host;
-    Stage stage;
-    stage.placeOn(host.window());
-    stage.box().setText(u"fixed");
-    stage.box().setLocked(true);
-    putClipboard(host.window(), L"new");
-    stage.takeLog();
-    SendMessageW(stage.edit(), EM_SETSEL, 0, 2);
-    for (const UINT message : std::initializer_list<UINT>{WM_CUT, WM_PASTE, WM_CLEAR})
-        SendMessageW(stage.edit(), message, 0, 0);
-    SendMessageW(stage.edit(), WM_CHAR, L'x', 1);
-    EXPECT_EQ(stage.takeLog(), L"key:120");
-    expectShown(stage, L"[fi]xed");
-}
-
 TEST(limits_and_locks_from_outside_are_the_boxs) {
     HostWindow host;
     Stage stage;
