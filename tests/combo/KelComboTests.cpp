@@ -56,14 +56,6 @@ TEST_F(Combo, WhatComesWithoutAKeyIsTyping) {
     EXPECT_EQ(look(), "|");
 }
 
-TEST_F(Combo, TheWheelIsTheFormsOwn) {
-    load({{u"List", u"a,b,c"}, {u"Text", u"b"}});
-    auto& window = dynamic_cast<headless::HeadlessWindow&>(Form.window());
-    window.turnWheel(Form.placed(), -1);
-    EXPECT_EQ(look(), "|b");
-    EXPECT_EQ(Form.told(), Lines{});
-}
-
 TEST_F(Combo, ASavedWidthIsReadByAnotherName) {
     load({{u"DropdownWidth", std::int16_t{2250}}});
     EXPECT_EQ(It.get_DropDownWidth(), 2250);
@@ -73,15 +65,6 @@ TEST_F(Combo, ASavedWidthIsReadByAnotherName) {
         It.put_DropDownWidth(wide);
         EXPECT_EQ(It.get_DropDownWidth(), 0);
     }
-}
-
-TEST_F(Combo, WorksWithoutHavingBeenLoaded) {
-    It.InitProperties();
-    EXPECT_EQ(It.entry().get_Caption(), u"it");
-    EXPECT_EQ(Form.told(), Lines{});
-    It.put_List(u"\"a,b\"");
-    EXPECT_EQ(It.get_List(), u"\"a,b\"");
-    EXPECT_EQ(It.get_ListItem(-32768), u"");
 }
 
 TEST_F(Combo, ALoopOverAllTagsReadsEachAFewTimes) {

@@ -2,6 +2,7 @@
 
 #include "common/FieldLayout.h"
 #include "common/FieldLook.h"
+#include "tests/runtime/RegionalServices.h"
 
 namespace kel {
 namespace {
@@ -52,26 +53,11 @@ TEST(FieldLayout, FollowsTheControlsRule) {
 }
 
 SharedSettings coloursOf(std::int32_t depth) {
-    struct Display final : Runtime {
-        explicit Display(std::int32_t bits) : Bits(bits) {}
-        std::int32_t ColorDepth() override { return Bits; }
-        std::u16string DecimalSeparator() override { return u""; }
-        std::int16_t DecimalDigits() override { return 2; }
-        std::u16string CaptionFontName() override { return {}; }
-        double CaptionFontSize() override { return 8; }
-        std::u16string FieldFontName() override { return {}; }
-        double FieldFontSize() override { return 8; }
-        void SendKey(std::int16_t) override {}
-        std::shared_ptr<kel::RuntimeDates> RuntimeDates() override { return nullptr; }
-        std::u16string ListAppend(std::u16string list, std::u16string_view) override { return list; }
-        std::u16string ReadField(const std::u16string&, std::int32_t& position, std::int16_t) override {
-            position = -1;
-            return {};
-        }
-        std::int32_t Bits;
-    };
+    RegionalServices services;
+    services.Depth = depth;
     SharedSettings settings;
-    adoptRuntime(settings, std::make_shared<Display>(depth));
+    adoptRuntime(settings, makeRuntime(services));
+    settings.Runtime.reset();  // stands on the services
     return settings;
 }
 

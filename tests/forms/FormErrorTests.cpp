@@ -40,15 +40,10 @@ void expectMistakes(const std::vector<Mistake>& mistakes) {
 TEST(FormErrors, OfTheWholeFile) {
     expectMistakes({
         {"", 1, "the file is empty"},
-        {"\xEF\xBB\xBF", 1, "the file is empty"},
-        {"\nVERSION 5.00\n", 1, "VERSION"},
         {"Begin A b\nEnd\n", 1, "VERSION"},
-        {"VERSION = 5.00\nBegin A b\nEnd\n", 1, "VERSION"},
         {"VERSION 4.00\nBegin A b\nEnd\n", 1, "only 5.00"},
         {"VERSION 1.0 CLASS\n", 1, "\"CLASS\" stands behind the version"},
-        {"VERSION\nBegin A b\nEnd\n", 1, "only 5.00"},
         {"VERSION 5.00\n", 1, "without a Begin"},
-        {"VERSION 5.00\n\n'\n", 3, "without a Begin"},
         {"VERSION 5.00\nVERSION 5.00\n", 2, "second VERSION"},
     });
 }
@@ -56,19 +51,13 @@ TEST(FormErrors, OfTheWholeFile) {
 TEST(FormErrors, OfBlocksAndGroups) {
     expectMistakes({
         {Head, 2, "\"Begin VB.Form f\" has no End: the file is cut off after line 2"},
-        {Head + "  Begin A b\nX = 1\n", 3, "\"Begin A b\" has no End: the file is cut off after line 4"},
         {Head + "Begin A b\nEnd\n", 2, "\"Begin VB.Form f\" has no End"},
         {Head + " BeginProperty Font\n", 3, "has no EndProperty"},
         {Head + "Begin\nEnd\n", 3, "without a class and a name"},
-        {Head + "Begin VB.Label  'c\nEnd\n", 3, "\"VB.Label\" without a name"},
-        {Head + "Begin A b c\nEnd\n", 3, "\"c\" stands behind the name"},
-        {Head + "End it\n", 3, "\"it\" stands behind End"},
         {"VERSION 5.00\nEnd\n", 2, "End without Begin"},
         {Head + "EndProperty\n", 3, "EndProperty without BeginProperty"},
-        {Head + "BeginProperty\n", 3, "without a name"},
         {"VERSION 5.00\nBeginProperty Font\n", 2, "outside a block"},
         {Head + "BeginProperty Font\nEnd\n", 4, "End inside \"BeginProperty Font\" of line 3"},
-        {Head + "BeginProperty Font\nBegin A b\n", 4, "Begin inside"},
     });
 }
 
@@ -76,20 +65,12 @@ TEST(FormErrors, OfProperties) {
     expectMistakes({
         {"VERSION 5.00\nWidth = 3\n", 2, "\"Width\" stands outside a block"},
         {"VERSION 5.00\nObject = 3\n", 2, "library in quotes"},
-        {"VERSION 5.00\nObject = \"a\"; b\n", 2, "file in quotes"},
-        {"VERSION 5.00\nObject = \"a\" \"b\"\n", 2, "behind the library"},
         {Head + "Attribute VB_Name\n", 3, "\"Attribute\" begins neither a property nor a block"},
-        {Head + "Two words = 3\n", 3, "begins neither"},
         {Head + "= 3\n", 3, "needs a name"},
         {Head + "X = \"abc\n", 3, "no closing quote"},
-        {Head + "X = \"abc\"\"\nEnd\n", 3, "no closing quote"},
-        {Head + "X = \"abc\" \"d\"\n", 3, "stands behind the text"},
         {Head + "X = 12 34\n", 3, "\"34\" stands behind the number"},
         {Head + "X = $\"a.frx\"\n", 3, "offset"},
-        {Head + "X = $\"a.frx\":\n", 3, "\"\" is no hexadecimal offset"},
         {Head + "X = \"a.frx\":00G0\n", 3, "\"00G0\" is no hexadecimal offset"},
-        {Head + "X = \"a.frx\":123456789\n", 3, "is no hexadecimal offset"},
-        {Head + "X = \"a.frx\":0000 0\n", 3, "stands behind the offset"},
         {Head + "Width = 1\nLeft = 2\nwidth = 1\nEnd\n", 5, "\"Width\" stands in this block already, in line 3"},
         {Head + "BeginProperty A\nX = 1\nx = 2\nEndProperty\nEnd\n", 5, "in line 4"},
         {Head + "Font = 1\nBeginProperty Font\nEndProperty\nEnd\n", 4, "in line 3"},
@@ -144,16 +125,7 @@ TEST(FormErrors, NoiseOfAHundredMegabytesIsRefusedAtOnce) {
             return Mistake{Head + randomBytes(Size), 3, ""};
         },
         [] {
-            return Mistake{repeated("noise\n", Size / 6), 1, "VERSION"};
-        },
-        [] {
-            return Mistake{std::string(Size, 'x'), 1, "VERSION"};
-        },
-        [] {
             return Mistake{"VERSION 5.00" + std::string(Size, ' '), 1, "longer than 1 MiB"};
-        },
-        [] {
-            return Mistake{"VERSION 5.00\n" + repeated("Begin A b\n", Size / 10), 66, "nested deeper"};
         },
         [] {
             return Mistake{Head + std::string(Size, '\n'), 1'000'001, "a million lines"};

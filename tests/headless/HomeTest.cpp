@@ -3,7 +3,8 @@
 #include <cmath>
 #include <ctime>
 
-#include "forms/Looks.h"
+#include "controls/text/KelText.h"
+#include "tests/headless/Keys.h"
 #include "tests/headless/TestForm.h"
 #include "values/Text.h"
 
@@ -64,16 +65,16 @@ TEST(Home, TheRunTimeObjectFollowsTheOptions) {
     EXPECT_EQ(plain.home().region(), defaultRegion());
 }
 
-TEST(Home, ALayoutNamesTheSpinnerThatIsShown) {
+TEST(UnloadedFields, HaveARuntimeObjectToMoveOnAndATooltipOfTheirOwn) {
     TestForm form;
-    ProbeControl& control = probe(form.place(u"a"));
-    const Rect bounds{1, 2, 3, 4};
-    control.box().move({5, 6, 7, 8});
-    control.spinner().move({9, 10, 11, 12});
-    EXPECT_EQ(describeLayout(u"a", bounds, control), u"a 1 2 3 4 field 5 6 7 8 spinner -");
-    control.spinner().setVisible(true);
-    control.spinner().setEnabled(false);
-    EXPECT_EQ(describeLayout(u"a", bounds, control), u"a 1 2 3 4 field 5 6 7 8 spinner 9 10 11 12");
+    auto& first = static_cast<KelText&>(form.place(u"first", KelTextModel).control());
+    form.place(u"second", KelTextModel);
+    first.widgets().field->setToolTip(u"own");
+    form.window().show();
+    ASSERT_EQ(form.home().settings().Runtime, nullptr);
+    EXPECT_EQ(first.widgets().field->toolTip(), u"own") << "the host gives none";
+    press(form.window(), "Tab Enter");
+    EXPECT_EQ(form.focused(), "second");
 }
 
 TEST(Home, TheClockIsTheMachinesInLocalTime) {

@@ -4,6 +4,8 @@
 
 #include <cmath>
 #include <limits>
+#include <utility>
+#include <vector>
 
 #include "runtime/Numbers.h"
 #include "tests/runtime/RegionalServices.h"
@@ -88,61 +90,24 @@ TEST(NumberReader, ReadsWhatPeopleWrite) {
 }
 
 TEST(NumberReader, SaysWhatIsNoNumber) {
-    const struct {
-        std::u16string_view text;
-        std::u16string_view region = u"en-GB";
-    } cases[] = {
-        {u""},
-        {u" "},
-        {u"-"},
-        {u"."},
-        {u"-."},
-        {u"()"},
-        {u"(5"},
-        {u"5)"},
-        {u"((5))"},
-        {u"--5"},
-        {u"-5-"},
-        {u"+(5)"},
-        {u"(+5)"},
-        {u"5-5"},
-        {u"abc"},
-        {u"5a"},
-        {u"1 2"},
-        {u"1.2.3"},
-        {u"1,23"},
-        {u"1,2345"},
-        {u",123"},
-        {u"1,,234"},
-        {u"1,234,"},
-        {u"1,23,456"},
-        {u"1.234,567"},
-        {u"1.5,"},
-        {u"1e"},
-        {u"1e+"},
-        {u"e5"},
-        {u"1e5.5"},
-        {u"5%"},
-        {u"NaN"},
-        {u"inf"},
-        {u"0x10"},
-        {u"\xD800"},
-        {u"1\xDC00"},
-        {u"\xD83A"},
-        {u"٥"},
-        {u"1.5", u"de-DE"},
-        {u"1,234,567", u"en-IN"},
-        {u"1,5", u"ar-EG"},
-        {u"1 23", u"fr-FR"},
-        {u"1  234", u"fr-FR"},
-        {u"1\xD83A", u"ar-EG"},
-        {u"(", u"sv-SE"},
+    const std::pair<std::u16string_view, std::vector<std::u16string_view>> cases[] = {
+        {u"en-GB", {u"",          u" ",     u"-",      u".",       u"-.",     u"()",     u"(5",     u"5)",
+                    u"((5))",     u"--5",   u"-5-",    u"+(5)",    u"(+5)",   u"5-5",    u"abc",    u"5a",
+                    u"1 2",       u"1.2.3", u"1,23",   u"1,2345",  u",123",   u"1,,234", u"1,234,", u"1,23,456",
+                    u"1.234,567", u"1.5,",  u"1e",     u"1e+",     u"e5",     u"1e5.5",  u"5%",     u"NaN",
+                    u"inf",       u"0x10",  u"\xD800", u"1\xDC00", u"\xD83A", u"٥"}},
+        {u"de-DE", {u"1.5"}},
+        {u"en-IN", {u"1,234,567"}},
+        {u"ar-EG", {u"1,5", u"1\xD83A"}},
+        {u"fr-FR", {u"1 23", u"1  234"}},
+        {u"sv-SE", {u"("}},
     };
-    for (const auto& test : cases) {
-        SCOPED_TRACE(toUtf8(test.text));
-        const Reading reading = read(test.text, test.region);
-        EXPECT_EQ(reading.kind, NumberReading::None);
-        EXPECT_EQ(reading.number, Unread) << "the caller's number is left alone";
+    for (const auto& [region, texts] : cases) {
+        for (const std::u16string_view text : texts) {
+            const Reading reading = read(text, region);
+            EXPECT_EQ(reading.kind, NumberReading::None) << toUtf8(text);
+            EXPECT_EQ(reading.number, Unread) << "the caller's number is left alone";
+        }
     }
 }
 

@@ -24,14 +24,6 @@ protected:
     std::string text() { return toUtf8(Surface.picture().text); }
 };
 
-TEST_F(Progress, ItWorksWithoutHavingBeenLoaded) {
-    It.put_Value(50);
-    EXPECT_EQ(text(), "50%");
-    EXPECT_EQ(Surface.picture().barWidth, 2250);
-    EXPECT_EQ(It.get_Value(), 50);
-    EXPECT_EQ(Form.told(), Lines{}) << "the value is not stored, so nobody needs to know";
-}
-
 TEST_F(Progress, TheTextStandsInTheMiddleAndMayOverhang) {
     It.put_ShowTime(false);
     It.put_Value(50);
