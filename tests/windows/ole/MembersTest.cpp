@@ -1,5 +1,6 @@
 // Every member, event and saved property of every class, late-bound. The rows say what there is.
 
+#include <map>
 #include <set>
 
 #include "controls/Classes.h"
@@ -204,6 +205,27 @@ TEST(members_take_other_values_and_are_saved) {
             EXPECT_EQ(savedOf(fromStream.get(), *model), wanted);
         }
         for (const PersistedRow& row : model->saved) EXPECT_EQ(written.count(wide(row.name)), std::size_t{1});
+    }
+}
+
+/// What a control that was just placed saves: all in which it differs from one that nothing was stored of.
+TEST(members_of_a_new_control) {
+    const std::map<std::u16string_view, std::wstring> wanted = {
+        {u"KelProgressBar", L""},
+        {u"KelNumber", L"Caption=Field1 CaptionWidth=1200 MaxValue=9999999999 MinValue=-9999999999 Value=0 "},
+        {u"KelCheck", L"Caption=Field1 Value=False "},
+        {u"KelCombo", L"Caption=Field1 CaptionWidth=1200 "},
+        {u"KelDate", L"Caption=Field1 CaptionWidth=1200 Value= "},
+        {u"KelTime", L"Caption=Field1 CaptionWidth=1200 Value= "},
+        {u"KelText", L"Caption=Field1 CaptionWidth=1200 "},
+    };
+    for (const ClassModel* model : controls()) {
+        const Placed placed(wide(model->name));
+        Bag bag;
+        EXPECT_CODE(save(placed.Control.get(), bag), S_OK);
+        std::wstring written;
+        for (const std::wstring& line : bag.Written) written += line + L" ";
+        EXPECT_EQ(written, wanted.at(model->name));
     }
 }
 
