@@ -1,22 +1,11 @@
 #pragma once
 
+#include "host/DepthGuard.h"
 #include "host/PropertyBag.h"
 #include "host/System.h"
 #include "library/Control.h"
 
 namespace kel {
-
-/// Raises a counter while it lives, so that a control's own doings do not answer themselves.
-class DepthGuard {
-public:
-    explicit DepthGuard(std::int16_t& depth) : Depth_(depth) { ++Depth_; }
-    ~DepthGuard() { --Depth_; }
-    DepthGuard(const DepthGuard&) = delete;
-    DepthGuard& operator=(const DepthGuard&) = delete;
-
-private:
-    std::int16_t& Depth_;
-};
 
 /// Passes every persisted property of the bag through its public setter, in the model's reading order. The first
 /// control to be loaded finds no run-time object, and has one made.

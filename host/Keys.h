@@ -47,6 +47,11 @@ constexpr bool togglesOverwriting(std::int16_t code, Modifiers modifiers) {
     return code == keys::Insert && modifiers == NoModifier;
 }
 
+/// Tab with Ctrl is an ordinary key; without, it arrives at a widget only when there is nowhere to go.
+constexpr bool leavesField(const KeyStroke& stroke) {
+    return stroke.code == keys::Tab && (stroke.modifiers & ControlKey) == 0;
+}
+
 /// The stroke that types `character`.
 KeyStroke strokeFor(char32_t character);
 

@@ -10,7 +10,7 @@ namespace kel {
 struct RegionalSettings;
 struct SharedSettings;
 class Container;
-class WidgetFactory;
+class WidgetHost;
 
 /// What a control needs of the machine around it.
 class System {
@@ -37,7 +37,7 @@ protected:
 /// Everything outside that one control works with. Outlives the control.
 struct ControlHost {
     Container& container;
-    WidgetFactory& widgets;
+    WidgetHost& widgets;
     System& system;
     SharedSettings& settings;
     const RegionalSettings& region;

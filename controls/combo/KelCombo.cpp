@@ -27,15 +27,13 @@ std::int32_t listPixels(std::int32_t twips) { return (twips + TwipsPerListPixel 
 
 }  // namespace
 
-KelCombo::KelCombo(ControlHost& host) : Field_(host, *this, Kind), Combo1_(host.widgets.makeComboBox(*this)) {
-    Field_.add(*Combo1_);
-}
+KelCombo::KelCombo(ControlHost& host) : Field_(host, *this, Kind), Combo1_(host.widgets, *this) { Field_.add(Combo1_); }
 
-void KelCombo::Initialize() { Combo1_->installFrame(Field_.host().settings.ButtonWidthPixels); }
+void KelCombo::Initialize() { Combo1_.installFrame(Field_.host().settings.ButtonWidthPixels); }
 
 WidgetSet KelCombo::widgets() {
     WidgetSet widgets = Field_.widgets();
-    widgets.comboBox = Combo1_.get();
+    widgets.comboBox = &Combo1_;
     return widgets;
 }
 
@@ -46,8 +44,8 @@ void KelCombo::put_List(const std::u16string& list) { loadItems(listItemsOf(list
 void KelCombo::ListFromArray(const StringArray& strArray) { loadItems(listItemsOf(strArray)); }
 
 void KelCombo::loadItems(ListItems items) {
-    const std::u16string text = Combo1_->text();
-    Combo1_->setItems(std::move(items));
+    const std::u16string text = Combo1_.text();
+    Combo1_.setItems(std::move(items));
     put_Text(text);
     Field_.report<&KelCombo::put_List>();
 }
@@ -56,26 +54,26 @@ std::u16string KelCombo::get_List() const {
     const auto runtime = runtimeFor(Field_.host());
     std::u16string list;
     for (std::int32_t i = 0; i < get_ListCount(); ++i)
-        list = runtime->ListAppend(std::move(list), Combo1_->items().item(i));
+        list = runtime->ListAppend(std::move(list), Combo1_.items().item(i));
     return list;
 }
 
 std::int16_t KelCombo::get_ListIndex() const {
     if (!LimitToList_) return NoListIndex;
-    const std::int32_t index = Combo1_->items().findExact(Combo1_->text());
+    const std::int32_t index = Combo1_.items().findExact(Combo1_.text());
     return index == ListItems::NotFound ? NoListIndex : static_cast<std::int16_t>(index + 1);
 }
 
 void KelCombo::put_ListIndex(std::int16_t item) {
     if (item < 1 || item > get_ListCount()) return;
     const DepthGuard guard(SelectionDepth_);
-    Combo1_->setListIndex(item - 1);
-    TextOriginal_ = Combo1_->text();
+    Combo1_.setListIndex(item - 1);
+    TextOriginal_ = Combo1_.text();
 }
 
 std::u16string KelCombo::get_ListItem(std::int16_t Item) const {
-    const std::int32_t item = Item == 0 ? Combo1_->listIndex() : Item;
-    return item < 1 || item > get_ListCount() ? std::u16string() : std::u16string(Combo1_->items().item(item - 1));
+    const std::int32_t item = Item == 0 ? Combo1_.listIndex() : Item;
+    return item < 1 || item > get_ListCount() ? std::u16string() : std::u16string(Combo1_.items().item(item - 1));
 }
 
 void KelCombo::put_ListTag(const std::u16string& tags) {
@@ -85,7 +83,7 @@ void KelCombo::put_ListTag(const std::u16string& tags) {
 }
 
 std::u16string KelCombo::get_ListTagItem(std::int16_t Item) const {
-    const std::int32_t item = Item == 0 ? Combo1_->listIndex() + 1 : Item;
+    const std::int32_t item = Item == 0 ? Combo1_.listIndex() + 1 : Item;
     if (item < 1 || item > get_ListCount()) return {};
     const auto runtime = runtimeFor(Field_.host());
     const std::shared_ptr<Runtime>& held = Field_.host().settings.Runtime;
@@ -102,21 +100,21 @@ std::u16string KelCombo::get_ListTagItem(std::int16_t Item) const {
 }
 
 void KelCombo::put_DropDownWidth(std::int32_t twips) {
-    const std::int32_t fieldWidth = Combo1_->bounds().width;
+    const std::int32_t fieldWidth = Combo1_.bounds().width;
     const bool inRange = twips >= 1 && twips <= WidestDropDown;
     const std::int32_t stored = inRange && twips != fieldWidth ? twips : 0;
     if (stored != DropDownWidth_) {
         DropDownWidth_ = stored;
         Field_.report<&KelCombo::put_DropDownWidth>();
     }
-    Combo1_->setDroppedWidth(listPixels(inRange ? twips : fieldWidth));
+    Combo1_.setDroppedWidth(listPixels(inRange ? twips : fieldWidth));
 }
 
 // ---- Text
 
 const std::u16string& KelCombo::get_Text() const {
     if (Typing_) settleText();
-    return Combo1_->text();
+    return Combo1_.text();
 }
 
 void KelCombo::put_Text(const std::u16string& text) {
@@ -125,19 +123,19 @@ void KelCombo::put_Text(const std::u16string& text) {
         Typing_ = false;
         showText(text);
     }
-    TextOriginal_ = Combo1_->text();
+    TextOriginal_ = Combo1_.text();
     Field_.report<&KelCombo::put_Text>();
 }
 
 bool KelCombo::selectEqual(const std::u16string& text) const {
-    const std::int32_t item = Combo1_->items().findExact(text);
-    if (item != ListItems::NotFound) Combo1_->setListIndex(item);
+    const std::int32_t item = Combo1_.items().findExact(text);
+    if (item != ListItems::NotFound) Combo1_.setListIndex(item);
     return item != ListItems::NotFound;
 }
 
 /// As far as the list allows it.
 void KelCombo::showText(const std::u16string& text) const {
-    if (text.empty() || !selectEqual(text)) Combo1_->setText(LimitToList_ ? std::u16string_view() : text);
+    if (text.empty() || !selectEqual(text)) Combo1_.setText(LimitToList_ ? std::u16string_view() : text);
 }
 
 /// What the user leaves behind: an item where there is one, no text that is none where only items may stand, and no
@@ -145,12 +143,12 @@ void KelCombo::showText(const std::u16string& text) const {
 void KelCombo::settleText() const {
     const DepthGuard guard(SelectionDepth_);
     Typing_ = false;
-    if (Combo1_->textLength() != 0)
-        showText(Combo1_->text());
+    if (Combo1_.textLength() != 0)
+        showText(Combo1_.text());
     else if (Field_.get_Mandatory() &&
-             (!LimitToList_ || Combo1_->items().findExact(TextOriginal_) != ListItems::NotFound))
-        Combo1_->setText(TextOriginal_);
-    Combo1_->setSelStart(0);
+             (!LimitToList_ || Combo1_.items().findExact(TextOriginal_) != ListItems::NotFound))
+        Combo1_.setText(TextOriginal_);
+    Combo1_.setSelStart(0);
 }
 
 void KelCombo::put_LimitToList(bool limit) {
@@ -158,12 +156,12 @@ void KelCombo::put_LimitToList(bool limit) {
     Field_.report<&KelCombo::put_LimitToList>();
     if (!limit) return;
     const DepthGuard guard(SelectionDepth_);
-    if (!selectEqual(Combo1_->text())) Combo1_->setText({});
+    if (!selectEqual(Combo1_.text())) Combo1_.setText({});
 }
 
 bool KelCombo::get_Valid() const {
-    if (Combo1_->locked() || !Field_.get_Mandatory()) return true;
-    return Combo1_->text().find_last_not_of(u' ') != std::u16string::npos;
+    if (Combo1_.locked() || !Field_.get_Mandatory()) return true;
+    return Combo1_.text().find_last_not_of(u' ') != std::u16string::npos;
 }
 
 // ---- Typing and picking
@@ -172,20 +170,20 @@ void KelCombo::Combo1_Change() {
     if (SelectionDepth_ > 0) return;
     if (Typing_) {
         completeTyping();
-    } else if (LimitToList_ && Combo1_->listIndex() == ListItems::NotFound && Combo1_->textLength() != 0) {
+    } else if (LimitToList_ && Combo1_.listIndex() == ListItems::NotFound && Combo1_.textLength() != 0) {
         const DepthGuard guard(SelectionDepth_);
-        Combo1_->setText({});
+        Combo1_.setText({});
     }
     if (!get_Changed() || !hostWantsChange()) return;
     Field_.host().container.raiseEvent(Change, {});
-    if (LimitToList_) TextOriginal_ = Combo1_->text();
+    if (LimitToList_) TextOriginal_ = Combo1_.text();
 }
 
 void KelCombo::Combo1_Click() {
     if (SelectionDepth_ > 0 || !get_Changed() || !hostWantsChange()) return;
     Field_.host().container.raiseEvent(Click, {});
     Field_.host().container.raiseEvent(Change, {});
-    TextOriginal_ = Combo1_->text();
+    TextOriginal_ = Combo1_.text();
 }
 
 bool KelCombo::hostWantsChange() {
@@ -201,45 +199,45 @@ bool KelCombo::hostWantsChange() {
 /// character replaces it. Where only items may stand, the text after the caret was such a rest, and a character that
 /// leads to no item is taken back.
 void KelCombo::completeTyping() {
-    Combo1_->showDropDown(false);
+    Combo1_.showDropDown(false);
     const DepthGuard guard(SelectionDepth_);
     Typing_ = false;
-    const std::int32_t caret = Combo1_->selStart();
-    const std::u16string_view text = Combo1_->text();
+    const std::int32_t caret = Combo1_.selStart();
+    const std::u16string_view text = Combo1_.text();
     const std::u16string_view typed = LimitToList_ ? text.substr(0, static_cast<std::size_t>(caret)) : text;
-    const std::int32_t item = Combo1_->items().findPrefix(typed);
+    const std::int32_t item = Combo1_.items().findPrefix(typed);
     if (item != ListItems::NotFound) {
-        Combo1_->setListIndex(item);
+        Combo1_.setListIndex(item);
         selectFrom(caret);
     } else if (LimitToList_) {
-        Combo1_->setText(TextOriginal_);
+        Combo1_.setText(TextOriginal_);
         selectFrom(caret > 0 ? caret - 1 : 0);
     }
 }
 
 void KelCombo::selectFrom(std::int32_t caret) {
-    Combo1_->setSelStart(caret);
-    Combo1_->setSelLength(Combo1_->textLength());
+    Combo1_.setSelStart(caret);
+    Combo1_.setSelLength(Combo1_.textLength());
 }
 
 void KelCombo::Combo1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) {
     Typing_ = true;
     const bool deletes = KeyCode == keys::Delete && Shift == NoModifier;
-    if (deletes && Combo1_->selLength() != 0 && !Combo1_->locked()) Combo1_->setSelText({});
+    if (deletes && Combo1_.selLength() != 0 && !Combo1_.locked()) Combo1_.setSelText({});
 }
 
 /// What is taken away on purpose does not come back as a completion. All else is typing, also without a key; but
 /// Delete may have been handled as one already.
 void KelCombo::Combo1_Edit(EditAction Action) {
-    const bool hasSelection = Combo1_->selLength() != 0;
+    const bool hasSelection = Combo1_.selLength() != 0;
     switch (Action) {
         case EditAction::Cut:
         case EditAction::EraseSelection: Typing_ = false; return;
         case EditAction::EraseWordForward: Typing_ = !hasSelection; return;
         case EditAction::EraseForward: return;
         case EditAction::EraseWordBack:
-            if (!LimitToList_ && hasSelection && Combo1_->selStart() + Combo1_->selLength() == Combo1_->textLength())
-                selectFrom(wordStart(Combo1_->text(), Combo1_->selStart()));
+            if (!LimitToList_ && hasSelection && Combo1_.selStart() + Combo1_.selLength() == Combo1_.textLength())
+                selectFrom(wordStart(Combo1_.text(), Combo1_.selStart()));
             break;
         default: break;
     }
@@ -249,8 +247,8 @@ void KelCombo::Combo1_Edit(EditAction Action) {
 void KelCombo::Combo1_KeyPress(char32_t& KeyAscii) {
     if (KeyAscii == keys::Enter) return Field_.carryOut(KeyAnswer::MovesOn, KeyAscii);
     // The completed rest goes together with the character in front of it.
-    const bool takesRest = KeyAscii == keys::Backspace && !LimitToList_ && !Combo1_->locked();
-    if (takesRest && Combo1_->selStart() > 0) selectFrom(Combo1_->selStart() - 1);
+    const bool takesRest = KeyAscii == keys::Backspace && !LimitToList_ && !Combo1_.locked();
+    if (takesRest && Combo1_.selStart() > 0) selectFrom(Combo1_.selStart() - 1);
 }
 
 // ---- The container
@@ -258,15 +256,15 @@ void KelCombo::Combo1_KeyPress(char32_t& KeyAscii) {
 void KelCombo::Resize() {
     if (!Field_.layOut()) return;
     if (DropDownWidth_ == 0) put_DropDownWidth(0);
-    Combo1_->setSelLength(0);
+    Combo1_.setSelLength(0);
 }
 
 void KelCombo::InitProperties() {
     LimitToList_ = true;
     Field_.initMandatory(true);
     Field_.initSelectOnFocus(false);
-    Combo1_->setLocked(false);
-    Combo1_->setListIndex(ListItems::NotFound);
+    Combo1_.setLocked(false);
+    Combo1_.setListIndex(ListItems::NotFound);
     Field_.colorCaption();
     Field_.initNew();
 }
@@ -279,8 +277,8 @@ void KelCombo::ReadProperties(PropertyBag& bag) {
 // ---- Focus
 
 void KelCombo::EnterFocus() {
-    TextOriginal_ = Combo1_->text();
-    Combo1_->setExtendedUi(true);
+    TextOriginal_ = Combo1_.text();
+    Combo1_.setExtendedUi(true);
 }
 
 void KelCombo::ExitFocus() {
@@ -293,6 +291,6 @@ void KelCombo::Combo1_GotFocus() {
     Field_.colorOnGotFocus();
 }
 
-void KelCombo::Combo1_LostFocus() { Combo1_->setSelStart(0); }
+void KelCombo::Combo1_LostFocus() { Combo1_.setSelStart(0); }
 
 }  // namespace kel

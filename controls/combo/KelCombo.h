@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/EntryField.h"
-#include "host/ComboBox.h"
+#include "host/widgets/ComboBox.h"
 
 namespace kel {
 
@@ -15,8 +15,8 @@ public:
 
     explicit KelCombo(ControlHost& host);
 
-    bool get_Changed() const { return !Combo1_->textEquals(TextOriginal_); }
-    bool get_ChangedSaved() const { return !Combo1_->textEquals(TextSaved_); }
+    bool get_Changed() const { return Combo1_.text() != TextOriginal_; }
+    bool get_ChangedSaved() const { return Combo1_.text() != TextSaved_; }
     std::int32_t get_DropDownWidth() const { return DropDownWidth_; }
     /// Twips. From 1 to 8000, other than the field's own width; anything else stands for that width, and is 0.
     void put_DropDownWidth(std::int32_t twips);
@@ -25,7 +25,7 @@ public:
     std::u16string get_List() const;
     void put_List(const std::u16string& list);
     void ListFromArray(const StringArray& strArray);
-    std::int32_t get_ListCount() const { return Combo1_->items().size(); }
+    std::int32_t get_ListCount() const { return Combo1_.items().size(); }
     /// The first item that is the text; -1 where the text may be any other.
     std::int16_t get_ListIndex() const;
     void put_ListIndex(std::int16_t item);
@@ -83,7 +83,8 @@ private:
     };
 
     EntryField Field_;
-    std::unique_ptr<ComboBox> Combo1_;
+    /// Reading the text settles it, as if it had been settled all along.
+    mutable ComboBox Combo1_;
 
     bool LimitToList_ = true;
     std::int32_t DropDownWidth_ = 0;
@@ -92,7 +93,6 @@ private:
     std::u16string TextOriginal_;
     std::u16string TextSaved_;
 
-    // Reading the text settles it, as if it had been settled all along.
     mutable std::int16_t SelectionDepth_ = 0;  ///< above 0 while the control itself changes text or selection
     mutable bool Typing_ = false;              ///< keys were pressed whose result is not settled
 };

@@ -16,10 +16,10 @@ DateTimeField::DateTimeField(ControlHost& host, EntryControl& control, const Dat
     : Rules_(rules),
       Change_(change),
       Entry_(host, control, Kind),
-      Text1_(host.widgets.makeTextBox(*this, false)),
+      Text1_(host.widgets, *this),
       Format_(std::u16string(format)),
       Bounds_(bounds) {
-    Entry_.add(*Text1_);
+    Entry_.add(Text1_);
     Entry_.addSpinner(*this);
 }
 
@@ -77,7 +77,7 @@ std::optional<Date> DateTimeField::valueToStore() const {
 bool DateTimeField::get_Valid(bool ShowMessage) {
     const std::optional<Date> candidate = TextDirty_ ? read() : dateIn(Value_);
     if (Entry_.get_Locked()) return true;
-    const bool mayBeEmpty = !Entry_.get_Mandatory() && (Rules_.allowsAnyText() || Text1_->textLength() == 0);
+    const bool mayBeEmpty = !Entry_.get_Mandatory() && (Rules_.allowsAnyText() || Text1_.textLength() == 0);
     const Validity validity = validityOf(candidate, Bounds_, mayBeEmpty);
     if (validity != Validity::Valid && ShowMessage)
         Entry_.complain(Rules_.complaint(validity, textRules()), Rules_.complaintTitle());
@@ -90,9 +90,9 @@ std::optional<Date> DateTimeField::parsed(const Variant& text) const {
     return dateIn(Rules_.parse(text, host(), Format_.text()));
 }
 
-bool DateTimeField::showsValue() const { return Text1_->textEquals(Format_.show(dateIn(Value_), Entry_.region())); }
+bool DateTimeField::showsValue() const { return Text1_.text() == Format_.show(dateIn(Value_), Entry_.region()); }
 
-std::optional<Date> DateTimeField::read() const { return showsValue() ? dateIn(Value_) : parsed(Text1_->text()); }
+std::optional<Date> DateTimeField::read() const { return showsValue() ? dateIn(Value_) : parsed(Text1_.text()); }
 
 void DateTimeField::CommitText() {
     TextDirty_ = false;
@@ -107,12 +107,11 @@ void DateTimeField::takeRead(std::optional<Date> date) {
 
 void DateTimeField::step(std::int32_t delta) {
     if (Entry_.get_Locked()) return;
-    const BoxState before{
-        .text = Text1_->text(), .caret = static_cast<std::size_t>(Text1_->selStart()), .value = read()};
+    const BoxState before{.text = Text1_.text(), .caret = static_cast<std::size_t>(Text1_.selStart()), .value = read()};
     const FieldStep step = Rules_.step(before, delta, host(), textRules());
     Value_ = step.value;
-    Text1_->setText(step.text);
-    Text1_->setSelStart(static_cast<std::int32_t>(step.caret));
+    Text1_.setText(step.text);
+    Text1_.setSelStart(static_cast<std::int32_t>(step.caret));
     if (!step.isFirst && !isChangedByStep(ValueOriginal_, step.value)) return;
     host().container.raiseEvent(Change_, {});
     ValueOriginal_ = Value_;
@@ -146,7 +145,7 @@ void DateTimeField::Text1_GotFocus() {
     if (!Entry_.get_Locked() && isValueOutOfRange()) TextDirty_ = true;
 }
 
-void DateTimeField::Text1_LostFocus() { Text1_->setSelStart(0); }
+void DateTimeField::Text1_LostFocus() { Text1_.setSelStart(0); }
 
 // ---- Keys, mouse and spinner
 

@@ -96,14 +96,14 @@ private:
     std::optional<Date> read() const;
     std::optional<Date> parsed(const Variant& text) const;
     void takeRead(std::optional<Date> date);
-    void show(std::optional<Date> date) { Text1_->setText(Format_.show(date, Entry_.region())); }
+    void show(std::optional<Date> date) { Text1_.setText(Format_.show(date, Entry_.region())); }
     bool showsValue() const;
     bool isValueOutOfRange() const;
 
     const DateTimeRules& Rules_;
     const EventRow& Change_;
     EntryField Entry_;
-    std::unique_ptr<TextBox> Text1_;
+    TextBox Text1_;
     FieldFormat Format_;
     DateBounds Bounds_;
     Variant Value_;

@@ -20,8 +20,8 @@ std::int32_t unitsOf(std::size_t count) { return static_cast<std::int32_t>(count
 
 }  // namespace
 
-KelNumber::KelNumber(ControlHost& host) : Field_(host, *this, Kind), Text1_(host.widgets.makeTextBox(*this, false)) {
-    Field_.add(*Text1_);
+KelNumber::KelNumber(ControlHost& host) : Field_(host, *this, Kind), Text1_(host.widgets, *this) {
+    Field_.add(Text1_);
     Field_.addSpinner(*this);
     takeDecimals();
 }
@@ -101,12 +101,12 @@ void KelNumber::put_Value(const Variant& value) {
     Value_ = numberFromValue(value);
     ValueOriginal_ = Value_;
     showValue();
-    Text1_->setForeColor(numberColor(Value_));
+    Text1_.setForeColor(numberColor(Value_));
     TextDirty_ = false;
     Field_.report<&KelNumber::put_Value>();
 }
 
-void KelNumber::showValue() { Text1_->setText(displayText(Value_, DecimalsInUse_, GroupDigits_, Field_.region())); }
+void KelNumber::showValue() { Text1_.setText(displayText(Value_, DecimalsInUse_, GroupDigits_, Field_.region())); }
 
 void KelNumber::CommitText() {
     TextDirty_ = false;
@@ -119,7 +119,7 @@ void KelNumber::StepValue(double delta) {
     if (Field_.get_Locked()) return;
     CommitText();
     const double stepped = roundNumber(steppedNumber(Value_, delta));
-    Text1_->setText(generalNumber(stepped, Field_.region()));
+    Text1_.setText(generalNumber(stepped, Field_.region()));
     CommitText();
     if (Value_ == ValueOriginal_) return;
     Field_.host().container.raiseEvent(Change, {});
@@ -145,18 +145,18 @@ bool KelNumber::get_Valid(bool ShowMessage) {
 void KelNumber::InitProperties() {
     Field_.initUpDown(false);
     Field_.initNew();
-    Text1_->setText(u"0");
+    Text1_.setText(u"0");
 }
 
 // ---- Focus
 
 void KelNumber::EnterFocus() {
     ValueOriginal_ = Value_;
-    Text1_->setForeColor(Black);
+    Text1_.setForeColor(Black);
 }
 
 void KelNumber::Text1_GotFocus() {
-    TextBox& box = *Text1_;
+    TextBox& box = Text1_;
     if (!Field_.get_Locked()) {
         if (!SpinFocus_) box.setText(editText(Value_, DecimalsInUse_, Field_.region()));
         SpinFocus_ = false;
@@ -169,7 +169,7 @@ void KelNumber::Text1_GotFocus() {
 
 void KelNumber::ExitFocus() {
     CommitText();
-    Text1_->setForeColor(numberColor(Value_));
+    Text1_.setForeColor(numberColor(Value_));
     Field_.colorOnExit();
     SpinFocus_ = false;
 }
@@ -186,13 +186,13 @@ void KelNumber::Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) {
 }
 
 TextSpan KelNumber::selection() const {
-    const TextBox& box = *Text1_;
+    const TextBox& box = Text1_;
     return {static_cast<std::size_t>(box.selStart()), static_cast<std::size_t>(box.selLength())};
 }
 
 void KelNumber::select(TextSpan span) {
-    Text1_->setSelStart(unitsOf(span.start));
-    Text1_->setSelLength(unitsOf(span.length));
+    Text1_.setSelStart(unitsOf(span.start));
+    Text1_.setSelLength(unitsOf(span.length));
 }
 
 void KelNumber::Text1_KeyPress(char32_t& KeyAscii) {
@@ -200,7 +200,7 @@ void KelNumber::Text1_KeyPress(char32_t& KeyAscii) {
     // Whatever the keyboard's layout makes of it, the keypad's key is the one for decimals; what an input method types
     // after it is what it is.
     if (std::exchange(KeypadDecimal_, false)) KeyAscii = DecimalCharacter_;
-    const KeyEffect effect = filterKey(KeyAscii, Text1_->text(), selection(),
+    const KeyEffect effect = filterKey(KeyAscii, Text1_.text(), selection(),
                                        {.decimals = DecimalsInUse_,
                                         .decimalCharacter = DecimalCharacter_,
                                         .zeroDigit = Field_.region().ZeroDigit,
@@ -213,14 +213,14 @@ void KelNumber::Text1_KeyPress(char32_t& KeyAscii) {
 void KelNumber::apply(const KeyEffect& effect) {
     if (effect.replaced) {
         select(*effect.replaced);
-        Text1_->setSelText(std::u16string_view(&effect.inserted, 1));
+        Text1_.setSelText(std::u16string_view(&effect.inserted, 1));
     }
     if (effect.selection) select(*effect.selection);
 }
 
 bool KelNumber::Text1_Paste(std::u16string& Text) {
     TextDirty_ = true;
-    auto plain = filterPaste(Text, Text1_->text(), selection(), DecimalsInUse_, Field_.region());
+    auto plain = filterPaste(Text, Text1_.text(), selection(), DecimalsInUse_, Field_.region());
     if (!plain) {
         Field_.host().system.beep();
         return false;

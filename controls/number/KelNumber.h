@@ -67,7 +67,7 @@ private:
     double numberFromValue(const Variant& value) const;
     double roundNumber(double number) const;
     double bounded(double value) const;
-    double parseField() const { return numberFromValue(Text1_->text()); }
+    double parseField() const { return numberFromValue(Text1_.text()); }
     void takeDecimals();
     void showValue();
     TextSpan selection() const;
@@ -75,7 +75,7 @@ private:
     void apply(const KeyEffect& effect);
 
     EntryField Field_;
-    std::unique_ptr<TextBox> Text1_;
+    TextBox Text1_;
     std::int16_t Decimals_ = -1;
     std::int16_t DecimalsInUse_ = 0;
     char16_t DecimalCharacter_ = u'.';

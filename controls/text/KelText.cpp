@@ -27,7 +27,7 @@ char32_t maskOf(std::u16string_view text) {
 }  // namespace
 
 KelText::KelText(ControlHost& host) : Field_(host, *this, Kind) {
-    Text1_[0] = host.widgets.makeTextBox(*this, false);
+    Text1_[0] = std::make_unique<TextBox>(host.widgets, static_cast<TextBoxListener&>(*this));
     Field_.add(*Text1_[0]);
     Field_.initInsertMode(true);
 }
@@ -49,9 +49,9 @@ void KelText::put_PasswordChar(const std::u16string& character) {
     Field_.report<&KelText::put_PasswordChar>();
 }
 
-bool KelText::get_Changed() const { return !activeBox().textEquals(TextOriginal_); }
+bool KelText::get_Changed() const { return activeBox().text() != TextOriginal_; }
 
-bool KelText::get_ChangedSaved() const { return !activeBox().textEquals(TextSaved_); }
+bool KelText::get_ChangedSaved() const { return activeBox().text() != TextSaved_; }
 
 bool KelText::get_Valid() const {
     if (activeBox().locked() || !Field_.get_Mandatory()) return true;
@@ -92,7 +92,7 @@ void KelText::put_MultiLine(bool multiLine) {
 }
 
 void KelText::makeMultiLineBox() {
-    Text1_[1] = Field_.host().widgets.makeTextBox(*this, true);
+    Text1_[1] = std::make_unique<TextBox>(Field_.host().widgets, static_cast<TextBoxListener&>(*this), true);
     Text1_[1]->setPasswordChar(Text1_[0]->passwordChar());
     Field_.add(*Text1_[1]);
 }

@@ -16,7 +16,6 @@ void CheckBox::setValue(std::int32_t value) {
 // ---- What a person does
 
 CheckBox::Key CheckBox::keyDown(const KeyStroke& stroke) {
-    // Tab arrives here only when there is nowhere to go.
     const char32_t character = stroke.code == keys::Tab ? 0 : keyPressCharacter(stroke);
     return character != 0 ? typed(character) : Key::Ignored;
 }
@@ -42,8 +41,10 @@ void CheckBox::press() {
 }
 
 /// Where no time passes, a key is up again at once.
-void CheckBox::strike(const KeyStroke& stroke) {
-    if (keyDown(stroke) == Key::Presses) release();
+bool CheckBox::strike(const KeyStroke& stroke) {
+    const Key deed = keyDown(stroke);
+    if (deed == Key::Presses) release();
+    return deed != Key::Ignored;
 }
 
 }  // namespace kel

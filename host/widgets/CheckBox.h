@@ -51,7 +51,7 @@ public:
 
     void gotFocus() override { HasFocus_ = true; }
     void lostFocus() override { HasFocus_ = false; }
-    void strike(const KeyStroke& stroke) override;
+    bool strike(const KeyStroke& stroke) override;
     void click(std::int32_t /*position*/) override { press(); }
 
     View* view() const override { return View_.get(); }

@@ -12,7 +12,6 @@
 /// them. The control holds each one and destroys it before its container goes.
 namespace kel {
 
-/// What is virtual here is so for the widgets that a home still implements itself.
 class Widget {
 public:
     Widget() = default;
@@ -21,14 +20,14 @@ public:
     virtual ~Widget() = default;
 
     /// Place inside the control, kept to the twip whatever the screen's resolution.
-    virtual Rect bounds() const { return Bounds_; }
-    virtual void move(const Rect& bounds);
+    Rect bounds() const { return Bounds_; }
+    void move(const Rect& bounds);
 
-    virtual bool enabled() const { return Enabled_; }
-    virtual void setEnabled(bool enabled);
+    bool enabled() const { return Enabled_; }
+    void setEnabled(bool enabled);
 
     /// nullptr where nobody looks.
-    virtual View* view() const { return nullptr; }
+    virtual View* view() const = 0;
     /// What has changed since the view last asked.
     Changes takeChanges() { return std::exchange(Changes_, {}); }
 
@@ -69,17 +68,17 @@ struct FontFace {
 /// A widget that shows text.
 class TextualWidget : public Widget {
 public:
-    virtual Color foreColor() const { return ForeColor_; }
-    virtual void setForeColor(Color color) { change(ForeColor_, color, Change::Colors); }
+    Color foreColor() const { return ForeColor_; }
+    void setForeColor(Color color) { change(ForeColor_, color, Change::Colors); }
 
     const FontFace& font() const { return Font_; }
     /// `size` in points. The bold style is kept.
-    virtual void setFont(std::u16string_view name, double size);
-    virtual bool fontBold() const { return Font_.bold; }
-    virtual void setFontBold(bool bold) { change(Font_.bold, bold, Change::Font); }
+    void setFont(std::u16string_view name, double size);
+    bool fontBold() const { return Font_.bold; }
+    void setFontBold(bool bold) { change(Font_.bold, bold, Change::Font); }
 
     /// Repaints at the next opportunity.
-    virtual void refresh();
+    void refresh();
 
 protected:
     explicit TextualWidget(Color foreColor = colors::SystemWindowText) : ForeColor_(foreColor) {}
@@ -98,31 +97,32 @@ private:
 /// A widget that takes the focus and is coloured by the field's state.
 class FieldWidget : public TextualWidget {
 public:
-    virtual bool visible() const { return Visible_; }
-    virtual void setVisible(bool visible);
+    bool visible() const { return Visible_; }
+    void setVisible(bool visible);
 
-    virtual Color backColor() const { return BackColor_; }
-    virtual void setBackColor(Color color) { change(BackColor_, color, Change::Colors); }
+    Color backColor() const { return BackColor_; }
+    void setBackColor(Color color) { change(BackColor_, color, Change::Colors); }
 
-    virtual std::u16string toolTip() const { return ToolTip_; }
-    virtual void setToolTip(std::u16string_view text) { change(ToolTip_, text, Change::ToolTip); }
+    const std::u16string& toolTip() const { return ToolTip_; }
+    void setToolTip(std::u16string_view text) { change(ToolTip_, text, Change::ToolTip); }
 
-    virtual void setFocus() { Host_->moveFocusTo(*this); }
+    void setFocus() { Host_.moveFocusTo(*this); }
 
     /// Enabled and shown, its control as well.
-    virtual bool takesInput() const { return enabled() && visible() && Host_->takesInput(); }
+    bool takesInput() const { return enabled() && visible() && Host_.takesInput(); }
 
-    /// Where it stands. None for the widgets that a home with views still implements itself.
-    WidgetHost& host() const { return *Host_; }
+    /// Where it stands.
+    WidgetHost& host() const { return Host_; }
 
     // ---- What its home tells
 
     virtual void gotFocus() {}
     virtual void lostFocus() {}
 
-    // ---- What a person does where there is no view
+    // ---- What a person does
 
-    virtual void strike(const KeyStroke& /*stroke*/) {}
+    /// A key and what it types. False when it meant nothing to the widget or its control.
+    virtual bool strike(const KeyStroke& stroke) = 0;
     /// The left mouse button, pressed and released; `position` in the text, if it has one, may be past either end.
     virtual void click(std::int32_t /*position*/) {}
     virtual void rightClick() {}
@@ -134,14 +134,13 @@ public:
     virtual void drop(std::int32_t /*position*/, std::u16string_view /*text*/) {}
 
 protected:
-    FieldWidget() = default;
     explicit FieldWidget(WidgetHost& host, Color backColor = colors::SystemWindow)
-        : Host_(&host), BackColor_(backColor) {}
+        : Host_(host), BackColor_(backColor) {}
 
 private:
-    void barred() override { Host_->focusBarred(*this); }
+    void barred() override { Host_.focusBarred(*this); }
 
-    WidgetHost* Host_ = nullptr;
+    WidgetHost& Host_;
     std::u16string ToolTip_;
     Color BackColor_ = colors::SystemWindow;
     bool Visible_ = true;

@@ -1,7 +1,5 @@
 #include "platform/headless/HeadlessWindow.h"
 
-#include "platform/headless/HeadlessComboBox.h"
-
 namespace kel::headless {
 
 namespace {
@@ -54,14 +52,10 @@ void HeadlessWindow::show() {
 
 void HeadlessWindow::press(const KeyStroke& stroke) {
     byHand([this, &stroke] {
-        if (stroke.code == keys::Tab && (stroke.modifiers & ControlKey) == 0) {
-            // Alt and Tab go to another program.
-            if ((stroke.modifiers & AltKey) != 0) return;
-            closeList();
-            Focus_.moveByTab((stroke.modifiers & ShiftKey) != 0);
-        } else if (Focus_.holder() != nullptr) {
-            Focus_.holder()->strike(stroke);
-        }
+        // Alt and Tab go to another program.
+        if (leavesField(stroke) && (stroke.modifiers & AltKey) != 0) return;
+        if (Focus_.holder() != nullptr) Focus_.holder()->strike(stroke);
+        if (leavesField(stroke)) Focus_.moveByTab((stroke.modifiers & ShiftKey) != 0);
     });
 }
 
@@ -90,7 +84,10 @@ void HeadlessWindow::spin(PlacedControl& control, bool up) {
 
 void HeadlessWindow::pick(PlacedControl& control, std::int32_t item) {
     byMouseInField(control, [&](FieldWidget& field) {
-        if (&field == Focus_.holder()) placedHere(control).comboBox()->pick(item);
+        ComboBox* const box = control.control().widgets().comboBox;
+        if (box == nullptr || &field != Focus_.holder()) return;
+        box->showDropDown(true);
+        if (box->isDropped()) box->pick(item);
     });
 }
 
@@ -103,7 +100,7 @@ void HeadlessWindow::turnWheel(PlacedControl& control, std::int32_t notches) {
 
 void HeadlessWindow::drop(PlacedControl& control, std::int32_t position, std::u16string_view text) {
     const TextEntry* const box = control.control().widgets().entry;
-    if (box == nullptr || box->locked()) return;
+    if (box != nullptr && box->locked()) return;
     byMouseInField(control, [&](FieldWidget& field) { field.drop(position, text); });
 }
 
@@ -111,12 +108,6 @@ PlacedControl* HeadlessWindow::focused() const { return placedWithFocus(); }
 
 PlacedHeadlessControl* HeadlessWindow::placedWithFocus() const {
     return Focus_.holder() != nullptr ? static_cast<PlacedHeadlessControl*>(&Focus_.holder()->host()) : nullptr;
-}
-
-/// Also where the focus has nowhere to go and stays.
-void HeadlessWindow::closeList() {
-    const PlacedHeadlessControl* const holder = placedWithFocus();
-    if (HeadlessComboBox* const box = holder != nullptr ? holder->comboBox() : nullptr) box->showDropDown(false);
 }
 
 }  // namespace kel::headless

@@ -39,7 +39,6 @@ public:
 
 private:
     PlacedHeadlessControl* placedWithFocus() const;
-    void closeList();
 
     /// Runs what a person does here, on the window that then has the keyboard.
     template <class Action>

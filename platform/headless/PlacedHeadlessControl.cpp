@@ -1,8 +1,5 @@
 #include "platform/headless/PlacedHeadlessControl.h"
 
-#include "platform/headless/HeadlessComboBox.h"
-#include "platform/headless/HeadlessTextBox.h"
-
 namespace kel::headless {
 
 PlacedHeadlessControl::PlacedHeadlessControl(const ClassModel& model, const Placement& placement, std::size_t order,
@@ -44,18 +41,6 @@ void PlacedHeadlessControl::setEnabled(bool enabled) {
 FieldWidget* PlacedHeadlessControl::focusTarget() const {
     FieldWidget* const target = Control_->widgets().field;
     return target != nullptr && target->takesInput() ? target : nullptr;
-}
-
-HeadlessComboBox* PlacedHeadlessControl::comboBox() const {
-    return static_cast<HeadlessComboBox*>(Control_->widgets().comboBox);
-}
-
-std::unique_ptr<TextBox> PlacedHeadlessControl::makeTextBox(TextBoxListener& listener, bool multiLine) {
-    return std::make_unique<HeadlessTextBox>(*this, listener, multiLine);
-}
-
-std::unique_ptr<ComboBox> PlacedHeadlessControl::makeComboBox(ComboBoxListener& listener) {
-    return std::make_unique<HeadlessComboBox>(*this, listener);
 }
 
 }  // namespace kel::headless

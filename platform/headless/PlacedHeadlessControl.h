@@ -11,8 +11,6 @@
 
 namespace kel::headless {
 
-class HeadlessComboBox;
-
 /// What the controls of one window have in common.
 struct WindowServices {
     System& system;
@@ -23,7 +21,7 @@ struct WindowServices {
 };
 
 /// A control with everything it stands on: its place on the form, its container, the maker of its widgets.
-class PlacedHeadlessControl final : public PlacedControl, public TabStop, public WidgetFactory, private Container {
+class PlacedHeadlessControl final : public PlacedControl, public TabStop, public WidgetHost, private Container {
 public:
     /// `order` counts the controls placed before.
     PlacedHeadlessControl(const ClassModel& model, const Placement& placement, std::size_t order,
@@ -43,15 +41,14 @@ public:
     /// The widget that has the focus or would take it; nullptr while the control takes none.
     FieldWidget* focusTarget() const;
 
-    /// nullptr where the control has none.
-    HeadlessComboBox* comboBox() const;
-
     Seat& seat() { return Seat_; }
 
 private:
     bool takesInput() const override { return Seat_.takesInput(); }
     void moveFocusTo(FieldWidget& field) override { Seat_.focus.moveTo(field); }
     void focusBarred(FieldWidget& /*field*/) override { Seat_.focus.recheck(); }
+    std::u16string clipboardText() override { return Seat_.input.Clipboard; }
+    void setClipboardText(std::u16string_view text) override { Seat_.input.Clipboard.assign(text); }
 
     bool hasSize() const override { return Sized_; }
     Size size() const override { return {Bounds_.width, Bounds_.height}; }
@@ -64,9 +61,6 @@ private:
     void raiseEvent(const EventRow& event, std::span<Variant> arguments) override {
         Observer_.controlEvent(*this, event, arguments);
     }
-
-    std::unique_ptr<TextBox> makeTextBox(TextBoxListener& listener, bool multiLine) override;
-    std::unique_ptr<ComboBox> makeComboBox(ComboBoxListener& listener) override;
 
     ControlObserver& Observer_;
     std::u16string Name_;

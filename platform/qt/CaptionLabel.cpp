@@ -44,6 +44,13 @@ void CaptionLabel::outOfDate() {
 
 void CaptionLabel::paintAgain() { Site_.widget().update(); }
 
+QRect CaptionLabel::area() const {
+    QRect area = Site_.pixelRect(Label_.bounds());
+    area.setTop(0);
+    area.setBottom(Site_.widget().height() - 1);
+    return area;
+}
+
 void CaptionLabel::paint(QPainter& painter, int baseline) const {
     const Rect bounds = Label_.bounds();
     if (Label_.caption().empty() || bounds.width <= 0) return;
@@ -54,9 +61,7 @@ void CaptionLabel::paint(QPainter& painter, int baseline) const {
     const bool enabled = Label_.enabled() && widget.isEnabled();
     const bool severalLines = bounds.height > CaptionHeight;
 
-    QRect area = Site_.pixelRect(bounds);
-    area.setTop(0);
-    area.setBottom(widget.height() - 1);
+    QRect area = this->area();
     painter.setClipRect(area);
     painter.setFont(Font_.value_or(widget.font()));
     painter.setPen(enabled ? captionColorOn(option.palette, Label_.foreColor()) : disabledCaptionColor(option.palette));

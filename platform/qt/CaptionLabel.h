@@ -28,6 +28,8 @@ public:
 
     /// With the baseline of its first line at `baseline` (pixels from the composite's top), in all the height
     /// of the composite.
+    /// That it may paint in.
+    QRect area() const;
     void paint(QPainter& painter, int baseline) const;
 
 private:

@@ -5,6 +5,7 @@
 #include "platform/qt/ControlSite.h"
 #include "platform/qt/FocusTracker.h"
 #include "platform/qt/FocusWay.h"
+#include "platform/qt/WidgetLook.h"
 
 namespace kel::qt {
 
@@ -23,6 +24,20 @@ bool ChildField::takesFocus() const { return qt::takesFocus(widget()); }
 void ChildField::giveUpFocus() {
     if (widget().window()->focusWidget() == &widget()) focus::passOn(*this);
     focus::departed(*this, Qt::OtherFocusReason);
+}
+
+void ChildField::showState(Changes changes) {
+    if (changes.has(Change::Place)) placeAgain();
+    if (changes.has(Change::Enabled)) {
+        widget().setEnabled(Shown_.enabled());
+        site().fieldEnabled(*this, Shown_.enabled());
+    }
+    if (changes.has(Change::Visible)) {
+        widget().setVisible(Shown_.visible());
+        if (Shown_.visible()) site().fieldShown(*this);
+    }
+    if (changes.has(Change::Font)) setWidgetFont(widget(), fontOf(widget().font(), Shown_.font()));
+    if (changes.has(Change::ToolTip)) setWidgetToolTip(widget(), Shown_.toolTip());
 }
 
 int ChildField::widthFor(int characters) const { return characters * widget().fontMetrics().averageCharWidth(); }

@@ -2,8 +2,11 @@
 
 #include "host/widgets/Widget.h"
 #include "platform/qt/ChildWidget.h"
+#include "platform/qt/FieldColors.h"
 
 namespace kel::qt {
+
+class TextInput;
 
 /// A child widget that can have the focus.
 class ChildField : public ChildWidget {
@@ -19,9 +22,6 @@ public:
     /// say nothing while the window is inactive.
     void giveUpFocus();
 
-    virtual void gotFocus() = 0;
-    virtual void lostFocus() = 0;
-
     /// The desktop's colours are others.
     virtual void colorAgain() = 0;
 
@@ -29,8 +29,18 @@ public:
     virtual bool isTall() const = 0;
     /// From the widget's top to the baseline of its (first) line of text, in pixels.
     virtual int baseline() const = 0;
+    /// nullptr where it holds no text.
+    virtual TextInput* textInput() { return nullptr; }
+    /// Where presses arrive.
+    virtual QWidget& mouseArea() { return widget(); }
+
     /// How wide it is best, to show about so many characters. In pixels.
     virtual int widthFor(int characters) const;
+
+protected:
+    /// What Qt does the same for every field: place, state, font and tooltip.
+    void showState(Changes changes);
+    FieldColors colors() const { return {Shown_.backColor(), Shown_.foreColor()}; }
 
 private:
     FieldWidget& Shown_;

@@ -37,17 +37,16 @@ bool movesFocus(const QKeyEvent& event) {
 
 }  // namespace
 
-ComboList::ComboList(QWidget& box, ComboEditor& editor, int mostRows)
-    : QListView(&box), Box_(box), Editor_(editor), MostRows_(mostRows) {
+ComboList::ComboList(QtLine& box, ComboBox& combo) : QListView(&box), Box_(box), Combo_(combo) {
     setWindowFlag(Qt::Popup);
     setFocusPolicy(Qt::NoFocus);
-    setModel(new ItemsModel(editor.items(), this));
+    setModel(new ItemsModel(combo.items(), this));
     setUniformItemSizes(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFrameStyle(static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Plain));
     // A window takes neither from its parent.
     setFont(box.font());
-    setPalette(box.palette());
+    setPalette(box.look());
     setLayoutDirection(box.layoutDirection());
     setAccessibleName(box.accessibleName());
     viewport()->setMouseTracking(true);
@@ -60,16 +59,17 @@ int ComboList::heightOf(int rows) const {
     return rows * row + 2 * frameWidth();
 }
 
-QRect ComboList::place(int width) const {
+QRect ComboList::place() const {
     const QRect screen = Box_.screen()->availableGeometry();
     const QRect box(Box_.mapToGlobal(QPoint()), Box_.size());
-    int rows = std::clamp(model()->rowCount(), 1, MostRows_);
+    int rows = std::clamp(model()->rowCount(), 1, int{ComboBox::RowsOfList});
     const int below = screen.bottom() - box.bottom();
     const int above = box.top() - screen.top();
     const bool opensUp = heightOf(rows) > below && above > below;
     while (rows > 1 && heightOf(rows) > std::max(above, below)) --rows;
 
-    QRect list(box.left(), box.bottom() + 1, std::clamp(width, box.width(), std::max(screen.width(), box.width())),
+    QRect list(box.left(), box.bottom() + 1,
+               std::clamp(int{Combo_.droppedWidth()}, box.width(), std::max(screen.width(), box.width())),
                heightOf(rows));
     if (opensUp) list.moveBottom(box.top() - 1);
     if (Box_.isRightToLeft()) list.moveRight(box.right());
@@ -77,17 +77,17 @@ QRect ComboList::place(int width) const {
     return list;
 }
 
-void ComboList::drop(int width) {
-    const QRect bounds = place(width);
+void ComboList::drop() {
+    const QRect bounds = place();
     if (bounds != geometry()) setGeometry(bounds);
-    setCurrentIndex(model()->index(Editor_.highlighted(), 0));
+    setCurrentIndex(model()->index(Combo_.highlighted(), 0));
     show();
 }
 
 void ComboList::hideEvent(QHideEvent* event) {
     QListView::hideEvent(event);
     // Qt closes popups too.
-    Editor_.showDropDown(false);
+    Combo_.showDropDown(false);
 }
 
 // ---- Keys and mouse
@@ -110,7 +110,7 @@ bool ComboList::viewportEvent(QEvent* event) {
 
 bool ComboList::keyPassed(QKeyEvent& event) {
     // So that the box has the focus back when it loses it.
-    if (movesFocus(event)) Editor_.showDropDown(false);
+    if (movesFocus(event)) Combo_.showDropDown(false);
     return QCoreApplication::sendEvent(&Box_, &event);
 }
 
@@ -118,19 +118,19 @@ bool ComboList::keyPassed(QKeyEvent& event) {
 void ComboList::pressedOutside(const QPoint& globalPosition) {
     if (geometry().contains(globalPosition)) return;
     setAttribute(Qt::WA_NoMouseReplay, Button_.contains(Box_.mapFromGlobal(globalPosition)));
-    Editor_.showDropDown(false);
+    Combo_.showDropDown(false);
 }
 
 void ComboList::mousePressEvent(QMouseEvent* event) { mouseMoveEvent(event); }
 
 void ComboList::mouseMoveEvent(QMouseEvent* event) {
     const QModelIndex row = indexAt(event->position().toPoint());
-    if (row.isValid()) Editor_.highlight(row.row());
+    if (row.isValid()) Combo_.highlight(row.row());
 }
 
 void ComboList::mouseReleaseEvent(QMouseEvent* event) {
     const QModelIndex row = indexAt(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && row.isValid()) Editor_.pick(row.row());
+    if (event->button() == Qt::LeftButton && row.isValid()) Combo_.pick(row.row());
 }
 
 }  // namespace kel::qt

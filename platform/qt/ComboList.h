@@ -2,7 +2,8 @@
 
 #include <QListView>
 
-#include "host/editing/ComboEditor.h"
+#include "host/widgets/ComboBox.h"
+#include "platform/qt/QtLine.h"
 
 namespace kel::qt {
 
@@ -11,10 +12,10 @@ namespace kel::qt {
 class ComboList final : public QListView {
 public:
     /// Both outlive the list.
-    ComboList(QWidget& box, ComboEditor& editor, int mostRows);
+    ComboList(QtLine& box, ComboBox& combo);
 
-    /// Shows it at the box, so wide at least, and the highlighted row in it. Above the box where there is more room.
-    void drop(int width);
+    /// Shows it at the box, and the highlighted row in it. Above the box where there is more room.
+    void drop();
 
     /// Of the box, where presses do not fall through when they close the list: they would open it again.
     void setButton(const QRect& button) { Button_ = button; }
@@ -32,12 +33,11 @@ private:
     bool keyPassed(QKeyEvent& event);
     void pressedOutside(const QPoint& globalPosition);
     int heightOf(int rows) const;
-    QRect place(int width) const;
+    QRect place() const;
 
-    QWidget& Box_;
-    ComboEditor& Editor_;
+    QtLine& Box_;
+    ComboBox& Combo_;
     QRect Button_;
-    int MostRows_;
 };
 
 }  // namespace kel::qt

@@ -1,7 +1,10 @@
 #include "platform/qt/ControlSite.h"
 
+#include <QClipboard>
 #include <QFontMetrics>
+#include <QGuiApplication>
 #include <QKeySequence>
+#include <QPainter>
 #include <QWidget>
 
 #include "common/FieldLayout.h"
@@ -14,12 +17,13 @@
 #include "platform/qt/KelControlWidget.h"
 #include "platform/qt/QtCheckBox.h"
 #include "platform/qt/QtComboBox.h"
-#include "platform/qt/QtLineBox.h"
+#include "platform/qt/QtLine.h"
 #include "platform/qt/QtPictureBox.h"
-#include "platform/qt/QtPlainBox.h"
+#include "platform/qt/QtTextArea.h"
 #include "platform/qt/QtUpDown.h"
 #include "platform/qt/RetiredControls.h"
 #include "platform/qt/TextBridge.h"
+#include "platform/qt/WidgetLook.h"
 
 namespace kel::qt {
 
@@ -202,16 +206,23 @@ void ControlSite::moveFocusTo(FieldWidget& field) { focusWidget(dynamic_cast<Chi
 
 void ControlSite::focusBarred(FieldWidget& field) { dynamic_cast<ChildField&>(*field.view()).giveUpFocus(); }
 
-std::unique_ptr<TextBox> ControlSite::makeTextBox(TextBoxListener& listener, bool multiLine) {
-    if (!multiLine) return std::make_unique<QtLineBox>(*this, listener, *Widget_);
-    auto box = std::make_unique<QtPlainBox>(*this, listener, *Widget_);
+std::unique_ptr<TextView> ControlSite::makeView(TextBox& box) {
+    if (!box.multiLine()) return std::make_unique<QtLine>(*this, box, *Widget_);
+    auto area = std::make_unique<QtTextArea>(*this, box, *Widget_);
     // Shown as every new box, but not yet in the other one's place: few controls show both.
-    if (Widget_->isVisible()) box->QPlainTextEdit::setVisible(true);
-    return box;
+    if (Widget_->isVisible()) area->setVisible(true);
+    return area;
 }
 
-std::unique_ptr<ComboBox> ControlSite::makeComboBox(ComboBoxListener& listener) {
-    return std::make_unique<QtComboBox>(*this, listener, *Widget_);
+std::unique_ptr<TextView> ControlSite::makeView(ComboBox& box) {
+    return std::make_unique<QtComboBox>(*this, box, *Widget_);
+}
+
+std::u16string ControlSite::clipboardText() { return std::u16string(viewOf(QGuiApplication::clipboard()->text())); }
+
+/// Programs here expect single line feeds.
+void ControlSite::setClipboardText(std::u16string_view text) {
+    QGuiApplication::clipboard()->setText(toQString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
 }
 
 void ControlSite::addField(ChildField& field) {
@@ -293,10 +304,12 @@ bool ControlSite::mnemonicPressed(int shortcutId) {
     return true;
 }
 
-void ControlSite::paint(QPainter& painter) const {
-    if (Label_ == nullptr) return;
+void ControlSite::paint(const QRect& area) const {
+    // With every key the field shows what is around it too.
+    if (Label_ == nullptr || !Label_->area().intersects(area)) return;
     const int baseline = Active_ != nullptr ? Active_->widget().y() + Active_->baseline()
                                             : (Widget_->height() + Widget_->fontMetrics().ascent()) / 2;
+    QPainter painter(Widget_);
     Label_->paint(painter, baseline);
 }
 

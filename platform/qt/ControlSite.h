@@ -13,7 +13,6 @@
 #include "platform/qt/TwipGrid.h"
 
 class QKeySequence;
-class QPainter;
 
 namespace kel::qt {
 
@@ -31,7 +30,7 @@ struct Surroundings {
 
 /// The place of a control in its Qt widget: the container that the control sees, and the maker of its child
 /// widgets.
-class ControlSite final : public Container, public WidgetFactory {
+class ControlSite final : public Container, public WidgetHost {
 public:
     ControlSite(KelControlWidget& widget, const Surroundings& surroundings);
     ControlSite(const ControlSite&) = delete;
@@ -65,11 +64,13 @@ public:
     std::unique_ptr<View> makeView(CheckBox& box) override;
     std::unique_ptr<View> makeView(UpDown& spinner) override;
     std::unique_ptr<View> makeView(Label& label) override;
+    std::unique_ptr<TextView> makeView(TextBox& box) override;
+    std::unique_ptr<TextView> makeView(ComboBox& box) override;
     bool takesInput() const override { return Widget_->isEnabled(); }
     void moveFocusTo(FieldWidget& field) override;
     void focusBarred(FieldWidget& field) override;
-    std::unique_ptr<TextBox> makeTextBox(TextBoxListener& listener, bool multiLine) override;
-    std::unique_ptr<ComboBox> makeComboBox(ComboBoxListener& listener) override;
+    std::u16string clipboardText() override;
+    void setClipboardText(std::u16string_view text) override;
 
     // ---- What the widget tells
 
@@ -85,7 +86,8 @@ public:
     void hidden();
     /// Somebody pressed the key of a mnemonic. Returns whether it was the caption's.
     bool mnemonicPressed(int shortcutId);
-    void paint(QPainter& painter) const;
+    /// What is in `area` of it, but for its children.
+    void paint(const QRect& area) const;
     QSize sizeHint(int characters) const;
 
     // ---- What the child widgets tell

@@ -5,7 +5,7 @@
 #include <QKeySequence>
 #include <QMenu>
 
-#include "platform/qt/EditBox.h"
+#include "host/widgets/TextEntry.h"
 
 namespace kel::qt {
 
@@ -29,7 +29,7 @@ constexpr Entry Entries[] = {
     {"Select All", "edit-select-all", QKeySequence::SelectAll, EditAction::SelectAll, true},
 };
 
-void addEntry(QMenu& menu, EditBox& box, const Entry& entry) {
+void addEntry(QMenu& menu, TextEntry& box, const Entry& entry) {
     if (entry.beginsGroup) menu.addSeparator();
     QString text = QCoreApplication::translate("QLineEdit", entry.text);
     const QString key = QKeySequence(entry.key).toString(QKeySequence::NativeText);
@@ -38,13 +38,13 @@ void addEntry(QMenu& menu, EditBox& box, const Entry& entry) {
     action->setObjectName(QLatin1String(entry.icon));
     action->setEnabled(box.offers(entry.action));
     const EditAction chosen = entry.action;
-    QObject::connect(action, &QAction::triggered, &box.field().widget(), [&box, chosen] { box.perform(chosen); });
+    QObject::connect(action, &QAction::triggered, menu.parent(), [&box, chosen] { box.perform(chosen); });
 }
 
 }  // namespace
 
-void showEditMenu(EditBox& box, const QPoint& globalPosition) {
-    auto* const menu = new QMenu(&box.field().widget());
+void showEditMenu(TextEntry& box, QWidget& widget, const QPoint& globalPosition) {
+    auto* const menu = new QMenu(&widget);
     menu->setObjectName(QStringLiteral("qt_edit_menu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (const Entry& entry : Entries) addEntry(*menu, box, entry);

@@ -45,7 +45,7 @@ private:
 /// `next` is where the focus goes, nullptr when it is none of the controls'.
 void leaveHolder(const ControlSite* next) {
     Suspended = false;
-    if (Holder != nullptr) std::exchange(Holder, nullptr)->lostFocus();
+    if (Holder != nullptr) std::exchange(Holder, nullptr)->shown().lostFocus();
     if (Entered != nullptr && Entered != next) std::exchange(Entered, nullptr)->control().ExitFocus();
 }
 
@@ -103,7 +103,7 @@ void arrived(ChildField& field, Qt::FocusReason reason) {
         Entered = &field.site();
         Entered->control().EnterFocus();
     }
-    if (Holder == &field) field.gotFocus();
+    if (Holder == &field) field.shown().gotFocus();
 }
 
 void departed(ChildField& field, Qt::FocusReason reason) {

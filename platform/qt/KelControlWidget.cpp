@@ -1,7 +1,7 @@
 #include "platform/qt/KelControlWidget.h"
 
 #include <QEvent>
-#include <QPainter>
+#include <QPaintEvent>
 #include <QShortcutEvent>
 
 #include "common/FieldLayout.h"
@@ -97,9 +97,6 @@ void KelControlWidget::showEvent(QShowEvent* /*event*/) { Site_->shown(); }
 
 void KelControlWidget::hideEvent(QHideEvent* /*event*/) { Site_->hidden(); }
 
-void KelControlWidget::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter(this);
-    Site_->paint(painter);
-}
+void KelControlWidget::paintEvent(QPaintEvent* event) { Site_->paint(event->rect()); }
 
 }  // namespace kel::qt

@@ -45,17 +45,7 @@ QtCheckBox::QtCheckBox(ControlSite& site, CheckBox& box, QWidget& parent)
 
 void QtCheckBox::outOfDate() {
     const Changes changes = Box_.takeChanges();
-    if (changes.has(Change::Place)) placeAgain();
-    if (changes.has(Change::Enabled)) {
-        setEnabled(Box_.enabled());
-        site().fieldEnabled(*this, Box_.enabled());
-    }
-    if (changes.has(Change::Visible)) {
-        setVisible(Box_.visible());
-        if (Box_.visible()) site().fieldShown(*this);
-    }
-    if (changes.has(Change::Font)) setWidgetFont(*this, fontOf(font(), Box_.font()));
-    if (changes.has(Change::ToolTip)) setWidgetToolTip(*this, Box_.toolTip());
+    showState(changes);
     if (changes.has(Change::Caption)) {
         setText(toQString(Box_.caption()));
         site().widget().updateGeometry();

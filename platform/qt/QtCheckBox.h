@@ -18,8 +18,6 @@ public:
     void outOfDate() override;
     void paintAgain() override { update(); }
 
-    void gotFocus() override { Box_.gotFocus(); }
-    void lostFocus() override { Box_.lostFocus(); }
     void colorAgain() override { update(); }
     bool isTall() const override { return false; }
     int baseline() const override;

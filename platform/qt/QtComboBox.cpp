@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOptionComboBox>
+#include <QStyleOptionFrame>
 
 #include "platform/qt/ComboFrame.h"
 #include "platform/qt/EdgeGuard.h"
@@ -36,38 +37,38 @@ private:
 
 }  // namespace
 
-QtComboBox::QtComboBox(ControlSite& site, ComboBoxListener& listener, QWidget& parent)
-    : QtLine(parent, site, listener), Button_(new ButtonArea(*this)) {
-    setFrame(false);
-    placeParts();
+QtComboBox::QtComboBox(ControlSite& site, ComboBox& box, QWidget& parent)
+    : QtLine(site, box, parent), Combo_(box), Button_(new ButtonArea(*this)) {
+    placeButton();
 }
 
 QtComboBox::~QtComboBox() = default;
 
-void QtComboBox::installFrame(const std::int16_t& buttonWidthPixels) {
-    FrameButtonWidth_ = &buttonWidthPixels;
-    placeParts();
-    update();
+void QtComboBox::showMore(Changes changes) {
+    if (changes.has(Change::List)) showList();
+    if (!changes.has(Change::Frame)) return;
+    placeButton();
+    placeTextAgain();
 }
 
 // ---- List
 
 void QtComboBox::pressButton() {
     // Getting the focus may have moved it on, or barred the box.
-    if (focus::isHeldBy(*this)) Editor_.pressButton();
+    if (focus::isHeldBy(*this)) Combo_.pressButton();
 }
 
-void QtComboBox::listChanged() {
-    if (!isDropped()) {
+void QtComboBox::showList() {
+    if (!Combo_.isDropped()) {
         closeList();
         return;
     }
     if (!List_) {
-        List_ = std::make_unique<ComboList>(*this, Editor_, MostRows);
+        List_ = std::make_unique<ComboList>(*this, Combo_);
         List_->setButton(Button_->geometry());
         update();
     }
-    List_->drop(droppedWidth());
+    List_->drop();
 }
 
 /// It may be the list that is saying so.
@@ -84,6 +85,8 @@ void QtComboBox::closeList() {
 QStyleOptionComboBox QtComboBox::styleOption() const {
     QStyleOptionComboBox option;
     option.initFrom(this);
+    option.palette = look();
+    option.palette.setCurrentColorGroup(palette().currentColorGroup());
     option.editable = true;
     option.frame = true;
     option.subControls = QStyle::SC_All;
@@ -93,36 +96,41 @@ QStyleOptionComboBox QtComboBox::styleOption() const {
     return option;
 }
 
-QRect QtComboBox::buttonRect(const QStyleOptionComboBox& option) const {
-    if (FrameButtonWidth_ != nullptr && *FrameButtonWidth_ > 0)
-        return comboButtonStrip(rect(), *FrameButtonWidth_, isRightToLeft());
+QRect QtComboBox::buttonRect() const {
+    const std::int16_t* const width = Combo_.frameButtonWidth();
+    if (width != nullptr && *width > 0) return comboButtonStrip(rect(), *width, isRightToLeft());
+    const QStyleOptionComboBox option = styleOption();
     return style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, this);
 }
 
-void QtComboBox::placeParts() {
-    const QRect button = buttonRect(styleOption());
-    Button_->setGeometry(button);
+QRect QtComboBox::findTextArea() const {
+    const QRect button = buttonRect();
     const int left = isRightToLeft() ? button.right() + 1 : ComboEdge;
-    const int right = isRightToLeft() ? ComboEdge : width() - button.left();
-    const QMargins margins(left, 0, right, 0);
-    if (margins != textMargins()) setTextMargins(margins);
+    const int right = isRightToLeft() ? width() - ComboEdge : button.left();
+    return {left, 0, right - left, height()};
+}
+
+void QtComboBox::placeButton() {
+    if (Button_->geometry() == buttonRect()) return;
+    Button_->setGeometry(buttonRect());
+    placeTextAgain();
 }
 
 // ---- Events
 
 void QtComboBox::resizeEvent(QResizeEvent* event) {
-    QLineEdit::resizeEvent(event);
-    placeParts();
+    QtLine::resizeEvent(event);
+    placeButton();
 }
 
 void QtComboBox::changeEvent(QEvent* event) {
     QtLine::changeEvent(event);
     switch (event->type()) {
         case QEvent::EnabledChange:
-            if (!isEnabled()) showDropDown(false);
+            if (!isEnabled()) Combo_.showDropDown(false);
             break;
         case QEvent::StyleChange:
-        case QEvent::LayoutDirectionChange: placeParts(); break;
+        case QEvent::LayoutDirectionChange: placeButton(); break;
         default: break;
     }
 }
@@ -139,21 +147,28 @@ void QtComboBox::focusOutEvent(QFocusEvent* event) {
 }
 
 void QtComboBox::hideEvent(QHideEvent* event) {
-    QLineEdit::hideEvent(event);
-    showDropDown(false);
+    QtLine::hideEvent(event);
+    Combo_.showDropDown(false);
 }
 
 // ---- Painting
 
+/// The button's width may be another one by now.
 void QtComboBox::paintEvent(QPaintEvent* event) {
-    placeParts();
-    QLineEdit::paintEvent(event);
-    QPainter painter(this);
+    placeButton();
+    QtLine::paintEvent(event);
+}
+
+void QtComboBox::paintGround(QPainter& painter) const {
+    const QStyleOptionFrame frameless = panel(0);
+    style()->drawPrimitive(QStyle::PE_PanelLineEdit, &frameless, &painter, this);
     const QStyleOptionComboBox option = styleOption();
-    if (FrameButtonWidth_ == nullptr)
+    painter.save();
+    if (Combo_.frameButtonWidth() == nullptr)
         paintAroundText(painter, option);
     else
         paintFramed(painter, option);
+    painter.restore();
 }
 
 void QtComboBox::paintAroundText(QPainter& painter, const QStyleOptionComboBox& option) const {
@@ -164,7 +179,7 @@ void QtComboBox::paintAroundText(QPainter& painter, const QStyleOptionComboBox& 
 
 /// The frame hides the style's own but for the row that it leaves free, where half of another one would show.
 void QtComboBox::paintFramed(QPainter& painter, const QStyleOptionComboBox& option) const {
-    const QRect strip = comboButtonStrip(rect(), *FrameButtonWidth_, isRightToLeft());
+    const QRect strip = comboButtonStrip(rect(), *Combo_.frameButtonWidth(), isRightToLeft());
     const QRect arrow = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, this);
     const QRect button = strip.isEmpty() ? arrow : strip;
     painter.save();

@@ -5,19 +5,16 @@
 #include "platform/qt/ComboList.h"
 #include "platform/qt/QtLine.h"
 
-class QPainter;
 class QStyleOptionComboBox;
 
 namespace kel::qt {
 
 /// A combo box: a line of text with a button at its end, drawn by the style as a combo box, and a list that exists as
 /// long as it is open.
-class QtComboBox final : public QtLine<QtComboField> {
+class QtComboBox final : public QtLine {
 public:
-    QtComboBox(ControlSite& site, ComboBoxListener& listener, QWidget& parent);
+    QtComboBox(ControlSite& site, ComboBox& box, QWidget& parent);
     ~QtComboBox() override;
-
-    void installFrame(const std::int16_t& buttonWidthPixels) override;
 
     /// What shows the list; nullptr while it is closed.
     ComboList* list() const { return List_.get(); }
@@ -34,18 +31,22 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void listChanged() override;
+    void showMore(Changes changes) override;
+    void paintGround(QPainter& painter) const override;
+    QRect findTextArea() const override;
+    bool lendsKeys() const override { return List_ != nullptr; }
+    void showList();
     void closeList();
 
     QStyleOptionComboBox styleOption() const;
-    QRect buttonRect(const QStyleOptionComboBox& option) const;
-    void placeParts();
+    QRect buttonRect() const;
+    void placeButton();
     void paintAroundText(QPainter& painter, const QStyleOptionComboBox& option) const;
     void paintFramed(QPainter& painter, const QStyleOptionComboBox& option) const;
 
+    ComboBox& Combo_;
     std::unique_ptr<ComboList> List_;
     QWidget* Button_;  ///< Qt owns it
-    const std::int16_t* FrameButtonWidth_ = nullptr;
 };
 
 }  // namespace kel::qt

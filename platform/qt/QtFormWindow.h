@@ -12,7 +12,6 @@ class QWidget;
 
 namespace kel::qt {
 
-class EditBox;
 class PlacedQtControl;
 
 /// A form on the screen.

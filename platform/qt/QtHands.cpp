@@ -5,7 +5,6 @@
 #include <QPixmap>
 #include <QPointer>
 
-#include "platform/qt/EditBox.h"
 #include "platform/qt/KeySender.h"
 #include "platform/qt/PlacedQtControl.h"
 #include "platform/qt/QtCheckBox.h"
@@ -13,6 +12,7 @@
 #include "platform/qt/QtFormWindow.h"
 #include "platform/qt/QtUpDown.h"
 #include "platform/qt/TextBridge.h"
+#include "platform/qt/TextInput.h"
 
 /// What a person does at a form's window.
 namespace kel::qt {
@@ -27,11 +27,11 @@ void settle() {
     } while (hasKeysToSend());
 }
 
-EditBox* editBoxOf(PlacedControl& control) { return dynamic_cast<EditBox*>(control.control().widgets().field); }
-
-QtCheckBox* checkBoxOf(PlacedControl& control) {
-    const CheckBox* const box = control.control().widgets().checkBox;
-    return box != nullptr ? dynamic_cast<QtCheckBox*>(box->view()) : nullptr;
+/// Where it is seen.
+ChildField* fieldOf(PlacedControl& control) {
+    const FieldWidget* const shown = control.control().widgets().field;
+    auto* const field = shown != nullptr ? dynamic_cast<ChildField*>(shown->view()) : nullptr;
+    return field != nullptr && field->widget().isVisible() ? field : nullptr;
 }
 
 /// Qt gives the focus only for events that come from the window system.
@@ -105,18 +105,12 @@ void QtFormWindow::focus(PlacedControl& control) {
 
 void QtFormWindow::click(PlacedControl& control, std::int32_t position) {
     activate();
-    if (EditBox* const box = editBoxOf(control); box != nullptr && box->field().widget().isVisible()) {
-        const QPointer<QWidget> area = &box->mouseArea();
+    if (ChildField* const field = fieldOf(control)) {
+        const QPointer<QWidget> area = &field->mouseArea();
         closePopups();
-        giveFocusByClick(box->field().widget());
-        box->aim(position);
-        sendMouse(*area, QEvent::MouseButtonPress, Qt::LeftButton);
-        box->aim(-1);
-        if (!area.isNull()) sendMouse(*area, QEvent::MouseButtonRelease, Qt::LeftButton);
-    } else if (QtCheckBox* const check = checkBoxOf(control); check != nullptr && check->isVisible()) {
-        closePopups();
-        giveFocusByClick(*check);
-        clickLeft(*check);
+        giveFocusByClick(field->widget());
+        if (TextInput* const input = area.isNull() ? nullptr : field->textInput()) input->aim(position);
+        if (!area.isNull()) clickLeft(*area);
     }
     settle();
 }
@@ -124,17 +118,15 @@ void QtFormWindow::click(PlacedControl& control, std::int32_t position) {
 void QtFormWindow::rightClick(PlacedControl& control) {
     const QPointer<QWidget> window = Window_.get();
     activate();
-    if (EditBox* const box = editBoxOf(control); box != nullptr && box->field().widget().isVisible()) {
-        const QPointer<QWidget> area = &box->mouseArea();
+    if (ChildField* const field = fieldOf(control)) {
+        const QPointer<QWidget> area = &field->mouseArea();
+        const bool hasMenu = field->textInput() != nullptr;
         closePopups();
-        giveFocusByClick(box->field().widget());
-        sendMouse(*area, QEvent::MouseButtonPress, Qt::RightButton);
-        if (!area.isNull()) sendMenu(*area);
+        giveFocusByClick(field->widget());
+        if (!area.isNull() && hasMenu) sendMouse(*area, QEvent::MouseButtonPress, Qt::RightButton);
+        if (!area.isNull() && hasMenu) sendMenu(*area);
         closePopups();
-        if (!area.isNull()) sendMouse(*area, QEvent::MouseButtonRelease, Qt::RightButton);
-    } else if (QtCheckBox* const check = checkBoxOf(control); check != nullptr && check->isVisible()) {
-        closePopups();
-        giveFocusByClick(*check);
+        if (!area.isNull() && hasMenu) sendMouse(*area, QEvent::MouseButtonRelease, Qt::RightButton);
     }
     settle();
     if (!window.isNull()) activate();
@@ -154,8 +146,8 @@ void QtFormWindow::spin(PlacedControl& control, bool up) {
 void QtFormWindow::pick(PlacedControl& control, std::int32_t item) {
     const QPointer<QWidget> window = Window_.get();
     activate();
-    const QPointer<QtComboBox> box = dynamic_cast<QtComboBox*>(control.control().widgets().comboBox);
-    if (!box.isNull() && box->isVisible()) {
+    const QPointer<QtComboBox> box = dynamic_cast<QtComboBox*>(fieldOf(control));
+    if (!box.isNull()) {
         closePopups();
         giveFocusByClick(*box);
         clickLeft(box->button());

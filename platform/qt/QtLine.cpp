@@ -2,220 +2,435 @@
 
 #include <limits>
 #include <QAccessible>
-#include <QClipboard>
+#include <QApplication>
 #include <QContextMenuEvent>
-#include <QGuiApplication>
+#include <QDrag>
+#include <QInputMethod>
+#include <QMimeData>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QStyle>
+#include <QStyleHints>
 #include <QStyleOptionFrame>
-#include <utility>
+#include <QTextFormat>
 
 #include "host/editing/TextDifference.h"
+#include "platform/qt/AccessibleLine.h"
 #include "platform/qt/EdgeGuard.h"
 #include "platform/qt/FocusTracker.h"
+#include "platform/qt/TextBridge.h"
+#include "platform/qt/WidgetLook.h"
 
 namespace kel::qt {
 
 namespace {
 
+constexpr int TextMargin = 2;  ///< between the frame and the text, pixels
+
+/// One line is edited at a time: its layout stands until another one wants it, and a thousand fields keep none.
+struct LaidOut {
+    const QtLine* line = nullptr;
+    LineLayout layout;
+};
+
+LaidOut& laidOut() {
+    static LaidOut Current;
+    return Current;
+}
+
+/// What a line looks like without its text, of the one that was last painted in part. The style takes several times as
+/// long for it as for the text, which alone changes with a key.
+struct PaintedGround {
+    const QtLine* line = nullptr;
+    QPixmap picture;
+};
+
+PaintedGround& paintedGround() {
+    static PaintedGround Current;
+    return Current;
+}
+
+constexpr Qt::InputMethodHints PasswordHints =
+    Qt::ImhHiddenText | Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase | Qt::ImhSensitiveData;
+
 int toInt(std::size_t position) { return static_cast<int>(position); }
-
-/// Posted to a line that waits with what it is to show.
-QEvent::Type timeToShow() {
-    static const int type = QEvent::registerEventType();
-    return static_cast<QEvent::Type>(type);
-}
-
-/// Qt's line edit has no part in what a key does.
-bool isOfKey(const QEvent& event) {
-    const QEvent::Type type = event.type();
-    return type == QEvent::KeyPress || type == QEvent::KeyRelease || type == QEvent::ShortcutOverride;
-}
 
 }  // namespace
 
-template <class Box>
-void QtLine<Box>::watchText() {
-    setDragEnabled(true);
-    connect(this, &QLineEdit::textChanged, this, [this] { this->textChangedInWidget(); });
-    connect(this, &QLineEdit::cursorPositionChanged, this, [this] { this->selectionChangedInWidget(); });
-    connect(this, &QLineEdit::selectionChanged, this, [this] { this->selectionChangedInWidget(); });
+QtLine::QtLine(ControlSite& site, TextEntry& box, QWidget& parent)
+    : QWidget(&parent), ChildField(site, *this, box), Input_(box, *this) {
+    makeLinesAccessible();
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_InputMethodEnabled);
+    setCursor(Qt::IBeamCursor);
+    setAcceptDrops(true);
+}
+
+QtLine::~QtLine() {
+    dropLayout();
+    if (paintedGround().line == this) paintedGround() = {};
 }
 
 // ---- What is shown
 
-/// Until the events are through that came along with this one, or until one comes that needs what is shown; out of
-/// sight, until the line is seen. A screen reader is not kept waiting.
-template <class Box>
-bool QtLine<Box>::postponesShowing() {
-    if (QAccessible::isActive()) return false;
-    if (isVisible() && !std::exchange(IsTimeToShowPosted_, true))
-        QCoreApplication::postEvent(this, new QEvent(timeToShow()));
-    return true;
+void QtLine::outOfDate() {
+    const Changes changes = box().takeChanges();
+    showState(changes);
+    if (changes.has(Change::Password)) setInputMethodHints(box().isPassword() ? PasswordHints : Qt::ImhNone);
+    if (changes.has(Change::Colors)) recolor();
+    if (changes.has(Change::Locked)) update();
+    if (changes.has(Change::Text) || changes.has(Change::Password)) dropLayout();
+    showMore(changes);
+    if (!changes.has(Change::Text) && !changes.has(Change::Selection)) return;
+    // Whatever moves text or caret ends a composition.
+    if (!Composition_.text.isEmpty()) {
+        showComposition({});
+        QGuiApplication::inputMethod()->reset();
+    }
+    if (QAccessible::isActive()) tellReaders(changes.has(Change::Text));
+    if (!isVisible()) return;
+    update(textArea());
+    if (hasFocus()) {
+        showCaret(true);
+        updateMicroFocus();
+    }
 }
 
-template <class Box>
-std::u16string QtLine<Box>::shownText() {
-    return std::u16string(viewOf(QLineEdit::text()));
+void QtLine::recolor() {
+    Look_ = fieldPalette(colors(), palette()).resolve(palette());
+    update();
 }
 
-template <class Box>
-void QtLine<Box>::showEdited(std::u16string_view text, std::size_t caret) {
-    const TextDifference difference = differenceOf(viewOf(QLineEdit::text()), text, caret);
-    if (difference.isNone()) return;
-    makeRoom(text.size());
-    const Selection replaced{difference.start, difference.end};
-    if (shownSelection() != replaced) showSelection(replaced);
-    insert(toQString(text.substr(difference.start, difference.newEnd - difference.start)));
+const LineLayout& QtLine::layout() const {
+    LaidOut& current = laidOut();
+    if (current.line != this) {
+        current.layout.lay(box().shownText(), font(), layoutDirection(), Composition_, box().selection().start());
+        current.line = this;
+    }
+    return current.layout;
 }
 
-template <class Box>
-void QtLine<Box>::showNew(std::u16string_view text) {
-    if (viewOf(QLineEdit::text()) == text) return;
-    makeRoom(text.size());
-    QLineEdit::setText(toQString(text));
+void QtLine::dropLayout() const {
+    if (laidOut().line == this) laidOut().line = nullptr;
 }
 
-/// Qt's own limit is 32767 units; lifting it costs a new layout of the text, so it is done when needed.
-template <class Box>
-void QtLine<Box>::makeRoom(std::size_t units) {
-    if (units > static_cast<std::size_t>(QLineEdit::maxLength()))
-        QLineEdit::setMaxLength(std::numeric_limits<int>::max());
+/// A screen reader is told what a person sees.
+void QtLine::tellReaders(bool textDiffers) {
+    const std::u16string now = box().shownText();
+    if (textDiffers) {
+        const TextDifference difference = differenceOf(ToldText_, now, box().selection().caret);
+        QAccessibleTextUpdateEvent event(
+            this, toInt(difference.start),
+            toQString(std::u16string_view(ToldText_).substr(difference.start, difference.end - difference.start)),
+            toQString(std::u16string_view(now).substr(difference.start, difference.newEnd - difference.start)));
+        QAccessible::updateAccessibility(&event);
+        ToldText_ = now;
+    }
+    QAccessibleTextSelectionEvent event(this, toInt(box().selection().start()), toInt(box().selection().end()));
+    event.setCursorPosition(toInt(box().selection().caret));
+    QAccessible::updateAccessibility(&event);
 }
 
-template <class Box>
-Selection QtLine<Box>::shownSelection() const {
-    const auto caret = static_cast<std::size_t>(cursorPosition());
-    if (!hasSelectedText()) return {caret, caret};
-    const auto start = static_cast<std::size_t>(selectionStart());
-    return {caret == start ? static_cast<std::size_t>(selectionEnd()) : start, caret};
-}
+// ---- Places
 
-template <class Box>
-void QtLine<Box>::showSelection(const Selection& selection) {
-    if (selection.empty())
-        setCursorPosition(toInt(selection.caret));
-    else
-        setSelection(toInt(selection.anchor), toInt(selection.caret) - toInt(selection.anchor));
-}
-
-template <class Box>
-std::size_t QtLine<Box>::positionAt(const QPoint& point) const {
-    // Qt only reads, but does not say so.
-    return static_cast<std::size_t>(const_cast<QtLine*>(this)->cursorPositionAt(point));
-}
-
-// ---- Looks
-
-template <class Box>
-void QtLine<Box>::setVisible(bool visible) {
-    this->changeVisible(visible, [&] { QLineEdit::setVisible(visible); });
-}
-
-template <class Box>
-int QtLine<Box>::baseline() const {
+QStyleOptionFrame QtLine::panel(int frameWidth) const {
     QStyleOptionFrame option;
-    initStyleOption(&option);
-    const QRect contents =
-        style()->subElementRect(QStyle::SE_LineEditContents, &option, this).marginsRemoved(textMargins());
+    option.initFrom(this);
+    option.palette = Look_;
+    option.palette.setCurrentColorGroup(palette().currentColorGroup());
+    option.lineWidth = frameWidth;
+    option.state |= QStyle::State_Sunken;
+    if (box().locked()) option.state |= QStyle::State_ReadOnly;
+    return option;
+}
+
+QRect QtLine::textArea() const {
+    if (TextArea_.isNull()) TextArea_ = findTextArea();
+    return TextArea_;
+}
+
+void QtLine::placeTextAgain() {
+    TextArea_ = {};
+    update();
+}
+
+QRect QtLine::findTextArea() const {
+    const QStyleOptionFrame option = panel(style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this));
+    return style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
+}
+
+/// In the middle, or as the widest line is seen.
+QPoint QtLine::textCorner() const {
+    const QRect area = textArea();
+    const int top = area.y() + (area.height() - fontMetrics().height() + 1) / 2;
+    const int room = area.width() - 2 * TextMargin;
+    const bool atRight = layout().isRightToLeft() && layout().width() < room;
+    const int left = area.x() + TextMargin + (atRight ? room - layout().width() - 1 : -Scrolled_);
+    return {left, top};
+}
+
+int QtLine::baseline() const {
+    const QRect area = textArea();
     const QFontMetrics metrics = fontMetrics();
-    return contents.y() + (contents.height() - metrics.height() + 1) / 2 + metrics.ascent();
+    return area.y() + (area.height() - metrics.height() + 1) / 2 + metrics.ascent();
+}
+
+/// As far as need be, and no further than the text reaches.
+void QtLine::scrollToCaret() {
+    const int room = textArea().width() - 2 * TextMargin;
+    const int used = layout().width() + 1;
+    const int caret = layout().xOf(box().selection().caret);
+    if (used <= room)
+        Scrolled_ = 0;
+    else if (caret - Scrolled_ >= room)
+        Scrolled_ = caret - room + 1;
+    else if (caret < Scrolled_)
+        Scrolled_ = caret;
+    else
+        Scrolled_ = std::min(Scrolled_, used - room + 1);
+}
+
+QRect QtLine::caretRect(std::size_t position) const {
+    const int width = style()->pixelMetric(QStyle::PM_TextCursorWidth, nullptr, this);
+    return {textCorner() + QPoint(layout().xOf(position), 0), QSize(width, fontMetrics().height())};
+}
+
+std::size_t QtLine::positionAt(const QPoint& point) const { return layout().positionAt(point.x() - textCorner().x()); }
+
+// ---- Painting
+
+void QtLine::paintGround(QPainter& painter) const {
+    const QStyleOptionFrame option = panel(style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, this));
+    style()->drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter, this);
+}
+
+/// All of it as the style paints it, whatever it is that changes; a part out of the picture of all.
+void QtLine::paintGroundIn(QPainter& painter, const QRect& area) const {
+    PaintedGround& ground = paintedGround();
+    if (!textArea().contains(area)) {
+        if (ground.line == this) ground = {};
+        paintGround(painter);
+        return;
+    }
+    if (ground.line != this) {
+        QPixmap picture(size() * devicePixelRatio());
+        picture.setDevicePixelRatio(devicePixelRatio());
+        picture.fill(Qt::transparent);
+        QPainter onPicture(&picture);
+        onPicture.setFont(font());
+        paintGround(onPicture);
+        onPicture.end();
+        ground = {this, picture};
+    }
+    const qreal ratio = ground.picture.devicePixelRatio();
+    painter.drawPixmap(area, ground.picture,
+                       QRectF(QPointF(area.topLeft()) * ratio, QSizeF(area.size()) * ratio).toAlignedRect());
+}
+
+void QtLine::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    paintGroundIn(painter, event->rect());
+    scrollToCaret();
+    const QRect area = textArea();
+    const QPoint corner = textCorner();
+    QPalette palette = Look_;
+    palette.setCurrentColorGroup(this->palette().currentColorGroup());
+    painter.setClipRect(area);
+    layout().paint(painter, corner, box().selection(), palette, area);
+    const bool isDroppedOn = DropPlace_ != Nowhere;
+    if (!isDroppedOn && !(CaretOn_ && seesCaret() && Composition_.caretShown)) return;
+    const int width = style()->pixelMetric(QStyle::PM_TextCursorWidth, nullptr, this);
+    layout().paintCaret(painter, corner, isDroppedOn ? DropPlace_ : box().selection().caret, width);
+}
+
+void QtLine::showCaret(bool shown) {
+    const int flash = QGuiApplication::styleHints()->cursorFlashTime();
+    if (shown && flash >= 2)
+        Blink_.start(flash / 2, this);
+    else
+        Blink_.stop();
+    if (std::exchange(CaretOn_, shown) != shown) update(textArea());
+}
+
+void QtLine::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != Blink_.timerId()) return QWidget::timerEvent(event);
+    CaretOn_ = !CaretOn_;
+    update(textArea());
 }
 
 // ---- Events
 
-template <class Box>
-bool QtLine<Box>::event(QEvent* event) {
+bool QtLine::event(QEvent* event) {
     return atEdge([&] {
-        if (isVisible() && !isOfKey(*event)) this->bringUpToDate();
-        if (event->type() == timeToShow()) {
-            IsTimeToShowPosted_ = false;
-            return true;
-        }
-        if (event->type() == QEvent::ShortcutOverride) {
-            this->shortcutAsked(static_cast<QKeyEvent&>(*event));
-            return event->isAccepted();
-        }
-        // Qt's line edit would drop the selection when its window comes to the front.
-        // NOLINTNEXTLINE(bugprone-parent-virtual-call)
-        if (event->type() == QEvent::WindowActivate) return QWidget::event(event);
-        return QLineEdit::event(event);
+        if (event->type() != QEvent::ShortcutOverride) return QWidget::event(event);
+        Input_.shortcutAsked(static_cast<QKeyEvent&>(*event));
+        return event->isAccepted();
     });
 }
 
-// The reasons that Qt is given keep it from selecting all and from dropping the selection: both are the control's.
+void QtLine::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    switch (event->type()) {
+        case QEvent::EnabledChange:
+            if (!isEnabled()) giveUpFocus();
+            update();
+            break;
+        case QEvent::PaletteChange: recolor(); break;
+        case QEvent::FontChange:
+        case QEvent::StyleChange:
+        case QEvent::LayoutDirectionChange:
+            dropLayout();
+            placeTextAgain();
+            break;
+        case QEvent::ActivationChange: update(); break;
+        default: break;
+    }
+}
 
-template <class Box>
-void QtLine<Box>::focusInEvent(QFocusEvent* event) {
-    const bool clicked = event->reason() == Qt::MouseFocusReason;
-    QFocusEvent quiet(QEvent::FocusIn, clicked ? Qt::MouseFocusReason : Qt::OtherFocusReason);
-    QLineEdit::focusInEvent(&quiet);
+void QtLine::resizeEvent(QResizeEvent* /*event*/) { placeTextAgain(); }
+
+void QtLine::focusInEvent(QFocusEvent* event) {
+    showCaret(true);
+    update();
     focus::arrived(*this, event->reason());
 }
 
-template <class Box>
-void QtLine<Box>::focusOutEvent(QFocusEvent* event) {
-    QFocusEvent quiet(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
-    QLineEdit::focusOutEvent(&quiet);
+void QtLine::focusOutEvent(QFocusEvent* event) {
+    showCaret(false);
+    update();
     focus::departed(*this, event->reason());
 }
 
-template <class Box>
-void QtLine<Box>::changeEvent(QEvent* event) {
-    QLineEdit::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange && !isEnabled()) this->giveUpFocus();
+// ---- Input methods
+
+void QtLine::showComposition(Composition composition) {
+    Composition_ = std::move(composition);
+    dropLayout();
+    update(textArea());
+    updateMicroFocus();
 }
 
-template <class Box>
-void QtLine<Box>::mousePressEvent(QMouseEvent* event) {
-    this->takeAim();
-    QLineEdit::mousePressEvent(event);
-    this->mousePressed(*event);
-}
-
-template <class Box>
-void QtLine<Box>::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::MiddleButton) {
-        const QClipboard* const clipboard = QGuiApplication::clipboard();
-        if (clipboard->supportsSelection()) this->pastePicked(clipboard->text(QClipboard::Selection));
-        return;
+/// In front of the selection, which gives way when the composition is committed and not before: it may yet be
+/// cancelled.
+void QtLine::inputMethodEvent(QInputMethodEvent* event) {
+    const bool commits = !event->commitString().isEmpty() || event->replacementLength() > 0;
+    // What is finished is no composition any longer, nor to be ended as one.
+    if (commits) showComposition({});
+    if (!Input_.committed(*event)) return;
+    Composition composition;
+    composition.text = event->preeditString();
+    composition.caret = toInt(static_cast<std::size_t>(composition.text.size()));
+    for (const QInputMethodEvent::Attribute& attribute : event->attributes()) {
+        if (attribute.type == QInputMethodEvent::Cursor) {
+            composition.caret = attribute.start;
+            composition.caretShown = attribute.length != 0;
+        } else if (attribute.type == QInputMethodEvent::TextFormat && attribute.length > 0) {
+            const QTextCharFormat format = qvariant_cast<QTextFormat>(attribute.value).toCharFormat();
+            composition.formats.append({attribute.start, attribute.length, format});
+        }
     }
-    const bool mayHaveDragged = hasSelectedText();
-    QLineEdit::mouseReleaseEvent(event);
-    // A click into the selection, which might have become a drag: Qt drops the selection and leaves the caret.
-    if (mayHaveDragged && !hasSelectedText()) setCursorPosition(cursorPositionAt(event->position().toPoint()));
-    this->mouseReleased(*event);
+    if (composition.text != Composition_.text || !composition.text.isEmpty()) showComposition(std::move(composition));
 }
 
-template <class Box>
-void QtLine<Box>::contextMenuEvent(QContextMenuEvent* event) {
+QVariant QtLine::inputMethodQuery(Qt::InputMethodQuery query) const {
+    const Selection& selection = box().selection();
+    switch (query) {
+        case Qt::ImEnabled: return isEnabled() && !box().locked();
+        case Qt::ImCursorRectangle: return caretRect(selection.caret);
+        case Qt::ImAnchorRectangle: return caretRect(selection.anchor);
+        case Qt::ImCursorPosition: return toInt(selection.caret);
+        case Qt::ImAnchorPosition: return toInt(selection.anchor);
+        case Qt::ImSurroundingText: return box().isPassword() ? QString() : toQString(box().text());
+        case Qt::ImCurrentSelection: return box().isPassword() ? QString() : toQString(box().buffer().selectedText());
+        case Qt::ImMaximumTextLength:
+            return box().maxLength() > 0 ? box().maxLength() : std::numeric_limits<int>::max();
+        default: return QWidget::inputMethodQuery(query);
+    }
+}
+
+// ---- Mouse
+
+/// A third press that follows a double click soon enough.
+int QtLine::clicksOf(const QMouseEvent& event) {
+    if (event.button() != Qt::LeftButton) return 1;
+    if (event.type() == QEvent::MouseButtonDblClick) {
+        SinceDoubleClick_.start();
+        return 2;
+    }
+    const bool follows = SinceDoubleClick_.isValid() &&
+                         SinceDoubleClick_.elapsed() < QGuiApplication::styleHints()->mouseDoubleClickInterval();
+    SinceDoubleClick_.invalidate();
+    return follows ? 3 : 1;
+}
+
+void QtLine::mousePressEvent(QMouseEvent* event) {
+    PressedAt_ = event->position().toPoint();
+    const std::size_t place = positionAt(PressedAt_);
+    const Selection& selection = box().selection();
+    const std::int32_t position = Input_.takeAim(toInt(place));
+    const int clicks = clicksOf(*event);
+    MayDrag_ = event->button() == Qt::LeftButton && clicks == 1 && toInt(place) == position &&
+               box().offers(EditAction::Copy) && place > selection.start() && place < selection.end() &&
+               !event->modifiers().testFlag(Qt::ShiftModifier);
+    if (MayDrag_)
+        box().pressMouse(MouseButton::Left);
+    else
+        box().press({buttonOf(event->button()), position, clicks, event->modifiers().testFlag(Qt::ShiftModifier)});
+}
+
+void QtLine::mouseMoveEvent(QMouseEvent* event) {
+    if (!event->buttons().testFlag(Qt::LeftButton)) return;
+    const QPoint point = event->position().toPoint();
+    if (!MayDrag_) {
+        box().dragTo(toInt(positionAt(point)));
+    } else if ((point - PressedAt_).manhattanLength() >= QApplication::startDragDistance()) {
+        MayDrag_ = false;
+        startDrag();
+    }
+}
+
+void QtLine::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::MiddleButton) return Input_.pastePicked();
+    if (event->button() != Qt::LeftButton) return;
+    // A click into the selection, which might have become a drag.
+    if (std::exchange(MayDrag_, false)) box().setSelStart(toInt(positionAt(event->position().toPoint())));
+    Input_.offerPicked();
+    box().releaseMouse(rect().contains(event->position().toPoint()));
+}
+
+/// Another program that takes the text takes it away; another field copies it.
+void QtLine::startDrag() {
+    const QPointer<QtLine> alive(this);
+    auto* const drag = new QDrag(this);
+    auto* const dragged = new QMimeData;
+    dragged->setText(toQString(box().buffer().selectedText()));
+    drag->setMimeData(dragged);
+    const Qt::DropAction action = drag->exec(Qt::MoveAction | Qt::CopyAction, Qt::CopyAction);
+    if (!alive.isNull() && action == Qt::MoveAction && drag->target() != this)
+        box().perform(EditAction::EraseSelection);
+}
+
+void QtLine::contextMenuEvent(QContextMenuEvent* event) {
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    this->menuAsked(byKey ? mapToGlobal(cursorRect().bottomLeft()) : event->globalPos());
+    Input_.menuAsked(byKey ? mapToGlobal(caretRect(box().selection().caret).bottomLeft()) : event->globalPos());
 }
 
-template <class Box>
-void QtLine<Box>::dragEnterEvent(QDragEnterEvent* event) {
-    dragMoveEvent(event);
+// ---- Drops
+
+void QtLine::dragMoveEvent(QDragMoveEvent* event) {
+    Input_.hovered(*event);
+    DropPlace_ = event->isAccepted() ? positionAt(event->position().toPoint()) : Nowhere;
+    update(textArea());
 }
 
-template <class Box>
-void QtLine<Box>::dragMoveEvent(QDragMoveEvent* event) {
-    this->dragMoved(*event, [&] { QLineEdit::dragMoveEvent(event); });
+void QtLine::dragLeaveEvent(QDragLeaveEvent* /*event*/) {
+    DropPlace_ = Nowhere;
+    update(textArea());
 }
 
-template <class Box>
-void QtLine<Box>::dragLeaveEvent(QDragLeaveEvent* event) {
-    this->dragLeft([&] { QLineEdit::dragLeaveEvent(event); });
+void QtLine::dropEvent(QDropEvent* event) {
+    dragLeaveEvent(nullptr);
+    if (Input_.accepts(*event)) Input_.dropped(*event, positionAt(event->position().toPoint()));
 }
-
-template <class Box>
-void QtLine<Box>::dropEvent(QDropEvent* event) {
-    QDragLeaveEvent leave;
-    dragLeaveEvent(&leave);
-    this->dropped(*event);
-}
-
-template class QtLine<QtTextBox>;
-template class QtLine<QtComboField>;
 
 }  // namespace kel::qt

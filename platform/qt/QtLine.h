@@ -1,65 +1,103 @@
 #pragma once
 
-#include <QLineEdit>
-#include <QWheelEvent>
+#include <QBasicTimer>
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QWidget>
 
-#include "platform/qt/QtComboField.h"
-#include "platform/qt/QtTextBox.h"
+#include "host/widgets/TextEntry.h"
+#include "platform/qt/ChildField.h"
+#include "platform/qt/LineLayout.h"
+#include "platform/qt/TextInput.h"
+
+class QStyleOptionFrame;
 
 namespace kel::qt {
 
-/// One line of text, edited. `Box` is the edit box behind it: a text box or the text of a combo box.
-template <class Box>
-class QtLine : public QLineEdit, public Box {
+/// A line of text that can be edited, in the style's look of a line edit. What stands in it is the widget's; here it is
+/// only laid out and painted, and whatever a person does goes to the widget.
+class QtLine : public QWidget, public TextView, public ChildField {
 public:
-    void setVisible(bool visible) override;
+    QtLine(ControlSite& site, TextEntry& box, QWidget& parent);
+    ~QtLine() override;
 
+    void outOfDate() override;
+    void paintAgain() override { update(); }
+    bool isMirrored() const override { return layout().isRightToLeft(); }
+
+    void colorAgain() override { recolor(); }
     bool isTall() const override { return false; }
     int baseline() const override;
-    QWidget& mouseArea() override { return *this; }
+
+    TextInput* textInput() override { return &Input_; }
+    TextEntry& box() const { return Input_.box(); }
+    /// The colours it has now.
+    const QPalette& look() const { return Look_; }
+    /// Where the caret stands before `position`.
+    QRect caretRect(std::size_t position) const;
+    std::size_t positionAt(const QPoint& point) const;
 
 protected:
-    /// The box is made of the site, this widget and what else it wants.
-    template <class... Arguments>
-    QtLine(QWidget& parent, ControlSite& site, Arguments&&... box)
-        : QLineEdit(&parent), Box(site, *this, std::forward<Arguments>(box)...) {
-        watchText();
-    }
-
     bool event(QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override { this->keyPressed(*event); }
-    void inputMethodEvent(QInputMethodEvent* event) override { this->inputMethodSpoke(*event); }
+    void keyPressEvent(QKeyEvent* event) override { Input_.keyPressed(*event); }
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override { event->setAccepted(this->wheelTurned(*event)); }
+    void wheelEvent(QWheelEvent* event) override { event->setAccepted(Input_.wheelTurned(*event)); }
     void contextMenuEvent(QContextMenuEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override { dragMoveEvent(event); }
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dragLeaveEvent(QDragLeaveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+    /// All but the text.
+    virtual void paintGround(QPainter& painter) const;
+    /// Where the text may be, as the style has it. It is asked again when that may differ.
+    virtual QRect findTextArea() const;
+    void placeTextAgain();
+    virtual void showMore(Changes /*changes*/) {}
+    QStyleOptionFrame panel(int frameWidth) const;
+    /// The popup that has the keys passes them on to here: it is as good as having the focus, caret and all.
+    virtual bool lendsKeys() const { return false; }
 
 private:
-    bool postponesShowing() override;
-    std::u16string shownText() override;
-    void showEdited(std::u16string_view text, std::size_t caret) override;
-    void showNew(std::u16string_view text) override;
-    Selection shownSelection() const override;
-    void showSelection(const Selection& selection) override;
-    void showLocked(bool locked) override { setReadOnly(locked); }
-    void compose(QInputMethodEvent& event) override { QLineEdit::inputMethodEvent(&event); }
-    bool isMirrored() const override { return qtViewOf(Box::text()).isRightToLeft(); }
-    std::size_t positionAt(const QPoint& point) const override;
+    QRect textArea() const;
+    const LineLayout& layout() const;
+    void dropLayout() const;
+    QPoint textCorner() const;
+    void scrollToCaret();
+    void recolor();
+    void showComposition(Composition composition);
+    void showCaret(bool shown);
+    bool seesCaret() const { return (hasFocus() || lendsKeys()) && !box().locked(); }
+    int clicksOf(const QMouseEvent& event);
+    void startDrag();
+    void tellReaders(bool textDiffers);
+    void paintGroundIn(QPainter& painter, const QRect& area) const;
 
-    void watchText();
-    void makeRoom(std::size_t units);
+    static constexpr std::size_t Nowhere = static_cast<std::size_t>(-1);
 
-    bool IsTimeToShowPosted_ = false;
+    TextInput Input_;
+    QPalette Look_;
+    Composition Composition_;
+    QBasicTimer Blink_;
+    QElapsedTimer SinceDoubleClick_;
+    QPoint PressedAt_;
+    mutable QRect TextArea_;  ///< none while it is to be found
+    std::size_t DropPlace_ = Nowhere;
+    std::u16string ToldText_;  ///< to screen readers; kept while there are any
+    int Scrolled_ = 0;         ///< pixels of the text in front of what is seen
+    bool CaretOn_ = false;
+    bool MayDrag_ = false;  ///< the press in hand is in what is selected
 };
-
-extern template class QtLine<QtTextBox>;
-extern template class QtLine<QtComboField>;
 
 }  // namespace kel::qt

@@ -7,7 +7,6 @@
 
 namespace kel::win32 {
 
-class Clipboard;
 class ControlWindowOwner;
 class TwipGrid;
 class Win32Label;
@@ -17,15 +16,16 @@ class ChildWidget {
 public:
     /// nullptr while there is none.
     virtual HWND window() const = 0;
-    /// Whether it is this one, or another one that the widget is made of.
-    virtual bool has(HWND window) const { return window == this->window(); }
+    /// The one around it, where the system's widget is made of several.
+    virtual HWND wholeWindow() const { return window(); }
+    bool has(HWND window) const { return window != nullptr && (window == this->window() || window == wholeWindow()); }
     /// Makes the window in that of the control, as the widget stands.
     virtual void makeWindow() = 0;
 
     virtual bool shown() const = 0;
 
     /// The frame is enabled from now on, or no longer.
-    virtual void frameEnabledChanged() = 0;
+    virtual void frameEnabledChanged() {}
     /// The grid of the frame has another resolution.
     virtual void rescale() = 0;
 
@@ -43,11 +43,8 @@ protected:
 /// What it knows of those that can have the focus.
 class ChildField : public ChildWidget {
 public:
-    /// Enabled and visible, control and all.
-    virtual bool acceptsInput() const = 0;
-
-    virtual void gotFocus() = 0;
-    virtual void lostFocus() = 0;
+    FieldWidget& widget() const { return Widget_; }
+    bool shown() const final { return Widget_.visible(); }
 
     /// A key that its host would otherwise take for itself.
     virtual bool wantsKey(const KeyStroke& stroke) const = 0;
@@ -64,14 +61,17 @@ public:
     virtual int baseline() const = 0;
 
 protected:
+    explicit ChildField(FieldWidget& widget) : Widget_(widget) {}
     ~ChildField() = default;
+
+private:
+    FieldWidget& Widget_;
 };
 
-/// Whoever shows the widget, which may be the widget itself; nullptr for none.
-inline ChildField* childOf(FieldWidget* field) {
-    if (field == nullptr) return nullptr;
-    View* const view = field->view();
-    return view != nullptr ? dynamic_cast<ChildField*>(view) : dynamic_cast<ChildField*>(field);
+/// What shows the widget; nullptr without one, and where it is of another kind.
+template <class Seen>
+Seen* viewOf(const Widget* widget) {
+    return widget != nullptr ? dynamic_cast<Seen*>(widget->view()) : nullptr;
 }
 
 /// What the widgets know of the window they stand in. Outlives them.
@@ -81,21 +81,16 @@ public:
     virtual HWND window() const = 0;
     virtual ControlWindowOwner& owner() = 0;
     virtual const TwipGrid& grid() const = 0;
-    virtual Clipboard& clipboard() = 0;
     virtual bool enabled() const = 0;
-    /// Enabled and visible.
-    virtual bool acceptsInput() const = 0;
 
     virtual void add(ChildWidget& widget) = 0;
     virtual void remove(ChildWidget& widget) = 0;
     virtual void addField(ChildField& field) = 0;
     virtual void removeField(ChildField& field) = 0;
-    /// It is shown from now on, or no longer.
-    virtual void fieldShown() = 0;
 
-    /// The window of the field has got the focus, or has lost it to `next`.
+    /// The window of the field has got the focus; the one that had it has lost it to `next`.
     virtual void arrived(ChildField& field) = 0;
-    virtual void departed(ChildField& field, HWND next) = 0;
+    virtual void departed(HWND next) = 0;
     /// The focus goes on when it is in `window`, and a mouse button held there counts as released.
     virtual void takeInputFrom(HWND window) = 0;
 
@@ -103,7 +98,7 @@ public:
 
     /// nullptr when it goes.
     virtual void setLabel(Win32Label* label) = 0;
-    /// The caption is to be placed and painted again.
+    /// The caption is to be placed and painted again: it goes by the field that shows.
     virtual void captionChanged() = 0;
     virtual void mnemonicChanged() = 0;
     /// Anything looks different.

@@ -6,6 +6,7 @@
 
 #include "host/System.h"
 #include "host/Widgets.h"
+#include "platform/win32/WindowClass.h"
 
 namespace kel::win32 {
 
@@ -37,7 +38,16 @@ protected:
     ~ControlWindowOwner() = default;
 };
 
-/// The window of one control, a child of whatever window its host gives it, and the maker of the child
+/// Handles a message while its control is held open.
+template <class Action>
+LRESULT heldOpen(ControlWindowOwner& owner, Action action) noexcept {
+    owner.holdOpen();
+    const LRESULT result = atEdge(action);
+    owner.letGo();
+    return result;
+}
+
+/// The window of one control, a child of whatever window its host gives it, and the host of the child
 /// widgets in it. Coordinates here are screen pixels; the widgets' are twips (`System::twipsPerPixel`).
 ///
 /// Widgets and control work without any window being there: what they are given is kept and shown once there
@@ -51,7 +61,7 @@ public:
     /// Destroys the window. The control, and with it every widget, is gone before.
     virtual ~ControlWindow() = default;
 
-    virtual WidgetFactory& widgets() = 0;
+    virtual WidgetHost& widgets() = 0;
 
     /// The control's own window. There being none, it is made: hidden, in a parent that nobody sees. nullptr
     /// when the system gives no window.

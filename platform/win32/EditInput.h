@@ -1,6 +1,7 @@
 #pragma once
 
-#include "host/editing/TextBoxEditor.h"
+#include <optional>
+
 #include "platform/win32/ChildField.h"
 #include "platform/win32/EditView.h"
 
@@ -9,53 +10,25 @@ namespace kel::win32 {
 /// What Ctrl and Backspace make; no character to type.
 inline constexpr char16_t DeleteCharacter = 127;
 
-/// A field whose text stands in an edit window, as that window's input knows it.
-class EditedField : public ChildField {
-public:
-    virtual HFONT fontHandle() const = 0;
-
-    /// Where the window shows the caret at `position`, brought into view; past the end is the end.
-    virtual POINT showPosition(std::int32_t position) = 0;
-
-    // ---- Sent to the window by another program; the same as by code.
-
-    virtual void textSent(std::u16string_view text) = 0;
-    virtual void limitSent(std::int32_t units) = 0;
-    virtual void lockSent(bool locked) = 0;
-    virtual void passwordCharSent(char16_t character) = 0;
-
-protected:
-    ~EditedField() = default;
-};
-
-/// What comes to an edit window, keys, mouse, menus, input methods and other programs, on its way to the editor.
+/// What comes to an edit window, keys, mouse, menus, input methods and other programs, on its way to the text.
 class EditInput {
 public:
     /// All of them outlive the input.
-    EditInput(ControlFrame& frame, EditedField& field, EditView& view, TextBoxEditor& editor)
-        : Frame_(frame), Field_(field), View_(view), Editor_(editor) {}
+    EditInput(ControlFrame& frame, ChildField& field, EditView& view, TextEntry& entry)
+        : Frame_(frame), Field_(field), View_(view), Entry_(entry) {}
 
     LRESULT handle(UINT message, WPARAM wide, LPARAM data);
 
-    /// The system's edit window says that its text is another one.
-    void windowChanged();
-
-    /// -1 is no selection as a start, and the end of the text as an end.
-    void selectFromOutside(WPARAM start, LPARAM end);
-
-    /// Without what the field itself knows better.
-    bool wantsKey(const KeyStroke& stroke) const;
-
-    POINT showPosition(std::int32_t position) const;
-
 private:
-    const EditBuffer& buffer() const { return Editor_.buffer(); }
     HWND window() const { return View_.window(); }
 
-    bool handleText(UINT message, WPARAM wide, LPARAM data, LRESULT& result);
-    bool handleKey(UINT message, WPARAM wide, LPARAM data, LRESULT& result);
-    bool handleInputMethod(UINT message, WPARAM wide, LPARAM data, LRESULT& result);
-    bool handleMouse(UINT message, WPARAM wide, LPARAM data, LRESULT& result);
+    void selectFromOutside(WPARAM start, LPARAM end);
+    /// None where the message is of another kind.
+    using Answer = std::optional<LRESULT>;
+    Answer handleText(UINT message, WPARAM wide, LPARAM data);
+    Answer handleKey(UINT message, WPARAM wide, LPARAM data);
+    Answer handleInputMethod(UINT message, WPARAM wide, LPARAM data);
+    Answer handleMouse(UINT message, WPARAM wide, LPARAM data);
     LRESULT defaultFor(UINT message, WPARAM wide, LPARAM data) const;
 
     LRESULT dialogCode(const MSG* asked) const;
@@ -64,17 +37,21 @@ private:
     void placeInputMethod() const;
     void takeCommitted();
     void pressed(UINT message, WPARAM wide, LPARAM data);
+    void released(POINT place);
     LRESULT wheelTurned(WPARAM wide, LPARAM data);
-    void readSelection();
 
     ControlFrame& Frame_;
-    EditedField& Field_;
+    ChildField& Field_;
     EditView& View_;
-    TextBoxEditor& Editor_;
+    TextEntry& Entry_;
     char16_t FirstHalf_ = 0;  ///< of a pair whose second half has not come yet
-    int WheelRest_ = 0;       ///< turned so far towards the next notch
-    bool LeftPressed_ = false;
 };
+
+/// Whether an edit window wants a key that its host would otherwise take for itself.
+bool wantsKey(const TextEntry& entry, const KeyStroke& stroke);
+
+/// The text that a message carries; none is empty.
+std::u16string textIn(LPARAM data);
 
 /// The characters that the key press in hand has made, off the queue. They come with the press's own data.
 std::u16string takeCharacters(HWND window, LPARAM pressData);

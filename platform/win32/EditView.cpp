@@ -2,9 +2,11 @@
 
 #include <algorithm>
 
+#include "host/DepthGuard.h"
 #include "host/editing/TextDifference.h"
 #include "platform/win32/Look.h"
 #include "platform/win32/WideText.h"
+#include "values/TextBoundaries.h"
 
 namespace kel::win32 {
 
@@ -19,99 +21,62 @@ const WindowClass& editClass() {
     return Class;
 }
 
-class ChangingScope {
-public:
-    explicit ChangingScope(bool& changing) : Changing_(changing), Before_(std::exchange(changing, true)) {}
-    ~ChangingScope() { Changing_ = Before_; }
-    ChangingScope(const ChangingScope&) = delete;
-    ChangingScope& operator=(const ChangingScope&) = delete;
-
-private:
-    bool& Changing_;
-    bool Before_;
-};
-
-/// Units at `at` that the window shows as they are; 0 when it cannot.
-std::size_t displayableUnits(std::u16string_view text, std::size_t at, bool multiLine) {
-    switch (text[at]) {
-        case u'\0':
-        case u'\n': return 0;
-        case u'\r': return multiLine && at + 1 < text.size() && text[at + 1] == u'\n' ? 2 : 0;
-        default: return 1;
-    }
-}
-
 }  // namespace
-
-bool isDisplayable(std::u16string_view text, bool multiLine) {
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t units = displayableUnits(text, at, multiLine);
-        if (units == 0) return false;
-        at += units;
-    }
-    return true;
-}
 
 std::u16string displayed(std::u16string_view text, bool multiLine) {
     std::u16string shown(text);
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t units = displayableUnits(text, at, multiLine);
-        if (units == 0) shown[at] = u' ';
-        at += std::max<std::size_t>(units, 1);
+    for (std::size_t at = 0; at < shown.size(); ++at) {
+        const char16_t unit = shown[at];
+        if (multiLine && unit == u'\r' && at + 1 < shown.size() && shown[at + 1] == u'\n')
+            ++at;
+        else if (unit == u'\0' || unit == u'\r' || unit == u'\n')
+            shown[at] = u' ';
     }
     return shown;
+}
+
+void EditView::create(HWND parent, const RECT& place, WindowHandler& handler) {
+    Base_ = editClass().baseProcedure();
+    const DepthGuard changing(Changing_);
+    CreateWindowExW(WS_EX_CLIENTEDGE, editClass().name(), L"",
+                    WS_CHILD | WS_TABSTOP | (Entry_.multiLine() ? LinesStyle : LineStyle), place.left, place.top,
+                    widthOf(place), heightOf(place), parent, nullptr, thisModule(), &handler);
+    if (Window_ != nullptr) showNothingYet();
+}
+
+void EditView::attach(HWND edit, WindowHandler& handler) {
+    Window_ = edit;
+    Base_ = putInFront(edit, handler);
+    showNothingYet();
 }
 
 void EditView::showNothingYet() {
     Shown_.clear();
     ShownSelection_ = {};
-}
-
-void EditView::create(HWND parent, const RECT& place, WindowHandler& handler) {
-    showNothingYet();
-    Base_ = editClass().baseProcedure();
-    const ChangingScope changing(Changing_);
-    CreateWindowExW(WS_EX_CLIENTEDGE, editClass().name(), L"",
-                    WS_CHILD | WS_TABSTOP | (MultiLine_ ? LinesStyle : LineStyle), place.left, place.top,
-                    widthOf(place), heightOf(place), parent, nullptr, thisModule(), &handler);
-    if (Window_ != nullptr) base(EM_SETLIMITTEXT, NoLimit);
-}
-
-void EditView::attach(HWND edit, WindowHandler& handler) {
-    showNothingYet();
-    Window_ = edit;
-    Base_ = putInFront(edit, handler);
     base(EM_SETLIMITTEXT, NoLimit);
 }
 
-void EditView::destroy() {
-    if (Window_ != nullptr) DestroyWindow(std::exchange(Window_, nullptr));
-}
-
 LRESULT EditView::base(UINT message, WPARAM wide, LPARAM data) const {
-    return CallWindowProcW(Base_, Window_, message, wide, data);
+    return Window_ != nullptr ? CallWindowProcW(Base_, Window_, message, wide, data) : 0;
 }
 
-void EditView::show(const EditBuffer& buffer) {
-    if (Window_ == nullptr || Changing_) return;
-    const ChangingScope changing(Changing_);
-    if (isDisplayable(buffer.text(), MultiLine_))
-        showText(buffer.text(), buffer);
-    else
-        showText(displayed(buffer.text(), MultiLine_), buffer);
-    showSelection(buffer.selection());
+void EditView::show() {
+    if (Window_ == nullptr || changing()) return;
+    const DepthGuard changing(Changing_);
+    showText(displayed(Entry_.text(), Entry_.multiLine()));
+    showSelection(Entry_.selection());
 }
 
 /// Replaces no more than what differs, so that the window has little to paint.
-void EditView::showText(std::u16string_view text, const EditBuffer& buffer) {
+void EditView::showText(std::u16string_view text) {
     if (text == Shown_) return;
-    TextDifference change = differenceOf(Shown_, text, buffer.selection().end());
+    TextDifference change = differenceOf(Shown_, text, Entry_.selection().end());
     // The window must not see a line break come in two pieces.
-    if (MultiLine_ && change.start > 0 && text[change.start - 1] == u'\r') --change.start;
-    replace(change.start, change.end, text.substr(change.start, change.newEnd - change.start), buffer.canUndo());
+    if (Entry_.multiLine() && change.start > 0 && text[change.start - 1] == u'\r') --change.start;
+    replace(change.start, change.end, text.substr(change.start, change.newEnd - change.start));
 }
 
-void EditView::replace(std::size_t from, std::size_t to, std::u16string_view text, bool undoable) {
+void EditView::replace(std::size_t from, std::size_t to, std::u16string_view text) {
     const Selection replaced{from, to};
     const bool jumps = replaced != ShownSelection_ && IsWindowVisible(Window_) != FALSE;
     if (jumps) base(WM_SETREDRAW, FALSE);
@@ -119,7 +84,7 @@ void EditView::replace(std::size_t from, std::size_t to, std::u16string_view tex
     const std::wstring inserted = wide(text);
     base(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(inserted.c_str()));
     // The window's own history only tells its menu whether there is anything to undo.
-    if (!undoable) base(EM_EMPTYUNDOBUFFER);
+    if (!Entry_.buffer().canUndo()) base(EM_EMPTYUNDOBUFFER);
     Shown_.replace(from, to - from, text);
     ShownSelection_ = {from + text.size(), from + text.size()};
     if (!jumps) return;
@@ -137,11 +102,20 @@ void EditView::showSelection(const Selection& selection) {
     base(EM_SCROLLCARET);
 }
 
-Selection EditView::selection() const {
+Selection EditView::windowSelection() const {
     DWORD start = 0;
     DWORD end = 0;
     base(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
     return {start, end};
+}
+
+/// The window's ends come in order: the one that stood before is where the selection was begun.
+void EditView::readSelection() {
+    if (Window_ == nullptr) return;
+    Selection seen = windowSelection();
+    if (!seen.empty() && Entry_.selection().anchor == seen.end()) seen = {seen.caret, seen.anchor};
+    ShownSelection_ = seen;
+    if (seen != Entry_.selection()) Entry_.select(seen);
 }
 
 std::u16string EditView::windowText() const {
@@ -150,32 +124,43 @@ std::u16string EditView::windowText() const {
     return unwiden(text);
 }
 
-TextChange EditView::takeForeignChange() {
+/// What comes of it is the box's to say.
+void EditView::readText() {
+    if (changing()) return;
     std::u16string text = windowText();
-    if (text == Shown_) return {};
-    const Selection now = selection();
-    const TextDifference change = differenceOf(Shown_, text, now.end());
+    if (text == Shown_) return;
+    ShownSelection_ = windowSelection();
+    const TextDifference change = differenceOf(Shown_, text, ShownSelection_.end());
+    const std::u16string written = text.substr(change.start, change.newEnd - change.start);
     Shown_ = std::move(text);
-    ShownSelection_ = now;
-    return {change.start, change.end - change.start, Shown_.substr(change.start, change.newEnd - change.start)};
+    show();
+    Entry_.write(change.start, change.end, written);
 }
 
-POINT EditView::showPosition(std::size_t position) {
-    const ChangingScope changing(Changing_);
-    showSelection({position, position});
-    POINT place{};
-    GetCaretPos(&place);
-    return place;
+POINT EditView::showPosition(std::int32_t position) {
+    const auto place = static_cast<std::size_t>(std::clamp(position, 0, Entry_.textLength()));
+    const DepthGuard changing(Changing_);
+    showSelection({place, place});
+    POINT caret{};
+    GetCaretPos(&caret);
+    return caret;
 }
 
-std::size_t EditView::lineStart(std::size_t position) const {
-    const LRESULT line = base(EM_LINEFROMCHAR, position);
+std::size_t EditView::startOfLine(LRESULT line) const {
     return static_cast<std::size_t>(std::max<LRESULT>(base(EM_LINEINDEX, static_cast<WPARAM>(line)), 0));
 }
 
-std::size_t EditView::nextLineStart(std::size_t position) const {
-    const LRESULT line = base(EM_LINEFROMCHAR, position);
-    return static_cast<std::size_t>(std::max<LRESULT>(base(EM_LINEINDEX, static_cast<WPARAM>(line + 1)), 0));
+TextLine EditView::lineAt(std::size_t position) const {
+    TextLine line = Entry_.buffer().lineAt(position);
+    if (Window_ == nullptr) return line;
+    const LRESULT seen = base(EM_LINEFROMCHAR, position);
+    const std::size_t next = startOfLine(seen + 1);
+    line.start = std::max(line.start, startOfLine(seen));
+    if (next <= position || next > line.end) return line;
+    line.next = next;
+    line.end = previousCharacter(Entry_.text(), next, true);
+    line.isLast = false;
+    return line;
 }
 
 int EditView::textTop() const {

@@ -37,11 +37,11 @@ void FocusWatch::arrived(HWND control, ChildField& field) {
     if (&field == Holder_) return;
     const HWND other = enteredIn(rootOf(control));
     if (other != nullptr && other != control) SendMessageW(other, leaveMessage(), 0, 0);
-    if (Holder_ != nullptr) std::exchange(Holder_, nullptr)->lostFocus();
+    if (Holder_ != nullptr) std::exchange(Holder_, nullptr)->widget().lostFocus();
     const auto isStillHere = [&field] { return field.window() != nullptr && GetFocus() == field.window(); };
     if (!isStillHere() || !enter(control) || !isStillHere() || Holder_ != nullptr) return;
     Holder_ = &field;
-    field.gotFocus();
+    field.widget().gotFocus();
 }
 
 bool FocusWatch::enter(HWND control) {
@@ -63,7 +63,7 @@ void FocusWatch::departed(HWND control, HWND next) {
 
 void FocusWatch::leave(HWND control) {
     resume();
-    if (Holder_ != nullptr) std::exchange(Holder_, nullptr)->lostFocus();
+    if (Holder_ != nullptr) std::exchange(Holder_, nullptr)->widget().lostFocus();
     if (!Entered_ || isInside(control, GetFocus())) return;
     unmark();
     Entered_ = false;

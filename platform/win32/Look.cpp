@@ -11,24 +11,30 @@ HBRUSH brushFor(HDC context, COLORREF color) {
     return static_cast<HBRUSH>(GetStockObject(DC_BRUSH));
 }
 
+HBRUSH setColors(HDC context, const FieldWidget& field, bool enabled) {
+    const COLORREF back = colorOf(field.backColor());
+    SetTextColor(context, enabled ? colorOf(field.foreColor()) : GetSysColor(COLOR_GRAYTEXT));
+    SetBkColor(context, back);
+    return brushFor(context, back);
+}
+
 HFONT Font::handle() const {
     return Handle_ != nullptr ? Handle_ : static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));
 }
 
-void Font::choose(std::u16string_view name, double points, const TwipGrid& grid) {
-    LOGFONTW description{};
-    description.lfHeight = -grid.fontPixels(points);
-    description.lfWeight = bold() ? FW_BOLD : FW_NORMAL;
-    description.lfCharSet = DEFAULT_CHARSET;
-    const std::size_t units = std::min(name.size(), std::size(description.lfFaceName) - 1);
-    std::copy_n(name.begin(), units, std::begin(description.lfFaceName));
-    Points_ = points;
-    if (Handle_ == nullptr || std::memcmp(&description, &Description_, sizeof description) != 0) make(description);
-}
-
 void Font::choose(const FontFace& face, const TwipGrid& grid) {
-    if (face.size > 0) choose(face.name, face.size, grid);
-    setBold(face.bold);
+    LOGFONTW description{};
+    if (face.size > 0) {
+        description.lfHeight = -grid.fontPixels(face.size);
+        description.lfCharSet = DEFAULT_CHARSET;
+        const std::size_t units = std::min(face.name.size(), std::size(description.lfFaceName) - 1);
+        std::copy_n(face.name.begin(), units, std::begin(description.lfFaceName));
+        Points_ = face.size;
+    } else {
+        GetObjectW(handle(), sizeof description, &description);
+    }
+    description.lfWeight = face.bold ? FW_BOLD : FW_NORMAL;
+    if (Handle_ == nullptr || std::memcmp(&description, &Description_, sizeof description) != 0) make(description);
 }
 
 void Font::rescale(const TwipGrid& grid) {
@@ -44,14 +50,6 @@ TEXTMETRICW Font::metrics(HWND window) const {
     TEXTMETRICW metrics{};
     GetTextMetricsW(context.get(), &metrics);
     return metrics;
-}
-
-void Font::setBold(bool bold) {
-    if (bold == this->bold()) return;
-    LOGFONTW description = Description_;
-    if (Handle_ == nullptr) GetObjectW(handle(), sizeof description, &description);
-    description.lfWeight = bold ? FW_BOLD : FW_NORMAL;
-    make(description);
 }
 
 void Font::make(const LOGFONTW& description) {

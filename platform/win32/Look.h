@@ -22,6 +22,9 @@ inline UINT readingOrder(HDC context) { return (GetLayout(context) & LAYOUT_RTL)
 /// Fills in `color` with the system's changeable brush: there is none to keep.
 HBRUSH brushFor(HDC context, COLORREF color);
 
+/// Those of a field, grey text where it is not enabled. Returns the brush for its background.
+HBRUSH setColors(HDC context, const FieldWidget& field, bool enabled);
+
 /// A font of our own, or the system's while none has been chosen.
 class Font {
 public:
@@ -32,14 +35,11 @@ public:
 
     HFONT handle() const;
 
-    void choose(std::u16string_view name, double points, const TwipGrid& grid);
     void choose(const FontFace& face, const TwipGrid& grid);
     /// The same on a screen of another resolution.
     void rescale(const TwipGrid& grid);
     /// Ascent of it, and height of its lines, where `window` stands.
     TEXTMETRICW metrics(HWND window) const;
-    bool bold() const { return Description_.lfWeight >= FW_BOLD; }
-    void setBold(bool bold);
 
 private:
     void make(const LOGFONTW& description);

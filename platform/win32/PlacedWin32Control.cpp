@@ -1,9 +1,8 @@
 #include "platform/win32/PlacedWin32Control.h"
 
-#include "platform/win32/Win32ComboBox.h"
+#include "platform/win32/ChildField.h"
 #include "platform/win32/Win32ControlWindow.h"
 #include "platform/win32/Win32FormWindow.h"
-#include "platform/win32/Win32UpDown.h"
 
 namespace kel::win32 {
 
@@ -79,19 +78,8 @@ void PlacedWin32Control::focusLeft() {
 void PlacedWin32Control::passFocusOn() { Form_.passFocusOn(*this); }
 
 HWND PlacedWin32Control::focusTarget() const {
-    const ChildField* const field = childOf(Control_->widgets().field);
-    return field != nullptr && field->acceptsInput() ? field->window() : nullptr;
-}
-
-EditedField* PlacedWin32Control::editedField() const { return dynamic_cast<EditedField*>(Control_->widgets().field); }
-
-Win32ComboBox* PlacedWin32Control::comboBox() const {
-    return dynamic_cast<Win32ComboBox*>(Control_->widgets().comboBox);
-}
-
-Win32UpDown* PlacedWin32Control::upDown() const {
-    const UpDown* const shown = Control_->widgets().upDown;
-    return shown != nullptr ? dynamic_cast<Win32UpDown*>(shown->view()) : nullptr;
+    const ChildField* const field = viewOf<ChildField>(Control_->widgets().field);
+    return field != nullptr && field->widget().takesInput() ? field->window() : nullptr;
 }
 
 }  // namespace kel::win32

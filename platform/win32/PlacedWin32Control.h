@@ -12,11 +12,8 @@
 namespace kel::win32 {
 
 class Clipboard;
-class EditedField;
-class Win32ComboBox;
 class Win32ControlWindow;
 class Win32FormWindow;
-class Win32UpDown;
 
 /// A control with everything it stands on: its place on the form, its container, its window.
 class PlacedWin32Control final : public PlacedControl, public TabStop, private Container, private ControlWindowOwner {
@@ -50,12 +47,6 @@ public:
 
     /// The window of the field, where it can take the focus; nullptr where not.
     HWND focusTarget() const;
-    /// nullptr where the field has no text to edit.
-    EditedField* editedField() const;
-    /// nullptr where the field is none.
-    Win32ComboBox* comboBox() const;
-    /// nullptr where it has none.
-    Win32UpDown* upDown() const;
 
 private:
     bool hasSize() const override { return Sized_; }

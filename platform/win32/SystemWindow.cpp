@@ -17,10 +17,7 @@ void SystemWindow::destroy() {
 }
 
 void SystemWindow::placeAs(const Widget& shown) const {
-    const RECT place = pixelsOf(shown);
-    if (Handle_ != nullptr)
-        SetWindowPos(Handle_, nullptr, place.left, place.top, widthOf(place), heightOf(place),
-                     SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+    if (Handle_ != nullptr) placeWindow(Handle_, pixelsOf(shown));
 }
 
 LRESULT SystemWindow::base(UINT message, WPARAM wide, LPARAM data) const {
@@ -29,12 +26,11 @@ LRESULT SystemWindow::base(UINT message, WPARAM wide, LPARAM data) const {
 
 LRESULT SystemWindow::handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) {
     Handle_ = window;
-    ControlWindowOwner& owner = Frame_.owner();
-    owner.holdOpen();
-    const LRESULT result = atEdge([&] { return handle(message, wide, data); });
-    if (message == WM_NCDESTROY) Handle_ = nullptr;
-    owner.letGo();
-    return result;
+    return heldOpen(Frame_.owner(), [&] {
+        const LRESULT result = handle(message, wide, data);
+        if (message == WM_NCDESTROY) Handle_ = nullptr;
+        return result;
+    });
 }
 
 // ---- PaintedWindow

@@ -72,7 +72,7 @@ RECT turned(HDC context, const RECT& area) {
 
 }  // namespace
 
-Win32CheckBox::Win32CheckBox(ControlFrame& frame, CheckBox& box) : PaintedWindow(frame), Box_(box) {
+Win32CheckBox::Win32CheckBox(ControlFrame& frame, CheckBox& box) : ChildField(box), PaintedWindow(frame), Box_(box) {
     frame.addField(*this);
 }
 
@@ -84,46 +84,37 @@ Win32CheckBox::~Win32CheckBox() {
 // ---- The window
 
 void Win32CheckBox::makeWindow() {
-    if (!create(buttonClass(), frame().window(), WS_TABSTOP | BS_3STATE, pixelsOf(Box_))) return;
-    base(WM_SETFONT, reinterpret_cast<WPARAM>(Font_.handle()));
-    base(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(wide(Box_.caption()).c_str()));
-    base(BM_SETCHECK, static_cast<WPARAM>(Box_.value()));
-    EnableWindow(window(), Box_.enabled());
-    showToolTip();
-    if (Box_.visible()) ShowWindow(window(), SW_SHOWNA);
+    if (create(buttonClass(), frame().window(), WS_TABSTOP | BS_3STATE, pixelsOf(Box_))) show(Changes::all());
 }
 
 void Win32CheckBox::outOfDate() {
     const Changes changes = Box_.takeChanges();
     if (changes.has(Change::Font)) Font_.choose(Box_.font(), frame().grid());
-    if (window() != nullptr) {
-        if (changes.has(Change::Place)) placeAs(Box_);
-        if (changes.has(Change::Enabled)) EnableWindow(window(), Box_.enabled());
-        if (changes.has(Change::Visible)) ShowWindow(window(), Box_.visible() ? SW_SHOWNA : SW_HIDE);
-        if (changes.has(Change::Font)) base(WM_SETFONT, reinterpret_cast<WPARAM>(Font_.handle()));
-        if (changes.has(Change::ToolTip)) showToolTip();
-        if (changes.has(Change::Caption)) base(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(wide(Box_.caption()).c_str()));
-        if (changes.has(Change::Value)) base(BM_SETCHECK, static_cast<WPARAM>(Box_.value()));
-    }
-    if (changes.has(Change::Visible)) frame().fieldShown();
+    if (window() != nullptr) show(changes);
+    if (changes.has(Change::Visible)) frame().captionChanged();
     paintAgain();
     if (changes.has(Change::Mnemonic)) frame().mnemonicChanged();
 }
 
+void Win32CheckBox::show(Changes changes) {
+    if (changes.has(Change::Place)) placeAs(Box_);
+    if (changes.has(Change::Font)) base(WM_SETFONT, reinterpret_cast<WPARAM>(Font_.handle()));
+    if (changes.has(Change::Caption)) base(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(wide(Box_.caption()).c_str()));
+    if (changes.has(Change::Value)) base(BM_SETCHECK, static_cast<WPARAM>(Box_.value()));
+    if (changes.has(Change::Enabled)) EnableWindow(window(), Box_.enabled());
+    if (changes.has(Change::ToolTip)) frame().setToolTip(window(), wide(Box_.toolTip()).c_str());
+    if (changes.has(Change::Visible)) ShowWindow(window(), Box_.visible() ? SW_SHOWNA : SW_HIDE);
+}
+
 void Win32CheckBox::rescale() {
     Font_.rescale(frame().grid());
-    base(WM_SETFONT, reinterpret_cast<WPARAM>(Font_.handle()));
-    placeAs(Box_);
+    if (window() != nullptr) show(Change::Font | Change::Place);
     paintAgain();
 }
 
 void Win32CheckBox::paintAgain() {
     invalidate();
     frame().viewChanged();
-}
-
-void Win32CheckBox::showToolTip() {
-    if (window() != nullptr) frame().setToolTip(window(), wide(Box_.toolTip()).c_str());
 }
 
 // ---- Picture
@@ -161,12 +152,7 @@ void Win32CheckBox::paint(HDC context, const RECT& area, HTHEME theme) const {
 }
 
 /// A control that takes no input leaves the caption as it is.
-HBRUSH Win32CheckBox::colors(HDC context) const {
-    const COLORREF back = colorOf(Box_.backColor());
-    SetTextColor(context, Box_.enabled() ? colorOf(Box_.foreColor()) : GetSysColor(COLOR_GRAYTEXT));
-    SetBkColor(context, back);
-    return brushFor(context, back);
-}
+HBRUSH Win32CheckBox::colors(HDC context) const { return setColors(context, Box_, Box_.enabled()); }
 
 RECT Win32CheckBox::boxIn(const RECT& area) const {
     const int size = frame().grid().pixel(BoxSize);
@@ -220,7 +206,7 @@ LRESULT Win32CheckBox::handle(UINT message, WPARAM wide, LPARAM data) {
             return result;
         case WM_KILLFOCUS:
             result = native(message, wide, data);
-            frame().departed(*this, reinterpret_cast<HWND>(wide));
+            frame().departed(reinterpret_cast<HWND>(wide));
             return result;
         case WM_GETDLGCODE: return dialogCode(reinterpret_cast<const MSG*>(data));
         case WM_LBUTTONDOWN:
@@ -232,9 +218,7 @@ LRESULT Win32CheckBox::handle(UINT message, WPARAM wide, LPARAM data) {
         case WM_CHAR: typed(static_cast<char16_t>(wide)); return 0;
         case BM_CLICK: Box_.press(); return 0;
         case BM_SETCHECK: Box_.setValue(static_cast<std::int32_t>(std::min<WPARAM>(wide, CheckBox::Grey))); return 0;
-        case WM_SETTEXT:
-            Box_.setCaption(data != 0 ? unwiden(reinterpret_cast<const wchar_t*>(data)) : std::u16string());
-            return TRUE;
+        case WM_SETTEXT: Box_.setCaption(textIn(data)); return TRUE;
         default: return native(message, wide, data);
     }
 }

@@ -26,11 +26,6 @@ public:
 
     HWND window() const override { return windowHandle(); }
     void makeWindow() override;
-    bool shown() const override { return Box_.visible(); }
-    bool acceptsInput() const override { return Box_.takesInput(); }
-    void frameEnabledChanged() override {}
-    void gotFocus() override { Box_.gotFocus(); }
-    void lostFocus() override { Box_.lostFocus(); }
     bool wantsKey(const KeyStroke& stroke) const override;
     char16_t mnemonic() const override { return Box_.mnemonic(); }
     void mnemonicPressed() override { Box_.press(); }
@@ -41,7 +36,7 @@ public:
     void draw(HDC context, POINT origin) const override;
 
 private:
-    void showToolTip();
+    void show(Changes changes);
 
     // ---- Picture
 

@@ -20,8 +20,6 @@ const WindowClass& controlClass() {
     return Class;
 }
 
-SIZE sizeOf(const RECT& area) { return {area.right - area.left, area.bottom - area.top}; }
-
 template <class Widget>
 Widget* withWindow(const std::vector<Widget*>& widgets, HWND window) {
     const auto found =
@@ -52,10 +50,10 @@ Win32ControlWindow::~Win32ControlWindow() {
 
 // ---- Widgets
 
-template <class Child, class... Arguments>
-std::unique_ptr<Child> Win32ControlWindow::make(Arguments&&... arguments) {
+template <class Seen, class Shown>
+std::unique_ptr<Seen> Win32ControlWindow::make(Shown& shown) {
     ControlFrame& frame = *this;
-    return std::make_unique<Child>(frame, std::forward<Arguments>(arguments)...);
+    return std::make_unique<Seen>(frame, shown);
 }
 
 std::unique_ptr<PictureView> Win32ControlWindow::makeView(PictureBox& box) { return make<Win32PictureBox>(box); }
@@ -66,13 +64,9 @@ std::unique_ptr<View> Win32ControlWindow::makeView(UpDown& spinner) { return mak
 
 std::unique_ptr<View> Win32ControlWindow::makeView(Label& label) { return make<Win32Label>(label); }
 
-std::unique_ptr<TextBox> Win32ControlWindow::makeTextBox(TextBoxListener& listener, bool multiLine) {
-    return make<Win32TextBox>(listener, multiLine);
-}
+std::unique_ptr<TextView> Win32ControlWindow::makeView(TextBox& box) { return make<Win32TextBox>(box); }
 
-std::unique_ptr<ComboBox> Win32ControlWindow::makeComboBox(ComboBoxListener& listener) {
-    return make<Win32ComboBox>(listener);
-}
+std::unique_ptr<TextView> Win32ControlWindow::makeView(ComboBox& box) { return make<Win32ComboBox>(box); }
 
 void Win32ControlWindow::setLabel(Win32Label* label) {
     Label_ = label;
@@ -121,10 +115,9 @@ HWND Win32ControlWindow::parkingWindow() {
 
 void Win32ControlWindow::makeWindow(HWND parent) {
     if (parent == nullptr) return;
-    const SIZE size = sizeOf(Bounds_);
     Window_ = CreateWindowExW(WS_EX_CONTROLPARENT, controlClass().name(), L"",
-                              WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, Bounds_.left, Bounds_.top, size.cx, size.cy,
-                              parent, nullptr, thisModule(), static_cast<WindowHandler*>(this));
+                              WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, Bounds_.left, Bounds_.top, widthOf(Bounds_),
+                              height(), parent, nullptr, thisModule(), static_cast<WindowHandler*>(this));
     if (Window_ == nullptr) return;
     EnableWindow(Window_, Enabled_);
     if (Label_ != nullptr) Label_->makeWindow(height());
@@ -145,9 +138,7 @@ void Win32ControlWindow::setParent(HWND parent) {
 void Win32ControlWindow::place(const RECT& bounds, const RECT& clip) {
     Bounds_ = bounds;
     if (handle() == nullptr) return;
-    const SIZE size = sizeOf(bounds);
-    SetWindowPos(Window_, nullptr, bounds.left, bounds.top, size.cx, size.cy,
-                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+    placeWindow(Window_, bounds);
     if (Label_ != nullptr) Label_->place(height());
     RECT seen{};
     IntersectRect(&seen, &bounds, &clip);
@@ -196,10 +187,10 @@ void Win32ControlWindow::setToolTip(HWND field, const wchar_t* text) {
 
 void Win32ControlWindow::setFocus() { give(shownField()); }
 
-void Win32ControlWindow::moveFocusTo(FieldWidget& field) { give(childOf(&field)); }
+void Win32ControlWindow::moveFocusTo(FieldWidget& field) { give(viewOf<ChildField>(&field)); }
 
 void Win32ControlWindow::give(const ChildField* field) {
-    if (field != nullptr && field->window() != nullptr && field->acceptsInput()) SetFocus(field->window());
+    if (field != nullptr && field->window() != nullptr && field->widget().takesInput()) SetFocus(field->window());
 }
 
 char16_t Win32ControlWindow::mnemonic() const {
@@ -276,11 +267,7 @@ void Win32ControlWindow::setGrid(const TwipGrid& grid) {
 // ---- What comes to the window
 
 LRESULT Win32ControlWindow::handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) {
-    ControlWindowOwner& owner = Owner_;
-    owner.holdOpen();
-    const LRESULT result = atEdge([&] { return handle(window, message, wide, data); });
-    owner.letGo();
-    return result;
+    return heldOpen(Owner_, [&] { return handle(window, message, wide, data); });
 }
 
 LRESULT Win32ControlWindow::handle(HWND window, UINT message, WPARAM wide, LPARAM data) {

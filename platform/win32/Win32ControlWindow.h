@@ -12,16 +12,13 @@
 
 namespace kel::win32 {
 
-class Win32ControlWindow final : public ControlWindow,
-                                 private ControlFrame,
-                                 private WidgetFactory,
-                                 private WindowHandler {
+class Win32ControlWindow final : public ControlWindow, private ControlFrame, private WidgetHost, private WindowHandler {
 public:
     Win32ControlWindow(ControlWindowOwner& owner, System& system, std::shared_ptr<Clipboard> clipboard)
         : Owner_(owner), Grid_(system.twipsPerPixel()), Clipboard_(std::move(clipboard)), Focus_(owner) {}
     ~Win32ControlWindow() override;
 
-    WidgetFactory& widgets() override { return *this; }
+    WidgetHost& widgets() override { return *this; }
     HWND handle() override;
     void setParent(HWND parent) override;
     void place(const RECT& bounds, const RECT& clip) override;
@@ -38,31 +35,30 @@ public:
     void setGrid(const TwipGrid& grid);
 
 private:
-    template <class Child, class... Arguments>
-    std::unique_ptr<Child> make(Arguments&&... arguments);
+    template <class Seen, class Shown>
+    std::unique_ptr<Seen> make(Shown& shown);
     std::unique_ptr<PictureView> makeView(PictureBox& box) override;
     std::unique_ptr<View> makeView(CheckBox& box) override;
     std::unique_ptr<View> makeView(UpDown& spinner) override;
     std::unique_ptr<View> makeView(Label& label) override;
-    bool takesInput() const override { return acceptsInput(); }
+    std::unique_ptr<TextView> makeView(TextBox& box) override;
+    std::unique_ptr<TextView> makeView(ComboBox& box) override;
+    bool takesInput() const override { return Enabled_ && Visible_; }
     void moveFocusTo(FieldWidget& field) override;
-    void focusBarred(FieldWidget& field) override { takeInputFrom(childOf(&field)->window()); }
-    std::unique_ptr<TextBox> makeTextBox(TextBoxListener& listener, bool multiLine) override;
-    std::unique_ptr<ComboBox> makeComboBox(ComboBoxListener& listener) override;
+    void focusBarred(FieldWidget& field) override { takeInputFrom(viewOf<ChildField>(&field)->wholeWindow()); }
+    std::u16string clipboardText() override { return Clipboard_->text(Window_); }
+    void setClipboardText(std::u16string_view text) override { Clipboard_->setText(Window_, text); }
 
     HWND window() const override { return Window_; }
     ControlWindowOwner& owner() override { return Owner_; }
     const TwipGrid& grid() const override { return Grid_; }
-    Clipboard& clipboard() override { return *Clipboard_; }
     bool enabled() const override { return Enabled_; }
-    bool acceptsInput() const override { return Enabled_ && Visible_; }
     void add(ChildWidget& widget) override;
     void remove(ChildWidget& widget) override { std::erase(Widgets_, &widget); }
     void addField(ChildField& field) override;
     void removeField(ChildField& field) override;
-    void fieldShown() override { captionChanged(); }
     void arrived(ChildField& field) override { Focus_.arrived(Window_, field); }
-    void departed(ChildField& /*field*/, HWND next) override { Focus_.departed(Window_, next); }
+    void departed(HWND next) override { Focus_.departed(Window_, next); }
     void takeInputFrom(HWND window) override;
     void dropInputOf(HWND window) const;
     static void give(const ChildField* field);

@@ -9,7 +9,6 @@
 #include "platform/win32/ForeignWindows.h"
 #include "platform/win32/Session.h"
 #include "platform/win32/WideText.h"
-#include "platform/win32/Win32ComboBox.h"
 
 namespace kel::win32 {
 
@@ -107,7 +106,7 @@ void Win32FormWindow::show() {
 
 void Win32FormWindow::setForeignFont() {
     if (const auto runtime = Settings_.Runtime)
-        Font_.choose(runtime->CaptionFontName(), runtime->CaptionFontSize(), Grid_);
+        Font_.choose({runtime->CaptionFontName(), runtime->CaptionFontSize()}, Grid_);
     const auto font = reinterpret_cast<WPARAM>(Font_.handle());
     for (const Foreign& foreign : Foreign_)
         SendMessageW(foreign.frame != nullptr ? foreign.frame : foreign.window, WM_SETFONT, font, TRUE);
@@ -128,9 +127,10 @@ void Win32FormWindow::giveFocus(HWND field, bool byTab) {
 }
 
 void Win32FormWindow::moveByTab(bool back) {
-    const PlacedWin32Control* const holder = focusedControl();
+    PlacedWin32Control* const holder = focusedControl();
+    FieldWidget* const field = holder != nullptr ? holder->control().widgets().field : nullptr;
     // Also where the focus has nowhere to go and stays.
-    if (Win32ComboBox* const box = holder != nullptr ? holder->comboBox() : nullptr) box->showDropDown(false);
+    if (field != nullptr) field->strike({.code = keys::Tab});
     if (TabStop* const next = Order_.next(holder, back))
         giveFocus(static_cast<PlacedWin32Control*>(next)->focusTarget(), true);
 }

@@ -153,11 +153,10 @@ void Win32FormWindow::focus(PlacedControl& control) {
 
 void Win32FormWindow::click(PlacedControl& control, std::int32_t position) {
     focus(control);
-    auto& placed = static_cast<PlacedWin32Control&>(control);
-    HWND const field = placed.focusTarget();
+    HWND const field = static_cast<PlacedWin32Control&>(control).focusTarget();
     if (field == nullptr) return;
-    EditedField* const edited = placed.editedField();
-    postLeftClick(field, edited != nullptr ? aimedAt(field, edited->showPosition(position)) : centerOf(field));
+    auto* const entry = viewOf<Win32TextEntry>(control.control().widgets().entry);
+    postLeftClick(field, entry != nullptr ? aimedAt(field, entry->showPosition(position)) : centerOf(field));
     Session_.settle(true);
 }
 
@@ -174,25 +173,27 @@ void Win32FormWindow::rightClick(PlacedControl& control) {
 
 void Win32FormWindow::spin(PlacedControl& control, bool up) {
     activate();
-    const Win32UpDown* const spinner = static_cast<PlacedWin32Control&>(control).upDown();
-    if (spinner == nullptr || !spinner->acceptsInput()) return;
+    const UpDown* const spinner = control.control().widgets().upDown;
+    if (spinner == nullptr || !spinner->takesInput()) return;
+    HWND const window = viewOf<Win32UpDown>(spinner)->window();
     RECT area{};
-    GetClientRect(spinner->window(), &area);
+    GetClientRect(window, &area);
     const LONG quarter = area.bottom / 4;
-    postLeftClick(spinner->window(), {area.right / 2, up ? quarter : area.bottom - quarter});
+    postLeftClick(window, {area.right / 2, up ? quarter : area.bottom - quarter});
     Session_.settle(true);
 }
 
 void Win32FormWindow::pick(PlacedControl& control, std::int32_t item) {
     activate();
-    const Win32ComboBox* const box = static_cast<PlacedWin32Control&>(control).comboBox();
-    if (box == nullptr || !box->acceptsInput()) return;
-    if (!box->isDropped()) postLeftClick(box->comboWindow(), box->buttonCenter());
+    const ComboBox* const box = control.control().widgets().comboBox;
+    if (box == nullptr || !box->takesInput()) return;
+    const auto* const seen = viewOf<Win32ComboBox>(box);
+    if (!box->isDropped()) postLeftClick(seen->wholeWindow(), seen->buttonCenter());
     Session_.settle(true);
     POINT row{};
-    if (!box->isDropped() || !box->showRow(item, row)) return;
-    postMouse(box->listWindow(), WM_MOUSEMOVE, 0, row);
-    postLeftClick(box->listWindow(), row);
+    if (!box->isDropped() || !seen->showRow(item, row)) return;
+    postMouse(seen->listWindow(), WM_MOUSEMOVE, 0, row);
+    postLeftClick(seen->listWindow(), row);
     Session_.settle(true);
 }
 

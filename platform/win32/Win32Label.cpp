@@ -23,8 +23,7 @@ void Win32Label::makeWindow(int controlHeight) {
 void Win32Label::place(int controlHeight) {
     if (Window_ == nullptr) return;
     const RECT area = Frame_.grid().pixels(Label_.bounds());
-    SetWindowPos(Window_, nullptr, area.left, 0, widthOf(area), controlHeight,
-                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+    placeWindow(Window_, {area.left, 0, area.right, controlHeight});
     InvalidateRect(Window_, nullptr, FALSE);
 }
 

@@ -24,7 +24,6 @@ public:
     HWND window() const override { return windowHandle(); }
     void makeWindow() override;
     bool shown() const override { return true; }
-    void frameEnabledChanged() override {}
     void rescale() override;
     LRESULT notified(UINT /*notification*/, LPARAM /*details*/) override { return 0; }
     void draw(HDC context, POINT origin) const override;

@@ -66,7 +66,7 @@ void Win32UpDown::draw(HDC context, POINT origin) const {
 
 LRESULT Win32UpDown::handle(UINT message, WPARAM wide, LPARAM data) {
     switch (message) {
-        case WM_LBUTTONDOWN: return acceptsInput() ? step(message, wide, data) : 0;
+        case WM_LBUTTONDOWN: return Spinner_.takesInput() ? step(message, wide, data) : 0;
         case WM_TIMER:
             if (!isHeld()) {
                 letButtonGo(wide);
@@ -96,7 +96,7 @@ LRESULT Win32UpDown::notified(UINT notification, LPARAM details) {
 
 /// A window in front, such as a message box, takes the mouse away without a word to the child windows.
 bool Win32UpDown::isHeld() const {
-    return GetCapture() == window() && acceptsInput() && IsWindowVisible(window()) != FALSE &&
+    return GetCapture() == window() && Spinner_.takesInput() && IsWindowVisible(window()) != FALSE &&
            IsWindowEnabled(GetAncestor(window(), GA_ROOT)) != FALSE;
 }
 

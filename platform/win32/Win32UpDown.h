@@ -27,8 +27,6 @@ public:
     LRESULT notified(UINT notification, LPARAM details) override;
     void draw(HDC context, POINT origin) const override;
 
-    bool acceptsInput() const { return Spinner_.takesInput(); }
-
 private:
     bool looksEnabled() const { return Spinner_.enabled() && frame().enabled(); }
 

@@ -70,6 +70,11 @@ WNDPROC putInFront(HWND window, WindowHandler& handler) {
         SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&frontProcedure)));
 }
 
+void placeWindow(HWND window, const RECT& place) {
+    SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
+}
+
 WindowClass::~WindowClass() { UnregisterClassW(Name_, thisModule()); }
 
 }  // namespace kel::win32

@@ -27,6 +27,8 @@ protected:
         if (FocusArrives && field.takesInput()) field.gotFocus();
     }
     void focusBarred(FieldWidget&) override { Log += "barred "; }
+    std::u16string clipboardText() override { return {}; }
+    void setClipboardText(std::u16string_view) override {}
     void Check1_Click() override {
         Log += "click" + std::to_string(It.value()) + " ";
         OnClick();

@@ -27,7 +27,7 @@ const ClassModel ProbeControl::SingleLine{.name = u"Probe", .help = {}, .members
 const ClassModel ProbeControl::MultiLine{.name = u"Probe", .help = {}, .members = {}, .makeControl = makeProbe<true>};
 
 ProbeControl::ProbeControl(ControlHost& host, bool multiLine)
-    : Host_(host), Box_(host.widgets.makeTextBox(*this, multiLine)), UpDown_(host.widgets, *this) {}
+    : Host_(host), Box_(host.widgets, *this, multiLine), UpDown_(host.widgets, *this) {}
 
 void ProbeControl::tell(const std::string& what) {
     note(Host_.container.displayName(), what);
@@ -53,7 +53,7 @@ bool ProbeControl::Text1_Paste(std::u16string& Text) {
 }
 
 void ProbeControl::UpDown1_Change() {
-    Box_->setFocus();
+    Box_.setFocus();
     tell("Spin" + std::to_string(UpDown_.value()));
     UpDown_.setValue(UpDown::Rest);
 }

@@ -22,7 +22,7 @@ public:
 
     ProbeControl(ControlHost& host, bool multiLine);
 
-    TextBox& box() { return *Box_; }
+    TextBox& box() { return Box_; }
     UpDown& spinner() { return UpDown_; }
     ControlHost& host() { return Host_; }
 
@@ -48,7 +48,7 @@ public:
     void Show() override { tell("Show"); }
     void EnterFocus() override { tell("EnterFocus"); }
     void ExitFocus() override { tell("ExitFocus"); }
-    WidgetSet widgets() override { return {.field = Box_.get(), .entry = Box_.get(), .upDown = &UpDown_}; }
+    WidgetSet widgets() override { return {.field = &Box_, .entry = &Box_, .upDown = &UpDown_}; }
 
 private:
     void Text1_Change() override { tell("Change"); }
@@ -67,7 +67,7 @@ private:
     void tell(const std::string& what);
 
     ControlHost Host_;
-    std::unique_ptr<TextBox> Box_;
+    TextBox Box_;
     UpDown UpDown_;
     std::map<std::string, Handler> Handlers_;
 };

@@ -44,10 +44,11 @@ protected:
 
     static KelCombo& comboOf(PlacedControl& placed) { return static_cast<KelCombo&>(placed.control()); }
     static qt::QtComboBox& boxOf(PlacedControl& placed) {
-        return dynamic_cast<qt::QtComboBox&>(*placed.control().widgets().comboBox);
+        return dynamic_cast<qt::QtComboBox&>(*placed.control().widgets().field->view());
     }
     KelCombo& combo() { return comboOf(*first); }
     qt::QtComboBox& box() { return boxOf(*first); }
+    TextEntry& text() { return box().box(); }
     qt::ComboList& list() { return *box().list(); }
     bool isOpen() { return box().list() != nullptr && list().isVisible(); }
     QPoint middleOf(int row) { return list().visualRect(list().model()->index(row, 0)).center(); }
@@ -103,7 +104,7 @@ TEST_F(Combo, WhatComesWithoutAKeyIsTyping) {
         {"a menu's paste",
          [this] {
              window().setClipboard(u"Fig");
-             box().perform(EditAction::Paste);
+             text().perform(EditAction::Paste);
          },
          "Fig|"},
         {"a reader's tool", [this] { accessible(box()).setText(QAccessible::Value, QStringLiteral("Iris")); }, "Iris|"},
@@ -115,7 +116,7 @@ TEST_F(Combo, WhatComesWithoutAKeyIsTyping) {
         window().focus(*first);
         takeLog();
         row.act();
-        EXPECT_EQ(drawn(box()), row.shown) << row.what;
+        EXPECT_EQ(drawn(text()), row.shown) << row.what;
         EXPECT_EQ(takeLog(), "a.ChangeEx a.Change ") << row.what;
     }
 }
@@ -123,11 +124,11 @@ TEST_F(Combo, WhatComesWithoutAKeyIsTyping) {
 TEST_F(Combo, TheListIsNoChangeOfFocus) {
     open();
     const Color focused = settings().FieldBackFocus;
-    EXPECT_EQ(box().backColor(), focused);
+    EXPECT_EQ(text().backColor(), focused);
     EXPECT_EQ(window().focused(), first);
     EXPECT_TRUE(box().hasFocus());
     key(keys::Escape);
-    EXPECT_EQ(box().backColor(), focused);
+    EXPECT_EQ(text().backColor(), focused);
     combo().entry().put_Mandatory(false);
     type(U"zz");
     combo().put_LimitToList(false);
@@ -135,7 +136,7 @@ TEST_F(Combo, TheListIsNoChangeOfFocus) {
     type(U"zz");
     key(keys::F4);
     key(keys::F4);
-    EXPECT_EQ(drawn(box()), "zz|") << "neither settled nor selected";
+    EXPECT_EQ(drawn(text()), "zz|") << "neither settled nor selected";
 }
 
 TEST_F(Combo, ClosesWhenItIsBarredOrGone) {
@@ -152,7 +153,7 @@ TEST_F(Combo, ClosesWhenItIsBarredOrGone) {
         open();
         end();
         EXPECT_FALSE(isOpen()) << what;
-        EXPECT_FALSE(box().isDropped()) << what;
+        EXPECT_FALSE(first->control().widgets().comboBox->isDropped()) << what;
     }
     open();
     unload();
@@ -162,8 +163,7 @@ TEST_F(Combo, ClosesWhenItIsBarredOrGone) {
 TEST_F(Combo, ThePickedItemMayEndTheForm) {
     onClick = [this] { unload(); };
     window().focus(*first);
-    qt::QtComboBox& gone = box();
-    gone.showDropDown(true);
+    first->control().widgets().comboBox->showDropDown(true);
     const QPoint row = middleOf(1);
     moveMouse(*list().viewport(), row);
     pressMouse(*list().viewport(), row);
@@ -199,10 +199,10 @@ TEST_F(Combo, RowsFollowThePointer) {
     EXPECT_EQ(list().currentIndex().row(), 2);
     moveMouse(*list().viewport(), middleOf(5));
     EXPECT_EQ(list().currentIndex().row(), 5);
-    EXPECT_EQ(drawn(box()), "|Banana") << "nothing is picked yet";
+    EXPECT_EQ(drawn(text()), "|Banana") << "nothing is picked yet";
     pressMouse(*list().viewport(), middleOf(3));
     releaseMouse(*list().viewport(), middleOf(3));
-    EXPECT_EQ(drawn(box()), "|Cherry");
+    EXPECT_EQ(drawn(text()), "|Cherry");
     EXPECT_FALSE(isOpen());
 }
 

@@ -7,7 +7,7 @@
 #include <QTimer>
 #include <QWindow>
 
-#include "platform/qt/EditBox.h"
+#include "platform/qt/ChildField.h"
 #include "platform/qt/QtHome.h"
 #include "tests/qt/ProbeForm.h"
 #include "tests/qt/QtForm.h"
@@ -18,7 +18,7 @@ namespace {
 
 constexpr Qt::DropActions AnyAction = Qt::CopyAction | Qt::MoveAction;
 
-QWidget& areaOf(TextEntry& box) { return dynamic_cast<qt::EditBox&>(box).mouseArea(); }
+QWidget& areaOf(TextEntry& box) { return dynamic_cast<qt::ChildField&>(*box.view()).mouseArea(); }
 
 QPoint startOf(const QWidget& area) { return {4, area.height() / 2}; }
 QPoint endOf(const QWidget& area) { return {area.width() - 3, area.height() / 2}; }

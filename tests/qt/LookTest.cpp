@@ -6,6 +6,7 @@
 #include "library/Control.h"
 #include "platform/qt/FieldColors.h"
 #include "platform/qt/QtHome.h"
+#include "platform/qt/QtLine.h"
 #include "tests/qt/QtForm.h"
 
 namespace kel::test {
@@ -68,21 +69,21 @@ TEST(Looks, AChangeOfTheDesktopReachesTheFields) {
     QWidget window;
     auto* const field = new KelTextWidget(&window);
     TextEntry& box = *field->control().widgets().entry;
-    const QWidget& shown = widgetOf(box);
+    const auto& shown = dynamic_cast<qt::QtLine&>(*box.view());
     box.setBackColor(colors::SystemButtonFace);
     const QPalette light = window.palette();
     const QPalette dark = darkDesktop();
 
     window.setPalette(dark);
-    EXPECT_EQ(shown.palette().color(QPalette::Base), dark.color(QPalette::Button));
-    EXPECT_EQ(shown.palette().color(QPalette::Text), QColor(Qt::white));
+    EXPECT_EQ(shown.look().color(QPalette::Base), dark.color(QPalette::Button));
+    EXPECT_EQ(shown.look().color(QPalette::Text), QColor(Qt::white));
     box.setBackColor(0x00FFFFFF);
-    EXPECT_EQ(shown.palette().color(QPalette::Text), QColor(Qt::black));
-    EXPECT_EQ(shown.palette().color(QPalette::Window), dark.color(QPalette::Window));
+    EXPECT_EQ(shown.look().color(QPalette::Text), QColor(Qt::black));
+    EXPECT_EQ(shown.look().color(QPalette::Window), dark.color(QPalette::Window));
     window.setPalette(light);
-    EXPECT_EQ(shown.palette().color(QPalette::Text), light.color(QPalette::Text));
+    EXPECT_EQ(shown.look().color(QPalette::Text), light.color(QPalette::Text));
     box.setBackColor(colors::SystemWindow);
-    EXPECT_EQ(shown.palette().color(QPalette::Base), light.color(QPalette::Base));
+    EXPECT_EQ(shown.look().color(QPalette::Base), light.color(QPalette::Base));
 }
 
 /// Rows of the picture that hold ink, between the columns given.

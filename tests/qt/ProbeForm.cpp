@@ -6,7 +6,6 @@
 #include <QTest>
 #include <QWindow>
 
-#include "platform/qt/EditBox.h"
 #include "platform/qt/QtHome.h"
 #include "platform/qt/QtUpDown.h"
 #include "values/Text.h"
@@ -79,7 +78,7 @@ void ProbeForm::raise(PlacedControl& placed, std::function<void()> handler) {
     probe(placed).host().container.raiseEvent({.name = u"Event", .id = 1, .help = {}}, {});
 }
 
-QWidget& boxWidgetOf(PlacedControl& placed) { return dynamic_cast<QWidget&>(probe(placed).box()); }
+QWidget& boxWidgetOf(PlacedControl& placed) { return dynamic_cast<QWidget&>(*probe(placed).box().view()); }
 
 QWidget& spinnerWidgetOf(PlacedControl& placed) { return dynamic_cast<QWidget&>(*probe(placed).spinner().view()); }
 

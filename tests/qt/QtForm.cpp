@@ -50,7 +50,7 @@ KelText& textOf(PlacedControl& control) { return static_cast<KelText&>(control.c
 
 TextEntry& boxOf(PlacedControl& control) { return *control.control().widgets().entry; }
 
-QWidget& widgetOf(TextEntry& box) { return dynamic_cast<QWidget&>(box); }
+QWidget& widgetOf(TextEntry& box) { return dynamic_cast<QWidget&>(*box.view()); }
 
 void typeInto(FormWindow& window, std::u32string_view characters) {
     for (const char32_t character : characters) window.press(strokeFor(character));

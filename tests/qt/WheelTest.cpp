@@ -6,7 +6,7 @@
 #include <QTest>
 #include <QWheelEvent>
 
-#include "platform/qt/EditBox.h"
+#include "platform/qt/ChildField.h"
 #include "tests/qt/ProbeForm.h"
 
 namespace kel::test {
@@ -24,7 +24,7 @@ bool turn(QWidget& area, const QPoint& angle) {
     return event.isAccepted();
 }
 
-QWidget& areaOf(TextEntry& box) { return dynamic_cast<qt::EditBox&>(box).mouseArea(); }
+QWidget& areaOf(TextEntry& box) { return dynamic_cast<qt::ChildField&>(*box.view()).mouseArea(); }
 
 TEST(Wheel, CountsWholeNotches) {
     struct Case {

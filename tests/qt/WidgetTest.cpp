@@ -5,7 +5,6 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QHBoxLayout>
-#include <QLineEdit>
 #include <QMetaProperty>
 #include <QPointer>
 #include <QSignalSpy>
@@ -221,20 +220,6 @@ TEST(Widget, MayGoInASlotOfItsOwn) {
     EXPECT_EQ(field->text(), QStringLiteral("x"));
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(field.isNull());
-}
-
-TEST(Widget, ShowsWhatItWasGivenOutOfSight) {
-    KelTextWidget field;
-    auto& edit = dynamic_cast<QLineEdit&>(boxOf(field));
-    field.setText(QStringLiteral("before"));
-    EXPECT_EQ(field.text(), QStringLiteral("before"));
-    field.show();
-    EXPECT_EQ(edit.text(), QStringLiteral("before"));
-    field.hide();
-    field.setText(QStringLiteral("meanwhile"));
-    field.show();
-    EXPECT_EQ(edit.text(), QStringLiteral("meanwhile"));
-    EXPECT_EQ(edit.cursorPosition(), 0);
 }
 
 }  // namespace

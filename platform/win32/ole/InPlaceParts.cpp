@@ -1,5 +1,6 @@
 #include "platform/win32/ole/InPlaceParts.h"
 
+#include "platform/win32/EditInput.h"
 #include "platform/win32/ole/OleControl.h"
 
 namespace kel::win32::ole {
@@ -10,19 +11,6 @@ HRESULT windowOf(OleControl& control, HWND* window) {
     if (window == nullptr) return E_POINTER;
     *window = control.activation().inPlace() ? control.window().handle() : nullptr;
     return *window != nullptr ? S_OK : E_FAIL;
-}
-
-/// As `IOleControlSite::TranslateAccelerator` wants them.
-constexpr DWORD KeyModShift = 1;
-constexpr DWORD KeyModControl = 2;
-constexpr DWORD KeyModAlt = 4;
-
-DWORD modifiersDown() {
-    DWORD modifiers = 0;
-    if (GetKeyState(VK_SHIFT) < 0) modifiers |= KeyModShift;
-    if (GetKeyState(VK_CONTROL) < 0) modifiers |= KeyModControl;
-    if (GetKeyState(VK_MENU) < 0) modifiers |= KeyModAlt;
-    return modifiers;
 }
 
 }  // namespace
@@ -70,6 +58,7 @@ HRESULT ActiveObjectPart::TranslateAccelerator(LPMSG message) noexcept {
         if (!Control_.activation().inPlace()) return S_FALSE;
         if (Control_.window().translateAccelerator(*message)) return S_OK;
         const auto site = Control_.site().as<IOleControlSite>();
+        // Its bits for Shift, Ctrl and Alt are ours.
         return site && site->TranslateAccelerator(message, modifiersDown()) == S_OK ? S_OK : S_FALSE;
     });
 }

@@ -8,7 +8,7 @@
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/widgets/Scene.h"
 
-/// The system's combo box with an editor of ours behind it.
+/// The system's combo box around a text of ours.
 namespace kel::tests {
 
 namespace {
@@ -25,22 +25,22 @@ ListItems fruit() {
 }
 
 /// A combo box with twelve fruits in its list.
-class ComboScene final : public Scene, private ComboBoxListener {
+class ComboScene final : public Scene, public ComboBoxListener {
 public:
     ComboScene() : Scene(Width, Height) {
         make();
         placeOn(host().window());
     }
 
-    win32::Win32ComboBox& box() { return *Box_; }
-    HWND combo() const { return Box_->comboWindow(); }
-    HWND edit() const { return Box_->window(); }
-    HWND list() const { return Box_->listWindow(); }
+    ComboBox& box() { return *Box_; }
+    const win32::Win32ComboBox& view() const { return *win32::viewOf<win32::Win32ComboBox>(Box_.get()); }
+    HWND combo() const { return view().wholeWindow(); }
+    HWND edit() const { return view().window(); }
+    HWND list() const { return view().listWindow(); }
     bool listShows() const { return IsWindowVisible(list()) != FALSE; }
 
     void make() {
-        std::unique_ptr<ComboBox> made = control().widgets().makeComboBox(*this);
-        Box_.reset(dynamic_cast<win32::Win32ComboBox*>(made.release()));
+        Box_ = std::make_unique<ComboBox>(control().widgets(), *this);
         Box_->move(whole());
         Box_->setItems(fruit());
     }
@@ -63,10 +63,10 @@ public:
         settle();
         SetKeyboardState(before);
     }
-    void pressButton() { drag(combo(), box().buttonCenter(), box().buttonCenter()); }
+    void pressButton() { drag(combo(), view().buttonCenter(), view().buttonCenter()); }
     void clickRow(std::int32_t item) {
         POINT row{};
-        EXPECT(box().showRow(item, row));
+        EXPECT(view().showRow(item, row));
         drag(list(), row, row);
     }
     LRESULT highlight() const { return SendMessageW(list(), LB_GETCURSEL, 0, 0); }
@@ -86,7 +86,7 @@ private:
     void Combo1_GotFocus() override { tell(L"got"); }
     void Combo1_LostFocus() override { tell(L"lost"); }
 
-    std::unique_ptr<win32::Win32ComboBox> Box_;
+    std::unique_ptr<ComboBox> Box_;
 };
 
 SIZE sizeOf(HWND window) {

@@ -55,7 +55,7 @@ Stage::Stage(bool multiLine) {
     TextBoxListener& listener = *this;
     Window_ = win32::makeControlWindow(owner, machine());
     Label_ = std::make_unique<Label>(Window_->widgets());
-    Box_ = Window_->widgets().makeTextBox(listener, multiLine);
+    Box_ = std::make_unique<TextBox>(Window_->widgets(), listener, multiLine);
     UpDownListener& spinning = *this;
     UpDown_ = std::make_unique<UpDown>(Window_->widgets(), spinning);
     const std::int32_t twips = machine().twipsPerPixel();

@@ -1,4 +1,4 @@
-#include "host/editing/ComboEditor.h"
+#include "host/widgets/ComboBox.h"
 
 #include <algorithm>
 #include <utility>
@@ -14,60 +14,71 @@ bool togglesList(std::int16_t code, Modifiers modifiers) {
 
 }  // namespace
 
+ComboBox::ComboBox(WidgetHost& host, ComboBoxListener& listener)
+    : TextEntry(host, static_cast<TextBoxListener&>(*this), false), Listener_(listener), View_(host.makeView(*this)) {}
+
 // ---- By code
 
-void ComboEditor::setText(std::u16string_view text) {
+void ComboBox::setText(std::u16string_view text) {
     ListIndex_ = ListItems::NotFound;
-    if (text != buffer().text()) Edit_.setText(text);
+    if (text != this->text()) TextEntry::setText(text);
 }
 
-void ComboEditor::setItems(ListItems items) {
+void ComboBox::setItems(ListItems items) {
     showDropDown(false);
     Items_ = std::move(items);
+    changed(Change::Items);
     ListIndex_ = ListItems::NotFound;
 }
 
-void ComboEditor::setListIndex(std::int32_t index) {
+void ComboBox::setListIndex(std::int32_t index) {
     const bool exists = Items_.contains(index);
     ListIndex_ = exists ? index : ListItems::NotFound;
     const std::u16string_view text = exists ? Items_.item(index) : std::u16string_view();
-    if (text == buffer().text()) return;
+    if (text == this->text()) return;
     highlight(ListIndex_);
     Silent_ = true;
-    Edit_.setText(text);
+    TextEntry::setText(text);
     Silent_ = false;
 }
 
-void ComboEditor::showDropDown(bool dropped) {
-    if (dropped == Dropped_ || (dropped && !Surroundings_.takesInput())) return;
+void ComboBox::showDropDown(bool dropped) {
+    if (dropped == Dropped_ || (dropped && !takesInput())) return;
     Dropped_ = dropped;
     if (dropped) {
         Highlighted_ = currentItem();
-        if (Highlighted_ == ListItems::NotFound) Highlighted_ = Items_.findPrefix(buffer().text());
+        if (Highlighted_ == ListItems::NotFound) Highlighted_ = Items_.findPrefix(text());
     }
-    Surroundings_.listChanged();
+    changed(Change::List);
 }
 
-void ComboEditor::setDroppedWidth(std::int32_t pixels) {
-    DroppedWidth_ = std::max(pixels, 0);
-    Surroundings_.listChanged();
+void ComboBox::setDroppedWidth(std::int32_t pixels) { change(DroppedWidth_, std::max(pixels, 0), Change::List); }
+
+void ComboBox::installFrame(const std::int16_t& buttonWidthPixels) {
+    FrameButtonWidth_ = &buttonWidthPixels;
+    changed(Change::Frame);
 }
 
 // ---- Keys
 
-bool ComboEditor::claims(const KeyStroke& stroke) const {
+bool ComboBox::claims(const KeyStroke& stroke) const {
     const bool closesList = stroke.code == keys::Enter || stroke.code == keys::Escape;
-    return togglesList(stroke.code, stroke.modifiers) || (Dropped_ && closesList) || claimsKey(stroke, locked());
+    return togglesList(stroke.code, stroke.modifiers) || (Dropped_ && closesList) || TextEntry::claims(stroke);
 }
 
-void ComboEditor::Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) {
+bool ComboBox::strike(const KeyStroke& stroke) {
+    if (leavesField(stroke)) showDropDown(false);
+    return TextEntry::strike(stroke);
+}
+
+void ComboBox::Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) {
     const std::int16_t code = KeyCode;
     Listener_.Combo1_KeyDown(KeyCode, Shift);
-    if (KeyCode != 0 && Surroundings_.takesInput() && actOnList(code, Shift)) KeyCode = 0;
+    if (KeyCode != 0 && takesInput() && actOnList(code, Shift)) KeyCode = 0;
 }
 
 /// False when the key goes on to the edit box.
-bool ComboEditor::actOnList(std::int16_t code, Modifiers modifiers) {
+bool ComboBox::actOnList(std::int16_t code, Modifiers modifiers) {
     if (togglesList(code, modifiers)) {
         showDropDown(!Dropped_);
         return true;
@@ -81,8 +92,8 @@ bool ComboEditor::actOnList(std::int16_t code, Modifiers modifiers) {
             else
                 showDropDown(true);
             return true;
-        case keys::PageUp: walk(-Surroundings_.linesOfPage()); return true;
-        case keys::PageDown: walk(Surroundings_.linesOfPage()); return true;
+        case keys::PageUp: walk(-RowsOfList); return true;
+        case keys::PageDown: walk(RowsOfList); return true;
         case keys::Enter: showDropDown(false); return false;
         case keys::Escape: {
             const bool closes = Dropped_;
@@ -94,7 +105,7 @@ bool ComboEditor::actOnList(std::int16_t code, Modifiers modifiers) {
 }
 
 /// At an end of the list, the row that is picked already is not picked again.
-void ComboEditor::walk(std::int64_t rows) {
+void ComboBox::walk(std::int64_t rows) {
     if (!Dropped_) return;
     const std::int32_t row = rowFrom(Highlighted_, rows);
     if (row == Highlighted_ && row == ListIndex_) return;
@@ -103,12 +114,12 @@ void ComboEditor::walk(std::int64_t rows) {
 }
 
 /// The selected item, or the one that the text is without being selected.
-std::int32_t ComboEditor::currentItem() const {
-    return ListIndex_ != ListItems::NotFound ? ListIndex_ : Items_.findExact(buffer().text());
+std::int32_t ComboBox::currentItem() const {
+    return ListIndex_ != ListItems::NotFound ? ListIndex_ : Items_.findExact(text());
 }
 
 /// As far as there are rows.
-std::int32_t ComboEditor::rowFrom(std::int32_t row, std::int64_t rows) const {
+std::int32_t ComboBox::rowFrom(std::int32_t row, std::int64_t rows) const {
     const std::int64_t last = Items_.size() - 1;
     if (!Items_.contains(row)) return rows > 0 && last >= 0 ? 0 : ListItems::NotFound;
     return static_cast<std::int32_t>(std::clamp<std::int64_t>(row + rows, 0, last));
@@ -116,33 +127,33 @@ std::int32_t ComboEditor::rowFrom(std::int32_t row, std::int64_t rows) const {
 
 // ---- Mouse
 
-void ComboEditor::highlight(std::int32_t index) {
+void ComboBox::highlight(std::int32_t index) {
     if (!Dropped_ || index == Highlighted_) return;
     Highlighted_ = index;
-    Surroundings_.listChanged();
+    changed(Change::List);
 }
 
-void ComboEditor::pick(std::int32_t index) {
+void ComboBox::pick(std::int32_t index) {
     showDropDown(false);
     take(index);
 }
 
-void ComboEditor::take(std::int32_t index) {
+void ComboBox::take(std::int32_t index) {
     if (locked() || !Items_.contains(index)) return;
     setListIndex(index);
-    Edit_.setSelStart(0);
+    setSelStart(0);
     Listener_.Combo1_Click();
 }
 
 // ---- Text and focus
 
-void ComboEditor::Text1_Change() {
+void ComboBox::Text1_Change() {
     if (Silent_) return;
     ListIndex_ = ListItems::NotFound;
     Listener_.Combo1_Change();
 }
 
-void ComboEditor::Text1_LostFocus() {
+void ComboBox::Text1_LostFocus() {
     showDropDown(false);
     Listener_.Combo1_LostFocus();
 }
