@@ -102,7 +102,8 @@ public:
     // ---- Hands. Each call returns when all that follows from it has happened.
 
     /// A key goes down and up where the focus is; Tab and Shift+Tab move the focus, from nowhere into the
-    /// first or last field. Any other key without the focus does nothing.
+    /// first or last field. Alt with a letter that means nothing there is the key of a mnemonic. Any other key
+    /// without the focus does nothing.
     virtual void press(const KeyStroke& stroke) = 0;
 
     /// By code: neither Tab nor a click. A disabled control does not take it.

@@ -1,5 +1,7 @@
 #include "host/focus/Mnemonic.h"
 
+#include "values/CaseFolding.h"
+
 namespace kel {
 
 char16_t mnemonicIn(std::u16string_view caption) {
@@ -8,5 +10,7 @@ char16_t mnemonicIn(std::u16string_view caption) {
         if (caption[at + 1] != u'&') return caption[at + 1];
     return 0;
 }
+
+bool isKeyOf(char16_t mnemonic, char32_t letter) { return mnemonic != 0 && foldCase(mnemonic) == foldCase(letter); }
 
 }  // namespace kel

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "host/focus/Mnemonic.h"
+
 namespace kel {
 
 namespace {
@@ -47,6 +49,18 @@ TabStop* TabOrder::namedBy(std::int32_t labelIndex) const {
         if (stop->tabPlace().first > labelIndex && isSooner && stop->hasField()) named = stop;
     }
     return named;
+}
+
+void TabOrder::addLabel(std::u16string_view caption, std::int32_t tabIndex) {
+    Labels_.emplace_back(mnemonicIn(caption), tabIndex);
+}
+
+TabStop* TabOrder::marked(char32_t letter) const {
+    for (TabStop* const stop : Stops_)
+        if (isKeyOf(stop->mnemonic(), letter)) return stop;
+    for (const auto& [mnemonic, tabIndex] : Labels_)
+        if (isKeyOf(mnemonic, letter)) return namedBy(tabIndex);
+    return nullptr;
 }
 
 std::vector<TabStop*> TabOrder::sorted() const {

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -25,6 +26,8 @@ public:
     virtual bool hasField() const = 0;
     /// It would take the focus now.
     virtual bool takesFocus() const = 0;
+    /// That its own caption marks, for homes whose toolkit does not look for it; 0 for none.
+    virtual char16_t mnemonic() const { return 0; }
 
 protected:
     ~TabStop() = default;
@@ -50,11 +53,18 @@ public:
     /// What a plain label with this tab index names, and its mnemonic leads to: the next control that has a field.
     TabStop* namedBy(std::int32_t labelIndex) const;
 
+    void addLabel(std::u16string_view caption, std::int32_t tabIndex);
+
+    /// Where the mnemonic with this letter leads: to the first control that has it, or else to what a plain label
+    /// names.
+    TabStop* marked(char32_t letter) const;
+
     /// As Tab comes to them.
     std::vector<TabStop*> sorted() const;
 
 private:
     std::vector<TabStop*> Stops_;
+    std::vector<std::pair<char16_t, std::int32_t>> Labels_;  ///< mnemonic and tab index
 };
 
 }  // namespace kel

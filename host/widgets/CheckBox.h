@@ -52,6 +52,7 @@ public:
     void gotFocus() override { HasFocus_ = true; }
     void lostFocus() override { HasFocus_ = false; }
     bool strike(const KeyStroke& stroke) override;
+    void pressMnemonic() override { press(); }
     void click(std::int32_t /*position*/) override { press(); }
 
     View* view() const override { return View_.get(); }

@@ -126,6 +126,8 @@ public:
     /// The left mouse button, pressed and released; `position` in the text, if it has one, may be past either end.
     virtual void click(std::int32_t /*position*/) {}
     virtual void rightClick() {}
+    /// The key of the mnemonic that leads here.
+    virtual void pressMnemonic() { setFocus(); }
     /// A mouse button goes down anywhere in the window, before what it is meant for hears of it.
     virtual void pressedAnywhere() {}
     /// The wheel, over the widget that has the focus.

@@ -37,6 +37,7 @@ PlacedControl& HeadlessWindow::place(const ClassModel& model, const Placement& p
 }
 
 PlacedPanel* HeadlessWindow::placeForeign(const ForeignBlock& block) {
+    if (block.kind == ForeignBlock::Kind::Label) Order_.addLabel(block.caption, block.placement.tabIndex);
     if (block.kind != ForeignBlock::Kind::Panel) return nullptr;
     return Panels_.emplace_back(std::make_unique<HeadlessPanel>(isSeen(block.placement))).get();
 }
@@ -54,9 +55,17 @@ void HeadlessWindow::press(const KeyStroke& stroke) {
     byHand([this, &stroke] {
         // Alt and Tab go to another program.
         if (leavesField(stroke) && (stroke.modifiers & AltKey) != 0) return;
-        if (Focus_.holder() != nullptr) Focus_.holder()->strike(stroke);
+        const bool struck = Focus_.holder() != nullptr && Focus_.holder()->strike(stroke);
         if (leavesField(stroke)) Focus_.moveByTab((stroke.modifiers & ShiftKey) != 0);
+        if (!struck && stroke.modifiers == AltKey && stroke.character != 0) pressMnemonic(stroke.character);
     });
+}
+
+void HeadlessWindow::pressMnemonic(char32_t letter) {
+    const TabStop* const marked = Order_.marked(letter);
+    if (marked == nullptr) return;
+    FieldWidget* const target = static_cast<const PlacedHeadlessControl*>(marked)->focusTarget();
+    if (target != nullptr) target->pressMnemonic();
 }
 
 void HeadlessWindow::focus(PlacedControl& control) {

@@ -38,6 +38,7 @@ public:
     void drop(PlacedControl& control, std::int32_t position, std::u16string_view text);
 
 private:
+    void pressMnemonic(char32_t letter);
     PlacedHeadlessControl* placedWithFocus() const;
 
     /// Runs what a person does here, on the window that then has the keyboard.

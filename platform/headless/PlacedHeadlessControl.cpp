@@ -38,6 +38,12 @@ void PlacedHeadlessControl::setEnabled(bool enabled) {
     Seat_.focus.recheck();
 }
 
+char16_t PlacedHeadlessControl::mnemonic() const {
+    const WidgetSet widgets = Control_->widgets();
+    if (widgets.label != nullptr) return widgets.label->mnemonic();
+    return widgets.checkBox != nullptr ? widgets.checkBox->mnemonic() : u'\0';
+}
+
 FieldWidget* PlacedHeadlessControl::focusTarget() const {
     FieldWidget* const target = Control_->widgets().field;
     return target != nullptr && target->takesInput() ? target : nullptr;

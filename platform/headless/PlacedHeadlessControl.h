@@ -37,6 +37,7 @@ public:
 
     bool hasField() const override { return Control_->widgets().field != nullptr; }
     bool takesFocus() const override { return focusTarget() != nullptr; }
+    char16_t mnemonic() const override;
 
     /// The widget that has the focus or would take it; nullptr while the control takes none.
     FieldWidget* focusTarget() const;

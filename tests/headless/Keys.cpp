@@ -53,6 +53,7 @@ void pressKey(FormWindow& window, std::string_view key) {
     if (takePrefix(key, "Shift+")) stroke.modifiers = stroke.modifiers | ShiftKey;
     const std::size_t star = key.find('*');
     stroke.code = codeOf(key.substr(0, star));
+    if (stroke.code == key.front()) stroke.character = static_cast<char32_t>(stroke.code);
     int count = star == std::string_view::npos ? 1 : std::stoi(std::string(key.substr(star + 1)));
     while (count-- > 0) window.press(stroke);
 }
