@@ -80,14 +80,14 @@ public:
     /// Repaints at the next opportunity.
     void refresh();
 
+    /// Of so many characters in one line, where no view can measure them: all are alike, and there is a gap between
+    /// lines.
+    Size extentUnseen(std::size_t characters) const;
+
 protected:
     explicit TextualWidget(Color foreColor = colors::SystemWindowText) : ForeColor_(foreColor) {}
 
     void changeCaption(std::u16string& kept, std::u16string_view caption);
-
-    /// Of so many characters in one line, where no view can measure them: all are alike, and there is a gap between
-    /// lines.
-    Size extentUnseen(std::size_t characters) const;
 
 private:
     FontFace Font_;

@@ -16,18 +16,23 @@ constexpr double FontSize = 8;  // points
 
 class HeadlessSystem final : public System {
 public:
-    HeadlessSystem(const HomeOptions& options, const Input& input)
-        : Input_(input), TwipsPerPixel_(options.twipsPerPixel > 0 ? options.twipsPerPixel : UsualTwipsPerPixel) {}
+    HeadlessSystem(const HomeOptions& options, const Input& input, Onlooker& onlooker)
+        : Input_(input),
+          Onlooker_(onlooker),
+          TwipsPerPixel_(options.twipsPerPixel > 0 ? options.twipsPerPixel : UsualTwipsPerPixel) {}
 
     Date today() const override { return Clock_.today(); }
     double timer() const override { return Clock_.secondsSinceMidnight(); }
-    void messageBox(std::u16string_view /*prompt*/, std::int32_t /*style*/, std::u16string_view /*title*/) override {}
-    void beep() override {}
+    void messageBox(std::u16string_view prompt, std::int32_t /*style*/, std::u16string_view title) override {
+        Onlooker_.messageBox(prompt, title);
+    }
+    void beep() override { Onlooker_.beep(); }
     bool tabKeyDown() const override { return Input_.tabHeld(); }
     std::int32_t twipsPerPixel() const override { return TwipsPerPixel_; }
 
 private:
     const Input& Input_;
+    Onlooker& Onlooker_;
     std::int32_t TwipsPerPixel_;
     mutable LocalClock Clock_;
 };
@@ -53,7 +58,8 @@ private:
 
 class HeadlessHome final : public Home {
 public:
-    explicit HeadlessHome(const HomeOptions& options) : System_(options, Input_), Services_(options, Input_) {
+    HeadlessHome(const HomeOptions& options, Onlooker& onlooker)
+        : Onlooker_(onlooker), System_(options, Input_, onlooker), Services_(options, Input_) {
         Settings_.makeDefaultRuntime = [this] { return makeRuntime(Services_); };
     }
 
@@ -61,19 +67,26 @@ public:
     System& system() override { return System_; }
     const RegionalSettings& region() const override { return Services_.region(); }
 
-    std::unique_ptr<FormWindow> makeWindow(const WindowSpec& /*window*/, System& system) override {
-        return std::make_unique<HeadlessWindow>(system, Settings_, region(), Input_);
+    std::unique_ptr<FormWindow> makeWindow(const WindowSpec& window, System& system) override {
+        return std::make_unique<HeadlessWindow>(window, system, Settings_, region(), Input_, Onlooker_);
     }
 
 private:
+    Onlooker& Onlooker_;
     Input Input_;
     HeadlessSystem System_;
     HeadlessServices Services_;
     SharedSettings Settings_;  ///< last: the run-time object in it works on the services
 };
 
+Onlooker nobody;
+
 }  // namespace
 
-std::unique_ptr<Home> makeHome(const HomeOptions& options) { return std::make_unique<HeadlessHome>(options); }
+std::unique_ptr<Home> makeHome(const HomeOptions& options) { return makeHome(options, nobody); }
+
+std::unique_ptr<Home> makeHome(const HomeOptions& options, Onlooker& onlooker) {
+    return std::make_unique<HeadlessHome>(options, onlooker);
+}
 
 }  // namespace kel::headless

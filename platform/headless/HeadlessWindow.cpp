@@ -7,10 +7,13 @@ namespace {
 /// What is placed in a hidden panel is as good as hidden itself.
 class HeadlessPanel final : public PlacedPanel {
 public:
-    explicit HeadlessPanel(bool visible) : Visible_(visible) {}
+    HeadlessPanel(const Rect& place, bool visible) : Place_(place), Visible_(visible) {}
+    /// In the window.
+    const Rect& place() const { return Place_; }
     bool visible() const { return Visible_; }
 
 private:
+    Rect Place_;
     bool Visible_;
 };
 
@@ -19,10 +22,28 @@ bool isSeen(const Placement& placement) {
     return placement.visible && (panel == nullptr || panel->visible());
 }
 
+Rect originOf(const Placement& placement) {
+    const auto* const panel = static_cast<const HeadlessPanel*>(placement.parent);
+    return panel != nullptr ? panel->place() : Rect{};
+}
+
+Rect inWindow(const Placement& placement) {
+    const Rect origin = originOf(placement);
+    const Rect& bounds = placement.bounds;
+    return {origin.left + bounds.left, origin.top + bounds.top, bounds.width, bounds.height};
+}
+
 }  // namespace
 
-HeadlessWindow::HeadlessWindow(System& system, SharedSettings& settings, const RegionalSettings& region, Input& input)
-    : Input_(input), Focus_(input, *this, Order_), Services_{system, settings, region, input, Focus_} {}
+HeadlessWindow::HeadlessWindow(const WindowSpec& description, System& system, SharedSettings& settings,
+                               const RegionalSettings& region, Input& input, Onlooker& onlooker)
+    : Input_(input),
+      Onlooker_(onlooker),
+      Scene_{.window = *this, .description = description},
+      Focus_(input, *this, Order_),
+      Services_{
+          .system = system, .settings = settings, .region = region, .input = input, .focus = Focus_, .painter = *this} {
+}
 
 HeadlessWindow::~HeadlessWindow() { Input_.forget(*this); }
 
@@ -33,13 +54,16 @@ PlacedControl& HeadlessWindow::place(const ClassModel& model, const Placement& p
     PlacedHeadlessControl& placed = *Controls_.back();
     Order_.add(placed);
     placed.control().Initialize();
+    if (seen.visible) Scene_.controls.emplace_back(&placed, originOf(placement));
     return placed;
 }
 
 PlacedPanel* HeadlessWindow::placeForeign(const ForeignBlock& block) {
+    const bool seen = isSeen(block.placement);
+    if (seen) Scene_.blocks.emplace_back(block, originOf(block.placement));
     if (block.kind == ForeignBlock::Kind::Label) Order_.addLabel(block.caption, block.placement.tabIndex);
     if (block.kind != ForeignBlock::Kind::Panel) return nullptr;
-    return Panels_.emplace_back(std::make_unique<HeadlessPanel>(isSeen(block.placement))).get();
+    return Panels_.emplace_back(std::make_unique<HeadlessPanel>(inWindow(block.placement), seen)).get();
 }
 
 void HeadlessWindow::show() {

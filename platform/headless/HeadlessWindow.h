@@ -3,16 +3,17 @@
 #include <memory>
 #include <vector>
 
-#include "forms/Home.h"
+#include "forms/Onlooker.h"
 #include "platform/headless/FocusKeeper.h"
 #include "platform/headless/PlacedHeadlessControl.h"
 
 namespace kel::headless {
 
-/// A form's window that nobody sees.
-class HeadlessWindow final : public FormWindow {
+/// A form's window in memory; whether it is seen is up to the onlooker.
+class HeadlessWindow final : public FormWindow, private Painter {
 public:
-    HeadlessWindow(System& system, SharedSettings& settings, const RegionalSettings& region, Input& input);
+    HeadlessWindow(const WindowSpec& description, System& system, SharedSettings& settings,
+                   const RegionalSettings& region, Input& input, Onlooker& onlooker);
     ~HeadlessWindow() override;
 
     PlacedControl& place(const ClassModel& model, const Placement& placement, ControlObserver& observer) override;
@@ -38,14 +39,18 @@ public:
     void drop(PlacedControl& control, std::int32_t position, std::u16string_view text);
 
 private:
+    void paint() override { Onlooker_.see(Scene_); }
     void pressMnemonic(char32_t letter);
     PlacedHeadlessControl* placedWithFocus() const;
 
     /// Runs what a person does here, on the window that then has the keyboard.
     template <class Action>
     void byHand(Action action) {
-        Input_.activate(*this);
-        Input_.run(action);
+        Input& input = Input_;
+        input.activate(*this);
+        input.run(action);
+        // A handler may have closed the window.
+        if (input.isActive(*this)) paint();
     }
 
     template <class Action>
@@ -70,6 +75,8 @@ private:
     }
 
     Input& Input_;
+    Onlooker& Onlooker_;
+    Scene Scene_;
     TabOrder Order_;
     FocusKeeper Focus_;
     WindowServices Services_;

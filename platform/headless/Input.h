@@ -15,6 +15,7 @@ public:
 
     /// The window that keys go to from now on.
     void activate(FormWindow& window) { Active_ = &window; }
+    bool isActive(const FormWindow& window) const { return Active_ == &window; }
     void forget(const FormWindow& window) {
         if (Active_ == &window) Active_ = nullptr;
     }

@@ -2,10 +2,29 @@
 
 namespace kel::headless {
 
+namespace {
+
+/// What is drawn during a job is shown before the job goes on.
+class JobView final : public PictureView {
+public:
+    JobView(const PictureBox& box, Painter& painter) : Box_(box), Painter_(painter) {}
+    void outOfDate() override {}
+    void paintAgain() override {}
+    void paintNow() override { Painter_.paint(); }
+    Size extentOf(std::u16string_view text) const override { return Box_.extentUnseen(text.size()); }
+
+private:
+    const PictureBox& Box_;
+    Painter& Painter_;
+};
+
+}  // namespace
+
 PlacedHeadlessControl::PlacedHeadlessControl(const ClassModel& model, const Placement& placement, std::size_t order,
                                              ControlObserver& observer, const WindowServices& services)
     : TabStop(placement.tabIndex, order, placement.tabStop),
       Observer_(observer),
+      Painter_(services.painter),
       Name_(placement.name),
       Bounds_(placement.bounds),
       Seat_{.focus = services.focus, .input = services.input, .owner = *this, .visible = placement.visible} {
@@ -17,6 +36,10 @@ PlacedHeadlessControl::PlacedHeadlessControl(const ClassModel& model, const Plac
 PlacedHeadlessControl::~PlacedHeadlessControl() {
     Seat_.focus.forget(Seat_);
     Seat_.control = nullptr;
+}
+
+std::unique_ptr<PictureView> PlacedHeadlessControl::makeView(PictureBox& box) {
+    return std::make_unique<JobView>(box, Painter_);
 }
 
 void PlacedHeadlessControl::setBounds(const Rect& bounds) {

@@ -11,6 +11,15 @@
 
 namespace kel::headless {
 
+/// Shows the window as it stands.
+class Painter {
+public:
+    virtual void paint() = 0;
+
+protected:
+    ~Painter() = default;
+};
+
 /// What the controls of one window have in common.
 struct WindowServices {
     System& system;
@@ -18,6 +27,7 @@ struct WindowServices {
     const RegionalSettings& region;
     Input& input;
     FocusKeeper& focus;
+    Painter& painter;
 };
 
 /// A control with everything it stands on: its place on the form, its container, the maker of its widgets.
@@ -45,6 +55,9 @@ public:
     Seat& seat() { return Seat_; }
 
 private:
+    using WidgetHost::makeView;
+    std::unique_ptr<PictureView> makeView(PictureBox& box) override;
+
     bool takesInput() const override { return Seat_.takesInput(); }
     void moveFocusTo(FieldWidget& field) override { Seat_.focus.moveTo(field); }
     void focusBarred(FieldWidget& /*field*/) override { Seat_.focus.recheck(); }
@@ -64,6 +77,7 @@ private:
     }
 
     ControlObserver& Observer_;
+    Painter& Painter_;
     std::u16string Name_;
     std::u16string ToolTipText_;
     Rect Bounds_;
