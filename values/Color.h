@@ -18,4 +18,15 @@ inline constexpr Color SystemButtonText = 0x80000012;
 
 constexpr bool isSystemColor(Color color) { return (color & 0x80000000U) != 0; }
 
+/// The colour itself, where no desktop says what the system's are: those of a light one, with black text.
+constexpr Color onLightDesktop(Color color) {
+    switch (color) {
+        case colors::SystemWindow: return 0xFFFFFF;
+        case colors::SystemHighlight: return 0xD03000;
+        case colors::SystemButtonFace: return 0xD8D8D8;
+        case colors::SystemGrayText: return 0x777777;
+        default: return isSystemColor(color) ? 0 : color;
+    }
+}
+
 }  // namespace kel

@@ -49,7 +49,7 @@ ExitStatus playScript(const Options& options) {
     const std::string& scriptFile = options.files[1];
     const Script script = readScript(scriptFile == "-" ? "standard input" : scriptFile, readAll(scriptFile));
     if (options.update && scriptFile == "-") throw UsageError("--update: standard input cannot be rewritten");
-    const auto session = openHome(options.on, options.home, false);
+    const auto session = openHome(options.on.empty() ? "headless" : options.on, options.home, false);
     Player player(session->home(), options.files[0], [&](PlaySystem& system) { setClock(system, options); });
 
     bool same = true;
@@ -72,7 +72,8 @@ ExitStatus playScript(const Options& options) {
 }
 
 ExitStatus runForm(const Options& options) {
-    const auto session = openHome(WindowHome, options.home, true);
+    if (options.on == "headless") throw UsageError("--on headless: nobody would see the form");
+    const auto session = openHome(options.on.empty() ? WindowHome : options.on, options.home, true);
     SilentObserver observer;
     Form form(session->home(), session->home().system(), observer, readFormFile(options.files[0]));
     form.show();

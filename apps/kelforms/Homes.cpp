@@ -7,6 +7,9 @@
 
 #include "platform/qt/QtHome.h"
 #endif
+#ifdef KEL_HAS_TERMINAL
+#include "platform/terminal/Terminal.h"
+#endif
 #ifdef KEL_HAS_WIN32
 #include "platform/win32/Win32Home.h"
 #endif
@@ -17,11 +20,13 @@ namespace {
 
 class HeadlessSession final : public HomeSession {
 public:
-    explicit HeadlessSession(const HomeOptions& options) : Home_(headless::makeHome(options)) {}
+    HeadlessSession(const HomeOptions& options, std::unique_ptr<Onlooker> onlooker)
+        : Onlooker_(std::move(onlooker)), Home_(headless::makeHome(options, *Onlooker_)) {}
     Home& home() override { return *Home_; }
-    void runUntilClosed() override {}
+    void runUntilClosed() override { Onlooker_->runUntilClosed(); }
 
 private:
+    std::unique_ptr<Onlooker> Onlooker_;
     std::unique_ptr<Home> Home_;
 };
 
@@ -67,12 +72,15 @@ const char* const WindowHome = "qt";
 
 std::unique_ptr<HomeSession> openHome(const std::string& name, const HomeOptions& options,
                                       [[maybe_unused]] bool withWindow) {
-    if (name == "headless") return std::make_unique<HeadlessSession>(options);
+    if (name == "headless") return std::make_unique<HeadlessSession>(options, std::make_unique<Onlooker>());
 #ifdef KEL_HAS_QT
     if (name == "qt") {
         if (!withWindow && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
         return std::make_unique<QtSession>(options);
     }
+#endif
+#ifdef KEL_HAS_TERMINAL
+    if (name == "terminal") return std::make_unique<HeadlessSession>(options, terminal::makeTerminal(withWindow));
 #endif
 #ifdef KEL_HAS_WIN32
     if (name == "win32") return std::make_unique<Win32Session>(options);

@@ -9,14 +9,14 @@
 namespace kel::app {
 
 const char* const Usage =
-    "kelforms run FORM.frm [--locale L]                   show the form in a window\n"
+    "kelforms run FORM.frm [--on terminal] [--locale L]   show the form in a window\n"
     "kelforms play FORM.frm SCRIPT|- [options]            play a script on the form\n"
     "kelforms check FORM.frm                              say what the file holds and what is wrong with it\n"
     "kelforms save FORM.frm OUT.frm                       load every control and write the form back\n"
     "kelforms shot FORM.frm OUT.png [--locale L]          take a picture of the form\n"
     "kelforms describe [CLASS] [--json|--markdown]        members, events and saved properties\n"
     "\n"
-    "options of play: --on headless|qt|win32, --locale en-GB, --today 2013-03-15, --now 10:15:30,\n"
+    "options of play: --on headless|qt|win32|terminal, --locale en-GB, --today 2013-03-15, --now 10:15:30,\n"
     "  --colour-depth 24, --twips-per-pixel 15, --shot FILE.png, --used FILE, --check, --update\n";
 
 namespace {

@@ -20,7 +20,7 @@ public:
 struct Options {
     std::string command;
     std::vector<std::string> files;  ///< what is no option, in order
-    std::string on = "headless";
+    std::string on;                  ///< the home; which one where it is empty is up to the command
     HomeOptions home;
     std::optional<Date> today;
     std::optional<Date> now;
