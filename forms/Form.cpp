@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "controls/Classes.h"
-#include "forms/FormBag.h"
+#include "forms/file/FormBag.h"
 #include "values/Text.h"
 
 namespace kel {

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "forms/FormFile.h"
+#include "forms/file/FormFile.h"
 #include "forms/Home.h"
 
 namespace kel {

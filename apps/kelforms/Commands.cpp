@@ -8,7 +8,7 @@
 #include "apps/kelforms/Homes.h"
 #include "controls/Classes.h"
 #include "forms/Describe.h"
-#include "forms/Player.h"
+#include "forms/play/Player.h"
 #include "values/Calendar.h"
 #include "values/Text.h"
 

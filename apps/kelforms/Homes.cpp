@@ -5,13 +5,13 @@
 #ifdef KEL_HAS_QT
 #include <QApplication>
 
-#include "platform/qt/QtHome.h"
+#include "platform/qt/home/QtHome.h"
 #endif
 #ifdef KEL_HAS_TERMINAL
 #include "platform/terminal/Terminal.h"
 #endif
 #ifdef KEL_HAS_WIN32
-#include "platform/win32/Win32Home.h"
+#include "platform/win32/home/Win32Home.h"
 #endif
 
 namespace kel::app {

@@ -15,7 +15,7 @@
 #include "controls/text/KelText.h"
 #include "examples/import/AddressList.h"
 #include "forms/Form.h"
-#include "platform/qt/QtHome.h"
+#include "platform/qt/home/QtHome.h"
 #include "values/Text.h"
 
 namespace {

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "forms/Looks.h"
+#include "forms/play/Looks.h"
 #include "tests/check/OneControl.h"
 
 namespace kel::test {

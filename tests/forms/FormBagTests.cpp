@@ -1,4 +1,4 @@
-#include "forms/FormBag.h"
+#include "forms/file/FormBag.h"
 #include "FormTesting.h"
 
 namespace kel {

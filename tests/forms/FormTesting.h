@@ -9,7 +9,7 @@
 #include <random>
 #include <string>
 
-#include "forms/FormFile.h"
+#include "forms/file/FormFile.h"
 #include "values/Text.h"
 
 namespace kel {

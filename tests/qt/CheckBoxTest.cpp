@@ -6,8 +6,8 @@
 #include <QTest>
 
 #include "controls/check/KelCheck.h"
-#include "platform/qt/QtCheckBox.h"
-#include "platform/qt/QtHome.h"
+#include "platform/qt/home/QtHome.h"
+#include "platform/qt/widgets/QtCheckBox.h"
 #include "tests/qt/ProbeForm.h"
 #include "tests/qt/QtForm.h"
 

@@ -7,8 +7,8 @@
 #include <QTimer>
 #include <QWindow>
 
-#include "platform/qt/ChildField.h"
-#include "platform/qt/QtHome.h"
+#include "platform/qt/home/QtHome.h"
+#include "platform/qt/widgets/ChildField.h"
 #include "tests/qt/ProbeForm.h"
 #include "tests/qt/QtForm.h"
 

@@ -7,8 +7,8 @@
 #include <QPlainTextEdit>
 
 #include "controls/number/KelNumber.h"
-#include "platform/qt/KeyMap.h"
-#include "platform/qt/QtHome.h"
+#include "platform/qt/base/KeyMap.h"
+#include "platform/qt/home/QtHome.h"
 #include "tests/qt/QtForm.h"
 
 /// The ways into a text that only a desktop has.

@@ -9,8 +9,8 @@
 #include <QVBoxLayout>
 
 #include "library/Control.h"
-#include "platform/qt/KeySender.h"
-#include "platform/qt/QtHome.h"
+#include "platform/qt/home/KeySender.h"
+#include "platform/qt/home/QtHome.h"
 #include "tests/qt/QtForm.h"
 
 namespace kel::test {

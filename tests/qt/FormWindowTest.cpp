@@ -3,7 +3,7 @@
 #include <QImage>
 #include <QTemporaryDir>
 
-#include "platform/qt/QtHome.h"
+#include "platform/qt/home/QtHome.h"
 #include "tests/qt/QtForm.h"
 
 namespace kel::test {

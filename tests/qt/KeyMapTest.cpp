@@ -1,4 +1,4 @@
-#include "platform/qt/KeyMap.h"
+#include "platform/qt/base/KeyMap.h"
 
 #include <gtest/gtest.h>
 #include <QKeyEvent>

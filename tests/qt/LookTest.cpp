@@ -4,9 +4,9 @@
 #include <QApplication>
 
 #include "library/Control.h"
-#include "platform/qt/FieldColors.h"
-#include "platform/qt/QtHome.h"
-#include "platform/qt/QtLine.h"
+#include "platform/qt/base/FieldColors.h"
+#include "platform/qt/home/QtHome.h"
+#include "platform/qt/widgets/QtLine.h"
 #include "tests/qt/QtForm.h"
 
 namespace kel::test {

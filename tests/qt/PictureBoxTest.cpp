@@ -5,9 +5,9 @@
 #include <QImage>
 
 #include "controls/progress/KelProgressBar.h"
-#include "platform/qt/FieldColors.h"
-#include "platform/qt/QtHome.h"
-#include "platform/qt/QtPictureBox.h"
+#include "platform/qt/base/FieldColors.h"
+#include "platform/qt/home/QtHome.h"
+#include "platform/qt/widgets/QtPictureBox.h"
 
 namespace kel::test {
 namespace {

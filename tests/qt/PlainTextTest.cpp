@@ -1,4 +1,4 @@
-#include "platform/qt/PlainText.h"
+#include "platform/qt/widgets/PlainText.h"
 
 #include <gtest/gtest.h>
 #include <QPlainTextEdit>

@@ -6,8 +6,8 @@
 #include <QTest>
 #include <QWindow>
 
-#include "platform/qt/QtHome.h"
-#include "platform/qt/QtUpDown.h"
+#include "platform/qt/home/QtHome.h"
+#include "platform/qt/widgets/QtUpDown.h"
 #include "values/Text.h"
 
 namespace kel::test {

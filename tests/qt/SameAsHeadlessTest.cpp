@@ -6,7 +6,7 @@
 #include "controls/datetime/KelDate.h"
 #include "controls/number/KelNumber.h"
 #include "platform/headless/HeadlessHome.h"
-#include "platform/qt/QtHome.h"
+#include "platform/qt/home/QtHome.h"
 #include "tests/qt/QtForm.h"
 #include "values/Text.h"
 

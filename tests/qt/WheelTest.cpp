@@ -6,7 +6,7 @@
 #include <QTest>
 #include <QWheelEvent>
 
-#include "platform/qt/ChildField.h"
+#include "platform/qt/widgets/ChildField.h"
 #include "tests/qt/ProbeForm.h"
 
 namespace kel::test {

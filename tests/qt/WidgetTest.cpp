@@ -11,8 +11,8 @@
 
 #include "controls/text/KelText.h"
 #include "library/Dispatch.h"
-#include "platform/qt/QtHome.h"
-#include "platform/qt/VariantBridge.h"
+#include "platform/qt/base/VariantBridge.h"
+#include "platform/qt/home/QtHome.h"
 #include "tests/qt/QtForm.h"
 
 /// A field as a program on Qt, a layout or a designer sees it.

@@ -1,8 +1,8 @@
-#include "forms/Script.h"
+#include "forms/play/Script.h"
 
 #include <gtest/gtest.h>
 
-#include "forms/PlaySystem.h"
+#include "forms/play/PlaySystem.h"
 #include "forms/ScriptValue.h"
 #include "values/Calendar.h"
 #include "values/Text.h"

@@ -3,7 +3,7 @@
 #include <QLocale>
 #include <QString>
 
-#include "platform/qt/QtRegion.h"
+#include "platform/qt/home/QtRegion.h"
 #include "values/Text.h"
 
 using namespace kel;

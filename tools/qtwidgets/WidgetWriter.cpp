@@ -181,7 +181,7 @@ std::string widgetHeader(const ClassModel& model) {
     std::ostringstream out;
     out << Notice << "#pragma once\n\n";
     for (const std::string_view header : headersOf(model)) out << "#include <" << header << ">\n";
-    out << "#include \"platform/qt/KelControlWidget.h\"\n\n/// " << toUtf8(model.help) << ".\nclass "
+    out << "#include \"platform/qt/control/KelControlWidget.h\"\n\n/// " << toUtf8(model.help) << ".\nclass "
         << widgetName(model) << " : public kel::qt::KelControlWidget {\n    Q_OBJECT\n";
     for (const MemberRow& member : model.members)
         if (isQtProperty(member)) writeProperty(out, model, member);
@@ -204,7 +204,7 @@ std::string widgetSource(const ClassModel& model) {
     std::ostringstream out;
     const std::string name = widgetName(model);
     out << Notice << "#include \"" << name << ".h\"\n\n#include <array>\n\n"
-        << "#include \"controls/Classes.h\"\n#include \"platform/qt/VariantBridge.h\"\n\n"
+        << "#include \"controls/Classes.h\"\n#include \"platform/qt/base/VariantBridge.h\"\n\n"
         << "namespace {\n\nconst kel::ClassModel& classModel() {\n"
         << "    static const kel::ClassModel& model = *kel::libraryClasses().find(u\"" << toUtf8(model.name)
         << "\");\n    return model;\n}\n\n}  // namespace\n\n"

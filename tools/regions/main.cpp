@@ -8,7 +8,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "platform/qt/QtRegion.h"
+#include "platform/qt/home/QtRegion.h"
 
 namespace {
 

@@ -4,10 +4,10 @@
 
 #include "library/ClassRegistry.h"
 #include "library/ControlStatus.h"
-#include "platform/win32/ole/Classes.h"
-#include "platform/win32/ole/ClassFactory.h"
-#include "platform/win32/ole/ModuleFile.h"
-#include "platform/win32/ole/Registration.h"
+#include "platform/win32/ole/com/ClassFactory.h"
+#include "platform/win32/ole/com/ModuleFile.h"
+#include "platform/win32/ole/com/Registration.h"
+#include "platform/win32/ole/control/Classes.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // Regional settings as the system gives them, in the library's own terms.
 
-#include "platform/win32/Win32Region.h"
+#include "platform/win32/home/Win32Region.h"
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/ole/Client.h"
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/win32/Win32ComboBox.h"
+#include "platform/win32/widgets/Win32ComboBox.h"
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/widgets/Scene.h"
 

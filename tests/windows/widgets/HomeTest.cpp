@@ -3,7 +3,7 @@
 #include "controls/check/KelCheck.h"
 #include "controls/Classes.h"
 #include "controls/progress/KelProgressBar.h"
-#include "platform/win32/Win32Home.h"
+#include "platform/win32/home/Win32Home.h"
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/widgets/Stage.h"
 

@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/win32/ComboHook.h"
+#include "platform/win32/widgets/ComboHook.h"
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/widgets/Stage.h"
 

@@ -1,4 +1,4 @@
-#include "platform/win32/MessageBox.h"
+#include "platform/win32/base/MessageBox.h"
 
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/ole/MessageBoxHand.h"

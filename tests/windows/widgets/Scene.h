@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/win32/ControlWindow.h"
+#include "platform/win32/control/ControlWindow.h"
 #include "tests/windows/widgets/Stage.h"
 
 namespace kel::tests {

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "platform/win32/MessageBox.h"
+#include "platform/win32/base/MessageBox.h"
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/ole/MessageBoxHand.h"
 #include "tests/windows/widgets/Stage.h"

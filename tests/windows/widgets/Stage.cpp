@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "platform/win32/WideText.h"
-#include "platform/win32/Win32Services.h"
+#include "platform/win32/base/WideText.h"
+#include "platform/win32/home/Win32Services.h"
 
 namespace kel::tests {
 

@@ -7,7 +7,7 @@
 #include <string>
 
 #include "host/System.h"
-#include "platform/win32/ControlWindow.h"
+#include "platform/win32/control/ControlWindow.h"
 
 namespace kel::tests {
 

@@ -2,7 +2,7 @@
 // The input methods' header stands on the system's.
 #include <imm.h>
 
-#include "platform/win32/WideText.h"
+#include "platform/win32/base/WideText.h"
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/widgets/Stage.h"
 

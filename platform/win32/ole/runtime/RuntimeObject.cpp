@@ -1,6 +1,6 @@
 #include "platform/win32/ole/runtime/RuntimeObject.h"
 
-#include "platform/win32/ole/DispatchPart.h"
+#include "platform/win32/ole/automation/DispatchPart.h"
 
 namespace kel::win32::ole {
 

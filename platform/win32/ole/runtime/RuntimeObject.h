@@ -4,8 +4,8 @@
 
 #include "library/Dispatch.h"
 #include "library/Runtime.h"
-#include "platform/win32/ole/ComObject.h"
-#include "platform/win32/ole/DispatchCaller.h"
+#include "platform/win32/ole/automation/DispatchCaller.h"
+#include "platform/win32/ole/com/ComObject.h"
 
 namespace kel::win32::ole {
 

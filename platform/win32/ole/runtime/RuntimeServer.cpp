@@ -3,12 +3,12 @@
 #include <cwchar>
 #include <new>
 
-#include "platform/win32/ole/ClassFactory.h"
-#include "platform/win32/ole/DispatchPart.h"
-#include "platform/win32/ole/ModuleFile.h"
-#include "platform/win32/ole/Registration.h"
+#include "platform/win32/home/Win32Services.h"
+#include "platform/win32/ole/automation/DispatchPart.h"
+#include "platform/win32/ole/com/ClassFactory.h"
+#include "platform/win32/ole/com/ModuleFile.h"
+#include "platform/win32/ole/com/Registration.h"
 #include "platform/win32/ole/runtime/RuntimeObject.h"
-#include "platform/win32/Win32Services.h"
 
 namespace {
 

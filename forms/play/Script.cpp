@@ -1,0 +1,320 @@
+#include "forms/play/Script.h"
+
+#include <array>
+#include <optional>
+
+#include "forms/ScriptValue.h"
+#include "values/Coercion.h"
+#include "values/Text.h"
+
+namespace kel {
+
+namespace {
+
+using Verb = ScriptCommand::Verb;
+
+constexpr std::string_view ExpectedMark = "> ";
+
+/// What a verb is followed by.
+enum class Shape : std::uint8_t {
+    Nothing,         // where
+    Count,           // tab [N]
+    Name,            // show NAME
+    NameNumber,      // click NAME [POSITION], pick NAME ITEM
+    NameTwoNumbers,  // resize NAME WIDTH HEIGHT
+    Text,            // type TEXT
+    Clipboard,       // paste TEXT
+    KeyCount,        // key KEY [N]
+    Numbers,         // caret START [LENGTH], advance SECONDS
+    Spinner,         // spin NAME up|down [N]
+    Member,          // get NAME.MEMBER [ARG …]
+    File,            // save FILE
+    Time,            // clock HH:MM:SS
+};
+
+struct VerbRow {
+    std::u16string_view word;
+    Verb verb;
+    Shape shape;
+    std::size_t least = 0;  ///< numbers or values that must follow
+    std::size_t most = 0;
+};
+
+constexpr VerbRow Verbs[] = {
+    {u"tab", Verb::Tab, Shape::Count, 0, 1},
+    {u"backtab", Verb::BackTab, Shape::Count, 0, 1},
+    {u"focus", Verb::Focus, Shape::Name},
+    {u"click", Verb::Click, Shape::NameNumber, 0, 1},
+    {u"type", Verb::Type, Shape::Text},
+    {u"key", Verb::Key, Shape::KeyCount, 0, 1},
+    {u"paste", Verb::Paste, Shape::Clipboard},
+    {u"caret", Verb::Caret, Shape::Numbers, 1, 2},
+    {u"spin", Verb::Spin, Shape::Spinner, 0, 1},
+    {u"pick", Verb::Pick, Shape::NameNumber, 1, 1},
+    {u"menu", Verb::Menu, Shape::Name},
+    {u"get", Verb::Get, Shape::Member, 0, 8},
+    {u"set", Verb::Set, Shape::Member, 1, 1},
+    {u"call", Verb::Call, Shape::Member, 0, 8},
+    {u"answer", Verb::Answer, Shape::Member, 1, 1},
+    {u"show", Verb::Show, Shape::Name},
+    {u"layout", Verb::Layout, Shape::Name},
+    {u"tip", Verb::Tip, Shape::Name},
+    {u"reported", Verb::Reported, Shape::Name},
+    {u"bag", Verb::Bag, Shape::Name},
+    {u"properties", Verb::Properties, Shape::Name},
+    {u"resize", Verb::Resize, Shape::NameTwoNumbers, 2, 2},
+    {u"where", Verb::Where, Shape::Nothing},
+    {u"clock", Verb::Clock, Shape::Time},
+    {u"advance", Verb::Advance, Shape::Numbers, 1, 1},
+    {u"runtime", Verb::Runtime, Shape::Nothing},
+    {u"save", Verb::Save, Shape::File},
+    {u"load", Verb::Load, Shape::File},
+};
+
+struct KeyName {
+    std::u16string_view name;
+    std::int16_t code;
+};
+
+constexpr KeyName KeyNames[] = {
+    {u"Enter", keys::Enter},       {u"Escape", keys::Escape}, {u"Backspace", keys::Backspace},
+    {u"Delete", keys::Delete},     {u"Insert", keys::Insert}, {u"Left", keys::Left},
+    {u"Right", keys::Right},       {u"Up", keys::Up},         {u"Down", keys::Down},
+    {u"Home", keys::Home},         {u"End", keys::End},       {u"PageUp", keys::PageUp},
+    {u"PageDown", keys::PageDown}, {u"F4", keys::F4},
+};
+
+constexpr struct {
+    std::u16string_view name;
+    Modifiers modifier;
+} ModifierNames[] = {{u"Shift+", ShiftKey}, {u"Ctrl+", ControlKey}, {u"Alt+", AltKey}};
+
+/// "Ctrl+Shift+Left", or a letter with Ctrl or Alt ("Ctrl+A").
+std::optional<KeyStroke> readKey(std::u16string_view word) {
+    KeyStroke stroke;
+    for (bool found = true; found;) {
+        found = false;
+        for (const auto& row : ModifierNames) {
+            if (!word.starts_with(row.name)) continue;
+            stroke.modifiers = stroke.modifiers | row.modifier;
+            word.remove_prefix(row.name.size());
+            found = true;
+        }
+    }
+    for (const KeyName& row : KeyNames) {
+        if (row.name != word) continue;
+        stroke.code = row.code;
+        return stroke;
+    }
+    const bool letter = word.size() == 1 && word.front() >= u'A' && word.front() <= u'Z';
+    if (!letter || (stroke.modifiers & (ControlKey | AltKey)) == 0) return std::nullopt;
+    stroke.code = static_cast<std::int16_t>(word.front());
+    stroke.character = word.front();
+    return stroke;
+}
+
+/// Reads one line after its verb.
+class LineReader {
+public:
+    LineReader(const std::string& file, std::size_t line, std::u16string_view rest)
+        : File_(file), Line_(line), Rest_(rest) {}
+
+    [[noreturn]] void fail(const std::string& message) const { throw ScriptError(File_, Line_, message); }
+
+    bool atEnd() {
+        const std::size_t start = Rest_.find_first_not_of(u" \t");
+        Rest_.remove_prefix(start == std::u16string_view::npos ? Rest_.size() : start);
+        return Rest_.empty();
+    }
+
+    std::u16string word(const char* what) {
+        if (atEnd()) fail(std::string(what) + " is missing");
+        const std::u16string_view found = Rest_.substr(0, Rest_.find_first_of(u" \t"));
+        Rest_.remove_prefix(found.size());
+        return std::u16string(found);
+    }
+
+    Variant value() {
+        std::string error;
+        auto found = takeScriptValue(Rest_, error);
+        if (!found) fail(error);
+        return std::move(*found);
+    }
+
+    std::int32_t number(const char* what) {
+        const std::u16string text = word(what);
+        double number = 0;
+        if (!readPlainNumber(text, defaultRegion(), number) || number != static_cast<std::int32_t>(number))
+            fail(std::string(what) + ": a whole number is wanted, not \"" + toUtf8(text) + "\"");
+        return static_cast<std::int32_t>(number);
+    }
+
+    /// All that is left, without the one blank after the verb.
+    std::u16string rest() {
+        std::u16string_view text = Rest_.starts_with(u' ') ? Rest_.substr(1) : Rest_;
+        Rest_ = {};
+        return std::u16string(text);
+    }
+
+    void numbers(ScriptCommand& command, const VerbRow& row) {
+        while (command.numbers.size() < row.most && !atEnd()) command.numbers.push_back(number("the number"));
+        if (command.numbers.size() < row.least) fail("a number is missing");
+    }
+
+private:
+    const std::string& File_;
+    std::size_t Line_;
+    std::u16string_view Rest_;
+};
+
+void readMember(LineReader& line, ScriptCommand& command) {
+    const std::u16string word = line.word("NAME.MEMBER");
+    const std::size_t point = word.rfind(u'.');
+    if (point == std::u16string::npos || point == 0 || point + 1 == word.size())
+        line.fail("NAME.MEMBER is wanted, not \"" + toUtf8(word) + "\"");
+    command.name = word.substr(0, point);
+    command.member = word.substr(point + 1);
+}
+
+void readClipboard(LineReader& line, ScriptCommand& command) {
+    command.text = line.rest();
+    if (!command.text.starts_with(u'"')) return;
+    std::u16string_view rest = command.text;
+    std::string error;
+    auto value = takeScriptValue(rest, error);
+    if (!value || !rest.empty()) line.fail(error.empty() ? "something stands behind the closing quote" : error);
+    command.text = std::get<std::u16string>(std::move(*value));
+}
+
+void readSpinner(LineReader& line, ScriptCommand& command) {
+    const std::u16string direction = line.word("up or down");
+    if (direction != u"up" && direction != u"down")
+        line.fail("up or down is wanted, not \"" + toUtf8(direction) + "\"");
+    command.up = direction == u"up";
+}
+
+void readArguments(LineReader& line, ScriptCommand& command, const VerbRow& row) {
+    switch (row.shape) {
+        case Shape::Nothing: break;
+        case Shape::Count:
+        case Shape::Numbers: line.numbers(command, row); break;
+        case Shape::Name:
+        case Shape::NameNumber:
+        case Shape::NameTwoNumbers:
+            command.name = line.word("the control's name");
+            line.numbers(command, row);
+            break;
+        case Shape::Text: command.text = line.rest(); break;
+        case Shape::Clipboard: readClipboard(line, command); break;
+        case Shape::KeyCount: {
+            const std::u16string key = line.word("the key");
+            const auto stroke = readKey(key);
+            if (!stroke) line.fail("there is no key \"" + toUtf8(key) + "\"");
+            command.stroke = *stroke;
+            line.numbers(command, row);
+            break;
+        }
+        case Shape::Spinner:
+            command.name = line.word("the control's name");
+            readSpinner(line, command);
+            line.numbers(command, row);
+            break;
+        case Shape::Member:
+            readMember(line, command);
+            while (command.values.size() < row.most && !line.atEnd()) command.values.push_back(line.value());
+            if (command.values.size() < row.least) line.fail("a value is missing");
+            break;
+        case Shape::File:
+            if (line.atEnd()) line.fail("a file is wanted");
+            command.text = line.rest();
+            break;
+        case Shape::Time: {
+            const auto time = readScriptTime(line.word("HH:MM:SS"));
+            if (!time) line.fail("the time is written HH:MM:SS");
+            command.values.emplace_back(*time);
+            break;
+        }
+    }
+    if (!line.atEnd()) line.fail("something stands behind the command");
+}
+
+ScriptCommand readCommand(const std::string& file, std::size_t lineNumber, std::u16string_view text) {
+    LineReader line(file, lineNumber, text);
+    const std::u16string word = line.word("the command");
+    for (const VerbRow& row : Verbs) {
+        if (row.word != word) continue;
+        ScriptCommand command;
+        command.verb = row.verb;
+        command.line = lineNumber;
+        readArguments(line, command, row);
+        return command;
+    }
+    line.fail("there is no command \"" + toUtf8(word) + "\"");
+}
+
+void splitLines(Script& script, std::string_view text) {
+    if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
+    while (!text.empty()) {
+        const std::size_t end = text.find('\n');
+        std::string_view line = text.substr(0, end);
+        if (line.ends_with('\r')) {
+            line.remove_suffix(1);
+            script.crlf = true;
+        }
+        script.lines.emplace_back(line);
+        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    }
+}
+
+bool isExpectation(std::string_view line) { return line.starts_with(ExpectedMark) || line == ">"; }
+
+}  // namespace
+
+Script readScript(const std::string& file, std::string_view utf8) {
+    Script script;
+    script.file = file;
+    splitLines(script, utf8);
+    for (std::size_t i = 0; i < script.lines.size(); ++i) {
+        const std::string& line = script.lines[i];
+        const auto text = fromUtf8(line);
+        if (!text) throw ScriptError(file, i + 1, "the line is not valid UTF-8");
+        if (isExpectation(line)) {
+            if (script.commands.empty())
+                throw ScriptError(file, i + 1, "no command stands above what is to be printed");
+            ScriptCommand& above = script.commands.back();
+            if (above.expectedFrom == above.expectedTo)
+                above.expectedFrom = i;
+            else if (above.expectedTo != i)
+                throw ScriptError(file, i + 1, "what a command prints stands in one piece");
+            above.expectedTo = i + 1;
+            continue;
+        }
+        const std::size_t start = line.find_first_not_of(" \t");
+        if (start == std::string::npos || line[start] == '#') continue;
+        script.commands.push_back(readCommand(file, i + 1, *text));
+    }
+    return script;
+}
+
+std::vector<std::string> Script::expected(const ScriptCommand& command) const {
+    std::vector<std::string> texts;
+    for (std::size_t i = command.expectedFrom; i < command.expectedTo; ++i)
+        texts.push_back(lines[i].size() > ExpectedMark.size() ? lines[i].substr(ExpectedMark.size()) : std::string());
+    return texts;
+}
+
+std::string writeScript(const Script& script, const std::vector<std::vector<std::string>>& printed) {
+    const std::string_view lineEnd = script.crlf ? "\r\n" : "\n";
+    std::string text;
+    std::size_t next = 0;
+    for (std::size_t i = 0; i < script.lines.size(); ++i) {
+        if (isExpectation(script.lines[i])) continue;
+        text.append(script.lines[i]).append(lineEnd);
+        if (next == script.commands.size() || script.commands[next].line != i + 1) continue;
+        for (const std::string& line : printed[next]) text.append(ExpectedMark).append(line).append(lineEnd);
+        ++next;
+    }
+    return text;
+}
+
+}  // namespace kel

@@ -1,0 +1,34 @@
+#include "platform/qt/base/WidgetLook.h"
+
+#include <QWidget>
+
+#include "platform/qt/base/TextBridge.h"
+
+namespace kel::qt {
+
+QFont fontLike(const QFont& base, std::u16string_view family, double size) {
+    QFont font = base;
+    if (!family.empty() && font.family() != qtViewOf(family)) font.setFamilies({toQString(family)});
+    if (size > 0) font.setPointSizeF(size);
+    return font;
+}
+
+void setWidgetFont(QWidget& widget, const QFont& font) {
+    if (font != widget.font()) widget.setFont(font);
+}
+
+QFont fontOf(const QFont& base, const FontFace& face) {
+    QFont font = fontLike(base, face.name, face.size);
+    font.setBold(face.bold);
+    return font;
+}
+
+void setWidgetToolTip(QWidget& widget, std::u16string_view text) {
+    if (widget.toolTip() != qtViewOf(text)) widget.setToolTip(toQString(text));
+}
+
+void colorWidget(QWidget& widget, const FieldColors& colors) {
+    widget.setPalette(fieldPalette(colors, widget.parentWidget()->palette()));
+}
+
+}  // namespace kel::qt

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QFont>
+#include <string_view>
+
+#include "host/widgets/Widget.h"
+#include "platform/qt/base/FieldColors.h"
+
+class QWidget;
+
+/// Looks that the controls give their widgets. None of these costs anything where nothing changes.
+namespace kel::qt {
+
+/// `base` in another family and size (points).
+QFont fontLike(const QFont& base, std::u16string_view family, double size);
+
+/// `base` with what is chosen of `face`.
+QFont fontOf(const QFont& base, const FontFace& face);
+
+void setWidgetFont(QWidget& widget, const QFont& font);
+void setWidgetToolTip(QWidget& widget, std::u16string_view text);
+void colorWidget(QWidget& widget, const FieldColors& colors);
+
+}  // namespace kel::qt

@@ -1,0 +1,316 @@
+#include "platform/qt/control/ControlSite.h"
+
+#include <QClipboard>
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QKeySequence>
+#include <QPainter>
+#include <QWidget>
+
+#include "common/FieldLayout.h"
+#include "library/Dispatch.h"
+#include "library/SharedSettings.h"
+#include "platform/qt/base/TextBridge.h"
+#include "platform/qt/base/WidgetLook.h"
+#include "platform/qt/control/FocusTracker.h"
+#include "platform/qt/control/FocusWay.h"
+#include "platform/qt/control/KelControlWidget.h"
+#include "platform/qt/control/RetiredControls.h"
+#include "platform/qt/widgets/CaptionLabel.h"
+#include "platform/qt/widgets/ChildField.h"
+#include "platform/qt/widgets/QtCheckBox.h"
+#include "platform/qt/widgets/QtComboBox.h"
+#include "platform/qt/widgets/QtLine.h"
+#include "platform/qt/widgets/QtPictureBox.h"
+#include "platform/qt/widgets/QtTextArea.h"
+#include "platform/qt/widgets/QtUpDown.h"
+
+namespace kel::qt {
+
+namespace {
+
+constexpr std::int32_t TallHeight = 1200;  ///< twips, of a new field of several lines
+
+/// Unless the program has given it a name of its own. Each naming costs as much as a small widget.
+void setSpokenName(QWidget& widget, const QString& before, const QString& now) {
+    if (now != before && widget.accessibleName() == before) widget.setAccessibleName(now);
+}
+
+}  // namespace
+
+ControlSite::ControlSite(KelControlWidget& widget, const Surroundings& surroundings)
+    : Host_(&widget), Widget_(&widget), Surroundings_(surroundings), Grid_(surroundings.system.twipsPerPixel()) {}
+
+ControlSite::~ControlSite() { focus::forget(*this); }
+
+void ControlSite::makeControl(const ClassModel& model) {
+    ControlHost host{*this, *this, Surroundings_.system, Surroundings_.settings, Surroundings_.region};
+    Control_ = model.makeControl(host);
+    Control_->Initialize();
+}
+
+void ControlSite::leaveWidget() {
+    focus::forget(*this);
+    Remains_ = std::make_unique<QWidget>();
+    Remains_->setObjectName(Widget_->objectName());
+    Remains_->setEnabled(enabled());
+    Remains_->resize(Widget_->size());
+    for (ChildField* const field : Fields_) focus::forget(*field);
+    for (ChildWidget* const child : Children_) child->widget().setParent(Remains_.get());
+    Widget_ = Remains_.get();
+    Host_ = nullptr;
+    Mnemonic_ = 0;
+}
+
+// ---- Size
+
+QSize ControlSite::pixelSize() const { return Grid_.pixels({0, 0, Size_.width, Size_.height}, Origin_).size(); }
+
+bool ControlSite::hasSize() const { return Sized_ || Widget_->testAttribute(Qt::WA_Resized); }
+
+Size ControlSite::size() const {
+    // A hidden widget is told of its size late.
+    const bool isStale = hasSize() && pixelSize() != Widget_->size();
+    return isStale ? Grid_.twips(Widget_->size()) : Size_;
+}
+
+void ControlSite::setSize(Size wanted) {
+    if (hasSize() && wanted == size()) return;
+    Size_ = wanted;
+    Sized_ = true;
+    Widget_->resize(pixelSize());
+    if (Control_) Control_->Resize();
+}
+
+void ControlSite::resized() {
+    if (Sized_ && pixelSize() == Widget_->size()) return;
+    Size_ = Grid_.twips(Widget_->size());
+    Sized_ = true;
+    Control_->Resize();
+}
+
+QRect ControlSite::pixelRect(const Rect& bounds) const {
+    QRect pixels = Grid_.pixels(bounds, Origin_);
+    if (Widget_->layoutDirection() == Qt::RightToLeft) pixels.moveLeft(Widget_->width() - pixels.x() - pixels.width());
+    return pixels;
+}
+
+void ControlSite::setOrigin(QPoint twips) {
+    if (twips == Origin_) return;
+    Origin_ = twips;
+    if (Sized_) Widget_->resize(pixelSize());
+    placeChildren();
+}
+
+void ControlSite::placeChildren() const {
+    for (ChildWidget* const child : Children_) child->placeAgain();
+}
+
+void ControlSite::mirrored() {
+    placeChildren();
+    Widget_->update();
+}
+
+QSize ControlSite::sizeHint(int characters) const {
+    const bool isTall = Active_ != nullptr && Active_->isTall();
+    const int caption = Label_ != nullptr ? Grid_.pixel(Label_->shown().bounds().width) : 0;
+    const UpDown* const upDown = Control_->widgets().upDown;
+    const int spinner = upDown != nullptr && upDown->visible() ? Grid_.pixel(upDown->bounds().width) : 0;
+    const int field =
+        Active_ != nullptr ? Active_->widthFor(characters) : characters * Widget_->fontMetrics().averageCharWidth();
+    return {caption + field + spinner, Grid_.pixel(isTall ? TallHeight : FieldHeight)};
+}
+
+// ---- Enabled
+
+bool ControlSite::enabled() const { return !Widget_->testAttribute(Qt::WA_ForceDisabled); }
+
+void ControlSite::setEnabled(bool enabled) {
+    Enabled_ = enabled;
+    // Whoever hears of the focus that goes finds the control as it will be.
+    Widget_->setAttribute(Qt::WA_ForceDisabled, !enabled);
+    if (!enabled && Active_ != nullptr) Active_->giveUpFocus();
+    if (enabled != Enabled_) return;  // a handler has put it again
+    Widget_->setEnabled(enabled);
+}
+
+void ControlSite::enabledMayDiffer() {
+    if (!Control_ || enabled() == Enabled_) return;
+    // Not every control lets its widget go along.
+    Enabled_ = enabled();
+    if (const MemberRow* const row = findMember(Control_->model(), u"Enabled"))
+        putMember(*Control_, *row, enabled(), Surroundings_.region);
+}
+
+// ---- Host
+
+std::int32_t ControlSite::windowHandle() { return static_cast<std::int32_t>(Widget_->winId()); }
+
+std::u16string ControlSite::displayName() const { return std::u16string(viewOf(Widget_->objectName())); }
+
+void ControlSite::propertyChanged(const MemberRow& property) {
+    const ForeignCode running;
+    if (Host_ != nullptr) Host_->propertyReported(property.name);
+}
+
+void ControlSite::raiseEvent(const EventRow& event, std::span<Variant> arguments) {
+    const ForeignCode running;
+    if (Host_ != nullptr) Host_->controlEvent(event, arguments);
+}
+
+std::u16string ControlSite::toolTipText() const { return std::u16string(viewOf(Widget_->toolTip())); }
+
+void ControlSite::setToolTipText(std::u16string_view text) { setWidgetToolTip(*Widget_, text); }
+
+void ControlSite::toolTipChanged() {
+    // Before it shows, the control takes the tooltip over by itself.
+    if (!Shown_) return;
+    const QString text = Widget_->toolTip();
+    for (ChildField* const field : Fields_) field->shown().setToolTip(viewOf(text));
+    if (PictureBox* const picture = Control_->widgets().picture) picture->setToolTip(viewOf(text));
+}
+
+void ControlSite::shown() {
+    enabledMayDiffer();
+    if (Shown_) return;
+    Shown_ = true;
+    Control_->Show();
+}
+
+void ControlSite::hidden() {
+    if (Active_ != nullptr && !Active_->takesFocus()) Active_->giveUpFocus();
+}
+
+void ControlSite::recolored() {
+    for (ChildField* const field : Fields_) field->colorAgain();
+    Widget_->update();
+}
+
+// ---- Child widgets
+
+std::unique_ptr<PictureView> ControlSite::makeView(PictureBox& box) {
+    return std::make_unique<QtPictureBox>(*this, box, *Widget_);
+}
+
+std::unique_ptr<View> ControlSite::makeView(CheckBox& box) {
+    return std::make_unique<QtCheckBox>(*this, box, *Widget_);
+}
+
+std::unique_ptr<View> ControlSite::makeView(UpDown& spinner) {
+    return std::make_unique<QtUpDown>(*this, spinner, *Widget_);
+}
+
+std::unique_ptr<View> ControlSite::makeView(Label& label) { return std::make_unique<CaptionLabel>(*this, label); }
+
+void ControlSite::moveFocusTo(FieldWidget& field) { focusWidget(dynamic_cast<ChildField&>(*field.view()).widget()); }
+
+void ControlSite::focusBarred(FieldWidget& field) { dynamic_cast<ChildField&>(*field.view()).giveUpFocus(); }
+
+std::unique_ptr<TextView> ControlSite::makeView(TextBox& box) {
+    if (!box.multiLine()) return std::make_unique<QtLine>(*this, box, *Widget_);
+    auto area = std::make_unique<QtTextArea>(*this, box, *Widget_);
+    // Shown as every new box, but not yet in the other one's place: few controls show both.
+    if (Widget_->isVisible()) area->setVisible(true);
+    return area;
+}
+
+std::unique_ptr<TextView> ControlSite::makeView(ComboBox& box) {
+    return std::make_unique<QtComboBox>(*this, box, *Widget_);
+}
+
+std::u16string ControlSite::clipboardText() { return std::u16string(viewOf(QGuiApplication::clipboard()->text())); }
+
+/// Programs here expect single line feeds.
+void ControlSite::setClipboardText(std::u16string_view text) {
+    QGuiApplication::clipboard()->setText(toQString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
+}
+
+void ControlSite::addField(ChildField& field) {
+    Fields_.push_back(&field);
+    if (Active_ == nullptr) {
+        Active_ = &field;
+        Widget_->setFocusProxy(&field.widget());
+    } else {
+        // Side by side for good: only one of them is ever shown. Later on Qt would take parts of either along.
+        QWidget::setTabOrder(&Active_->widget(), &field.widget());
+        field.widget().setFocusPolicy(Active_->widget().focusPolicy());
+        field.widget().setAccessibleName(Active_->widget().accessibleName());
+    }
+}
+
+void ControlSite::removeField(const ChildField& field) {
+    std::erase(Fields_, &field);
+    if (Active_ == &field) Active_ = nullptr;
+}
+
+void ControlSite::fieldShown(ChildField& field) {
+    if (&field != Active_) activate(field);
+}
+
+/// The field takes the other one's place: what points to the composite finds it.
+void ControlSite::activate(ChildField& field) {
+    Active_ = &field;
+    fieldEnabled(field, isFieldEnabled());
+    Widget_->setSizePolicy(QSizePolicy::Expanding, field.isTall() ? QSizePolicy::Expanding : QSizePolicy::Fixed);
+    Widget_->updateGeometry();
+    Widget_->update();
+}
+
+/// Qt gives the focus to whom a widget names in its place, disabled or not.
+void ControlSite::fieldEnabled(const ChildField& field, bool enabled) {
+    if (&field != Active_) return;
+    // A policy that is set goes to the one in the widget's place as well, who has its own.
+    Widget_->setFocusProxy(nullptr);
+    Widget_->setFocusPolicy(enabled ? Qt::TabFocus : Qt::NoFocus);
+    if (enabled) Widget_->setFocusProxy(&field.widget());
+}
+
+bool ControlSite::isFieldEnabled() const { return !Active_->widget().testAttribute(Qt::WA_ForceDisabled); }
+
+/// Qt leaves out what cannot have the focus now.
+void ControlSite::tabAfter(ControlSite& before) {
+    before.fieldEnabled(*before.Active_, true);
+    fieldEnabled(*Active_, true);
+    QWidget::setTabOrder(before.Widget_, Widget_);
+    before.fieldEnabled(*before.Active_, before.isFieldEnabled());
+    fieldEnabled(*Active_, isFieldEnabled());
+}
+
+bool ControlSite::takesFocus() const { return Active_ != nullptr && Active_->takesFocus(); }
+
+bool ControlSite::owns(const QWidget& widget) const { return Widget_->isAncestorOf(&widget); }
+
+void ControlSite::leaveTabOrder() {
+    for (const ChildField* const field : Fields_) field->widget().setFocusPolicy(Qt::ClickFocus);
+}
+
+// ---- Caption
+
+void ControlSite::captionChanged(const QString& spokenBefore) {
+    const QString spoken = Label_->spokenCaption();
+    setSpokenName(*Widget_, spokenBefore, spoken);
+    for (const ChildField* const field : Fields_) setSpokenName(field->widget(), spokenBefore, spoken);
+
+    if (Mnemonic_ != 0) Widget_->releaseShortcut(Mnemonic_);
+    Mnemonic_ = 0;
+    if (Label_->shown().caption().find(u'&') == std::u16string::npos) return;
+    const QKeySequence key = QKeySequence::mnemonic(toQString(Label_->shown().caption()));
+    if (!key.isEmpty()) Mnemonic_ = Widget_->grabShortcut(key);
+}
+
+bool ControlSite::mnemonicPressed(int shortcutId) {
+    if (Mnemonic_ == 0 || shortcutId != Mnemonic_) return false;
+    if (takesFocus()) Widget_->setFocus(Qt::ShortcutFocusReason);
+    return true;
+}
+
+void ControlSite::paint(const QRect& area) const {
+    // With every key the field shows what is around it too.
+    if (Label_ == nullptr || !Label_->area().intersects(area)) return;
+    const int baseline = Active_ != nullptr ? Active_->widget().y() + Active_->baseline()
+                                            : (Widget_->height() + Widget_->fontMetrics().ascent()) / 2;
+    QPainter painter(Widget_);
+    Label_->paint(painter, baseline);
+}
+
+}  // namespace kel::qt

@@ -1,0 +1,146 @@
+#pragma once
+
+#include <memory>
+#include <QPoint>
+#include <QRect>
+#include <QWidget>
+#include <vector>
+
+#include "host/Container.h"
+#include "host/System.h"
+#include "host/Widgets.h"
+#include "library/Control.h"
+#include "platform/qt/base/TwipGrid.h"
+
+class QKeySequence;
+
+namespace kel::qt {
+
+class CaptionLabel;
+class ChildField;
+class ChildWidget;
+class KelControlWidget;
+
+/// What a control on Qt works with. All of it outlives the control.
+struct Surroundings {
+    SharedSettings& settings;
+    System& system;
+    const RegionalSettings& region;
+};
+
+/// The place of a control in its Qt widget: the container that the control sees, and the maker of its child
+/// widgets.
+class ControlSite final : public Container, public WidgetHost {
+public:
+    ControlSite(KelControlWidget& widget, const Surroundings& surroundings);
+    ControlSite(const ControlSite&) = delete;
+    ControlSite& operator=(const ControlSite&) = delete;
+    ~ControlSite();
+
+    /// Makes the control and runs its `Initialize`.
+    void makeControl(const ClassModel& model);
+    /// The control goes on without its host's widget, which is being destroyed: nothing is seen or heard of it.
+    void leaveWidget();
+
+    Control& control() const { return *Control_; }
+    QWidget& widget() const { return *Widget_; }
+    const RegionalSettings& region() const { return Surroundings_.region; }
+
+    // ---- The container, as its control sees it
+
+    bool hasSize() const override;
+    Size size() const override;
+    void setSize(Size size) override;
+    bool enabled() const override;
+    void setEnabled(bool enabled) override;
+    std::int32_t windowHandle() override;
+    std::u16string displayName() const override;
+    void propertyChanged(const MemberRow& property) override;
+    void raiseEvent(const EventRow& event, std::span<Variant> arguments) override;
+    std::u16string toolTipText() const override;
+    void setToolTipText(std::u16string_view text) override;
+
+    std::unique_ptr<PictureView> makeView(PictureBox& box) override;
+    std::unique_ptr<View> makeView(CheckBox& box) override;
+    std::unique_ptr<View> makeView(UpDown& spinner) override;
+    std::unique_ptr<View> makeView(Label& label) override;
+    std::unique_ptr<TextView> makeView(TextBox& box) override;
+    std::unique_ptr<TextView> makeView(ComboBox& box) override;
+    bool takesInput() const override { return Widget_->isEnabled(); }
+    void moveFocusTo(FieldWidget& field) override;
+    void focusBarred(FieldWidget& field) override;
+    std::u16string clipboardText() override;
+    void setClipboardText(std::u16string_view text) override;
+
+    // ---- What the widget tells
+
+    void resized();
+    void mirrored();
+    void recolored();
+    /// Somebody enabled or disabled the widget past its control.
+    void enabledMayDiffer();
+    void toolTipChanged();
+    /// The first time only: the control's `Show`.
+    void shown();
+    /// It is seen no longer: itself or something around it is hidden, or its window.
+    void hidden();
+    /// Somebody pressed the key of a mnemonic. Returns whether it was the caption's.
+    bool mnemonicPressed(int shortcutId);
+    /// What is in `area` of it, but for its children.
+    void paint(const QRect& area) const;
+    QSize sizeHint(int characters) const;
+
+    // ---- What the child widgets tell
+
+    void add(ChildWidget& child) { Children_.push_back(&child); }
+    void remove(const ChildWidget& child) { std::erase(Children_, &child); }
+    void addField(ChildField& field);
+    void removeField(const ChildField& field);
+    void fieldShown(ChildField& field);
+    void fieldEnabled(const ChildField& field, bool enabled);
+    void setLabel(CaptionLabel* label) { Label_ = label; }
+    void captionChanged(const QString& spokenBefore);
+    /// It has a field that can have it.
+    bool takesFocus() const;
+    bool owns(const QWidget& widget) const;
+    /// Its field takes the focus by a click only.
+    void leaveTabOrder();
+    /// The Tab key comes here from another one. Both have a field.
+    void tabAfter(ControlSite& before);
+
+    /// The field that shows, nullptr when there is none.
+    ChildField* activeField() const { return Active_; }
+
+    // ---- Places
+
+    /// Where something inside the control stands in the widget: mirrored from right to left.
+    QRect pixelRect(const Rect& bounds) const;
+    /// The control's own place in a form that counts in twips; no resize follows.
+    void setOrigin(QPoint twips);
+    const TwipGrid& grid() const { return Grid_; }
+
+private:
+    QSize pixelSize() const;
+    void placeChildren() const;
+    void activate(ChildField& field);
+    bool isFieldEnabled() const;
+
+    KelControlWidget* Host_;  ///< nullptr once it is gone
+    QWidget* Widget_;         ///< the host's, or what is left in its place
+    std::unique_ptr<QWidget> Remains_;
+    Surroundings Surroundings_;
+    TwipGrid Grid_;
+    CaptionLabel* Label_ = nullptr;
+    std::vector<ChildWidget*> Children_;
+    std::vector<ChildField*> Fields_;  ///< of the children
+    ChildField* Active_ = nullptr;
+    QPoint Origin_;  ///< twips
+    Size Size_;
+    int Mnemonic_ = 0;  ///< of the widget's shortcuts; 0 for none
+    bool Sized_ = false;
+    bool Enabled_ = true;  ///< as the control knows it
+    bool Shown_ = false;
+    std::unique_ptr<Control> Control_;  ///< last, so that it goes before all it stands on
+};
+
+}  // namespace kel::qt

@@ -1,0 +1,36 @@
+#include "platform/qt/home/PlacedQtControl.h"
+
+#include "platform/qt/base/TextBridge.h"
+#include "platform/qt/control/FocusWay.h"
+#include "platform/qt/widgets/ChildField.h"
+
+namespace kel::qt {
+
+PlacedQtControl::PlacedQtControl(const ClassModel& model, const Placement& placement, std::size_t order,
+                                 const Surroundings& surroundings, ControlObserver& observer, QWidget& parent)
+    : KelControlWidget(model, surroundings, &parent),
+      TabStop(placement.tabIndex, order, placement.tabStop),
+      Observer_(observer),
+      Placement_(placement) {
+    setObjectName(toQString(placement.name));
+    if (!placement.tabStop) site().leaveTabOrder();
+    if (!placement.visible) hide();
+}
+
+Rect PlacedQtControl::bounds() const {
+    const Size size = site().hasSize() ? site().size() : Size{Placement_.bounds.width, Placement_.bounds.height};
+    return {Placement_.bounds.left, Placement_.bounds.top, size.width, size.height};
+}
+
+void PlacedQtControl::setBounds(const Rect& bounds) {
+    Placement_.bounds = bounds;
+    move(site().grid().pixels(bounds).topLeft());
+    site().setOrigin({bounds.left, bounds.top});
+    site().setSize({bounds.width, bounds.height});
+}
+
+void PlacedQtControl::takeFocus() {
+    if (site().activeField() != nullptr) qt::focusWidget(site().activeField()->widget());
+}
+
+}  // namespace kel::qt

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "forms/Home.h"
+#include "host/focus/TabOrder.h"
+#include "platform/qt/control/ControlSite.h"
+#include "platform/qt/control/KelControlWidget.h"
+
+namespace kel::qt {
+
+/// A control on a form's window, of whichever class.
+class PlacedQtControl final : public KelControlWidget, public PlacedControl, public TabStop {
+public:
+    /// `order` counts the controls placed before.
+    PlacedQtControl(const ClassModel& model, const Placement& placement, std::size_t order,
+                    const Surroundings& surroundings, ControlObserver& observer, QWidget& parent);
+
+    Control& control() override { return KelControlWidget::control(); }
+    const std::u16string& name() const override { return Placement_.name; }
+    Rect bounds() const override;
+    void setBounds(const Rect& bounds) override;
+    std::u16string toolTipText() const override { return site().toolTipText(); }
+    void setToolTipText(std::u16string_view text) override { site().setToolTipText(text); }
+
+    /// The control's `Show`, whether or not the form lets it be seen.
+    void showControl() { site().shown(); }
+    /// As code gives it: a disabled field does not take it.
+    void takeFocus();
+    bool hasField() const override { return site().activeField() != nullptr; }
+    bool takesFocus() const override { return site().takesFocus(); }
+    void tabAfter(const PlacedQtControl& before) { site().tabAfter(before.site()); }
+    bool owns(const QWidget& widget) const { return site().owns(widget); }
+
+private:
+    void controlEvent(const EventRow& event, std::span<Variant> arguments) override {
+        Observer_.controlEvent(*this, event, arguments);
+    }
+    void propertyReported(std::u16string_view bagName) override { Observer_.propertyReported(*this, bagName); }
+
+    ControlObserver& Observer_;
+    Placement Placement_;
+};
+
+}  // namespace kel::qt

@@ -1,0 +1,96 @@
+#include "platform/qt/home/QtFormWindow.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QWidget>
+
+#include "library/SharedSettings.h"
+#include "platform/qt/base/TextBridge.h"
+#include "platform/qt/base/WidgetLook.h"
+#include "platform/qt/home/ForeignWidgets.h"
+#include "platform/qt/home/PlacedQtControl.h"
+
+namespace kel::qt {
+
+namespace {
+
+/// Takes the focus itself where nothing has it, so that Qt does not hand it to the first field.
+class FormWidget final : public QWidget {
+protected:
+    bool event(QEvent* event) override {
+        if (event->type() == QEvent::WindowActivate && focusWidget() == nullptr) setFocus(Qt::ActiveWindowFocusReason);
+        return QWidget::event(event);
+    }
+};
+
+class QtPanel final : public PlacedPanel {
+public:
+    explicit QtPanel(QWidget& widget) : Widget_(widget) {}
+    QWidget& widget() const { return Widget_; }
+
+private:
+    QWidget& Widget_;
+};
+
+}  // namespace
+
+QtFormWindow::QtFormWindow(const WindowSpec& description, const Surroundings& surroundings)
+    : Surroundings_(surroundings), Window_(std::make_unique<FormWidget>()) {
+    const TwipGrid grid(surroundings.system.twipsPerPixel());
+    Window_->setWindowTitle(toQString(description.caption));
+    Window_->setLayoutDirection(description.rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    Window_->setFixedSize(grid.pixels({0, 0, description.clientSize.width, description.clientSize.height}).size());
+}
+
+QtFormWindow::~QtFormWindow() = default;
+
+// ---- Placing
+
+QWidget& QtFormWindow::parentOf(const Placement& placement) const {
+    return placement.parent != nullptr ? static_cast<const QtPanel*>(placement.parent)->widget() : *Window_;
+}
+
+PlacedControl& QtFormWindow::place(const ClassModel& model, const Placement& placement, ControlObserver& observer) {
+    Controls_.push_back(std::make_unique<PlacedQtControl>(model, placement, Controls_.size(), Surroundings_, observer,
+                                                          parentOf(placement)));
+    Order_.add(*Controls_.back());
+    return *Controls_.back();
+}
+
+PlacedPanel* QtFormWindow::placeForeign(const ForeignBlock& block) {
+    const TwipGrid grid(Surroundings_.system.twipsPerPixel());
+    QWidget* const widget = makeForeignWidget(block, grid, parentOf(block.placement));
+    if (block.kind == ForeignBlock::Kind::Label)
+        Captions_.push_back({static_cast<QLabel*>(widget), block.placement.tabIndex});
+    if (block.kind != ForeignBlock::Kind::Panel) return nullptr;
+    return Panels_.emplace_back(std::make_unique<QtPanel>(*widget)).get();
+}
+
+void QtFormWindow::show() {
+    setTabOrder();
+    befriendLabels();
+    if (const auto runtime = Surroundings_.settings.Runtime)
+        setWidgetFont(*Window_, fontLike(Window_->font(), runtime->CaptionFontName(), runtime->CaptionFontSize()));
+    // By index: a host may place further controls meanwhile.
+    for (std::size_t i = 0; i < Controls_.size(); ++i) Controls_[i]->showControl();
+    Window_->show();
+    activate();
+}
+
+void QtFormWindow::setTabOrder() {
+    PlacedQtControl* before = nullptr;
+    for (TabStop* const stop : Order_.sorted()) {
+        auto* const control = static_cast<PlacedQtControl*>(stop);
+        if (!control->hasField()) continue;
+        if (before != nullptr) control->tabAfter(*before);
+        before = control;
+    }
+}
+
+/// The mnemonic of a plain label leads to the control that comes next.
+void QtFormWindow::befriendLabels() {
+    for (const Caption& caption : Captions_)
+        caption.label->setBuddy(static_cast<PlacedQtControl*>(Order_.namedBy(caption.tabIndex)));
+}
+
+}  // namespace kel::qt

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "forms/Home.h"
+#include "host/focus/TabOrder.h"
+#include "platform/qt/control/ControlSite.h"
+
+class QLabel;
+class QWidget;
+
+namespace kel::qt {
+
+class PlacedQtControl;
+
+/// A form on the screen.
+class QtFormWindow final : public FormWindow {
+public:
+    QtFormWindow(const WindowSpec& description, const Surroundings& surroundings);
+    ~QtFormWindow() override;
+
+    PlacedControl& place(const ClassModel& model, const Placement& placement, ControlObserver& observer) override;
+    PlacedPanel* placeForeign(const ForeignBlock& block) override;
+    void show() override;
+
+    void press(const KeyStroke& stroke) override;
+    void focus(PlacedControl& control) override;
+    void click(PlacedControl& control, std::int32_t position) override;
+    void rightClick(PlacedControl& control) override;
+    void spin(PlacedControl& control, bool up) override;
+    void pick(PlacedControl& control, std::int32_t item) override;
+    void setClipboard(std::u16string_view text) override;
+    PlacedControl* focused() const override;
+    bool savePicture(const std::string& utf8Path) override;
+
+private:
+    struct Caption {
+        QLabel* label;
+        std::int32_t tabIndex;
+    };
+
+    QWidget& parentOf(const Placement& placement) const;
+    void setTabOrder();
+    void befriendLabels();
+    void activate();
+
+    Surroundings Surroundings_;
+    std::unique_ptr<QWidget> Window_;
+    TabOrder Order_;
+    std::vector<std::unique_ptr<PlacedPanel>> Panels_;
+    std::vector<Caption> Captions_;                           ///< plain labels, which name the next control
+    std::vector<std::unique_ptr<PlacedQtControl>> Controls_;  ///< last: they stand on the window
+};
+
+}  // namespace kel::qt

@@ -1,0 +1,176 @@
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QMouseEvent>
+#include <QPixmap>
+#include <QPointer>
+
+#include "platform/qt/base/TextBridge.h"
+#include "platform/qt/home/KeySender.h"
+#include "platform/qt/home/PlacedQtControl.h"
+#include "platform/qt/home/QtFormWindow.h"
+#include "platform/qt/widgets/QtCheckBox.h"
+#include "platform/qt/widgets/QtComboBox.h"
+#include "platform/qt/widgets/QtUpDown.h"
+#include "platform/qt/widgets/TextInput.h"
+
+/// What a person does at a form's window.
+namespace kel::qt {
+
+namespace {
+
+/// Lets everything happen that follows from what was done.
+void settle() {
+    do {
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents();
+    } while (hasKeysToSend());
+}
+
+/// Where it is seen.
+ChildField* fieldOf(PlacedControl& control) {
+    const FieldWidget* const shown = control.control().widgets().field;
+    auto* const field = shown != nullptr ? dynamic_cast<ChildField*>(shown->view()) : nullptr;
+    return field != nullptr && field->widget().isVisible() ? field : nullptr;
+}
+
+/// Qt gives the focus only for events that come from the window system.
+void giveFocusByClick(QWidget& widget) {
+    if (widget.isVisible() && widget.focusPolicy() & Qt::ClickFocus) widget.setFocus(Qt::MouseFocusReason);
+}
+
+void sendMouse(QWidget& area, QEvent::Type type, Qt::MouseButton button, const QPoint& place) {
+    const bool held = type == QEvent::MouseButtonPress;
+    QMouseEvent event(type, place, area.mapToGlobal(place), button, held ? button : Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(&area, &event);
+}
+
+void sendMouse(QWidget& area, QEvent::Type type, Qt::MouseButton button) {
+    sendMouse(area, type, button, area.rect().center());
+}
+
+void clickLeft(QWidget& area, const QPoint& place) {
+    const QPointer<QWidget> pressed = &area;
+    sendMouse(area, QEvent::MouseButtonPress, Qt::LeftButton, place);
+    if (!pressed.isNull()) sendMouse(*pressed, QEvent::MouseButtonRelease, Qt::LeftButton, place);
+}
+
+void clickLeft(QWidget& area) { clickLeft(area, area.rect().center()); }
+
+void clickItem(ComboList& list, std::int32_t item) {
+    const QModelIndex row = list.model()->index(item, 0);
+    list.scrollTo(row);
+    if (row.isValid()) clickLeft(*list.viewport(), list.visualRect(row).center());
+}
+
+void sendMenu(QWidget& area) {
+    const QPoint place = area.rect().center();
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, area.mapToGlobal(place), Qt::NoModifier);
+    QApplication::sendEvent(&area, &event);
+}
+
+/// Without a window manager nobody else does it.
+void activateByForce(QWidget& window) {
+    QT_WARNING_PUSH
+    QT_WARNING_DISABLE_DEPRECATED
+    QApplication::setActiveWindow(&window);
+    QT_WARNING_POP
+}
+
+void closePopups() {
+    while (QWidget* const popup = QApplication::activePopupWidget()) popup->close();
+}
+
+}  // namespace
+
+void QtFormWindow::activate() {
+    if (Window_->isActiveWindow()) return;
+    Window_->activateWindow();
+    QCoreApplication::processEvents();
+    if (!Window_->isActiveWindow()) activateByForce(*Window_);
+    settle();
+}
+
+void QtFormWindow::press(const KeyStroke& stroke) {
+    activate();
+    strikeKey(stroke);
+    settle();
+}
+
+void QtFormWindow::focus(PlacedControl& control) {
+    activate();
+    static_cast<PlacedQtControl&>(control).takeFocus();
+    settle();
+}
+
+void QtFormWindow::click(PlacedControl& control, std::int32_t position) {
+    activate();
+    if (ChildField* const field = fieldOf(control)) {
+        const QPointer<QWidget> area = &field->mouseArea();
+        closePopups();
+        giveFocusByClick(field->widget());
+        if (TextInput* const input = area.isNull() ? nullptr : field->textInput()) input->aim(position);
+        if (!area.isNull()) clickLeft(*area);
+    }
+    settle();
+}
+
+void QtFormWindow::rightClick(PlacedControl& control) {
+    const QPointer<QWidget> window = Window_.get();
+    activate();
+    if (ChildField* const field = fieldOf(control)) {
+        const QPointer<QWidget> area = &field->mouseArea();
+        const bool hasMenu = field->textInput() != nullptr;
+        closePopups();
+        giveFocusByClick(field->widget());
+        if (!area.isNull() && hasMenu) sendMouse(*area, QEvent::MouseButtonPress, Qt::RightButton);
+        if (!area.isNull() && hasMenu) sendMenu(*area);
+        closePopups();
+        if (!area.isNull() && hasMenu) sendMouse(*area, QEvent::MouseButtonRelease, Qt::RightButton);
+    }
+    settle();
+    if (!window.isNull()) activate();
+}
+
+void QtFormWindow::spin(PlacedControl& control, bool up) {
+    activate();
+    const UpDown* const shown = control.control().widgets().upDown;
+    const QPointer<QtUpDown> spinner = shown != nullptr ? dynamic_cast<QtUpDown*>(shown->view()) : nullptr;
+    if (!spinner.isNull() && spinner->isVisible()) {
+        closePopups();
+        clickLeft(*spinner, spinner->half(up).center());
+    }
+    settle();
+}
+
+void QtFormWindow::pick(PlacedControl& control, std::int32_t item) {
+    const QPointer<QWidget> window = Window_.get();
+    activate();
+    const QPointer<QtComboBox> box = dynamic_cast<QtComboBox*>(fieldOf(control));
+    if (!box.isNull()) {
+        closePopups();
+        giveFocusByClick(*box);
+        clickLeft(box->button());
+        if (!box.isNull() && box->list() != nullptr) clickItem(*box->list(), item);
+        closePopups();
+    }
+    settle();
+    if (!window.isNull()) activate();
+}
+
+void QtFormWindow::setClipboard(std::u16string_view text) { QGuiApplication::clipboard()->setText(toQString(text)); }
+
+PlacedControl* QtFormWindow::focused() const {
+    const QWidget* const widget = Window_->focusWidget();
+    if (widget == nullptr) return nullptr;
+    const auto holder = std::find_if(Controls_.begin(), Controls_.end(),
+                                     [widget](const auto& control) { return control->owns(*widget); });
+    return holder == Controls_.end() ? nullptr : holder->get();
+}
+
+bool QtFormWindow::savePicture(const std::string& utf8Path) {
+    settle();
+    return Window_->grab().save(QString::fromStdString(utf8Path), "PNG");
+}
+
+}  // namespace kel::qt

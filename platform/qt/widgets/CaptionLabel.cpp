@@ -1,0 +1,78 @@
+#include "platform/qt/widgets/CaptionLabel.h"
+
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
+#include <utility>
+
+#include "common/FieldLayout.h"
+#include "platform/qt/base/FieldColors.h"
+#include "platform/qt/base/TextBridge.h"
+#include "platform/qt/base/WidgetLook.h"
+#include "platform/qt/control/ControlSite.h"
+
+namespace kel::qt {
+
+namespace {
+
+/// A mark that stands after a mark is read out.
+QString spokenOf(std::u16string_view caption) {
+    if (caption.find(u'&') == caption.npos) return toQString(caption);
+    QString spoken;
+    bool marks = false;
+    for (const char16_t unit : caption) {
+        marks = !marks && unit == u'&';
+        if (!marks) spoken += QChar(unit);
+    }
+    return spoken;
+}
+
+}  // namespace
+
+CaptionLabel::CaptionLabel(ControlSite& site, Label& label) : Site_(site), Label_(label) { Site_.setLabel(this); }
+
+CaptionLabel::~CaptionLabel() { Site_.setLabel(nullptr); }
+
+void CaptionLabel::outOfDate() {
+    const Changes changes = Label_.takeChanges();
+    const std::int32_t width = Label_.bounds().width;
+    if (std::exchange(Width_, width) != width) Site_.widget().updateGeometry();
+    if (changes.has(Change::Font)) Font_ = fontOf(Font_.value_or(Site_.widget().font()), Label_.font());
+    if (changes.has(Change::Caption)) Site_.captionChanged(std::exchange(Spoken_, spokenOf(Label_.caption())));
+    paintAgain();
+}
+
+void CaptionLabel::paintAgain() { Site_.widget().update(); }
+
+QRect CaptionLabel::area() const {
+    QRect area = Site_.pixelRect(Label_.bounds());
+    area.setTop(0);
+    area.setBottom(Site_.widget().height() - 1);
+    return area;
+}
+
+void CaptionLabel::paint(QPainter& painter, int baseline) const {
+    const Rect bounds = Label_.bounds();
+    if (Label_.caption().empty() || bounds.width <= 0) return;
+    const QWidget& widget = Site_.widget();
+    const QStyle& style = *widget.style();
+    QStyleOption option;
+    option.initFrom(&widget);
+    const bool enabled = Label_.enabled() && widget.isEnabled();
+    const bool severalLines = bounds.height > CaptionHeight;
+
+    QRect area = this->area();
+    painter.setClipRect(area);
+    painter.setFont(Font_.value_or(widget.font()));
+    painter.setPen(enabled ? captionColorOn(option.palette, Label_.foreColor()) : disabledCaptionColor(option.palette));
+
+    const bool underlines = style.styleHint(QStyle::SH_UnderlineShortcut, &option, &widget) != 0;
+    const Qt::Alignment alignment = QStyle::visualAlignment(widget.layoutDirection(), Qt::AlignLeft) | Qt::AlignTop;
+    int flags = static_cast<int>(alignment.toInt());
+    flags |= underlines ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
+    flags |= severalLines ? Qt::TextWordWrap : Qt::TextSingleLine;
+    area.setTop(baseline - painter.fontMetrics().ascent());
+    style.drawItemText(&painter, area, flags, option.palette, enabled, toQString(Label_.caption()));
+}
+
+}  // namespace kel::qt

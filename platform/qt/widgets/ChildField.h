@@ -1,0 +1,49 @@
+#pragma once
+
+#include "host/widgets/Widget.h"
+#include "platform/qt/base/FieldColors.h"
+#include "platform/qt/widgets/ChildWidget.h"
+
+namespace kel::qt {
+
+class TextInput;
+
+/// A child widget that can have the focus.
+class ChildField : public ChildWidget {
+public:
+    ChildField(ControlSite& site, QWidget& widget, FieldWidget& shown);
+    ~ChildField() override;
+
+    FieldWidget& shown() const { return Shown_; }
+
+    /// Enabled and shown, with all around it.
+    bool takesFocus() const;
+    /// For one that can have it no longer, or in a moment: the focus goes on. Qt would do so in some cases only, and
+    /// say nothing while the window is inactive.
+    void giveUpFocus();
+
+    /// The desktop's colours are others.
+    virtual void colorAgain() = 0;
+
+    /// Several lines of text, which want height.
+    virtual bool isTall() const = 0;
+    /// From the widget's top to the baseline of its (first) line of text, in pixels.
+    virtual int baseline() const = 0;
+    /// nullptr where it holds no text.
+    virtual TextInput* textInput() { return nullptr; }
+    /// Where presses arrive.
+    virtual QWidget& mouseArea() { return widget(); }
+
+    /// How wide it is best, to show about so many characters. In pixels.
+    virtual int widthFor(int characters) const;
+
+protected:
+    /// What Qt does the same for every field: place, state, font and tooltip.
+    void showState(Changes changes);
+    FieldColors colors() const { return {Shown_.backColor(), Shown_.foreColor()}; }
+
+private:
+    FieldWidget& Shown_;
+};
+
+}  // namespace kel::qt

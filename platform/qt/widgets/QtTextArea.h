@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QMimeData>
+#include <QPlainTextEdit>
+
+#include "host/widgets/TextEntry.h"
+#include "platform/qt/widgets/ChildField.h"
+#include "platform/qt/widgets/TextInput.h"
+
+namespace kel::qt {
+
+/// Several lines of text that can be edited. Qt's own box lays them out, and is kept showing what the widget holds;
+/// what anybody else does to its text goes to the widget, and is taken back where that refuses it.
+class QtTextArea final : public QPlainTextEdit, public TextView, public ChildField, private TextLines {
+public:
+    QtTextArea(ControlSite& site, TextEntry& box, QWidget& parent);
+
+    void outOfDate() override;
+    void paintAgain() override { viewport()->update(); }
+    const TextLines* lines() const override { return this; }
+    std::ptrdiff_t linesOfPage() const override;
+    bool isMirrored() const override;
+
+    void colorAgain() override;
+    bool isTall() const override { return true; }
+    int baseline() const override;
+    TextInput* textInput() override { return &Input_; }
+    QWidget& mouseArea() override { return *viewport(); }
+
+protected:
+    bool event(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override { Input_.keyPressed(*event); }
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    /// Scrolls as well, whether or not it has the focus; at its end the surroundings scroll.
+    void wheelEvent(QWheelEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+    QMimeData* createMimeDataFromSelection() const override;
+    bool canInsertFromMimeData(const QMimeData* source) const override { return source->hasText(); }
+    /// By the middle mouse button.
+    void insertFromMimeData(const QMimeData* source) override { Input_.pastePicked(source->text()); }
+
+private:
+    TextLine lineAt(std::size_t position) const override;
+
+    TextEntry& box() const { return Input_.box(); }
+    void showText();
+    void showSelection(const Selection& selection);
+    Selection shownSelection() const;
+    void showLocked();
+    void showComposition(QInputMethodEvent& event);
+    void textChangedInWidget();
+    void selectionChangedInWidget();
+
+    TextInput Input_;
+    std::u16string Shown_;  ///< as the document holds it, which would be slow to ask
+    bool Showing_ = false;  ///< what Qt's box tells is no news
+};
+
+}  // namespace kel::qt

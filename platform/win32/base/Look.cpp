@@ -1,0 +1,65 @@
+#include "platform/win32/base/Look.h"
+
+#include <algorithm>
+#include <cstring>
+#include <iterator>
+
+namespace kel::win32 {
+
+HBRUSH brushFor(HDC context, COLORREF color) {
+    SetDCBrushColor(context, color);
+    return static_cast<HBRUSH>(GetStockObject(DC_BRUSH));
+}
+
+HBRUSH setColors(HDC context, const FieldWidget& field, bool enabled) {
+    const COLORREF back = colorOf(field.backColor());
+    SetTextColor(context, enabled ? colorOf(field.foreColor()) : GetSysColor(COLOR_GRAYTEXT));
+    SetBkColor(context, back);
+    return brushFor(context, back);
+}
+
+HFONT Font::handle() const {
+    return Handle_ != nullptr ? Handle_ : static_cast<HFONT>(GetStockObject(DEFAULT_GUI_FONT));
+}
+
+void Font::choose(const FontFace& face, const TwipGrid& grid) {
+    LOGFONTW description{};
+    if (face.size > 0) {
+        description.lfHeight = -grid.fontPixels(face.size);
+        description.lfCharSet = DEFAULT_CHARSET;
+        const std::size_t units = std::min(face.name.size(), std::size(description.lfFaceName) - 1);
+        std::copy_n(face.name.begin(), units, std::begin(description.lfFaceName));
+        Points_ = face.size;
+    } else {
+        GetObjectW(handle(), sizeof description, &description);
+    }
+    description.lfWeight = face.bold ? FW_BOLD : FW_NORMAL;
+    if (Handle_ == nullptr || std::memcmp(&description, &Description_, sizeof description) != 0) make(description);
+}
+
+void Font::rescale(const TwipGrid& grid) {
+    if (Points_ <= 0) return;
+    LOGFONTW description = Description_;
+    description.lfHeight = -grid.fontPixels(Points_);
+    make(description);
+}
+
+TEXTMETRICW Font::metrics(HWND window) const {
+    const WindowContext context(window);
+    const Selected selected(context.get(), handle());
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(context.get(), &metrics);
+    return metrics;
+}
+
+void Font::make(const LOGFONTW& description) {
+    drop();
+    Description_ = description;
+    Handle_ = CreateFontIndirectW(&Description_);
+}
+
+void Font::drop() {
+    if (Handle_ != nullptr) DeleteObject(std::exchange(Handle_, nullptr));
+}
+
+}  // namespace kel::win32

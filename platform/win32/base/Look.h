@@ -1,0 +1,94 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string_view>
+#include <utility>
+
+#include "host/widgets/Widget.h"
+#include "platform/win32/base/TwipGrid.h"
+
+namespace kel::win32 {
+
+/// A colour of the library on this machine.
+inline COLORREF colorOf(Color color) {
+    return isSystemColor(color) ? GetSysColor(static_cast<int>(color & 0xFFU))
+                                : static_cast<COLORREF>(color & 0xFFFFFFU);
+}
+
+/// Flags for `DrawText`: text reads as the window goes.
+inline UINT readingOrder(HDC context) { return (GetLayout(context) & LAYOUT_RTL) != 0 ? DT_RTLREADING : 0U; }
+
+/// Fills in `color` with the system's changeable brush: there is none to keep.
+HBRUSH brushFor(HDC context, COLORREF color);
+
+/// Those of a field, grey text where it is not enabled. Returns the brush for its background.
+HBRUSH setColors(HDC context, const FieldWidget& field, bool enabled);
+
+/// A font of our own, or the system's while none has been chosen.
+class Font {
+public:
+    Font() = default;
+    ~Font() { drop(); }
+    Font(const Font&) = delete;
+    Font& operator=(const Font&) = delete;
+
+    HFONT handle() const;
+
+    void choose(const FontFace& face, const TwipGrid& grid);
+    /// The same on a screen of another resolution.
+    void rescale(const TwipGrid& grid);
+    /// Ascent of it, and height of its lines, where `window` stands.
+    TEXTMETRICW metrics(HWND window) const;
+
+private:
+    void make(const LOGFONTW& description);
+    void drop();
+
+    HFONT Handle_ = nullptr;
+    LOGFONTW Description_{};
+    double Points_ = 0;
+};
+
+/// Selects an object for as long as it lives.
+class Selected {
+public:
+    Selected(HDC context, HGDIOBJ object) : Context_(context), Before_(SelectObject(context, object)) {}
+    ~Selected() { SelectObject(Context_, Before_); }
+    Selected(const Selected&) = delete;
+    Selected& operator=(const Selected&) = delete;
+
+private:
+    HDC Context_;
+    HGDIOBJ Before_;
+};
+
+/// The device context of a window for measuring.
+class WindowContext {
+public:
+    explicit WindowContext(HWND window) : Window_(window), Context_(GetDC(window)) {}
+    ~WindowContext() { ReleaseDC(Window_, Context_); }
+    WindowContext(const WindowContext&) = delete;
+    WindowContext& operator=(const WindowContext&) = delete;
+
+    HDC get() const { return Context_; }
+
+private:
+    HWND Window_;
+    HDC Context_;
+};
+
+/// Keeps clip, colours and fonts of a context as they were.
+class SavedContext {
+public:
+    explicit SavedContext(HDC context) : Context_(context), Level_(SaveDC(context)) {}
+    ~SavedContext() { RestoreDC(Context_, Level_); }
+    SavedContext(const SavedContext&) = delete;
+    SavedContext& operator=(const SavedContext&) = delete;
+
+private:
+    HDC Context_;
+    int Level_;
+};
+
+}  // namespace kel::win32

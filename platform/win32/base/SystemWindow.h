@@ -1,0 +1,61 @@
+#pragma once
+
+#include "host/widgets/Widget.h"
+#include "platform/win32/base/TwipGrid.h"
+#include "platform/win32/base/WindowClass.h"
+#include "platform/win32/widgets/ChildField.h"
+
+namespace kel::win32 {
+
+/// The one window that a widget is, of a class that stands on one of the system's. What comes to it is handled while
+/// the control is held open; `base` is what the system would do.
+class SystemWindow : private WindowHandler {
+public:
+    SystemWindow(const SystemWindow&) = delete;
+    SystemWindow& operator=(const SystemWindow&) = delete;
+
+protected:
+    explicit SystemWindow(ControlFrame& frame) : Frame_(frame) {}
+    /// The window is gone before: it is handled by what derives from this.
+    ~SystemWindow() = default;
+
+    /// nullptr while there is none.
+    HWND windowHandle() const { return Handle_; }
+
+    /// A child of `parent`, hidden; nothing happens where there is one. Returns whether it has been made.
+    bool create(const WindowClass& windowClass, HWND parent, DWORD style, const RECT& place);
+    void destroy();
+
+    ControlFrame& frame() const { return Frame_; }
+
+    /// Where the window is to stand, and puts it there.
+    RECT pixelsOf(const Widget& shown) const { return Frame_.grid().pixels(shown.bounds()); }
+    void placeAs(const Widget& shown) const;
+
+    LRESULT base(UINT message, WPARAM wide = 0, LPARAM data = 0) const;
+    virtual LRESULT handle(UINT message, WPARAM wide, LPARAM data) = 0;
+
+private:
+    LRESULT handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) override;
+
+    ControlFrame& Frame_;
+    HWND Handle_ = nullptr;
+    WNDPROC Base_ = nullptr;
+};
+
+/// One that paints itself.
+class PaintedWindow : protected SystemWindow {
+protected:
+    explicit PaintedWindow(ControlFrame& frame) : SystemWindow(frame) {}
+    ~PaintedWindow() = default;
+
+    /// `area` is all of the window.
+    virtual void paint(HDC context, const RECT& area) const = 0;
+
+    LRESULT handle(UINT message, WPARAM wide, LPARAM data) override;
+
+    /// Paints at the next opportunity.
+    void invalidate() const;
+};
+
+}  // namespace kel::win32

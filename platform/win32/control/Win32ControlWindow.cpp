@@ -1,0 +1,312 @@
+#include "platform/win32/control/Win32ControlWindow.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/win32/widgets/Win32CheckBox.h"
+#include "platform/win32/widgets/Win32ComboBox.h"
+#include "platform/win32/widgets/Win32PictureBox.h"
+#include "platform/win32/widgets/Win32TextBox.h"
+#include "platform/win32/widgets/Win32UpDown.h"
+
+namespace kel::win32 {
+
+namespace {
+
+const WindowClass& controlClass() {
+    static const WindowClass Class(L"KelControls8.Control");
+    return Class;
+}
+
+template <class Widget>
+Widget* withWindow(const std::vector<Widget*>& widgets, HWND window) {
+    const auto found =
+        std::find_if(widgets.begin(), widgets.end(), [window](const Widget* widget) { return widget->has(window); });
+    return found != widgets.end() ? *found : nullptr;
+}
+
+bool isIn(HWND window, HWND other) { return other != nullptr && (other == window || IsChild(window, other) != FALSE); }
+
+/// The stroke that a key press offered by the host makes.
+KeyStroke strokeOf(const MSG& message) {
+    const auto code = static_cast<std::int16_t>(message.wParam);
+    const bool types =
+        message.wParam == VK_PACKET || MapVirtualKeyW(static_cast<UINT>(message.wParam), MAPVK_VK_TO_CHAR) >= U' ';
+    return {code, types ? U' ' : U'\0', modifiersDown()};
+}
+
+}  // namespace
+
+std::unique_ptr<ControlWindow> makeControlWindow(ControlWindowOwner& owner, System& system) {
+    return std::make_unique<Win32ControlWindow>(owner, system, std::make_shared<Clipboard>());
+}
+
+Win32ControlWindow::~Win32ControlWindow() {
+    if (Window_ != nullptr) DestroyWindow(Window_);
+    if (Parking_ != nullptr) DestroyWindow(Parking_);
+}
+
+// ---- Widgets
+
+template <class Seen, class Shown>
+std::unique_ptr<Seen> Win32ControlWindow::make(Shown& shown) {
+    ControlFrame& frame = *this;
+    return std::make_unique<Seen>(frame, shown);
+}
+
+std::unique_ptr<PictureView> Win32ControlWindow::makeView(PictureBox& box) { return make<Win32PictureBox>(box); }
+
+std::unique_ptr<View> Win32ControlWindow::makeView(CheckBox& box) { return make<Win32CheckBox>(box); }
+
+std::unique_ptr<View> Win32ControlWindow::makeView(UpDown& spinner) { return make<Win32UpDown>(spinner); }
+
+std::unique_ptr<View> Win32ControlWindow::makeView(Label& label) { return make<Win32Label>(label); }
+
+std::unique_ptr<TextView> Win32ControlWindow::makeView(TextBox& box) { return make<Win32TextBox>(box); }
+
+std::unique_ptr<TextView> Win32ControlWindow::makeView(ComboBox& box) { return make<Win32ComboBox>(box); }
+
+void Win32ControlWindow::setLabel(Win32Label* label) {
+    Label_ = label;
+    if (Label_ != nullptr && Window_ != nullptr) Label_->makeWindow(height());
+}
+
+void Win32ControlWindow::add(ChildWidget& widget) {
+    Widgets_.push_back(&widget);
+    if (Window_ != nullptr) widget.makeWindow();
+}
+
+void Win32ControlWindow::addField(ChildField& field) {
+    Fields_.push_back(&field);
+    add(field);
+}
+
+void Win32ControlWindow::removeField(ChildField& field) {
+    std::erase(Fields_, &field);
+    Focus_.forget(field);
+    remove(field);
+}
+
+ChildField* Win32ControlWindow::shownField() const {
+    const auto found =
+        std::find_if(Fields_.begin(), Fields_.end(), [](const ChildField* field) { return field->shown(); });
+    return found != Fields_.end() ? *found : nullptr;
+}
+
+ChildWidget* Win32ControlWindow::widgetOf(HWND window) const { return withWindow(Widgets_, window); }
+
+ChildField* Win32ControlWindow::fieldOf(HWND window) const { return withWindow(Fields_, window); }
+
+// ---- The window
+
+HWND Win32ControlWindow::handle() {
+    if (Window_ == nullptr) makeWindow(parkingWindow());
+    return Window_;
+}
+
+HWND Win32ControlWindow::parkingWindow() {
+    if (Parking_ == nullptr)
+        Parking_ = CreateWindowExW(WS_EX_TOOLWINDOW, controlClass().name(), L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
+                                   thisModule(), nullptr);
+    return Parking_;
+}
+
+void Win32ControlWindow::makeWindow(HWND parent) {
+    if (parent == nullptr) return;
+    Window_ = CreateWindowExW(WS_EX_CONTROLPARENT, controlClass().name(), L"",
+                              WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, Bounds_.left, Bounds_.top, widthOf(Bounds_),
+                              height(), parent, nullptr, thisModule(), static_cast<WindowHandler*>(this));
+    if (Window_ == nullptr) return;
+    EnableWindow(Window_, Enabled_);
+    if (Label_ != nullptr) Label_->makeWindow(height());
+    for (ChildWidget* const widget : Widgets_) widget->makeWindow();
+}
+
+void Win32ControlWindow::setParent(HWND parent) {
+    if (Window_ == nullptr) {
+        makeWindow(parent != nullptr ? parent : parkingWindow());
+    } else {
+        if (parent == nullptr) dropInputOf(Window_);
+        SetParent(Window_, parent != nullptr ? parent : parkingWindow());
+    }
+    if (parent != nullptr && Parking_ != nullptr) DestroyWindow(std::exchange(Parking_, nullptr));
+    if (Window_ != nullptr && Visible_) ShowWindow(Window_, SW_SHOWNA);
+}
+
+void Win32ControlWindow::place(const RECT& bounds, const RECT& clip) {
+    Bounds_ = bounds;
+    if (handle() == nullptr) return;
+    placeWindow(Window_, bounds);
+    if (Label_ != nullptr) Label_->place(height());
+    RECT seen{};
+    IntersectRect(&seen, &bounds, &clip);
+    const bool whole = EqualRect(&seen, &bounds) != FALSE;
+    OffsetRect(&seen, -static_cast<int>(bounds.left), -static_cast<int>(bounds.top));
+    SetWindowRgn(Window_, whole ? nullptr : CreateRectRgnIndirect(&seen), TRUE);
+}
+
+void Win32ControlWindow::setVisible(bool visible) {
+    Visible_ = visible;
+    if (!visible) dropInputOf(Window_);
+    if (Window_ != nullptr) ShowWindow(Window_, visible ? SW_SHOWNA : SW_HIDE);
+}
+
+void Win32ControlWindow::setEnabled(bool enabled) {
+    if (enabled == Enabled_) return;
+    Enabled_ = enabled;
+    if (!enabled) takeInputFrom(Window_);
+    if (enabled != Enabled_) return;  // a handler has put it again
+    for (ChildWidget* const widget : Widgets_) widget->frameEnabledChanged();
+    if (Window_ == nullptr) return;
+    EnableWindow(Window_, enabled);
+    RedrawWindow(Window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void Win32ControlWindow::setToolTip(HWND field, const wchar_t* text) {
+    if (ToolTips_ == nullptr) {
+        if (*text == L'\0') return;
+        // Nobody owns it: it would go with the top-level window of today, which the control may outlive in another.
+        ToolTips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX,
+                                    CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr,
+                                    thisModule(), nullptr);
+    }
+    TTTOOLINFOW tool{};
+    tool.cbSize = TTTOOLINFOW_V2_SIZE;
+    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    tool.hwnd = Window_;
+    tool.uId = reinterpret_cast<UINT_PTR>(field);
+    SendMessageW(ToolTips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    if (*text == L'\0') return;
+    tool.lpszText = const_cast<wchar_t*>(text);
+    SendMessageW(ToolTips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+// ---- Focus and keys
+
+void Win32ControlWindow::setFocus() { give(shownField()); }
+
+void Win32ControlWindow::moveFocusTo(FieldWidget& field) { give(viewOf<ChildField>(&field)); }
+
+void Win32ControlWindow::give(const ChildField* field) {
+    if (field != nullptr && field->window() != nullptr && field->widget().takesInput()) SetFocus(field->window());
+}
+
+char16_t Win32ControlWindow::mnemonic() const {
+    if (Label_ != nullptr) return Label_->shown().mnemonic();
+    const ChildField* const field = shownField();
+    return field != nullptr ? field->mnemonic() : u'\0';
+}
+
+void Win32ControlWindow::pressMnemonic() {
+    setFocus();
+    ChildField* const field = shownField();
+    if (field != nullptr && field->window() != nullptr && GetFocus() == field->window()) field->mnemonicPressed();
+}
+
+bool Win32ControlWindow::hasFocus() const { return Window_ != nullptr && isIn(Window_, GetFocus()); }
+
+void Win32ControlWindow::takeInputFrom(HWND window) {
+    if (window == nullptr) return;
+    if (isIn(window, GetFocus())) Owner_.passFocusOn();
+    dropInputOf(window);
+}
+
+/// Where its host takes the control away, the host knows where the focus goes.
+void Win32ControlWindow::dropInputOf(HWND window) const {
+    if (window == nullptr) return;
+    if (isIn(window, GetCapture())) ReleaseCapture();
+    if (isIn(window, GetFocus())) SetFocus(nullptr);
+}
+
+bool Win32ControlWindow::translateAccelerator(MSG& message) {
+    const ChildField* const field = fieldOf(message.hwnd);
+    if (field == nullptr || message.message != WM_KEYDOWN || !field->wantsKey(strokeOf(message))) return false;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+    return true;
+}
+
+// ---- Picture
+
+void Win32ControlWindow::captionChanged() {
+    if (Label_ != nullptr) Label_->place(height());
+    Owner_.viewChanged();
+}
+
+void Win32ControlWindow::drawCaption(HDC context, const RECT& area) const {
+    if (Label_ == nullptr) return;
+    const ChildField* const field = shownField();
+    Label_->draw(context, area, field != nullptr ? field->baseline() : heightOf(area), Enabled_);
+}
+
+void Win32ControlWindow::draw(HDC context, const RECT& bounds) {
+    const SavedContext saved(context);
+    FillRect(context, &bounds, GetSysColorBrush(COLOR_BTNFACE));
+    IntersectClipRect(context, bounds.left, bounds.top, bounds.right, bounds.bottom);
+    drawCaption(context, bounds);
+    for (const ChildWidget* const widget : Widgets_)
+        if (widget->shown()) widget->draw(context, {bounds.left, bounds.top});
+}
+
+/// The label's window is the part of the control that its caption may take.
+void Win32ControlWindow::drawLabelWindow(const DRAWITEMSTRUCT& item) const {
+    FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_BTNFACE));
+    const LONG left = Grid_.pixels(Label_->shown().bounds()).left;
+    drawCaption(item.hDC, {-left, 0, widthOf(Bounds_) - left, height()});
+}
+
+void Win32ControlWindow::setGrid(const TwipGrid& grid) {
+    Grid_ = grid;
+    if (Label_ != nullptr) Label_->rescale();
+    for (ChildWidget* const widget : Widgets_) widget->rescale();
+    captionChanged();
+}
+
+// ---- What comes to the window
+
+LRESULT Win32ControlWindow::handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) {
+    return heldOpen(Owner_, [&] { return handle(window, message, wide, data); });
+}
+
+LRESULT Win32ControlWindow::handle(HWND window, UINT message, WPARAM wide, LPARAM data) {
+    if (message == FocusWatch::leaveMessage()) {
+        Focus_.leave(Window_);
+        return 0;
+    }
+    switch (message) {
+        case WM_DRAWITEM: {
+            const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(data);
+            if (Label_ == nullptr || item.hwndItem != Label_->window()) break;
+            drawLabelWindow(item);
+            return TRUE;
+        }
+        case WM_SETFOCUS: setFocus(); return 0;
+        case WM_CTLCOLOREDIT:
+        case WM_CTLCOLORSTATIC:
+            if (const ChildField* const field = fieldOf(reinterpret_cast<HWND>(data)))
+                return reinterpret_cast<LRESULT>(field->colors(reinterpret_cast<HDC>(wide)));
+            break;
+        case WM_COMMAND:
+            if (ChildWidget* const widget = widgetOf(reinterpret_cast<HWND>(data))) widget->notified(HIWORD(wide), 0);
+            return 0;
+        case WM_NOTIFY: {
+            const auto& header = *reinterpret_cast<const NMHDR*>(data);
+            if (ChildWidget* const widget = widgetOf(header.hwndFrom)) return widget->notified(header.code, data);
+            break;
+        }
+        case WM_DESTROY:
+            if (ToolTips_ != nullptr) DestroyWindow(std::exchange(ToolTips_, nullptr));
+            break;
+        case WM_NCDESTROY:
+            Window_ = nullptr;
+            if (Label_ != nullptr) Label_->forgetWindow();
+            Focus_.leave(nullptr);
+            break;
+        default: break;
+    }
+    return DefWindowProcW(window, message, wide, data);
+}
+
+}  // namespace kel::win32

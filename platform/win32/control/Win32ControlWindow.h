@@ -1,0 +1,98 @@
+#pragma once
+
+#include <vector>
+
+#include "platform/win32/base/Clipboard.h"
+#include "platform/win32/base/TwipGrid.h"
+#include "platform/win32/base/WindowClass.h"
+#include "platform/win32/control/ControlWindow.h"
+#include "platform/win32/control/FocusWatch.h"
+#include "platform/win32/widgets/ChildField.h"
+#include "platform/win32/widgets/Win32Label.h"
+
+namespace kel::win32 {
+
+class Win32ControlWindow final : public ControlWindow, private ControlFrame, private WidgetHost, private WindowHandler {
+public:
+    Win32ControlWindow(ControlWindowOwner& owner, System& system, std::shared_ptr<Clipboard> clipboard)
+        : Owner_(owner), Grid_(system.twipsPerPixel()), Clipboard_(std::move(clipboard)), Focus_(owner) {}
+    ~Win32ControlWindow() override;
+
+    WidgetHost& widgets() override { return *this; }
+    HWND handle() override;
+    void setParent(HWND parent) override;
+    void place(const RECT& bounds, const RECT& clip) override;
+    void setVisible(bool visible) override;
+    void setEnabled(bool enabled) override;
+    void setFocus() override;
+    bool hasFocus() const override;
+    bool translateAccelerator(MSG& message) override;
+    char16_t mnemonic() const override;
+    void pressMnemonic() override;
+    void draw(HDC context, const RECT& bounds) override;
+
+    /// The screen that the window is on has another resolution.
+    void setGrid(const TwipGrid& grid);
+
+private:
+    template <class Seen, class Shown>
+    std::unique_ptr<Seen> make(Shown& shown);
+    std::unique_ptr<PictureView> makeView(PictureBox& box) override;
+    std::unique_ptr<View> makeView(CheckBox& box) override;
+    std::unique_ptr<View> makeView(UpDown& spinner) override;
+    std::unique_ptr<View> makeView(Label& label) override;
+    std::unique_ptr<TextView> makeView(TextBox& box) override;
+    std::unique_ptr<TextView> makeView(ComboBox& box) override;
+    bool takesInput() const override { return Enabled_ && Visible_; }
+    void moveFocusTo(FieldWidget& field) override;
+    void focusBarred(FieldWidget& field) override { takeInputFrom(viewOf<ChildField>(&field)->wholeWindow()); }
+    std::u16string clipboardText() override { return Clipboard_->text(Window_); }
+    void setClipboardText(std::u16string_view text) override { Clipboard_->setText(Window_, text); }
+
+    HWND window() const override { return Window_; }
+    ControlWindowOwner& owner() override { return Owner_; }
+    const TwipGrid& grid() const override { return Grid_; }
+    bool enabled() const override { return Enabled_; }
+    void add(ChildWidget& widget) override;
+    void remove(ChildWidget& widget) override { std::erase(Widgets_, &widget); }
+    void addField(ChildField& field) override;
+    void removeField(ChildField& field) override;
+    void arrived(ChildField& field) override { Focus_.arrived(Window_, field); }
+    void departed(HWND next) override { Focus_.departed(Window_, next); }
+    void takeInputFrom(HWND window) override;
+    void dropInputOf(HWND window) const;
+    static void give(const ChildField* field);
+    void setToolTip(HWND field, const wchar_t* text) override;
+    void setLabel(Win32Label* label) override;
+    void captionChanged() override;
+    void mnemonicChanged() override { Owner_.mnemonicChanged(); }
+    void viewChanged() override { Owner_.viewChanged(); }
+
+    LRESULT handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) override;
+    LRESULT handle(HWND window, UINT message, WPARAM wide, LPARAM data);
+    int height() const { return heightOf(Bounds_); }
+    void drawCaption(HDC context, const RECT& area) const;
+    void drawLabelWindow(const DRAWITEMSTRUCT& item) const;
+
+    void makeWindow(HWND parent);
+    HWND parkingWindow();
+    ChildWidget* widgetOf(HWND window) const;
+    ChildField* fieldOf(HWND window) const;
+    ChildField* shownField() const;
+
+    ControlWindowOwner& Owner_;
+    TwipGrid Grid_;
+    std::shared_ptr<Clipboard> Clipboard_;
+    FocusWatch Focus_;
+    std::vector<ChildWidget*> Widgets_;
+    std::vector<ChildField*> Fields_;  ///< those of them that can have the focus
+    Win32Label* Label_ = nullptr;
+    HWND Window_ = nullptr;
+    HWND Parking_ = nullptr;  ///< the parent that nobody sees
+    HWND ToolTips_ = nullptr;
+    RECT Bounds_{};
+    bool Enabled_ = true;
+    bool Visible_ = false;
+};
+
+}  // namespace kel::win32

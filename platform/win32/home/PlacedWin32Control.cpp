@@ -1,0 +1,85 @@
+#include "platform/win32/home/PlacedWin32Control.h"
+
+#include "platform/win32/control/Win32ControlWindow.h"
+#include "platform/win32/home/Win32FormWindow.h"
+#include "platform/win32/widgets/ChildField.h"
+
+namespace kel::win32 {
+
+PlacedWin32Control::PlacedWin32Control(const ClassModel& model, const Placement& placement, std::size_t order,
+                                       ControlObserver& observer, const Surroundings& surroundings)
+    : TabStop(placement.tabIndex, order, placement.tabStop),
+      Observer_(observer),
+      Form_(surroundings.form),
+      Grid_(surroundings.system.twipsPerPixel()),
+      Name_(placement.name),
+      Bounds_(placement.bounds) {
+    ControlWindowOwner& owner = *this;
+    Window_ = std::make_unique<Win32ControlWindow>(owner, surroundings.system, surroundings.clipboard);
+    Window_->setParent(surroundings.parent);
+    Window_->setVisible(placement.visible);
+    ControlHost host{*this, Window_->widgets(), surroundings.system, surroundings.settings, surroundings.region};
+    Control_ = model.makeControl(host);
+}
+
+PlacedWin32Control::~PlacedWin32Control() {
+    // From here on nobody is told of the focus.
+    Control_.reset();
+    Window_.reset();
+}
+
+void PlacedWin32Control::setBounds(const Rect& bounds) {
+    Bounds_.left = bounds.left;
+    Bounds_.top = bounds.top;
+    setSize({bounds.width, bounds.height});
+    showPlace();
+}
+
+void PlacedWin32Control::setSize(Size wanted) {
+    if (Sized_ && wanted == size()) return;
+    Bounds_.width = wanted.width;
+    Bounds_.height = wanted.height;
+    Sized_ = true;
+    showPlace();
+    if (Control_) Control_->Resize();
+}
+
+void PlacedWin32Control::showPlace() {
+    const RECT pixels = Grid_.pixels(Bounds_);
+    Window_->place(pixels, pixels);
+}
+
+ControlWindow& PlacedWin32Control::window() const { return *Window_; }
+
+void PlacedWin32Control::setGrid(const TwipGrid& grid) {
+    Grid_ = grid;
+    Window_->setGrid(grid);
+    showPlace();
+}
+
+void PlacedWin32Control::setEnabled(bool enabled) {
+    Enabled_ = enabled;
+    Window_->setEnabled(enabled);
+}
+
+std::int32_t PlacedWin32Control::windowHandle() {
+    // Window handles have 32 significant bits in 64-bit processes too.
+    return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(Window_->handle()));
+}
+
+void PlacedWin32Control::focusEntered() {
+    if (Control_) Control_->EnterFocus();
+}
+
+void PlacedWin32Control::focusLeft() {
+    if (Control_) Control_->ExitFocus();
+}
+
+void PlacedWin32Control::passFocusOn() { Form_.passFocusOn(*this); }
+
+HWND PlacedWin32Control::focusTarget() const {
+    const ChildField* const field = viewOf<ChildField>(Control_->widgets().field);
+    return field != nullptr && field->widget().takesInput() ? field->window() : nullptr;
+}
+
+}  // namespace kel::win32

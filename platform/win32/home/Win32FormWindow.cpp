@@ -1,0 +1,230 @@
+#include "platform/win32/home/Win32FormWindow.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <utility>
+
+#include "host/focus/Mnemonic.h"
+#include "library/SharedSettings.h"
+#include "platform/win32/base/Session.h"
+#include "platform/win32/base/WideText.h"
+#include "platform/win32/home/ForeignWindows.h"
+
+namespace kel::win32 {
+
+namespace {
+
+constexpr DWORD FormStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
+constexpr UINT ResolutionChanged = 0x02E0;  // WM_DPICHANGED, younger than what the headers are asked for
+constexpr UINT SentKey = WM_APP + 1;
+
+const WindowClass& formClass() {
+    static const WindowClass Class(L"KelControls8.Form");
+    return Class;
+}
+
+class Win32Panel final : public PlacedPanel {
+public:
+    explicit Win32Panel(HWND window) : Window_(window) {}
+    HWND window() const { return Window_; }
+
+private:
+    HWND Window_;
+};
+
+bool isSameLetter(char16_t one, char16_t other) {
+    const auto lower = [](char16_t unit) { return LOWORD(CharLowerW(reinterpret_cast<LPWSTR>(MAKELONG(unit, 0)))); };
+    return one != 0 && lower(one) == lower(other);
+}
+
+}  // namespace
+
+Win32FormWindow::Win32FormWindow(const WindowSpec& description, System& system, SharedSettings& settings,
+                                 const RegionalSettings& region, Session& session)
+    : System_(system),
+      Settings_(settings),
+      Region_(region),
+      Session_(session),
+      Grid_(system.twipsPerPixel()),
+      ClientSize_(description.clientSize) {
+    const DWORD extended = description.rightToLeft ? WS_EX_LAYOUTRTL : 0;
+    Window_ = CreateWindowExW(extended, formClass().name(), wide(description.caption).c_str(), FormStyle, CW_USEDEFAULT,
+                              CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, thisModule(),
+                              static_cast<WindowHandler*>(this));
+    if (Window_ == nullptr) throw std::runtime_error("there is no display to show a window on");
+    sizeWindow();
+    Session_.add(*this);
+}
+
+Win32FormWindow::~Win32FormWindow() {
+    Session_.remove(*this);
+    Controls_.clear();
+    DestroyWindow(Window_);
+}
+
+// ---- Placing
+
+HWND Win32FormWindow::parentOf(const Placement& placement) const {
+    return placement.parent != nullptr ? static_cast<const Win32Panel*>(placement.parent)->window() : Window_;
+}
+
+PlacedControl& Win32FormWindow::place(const ClassModel& model, const Placement& placement, ControlObserver& observer) {
+    Controls_.push_back(std::make_unique<PlacedWin32Control>(
+        model, placement, Controls_.size(), observer,
+        PlacedWin32Control::Surroundings{System_, Settings_, Region_, Session_.clipboard(), parentOf(placement),
+                                         *this}));
+    PlacedWin32Control& placed = *Controls_.back();
+    Order_.add(placed);
+    placed.control().Initialize();
+    return placed;
+}
+
+PlacedPanel* Win32FormWindow::placeForeign(const ForeignBlock& block) {
+    HWND const parent = parentOf(block.placement);
+    if (block.kind == ForeignBlock::Kind::Panel) {
+        const PanelWindows panel = makePanel(block, Grid_, parent);
+        Foreign_.push_back({block, panel.panel, panel.frame});
+        return Panels_.emplace_back(std::make_unique<Win32Panel>(panel.panel)).get();
+    }
+    Foreign_.push_back({block, makeForeignWindow(block, Grid_, parent), nullptr});
+    if (block.kind == ForeignBlock::Kind::Label)
+        Captions_.push_back({mnemonicIn(block.caption), block.placement.tabIndex});
+    return nullptr;
+}
+
+void Win32FormWindow::show() {
+    setForeignFont();
+    // Frames belong behind all that has been placed in their panels.
+    for (const Foreign& foreign : Foreign_)
+        if (foreign.frame != nullptr)
+            SetWindowPos(foreign.frame, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    // By index: a host may place further controls meanwhile.
+    for (std::size_t i = 0; i < Controls_.size(); ++i) Controls_[i]->control().Show();
+    ShowWindow(Window_, SW_SHOWNORMAL);
+    activate();
+}
+
+void Win32FormWindow::setForeignFont() {
+    if (const auto runtime = Settings_.Runtime)
+        Font_.choose({runtime->CaptionFontName(), runtime->CaptionFontSize()}, Grid_);
+    const auto font = reinterpret_cast<WPARAM>(Font_.handle());
+    for (const Foreign& foreign : Foreign_)
+        SendMessageW(foreign.frame != nullptr ? foreign.frame : foreign.window, WM_SETFONT, font, TRUE);
+}
+
+// ---- Focus
+
+PlacedWin32Control* Win32FormWindow::controlOf(HWND window) const {
+    const auto found = std::find_if(Controls_.begin(), Controls_.end(), [window](const auto& control) {
+        return window != nullptr && IsChild(control->window().handle(), window) != FALSE;
+    });
+    return found != Controls_.end() ? found->get() : nullptr;
+}
+
+void Win32FormWindow::giveFocus(HWND field, bool byTab) {
+    const Session::TabKey tab(Session_, byTab);
+    SetFocus(field);
+}
+
+void Win32FormWindow::moveByTab(bool back) {
+    PlacedWin32Control* const holder = focusedControl();
+    FieldWidget* const field = holder != nullptr ? holder->control().widgets().field : nullptr;
+    // Also where the focus has nowhere to go and stays.
+    if (field != nullptr) field->strike({.code = keys::Tab});
+    if (TabStop* const next = Order_.next(holder, back))
+        giveFocus(static_cast<PlacedWin32Control*>(next)->focusTarget(), true);
+}
+
+void Win32FormWindow::passFocusOn(PlacedWin32Control& from) {
+    if (TabStop* const next = Order_.afterBarred(from))
+        giveFocus(static_cast<PlacedWin32Control*>(next)->focusTarget(), next != &from);
+}
+
+bool Win32FormWindow::pressMnemonic(char16_t character) {
+    for (const auto& control : Controls_) {
+        if (!isSameLetter(control->window().mnemonic(), character)) continue;
+        control->window().pressMnemonic();
+        return true;
+    }
+    for (const Caption& caption : Captions_) {
+        TabStop* const named = isSameLetter(caption.mnemonic, character) ? Order_.namedBy(caption.tabIndex) : nullptr;
+        if (named == nullptr) continue;
+        static_cast<PlacedWin32Control*>(named)->window().setFocus();
+        return true;
+    }
+    return false;
+}
+
+// ---- Resolution
+
+void Win32FormWindow::sizeWindow() {
+    RECT area = Grid_.pixels({0, 0, ClientSize_.width, ClientSize_.height});
+    const auto extended = static_cast<DWORD>(GetWindowLongW(Window_, GWL_EXSTYLE));
+    AdjustWindowRectEx(&area, FormStyle, FALSE, extended);
+    SetWindowPos(Window_, nullptr, 0, 0, widthOf(area), heightOf(area), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+/// The window has come to another screen: all in it keeps its size in twips.
+void Win32FormWindow::changeResolution(int dotsPerInch) {
+    constexpr int TwipsPerInch = 1440;
+    Grid_ = TwipGrid((TwipsPerInch + dotsPerInch / 2) / std::max(dotsPerInch, 1));
+    sizeWindow();
+    for (const Foreign& foreign : Foreign_) {
+        const RECT place = foreignPlace(foreign.block, Grid_);
+        MoveWindow(foreign.window, place.left, place.top, widthOf(place), heightOf(place), TRUE);
+        if (foreign.frame != nullptr) MoveWindow(foreign.frame, 0, 0, widthOf(place), heightOf(place), TRUE);
+    }
+    setForeignFont();
+    for (const auto& control : Controls_) control->setGrid(Grid_);
+}
+
+// ---- What comes to the window
+
+bool Win32FormWindow::takesKey(const MSG& message) {
+    if (message.message == WM_SYSCHAR) return pressMnemonic(static_cast<char16_t>(message.wParam));
+    // Without a focus the system sends plain keys as if Alt were down.
+    const bool isKey = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
+    if (!isKey || message.wParam != VK_TAB || GetKeyState(VK_CONTROL) < 0 || GetKeyState(VK_MENU) < 0) return false;
+    moveByTab(GetKeyState(VK_SHIFT) < 0);
+    return true;
+}
+
+void Win32FormWindow::sendKey(std::int16_t code) { PostMessageW(Window_, SentKey, static_cast<WPARAM>(code), 0); }
+
+/// What had the focus gets it back when the window comes in front again; nothing does where nothing had.
+void Win32FormWindow::activated(WPARAM state) {
+    if (LOWORD(state) == WA_INACTIVE) {
+        FocusBefore_ = GetFocus();
+        return;
+    }
+    Session_.activate(*this);
+    if (HIWORD(state) != 0) return;
+    if (canHaveFocusAgain(FocusBefore_)) {
+        SetFocus(FocusBefore_);
+        return;
+    }
+    SetFocus(Window_);
+    if (PlacedWin32Control* const before = controlOf(FocusBefore_)) passFocusOn(*before);
+}
+
+bool Win32FormWindow::canHaveFocusAgain(HWND window) const {
+    if (IsChild(Window_, window) == FALSE) return false;
+    const PlacedWin32Control* const control = controlOf(window);
+    return control != nullptr ? control->focusTarget() == window : IsWindowEnabled(window) != FALSE;
+}
+
+LRESULT Win32FormWindow::handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) {
+    switch (message) {
+        case ResolutionChanged: changeResolution(HIWORD(wide)); return 0;
+        case WM_ACTIVATE: activated(wide); return 0;
+        case SentKey: strikeSent(static_cast<std::int16_t>(wide)); return 0;
+        case WM_TIMER: EndMenu(); return 0;
+        case WM_CLOSE:
+            ShowWindow(window, SW_HIDE);
+            Session_.closed();
+            return 0;
+        default: return DefWindowProcW(window, message, wide, data);
+    }
+}
+
+}  // namespace kel::win32

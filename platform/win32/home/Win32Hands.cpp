@@ -1,0 +1,209 @@
+#include <algorithm>
+
+#include "platform/win32/base/Picture.h"
+#include "platform/win32/base/Session.h"
+#include "platform/win32/home/Win32FormWindow.h"
+#include "platform/win32/widgets/Win32ComboBox.h"
+#include "platform/win32/widgets/Win32UpDown.h"
+
+/// What a person does at a form's window. Keys and mouse come through the thread's own queue, so that nothing
+/// goes astray when another program is in front.
+namespace kel::win32 {
+
+namespace {
+
+/// Has the modifier keys of this thread down while it lives.
+class HeldModifiers {
+public:
+    explicit HeldModifiers(Modifiers modifiers) {
+        GetKeyboardState(Before_);
+        BYTE state[KeyCount];
+        std::copy(std::begin(Before_), std::end(Before_), state);
+        const auto hold = [&](int key, Modifiers flag) {
+            state[key] = static_cast<BYTE>((modifiers & flag) != 0 ? Down : 0);
+        };
+        hold(VK_SHIFT, ShiftKey);
+        hold(VK_CONTROL, ControlKey);
+        hold(VK_MENU, AltKey);
+        SetKeyboardState(state);
+    }
+    ~HeldModifiers() { SetKeyboardState(Before_); }
+    HeldModifiers(const HeldModifiers&) = delete;
+    HeldModifiers& operator=(const HeldModifiers&) = delete;
+
+private:
+    static constexpr std::size_t KeyCount = 256;
+    static constexpr BYTE Down = 0x80;
+    BYTE Before_[KeyCount]{};
+};
+
+/// Closes menus as soon as they open, while it lives: it ticks within the menu's own loop.
+class MenuCloser {
+public:
+    explicit MenuCloser(HWND form) : Form_(form) {
+        constexpr UINT Period = 10;  // milliseconds
+        SetTimer(Form_, Timer, Period, nullptr);
+    }
+    ~MenuCloser() { KillTimer(Form_, Timer); }
+    MenuCloser(const MenuCloser&) = delete;
+    MenuCloser& operator=(const MenuCloser&) = delete;
+
+private:
+    static constexpr UINT_PTR Timer = 1;
+    HWND Form_;
+};
+
+LPARAM keyData(std::int16_t code, bool alt, bool up) {
+    constexpr LPARAM Released = static_cast<LPARAM>(0xC0000000U);
+    const auto scan = static_cast<LPARAM>(MapVirtualKeyW(static_cast<UINT>(code), MAPVK_VK_TO_VSC));
+    return 1 | (scan << 16) | (alt ? LPARAM{KF_ALTDOWN} << 16 : 0) | (up ? Released : 0);
+}
+
+/// What an unshifted key types.
+char32_t characterOf(std::int16_t code) {
+    const UINT unit = MapVirtualKeyW(static_cast<UINT>(code), MAPVK_VK_TO_CHAR) & 0xFFFFU;
+    return unit >= U' ' ? static_cast<char32_t>(LOWORD(CharLowerW(reinterpret_cast<LPWSTR>(UINT_PTR{unit})))) : 0;
+}
+
+void postCharacter(HWND target, UINT message, char32_t character, LPARAM data) {
+    if (character > 0xFFFF) {
+        PostMessageW(target, message, WPARAM{0xD7C0} + (character >> 10), data);
+        PostMessageW(target, message, WPARAM{0xDC00} + (character & 0x3FF), data);
+    } else if (character != 0) {
+        PostMessageW(target, message, static_cast<WPARAM>(character), data);
+    }
+}
+
+void postMouse(HWND target, UINT message, WPARAM buttons, POINT place) {
+    PostMessageW(target, message, buttons, MAKELPARAM(place.x, place.y));
+}
+
+void postLeftClick(HWND target, POINT place) {
+    postMouse(target, WM_LBUTTONDOWN, MK_LBUTTON, place);
+    postMouse(target, WM_LBUTTONUP, 0, place);
+}
+
+POINT centerOf(HWND window) {
+    RECT area{};
+    GetClientRect(window, &area);
+    return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
+}
+
+/// Within the window, and a little below the upper end of the caret.
+POINT aimedAt(HWND window, POINT caret) {
+    RECT area{};
+    GetClientRect(window, &area);
+    const auto within = [](LONG place, LONG end) { return std::clamp<LONG>(place, 0, std::max<LONG>(end - 1, 0)); };
+    constexpr LONG BelowTop = 3;
+    return {within(caret.x, area.right), within(caret.y + BelowTop, area.bottom)};
+}
+
+}  // namespace
+
+void Win32FormWindow::activate() {
+    if (GetActiveWindow() != Window_) {
+        SetForegroundWindow(Window_);
+        SetActiveWindow(Window_);
+    }
+    Session_.activate(*this);
+    Session_.settle(true);
+}
+
+HWND Win32FormWindow::keyTarget() const {
+    HWND const focus = GetFocus();
+    return focus != nullptr && IsChild(Window_, focus) != FALSE ? focus : Window_;
+}
+
+void Win32FormWindow::postKey(const KeyStroke& stroke) {
+    const bool alt = (stroke.modifiers & AltKey) != 0 && (stroke.modifiers & ControlKey) == 0;
+    const LPARAM data = keyData(stroke.code, alt, false);
+    HWND const target = keyTarget();
+    if (stroke.code != 0)
+        PostMessageW(target, alt ? WM_SYSKEYDOWN : WM_KEYDOWN, static_cast<WPARAM>(stroke.code), data);
+    postCharacter(target, alt ? WM_SYSCHAR : WM_CHAR, alt ? stroke.character : keyPressCharacter(stroke), data);
+}
+
+void Win32FormWindow::press(const KeyStroke& stroke) {
+    activate();
+    const HeldModifiers held(stroke.modifiers);
+    postKey(stroke);
+    Session_.settle(true);
+    if (stroke.code == 0) return;
+    const bool alt = (stroke.modifiers & AltKey) != 0;
+    PostMessageW(keyTarget(), alt ? WM_SYSKEYUP : WM_KEYUP, static_cast<WPARAM>(stroke.code),
+                 keyData(stroke.code, alt, true));
+    Session_.settle(true);
+}
+
+void Win32FormWindow::strikeSent(std::int16_t code) {
+    const HeldModifiers held(NoModifier);
+    if (code == keys::Tab) {
+        moveByTab(false);
+        return;
+    }
+    postKey({code, characterOf(code), NoModifier});
+    Session_.settle(true);
+}
+
+void Win32FormWindow::focus(PlacedControl& control) {
+    activate();
+    if (HWND const field = static_cast<PlacedWin32Control&>(control).focusTarget()) giveFocus(field, false);
+    Session_.settle(true);
+}
+
+void Win32FormWindow::click(PlacedControl& control, std::int32_t position) {
+    focus(control);
+    HWND const field = static_cast<PlacedWin32Control&>(control).focusTarget();
+    if (field == nullptr) return;
+    auto* const entry = viewOf<Win32TextEntry>(control.control().widgets().entry);
+    postLeftClick(field, entry != nullptr ? aimedAt(field, entry->showPosition(position)) : centerOf(field));
+    Session_.settle(true);
+}
+
+void Win32FormWindow::rightClick(PlacedControl& control) {
+    focus(control);
+    HWND const field = static_cast<PlacedWin32Control&>(control).focusTarget();
+    if (field == nullptr) return;
+    const MenuCloser closer(Window_);
+    const POINT place = centerOf(field);
+    postMouse(field, WM_RBUTTONDOWN, MK_RBUTTON, place);
+    postMouse(field, WM_RBUTTONUP, 0, place);
+    Session_.settle(true);
+}
+
+void Win32FormWindow::spin(PlacedControl& control, bool up) {
+    activate();
+    const UpDown* const spinner = control.control().widgets().upDown;
+    if (spinner == nullptr || !spinner->takesInput()) return;
+    HWND const window = viewOf<Win32UpDown>(spinner)->window();
+    RECT area{};
+    GetClientRect(window, &area);
+    const LONG quarter = area.bottom / 4;
+    postLeftClick(window, {area.right / 2, up ? quarter : area.bottom - quarter});
+    Session_.settle(true);
+}
+
+void Win32FormWindow::pick(PlacedControl& control, std::int32_t item) {
+    activate();
+    const ComboBox* const box = control.control().widgets().comboBox;
+    if (box == nullptr || !box->takesInput()) return;
+    const auto* const seen = viewOf<Win32ComboBox>(box);
+    if (!box->isDropped()) postLeftClick(seen->wholeWindow(), seen->buttonCenter());
+    Session_.settle(true);
+    POINT row{};
+    if (!box->isDropped() || !seen->showRow(item, row)) return;
+    postMouse(seen->listWindow(), WM_MOUSEMOVE, 0, row);
+    postLeftClick(seen->listWindow(), row);
+    Session_.settle(true);
+}
+
+void Win32FormWindow::setClipboard(std::u16string_view text) { Session_.clipboard()->setText(Window_, text); }
+
+PlacedControl* Win32FormWindow::focused() const { return focusedControl(); }
+
+bool Win32FormWindow::savePicture(const std::string& utf8Path) {
+    activate();
+    return savePictureOf(Window_, utf8Path);
+}
+
+}  // namespace kel::win32

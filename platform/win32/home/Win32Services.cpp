@@ -1,0 +1,96 @@
+#include "platform/win32/home/Win32Services.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "platform/win32/base/MessageBox.h"
+#include "platform/win32/base/WideText.h"
+#include "platform/win32/home/Win32Region.h"
+#include "values/Calendar.h"
+
+namespace kel::win32 {
+
+namespace {
+
+constexpr int TwipsPerInch = 1440;
+constexpr int PointsPerInch = 72;
+
+/// The screen, asked for its measures.
+class ScreenContext {
+public:
+    ScreenContext() = default;
+    ~ScreenContext() { ReleaseDC(nullptr, Context_); }
+    ScreenContext(const ScreenContext&) = delete;
+    ScreenContext& operator=(const ScreenContext&) = delete;
+
+    int measure(int what) const { return GetDeviceCaps(Context_, what); }
+
+private:
+    HDC Context_ = GetDC(nullptr);
+};
+
+SYSTEMTIME now() {
+    SYSTEMTIME time{};
+    GetLocalTime(&time);
+    return time;
+}
+
+INPUT keyInput(std::int16_t keyCode, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = static_cast<WORD>(keyCode);
+    input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(static_cast<UINT>(keyCode), MAPVK_VK_TO_VSC));
+    input.ki.dwFlags = flags;
+    return input;
+}
+
+}  // namespace
+
+Date Win32System::today() const {
+    const SYSTEMTIME time = now();
+    return dateOf({time.wYear, time.wMonth, time.wDay}).value_or(Date{});
+}
+
+double Win32System::timer() const {
+    const SYSTEMTIME time = now();
+    return time.wHour * 3600.0 + time.wMinute * 60.0 + time.wSecond + time.wMilliseconds / 1000.0;
+}
+
+void Win32System::messageBox(std::u16string_view prompt, std::int32_t style, std::u16string_view title) {
+    showMessageBox(nullptr, prompt, style, title);
+}
+
+void Win32System::beep() { MessageBeep(MB_OK); }
+
+bool Win32System::tabKeyDown() const { return GetKeyState(VK_TAB) < 0; }
+
+std::int32_t Win32System::twipsPerPixel() const {
+    const int dotsPerInch = ScreenContext().measure(LOGPIXELSX);
+    return dotsPerInch > 0 ? std::max(1, (TwipsPerInch + dotsPerInch / 2) / dotsPerInch) : 15;
+}
+
+std::int32_t Win32RuntimeServices::colorDepth() const {
+    const ScreenContext screen;
+    return screen.measure(BITSPIXEL) * screen.measure(PLANES);
+}
+
+const RegionalSettings& Win32RuntimeServices::region() const { return systemRegion(); }
+
+FontChoice Win32RuntimeServices::messageFont() {
+    NONCLIENTMETRICSW metrics{};
+    metrics.cbSize = sizeof metrics;
+    if (SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0) == FALSE) return {u"Tahoma", 8};
+    const int dotsPerInch = std::max(1, ScreenContext().measure(LOGPIXELSY));
+    const double points = std::abs(metrics.lfMessageFont.lfHeight) * static_cast<double>(PointsPerInch) / dotsPerInch;
+    return {unwiden(metrics.lfMessageFont.lfFaceName), std::round(points * 4) / 4};
+}
+
+void Win32RuntimeServices::sendKey(std::int16_t keyCode) {
+    std::array<INPUT, 2> inputs{keyInput(keyCode, 0), keyInput(keyCode, KEYEVENTF_KEYUP)};
+    SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
+}
+
+}  // namespace kel::win32

@@ -1,0 +1,124 @@
+#include "platform/win32/ole/automation/DispatchCaller.h"
+
+#include <dispex.h>
+
+#include <vector>
+
+#include "library/AutomationError.h"
+#include "platform/win32/ole/automation/VariantConversion.h"
+#include "values/Text.h"
+
+namespace kel::win32::ole {
+
+namespace {
+
+/// What an object says about its failure.
+class ExceptionInfo {
+public:
+    ExceptionInfo() = default;
+    ~ExceptionInfo() {
+        SysFreeString(Info_.bstrSource);
+        SysFreeString(Info_.bstrDescription);
+        SysFreeString(Info_.bstrHelpFile);
+    }
+    ExceptionInfo(const ExceptionInfo&) = delete;
+    ExceptionInfo& operator=(const ExceptionInfo&) = delete;
+
+    EXCEPINFO* get() { return &Info_; }
+
+    [[noreturn]] void raise() {
+        if (Info_.pfnDeferredFillIn != nullptr) Info_.pfnDeferredFillIn(&Info_);
+        throw AutomationError(code(), toUtf8(textOf(Info_.bstrDescription)));
+    }
+
+private:
+    HRESULT code() const {
+        if (Info_.scode != 0) return Info_.scode;
+        return MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, Info_.wCode);
+    }
+
+    EXCEPINFO Info_{};
+};
+
+[[noreturn]] void raise(HRESULT code, std::u16string_view name) {
+    throw AutomationError(code, "the run-time object's " + toUtf8(name) + " failed");
+}
+
+/// The arguments as a call wants them, last first. A variable that the member may change is handed over by
+/// reference: to scripts, which know no other, as a variant; to compiled objects as its own type.
+class CallArguments {
+public:
+    CallArguments(std::span<const Variant> values, int out, bool script)
+        : Values_(values.size()), Passed_(values.size()) {
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            toAutomation(values[i], *Values_[i]);
+            VARIANT& passed = Passed_[values.size() - 1 - i];
+            if (static_cast<int>(i) == out) {
+                passed.vt = static_cast<VARTYPE>(VT_BYREF | (script ? VARTYPE{VT_VARIANT} : Values_[i]->vt));
+                passed.byref = script ? static_cast<void*>(Values_[i].get()) : &Values_[i]->byref;
+            } else {
+                passed = *Values_[i];
+            }
+        }
+        Parameters_.rgvarg = Passed_.data();
+        Parameters_.cArgs = static_cast<UINT>(Passed_.size());
+    }
+
+    DISPPARAMS& parameters() { return Parameters_; }
+    Variant value(int index) { return fromAutomation(*Values_[static_cast<std::size_t>(index)]); }
+
+private:
+    std::vector<OwnedVariant> Values_;
+    std::vector<VARIANT> Passed_;
+    DISPPARAMS Parameters_{};
+};
+
+}  // namespace
+
+bool DispatchCaller::isScript() const { return static_cast<bool>(ComPtr<IDispatchEx>::of(Object_.get())); }
+
+DISPID DispatchCaller::idOf(std::u16string_view name) const {
+    std::wstring text = wide(name);
+    wchar_t* names = text.data();
+    DISPID id = DISPID_UNKNOWN;
+    HRESULT result = Object_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id);
+    if (FAILED(result)) {
+        if (const auto script = ComPtr<IDispatchEx>::of(Object_.get())) {
+            const OwnedBstr bstr(name);
+            result = script->GetDispID(bstr.get(), fdexNameCaseInsensitive, &id);
+        }
+    }
+    if (FAILED(result) || id == DISPID_UNKNOWN)
+        throw AutomationError(UnknownNameCode, "the object has no " + toUtf8(name));
+    return id;
+}
+
+HRESULT DispatchCaller::invoke(DISPID id, WORD flags, DISPPARAMS& arguments, VARIANT* result,
+                               std::u16string_view name) const {
+    ExceptionInfo info;
+    const HRESULT outcome =
+        Object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &arguments, result, info.get(), nullptr);
+    if (outcome == DISP_E_EXCEPTION) info.raise();
+    if (FAILED(outcome)) raise(outcome, name);
+    return outcome;
+}
+
+Variant DispatchCaller::call(std::u16string_view name, std::span<Variant> arguments, int out) const {
+    const ComPtr<IDispatch> held = Object_;
+    CallArguments passed(arguments, out, out >= 0 && isScript());
+    OwnedVariant result;
+    invoke(idOf(name), DISPATCH_METHOD | DISPATCH_PROPERTYGET, passed.parameters(), result.get(), name);
+    if (out >= 0) arguments[static_cast<std::size_t>(out)] = passed.value(out);
+    return fromAutomation(*result);
+}
+
+void DispatchCaller::put(std::u16string_view name, const Variant& value) const {
+    const ComPtr<IDispatch> held = Object_;
+    CallArguments passed({&value, 1}, -1, false);
+    DISPID named = DISPID_PROPERTYPUT;
+    passed.parameters().rgdispidNamedArgs = &named;
+    passed.parameters().cNamedArgs = 1;
+    invoke(idOf(name), DISPATCH_PROPERTYPUT, passed.parameters(), nullptr, name);
+}
+
+}  // namespace kel::win32::ole

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <span>
+
+#include "library/Dispatch.h"
+#include "platform/win32/ole/com/Com.h"
+
+namespace kel::win32::ole {
+
+/// Asked before a property is put from outside.
+class PutGate {
+public:
+    /// False: the host wants the property to stay as it is.
+    virtual bool mayPut(const MemberRow& member) = 0;
+
+protected:
+    ~PutGate() = default;
+};
+
+/// What came of reaching for a member.
+struct Outcome {
+    HRESULT code = S_OK;
+    int argument = -1;           ///< the argument at fault, counted from 0; the value of a put comes last
+    std::u16string description;  ///< empty on success
+};
+
+/// Reads, puts and calls the members of one of the library's objects, late-bound or through a function
+/// table. Faults of the caller come back as an outcome, failures of a member are thrown.
+class MemberAccess {
+public:
+    /// `gate` may be null. Both outlive this.
+    MemberAccess(LibraryObject& object, PutGate* gate) : Object_(object), Gate_(gate) {}
+
+    const ClassModel& model() const { return Object_.model(); }
+    const MemberRow& row(std::size_t index) const { return model().members[index]; }
+
+    Outcome get(const MemberRow& member, std::span<Variant> arguments, Variant& result) const;
+    /// S_FALSE when the host did not let it happen.
+    Outcome put(const MemberRow& member, const Variant& value) const;
+    Outcome call(const MemberRow& member, std::span<Variant> arguments, Variant& result) const;
+
+private:
+    Outcome outcome(DispatchFault fault, const MemberRow& member, std::span<const Variant> arguments) const;
+
+    LibraryObject& Object_;
+    PutGate* Gate_;
+};
+
+}  // namespace kel::win32::ole

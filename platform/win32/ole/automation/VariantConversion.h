@@ -1,0 +1,34 @@
+#pragma once
+
+#include "library/TypeModel.h"
+#include "platform/win32/ole/com/Com.h"
+
+/// Between the system's variants and the library's.
+namespace kel::win32::ole {
+
+/// The value of `in`, references followed. An object comes as `AutomationRuntime`. Throws AutomationError with
+/// DISP_E_TYPEMISMATCH or DISP_E_OVERFLOW for what the library has no value for.
+Variant fromAutomation(const VARIANT& in);
+
+/// The same where a plain value is wanted: an object gives its default property's value.
+Variant valueFromAutomation(const VARIANT& in);
+
+/// The same for a member of this type: an object only where one is wanted, and between texts and dates the form in
+/// which the system writes dates. What does not fit is left to the member.
+Variant valueFromAutomation(const VARIANT& in, TypeTag type);
+
+/// `out` holds nothing before; what it is given is the caller's.
+void toAutomation(const Variant& value, VARIANT& out);
+
+/// Stores a value in the variable that `target`, a reference, points to, as that variable's own type.
+/// Other variants are left alone. Throws AutomationError when the value does not fit.
+void writeBack(const Variant& value, const VARIANT& target);
+
+/// The elements of an array of strings or variants with one dimension; a null array has none.
+StringArray fromSafeArray(SAFEARRAY* array);
+SAFEARRAY* toSafeArray(const StringArray& texts);
+
+/// The type that automation gives a value of the library.
+VARTYPE automationType(TypeTag type);
+
+}  // namespace kel::win32::ole

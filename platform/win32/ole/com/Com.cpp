@@ -1,0 +1,27 @@
+#include "platform/win32/ole/com/Com.h"
+
+#include <array>
+#include <new>
+
+#include "library/AutomationError.h"
+
+namespace kel::win32::ole {
+
+std::wstring textOf(const GUID& guid) {
+    std::array<wchar_t, 40> text{};
+    StringFromGUID2(guid, text.data(), static_cast<int>(text.size()));
+    return text.data();
+}
+
+BSTR makeBstr(std::u16string_view text) {
+    BSTR made = SysAllocStringLen(nullptr, static_cast<UINT>(text.size()));
+    if (made == nullptr) throw std::bad_alloc();
+    std::copy(text.begin(), text.end(), made);
+    return made;
+}
+
+void check(HRESULT result, const char* what) {
+    if (FAILED(result)) throw AutomationError(result, what);
+}
+
+}  // namespace kel::win32::ole

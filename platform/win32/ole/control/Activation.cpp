@@ -1,0 +1,147 @@
+#include "platform/win32/ole/control/Activation.h"
+
+namespace kel::win32::ole {
+
+namespace {
+
+constexpr wchar_t ObjectName[] = L"KelControls8";
+
+/// Sets a flag while it lives.
+class Flag {
+public:
+    explicit Flag(bool& flag) : Flag_(flag) { Flag_ = true; }
+    ~Flag() { Flag_ = false; }
+    Flag(const Flag&) = delete;
+    Flag& operator=(const Flag&) = delete;
+
+private:
+    bool& Flag_;
+};
+
+}  // namespace
+
+HRESULT Activation::activate() {
+    if (inPlace()) return S_OK;
+    if (Busy_) return E_UNEXPECTED;
+    const Flag busy(Busy_);
+    const HRESULT asked = askSite();
+    if (FAILED(asked)) return asked;
+    const HRESULT entered = enterWindow();
+    if (FAILED(entered)) deactivate();
+    return entered;
+}
+
+HRESULT Activation::askSite() {
+    if (!Control_.site()) return E_UNEXPECTED;
+    const auto site = Control_.site().as<IOleInPlaceSite>();
+    if (!site) return E_NOINTERFACE;
+    if (site->CanInPlaceActivate() != S_OK) return E_FAIL;
+    const HRESULT told = site->OnInPlaceActivate();
+    if (FAILED(told)) return told;
+    if (!Control_.site()) return E_UNEXPECTED;
+    Site_ = site;
+    State_ = State::InPlace;
+    return S_OK;
+}
+
+HRESULT Activation::enterWindow() {
+    const ComPtr<IOleInPlaceSite> site = Site_;
+    OLEINPLACEFRAMEINFO info{};
+    info.cb = sizeof info;
+    HWND parent = nullptr;
+    RECT bounds{};
+    RECT clip{};
+    HRESULT result = site->GetWindow(&parent);
+    if (SUCCEEDED(result))
+        result = site->GetWindowContext(Frame_.receive(), Document_.receive(), &bounds, &clip, &info);
+    if (FAILED(result)) return result;
+    if (!inPlace()) return E_UNEXPECTED;
+    Control_.window().setParent(parent);
+    if (Control_.window().handle() == nullptr) return E_FAIL;
+    setRects(bounds, clip);
+    if (!inPlace()) return E_UNEXPECTED;
+    Control_.window().setVisible(true);
+    Control_.appeared();
+    if (!inPlace()) return E_UNEXPECTED;
+    if (IOleClientSite* shown = Control_.site().get()) ComPtr<IOleClientSite>(shown)->ShowObject();
+    return inPlace() ? S_OK : E_UNEXPECTED;
+}
+
+HRESULT Activation::activateUi() {
+    const HRESULT result = activate();
+    if (FAILED(result) || uiActive()) return result;
+    State_ = State::UiActive;
+    const ComPtr<IOleInPlaceSite> site = Site_;
+    const HRESULT told = site->OnUIActivate();
+    if (FAILED(told)) {
+        if (uiActive()) State_ = State::InPlace;
+        return told;
+    }
+    const ComPtr<IOleInPlaceFrame> frame = Frame_;
+    const ComPtr<IOleInPlaceUIWindow> document = Document_;
+    if (frame && uiActive()) frame->SetActiveObject(&Control_.activeObject(), ObjectName);
+    if (document && uiActive()) document->SetActiveObject(&Control_.activeObject(), ObjectName);
+    if (frame && uiActive()) frame->SetBorderSpace(nullptr);
+    return uiActive() ? S_OK : E_UNEXPECTED;
+}
+
+void Activation::deactivateUi() {
+    if (!uiActive()) return;
+    State_ = State::InPlace;
+    const ComPtr<IOleInPlaceSite> site = Site_;
+    const ComPtr<IOleInPlaceFrame> frame = Frame_;
+    const ComPtr<IOleInPlaceUIWindow> document = Document_;
+    if (document) document->SetActiveObject(nullptr, nullptr);
+    if (frame) frame->SetActiveObject(nullptr, nullptr);
+    site->OnUIDeactivate(FALSE);
+}
+
+void Activation::deactivate() {
+    if (!inPlace()) return;
+    deactivateUi();
+    if (!inPlace()) return;
+    State_ = State::Passive;
+    const ComPtr<IOleInPlaceSite> site = std::move(Site_);
+    Frame_ = {};
+    Document_ = {};
+    Control_.window().setVisible(false);
+    Control_.window().setParent(nullptr);
+    site->OnInPlaceDeactivate();
+}
+
+HRESULT Activation::setRects(const RECT& bounds, const RECT& clip) {
+    if (!inPlace()) return E_UNEXPECTED;
+    Bounds_ = bounds;
+    Clip_ = clip;
+    if (Placing_) {
+        place();
+        return S_OK;
+    }
+    const Flag placing(Placing_);
+    Control_.takeExtent(fromPixels(bounds, Control_.twipsPerPixel()));
+    applyExtent();
+    return S_OK;
+}
+
+void Activation::extentChanged() {
+    if (!inPlace() || Placing_) return;
+    const Flag placing(Placing_);
+    applyExtent();
+}
+
+/// Shows the window in the size that the control has, and tells the host when that is not the one it gave.
+void Activation::applyExtent() {
+    const SIZE wanted = toPixels(Control_.extent(), Control_.twipsPerPixel());
+    const bool differs = wanted.cx != Bounds_.right - Bounds_.left || wanted.cy != Bounds_.bottom - Bounds_.top;
+    Bounds_.right = Bounds_.left + wanted.cx;
+    Bounds_.bottom = Bounds_.top + wanted.cy;
+    place();
+    const ComPtr<IOleInPlaceSite> site = Site_;
+    if (differs && site) site->OnPosRectChange(&Bounds_);
+}
+
+void Activation::place() {
+    if (inPlace()) Control_.window().place(Bounds_, Clip_);
+}
+
+}  // namespace kel::win32::ole

@@ -1,0 +1,81 @@
+#include "platform/win32/ole/control/ClientSite.h"
+
+#include "library/AutomationError.h"
+#include "platform/win32/ole/automation/DispatchCaller.h"
+#include "platform/win32/ole/automation/VariantConversion.h"
+
+namespace kel::win32::ole {
+
+namespace {
+
+constexpr std::u16string_view ToolTipName = u"ToolTipText";
+
+/// The text in a variant that a container gave; anything else is no text.
+std::u16string textIn(const VARIANT& value) { return value.vt == VT_BSTR ? textOf(value.bstrVal) : std::u16string(); }
+
+}  // namespace
+
+std::u16string ClientSite::displayName() const {
+    const auto ambient = as<IDispatch>();
+    if (!ambient) return {};
+    OwnedVariant name;
+    DISPPARAMS none{};
+    const HRESULT result = ambient->Invoke(DISPID_AMBIENT_DISPLAYNAME, IID_NULL, LOCALE_USER_DEFAULT,
+                                           DISPATCH_PROPERTYGET, &none, name.get(), nullptr, nullptr);
+    return SUCCEEDED(result) ? textIn(*name) : std::u16string();
+}
+
+ComPtr<IDispatch> ClientSite::extendedControl() const {
+    ComPtr<IDispatch> extended;
+    if (const auto site = as<IOleControlSite>()) {
+        if (FAILED(site->GetExtendedControl(extended.receive()))) return {};
+    }
+    return extended;
+}
+
+std::u16string ClientSite::toolTipText() const {
+    const auto extended = extendedControl();
+    if (!extended) return {};
+    try {
+        const Variant text = DispatchCaller(extended).get(ToolTipName);
+        const auto* const found = std::get_if<std::u16string>(&text);
+        return found != nullptr ? *found : std::u16string();
+    } catch (const AutomationError&) {
+        return {};
+    }
+}
+
+void ClientSite::setToolTipText(std::u16string_view text) const {
+    const auto extended = extendedControl();
+    if (!extended) return;
+    try {
+        DispatchCaller(extended).put(ToolTipName, std::u16string(text));
+    } catch (const AutomationError&) {  // an extender without tooltips
+    }
+}
+
+void ClientSite::onFocus(bool has) const {
+    if (const auto site = as<IOleControlSite>()) site->OnFocus(has ? TRUE : FALSE);
+}
+
+void ClientSite::pressTab(HWND window) const {
+    const auto site = as<IOleControlSite>();
+    if (!site) return;
+    MSG tab{};
+    tab.hwnd = window;
+    tab.message = WM_KEYDOWN;
+    tab.wParam = VK_TAB;
+    tab.lParam = 1 | static_cast<LPARAM>(MapVirtualKeyW(VK_TAB, MAPVK_VK_TO_VSC)) << 16;
+    site->TranslateAccelerator(&tab, 0);
+}
+
+void ClientSite::controlInfoChanged() const {
+    if (const auto site = as<IOleControlSite>()) site->OnControlInfoChanged();
+}
+
+void ClientSite::saveObject() const {
+    const ComPtr<IOleClientSite> site = Site_;
+    if (site) site->SaveObject();
+}
+
+}  // namespace kel::win32::ole

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/win32/ole/com/Com.h"
+
+namespace kel::win32::ole {
+
+/// A control's place in its container, as far as the container offers one: everything here does nothing,
+/// or gives nothing, where it does not.
+class ClientSite {
+public:
+    void set(IOleClientSite* site) { Site_ = ComPtr<IOleClientSite>(site); }
+    IOleClientSite* get() const { return Site_.get(); }
+    explicit operator bool() const { return static_cast<bool>(Site_); }
+
+    /// Another interface of the site.
+    template <class I>
+    ComPtr<I> as() const {
+        return ComPtr<I>::of(Site_.get());
+    }
+
+    /// The name that the container knows the control by.
+    std::u16string displayName() const;
+
+    /// "ToolTipText" of the container's extended control; failures read as "" and are passed over.
+    std::u16string toolTipText() const;
+    void setToolTipText(std::u16string_view text) const;
+
+    void onFocus(bool has) const;
+    /// The Tab key, as if it had been pressed in `window`.
+    void pressTab(HWND window) const;
+    void controlInfoChanged() const;
+    void saveObject() const;
+
+private:
+    ComPtr<IDispatch> extendedControl() const;
+
+    ComPtr<IOleClientSite> Site_;
+};
+
+}  // namespace kel::win32::ole

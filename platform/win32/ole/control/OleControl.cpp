@@ -1,0 +1,181 @@
+#include "platform/win32/ole/control/OleControl.h"
+
+#include <algorithm>
+
+#include "platform/win32/home/Win32Region.h"
+
+namespace kel::win32::ole {
+
+OleControl::OleControl(Library& library, const ClassModel& model, const ClassIdentity& identity, IUnknown* outer)
+    : ComObject(library.module(), outer),
+      Library_(library),
+      Model_(model),
+      Identity_(identity),
+      System_(*this, library.system()),
+      Activation_(*this),
+      Connections_(*this, toGuid(identity.events)),
+      OleObject_(*this),
+      OleControl_(*this),
+      QuickActivate_(*this),
+      ClassInfo_(*this, identity, library),
+      PropertyPages_(*this),
+      InPlaceObject_(*this),
+      ActiveObject_(*this),
+      View_(*this),
+      Data_(*this),
+      PersistBag_(*this),
+      PersistStream_(*this),
+      PersistStorage_(*this),
+      Window_(makeControlWindow(*this, System_)) {
+    ControlHost host{*this, Window_->widgets(), System_, library.settings(), systemRegion()};
+    Control_ = model.makeControl(host);
+    Control_->Initialize();
+}
+
+OleControl::~OleControl() {
+    Dying_ = true;
+    Control_.reset();
+    Window_.reset();
+}
+
+void* OleControl::find(REFIID iid) {
+    void* found = nullptr;
+    const auto offer = [&](void* interfaceOfPart) {
+        if (found == nullptr) found = interfaceOfPart;
+        return found != nullptr;
+    };
+    static_cast<void>(offer(asOneOf<IOleObject>(iid, OleObject_)) || offer(asOneOf<IOleControl>(iid, OleControl_)) ||
+                      offer(asOneOf<IOleWindow, IOleInPlaceObject>(iid, InPlaceObject_)) ||
+                      offer(asOneOf<IOleInPlaceActiveObject>(iid, ActiveObject_)) ||
+                      offer(asOneOf<IViewObject, IViewObject2>(iid, View_)) ||
+                      offer(asOneOf<IDataObject>(iid, Data_)) ||
+                      offer(asOneOf<IPersist, IPersistStreamInit>(iid, PersistStream_)) ||
+                      offer(asOneOf<IPersistPropertyBag>(iid, PersistBag_)) ||
+                      offer(asOneOf<IPersistStorage>(iid, PersistStorage_)) ||
+                      offer(asOneOf<IConnectionPointContainer>(iid, Connections_)) ||
+                      offer(asOneOf<IProvideClassInfo, IProvideClassInfo2, ISupportErrorInfo>(iid, ClassInfo_)) ||
+                      offer(asOneOf<IQuickActivate>(iid, QuickActivate_)) ||
+                      offer(asOneOf<ISpecifyPropertyPages>(iid, PropertyPages_)));
+    return found;
+}
+
+// ---- Size
+
+void OleControl::takeExtent(Size twips) {
+    if (HasExtent_ && twips == Extent_) return;
+    Extent_ = twips;
+    HasExtent_ = true;
+    Control_->Resize();
+}
+
+void OleControl::setSize(Size size) {
+    if (HasExtent_ && size == Extent_) return;
+    takeExtent(size);
+    Activation_.extentChanged();
+}
+
+SIZEL OleControl::himetricExtent() const { return fromHimetric(Given_) == Extent_ ? Given_ : toHimetric(Extent_); }
+
+void OleControl::takeHimetricExtent(const SIZEL& size) {
+    Given_ = size;
+    takeExtent(fromHimetric(size));
+}
+
+// ---- Birth and end
+
+HRESULT OleControl::begin(const std::function<void()>& load) {
+    if (Birth_ != Birth::Made) return E_UNEXPECTED;
+    Birth_ = Birth::Beginning;
+    try {
+        load();
+    } catch (...) {
+        Birth_ = Birth::Made;
+        throw;
+    }
+    Birth_ = Birth::Begun;
+    Dirty_ = false;
+    return S_OK;
+}
+
+void OleControl::setSite(IOleClientSite* site) {
+    if (site == Site_.get()) return;
+    Activation_.deactivate();
+    Site_.set(site);
+}
+
+HRESULT OleControl::close(bool save) {
+    if (save && Dirty_) Site_.saveObject();
+    Activation_.deactivate();
+    return S_OK;
+}
+
+void OleControl::freezeEvents(bool freeze) { FrozenDepth_ = std::max(0, FrozenDepth_ + (freeze ? 1 : -1)); }
+
+// ---- What the control says to its host
+
+void OleControl::setEnabled(bool enabled) {
+    Enabled_ = enabled;
+    Window_->setEnabled(enabled);
+}
+
+std::int32_t OleControl::windowHandle() {
+    // Window handles have 32 significant bits in 64-bit processes too.
+    return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(Window_->handle()));
+}
+
+void OleControl::propertyChanged(const MemberRow& property) {
+    Dirty_ = true;
+    Connections_.Notify.changed(property.id);
+}
+
+bool OleControl::mayPut(const MemberRow& member) {
+    return !member.isPersisted() || Connections_.Notify.mayChange(member.id);
+}
+
+void OleControl::raiseEvent(const EventRow& event, std::span<Variant> arguments) {
+    if (FrozenDepth_ > 0 || Dying_) return;
+    const Hold hold(outer());
+    Connections_.Events.raise(event, arguments);
+}
+
+// ---- What the window says
+
+void OleControl::holdOpen() {
+    if (!Dying_) outer().AddRef();
+}
+
+void OleControl::letGo() {
+    if (!Dying_) outer().Release();
+}
+
+void OleControl::focusEntered() {
+    if (Dying_) return;
+    Activation_.activateUi();
+    Site_.onFocus(true);
+    if (std::exchange(Entered_, true)) return;
+    Control_->EnterFocus();
+}
+
+void OleControl::focusLeft() {
+    if (Dying_ || !std::exchange(Entered_, false)) return;
+    Control_->ExitFocus();
+    Site_.onFocus(false);
+}
+
+/// The host alone knows its order of Tab: it is given the key.
+void OleControl::passFocusOn() {
+    if (Dying_) return;
+    HWND const field = GetFocus();
+    Window_->setFocus();
+    if (GetFocus() == field) Site_.pressTab(field);
+}
+
+void OleControl::viewChanged() {
+    if (!Dying_ && !Activation_.inPlace()) View_.outOfDate();
+}
+
+void OleControl::mnemonicChanged() {
+    if (!Dying_) Site_.controlInfoChanged();
+}
+
+}  // namespace kel::win32::ole

@@ -1,0 +1,144 @@
+#pragma once
+
+#include <functional>
+
+#include "host/Container.h"
+#include "library/Control.h"
+#include "platform/win32/control/ControlWindow.h"
+#include "platform/win32/ole/automation/Library.h"
+#include "platform/win32/ole/com/ConnectionPoints.h"
+#include "platform/win32/ole/control/Activation.h"
+#include "platform/win32/ole/control/ControlParts.h"
+#include "platform/win32/ole/control/ControlSystem.h"
+#include "platform/win32/ole/control/InPlaceParts.h"
+#include "platform/win32/ole/control/PersistParts.h"
+#include "platform/win32/ole/control/ViewParts.h"
+
+namespace kel::win32::ole {
+
+/// A control as component hosts see it: the control itself, its window, its place in the host, and the
+/// parts through which the host works them. The dispatch interface comes with `ControlObject`.
+class OleControl : public ComObject,
+                   private Container,
+                   private ControlWindowOwner,
+                   private Activated,
+                   protected PutGate {
+public:
+    OleControl(Library& library, const ClassModel& model, const ClassIdentity& identity, IUnknown* outer);
+    ~OleControl() override;
+
+    // ---- For the parts
+
+    Library& library() const { return Library_; }
+    const ClassModel& model() const { return Model_; }
+    const ClassIdentity& identity() const { return Identity_; }
+    Control& control() const { return *Control_; }
+    ControlWindow& window() override { return *Window_; }
+    ClientSite& site() override { return Site_; }
+    Activation& activation() { return Activation_; }
+    ConnectionPointsPart& connections() { return Connections_; }
+    ViewPart& view() { return View_; }
+
+    /// Twips; a usual size until the host gives one.
+    Size extent() const override { return Extent_; }
+    void takeExtent(Size twips) override;
+
+    /// The same in hundredths of a millimetre; what the host gave comes back to the last digit.
+    SIZEL himetricExtent() const;
+    void takeHimetricExtent(const SIZEL& size);
+
+    bool dirty() const { return Dirty_; }
+    void setClean() { Dirty_ = false; }
+
+    /// Runs the control's first loading, or its first defaults. E_UNEXPECTED when that has happened before;
+    /// a failure leaves the control as it was made.
+    HRESULT begin(const std::function<void()>& load);
+
+    void freezeEvents(bool freeze);
+    void setSite(IOleClientSite* site);
+    HRESULT close(bool save);
+
+protected:
+    void* find(REFIID iid) override;
+    bool mayPut(const MemberRow& member) override;
+
+private:
+    // Container
+    bool hasSize() const override { return HasExtent_; }
+    Size size() const override { return Extent_; }
+    void setSize(Size size) override;
+    bool enabled() const override { return Enabled_; }
+    void setEnabled(bool enabled) override;
+    std::int32_t windowHandle() override;
+    std::u16string displayName() const override { return Site_.displayName(); }
+    void propertyChanged(const MemberRow& property) override;
+    void raiseEvent(const EventRow& event, std::span<Variant> arguments) override;
+    std::u16string toolTipText() const override { return Site_.toolTipText(); }
+    void setToolTipText(std::u16string_view text) override { Site_.setToolTipText(text); }
+
+    // ControlWindowOwner
+    void holdOpen() override;
+    void letGo() override;
+    void focusEntered() override;
+    void focusLeft() override;
+    void passFocusOn() override;
+    void viewChanged() override;
+    void mnemonicChanged() override;
+
+    // Activated
+    IOleInPlaceActiveObject& activeObject() override { return ActiveObject_; }
+    int twipsPerPixel() const override { return System_.twipsPerPixel(); }
+    void appeared() override { Control_->Show(); }
+
+    enum class Birth { Made, Beginning, Begun };
+
+    Library& Library_;
+    const ClassModel& Model_;
+    const ClassIdentity& Identity_;
+    ControlSystem System_;
+    ClientSite Site_;
+    Size Extent_{3600, 300};
+    SIZEL Given_{0, 0};  ///< last size in hundredths of a millimetre
+    bool HasExtent_ = false;
+    bool Enabled_ = true;
+    bool Dirty_ = false;
+    bool Entered_ = false;
+    bool Dying_ = false;
+    Birth Birth_ = Birth::Made;
+    int FrozenDepth_ = 0;
+    Activation Activation_;
+    ConnectionPointsPart Connections_;
+    OleObjectPart OleObject_;
+    OleControlPart OleControl_;
+    QuickActivatePart QuickActivate_;
+    ClassInfoPart ClassInfo_;
+    PropertyPagesPart PropertyPages_;
+    InPlaceObjectPart InPlaceObject_;
+    ActiveObjectPart ActiveObject_;
+    ViewPart View_;
+    DataPart Data_;
+    PersistBagPart PersistBag_;
+    PersistStreamPart PersistStream_;
+    PersistStoragePart PersistStorage_;
+    std::unique_ptr<ControlWindow> Window_;
+    std::unique_ptr<Control> Control_;  ///< last: it leans on all of the above
+};
+
+/// A control with its dispatch interface. `Dual` forwards the function table of `Interface`.
+template <class Dual, class Interface>
+class ControlObject final : public OleControl {
+public:
+    ControlObject(Library& library, const ClassModel& model, const ClassIdentity& identity, IUnknown* outer)
+        : OleControl(library, model, identity, outer), Dual_(*this, control(), this, library) {}
+
+protected:
+    void* find(REFIID iid) override {
+        void* const found = asOneOf<IDispatch, Interface>(iid, Dual_);
+        return found != nullptr ? found : OleControl::find(iid);
+    }
+
+private:
+    Dual Dual_;
+};
+
+}  // namespace kel::win32::ole

@@ -1,0 +1,282 @@
+#include "platform/win32/widgets/Win32CheckBox.h"
+
+#include <commctrl.h>
+#include <vssym32.h>
+
+#include <algorithm>
+
+#include "platform/win32/base/WideText.h"
+#include "platform/win32/widgets/EditInput.h"
+#include "values/Text.h"
+
+namespace kel::win32 {
+
+namespace {
+
+constexpr std::int32_t BoxSize = 195;    ///< twips
+constexpr std::int32_t CaptionGap = 60;  ///< between box and caption, twips
+
+const WindowClass& buttonClass() {
+    static const WindowClass Class(L"KelControls8.CheckBox", L"BUTTON");
+    return Class;
+}
+
+/// Messages in whose course the system's button paints itself, or should look another.
+bool changesLook(UINT message) {
+    switch (message) {
+        case WM_SETFOCUS:
+        case WM_KILLFOCUS:
+        case WM_ENABLE:
+        case WM_KEYDOWN:
+        case WM_KEYUP:
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+        case WM_LBUTTONUP:
+        case WM_MOUSELEAVE:
+        case WM_CANCELMODE:
+        case WM_CAPTURECHANGED:
+        case WM_UPDATEUISTATE:
+        case WM_THEMECHANGED:
+        case BM_SETSTATE: return true;
+        default: return false;
+    }
+}
+
+UINT frameState(std::int32_t value) {
+    switch (value) {
+        case CheckBox::Unchecked: return DFCS_BUTTONCHECK;
+        case CheckBox::Checked: return DFCS_BUTTONCHECK | DFCS_CHECKED;
+        default: return DFCS_BUTTON3STATE | DFCS_CHECKED;
+    }
+}
+
+/// The visual styles count four looks of each value.
+int themeState(std::int32_t value, int look) {
+    const int first = value == CheckBox::Unchecked ? CBS_UNCHECKEDNORMAL
+                      : value == CheckBox::Checked ? CBS_CHECKEDNORMAL
+                                                   : CBS_MIXEDNORMAL;
+    return first + look - CBS_UNCHECKEDNORMAL;
+}
+
+/// A tick looks the same in windows that count from the right: turns the context around for as long as it is saved,
+/// and returns where `area` is then.
+RECT turned(HDC context, const RECT& area) {
+    if ((GetLayout(context) & LAYOUT_RTL) == 0) return area;
+    POINT corners[] = {{area.left, area.top}, {area.right, area.bottom}};
+    LPtoDP(context, corners, 2);
+    SetLayout(context, 0);
+    DPtoLP(context, corners, 2);
+    // What is counted from the right names the pixel, and its other edge.
+    return {corners[1].x + 1, corners[0].y, corners[0].x + 1, corners[1].y};
+}
+
+}  // namespace
+
+Win32CheckBox::Win32CheckBox(ControlFrame& frame, CheckBox& box) : ChildField(box), PaintedWindow(frame), Box_(box) {
+    frame.addField(*this);
+}
+
+Win32CheckBox::~Win32CheckBox() {
+    frame().removeField(*this);
+    destroy();
+}
+
+// ---- The window
+
+void Win32CheckBox::makeWindow() {
+    if (create(buttonClass(), frame().window(), WS_TABSTOP | BS_3STATE, pixelsOf(Box_))) show(Changes::all());
+}
+
+void Win32CheckBox::outOfDate() {
+    const Changes changes = Box_.takeChanges();
+    if (changes.has(Change::Font)) Font_.choose(Box_.font(), frame().grid());
+    if (window() != nullptr) show(changes);
+    if (changes.has(Change::Visible)) frame().captionChanged();
+    paintAgain();
+    if (changes.has(Change::Mnemonic)) frame().mnemonicChanged();
+}
+
+void Win32CheckBox::show(Changes changes) {
+    if (changes.has(Change::Place)) placeAs(Box_);
+    if (changes.has(Change::Font)) base(WM_SETFONT, reinterpret_cast<WPARAM>(Font_.handle()));
+    if (changes.has(Change::Caption)) base(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(wide(Box_.caption()).c_str()));
+    if (changes.has(Change::Value)) base(BM_SETCHECK, static_cast<WPARAM>(Box_.value()));
+    if (changes.has(Change::Enabled)) EnableWindow(window(), Box_.enabled());
+    if (changes.has(Change::ToolTip)) frame().setToolTip(window(), wide(Box_.toolTip()).c_str());
+    if (changes.has(Change::Visible)) ShowWindow(window(), Box_.visible() ? SW_SHOWNA : SW_HIDE);
+}
+
+void Win32CheckBox::rescale() {
+    Font_.rescale(frame().grid());
+    if (window() != nullptr) show(Change::Font | Change::Place);
+    paintAgain();
+}
+
+void Win32CheckBox::paintAgain() {
+    invalidate();
+    frame().viewChanged();
+}
+
+// ---- Picture
+
+bool Win32CheckBox::isIn(UINT buttonState) const {
+    return window() != nullptr && (static_cast<UINT>(base(BM_GETSTATE)) & buttonState) != 0;
+}
+
+bool Win32CheckBox::hides(UINT interfaceState) const {
+    return window() != nullptr && (static_cast<UINT>(base(WM_QUERYUISTATE)) & interfaceState) != 0;
+}
+
+int Win32CheckBox::baseline() const {
+    const RECT area = pixelsOf(Box_);
+    const TEXTMETRICW metrics = Font_.metrics(window());
+    return static_cast<int>(area.top + (heightOf(area) - metrics.tmHeight) / 2 + metrics.tmAscent);
+}
+
+void Win32CheckBox::draw(HDC context, POINT origin) const {
+    RECT area = pixelsOf(Box_);
+    OffsetRect(&area, origin.x, origin.y);
+    paint(context, area, nullptr);
+}
+
+/// The button itself knows whether it has a visual style.
+void Win32CheckBox::paint(HDC context, const RECT& area) const { paint(context, area, GetWindowTheme(window())); }
+
+void Win32CheckBox::paint(HDC context, const RECT& area, HTHEME theme) const {
+    const SavedContext saved(context);
+    FillRect(context, &area, colors(context));
+    IntersectClipRect(context, area.left, area.top, area.right, area.bottom);
+    const RECT box = boxIn(area);
+    paintBox(context, box, theme);
+    paintCaption(context, {box.right + frame().grid().pixel(CaptionGap), area.top, area.right, area.bottom});
+}
+
+/// A control that takes no input leaves the caption as it is.
+HBRUSH Win32CheckBox::colors(HDC context) const { return setColors(context, Box_, Box_.enabled()); }
+
+RECT Win32CheckBox::boxIn(const RECT& area) const {
+    const int size = frame().grid().pixel(BoxSize);
+    const LONG top = area.top + (heightOf(area) - size) / 2;
+    return {area.left, top, area.left + size, top + size};
+}
+
+void Win32CheckBox::paintBox(HDC context, const RECT& place, HTHEME theme) const {
+    const SavedContext saved(context);
+    RECT box = turned(context, place);
+    if (theme != nullptr) {
+        const int look = !Box_.enabled()    ? CBS_UNCHECKEDDISABLED
+                         : isIn(BST_PUSHED) ? CBS_UNCHECKEDPRESSED
+                         : isIn(BST_HOT)    ? CBS_UNCHECKEDHOT
+                                            : CBS_UNCHECKEDNORMAL;
+        DrawThemeBackground(theme, context, BP_CHECKBOX, themeState(Box_.value(), look), &box, nullptr);
+        return;
+    }
+    const UINT look = (isIn(BST_PUSHED) ? DFCS_PUSHED : 0U) | (Box_.enabled() ? 0U : DFCS_INACTIVE);
+    DrawFrameControl(context, &box, DFC_BUTTON, frameState(Box_.value()) | look);
+}
+
+void Win32CheckBox::paintCaption(HDC context, const RECT& area) const {
+    SelectObject(context, Font_.handle());
+    SetBkMode(context, TRANSPARENT);
+    const std::wstring text = wide(Box_.caption());
+    const UINT flags = DT_SINGLELINE | readingOrder(context) | (hides(UISF_HIDEACCEL) ? DT_HIDEPREFIX : 0U);
+    RECT place = area;
+    DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &place, flags | DT_CALCRECT);
+    OffsetRect(&place, 0, (heightOf(area) - heightOf(place)) / 2);
+    DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &place, flags | DT_NOCLIP);
+    if (window() == nullptr || GetFocus() != window() || hides(UISF_HIDEFOCUS)) return;
+    // Around nothing the frame would not be seen.
+    if (text.empty()) place = area;
+    InflateRect(&place, 1, 1);
+    const RECT room{area.left - 1, area.top, area.right, area.bottom};
+    IntersectRect(&place, &place, &room);
+    SetTextColor(context, RGB(0, 0, 0));
+    SetBkColor(context, RGB(255, 255, 255));
+    DrawFocusRect(context, &place);
+}
+
+// ---- What comes to the window
+
+LRESULT Win32CheckBox::handle(UINT message, WPARAM wide, LPARAM data) {
+    LRESULT result = 0;
+    switch (message) {
+        case WM_SETFOCUS:
+            result = native(message, wide, data);
+            frame().arrived(*this);
+            return result;
+        case WM_KILLFOCUS:
+            result = native(message, wide, data);
+            frame().departed(reinterpret_cast<HWND>(wide));
+            return result;
+        case WM_GETDLGCODE: return dialogCode(reinterpret_cast<const MSG*>(data));
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+        case WM_RBUTTONDOWN: return Box_.takePress() ? native(message, wide, data) : 0;
+        case WM_KEYDOWN: return keyDown(message, wide, data);
+        case WM_LBUTTONUP:
+        case WM_KEYUP: return released(message, wide, data);
+        case WM_CHAR: typed(static_cast<char16_t>(wide)); return 0;
+        case BM_CLICK: Box_.press(); return 0;
+        case BM_SETCHECK: Box_.setValue(static_cast<std::int32_t>(std::min<WPARAM>(wide, CheckBox::Grey))); return 0;
+        case WM_SETTEXT: Box_.setCaption(textIn(data)); return TRUE;
+        default: return native(message, wide, data);
+    }
+}
+
+/// What the system's button does, and our picture behind its own.
+LRESULT Win32CheckBox::native(UINT message, WPARAM wide, LPARAM data) {
+    const LRESULT result = PaintedWindow::handle(message, wide, data);
+    if (changesLook(message) || (message == WM_MOUSEMOVE && GetCapture() == window())) invalidate();
+    return result;
+}
+
+LRESULT Win32CheckBox::notified(UINT notification, LPARAM /*details*/) {
+    if (notification == BN_CLICKED) Clicked_ = true;
+    return 0;
+}
+
+/// The listener may do away with the window, which the system's button would not survive in the middle of its work:
+/// it is told afterwards.
+LRESULT Win32CheckBox::released(UINT message, WPARAM wide, LPARAM data) {
+    const LRESULT result = native(message, wide, data);
+    if (std::exchange(Clicked_, false)) Box_.release();
+    return result;
+}
+
+// ---- Keys
+
+bool Win32CheckBox::wantsKey(const KeyStroke& stroke) const {
+    if ((stroke.modifiers & (AltKey | ControlKey)) != 0) return false;
+    const bool isArrow = stroke.code >= keys::Left && stroke.code <= keys::Down;
+    return isArrow || stroke.code == keys::Space || stroke.code == keys::Enter;
+}
+
+LRESULT Win32CheckBox::dialogCode(const MSG* asked) const {
+    const LRESULT always = base(WM_GETDLGCODE) | DLGC_WANTARROWS | DLGC_WANTCHARS;
+    return asked != nullptr && asked->wParam == VK_RETURN ? always | DLGC_WANTMESSAGE : always;
+}
+
+/// The key together with what it types, so that a message box that the listener opens does not find the character in
+/// the queue.
+LRESULT Win32CheckBox::keyDown(UINT message, WPARAM wide, LPARAM data) {
+    const std::u16string units = takeCharacters(window(), data);
+    const LRESULT result = native(message, wide, data);
+    for (const char16_t unit : units) typed(unit);
+    return result;
+}
+
+/// The space bar has pressed the button by now, and toggles when it goes up; a character that came without a key
+/// toggles at once.
+void Win32CheckBox::typed(char16_t unit) {
+    // Half a pair is no character.
+    if (unit == keys::Tab || unit == DeleteCharacter || isHighSurrogate(unit) || isLowSurrogate(unit)) return;
+    const bool presses = Box_.typed(unit) == CheckBox::Key::Presses;
+    if (window() == nullptr) return;
+    const bool isPressed = isIn(BST_PUSHED);
+    if (presses && !isPressed)
+        Box_.release();
+    else if (!presses && isPressed)
+        ReleaseCapture();
+}
+
+}  // namespace kel::win32

@@ -1,0 +1,143 @@
+#include "platform/win32/widgets/Win32PictureBox.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+#include "platform/win32/base/WideText.h"
+
+namespace kel::win32 {
+
+namespace {
+
+constexpr int WholeBar = 100;
+
+/// The system registers the base class at the latest when it is asked to.
+const WindowClass& progressClass() {
+    static const WindowClass Class = [] {
+        const INITCOMMONCONTROLSEX wanted{sizeof wanted, ICC_PROGRESS_CLASS};
+        InitCommonControlsEx(&wanted);
+        return WindowClass(L"KelControls8.PictureBox", PROGRESS_CLASSW);
+    }();
+    return Class;
+}
+
+/// A part of the picture with what there is of the text in it.
+void paintPart(HDC context, const RECT& part, COLORREF ground, COLORREF ink, POINT place, const std::wstring& text) {
+    FillRect(context, &part, brushFor(context, ground));
+    SetTextColor(context, ink);
+    ExtTextOutW(context, static_cast<int>(place.x), static_cast<int>(place.y), ETO_CLIPPED, &part, text.c_str(),
+                static_cast<UINT>(text.size()), nullptr);
+}
+
+LRESULT rangeOfBar(bool lowest, PBRANGE* range) {
+    if (range != nullptr) *range = {0, WholeBar};
+    return lowest ? 0 : WholeBar;
+}
+
+}  // namespace
+
+Win32PictureBox::Win32PictureBox(ControlFrame& frame, PictureBox& box) : PaintedWindow(frame), Box_(box) {
+    frame.add(*this);
+}
+
+Win32PictureBox::~Win32PictureBox() {
+    frame().remove(*this);
+    destroy();
+}
+
+// ---- The window
+
+void Win32PictureBox::makeWindow() {
+    if (!create(progressClass(), frame().window(), 0, pixelsOf(Box_))) return;
+    EnableWindow(window(), Box_.enabled());
+    showToolTip();
+    ShowWindow(window(), SW_SHOWNA);
+}
+
+void Win32PictureBox::outOfDate() {
+    const Changes changes = Box_.takeChanges();
+    if (changes.has(Change::Place)) placeAs(Box_);
+    if (changes.has(Change::Enabled) && window() != nullptr) EnableWindow(window(), Box_.enabled());
+    if (changes.has(Change::Font)) Font_.choose(Box_.font(), frame().grid());
+    if (changes.has(Change::ToolTip)) showToolTip();
+    paintAgain();
+    if (changes.has(Change::Percent) && window() != nullptr)
+        NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, window(), OBJID_CLIENT, CHILDID_SELF);
+}
+
+void Win32PictureBox::rescale() {
+    Font_.rescale(frame().grid());
+    placeAs(Box_);
+    paintAgain();
+}
+
+void Win32PictureBox::showToolTip() {
+    if (window() != nullptr) frame().setToolTip(window(), wide(Box_.toolTip()).c_str());
+}
+
+// ---- Picture
+
+Size Win32PictureBox::extentOf(std::u16string_view text) const {
+    const WindowContext context(window());
+    const Selected selected(context.get(), Font_.handle());
+    const std::wstring units = wide(text);
+    SIZE size{};
+    GetTextExtentPoint32W(context.get(), units.c_str(), static_cast<int>(units.size()), &size);
+    const TwipGrid& grid = frame().grid();
+    return {grid.twips(static_cast<int>(size.cx)), grid.twips(static_cast<int>(size.cy))};
+}
+
+void Win32PictureBox::paintAgain() {
+    invalidate();
+    frame().viewChanged();
+}
+
+void Win32PictureBox::paintNow() {
+    if (window() != nullptr) UpdateWindow(window());
+}
+
+void Win32PictureBox::draw(HDC context, POINT origin) const {
+    RECT area = pixelsOf(Box_);
+    OffsetRect(&area, origin.x, origin.y);
+    paint(context, area);
+}
+
+void Win32PictureBox::paint(HDC context, const RECT& area) const {
+    const SavedContext saved(context);
+    const TwipGrid& grid = frame().grid();
+    const BarPicture& picture = Box_.picture();
+    const RECT inControl = pixelsOf(Box_);
+    const Rect place = Box_.bounds();
+    const POINT text{area.left - inControl.left + grid.pixel(place.left + picture.textLeft),
+                     area.top - inControl.top + grid.pixel(place.top + picture.textTop)};
+    const LONG end = area.left - inControl.left + grid.pixel(place.left + picture.barWidth);
+    const RECT bar{area.left, area.top, std::clamp(end, area.left, area.right), area.bottom};
+
+    SelectObject(context, Font_.handle());
+    SetBkMode(context, TRANSPARENT);
+    SetTextAlign(context, TA_LEFT | TA_TOP | TA_NOUPDATECP);
+    const std::wstring units = wide(picture.text);
+    const COLORREF fore = colorOf(Box_.foreColor());
+    const COLORREF ground = GetSysColor(COLOR_BTNFACE);
+    paintPart(context, bar, fore, ground, text, units);
+    paintPart(context, {bar.right, area.top, area.right, area.bottom}, ground, fore, text, units);
+}
+
+// ---- What comes to the window
+
+LRESULT Win32PictureBox::handle(UINT message, WPARAM wide, LPARAM data) {
+    switch (message) {
+        // The system's bar would have a border.
+        case WM_NCCALCSIZE:
+        case WM_NCPAINT: return 0;
+        case PBM_GETPOS: return Box_.picture().percent;
+        case PBM_GETRANGE: return rangeOfBar(wide != FALSE, reinterpret_cast<PBRANGE*>(data));
+        case WM_GETTEXTLENGTH: return static_cast<LRESULT>(Box_.picture().text.size());
+        case WM_GETTEXT:
+            return static_cast<LRESULT>(copyText(Box_.picture().text, wide, reinterpret_cast<wchar_t*>(data)));
+        default: return PaintedWindow::handle(message, wide, data);
+    }
+}
+
+}  // namespace kel::win32

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "host/widgets/PictureBox.h"
+#include "platform/win32/base/Look.h"
+#include "platform/win32/base/SystemWindow.h"
+
+namespace kel::win32 {
+
+/// A picture box: the system's progress bar, for those who cannot see it, with a picture of our own.
+class Win32PictureBox final : public PictureView, public ChildWidget, private PaintedWindow {
+public:
+    Win32PictureBox(ControlFrame& frame, PictureBox& box);
+    ~Win32PictureBox() override;
+
+    // ---- PictureView
+
+    void outOfDate() override;
+    void paintAgain() override;
+    Size extentOf(std::u16string_view text) const override;
+    void paintNow() override;
+
+    // ---- ChildWidget
+
+    HWND window() const override { return windowHandle(); }
+    void makeWindow() override;
+    bool shown() const override { return true; }
+    void rescale() override;
+    LRESULT notified(UINT /*notification*/, LPARAM /*details*/) override { return 0; }
+    void draw(HDC context, POINT origin) const override;
+
+private:
+    void showToolTip();
+
+    void paint(HDC context, const RECT& area) const override;
+    LRESULT handle(UINT message, WPARAM wide, LPARAM data) override;
+
+    PictureBox& Box_;
+    Font Font_;
+};
+
+}  // namespace kel::win32

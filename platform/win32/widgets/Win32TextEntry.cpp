@@ -1,0 +1,86 @@
+#include "platform/win32/widgets/Win32TextEntry.h"
+
+#include "platform/win32/base/WideText.h"
+#include "platform/win32/control/ControlWindow.h"
+
+namespace kel::win32 {
+
+// ---- The window
+
+void Win32TextEntry::makeWindow() {
+    if (wholeWindow() == nullptr && createWindow()) show(Changes::all());
+}
+
+void Win32TextEntry::destroy() {
+    Frame_.removeField(*this);
+    if (wholeWindow() != nullptr) DestroyWindow(wholeWindow());
+}
+
+void Win32TextEntry::outOfDate() {
+    const Changes changes = Entry_.takeChanges();
+    if (changes.has(Change::Font)) Font_.choose(Entry_.font(), Frame_.grid());
+    if (wholeWindow() != nullptr) show(changes);
+    if (changes.has(Change::Colors | Change::Enabled | Change::Locked | Change::Password)) paintAgain();
+    if (changes.has(Change::Font | Change::Place | Change::Visible))
+        Frame_.captionChanged();
+    else
+        Frame_.viewChanged();
+}
+
+void Win32TextEntry::show(Changes changes) {
+    HWND const whole = wholeWindow();
+    if (changes.has(Change::Font)) SendMessageW(whole, WM_SETFONT, reinterpret_cast<WPARAM>(Font_.handle()), TRUE);
+    if (changes.has(Change::Font | Change::Place)) showPlace();
+    if (changes.has(Change::Locked)) View_.base(EM_SETREADONLY, Entry_.locked());
+    if (changes.has(Change::Password) && !Entry_.multiLine()) View_.base(EM_SETPASSWORDCHAR, Entry_.mask());
+    if (changes.has(Change::Text | Change::Selection)) View_.show();
+    showOwn(changes);
+    if (changes.has(Change::Enabled)) EnableWindow(whole, Entry_.enabled());
+    if (changes.has(Change::ToolTip)) showToolTip();
+    if (changes.has(Change::Visible)) ShowWindow(whole, Entry_.visible() ? SW_SHOWNA : SW_HIDE);
+}
+
+void Win32TextEntry::showToolTip() {
+    const std::wstring text = wide(Entry_.toolTip());
+    Frame_.setToolTip(window(), text.c_str());
+    if (wholeWindow() != window()) Frame_.setToolTip(wholeWindow(), text.c_str());
+}
+
+void Win32TextEntry::rescale() {
+    Font_.rescale(Frame_.grid());
+    if (wholeWindow() != nullptr) show(Change::Font);
+    Frame_.captionChanged();
+}
+
+void Win32TextEntry::paintAgain() {
+    if (wholeWindow() != nullptr)
+        RedrawWindow(wholeWindow(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    Frame_.viewChanged();
+}
+
+LRESULT Win32TextEntry::handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) {
+    return heldOpen(Frame_.owner(), [&] { return handle(window, message, wide, data); });
+}
+
+// ---- Picture
+
+HBRUSH Win32TextEntry::colors(HDC context) const {
+    return setColors(context, Entry_, Entry_.enabled() && Frame_.enabled());
+}
+
+RECT Win32TextEntry::drawGround(HDC context, POINT origin) const {
+    RECT area = pixels();
+    OffsetRect(&area, origin.x, origin.y);
+    FillRect(context, &area, colors(context));
+    IntersectClipRect(context, area.left, area.top, area.right, area.bottom);
+    return area;
+}
+
+void Win32TextEntry::drawText(HDC context, RECT area, UINT flags) const {
+    SelectObject(context, Font_.handle());
+    SetBkMode(context, TRANSPARENT);
+    const std::wstring text = wide(displayed(Entry_.shownText(), Entry_.multiLine()));
+    DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &area, DT_NOPREFIX | flags);
+}
+
+}  // namespace kel::win32

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "platform/win32/base/Look.h"
+#include "platform/win32/widgets/EditInput.h"
+
+namespace kel::win32 {
+
+/// What shows a text box and what shows a combo box have in common: the system's edit window, which shows the text of
+/// the widget. Whatever that window is asked to do goes to the widget.
+class Win32TextEntry : public TextView, public ChildField, protected WindowHandler {
+public:
+    // ---- TextView
+
+    void outOfDate() final;
+    void paintAgain() final;
+    const TextLines* lines() const final { return &View_; }
+
+    // ---- ChildField
+
+    HWND window() const final { return View_.window(); }
+    void makeWindow() final;
+    bool wantsKey(const KeyStroke& stroke) const final { return win32::wantsKey(Entry_, stroke); }
+    HBRUSH colors(HDC context) const final;
+    void rescale() final;
+
+    /// For hands: where the window shows the caret at `position`, brought into view; past an end is that end.
+    POINT showPosition(std::int32_t position) { return View_.showPosition(position); }
+
+protected:
+    static constexpr int EdgeWidth = 2;  ///< of the sunken edge, pixels
+    static constexpr int TextGap = 1;    ///< between edge and text, pixels
+
+    Win32TextEntry(ControlFrame& frame, TextEntry& entry)
+        : ChildField(entry), Frame_(frame), Entry_(entry), View_(entry), Input_(frame, *this, View_, entry) {}
+    /// Of what derives from this, which is told until the window is gone.
+    void destroy();
+
+    ControlFrame& frame() const { return Frame_; }
+    RECT pixels() const { return Frame_.grid().pixels(Entry_.bounds()); }
+    TEXTMETRICW textMetrics() const { return Font_.metrics(window()); }
+    /// The area of the picture and what is behind its text; nothing is painted around it from now on.
+    RECT drawGround(HDC context, POINT origin) const;
+    void drawText(HDC context, RECT area, UINT flags) const;
+
+private:
+    /// Hidden; shows nothing yet. False when the system gives no window.
+    virtual bool createWindow() = 0;
+    virtual void showPlace() = 0;
+    /// What only this kind of widget has.
+    virtual void showOwn(Changes /*changes*/) {}
+    virtual LRESULT handle(HWND window, UINT message, WPARAM wide, LPARAM data) = 0;
+    LRESULT handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) final;
+
+    void show(Changes changes);
+    void showToolTip();
+
+    ControlFrame& Frame_;
+    TextEntry& Entry_;
+    Font Font_;
+
+protected:
+    EditView View_;
+    EditInput Input_;
+};
+
+}  // namespace kel::win32

@@ -1,0 +1,111 @@
+#include "platform/win32/widgets/Win32UpDown.h"
+
+#include <commctrl.h>
+
+namespace kel::win32 {
+
+namespace {
+
+/// The system registers the base class at the latest when it is asked to.
+const WindowClass& upDownClass() {
+    static const WindowClass Class = [] {
+        const INITCOMMONCONTROLSEX wanted{sizeof wanted, ICC_UPDOWN_CLASS};
+        InitCommonControlsEx(&wanted);
+        return WindowClass(L"KelControls8.UpDown", UPDOWN_CLASSW);
+    }();
+    return Class;
+}
+
+}  // namespace
+
+Win32UpDown::Win32UpDown(ControlFrame& frame, UpDown& spinner) : SystemWindow(frame), Spinner_(spinner) {
+    frame.add(*this);
+}
+
+Win32UpDown::~Win32UpDown() {
+    frame().remove(*this);
+    destroy();
+}
+
+// ---- The window
+
+void Win32UpDown::makeWindow() {
+    if (!create(upDownClass(), frame().window(), 0, pixelsOf(Spinner_))) return;
+    base(UDM_SETRANGE32, UpDown::Down, UpDown::Up);
+    base(UDM_SETPOS32, 0, UpDown::Rest);
+    EnableWindow(window(), looksEnabled());
+    if (Spinner_.visible()) ShowWindow(window(), SW_SHOWNA);
+}
+
+void Win32UpDown::outOfDate() {
+    const Changes changes = Spinner_.takeChanges();
+    if (!Spinner_.enabled() || !Spinner_.visible()) frame().takeInputFrom(window());
+    if (changes.has(Change::Place)) placeAs(Spinner_);
+    if (changes.has(Change::Enabled)) frameEnabledChanged();
+    if (changes.has(Change::Visible) && window() != nullptr)
+        ShowWindow(window(), Spinner_.visible() ? SW_SHOWNA : SW_HIDE);
+    paintAgain();
+}
+
+void Win32UpDown::frameEnabledChanged() {
+    if (window() != nullptr) EnableWindow(window(), looksEnabled());
+}
+
+void Win32UpDown::draw(HDC context, POINT origin) const {
+    RECT area = pixelsOf(Spinner_);
+    OffsetRect(&area, origin.x, origin.y);
+    const LONG middle = (area.top + area.bottom) / 2;
+    RECT upper{area.left, area.top, area.right, middle};
+    RECT lower{area.left, middle, area.right, area.bottom};
+    const UINT state = looksEnabled() ? 0 : DFCS_INACTIVE;
+    DrawFrameControl(context, &upper, DFC_SCROLL, DFCS_SCROLLUP | state);
+    DrawFrameControl(context, &lower, DFC_SCROLL, DFCS_SCROLLDOWN | state);
+}
+
+// ---- What comes to the window
+
+LRESULT Win32UpDown::handle(UINT message, WPARAM wide, LPARAM data) {
+    switch (message) {
+        case WM_LBUTTONDOWN: return Spinner_.takesInput() ? step(message, wide, data) : 0;
+        case WM_TIMER:
+            if (!isHeld()) {
+                letButtonGo(wide);
+                return 0;
+            }
+            // Not while the handler of the step before is still at it.
+            return Spinner_.value() == UpDown::Rest ? step(message, wide, data) : 0;
+        default: return base(message, wide, data);
+    }
+}
+
+/// The listener may do away with the window, which the system's control would not survive in the middle of its
+/// work: it is told afterwards.
+LRESULT Win32UpDown::step(UINT message, WPARAM wide, LPARAM data) {
+    Pressed_ = UpDown::Rest;
+    const LRESULT result = base(message, wide, data);
+    if (Pressed_ != UpDown::Rest) Spinner_.press(Pressed_ == UpDown::Up);
+    return result;
+}
+
+/// True keeps the system's control from counting.
+LRESULT Win32UpDown::notified(UINT notification, LPARAM details) {
+    if (notification != static_cast<UINT>(UDN_DELTAPOS)) return FALSE;
+    Pressed_ = reinterpret_cast<const NMUPDOWN*>(details)->iDelta > 0 ? UpDown::Up : UpDown::Down;
+    return TRUE;
+}
+
+/// A window in front, such as a message box, takes the mouse away without a word to the child windows.
+bool Win32UpDown::isHeld() const {
+    return GetCapture() == window() && Spinner_.takesInput() && IsWindowVisible(window()) != FALSE &&
+           IsWindowEnabled(GetAncestor(window(), GA_ROOT)) != FALSE;
+}
+
+/// Versions of the control differ in what makes them stop.
+void Win32UpDown::letButtonGo(WPARAM timer) {
+    if (GetCapture() == window()) ReleaseCapture();
+    if (GetCapture() == nullptr) base(WM_CANCELMODE);
+    base(WM_TIMER, timer);
+    KillTimer(window(), timer);
+}
+
+}  // namespace kel::win32
