@@ -38,7 +38,7 @@ struct FormLimit {
 constexpr FormLimit FormLimits[] = {{30, 0.8}, {300, 0.5}, {1200, 0.4}};
 
 void printLine(const std::string& what, double ours, double peers, double most) {
-    std::printf("%-58s %9.1f MB %9.1f MB %8.2f %10.2f %s\n", what.c_str(), ours / 1e6, peers / 1e6, ours / peers, most,
+    std::printf("%-58s %9.2f MB %9.2f MB %8.2f %10.2f %s\n", what.c_str(), ours / 1e6, peers / 1e6, ours / peers, most,
                 ours / peers <= most ? "" : "OVER");
 }
 
@@ -63,7 +63,7 @@ void printMemory() {
               1);
     for (const FormLimit& limit : FormLimits) {
         const FormMemory memory = memoryOfForm(limit.fields, &heapBytes);
-        printLine("memory of a shown form of " + std::to_string(limit.fields) + " fields / plain Qt",
+        printLine("memory of " + std::to_string(limit.fields) + " fields in a shown form / plain Qt",
                   static_cast<double>(memory.ours), static_cast<double>(memory.peers), limit.most);
     }
 }

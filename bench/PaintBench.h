@@ -9,7 +9,7 @@ struct FormMemory {
     std::size_t peers = 0;
 };
 
-/// What a shown form of so many mixed fields takes on the heap, beside the same form of plain Qt widgets.
+/// What so many mixed fields take on the heap in a form that is shown, beside the same of plain Qt widgets.
 FormMemory memoryOfForm(int fields, std::size_t (*heapBytes)());
 
 }  // namespace kel::bench

@@ -24,10 +24,13 @@ class MedianKeeper final : public benchmark::BenchmarkReporter {
 public:
     bool ReportContext(const Context&) override { return true; }
     void ReportRuns(const std::vector<Run>& runs) override {
-        for (const Run& run : runs)
+        for (const Run& run : runs) {
+            if (run.error_occurred) Faults[nameOf(run)] = run.error_message;
             if (run.aggregate_name == "median") Medians[nameOf(run)] = nanosecondsOf(run);
+        }
     }
     std::map<std::string, double> Medians;
+    std::map<std::string, std::string> Faults;
 };
 
 std::string inUnits(double nanoseconds) {
@@ -75,7 +78,8 @@ int runTable(int argc, char** argv, const std::vector<Line>& lines) {
     benchmark::RunSpecifiedBenchmarks(&keeper);
     std::printf("%-58s %12s %12s %8s %10s\n", "what", "ours", "peer", "ratio", "at most");
     for (const Line& line : lines) printLine(line, keeper.Medians);
-    return 0;
+    for (const auto& [name, fault] : keeper.Faults) std::fprintf(stderr, "%s: %s\n", name.c_str(), fault.c_str());
+    return keeper.Faults.empty() ? 0 : 1;
 }
 
 }  // namespace kel::bench

@@ -15,7 +15,7 @@ struct Line {
 };
 
 /// Runs every registered benchmark, prints medians side by side, and says which line is over its limit.
-/// The exit status is 0 all the same: speed depends on the machine.
+/// The exit status is 0 all the same, as speed depends on the machine; 1 where a benchmark could not do its work.
 int runTable(int argc, char** argv, const std::vector<Line>& lines);
 
 }  // namespace kel::bench

@@ -9,6 +9,10 @@
 #include <QLabel>
 #include <QWidget>
 
+#include "host/Widgets.h"
+#include "library/Control.h"
+#include "platform/qt/control/KelControlWidget.h"
+
 /// What the benchmarks of the widgets do with a control and with what stands in its place elsewhere alike.
 namespace kel::bench {
 
@@ -44,6 +48,11 @@ struct FocusedEdit {
     QWidget window;
     Edit* edit;
 };
+
+/// Of one of our fields, as it stands while it is being typed.
+inline QString shownText(const qt::KelControlWidget& field) {
+    return QString::fromStdU16String(field.control().widgets().entry->text());
+}
 
 struct KeyPress {
     int key;
