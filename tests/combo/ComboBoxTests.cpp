@@ -106,6 +106,7 @@ TEST(ComboBox, AnOpenListPicksAsItIsWalked) {
         {"a click beside the rows closes", "F4; pick 8", "| -1", ""},
         {"typing goes into the text", "F4 Down*2 'x'", "x|Banana -1 open 1", "Click Click Change"},
         {"locked, it drops and is walked, but gives nothing", "F4 Down Enter F4 Down; pick 2", "| -1", "Enter", true},
+        {"locked, the highlight moves", "F4 Down*2", "| -1 open 1", "", true},
     };
     for (const EditorCase& row : rows) check(row);
     check({"no items, nothing to pick", "F4 Down Up PageDown Enter; wheel -1", "| -1", "Enter"}, u"");
@@ -164,7 +165,7 @@ TEST(ComboBox, HandlersMayInterfere) {
     Scene scene(Fruit);
     ComboBox& box = scene.box;
     scene.listener.onKeyDown = [](std::int16_t& code) { code = 0; };
-    scene.worked.play("Down F4");
+    scene.worked.play("F4");
     EXPECT_EQ(scene.worked.look(), "| -1") << "a swallowed key";
     scene.listener.onKeyDown = [&box](std::int16_t&) { box.setEnabled(false); };
     scene.worked.play("Down");
@@ -176,12 +177,33 @@ TEST(ComboBox, HandlersMayInterfere) {
     EXPECT_EQ(scene.worked.look(), "|Apple -1") << "the list is replaced while an item of it is picked";
 }
 
+TEST(ComboBox, AViewHearsOfAllThatItShows) {
+    static constexpr std::int16_t ButtonWidth = 16;
+    const std::pair<Change, void (*)(Scene&)> rows[] = {
+        {Change::Items, [](Scene& scene) { scene.box.setItems({}); }},
+        {Change::List, [](Scene& scene) { scene.worked.play("F4"); }},
+        {Change::List, [](Scene& scene) { scene.worked.play("hover 5"); }},
+        {Change::List, [](Scene& scene) { scene.box.setDroppedWidth(200); }},
+        {Change::Frame, [](Scene& scene) { scene.box.installFrame(ButtonWidth); }},
+        {Change::Text, [](Scene& scene) { scene.box.setListIndex(2); }},
+    };
+    for (std::size_t row = 0; row < std::size(rows); ++row) {
+        Scene scene(Fruit);
+        scene.worked.play("F4");
+        scene.box.takeChanges();
+        rows[row].second(scene);
+        EXPECT_TRUE(scene.box.takeChanges().has(rows[row].first)) << row;
+    }
+}
+
 TEST(ComboBox, NoShortcutTakesItsKeys) {
     Scene scene(Fruit);
     ComboBox& box = scene.box;
     const KeyStroke drop{keys::Down, 0, AltKey}, f4{keys::F4, 0, NoModifier}, closeWindow{keys::F4, 0, AltKey};
     const KeyStroke escape{keys::Escape, 0, NoModifier}, enter{keys::Enter, 0, NoModifier}, down{keys::Down};
     for (const KeyStroke& stroke : {drop, f4, down}) EXPECT_TRUE(box.claims(stroke)) << stroke.code;
+    for (const KeyStroke& stroke : {f4, KeyStroke{keys::Up}, KeyStroke{keys::PageUp}, f4})
+        EXPECT_TRUE(box.strike(stroke)) << stroke.code;
     for (const KeyStroke& stroke : {closeWindow, escape}) EXPECT_FALSE(box.claims(stroke)) << stroke.code;
     EXPECT_FALSE(box.strike(escape)) << "a closed box leaves Escape to the window";
     box.showDropDown(true);

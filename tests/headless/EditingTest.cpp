@@ -20,21 +20,29 @@ struct EditCase {
 
 constexpr std::int32_t ThreeLines = 600;
 
+/// A box with the focus, as it is drawn.
+struct OneBox {
+    OneBox(unsigned kind, const char* before)
+        : placed(form.place(u"a", (kind & Multi) != 0 ? ProbeControl::MultiLine : ProbeControl::SingleLine)) {
+        box.move({0, 0, 3000, ThreeLines});
+        form.window().focus(placed);
+        put(box, before);
+        box.setLocked((kind & Locked) != 0);
+        box.setPasswordChar((kind & Password) != 0 ? u'*' : u'\0');
+        ProbeControl::takeLog();
+    }
+
+    TestForm form;
+    PlacedControl& placed;
+    TextBox& box = probe(placed).box();
+};
+
 void check(const EditCase& row) {
     SCOPED_TRACE(row.what);
-    TestForm form;
-    PlacedControl& placed =
-        form.place(u"a", (row.box & Multi) != 0 ? ProbeControl::MultiLine : ProbeControl::SingleLine);
-    TextBox& box = probe(placed).box();
-    box.move({0, 0, 3000, ThreeLines});
-    form.window().focus(placed);
-    put(box, row.before);
-    box.setMaxLength(row.maxLength);
-    box.setLocked((row.box & Locked) != 0);
-    box.setPasswordChar((row.box & Password) != 0 ? u'*' : u'\0');
-    ProbeControl::takeLog();
-    press(form.window(), row.keys);
-    EXPECT_EQ(drawn(box), row.after);
+    OneBox it(row.box, row.before);
+    it.box.setMaxLength(row.maxLength);
+    press(it.form.window(), row.keys);
+    EXPECT_EQ(drawn(it.box), row.after);
     EXPECT_EQ(ProbeControl::countOf(ProbeControl::takeLog(), "Change"), row.changes);
 }
 
@@ -136,9 +144,218 @@ TEST(Editing, UndoAndRedo) {
         {"all the way and back", Single, 0, "|", "'a' Left 'b' paste'c' Ctrl+Z*9 Ctrl+Y*9", "bc|a", 9},
         {"an edit forgets what was undone", Single, 0, "|", "'a' Ctrl+Z 'b' Ctrl+Y Ctrl+Z*2", "|", 4},
         {"a run that came to nothing", Single, 0, "[ab]", "'ab' Ctrl+Z", "[ab]", 2},
+        {"and on from where it was", Multi, 0, "a|bc\r\n\r\ndef", "'x' Down Ctrl+Z Down*2", "abc\r\n\r\nd|ef", 2},
         {"not bound by the maximum", Single, 2, "[abcd]", "'x' Ctrl+Z", "[abcd]", 2},
     };
     for (const EditCase& row : rows) check(row);
+}
+
+TEST(Editing, MouseButtonsGoDown) {
+    using enum MouseButton;
+    struct Case {
+        const char* what;
+        unsigned box;
+        const char* before;
+        MousePress press;
+        const char* after;
+    };
+    const Case rows[] = {
+        {"two clicks, a word without the blanks after it", Single, "|one two  3", {Left, 5, 2}, "one [two]  3"},
+        {"the last word from its end", Single, "|one two", {Left, 99, 2}, "one [two]"},
+        {"a letter alone", Single, "|1 2", {Left, 0, 2}, "[1] 2"},
+        {"three, a line", Multi, "|1\r\ntwo 3\r\n4", {Left, 4, 3}, "1\r\n[two 3]\r\n4"},
+        {"a password has no words", Password, "|one two", {Left, 1, 2}, "[one two]"},
+        {"with Shift, to there", Single, "1|234", {Left, 3, 1, true}, "1[23]4"},
+        {"over the start", Single, "12|34", {Left, -9, 1, true}, "[12]34"},
+        {"past the end", Single, "12|34", {Left, 99, 1, true}, "12[34]"},
+        {"not into a pair", Single, "|1\U0001F6004", {Left, 2, 1, true}, "[1]\U0001F6004"},
+        {"the right one leaves the selection", Single, "1[23]4", {Right, 0}, "1[23]4"},
+        {"the middle one does not", Single, "1[23]4", {Middle, 1}, "1|234"},
+    };
+    for (const Case& row : rows) {
+        OneBox it(row.box, row.before);
+        it.box.press(row.press);
+        EXPECT_EQ(drawn(it.box), row.after) << row.what;
+        it.box.releaseMouse(row.press.button != Left);
+        it.box.releaseMouse(true);
+        it.box.press(row.press);
+        it.box.lostFocus();
+        it.box.releaseMouse(true);
+        EXPECT_EQ(ProbeControl::takeLog().find("Click"), std::string::npos)
+            << "another button, let go elsewhere, or where the focus has gone";
+    }
+}
+
+TEST(Editing, WhatIsSelectedIsDraggedElsewhere) {
+    struct Case {
+        unsigned box;
+        std::size_t place;
+        const char* after;
+        const char* undone;
+    };
+    const Case rows[] = {{Single, 6, "abefcd|", "ab[cdef]"},
+                         {Single, 1, "acd|bef", "a[bcd]ef"},
+                         {Single, 2, "ab[cd]ef", "ab[cd]ef"},
+                         {Single, 4, "ab[cd]ef", "ab[cd]ef"},
+                         {Locked, 0, "ab[cd]ef", "ab[cd]ef"}};
+    for (const Case& row : rows) {
+        OneBox it(row.box, "ab[cd]ef");
+        it.box.moveSelection(row.place);
+        EXPECT_EQ(drawn(it.box), row.after);
+        press(it.form.window(), "Ctrl+Z");
+        EXPECT_EQ(drawn(it.box), row.undone) << "as one edit";
+    }
+}
+
+TEST(Editing, InputMethodsPutWordsRight) {
+    struct Case {
+        unsigned box;
+        const char* before;
+        std::int32_t start, length;
+        const char16_t* text;
+        const char* after;
+    };
+    const Case rows[] = {{Single, "teh|", -2, 2, u"he", "the|"},
+                         {Single, "ab|c", -1, 1, u"", "a|c"},
+                         {Single, "1[2]3", -1, 0, u"x", "1x|3"},
+                         {Locked, "1|", 0, 0, u"x", "1|"}};
+    for (const Case& row : rows) {
+        OneBox it(row.box, row.before);
+        it.box.commitOver(row.start, row.length, row.text);
+        EXPECT_EQ(drawn(it.box), row.after);
+    }
+}
+
+TEST(Editing, OtherProgramsWriteByTheControlsRules) {
+    const std::u16string face{0xD83D, 0xDE01};
+    struct Case {
+        const char* what;
+        unsigned box;
+        const char* before;
+        std::size_t start, end;
+        std::u16string text;
+        const char* after;
+        const char* told;
+    };
+    const Case rows[] = {
+        {"a part", Single, "a[b]cd", 2, 3, u"x", "abx|d", "a.Paste a.Change"},
+        {"erasing", Single, "a[b]cd", 0, 1, u"", "|bcd", "a.Change"},
+        {"what is there already", Single, "[a]bc", 1, 2, u"b", "[a]bc", "a.Paste"},
+        {"half a pair", Single, "|a\U0001F600b", 2, 3, face.substr(1), "a\U0001F601|b", "a.Paste a.Change"},
+        {"the other half", Single, "|a\U0001FA01b", 1, 2, face.substr(0, 1), "a\U0001F601|b", "a.Paste a.Change"},
+        {"into a break", Multi, "|a\r\nb", 2, 2, u"x", "a\r\nx\r\n|b", "a.Paste a.Change"},
+        {"into a locked box", Locked, "1|", 0, 1, u"x", "1|", ""},
+    };
+    for (const Case& row : rows) {
+        OneBox it(row.box, row.before);
+        it.box.write(row.start, row.end, row.text);
+        EXPECT_EQ(drawn(it.box), row.after) << row.what;
+        EXPECT_EQ(ProbeControl::takeLog(), row.told) << row.what;
+        it.box.setEnabled(false);
+        ProbeControl::takeLog();
+        it.box.write(0, 0, u"x");
+        it.box.drop(0, u"x");
+        EXPECT_EQ(ProbeControl::takeLog(), "") << "nor into a disabled one";
+    }
+}
+
+TEST(Editing, AWheelOfFinerStepsCountsWholeNotches) {
+    const std::pair<std::vector<std::int32_t>, const char*> rows[] = {
+        {{40, 40, 40, 40}, "a.Wheel1"}, {{-200, -40}, "a.Wheel-1 a.Wheel-1"}, {{100, -100, -20}, "a.Wheel-1"},
+        {{-100, 100, 20}, "a.Wheel1"},  {{100, 0, 20}, "a.Wheel1"},           {{360}, "a.Wheel3"}};
+    for (const auto& [turns, log] : rows) {
+        OneBox it(Single, "|");
+        for (const std::int32_t turned : turns) EXPECT_EQ(it.box.turnWheelBy(turned), turned != 0);
+        EXPECT_EQ(ProbeControl::takeLog(), log);
+    }
+    OneBox it(Single, "|");
+    it.box.turnWheelBy(100);
+    it.box.lostFocus();
+    it.box.turnWheelBy(100);
+    EXPECT_EQ(ProbeControl::takeLog(), "a.LostFocus") << "another visit, another count";
+}
+
+TEST(Editing, KeysThatMeanNothingHereGoOn) {
+    struct Case {
+        KeyStroke stroke;
+        unsigned box;
+        bool claimed;  ///< ahead of the window's shortcuts
+        bool used;
+    };
+    const Case rows[] = {{strokeFor(U'x'), Single, true, true},
+                         {strokeFor(U'x'), Locked, false, false},
+                         {{keys::Delete}, Single, true, true},
+                         {{'V', 0, ControlKey}, Single, true, true},
+                         {{'A', 0, ControlKey}, Locked, true, true},
+                         {{'C', 0, ControlKey}, Locked, true, true},
+                         {{'S', 0, ControlKey}, Single, false, false},
+                         {{keys::Insert}, Single, true, false},
+                         {{keys::Left}, Locked, true, true},
+                         {{keys::Left, 0, AltKey}, Single, false, false},
+                         {{keys::Up}, Multi | Locked, true, true},
+                         {{keys::PageUp}, Multi, true, true},
+                         {{keys::Up}, Single, true, false},
+                         {{keys::Escape}, Single, false, false},
+                         {{keys::Tab, 0, ControlKey}, Multi, false, false}};
+    for (const Case& row : rows) {
+        OneBox it(row.box, "1[2]3");
+        EXPECT_EQ(it.box.claims(row.stroke), row.claimed) << row.stroke.code;
+        EXPECT_EQ(it.box.strike(row.stroke), row.used) << row.stroke.code;
+    }
+}
+
+TEST(Editing, AViewHearsOfAllThatItShows) {
+    const std::pair<Change, std::function<void(OneBox&)>> rows[] = {
+        {Change::Selection, [](OneBox& it) { it.box.setSelStart(0); }},
+        {Change::Selection, [](OneBox& it) { it.box.setSelLength(1); }},
+        {Change::Selection, [](OneBox& it) { it.box.dragTo(3); }},
+        {Change::Selection, [](OneBox& it) { press(it.form.window(), "Left"); }},
+        {Change::Selection, [](OneBox& it) { press(it.form.window(), "Ctrl+A"); }},
+        {Change::Selection, [](OneBox& it) { press(it.form.window(), "'2'"); }},
+        {Change::Text, [](OneBox& it) { press(it.form.window(), "'x'"); }},
+        {Change::Locked, [](OneBox& it) { it.box.setLocked(true); }},
+        {Change::Password, [](OneBox& it) { it.box.setPasswordChar(u'*'); }},
+        {Change::Font, [](OneBox& it) { it.box.setFont(u"Sans", 9); }},
+        {Change::Visible, [](OneBox& it) { it.box.setVisible(false); }},
+        {Change::Place, [](OneBox& it) { it.box.move({}); }},
+    };
+    for (std::size_t row = 0; row < std::size(rows); ++row) {
+        OneBox it(Single, "1[2]3");
+        it.box.takeChanges();
+        rows[row].second(it);
+        EXPECT_TRUE(it.box.takeChanges().has(rows[row].first)) << row;
+    }
+}
+
+TEST(Editing, AMenuOffersWhatWouldDoSomething) {
+    struct Case {
+        const char* what;
+        unsigned box;
+        const char* before;
+        const char* keys;
+        const char* offered;
+    };
+    const Case rows[] = {
+        {"an empty box", Single, "|", "", ""},
+        {"what was edited, then undone", Single, "|", "'ab' Ctrl+Z", "redo "},
+        {"a caret", Single, "1|2", "paste'x'", "undo paste all "},
+        {"a selection", Single, "1[2]3", "", "cut copy delete all "},
+        {"all of it", Single, "[123]", "", "cut copy delete "},
+        {"a password", Password, "[12]", "", "delete "},
+        {"a locked box", Locked, "1[2]", "Ctrl+C", "copy all "},
+    };
+    constexpr std::pair<EditAction, const char*> Entries[] = {
+        {EditAction::Undo, "undo "},    {EditAction::Redo, "redo "},   {EditAction::Cut, "cut "},
+        {EditAction::Copy, "copy "},    {EditAction::Paste, "paste "}, {EditAction::EraseSelection, "delete "},
+        {EditAction::SelectAll, "all "}};
+    for (const Case& row : rows) {
+        OneBox it(row.box, row.before);
+        press(it.form.window(), row.keys);
+        std::string offered;
+        for (const auto& [action, name] : Entries)
+            if (it.box.offers(action)) offered += name;
+        EXPECT_EQ(offered, row.offered) << row.what;
+    }
 }
 
 TEST(Editing, ByCode) {

@@ -171,6 +171,9 @@ TEST_F(Hands, TheWheelIsForTheFieldWithTheFocus) {
     probe(B).box().setEnabled(false);
     Window.turnWheel(B, 1);
     EXPECT_EQ(log(), "b.Wheel2 b.Wheel-1 b.LostFocus b.ExitFocus a.EnterFocus a.GotFocusByTab");
+    EXPECT_TRUE(Box.turnWheelBy(1));
+    Control.usesWheel = false;
+    EXPECT_FALSE(Box.turnWheelBy(TextEntry::WheelNotch));
 }
 
 TEST_F(Hands, ADropTakesTheFocusAndPastes) {
@@ -234,6 +237,10 @@ TEST_F(Hands, HandlersChangeAndRefuseWhatIsPasted) {
         EXPECT_EQ(drawn(Box), row.after);
         EXPECT_EQ(ProbeControl::countOf(log(), "Change"), row.changes);
     }
+    put(Box, "1[2]3");
+    Control.changePaste = rows[2].makes;
+    Box.moveSelection(0);
+    EXPECT_EQ(drawn(Box), "1[2]3") << "a move is a paste";
 }
 
 TEST_F(Hands, TheKeypadsDecimalKeyHasItsOwnCodeAndTypesWhatTheLayoutGives) {
