@@ -80,11 +80,13 @@ TEST(ComboBox, AClosedListIsOpenedAndNothingElse) {
         {"at the selected item", "Down*4 F4*2", "|Cherry 2 open 2", "Click Click Click"},
         {"at the item that is the text", "'Fig' F4", "Fig| -1 open 5", "Change Change Change"},
         {"at the first of equal ones", "'Banana' F4", "Banana| -1 open 1", "Change Change Change Change Change Change"},
+        {"at the one of them that was picked", "F4; pick 7; F4", "|Banana 7 open 7", "Click"},
         {"at the first that begins with the text", "'d' F4", "d| -1 open 3", "Change"},
         {"at none", "'x' F4", "x| -1 open -1", "Change"},
         {"the edit box keeps its own keys", "Down*2 F4 End Shift+Left Home Right Delete", "A|ple -1", "Click Change"},
     };
     for (const EditorCase& row : rows) check(row);
+    check({"at the text rather than at one that begins with it", "'x' F4", "x| -1 open 1", "Change"}, u"xy,x");
 }
 
 TEST(ComboBox, AnOpenListPicksAsItIsWalked) {
@@ -109,6 +111,7 @@ TEST(ComboBox, AnOpenListPicksAsItIsWalked) {
         {"locked, the highlight moves", "F4 Down*2", "| -1 open 1", "", true},
     };
     for (const EditorCase& row : rows) check(row);
+    check({"one item", "F4 Down", "|x 0 open 0", "Click"}, u"x");
     check({"no items, nothing to pick", "F4 Down Up PageDown Enter; wheel -1", "| -1", "Enter"}, u"");
 }
 
