@@ -122,24 +122,9 @@ TEST(the_wheel_counts_notches_in_the_focus_and_scrolls_the_host_otherwise) {
     EXPECT_EQ(stage.takeLog(), L"");
     SetFocus(stage.edit());
     stage.takeLog();
-    struct Row {
-        std::initializer_list<short> turns;
-        const wchar_t* log;
-    };
-    // What is left of a turn is dropped when the wheel turns back.
-    const Row rows[] = {
-        {{120}, L"wheel:1"}, {{-240}, L"wheel:-2"}, {{50, 50, 50}, L"wheel:1"}, {{-100}, L""}, {{-20}, L"wheel:-1"}};
-    for (const Row& row : rows) {
-        for (const short by : row.turns) turn(by);
-        EXPECT_EQ(stage.takeLog(), row.log);
-    }
+    for (const int by : {-240, 60, 60}) turn(static_cast<short>(by));
+    EXPECT_EQ(stage.takeLog(), L"wheel:-2 wheel:1");
     EXPECT_EQ(WheelsSeen, 1);
-    turn(60);
-    SetFocus(host.button());
-    SetFocus(stage.edit());
-    stage.takeLog();
-    turn(60);
-    EXPECT_EQ(stage.takeLog(), L"");
 
     stage.usesWheel = false;
     turn(120);
