@@ -64,11 +64,6 @@ TEST(FormWindow, ClicksPutTheCaretExactly) {
     EXPECT_EQ(form.takeLog(), "") << "the right button is no click";
     EXPECT_EQ(form.window().focused(), &line);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-    textOf(line).entry().put_Enabled(false);
-    form.takeLog();
-    form.window().click(line, 0);
-    EXPECT_EQ(form.takeLog(), "");
-    EXPECT_EQ(form.window().focused(), &several);
 }
 
 /// Twips do not always fill whole pixels: neighbours still touch, and give their sizes back unchanged.

@@ -57,15 +57,9 @@ TEST_F(Spinner, GivesNoFocusBeforeItsControlDoes) {
     EXPECT_EQ(value, UpDown::Up);
     EXPECT_EQ(ProbeControl::takeLog(), "a.LostFocus a.ExitFocus b.EnterFocus b.GotFocus b.Spin2");
     release();
-    probe(second).box().setText(u"12.5");
-    probe(second).box().setSelStart(1);
-    probe(second).box().setSelLength(2);
-    ProbeControl::takeLog();
     press(false);
     release();
     EXPECT_EQ(ProbeControl::takeLog(), "b.Spin0");
-    EXPECT_EQ(probe(second).box().selText(), u"2.") << "the selection is the control's affair";
-    EXPECT_EQ(probe(second).spinner().value(), UpDown::Rest);
 }
 
 TEST_F(Spinner, RepeatsWhileItIsHeldAndPointedAt) {
