@@ -5,6 +5,8 @@
 #include <functional>
 #include <string>
 
+#include "host/focus/Mnemonic.h"
+
 namespace kel::test {
 namespace {
 
@@ -74,10 +76,20 @@ TEST_F(Box, TheCaptionMarksItsMnemonic) {
     const struct {
         const char16_t* caption;
         char16_t mnemonic;
-    } cases[] = {{u"", 0}, {u"I &agree", u'a'}, {u"Salt && &Pepper", u'P'}, {u"Salt && pepper", 0}, {u"Salt &", 0}};
+        const char16_t* shown;
+    } cases[] = {{u"", 0, u""},
+                 {u"&a", u'a', u"a"},
+                 {u"I &agree", u'a', u"I agree"},
+                 {u"&Salt && &pepper", u'S', u"Salt & pepper"},
+                 {u"Salt &&&pepper", u'p', u"Salt &pepper"},
+                 {u"Salt && pepper", 0, u"Salt & pepper"},
+                 {u"Salt &", 0, u"Salt &"}};
     for (const auto& row : cases) {
         It.setCaption(row.caption);
         EXPECT_EQ(It.mnemonic(), row.mnemonic);
+        const ReadCaption read = readCaption(row.caption);
+        EXPECT_EQ(read.text, row.shown);
+        EXPECT_EQ(read.mnemonic == read.text.npos ? 0 : read.text[read.mnemonic], row.mnemonic);
     }
 }
 
@@ -139,6 +151,9 @@ TEST_F(Box, KeysOfferWhatTheyTypeAndOnlyABlankPresses) {
     SwallowKeys = true;
     EXPECT_EQ(It.keyDown(strokeFor(U' ')), Swallowed);
     EXPECT_EQ(It.value(), CheckBox::Unchecked) << "none of them has been let go";
+    SwallowKeys = false;
+    EXPECT_TRUE(It.strike(strokeFor(U' '))) << "nobody else has it";
+    EXPECT_FALSE(It.strike({keys::Enter})) << "the window may";
 }
 
 TEST_F(Box, AListenerMayChangeItInItsClick) {

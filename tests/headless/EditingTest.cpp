@@ -100,7 +100,8 @@ TEST(Editing, TypingAndDeleting) {
 TEST(Editing, Clipboard) {
     const EditCase rows[] = {
         {"cut and paste", Single, 0, "a[bc]d", "Ctrl+X End Ctrl+V", "adbc|", 2},
-        {"the older keys", Single, 0, "a[bc]d", "Ctrl+Insert Shift+Delete Shift+Insert*2", "abcbc|d", 3},
+        {"the older keys", Single, 0, "a[bc]d", "Ctrl+Insert End Shift+Insert", "abcdbc|", 1},
+        {"and to cut", Single, 0, "a[bc]d", "Shift+Delete Shift+Insert*2", "abcbc|d", 3},
         {"nothing selected, nothing copied", Single, 0, "ab|", "paste'x' Ctrl+C Ctrl+X Ctrl+V", "abxx|", 2},
         {"a password stays", Password, 0, "[ab]", "paste'x' Ctrl+A Ctrl+C Ctrl+X End Ctrl+V", "xx|", 2},
         {"a locked box lets copy", Locked, 0, "[ab]", "Ctrl+X Ctrl+C", "[ab]", 0},
@@ -134,6 +135,7 @@ TEST(Editing, UndoAndRedo) {
         {"deleted backwards together", Single, 0, "ab\U0001F600|", "Backspace*3 Ctrl+Z", "ab\U0001F600|", 4},
         {"deleted forwards together", Single, 0, "|abc", "Delete*2 Ctrl+Z", "|abc", 3},
         {"another kind of edit apart", Single, 0, "|", "'abc' Backspace Ctrl+Z", "abc|", 5},
+        {"typed where something was deleted", Single, 0, "ab|", "Backspace 'x' Ctrl+Z", "a|", 3},
         {"after a move apart", Single, 0, "|", "'ab' Left 'c' Ctrl+Z", "a|b", 4},
         {"a move there and back", Single, 0, "|", "'a' Left Right 'b' Ctrl+Z", "a|", 3},
         {"a move up from the first line", Multi, 0, "|", "'a' Up 'b' Ctrl+Z", "a|", 3},

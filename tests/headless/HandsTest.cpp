@@ -176,6 +176,21 @@ TEST_F(Hands, TheWheelIsForTheFieldWithTheFocus) {
     EXPECT_FALSE(Box.turnWheelBy(TextEntry::WheelNotch));
 }
 
+TEST_F(Hands, ALabelsMnemonicLeadsToTheFieldAfterIt) {
+    ForeignBlock label;
+    label.kind = ForeignBlock::Kind::Label;
+    label.caption = u"&Terms";
+    label.placement.tabIndex = 3;
+    Window.placeForeign(label);
+    Placement placement;
+    placement.tabIndex = 9;
+    Form.place(u"last", ProbeControl::SingleLine, placement);
+    placement.tabIndex = 5;
+    Form.place(u"next", ProbeControl::SingleLine, placement);
+    press(Window, "Alt+T");
+    EXPECT_EQ(Form.focused(), "next");
+}
+
 TEST_F(Hands, ADropTakesTheFocusAndPastes) {
     put(Box, "1[2]3");
     Window.focus(B);
