@@ -2,8 +2,6 @@
 
 #include <windows.h>
 
-#include <commctrl.h>
-
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/ole/Host.h"
 
@@ -13,12 +11,6 @@ using namespace kel::tests;
 namespace {
 
 Ref<_KelProgressBar> makeBar() { return create(L"KelControls8.KelProgressBar").as<_KelProgressBar>(); }
-
-std::wstring windowTextOf(HWND window) {
-    wchar_t text[100]{};
-    GetWindowTextW(window, text, 100);
-    return text;
-}
 
 /// The window of the only widget in a host's control.
 HWND widgetIn(const Host& host) {
@@ -50,31 +42,6 @@ TEST(check_mnemonic_focuses_and_toggles) {
     EXPECT_CODE(field->put_Caption(Str(L"Agreed")), S_OK);
     EXPECT_CODE(control->GetControlInfo(&info), S_OK);
     EXPECT_EQ(info.cAccel, 0);
-}
-
-TEST(progress_is_shown_inside_the_put) {
-    Host host;
-    const auto bar = host.place(makeBar());
-    EXPECT_CODE(bar.as<IPersistStreamInit>()->InitNew(), S_OK);
-    EXPECT_CODE(bar->put_ShowTime(VARIANT_FALSE), S_OK);
-    EXPECT_CODE(host.verb(OLEIVERB_UIACTIVATE), S_OK);
-    pump();
-    HWND const surface = widgetIn(host);
-    EXPECT(!IsChild(host.window(), GetFocus()));
-    EXPECT(!GetUpdateRect(surface, nullptr, FALSE));
-    EXPECT_CODE(bar->Start(), S_OK);
-    EXPECT_CODE(bar->put_Value(40), S_OK);
-    EXPECT(!GetUpdateRect(surface, nullptr, FALSE));
-    EXPECT_EQ(windowTextOf(surface), std::wstring(L"40%"));
-    EXPECT_EQ(SendMessageW(surface, PBM_GETPOS, 0, 0), LRESULT{40});
-    EXPECT_CODE(bar->put_Max(1000), S_OK);
-    EXPECT_CODE(bar->put_Value(425), S_OK);
-    EXPECT_EQ(windowTextOf(surface), std::wstring(L"42%"));
-    EXPECT_EQ(SendMessageW(surface, PBM_GETPOS, 0, 0), LRESULT{42});
-    EXPECT_CODE(bar->Clear(), S_OK);
-    EXPECT_EQ(windowTextOf(surface), std::wstring());
-    EXPECT_CODE(bar->put_Enabled(VARIANT_FALSE), S_OK);
-    EXPECT(!IsWindowEnabled(surface));
 }
 
 TEST(progress_is_left_out_of_the_tab_order) {
