@@ -63,6 +63,7 @@ TEST(Editing, CaretMovesByReadersCharactersWordsAndLines) {
         {"over a break at once", Multi, 0, "a|\r\nb", "Right Left Right", "a\r\n|b", 0},
         {"ends of the line and of the text", Multi, 0, "ab\r\nc|d\r\nef", "End Shift+Home", "ab\r\n[cd]\r\nef", 0},
         {"ends of the text", Multi, 0, "ab\r\nc|d", "Ctrl+Home Ctrl+Shift+End", "[ab\r\ncd]", 0},
+        {"a line at a time", Multi, 0, "|1\r\n2\r\n3\r\n4", "Down*2 Up", "1\r\n|2\r\n3\r\n4", 0},
         {"the column outlives a short line", Multi, 0, "abc|\r\nd\r\nefg", "Down*2", "abc\r\nd\r\nefg|", 0},
         {"until something else moves", Multi, 0, "abc|\r\nd\r\nefg", "Down Left Down", "abc\r\nd\r\n|efg", 0},
         {"nothing above the first line", Multi, 0, "a[b]\r\nc", "Up", "a[b]\r\nc", 0},
