@@ -70,6 +70,7 @@ void TextEntry::typeCommitted(std::u16string_view text) {
 }
 
 void TextEntry::commitOver(std::int32_t start, std::int32_t length, std::u16string_view text) {
+    if (Locked_) return;
     if (length > 0) {
         setSelStart(static_cast<std::int32_t>(selection().caret) + start);
         setSelLength(length);
@@ -231,10 +232,11 @@ void TextEntry::press(const MousePress& press) {
 void TextEntry::selectClicked(int clicks) {
     if (clicks < 2) return;
     const TextLine line = lines().lineAt(selection().caret);
+    const Selection word = wordAt(text(), selection().caret);
     if (isPassword() || clicks > 2)
         select({line.start, line.end});
     else
-        select(wordAt(text(), selection().caret));
+        select({std::clamp(word.anchor, line.start, line.end), std::clamp(word.caret, line.start, line.end)});
 }
 
 void TextEntry::pressMouse(MouseButton button) {
