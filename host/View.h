@@ -119,10 +119,13 @@ public:
 
     /// The control is enabled and shown, so that its widgets take input.
     virtual bool takesInput() const = 0;
-    /// By code; a field that takes none stays without it.
+    /// By code. The field takes input.
     virtual void moveFocusTo(FieldWidget& field) = 0;
     /// A field has been disabled or hidden, which is about to be seen: the focus goes on from it.
     virtual void focusBarred(FieldWidget& field) = 0;
+    /// The focus comes into the control, before its field hears of it; it has gone, after its field has heard.
+    virtual void controlEntered() {}
+    virtual void controlLeft() {}
 
     virtual std::u16string clipboardText() = 0;
     virtual void setClipboardText(std::u16string_view text) = 0;

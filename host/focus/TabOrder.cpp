@@ -30,6 +30,16 @@ private:
 
 }  // namespace
 
+char16_t mnemonicOf(const WidgetSet& widgets) {
+    if (widgets.label != nullptr) return widgets.label->mnemonic();
+    return widgets.checkBox != nullptr ? widgets.checkBox->mnemonic() : u'\0';
+}
+
+FieldWidget* TabStop::focusTarget() const {
+    FieldWidget* const field = widgets().field;
+    return field != nullptr && field->takesInput() ? field : nullptr;
+}
+
 TabStop* TabOrder::next(const TabStop* from, bool back) const {
     const TabWay way(from, back);
     TabStop* next = nullptr;
@@ -37,7 +47,7 @@ TabStop* TabOrder::next(const TabStop* from, bool back) const {
     for (std::size_t i = 0; i < Stops_.size(); ++i) {
         TabStop* const stop = Stops_[back ? Stops_.size() - 1 - i : i];
         if (stop == from || !stop->takesTab() || (next != nullptr && !way.reachesSooner(*stop, *next))) continue;
-        if (stop->takesFocus()) next = stop;
+        if (stop->focusTarget() != nullptr) next = stop;
     }
     return next;
 }
@@ -55,12 +65,19 @@ void TabOrder::addLabel(std::u16string_view caption, std::int32_t tabIndex) {
     Labels_.emplace_back(mnemonicIn(caption), tabIndex);
 }
 
-TabStop* TabOrder::marked(char32_t letter) const {
-    for (TabStop* const stop : Stops_)
-        if (isKeyOf(stop->mnemonic(), letter)) return stop;
-    for (const auto& [mnemonic, tabIndex] : Labels_)
-        if (isKeyOf(mnemonic, letter)) return namedBy(tabIndex);
-    return nullptr;
+bool TabOrder::pressMnemonic(char32_t letter) const {
+    for (const TabStop* const stop : Stops_) {
+        if (!isKeyOf(stop->mnemonic(), letter)) continue;
+        if (FieldWidget* const field = stop->focusTarget()) field->pressMnemonic();
+        return true;
+    }
+    for (const auto& [mnemonic, tabIndex] : Labels_) {
+        const TabStop* const named = isKeyOf(mnemonic, letter) ? namedBy(tabIndex) : nullptr;
+        if (named == nullptr) continue;
+        if (FieldWidget* const field = named->focusTarget()) field->setFocus();
+        return true;
+    }
+    return false;
 }
 
 std::vector<TabStop*> TabOrder::sorted() const {

@@ -6,10 +6,15 @@
 #include <utility>
 #include <vector>
 
+#include "host/Widgets.h"
+
 namespace kel {
 
 /// When the Tab key comes to a control: by tab index, equal ones in the order they were placed.
 using TabPlace = std::pair<std::int32_t, std::size_t>;
+
+/// That the caption of a control marks; 0 for none.
+char16_t mnemonicOf(const WidgetSet& widgets);
 
 /// A control on a form, for the keys that move the focus.
 class TabStop {
@@ -23,14 +28,15 @@ public:
     bool takesTab() const { return TakesTab_; }
 
     /// There is something in it that can have the focus, at this moment or another.
-    virtual bool hasField() const = 0;
-    /// It would take the focus now.
-    virtual bool takesFocus() const = 0;
-    /// That its own caption marks, for homes whose toolkit does not look for it; 0 for none.
-    virtual char16_t mnemonic() const { return 0; }
+    bool hasField() const { return widgets().field != nullptr; }
+    /// What has the focus or would take it now; nullptr while it takes none.
+    FieldWidget* focusTarget() const;
+    /// That its own caption marks; 0 for none.
+    char16_t mnemonic() const { return mnemonicOf(widgets()); }
 
 protected:
     ~TabStop() = default;
+    virtual WidgetSet widgets() const = 0;
 
 private:
     TabPlace Place_;
@@ -48,16 +54,16 @@ public:
 
     /// The field that has the focus in `stop` is disabled or hidden: it goes on as by Tab, unless another field has
     /// taken that one's place in the same control (several lines that of one).
-    TabStop* afterBarred(TabStop& stop) const { return stop.takesFocus() ? &stop : next(&stop, false); }
+    TabStop* afterBarred(TabStop& stop) const { return stop.focusTarget() != nullptr ? &stop : next(&stop, false); }
 
     /// What a plain label with this tab index names, and its mnemonic leads to: the next control that has a field.
     TabStop* namedBy(std::int32_t labelIndex) const;
 
     void addLabel(std::u16string_view caption, std::int32_t tabIndex);
 
-    /// Where the mnemonic with this letter leads: to the first control that has it, or else to what a plain label
-    /// names.
-    TabStop* marked(char32_t letter) const;
+    /// The key of the mnemonic with this letter is that of the first control that has it, or else leads to what a plain
+    /// label names. False where nothing has it.
+    bool pressMnemonic(char32_t letter) const;
 
     /// As Tab comes to them.
     std::vector<TabStop*> sorted() const;

@@ -106,7 +106,10 @@ public:
     const std::u16string& toolTip() const { return ToolTip_; }
     void setToolTip(std::u16string_view text) { change(ToolTip_, text, Change::ToolTip); }
 
-    void setFocus() { Host_.moveFocusTo(*this); }
+    /// By code; one that takes no input stays without it.
+    void setFocus() {
+        if (takesInput()) Host_.moveFocusTo(*this);
+    }
 
     /// Enabled and shown, its control as well.
     bool takesInput() const { return enabled() && visible() && Host_.takesInput(); }

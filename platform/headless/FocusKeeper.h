@@ -1,41 +1,21 @@
 #pragma once
 
-#include <cstdint>
-
+#include "host/focus/FocusOrder.h"
 #include "host/focus/TabOrder.h"
-#include "host/widgets/Widget.h"
 #include "platform/headless/Input.h"
 
 namespace kel::headless {
 
-class FocusKeeper;
-class PlacedHeadlessControl;
-
-/// What the widgets of one control know of the place it stands in. Outlives them.
-struct Seat {
-    FocusKeeper& focus;
-    Input& input;
-    PlacedHeadlessControl& owner;
-    Control* control = nullptr;  ///< none while it is being made
-    bool enabled = true;
-    bool visible = true;
-
-    bool takesInput() const { return control != nullptr && enabled && visible; }
-};
-
-/// The focus of one window. Tells widgets and controls in the order they know it: the old widget, the old
-/// control, the new control, the new widget. Any of them may move the focus elsewhere; the later move wins
-/// and the earlier one stops where it is.
+/// The focus of one window in memory, where a move has arrived as soon as it is asked for.
 class FocusKeeper {
 public:
     /// All of it outlives the keeper.
-    FocusKeeper(Input& input, FormWindow& window, const TabOrder& order)
-        : Input_(input), Window_(window), Order_(order) {}
+    FocusKeeper(Input& input, FormWindow& window, const TabOrder& stops)
+        : Input_(input), Window_(window), Stops_(stops) {}
 
     /// The widget with the focus, nullptr while nothing has it.
-    FieldWidget* holder() const { return Holder_; }
+    FieldWidget* holder() const { return Order_.holder(); }
 
-    /// Does nothing when `target` takes no input.
     void moveTo(FieldWidget& target);
 
     /// As the Tab key does.
@@ -45,23 +25,15 @@ public:
     void recheck();
 
     /// The control is about to go, without a word to anybody.
-    void forget(const Seat& seat);
+    void forget(const WidgetHost& control) { Order_.forget(control); }
 
 private:
-    void move(FieldWidget* target);
-    void moveTo(TabStop* stop, bool byTab);
-    bool leaveHolder(std::uint32_t turn);
-    bool leaveSeat(std::uint32_t turn);
-    bool enterSeat(std::uint32_t turn);
-    Seat* destination() const;
+    void moveTo(const TabStop& stop, bool byTab);
 
     Input& Input_;
     FormWindow& Window_;
-    const TabOrder& Order_;
-    FieldWidget* Holder_ = nullptr;
-    FieldWidget* Target_ = nullptr;  ///< where the move under way goes
-    Seat* Entered_ = nullptr;        ///< whose control has been entered and not yet left
-    std::uint32_t Turn_ = 0;         ///< counts the moves
+    const TabOrder& Stops_;
+    FocusOrder Order_;
 };
 
 }  // namespace kel::headless

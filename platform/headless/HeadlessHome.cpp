@@ -27,7 +27,7 @@ public:
         Onlooker_.messageBox(prompt, title);
     }
     void beep() override { Onlooker_.beep(); }
-    bool tabKeyDown() const override { return Input_.tabHeld(); }
+    bool tabKeyDown() const override { return Input_.Tab.isHeld(); }
     std::int32_t twipsPerPixel() const override { return TwipsPerPixel_; }
 
 private:

@@ -81,22 +81,15 @@ void HeadlessWindow::press(const KeyStroke& stroke) {
         if (leavesField(stroke) && (stroke.modifiers & AltKey) != 0) return;
         const bool struck = Focus_.holder() != nullptr && Focus_.holder()->strike(stroke);
         if (leavesField(stroke)) Focus_.moveByTab((stroke.modifiers & ShiftKey) != 0);
-        if (!struck && stroke.modifiers == AltKey && stroke.character != 0) pressMnemonic(stroke.character);
+        if (!struck && stroke.modifiers == AltKey && stroke.character != 0) Order_.pressMnemonic(stroke.character);
     });
-}
-
-void HeadlessWindow::pressMnemonic(char32_t letter) {
-    const TabStop* const marked = Order_.marked(letter);
-    if (marked == nullptr) return;
-    FieldWidget* const target = static_cast<const PlacedHeadlessControl*>(marked)->focusTarget();
-    if (target != nullptr) target->pressMnemonic();
 }
 
 void HeadlessWindow::focus(PlacedControl& control) {
     byHand([&] {
         FieldWidget* const target = placedHere(control).focusTarget();
         if (target == nullptr) return;
-        const Input::TabKey released(Input_, false);
+        const TabKey::Scope released(Input_.Tab, false);
         Focus_.moveTo(*target);
     });
 }
@@ -137,9 +130,7 @@ void HeadlessWindow::drop(PlacedControl& control, std::int32_t position, std::u1
     byMouseInField(control, [&](FieldWidget& field) { field.drop(position, text); });
 }
 
-PlacedControl* HeadlessWindow::focused() const { return placedWithFocus(); }
-
-PlacedHeadlessControl* HeadlessWindow::placedWithFocus() const {
+PlacedControl* HeadlessWindow::focused() const {
     return Focus_.holder() != nullptr ? static_cast<PlacedHeadlessControl*>(&Focus_.holder()->host()) : nullptr;
 }
 

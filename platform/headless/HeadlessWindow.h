@@ -40,8 +40,6 @@ public:
 
 private:
     void paint() override { Onlooker_.see(Scene_); }
-    void pressMnemonic(char32_t letter);
-    PlacedHeadlessControl* placedWithFocus() const;
 
     /// Runs what a person does here, on the window that then has the keyboard.
     template <class Action>

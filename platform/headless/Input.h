@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "forms/Home.h"
+#include "host/focus/TabKey.h"
 
 namespace kel::headless {
 
@@ -12,6 +13,7 @@ namespace kel::headless {
 class Input {
 public:
     std::u16string Clipboard;
+    TabKey Tab;
 
     /// The window that keys go to from now on.
     void activate(FormWindow& window) { Active_ = &window; }
@@ -19,8 +21,6 @@ public:
     void forget(const FormWindow& window) {
         if (Active_ == &window) Active_ = nullptr;
     }
-
-    bool tabHeld() const { return TabHeld_; }
 
     /// Presses a key on the active window: after the input that is under way, else at once.
     void send(std::int16_t keyCode);
@@ -36,19 +36,6 @@ public:
         action();
         pressSent();
     }
-
-    /// Says while it lives whether the Tab key is down.
-    class TabKey {
-    public:
-        TabKey(Input& input, bool held) : Input_(input), Before_(input.TabHeld_) { input.TabHeld_ = held; }
-        ~TabKey() { Input_.TabHeld_ = Before_; }
-        TabKey(const TabKey&) = delete;
-        TabKey& operator=(const TabKey&) = delete;
-
-    private:
-        Input& Input_;
-        bool Before_;
-    };
 
 private:
     /// One input at a time; what is left to press when it fails is dropped.
@@ -71,7 +58,6 @@ private:
     FormWindow* Active_ = nullptr;
     std::vector<std::int16_t> Sent_;
     bool UnderWay_ = false;
-    bool TabHeld_ = false;
 };
 
 }  // namespace kel::headless

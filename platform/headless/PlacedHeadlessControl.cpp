@@ -25,17 +25,18 @@ PlacedHeadlessControl::PlacedHeadlessControl(const ClassModel& model, const Plac
     : TabStop(placement.tabIndex, order, placement.tabStop),
       Observer_(observer),
       Painter_(services.painter),
+      Input_(services.input),
+      Focus_(services.focus),
       Name_(placement.name),
       Bounds_(placement.bounds),
-      Seat_{.focus = services.focus, .input = services.input, .owner = *this, .visible = placement.visible} {
+      Visible_(placement.visible) {
     ControlHost host{*this, *this, services.system, services.settings, services.region};
     Control_ = model.makeControl(host);
-    Seat_.control = Control_.get();
 }
 
 PlacedHeadlessControl::~PlacedHeadlessControl() {
-    Seat_.focus.forget(Seat_);
-    Seat_.control = nullptr;
+    Focus_.forget(*this);
+    Control_.reset();
 }
 
 std::unique_ptr<PictureView> PlacedHeadlessControl::makeView(PictureBox& box) {
@@ -57,19 +58,8 @@ void PlacedHeadlessControl::setSize(Size wanted) {
 }
 
 void PlacedHeadlessControl::setEnabled(bool enabled) {
-    Seat_.enabled = enabled;
-    Seat_.focus.recheck();
-}
-
-char16_t PlacedHeadlessControl::mnemonic() const {
-    const WidgetSet widgets = Control_->widgets();
-    if (widgets.label != nullptr) return widgets.label->mnemonic();
-    return widgets.checkBox != nullptr ? widgets.checkBox->mnemonic() : u'\0';
-}
-
-FieldWidget* PlacedHeadlessControl::focusTarget() const {
-    FieldWidget* const target = Control_->widgets().field;
-    return target != nullptr && target->takesInput() ? target : nullptr;
+    Enabled_ = enabled;
+    Focus_.recheck();
 }
 
 }  // namespace kel::headless

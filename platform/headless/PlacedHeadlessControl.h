@@ -45,29 +45,24 @@ public:
     std::u16string toolTipText() const override { return ToolTipText_; }
     void setToolTipText(std::u16string_view text) override { ToolTipText_.assign(text); }
 
-    bool hasField() const override { return Control_->widgets().field != nullptr; }
-    bool takesFocus() const override { return focusTarget() != nullptr; }
-    char16_t mnemonic() const override;
-
-    /// The widget that has the focus or would take it; nullptr while the control takes none.
-    FieldWidget* focusTarget() const;
-
-    Seat& seat() { return Seat_; }
-
 private:
+    WidgetSet widgets() const override { return Control_->widgets(); }
+
     using WidgetHost::makeView;
     std::unique_ptr<PictureView> makeView(PictureBox& box) override;
 
-    bool takesInput() const override { return Seat_.takesInput(); }
-    void moveFocusTo(FieldWidget& field) override { Seat_.focus.moveTo(field); }
-    void focusBarred(FieldWidget& /*field*/) override { Seat_.focus.recheck(); }
-    std::u16string clipboardText() override { return Seat_.input.Clipboard; }
-    void setClipboardText(std::u16string_view text) override { Seat_.input.Clipboard.assign(text); }
+    bool takesInput() const override { return Control_ && Enabled_ && Visible_; }
+    void moveFocusTo(FieldWidget& field) override { Focus_.moveTo(field); }
+    void focusBarred(FieldWidget& /*field*/) override { Focus_.recheck(); }
+    void controlEntered() override { Control_->EnterFocus(); }
+    void controlLeft() override { Control_->ExitFocus(); }
+    std::u16string clipboardText() override { return Input_.Clipboard; }
+    void setClipboardText(std::u16string_view text) override { Input_.Clipboard.assign(text); }
 
     bool hasSize() const override { return Sized_; }
     Size size() const override { return {Bounds_.width, Bounds_.height}; }
     void setSize(Size size) override;
-    bool enabled() const override { return Seat_.enabled; }
+    bool enabled() const override { return Enabled_; }
     void setEnabled(bool enabled) override;
     std::int32_t windowHandle() override { return 0; }
     std::u16string displayName() const override { return Name_; }
@@ -78,12 +73,15 @@ private:
 
     ControlObserver& Observer_;
     Painter& Painter_;
+    Input& Input_;
+    FocusKeeper& Focus_;
     std::u16string Name_;
     std::u16string ToolTipText_;
     Rect Bounds_;
     bool Sized_ = false;
-    Seat Seat_;
-    std::unique_ptr<Control> Control_;  ///< last, so that it goes before all it stands on
+    bool Enabled_ = true;
+    bool Visible_;
+    std::unique_ptr<Control> Control_;  ///< last, so that it goes before all it stands on; none while it is being made
 };
 
 }  // namespace kel::headless

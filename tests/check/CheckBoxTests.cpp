@@ -116,7 +116,7 @@ TEST_F(Box, WhatTakesNoInputIsNotPressed) {
         It.press();
         It.release();
         It.strike(strokeFor(U' '));
-        EXPECT_EQ(told(), "focus ");
+        EXPECT_EQ(told(), "") << "nor does it ask for the focus";
         EXPECT_EQ(It.value(), CheckBox::Unchecked);
         It.setEnabled(true);
         It.setVisible(true);

@@ -50,15 +50,56 @@ Begin VB.Form frmCheck
       Top             =   1560
       Width           =   4000
    End
+   Begin KelControls8.KelProgressBar job 
+      Height          =   300
+      Left            =   4120
+      TabIndex        =   5
+      Top             =   1560
+      Width           =   180
+   End
    Begin KelControls8.KelText note 
       Height          =   300
       Left            =   120
-      TabIndex        =   5
+      TabIndex        =   6
       Top             =   2160
       Width           =   4000
       Caption         =   "Note"
       CaptionWidth    =   1200
       Text            =   "some"
+   End
+   Begin KelControls8.KelText ghost 
+      Height          =   300
+      Left            =   120
+      TabIndex        =   7
+      Top             =   2480
+      Visible         =   0   'False
+      Width           =   4000
+      Caption         =   "&Ghost"
+      CaptionWidth    =   1200
+   End
+   Begin VB.Label lblPlain 
+      Caption         =   "&Plain"
+      Height          =   255
+      Left            =   4000
+      TabIndex        =   0
+      Top             =   480
+      Width           =   300
+   End
+   Begin VB.Label lblOff 
+      Caption         =   "O&ff"
+      Height          =   255
+      Left            =   4000
+      TabIndex        =   2
+      Top             =   1200
+      Width           =   300
+   End
+   Begin VB.Label lblNote 
+      Caption         =   "S&&o &much"
+      Height          =   255
+      Left            =   4000
+      TabIndex        =   4
+      Top             =   2160
+      Width           =   300
    End
 End
 Attribute VB_Name = "frmCheck"

@@ -11,6 +11,7 @@
 #include "library/Control.h"
 #include "platform/qt/home/KeySender.h"
 #include "platform/qt/home/QtHome.h"
+#include "tests/qt/ProbeForm.h"
 #include "tests/qt/QtForm.h"
 
 namespace kel::test {
@@ -186,24 +187,56 @@ TEST_F(MixedWindow, GoesOnFromWhatIsDisabledOrHidden) {
     EXPECT_EQ(QApplication::focusWidget(), nullptr) << "nothing else takes it";
 }
 
-TEST_F(MixedWindow, MnemonicsLeadToTheField) {
-    first.setCaption(QStringLiteral("&Name && more"));
-    first.setSelectOnFocus(true);
-    first.setText(QStringLiteral("text"));
-    behind.setFocus();
-    QTest::keyClick(window.windowHandle(), Qt::Key_N, Qt::AltModifier);
-    EXPECT_EQ(QApplication::focusWidget(), boxOf(first));
-    EXPECT_EQ(first.control().widgets().entry->selLength(), 0) << "not by Tab, nothing selected";
+TEST_F(MixedWindow, AMnemonicThatIsNoLongerMarkedIsNone) {
+    first.setCaption(QStringLiteral("&Name"));
     first.setCaption(QStringLiteral("Na&me"));
     behind.setFocus();
     QTest::keyClick(window.windowHandle(), Qt::Key_N, Qt::AltModifier);
-    EXPECT_EQ(QApplication::focusWidget(), &behind) << "the old mnemonic is gone";
+    EXPECT_EQ(QApplication::focusWidget(), &behind);
 
     QLabel label(QStringLiteral("&Buddy"), &window);
     label.setBuddy(&second);
     label.show();
     QTest::keyClick(window.windowHandle(), Qt::Key_B, Qt::AltModifier);
     EXPECT_EQ(QApplication::focusWidget(), boxOf(second));
+}
+
+/// What is told of a Tab from the first of three fields while a handler does `does` to the last or the middle one.
+template <class Form>
+std::string toldOfTab(const char* told, void (*does)(ProbeControl& middle, ProbeControl& last)) {
+    Form form;
+    PlacedControl& first = form.place(u"a");
+    ProbeControl& middle = probe(form.place(u"b"));
+    ProbeControl& last = probe(form.place(u"c"));
+    form.window().show();
+    form.window().focus(first);
+    ProbeControl::takeLog();
+    bool isDone = false;
+    for (ProbeControl* const each : {&probe(first), &middle})
+        each->on(told, [&] {
+            if (!std::exchange(isDone, true)) does(middle, last);
+        });
+    form.window().press({keys::Tab});
+    return ProbeControl::takeLog() + ", focus in " + form.focused();
+}
+
+TEST(FocusOrder, IsToldAsInMemoryWhenAHandlerMovesIt) {
+    using Deed = void (*)(ProbeControl&, ProbeControl&);
+    const Deed deeds[] = {
+        [](ProbeControl&, ProbeControl& last) { last.box().setFocus(); },
+        [](ProbeControl& middle, ProbeControl&) { middle.box().setFocus(); },
+        [](ProbeControl& middle, ProbeControl&) { middle.box().setEnabled(false); },
+        [](ProbeControl& middle, ProbeControl&) { middle.box().setVisible(false); },
+        [](ProbeControl& middle, ProbeControl&) { middle.host().container.setEnabled(false); },
+        [](ProbeControl& middle, ProbeControl& last) {
+            last.box().setFocus();
+            middle.box().setFocus();
+        },
+    };
+    for (const char* const told : {"LostFocus", "ExitFocus", "EnterFocus", "GotFocusByTab"})
+        for (std::size_t deed = 0; deed < std::size(deeds); ++deed)
+            EXPECT_EQ(toldOfTab<ProbeForm>(told, deeds[deed]), toldOfTab<TestForm>(told, deeds[deed]))
+                << "deed " << deed << " in " << told;
 }
 
 }  // namespace

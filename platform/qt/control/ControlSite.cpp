@@ -55,7 +55,6 @@ void ControlSite::leaveWidget() {
     Remains_->setObjectName(Widget_->objectName());
     Remains_->setEnabled(enabled());
     Remains_->resize(Widget_->size());
-    for (ChildField* const field : Fields_) focus::forget(*field);
     for (ChildWidget* const child : Children_) child->widget().setParent(Remains_.get());
     Widget_ = Remains_.get();
     Host_ = nullptr;
@@ -276,8 +275,6 @@ void ControlSite::tabAfter(ControlSite& before) {
     fieldEnabled(*Active_, isFieldEnabled());
 }
 
-bool ControlSite::takesFocus() const { return Active_ != nullptr && Active_->takesFocus(); }
-
 bool ControlSite::owns(const QWidget& widget) const { return Widget_->isAncestorOf(&widget); }
 
 void ControlSite::leaveTabOrder() {
@@ -300,7 +297,7 @@ void ControlSite::captionChanged(const QString& spokenBefore) {
 
 bool ControlSite::mnemonicPressed(int shortcutId) {
     if (Mnemonic_ == 0 || shortcutId != Mnemonic_) return false;
-    if (takesFocus()) Widget_->setFocus(Qt::ShortcutFocusReason);
+    if (Active_ != nullptr) Active_->shown().pressMnemonic();
     return true;
 }
 

@@ -69,6 +69,8 @@ public:
     bool takesInput() const override { return Widget_->isEnabled(); }
     void moveFocusTo(FieldWidget& field) override;
     void focusBarred(FieldWidget& field) override;
+    void controlEntered() override { Control_->EnterFocus(); }
+    void controlLeft() override { Control_->ExitFocus(); }
     std::u16string clipboardText() override;
     void setClipboardText(std::u16string_view text) override;
 
@@ -100,8 +102,6 @@ public:
     void fieldEnabled(const ChildField& field, bool enabled);
     void setLabel(CaptionLabel* label) { Label_ = label; }
     void captionChanged(const QString& spokenBefore);
-    /// It has a field that can have it.
-    bool takesFocus() const;
     bool owns(const QWidget& widget) const;
     /// Its field takes the focus by a click only.
     void leaveTabOrder();

@@ -3,9 +3,9 @@
 #include <QApplication>
 #include <QPointer>
 #include <QWidget>
-#include <utility>
 
-#include "library/Control.h"
+#include "host/focus/FocusOrder.h"
+#include "host/focus/TabKey.h"
 #include "platform/qt/control/ControlSite.h"
 #include "platform/qt/control/FocusWay.h"
 #include "platform/qt/widgets/ChildField.h"
@@ -14,52 +14,35 @@ namespace kel::qt::focus {
 
 namespace {
 
-ChildField* Holder = nullptr;
-ControlSite* Entered = nullptr;  ///< whose control has been entered and not yet left
-bool Suspended = false;          ///< the holder's focus is away for a while: a popup, another window
-bool ByTab = false;
-int Changing = 0;
+FocusOrder Order;
+TabKey Tab;
+bool Suspended = false;             ///< the holder's focus is away for a while: a popup, another window
 const QWidget* Refusing = nullptr;  ///< a hidden field that was given the focus a moment ago
 
-bool isTab(Qt::FocusReason reason) { return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason; }
+/// What code moves while Tab does is moved by Tab.
+bool isByTab(Qt::FocusReason reason) {
+    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+           (reason == Qt::OtherFocusReason && Tab.isHeld());
+}
 
 bool isPassing(Qt::FocusReason reason) {
     return reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason || reason == Qt::MenuBarFocusReason;
 }
 
-/// While somebody is told of a change that `reason` makes.
-class Telling {
-public:
-    explicit Telling(Qt::FocusReason reason) : Before_(std::exchange(ByTab, isTab(reason))) { ++Changing; }
-    ~Telling() {
-        --Changing;
-        ByTab = Before_;
-    }
-    Telling(const Telling&) = delete;
-    Telling& operator=(const Telling&) = delete;
-
-private:
-    bool Before_;
-};
-
-/// `next` is where the focus goes, nullptr when it is none of the controls'.
-void leaveHolder(const ControlSite* next) {
+void leave(const FieldWidget& field, const QWidget* next, Qt::FocusReason reason) {
     Suspended = false;
-    if (Holder != nullptr) std::exchange(Holder, nullptr)->shown().lostFocus();
-    if (Entered != nullptr && Entered != next) std::exchange(Entered, nullptr)->control().ExitFocus();
-}
-
-const ControlSite* siteOf(const QWidget* widget) {
-    if (Entered == nullptr || widget == nullptr) return nullptr;
-    return Entered->owns(*widget) ? Entered : nullptr;
+    const TabKey::Scope tab(Tab, isByTab(reason));
+    const auto* const nextField = dynamic_cast<const ChildField*>(next);
+    Order.departed(field, nextField != nullptr ? &nextField->site() : nullptr);
 }
 
 /// While a popup or another window was in front, the focus of the holder's window was moved.
 void focusMoved(const QWidget* now) {
-    if (!Suspended || Holder == nullptr || now == nullptr || now == &Holder->widget()) return;
-    if (now->window() != Holder->widget().window() || QApplication::activePopupWidget() != nullptr) return;
-    const Telling telling(Qt::OtherFocusReason);
-    leaveHolder(siteOf(now));
+    const FieldWidget* const holder = Order.holder();
+    if (!Suspended || holder == nullptr || now == nullptr) return;
+    const QWidget& widget = dynamic_cast<const ChildField&>(*holder->view()).widget();
+    if (now == &widget || now->window() != widget.window() || QApplication::activePopupWidget() != nullptr) return;
+    leave(*holder, now, Qt::OtherFocusReason);
 }
 
 /// The focus has come to a hidden field and gone: it stays where it was.
@@ -90,32 +73,21 @@ void arrived(ChildField& field, Qt::FocusReason reason) {
         widget.clearFocus();
         return;
     }
-    if (&field == Holder) {
-        Suspended = !widget.hasFocus();
-        return;
-    }
-    const Telling telling(reason);
-    leaveHolder(&field.site());
-    if (widget.window()->focusWidget() != &widget) return;  // a handler has moved it on
-    Holder = &field;
     Suspended = !widget.hasFocus();
-    if (Entered == nullptr) {
-        Entered = &field.site();
-        Entered->control().EnterFocus();
-    }
-    if (Holder == &field) field.shown().gotFocus();
+    const TabKey::Scope tab(Tab, isByTab(reason));
+    Order.arrived(field.shown());
 }
 
 void departed(ChildField& field, Qt::FocusReason reason) {
-    if (&field != Holder) return;
-    if (isPassing(reason)) {
+    if (&field.shown() != Order.target()) return;
+    const QWidget* const now = QApplication::focusWidget();
+    const auto* const next = dynamic_cast<const ChildField*>(now);
+    const bool comesBack = next != nullptr && next != &field && !now->isVisible();
+    if (comesBack || isPassing(reason)) {
         Suspended = true;
         return;
     }
-    {
-        const Telling telling(reason);
-        leaveHolder(siteOf(QApplication::focusWidget()));
-    }
+    leave(field.shown(), now, reason);
     // From what stands in something that is disabled Qt takes the focus, and gives it to nobody.
     if (!field.takesFocus() && field.widget().window()->focusWidget() == nullptr) passOn(field);
 }
@@ -125,22 +97,18 @@ void passOn(ChildField& field) {
     ChildField* const shown = field.site().activeField();
     const bool stays = shown != nullptr && shown != &field && shown->takesFocus();
     QWidget* const heir = stays ? &shown->widget() : nextByTab(widget);
-    if (heir == nullptr || isChanging()) widget.clearFocus();
-    if (heir != nullptr) focusWidget(*heir, stays ? Qt::OtherFocusReason : Qt::TabFocusReason);
+    if (heir != nullptr)
+        focusWidget(*heir, stays ? Qt::OtherFocusReason : Qt::TabFocusReason);
+    else
+        widget.clearFocus();
 }
 
-void forget(const ChildField& field) {
-    if (Holder == &field) Holder = nullptr;
-}
+void forget(const ChildField& field) { Order.forget(field.shown()); }
 
-void forget(const ControlSite& site) {
-    if (Entered == &site) Entered = nullptr;
-}
+void forget(const ControlSite& site) { Order.forget(site); }
 
-bool isHeldBy(const ChildField& field) { return Holder == &field; }
+bool isHeldBy(const ChildField& field) { return Order.holder() == &field.shown(); }
 
-bool movesByTab() { return ByTab; }
-
-bool isChanging() { return Changing > 0; }
+bool movesByTab() { return Tab.isHeld(); }
 
 }  // namespace kel::qt::focus

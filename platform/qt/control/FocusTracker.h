@@ -7,8 +7,7 @@ namespace kel::qt {
 class ChildField;
 class ControlSite;
 
-/// Tells controls and their widgets of the focus, in the order they know it: the old widget, the old control,
-/// the new control, the new widget. Popups, menus and other windows in front are no change to them.
+/// What Qt says of the focus, for those who are told of it. Popups, menus and other windows in front are no change.
 namespace focus {
 
 /// In a window that is not the active one the field has the focus as soon as it is.
@@ -28,9 +27,6 @@ bool isHeldBy(const ChildField& field);
 
 /// The Tab key moves the focus at this moment.
 bool movesByTab();
-
-/// Somebody is being told of a change; another one has to wait.
-bool isChanging();
 
 }  // namespace focus
 

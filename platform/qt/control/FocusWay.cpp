@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QWidget>
 
-#include "platform/qt/control/FocusTracker.h"
 #include "platform/qt/widgets/ComboList.h"
 
 namespace kel::qt {
@@ -18,11 +17,6 @@ bool takesFocus(const QWidget& widget) {
 }
 
 void focusWidget(QWidget& widget, Qt::FocusReason reason) {
-    if (focus::isChanging()) {
-        QMetaObject::invokeMethod(
-            &widget, [&widget, reason] { focusWidget(widget, reason); }, Qt::QueuedConnection);
-        return;
-    }
     if (!takesFocus(widget)) return;
     // An open list would keep the keys, and its box the focus.
     auto* const list = dynamic_cast<ComboList*>(QApplication::activePopupWidget());

@@ -10,7 +10,7 @@ namespace kel::qt {
 /// Enabled and shown, with all around it: it would take the focus.
 bool takesFocus(const QWidget& widget);
 
-/// Gives it the focus, if it takes it; after the change of focus that is under way, if there is one.
+/// Gives it the focus, if it takes it.
 void focusWidget(QWidget& widget, Qt::FocusReason reason = Qt::OtherFocusReason);
 
 /// Where the Tab key would lead from there; nullptr when nothing else takes the focus.

@@ -25,12 +25,11 @@ public:
     void showControl() { site().shown(); }
     /// As code gives it: a disabled field does not take it.
     void takeFocus();
-    bool hasField() const override { return site().activeField() != nullptr; }
-    bool takesFocus() const override { return site().takesFocus(); }
     void tabAfter(const PlacedQtControl& before) { site().tabAfter(before.site()); }
     bool owns(const QWidget& widget) const { return site().owns(widget); }
 
 private:
+    WidgetSet widgets() const override { return site().control().widgets(); }
     void controlEvent(const EventRow& event, std::span<Variant> arguments) override {
         Observer_.controlEvent(*this, event, arguments);
     }

@@ -13,22 +13,6 @@
 
 namespace kel::qt {
 
-namespace {
-
-/// A mark that stands after a mark is read out.
-QString spokenOf(std::u16string_view caption) {
-    if (caption.find(u'&') == caption.npos) return toQString(caption);
-    QString spoken;
-    bool marks = false;
-    for (const char16_t unit : caption) {
-        marks = !marks && unit == u'&';
-        if (!marks) spoken += QChar(unit);
-    }
-    return spoken;
-}
-
-}  // namespace
-
 CaptionLabel::CaptionLabel(ControlSite& site, Label& label) : Site_(site), Label_(label) { Site_.setLabel(this); }
 
 CaptionLabel::~CaptionLabel() { Site_.setLabel(nullptr); }
@@ -38,7 +22,8 @@ void CaptionLabel::outOfDate() {
     const std::int32_t width = Label_.bounds().width;
     if (std::exchange(Width_, width) != width) Site_.widget().updateGeometry();
     if (changes.has(Change::Font)) Font_ = fontOf(Font_.value_or(Site_.widget().font()), Label_.font());
-    if (changes.has(Change::Caption)) Site_.captionChanged(std::exchange(Spoken_, spokenOf(Label_.caption())));
+    if (changes.has(Change::Caption))
+        Site_.captionChanged(std::exchange(Spoken_, toQString(readCaption(Label_.caption()).text)));
     paintAgain();
 }
 

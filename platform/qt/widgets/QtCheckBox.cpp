@@ -117,8 +117,7 @@ bool QtCheckBox::event(QEvent* event) {
             // Qt would show the box pressed for a while before it toggles.
             if (static_cast<QShortcutEvent*>(event)->isAmbiguous()) break;
             return atEdge([this] {
-                setFocus(Qt::ShortcutFocusReason);
-                Box_.press();
+                Box_.pressMnemonic();
                 return true;
             });
         default: break;

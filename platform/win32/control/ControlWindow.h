@@ -31,7 +31,7 @@ public:
     /// The control looks other than it did: where the host paints its picture itself, it is out of date.
     virtual void viewChanged() = 0;
 
-    /// `ControlWindow::mnemonic` gives another character from now on.
+    /// The caption marks another character from now on.
     virtual void mnemonicChanged() = 0;
 
 protected:
@@ -85,11 +85,6 @@ public:
     /// A key that the host offers before it looks at it itself. True: the field wants it (arrows, Home, End,
     /// Enter, Escape in a dropped list, the editing shortcuts) and has been given it. Tab is never wanted.
     virtual bool translateAccelerator(MSG& message) = 0;
-
-    /// The character that reaches the field together with Alt, as the caption marks it with "&"; 0 for none.
-    virtual char16_t mnemonic() const = 0;
-    /// The user pressed it: the field takes the focus, a check box is toggled too.
-    virtual void pressMnemonic() = 0;
 
     /// Paints the control as it stands into `bounds`, also while it has no window. `context` may be that of
     /// a metafile.

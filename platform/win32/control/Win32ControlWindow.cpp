@@ -193,18 +193,6 @@ void Win32ControlWindow::give(const ChildField* field) {
     if (field != nullptr && field->window() != nullptr && field->widget().takesInput()) SetFocus(field->window());
 }
 
-char16_t Win32ControlWindow::mnemonic() const {
-    if (Label_ != nullptr) return Label_->shown().mnemonic();
-    const ChildField* const field = shownField();
-    return field != nullptr ? field->mnemonic() : u'\0';
-}
-
-void Win32ControlWindow::pressMnemonic() {
-    setFocus();
-    ChildField* const field = shownField();
-    if (field != nullptr && field->window() != nullptr && GetFocus() == field->window()) field->mnemonicPressed();
-}
-
 bool Win32ControlWindow::hasFocus() const { return Window_ != nullptr && isIn(Window_, GetFocus()); }
 
 void Win32ControlWindow::takeInputFrom(HWND window) {

@@ -27,8 +27,6 @@ public:
     void setFocus() override;
     bool hasFocus() const override;
     bool translateAccelerator(MSG& message) override;
-    char16_t mnemonic() const override;
-    void pressMnemonic() override;
     void draw(HDC context, const RECT& bounds) override;
 
     /// The screen that the window is on has another resolution.

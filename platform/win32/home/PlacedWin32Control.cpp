@@ -77,9 +77,9 @@ void PlacedWin32Control::focusLeft() {
 
 void PlacedWin32Control::passFocusOn() { Form_.passFocusOn(*this); }
 
-HWND PlacedWin32Control::focusTarget() const {
-    const ChildField* const field = viewOf<ChildField>(Control_->widgets().field);
-    return field != nullptr && field->widget().takesInput() ? field->window() : nullptr;
+HWND PlacedWin32Control::focusWindow() const {
+    const ChildField* const field = viewOf<ChildField>(focusTarget());
+    return field != nullptr ? field->window() : nullptr;
 }
 
 }  // namespace kel::win32

@@ -42,13 +42,13 @@ public:
     ControlWindow& window() const;
     /// The form is on a screen of another resolution.
     void setGrid(const TwipGrid& grid);
-    bool hasField() const override { return Control_->widgets().field != nullptr; }
-    bool takesFocus() const override { return focusTarget() != nullptr; }
 
     /// The window of the field, where it can take the focus; nullptr where not.
-    HWND focusTarget() const;
+    HWND focusWindow() const;
 
 private:
+    WidgetSet widgets() const override { return Control_->widgets(); }
+
     bool hasSize() const override { return Sized_; }
     Size size() const override { return {Bounds_.width, Bounds_.height}; }
     void setSize(Size size) override;

@@ -4,7 +4,6 @@
 #include <stdexcept>
 #include <utility>
 
-#include "host/focus/Mnemonic.h"
 #include "library/SharedSettings.h"
 #include "platform/win32/base/Session.h"
 #include "platform/win32/base/WideText.h"
@@ -31,11 +30,6 @@ public:
 private:
     HWND Window_;
 };
-
-bool isSameLetter(char16_t one, char16_t other) {
-    const auto lower = [](char16_t unit) { return LOWORD(CharLowerW(reinterpret_cast<LPWSTR>(MAKELONG(unit, 0)))); };
-    return one != 0 && lower(one) == lower(other);
-}
 
 }  // namespace
 
@@ -87,8 +81,7 @@ PlacedPanel* Win32FormWindow::placeForeign(const ForeignBlock& block) {
         return Panels_.emplace_back(std::make_unique<Win32Panel>(panel.panel)).get();
     }
     Foreign_.push_back({block, makeForeignWindow(block, Grid_, parent), nullptr});
-    if (block.kind == ForeignBlock::Kind::Label)
-        Captions_.push_back({mnemonicIn(block.caption), block.placement.tabIndex});
+    if (block.kind == ForeignBlock::Kind::Label) Order_.addLabel(block.caption, block.placement.tabIndex);
     return nullptr;
 }
 
@@ -132,27 +125,12 @@ void Win32FormWindow::moveByTab(bool back) {
     // Also where the focus has nowhere to go and stays.
     if (field != nullptr) field->strike({.code = keys::Tab});
     if (TabStop* const next = Order_.next(holder, back))
-        giveFocus(static_cast<PlacedWin32Control*>(next)->focusTarget(), true);
+        giveFocus(static_cast<PlacedWin32Control*>(next)->focusWindow(), true);
 }
 
 void Win32FormWindow::passFocusOn(PlacedWin32Control& from) {
     if (TabStop* const next = Order_.afterBarred(from))
-        giveFocus(static_cast<PlacedWin32Control*>(next)->focusTarget(), next != &from);
-}
-
-bool Win32FormWindow::pressMnemonic(char16_t character) {
-    for (const auto& control : Controls_) {
-        if (!isSameLetter(control->window().mnemonic(), character)) continue;
-        control->window().pressMnemonic();
-        return true;
-    }
-    for (const Caption& caption : Captions_) {
-        TabStop* const named = isSameLetter(caption.mnemonic, character) ? Order_.namedBy(caption.tabIndex) : nullptr;
-        if (named == nullptr) continue;
-        static_cast<PlacedWin32Control*>(named)->window().setFocus();
-        return true;
-    }
-    return false;
+        giveFocus(static_cast<PlacedWin32Control*>(next)->focusWindow(), next != &from);
 }
 
 // ---- Resolution
@@ -181,7 +159,7 @@ void Win32FormWindow::changeResolution(int dotsPerInch) {
 // ---- What comes to the window
 
 bool Win32FormWindow::takesKey(const MSG& message) {
-    if (message.message == WM_SYSCHAR) return pressMnemonic(static_cast<char16_t>(message.wParam));
+    if (message.message == WM_SYSCHAR) return Order_.pressMnemonic(static_cast<char16_t>(message.wParam));
     // Without a focus the system sends plain keys as if Alt were down.
     const bool isKey = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
     if (!isKey || message.wParam != VK_TAB || GetKeyState(VK_CONTROL) < 0 || GetKeyState(VK_MENU) < 0) return false;
@@ -210,7 +188,7 @@ void Win32FormWindow::activated(WPARAM state) {
 bool Win32FormWindow::canHaveFocusAgain(HWND window) const {
     if (IsChild(Window_, window) == FALSE) return false;
     const PlacedWin32Control* const control = controlOf(window);
-    return control != nullptr ? control->focusTarget() == window : IsWindowEnabled(window) != FALSE;
+    return control != nullptr ? control->focusWindow() == window : IsWindowEnabled(window) != FALSE;
 }
 
 LRESULT Win32FormWindow::handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) {

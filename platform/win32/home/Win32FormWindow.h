@@ -49,12 +49,6 @@ private:
         HWND frame;  ///< of a panel
     };
 
-    /// A label that names the control that comes after it.
-    struct Caption {
-        char16_t mnemonic;
-        std::int32_t tabIndex;
-    };
-
     LRESULT handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) override;
     void activated(WPARAM state);
     void changeResolution(int dotsPerInch);
@@ -65,7 +59,6 @@ private:
     PlacedWin32Control* controlOf(HWND window) const;
     PlacedWin32Control* focusedControl() const { return controlOf(GetFocus()); }
     void moveByTab(bool back);
-    bool pressMnemonic(char16_t character);
     void giveFocus(HWND field, bool byTab);
     bool canHaveFocusAgain(HWND window) const;
 
@@ -85,7 +78,6 @@ private:
     HWND FocusBefore_ = nullptr;  ///< which had the focus when another window came in front
     TabOrder Order_;
     std::vector<Foreign> Foreign_;
-    std::vector<Caption> Captions_;
     std::vector<std::unique_ptr<PlacedPanel>> Panels_;
     std::vector<std::unique_ptr<PlacedWin32Control>> Controls_;
 };

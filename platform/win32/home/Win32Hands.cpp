@@ -147,13 +147,13 @@ void Win32FormWindow::strikeSent(std::int16_t code) {
 
 void Win32FormWindow::focus(PlacedControl& control) {
     activate();
-    if (HWND const field = static_cast<PlacedWin32Control&>(control).focusTarget()) giveFocus(field, false);
+    if (HWND const field = static_cast<PlacedWin32Control&>(control).focusWindow()) giveFocus(field, false);
     Session_.settle(true);
 }
 
 void Win32FormWindow::click(PlacedControl& control, std::int32_t position) {
     focus(control);
-    HWND const field = static_cast<PlacedWin32Control&>(control).focusTarget();
+    HWND const field = static_cast<PlacedWin32Control&>(control).focusWindow();
     if (field == nullptr) return;
     auto* const entry = viewOf<Win32TextEntry>(control.control().widgets().entry);
     postLeftClick(field, entry != nullptr ? aimedAt(field, entry->showPosition(position)) : centerOf(field));
@@ -162,7 +162,7 @@ void Win32FormWindow::click(PlacedControl& control, std::int32_t position) {
 
 void Win32FormWindow::rightClick(PlacedControl& control) {
     focus(control);
-    HWND const field = static_cast<PlacedWin32Control&>(control).focusTarget();
+    HWND const field = static_cast<PlacedWin32Control&>(control).focusWindow();
     if (field == nullptr) return;
     const MenuCloser closer(Window_);
     const POINT place = centerOf(field);

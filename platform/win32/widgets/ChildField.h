@@ -49,11 +49,6 @@ public:
     /// A key that its host would otherwise take for itself.
     virtual bool wantsKey(const KeyStroke& stroke) const = 0;
 
-    /// The character that a caption of its own marks with "&"; 0 for none.
-    virtual char16_t mnemonic() const { return 0; }
-    /// The user has pressed it, and the field has got the focus.
-    virtual void mnemonicPressed() {}
-
     /// Colours of what the system's window is about to paint.
     virtual HBRUSH colors(HDC context) const = 0;
 

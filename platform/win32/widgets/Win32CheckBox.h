@@ -27,8 +27,6 @@ public:
     HWND window() const override { return windowHandle(); }
     void makeWindow() override;
     bool wantsKey(const KeyStroke& stroke) const override;
-    char16_t mnemonic() const override { return Box_.mnemonic(); }
-    void mnemonicPressed() override { Box_.press(); }
     HBRUSH colors(HDC context) const override;
     void rescale() override;
     LRESULT notified(UINT notification, LPARAM details) override;

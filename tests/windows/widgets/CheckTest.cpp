@@ -71,7 +71,7 @@ constexpr Press Presses[] = {
     {"space bar", [](CheckScene& scene) { scene.key(VK_SPACE); }},
     {"character", [](CheckScene& scene) { SendMessageW(scene.window(), WM_CHAR, L' ', 1); }},
     {"other program", [](CheckScene& scene) { SendMessageW(scene.window(), BM_CLICK, 0, 0); }},
-    {"mnemonic", [](CheckScene& scene) { scene.control().pressMnemonic(); }},
+    {"mnemonic", [](CheckScene& scene) { scene.box().pressMnemonic(); }},
 };
 
 constexpr DWORD Ground = 0xC0FFEE;

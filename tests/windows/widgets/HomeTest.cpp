@@ -1,8 +1,6 @@
 #include <windows.h>
 
-#include "controls/check/KelCheck.h"
 #include "controls/Classes.h"
-#include "controls/progress/KelProgressBar.h"
 #include "platform/win32/home/Win32Home.h"
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/widgets/Stage.h"
@@ -85,30 +83,6 @@ TEST(a_caption_leads_to_its_field_and_names_it) {
     HWND const label = GetWindow(GetFocus(), GW_HWNDPREV);
     EXPECT_EQ(textOf(label), L"&One");
     EXPECT((SendMessageW(label, WM_GETDLGCODE, 0, 0) & DLGC_STATIC) != 0);
-}
-
-TEST(a_check_boxs_own_mnemonic_toggles_it_and_that_of_a_label_before_it_does_not) {
-    SilentObserver observer;
-    const auto home = win32::makeHome({.twipsPerPixel = 15});
-    const auto window = home->makeWindow({u"form", {6000, 3000}, false}, home->system());
-    ForeignBlock label;
-    label.kind = ForeignBlock::Kind::Label;
-    label.caption = u"&Terms";
-    window->placeForeign(label);
-    Placement placement;
-    placement.tabIndex = 1;
-    window->place(KelProgressBarModel, placement, observer);
-    placement.tabIndex = 2;
-    PlacedControl& placed = window->place(KelCheckModel, placement, observer);
-    auto& check = static_cast<KelCheck&>(placed.control());
-    check.put_Caption(u"I &agree");
-    placed.setBounds({300, 300, 3000, 300});
-    window->show();
-    window->press({'T', U't', AltKey});
-    EXPECT(window->focused() == &placed);
-    EXPECT(!check.get_Value());
-    window->press({'A', U'A', AltKey});
-    EXPECT(check.get_Value());
 }
 
 }  // namespace kel::tests

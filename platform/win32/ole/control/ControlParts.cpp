@@ -4,6 +4,7 @@
 #include <array>
 #include <cwctype>
 
+#include "host/focus/TabOrder.h"
 #include "library/ControlStatus.h"
 #include "platform/win32/ole/control/OleControl.h"
 
@@ -164,7 +165,7 @@ void OleControlPart::makeAccelerators(char16_t mnemonic) {
 HRESULT OleControlPart::GetControlInfo(CONTROLINFO* info) noexcept {
     if (info == nullptr) return E_POINTER;
     return guarded([&] {
-        makeAccelerators(Control_.window().mnemonic());
+        makeAccelerators(mnemonicOf(Control_.control().widgets()));
         info->hAccel = Accelerators_;
         info->cAccel = static_cast<USHORT>(Accelerators_ != nullptr ? 2 : 0);
         info->dwFlags = CTRLINFO_EATS_RETURN;
@@ -176,7 +177,8 @@ HRESULT OleControlPart::OnMnemonic(MSG* message) noexcept {
     if (message == nullptr) return E_POINTER;
     return guarded([&] {
         const HRESULT result = Control_.activation().activateUi();
-        if (SUCCEEDED(result)) Control_.window().pressMnemonic();
+        FieldWidget* const field = Control_.control().widgets().field;
+        if (SUCCEEDED(result) && field != nullptr) field->pressMnemonic();
         return result;
     });
 }
