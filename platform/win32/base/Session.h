@@ -6,6 +6,7 @@
 #include <memory>
 #include <vector>
 
+#include "host/focus/TabKey.h"
 #include "platform/win32/base/Clipboard.h"
 
 namespace kel::win32 {
@@ -32,7 +33,8 @@ public:
     /// Presses a key on the active window, after what is under way.
     void send(std::int16_t keyCode);
 
-    bool tabHeld() const { return TabHeld_; }
+    TabKey& tab() { return Tab_; }
+    bool tabHeld() const { return Tab_.isHeld(); }
 
     /// Serves what has come in so far and what follows from it. The keys that hands press bring their
     /// characters with them; `byHand` has them made of nothing else.
@@ -42,19 +44,6 @@ public:
     /// The window is closed.
     void closed();
 
-    /// Says while it lives whether the Tab key moves the focus.
-    class TabKey {
-    public:
-        TabKey(Session& session, bool held) : Session_(session), Before_(session.TabHeld_) { session.TabHeld_ = held; }
-        ~TabKey() { Session_.TabHeld_ = Before_; }
-        TabKey(const TabKey&) = delete;
-        TabKey& operator=(const TabKey&) = delete;
-
-    private:
-        Session& Session_;
-        bool Before_;
-    };
-
 private:
     Win32FormWindow* windowOf(HWND window) const;
     void serve(MSG& message, bool translate) const;
@@ -62,7 +51,7 @@ private:
     std::shared_ptr<Clipboard> Clipboard_;
     std::vector<Win32FormWindow*> Windows_;
     Win32FormWindow* Active_ = nullptr;
-    bool TabHeld_ = false;
+    TabKey Tab_;
 };
 
 }  // namespace kel::win32

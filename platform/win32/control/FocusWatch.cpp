@@ -2,28 +2,16 @@
 
 #include <utility>
 
-#include "platform/win32/control/ControlWindow.h"
 #include "platform/win32/widgets/ChildField.h"
 
 namespace kel::win32 {
 
 namespace {
 
-constexpr const wchar_t* EnteredProperty = L"KelControls8.Entered";
+/// Other threads, and other programs, may have controls in the same top-level window.
+std::wstring propertyName() { return L"KelControls8.Focus" + std::to_wstring(GetCurrentThreadId()); }
 
 HWND rootOf(HWND window) { return window != nullptr ? GetAncestor(window, GA_ROOT) : nullptr; }
-
-HWND enteredIn(HWND root) { return root != nullptr ? static_cast<HWND>(GetPropW(root, EnteredProperty)) : nullptr; }
-
-bool isInside(HWND control, HWND window) {
-    return window != nullptr && (window == control || IsChild(control, window) != FALSE);
-}
-
-/// Whether the focus is only away for a while: with another window in front, or another program.
-bool isPassing(HWND control, HWND next) {
-    const HWND root = rootOf(control);
-    return next != nullptr ? rootOf(next) != root : GetActiveWindow() != root;
-}
 
 }  // namespace
 
@@ -32,57 +20,52 @@ UINT FocusWatch::leaveMessage() {
     return Message;
 }
 
-void FocusWatch::arrived(HWND control, ChildField& field) {
+FocusWatch* FocusWatch::of(HWND root) {
+    return root != nullptr ? static_cast<FocusWatch*>(GetPropW(root, propertyName().c_str())) : nullptr;
+}
+
+std::shared_ptr<FocusWatch> FocusWatch::around(HWND control) {
+    HWND const root = rootOf(control);
+    FocusWatch* const known = of(root);
+    return known != nullptr ? known->shared_from_this() : std::make_shared<FocusWatch>(root);
+}
+
+FocusWatch::FocusWatch(HWND root) : Root_(root) { SetPropW(Root_, propertyName().c_str(), this); }
+
+FocusWatch::~FocusWatch() {
     resume();
-    if (&field == Holder_) return;
-    const HWND other = enteredIn(rootOf(control));
-    if (other != nullptr && other != control) SendMessageW(other, leaveMessage(), 0, 0);
-    if (Holder_ != nullptr) std::exchange(Holder_, nullptr)->widget().lostFocus();
-    const auto isStillHere = [&field] { return field.window() != nullptr && GetFocus() == field.window(); };
-    if (!isStillHere() || !enter(control) || !isStillHere() || Holder_ != nullptr) return;
-    Holder_ = &field;
-    field.widget().gotFocus();
+    if (of(Root_) == this) RemovePropW(Root_, propertyName().c_str());
 }
 
-bool FocusWatch::enter(HWND control) {
-    if (Entered_) return true;
-    Entered_ = true;
-    Root_ = rootOf(control);
-    SetPropW(Root_, EnteredProperty, control);
-    Owner_.focusEntered();
-    return Entered_;
+void FocusWatch::arrived(HWND control, const ChildField& field) {
+    resume();
+    // While it was away nobody has left: the one it was in is held open for that by its own window.
+    const WidgetHost* const entered = Order_.entered();
+    if (entered != nullptr && entered != &field.widget().host()) SendMessageW(Control_, leaveMessage(), 0, 0);
+    if (field.window() == nullptr || GetFocus() != field.window()) return;
+    Control_ = control;
+    Order_.arrived(field.widget());
 }
 
-void FocusWatch::departed(HWND control, HWND next) {
-    if (isInside(control, next)) return;
-    if (isPassing(control, next))
+void FocusWatch::departed(const WidgetHost& control, HWND next) {
+    // With another window in front, or another program, it is only away for a while.
+    const bool isPassing = next != nullptr ? rootOf(next) != Root_ : GetActiveWindow() != Root_;
+    if (isPassing)
         suspend();
     else
         leave(control);
 }
 
-void FocusWatch::leave(HWND control) {
+void FocusWatch::leave(const WidgetHost& control) {
     resume();
-    if (Holder_ != nullptr) std::exchange(Holder_, nullptr)->widget().lostFocus();
-    if (!Entered_ || isInside(control, GetFocus())) return;
-    unmark();
-    Entered_ = false;
-    Owner_.focusLeft();
-}
-
-void FocusWatch::forget(const ChildField& field) {
-    if (Holder_ == &field) Holder_ = nullptr;
-}
-
-void FocusWatch::unmark() {
-    resume();
-    if (Root_ != nullptr) RemovePropW(std::exchange(Root_, nullptr), EnteredProperty);
+    const FieldWidget* const field = Order_.target();
+    if (field != nullptr && &field->host() == &control) Order_.departed(*field, nullptr);
 }
 
 // ---- Away for a while
 
 void FocusWatch::suspend() {
-    if (Holder_ == nullptr || Hook_ != nullptr) return;
+    if (Order_.holder() == nullptr || Hook_ != nullptr) return;
     Hook_ = SetWinEventHook(EVENT_OBJECT_FOCUS, EVENT_OBJECT_FOCUS, nullptr, &focusMoved, GetCurrentProcessId(),
                             GetCurrentThreadId(), WINEVENT_OUTOFCONTEXT);
 }
@@ -94,9 +77,10 @@ void FocusWatch::resume() {
 /// The window is in front again, and the focus went elsewhere in it than to where it was.
 void CALLBACK FocusWatch::focusMoved(HWINEVENTHOOK /*hook*/, DWORD /*event*/, HWND window, LONG /*object*/,
                                      LONG /*child*/, DWORD /*thread*/, DWORD /*time*/) {
-    const HWND control = enteredIn(rootOf(window));
-    if (control != nullptr && GetFocus() == window && !isInside(control, window))
-        SendMessageW(control, leaveMessage(), 0, 0);
+    const FocusWatch* const watch = of(rootOf(window));
+    if (watch == nullptr || watch->Hook_ == nullptr || GetFocus() != window) return;
+    HWND const control = watch->Control_;
+    if (window != control && IsChild(control, window) == FALSE) SendMessageW(control, leaveMessage(), 0, 0);
 }
 
 }  // namespace kel::win32

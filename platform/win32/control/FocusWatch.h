@@ -2,50 +2,53 @@
 
 #include <windows.h>
 
+#include <memory>
+#include <string>
+
+#include "host/focus/FocusOrder.h"
+
 namespace kel::win32 {
 
 class ChildField;
-class ControlWindowOwner;
 
-/// The focus of one control, from what the system says to its windows: told to widgets and control in the order
-/// they know it, the old widget, the old control, the new control, the new widget. Menus, message boxes and other
-/// windows in front are no change to them.
-///
-/// Which control of a top-level window has been entered stands in a property of that window, so that the next one
-/// can have it left first, whoever moves the focus in the middle of a change.
-class FocusWatch {
+/// What the system says of the focus to the windows of our controls in one top-level window, for those who are told of
+/// it. Menus, message boxes and other windows in front are no change. The controls share it by a property of the
+/// top-level window, whoever has put them there.
+class FocusWatch : public std::enable_shared_from_this<FocusWatch> {
 public:
-    explicit FocusWatch(ControlWindowOwner& owner) : Owner_(owner) {}
-    ~FocusWatch() { unmark(); }
+    /// Of the top-level window that `control` is in.
+    static std::shared_ptr<FocusWatch> around(HWND control);
+
+    explicit FocusWatch(HWND root);
+    ~FocusWatch();
     FocusWatch(const FocusWatch&) = delete;
     FocusWatch& operator=(const FocusWatch&) = delete;
 
     /// The field's window in `control` has got the focus.
-    void arrived(HWND control, ChildField& field);
-    /// It has gone to `next`.
-    void departed(HWND control, HWND next);
-    /// The control is to be left where the focus is no longer in it: see `leaveMessage`.
-    void leave(HWND control);
+    void arrived(HWND control, const ChildField& field);
+    /// It has gone from the control to `next`, which is none of its windows.
+    void departed(const WidgetHost& control, HWND next);
+    /// The control is to be left: see `leaveMessage`.
+    void leave(const WidgetHost& control);
 
-    /// The field is about to go, without a word to anybody.
-    void forget(const ChildField& field);
+    /// About to go, without a word to anybody.
+    void forget(const FieldWidget& field) { Order_.forget(field); }
+    void forget(const WidgetHost& control) { Order_.forget(control); }
 
     /// Sent to a control's window to have it left.
     static UINT leaveMessage();
 
 private:
-    bool enter(HWND control);
+    static FocusWatch* of(HWND root);
     void suspend();
     void resume();
-    void unmark();
     static void CALLBACK focusMoved(HWINEVENTHOOK hook, DWORD event, HWND window, LONG object, LONG child, DWORD thread,
                                     DWORD time);
 
-    ControlWindowOwner& Owner_;
-    ChildField* Holder_ = nullptr;
-    HWND Root_ = nullptr;           ///< the top-level window that says the control has been entered
+    HWND Root_;
+    HWND Control_ = nullptr;        ///< where the focus came last
     HWINEVENTHOOK Hook_ = nullptr;  ///< while the holder's focus is away for a while
-    bool Entered_ = false;
+    FocusOrder Order_;
 };
 
 }  // namespace kel::win32

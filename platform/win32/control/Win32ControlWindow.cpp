@@ -44,6 +44,7 @@ std::unique_ptr<ControlWindow> makeControlWindow(ControlWindowOwner& owner, Syst
 }
 
 Win32ControlWindow::~Win32ControlWindow() {
+    if (Focus_) Focus_->forget(static_cast<const WidgetHost&>(*this));
     if (Window_ != nullptr) DestroyWindow(Window_);
     if (Parking_ != nullptr) DestroyWindow(Parking_);
 }
@@ -85,7 +86,7 @@ void Win32ControlWindow::addField(ChildField& field) {
 
 void Win32ControlWindow::removeField(ChildField& field) {
     std::erase(Fields_, &field);
-    Focus_.forget(field);
+    if (Focus_) Focus_->forget(field.widget());
     remove(field);
 }
 
@@ -185,12 +186,29 @@ void Win32ControlWindow::setToolTip(HWND field, const wchar_t* text) {
 
 // ---- Focus and keys
 
-void Win32ControlWindow::setFocus() { give(shownField()); }
+void Win32ControlWindow::setFocus() {
+    if (const ChildField* const field = shownField()) field->widget().setFocus();
+}
 
-void Win32ControlWindow::moveFocusTo(FieldWidget& field) { give(viewOf<ChildField>(&field)); }
+void Win32ControlWindow::moveFocusTo(FieldWidget& field) {
+    const auto* const seen = viewOf<ChildField>(&field);
+    if (seen != nullptr && seen->window() != nullptr) SetFocus(seen->window());
+}
 
-void Win32ControlWindow::give(const ChildField* field) {
-    if (field != nullptr && field->window() != nullptr && field->widget().takesInput()) SetFocus(field->window());
+void Win32ControlWindow::arrived(ChildField& field) {
+    const std::shared_ptr<FocusWatch> around = FocusWatch::around(Window_);
+    if (around != Focus_) leave();
+    Focus_ = around;
+    around->arrived(Window_, field);
+}
+
+void Win32ControlWindow::departed(HWND next) {
+    if (const std::shared_ptr<FocusWatch> around = Focus_; around && !isIn(Window_, next))
+        around->departed(*this, next);
+}
+
+void Win32ControlWindow::leave() {
+    if (const std::shared_ptr<FocusWatch> around = Focus_) around->leave(*this);
 }
 
 bool Win32ControlWindow::hasFocus() const { return Window_ != nullptr && isIn(Window_, GetFocus()); }
@@ -260,7 +278,7 @@ LRESULT Win32ControlWindow::handleMessage(HWND window, UINT message, WPARAM wide
 
 LRESULT Win32ControlWindow::handle(HWND window, UINT message, WPARAM wide, LPARAM data) {
     if (message == FocusWatch::leaveMessage()) {
-        Focus_.leave(Window_);
+        leave();
         return 0;
     }
     switch (message) {
@@ -290,7 +308,7 @@ LRESULT Win32ControlWindow::handle(HWND window, UINT message, WPARAM wide, LPARA
         case WM_NCDESTROY:
             Window_ = nullptr;
             if (Label_ != nullptr) Label_->forgetWindow();
-            Focus_.leave(nullptr);
+            leave();
             break;
         default: break;
     }

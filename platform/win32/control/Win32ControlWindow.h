@@ -15,7 +15,7 @@ namespace kel::win32 {
 class Win32ControlWindow final : public ControlWindow, private ControlFrame, private WidgetHost, private WindowHandler {
 public:
     Win32ControlWindow(ControlWindowOwner& owner, System& system, std::shared_ptr<Clipboard> clipboard)
-        : Owner_(owner), Grid_(system.twipsPerPixel()), Clipboard_(std::move(clipboard)), Focus_(owner) {}
+        : Owner_(owner), Grid_(system.twipsPerPixel()), Clipboard_(std::move(clipboard)) {}
     ~Win32ControlWindow() override;
 
     WidgetHost& widgets() override { return *this; }
@@ -44,6 +44,8 @@ private:
     bool takesInput() const override { return Enabled_ && Visible_; }
     void moveFocusTo(FieldWidget& field) override;
     void focusBarred(FieldWidget& field) override { takeInputFrom(viewOf<ChildField>(&field)->wholeWindow()); }
+    void controlEntered() override { Owner_.focusEntered(); }
+    void controlLeft() override { Owner_.focusLeft(); }
     std::u16string clipboardText() override { return Clipboard_->text(Window_); }
     void setClipboardText(std::u16string_view text) override { Clipboard_->setText(Window_, text); }
 
@@ -55,11 +57,11 @@ private:
     void remove(ChildWidget& widget) override { std::erase(Widgets_, &widget); }
     void addField(ChildField& field) override;
     void removeField(ChildField& field) override;
-    void arrived(ChildField& field) override { Focus_.arrived(Window_, field); }
-    void departed(HWND next) override { Focus_.departed(Window_, next); }
+    void arrived(ChildField& field) override;
+    void departed(HWND next) override;
+    void leave();
     void takeInputFrom(HWND window) override;
     void dropInputOf(HWND window) const;
-    static void give(const ChildField* field);
     void setToolTip(HWND field, const wchar_t* text) override;
     void setLabel(Win32Label* label) override;
     void captionChanged() override;
@@ -81,7 +83,7 @@ private:
     ControlWindowOwner& Owner_;
     TwipGrid Grid_;
     std::shared_ptr<Clipboard> Clipboard_;
-    FocusWatch Focus_;
+    std::shared_ptr<FocusWatch> Focus_;  ///< where it has had the focus last; nullptr for nowhere
     std::vector<ChildWidget*> Widgets_;
     std::vector<ChildField*> Fields_;  ///< those of them that can have the focus
     Win32Label* Label_ = nullptr;

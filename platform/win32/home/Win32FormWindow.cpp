@@ -115,7 +115,7 @@ PlacedWin32Control* Win32FormWindow::controlOf(HWND window) const {
 }
 
 void Win32FormWindow::giveFocus(HWND field, bool byTab) {
-    const Session::TabKey tab(Session_, byTab);
+    const TabKey::Scope tab(Session_.tab(), byTab);
     SetFocus(field);
 }
 
