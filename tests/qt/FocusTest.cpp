@@ -138,7 +138,7 @@ TEST_F(MixedWindow, GoesOnFromWhatIsDisabledOrHidden) {
     KelTextWidget beside(&group);
     window.layout()->addWidget(&group);
     settle();
-    const auto selectAll = [this] { return second.control().widgets().entry->selLength(); };
+    const auto selected = [this] { return second.control().widgets().entry->selLength(); };
     second.setText(QStringLiteral("text"));
     second.setSelectOnFocus(true);
     between.setFocusPolicy(Qt::ClickFocus);
@@ -164,16 +164,18 @@ TEST_F(MixedWindow, GoesOnFromWhatIsDisabledOrHidden) {
             settle();
             EXPECT_EQ(QApplication::focusWidget(), row.next) << row.what << ' ' << how;
             EXPECT_FALSE(hasFocusColor(row.field)) << row.what << ' ' << how;
+            second.control().widgets().entry->setSelLength(2);
             row.field.setFocus();
             row.field.control().widgets().field->setFocus();
             settle();
             EXPECT_EQ(QApplication::focusWidget(), row.next) << "by code neither: " << row.what << ' ' << how;
+            EXPECT_EQ(selected(), 2) << "nobody hears of it: " << row.what << ' ' << how;
             bar(false);
         }
     }
     first.setFocus();
     first.setEnabled(false);
-    EXPECT_EQ(selectAll(), 4) << "as by Tab";
+    EXPECT_EQ(selected(), 4) << "as by Tab";
 
     for (const bool multiLine : {true, false}) {
         second.setFocus();
