@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "common/FieldLayout.h"
-#include "common/FieldLook.h"
+#include "common/FieldState.h"
 #include "common/KeyAnswer.h"
 #include "host/Container.h"
 #include "host/System.h"

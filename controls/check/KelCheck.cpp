@@ -1,6 +1,6 @@
 #include "controls/check/KelCheck.h"
 
-#include "common/FieldLook.h"
+#include "common/FieldState.h"
 #include "common/Persistence.h"
 
 namespace kel {

@@ -4,7 +4,7 @@
 
 #include "controls/Classes.h"
 #include "forms/file/FormBag.h"
-#include "forms/play/Looks.h"
+#include "forms/play/ControlInWords.h"
 #include "forms/ScriptValue.h"
 #include "library/AutomationError.h"
 #include "values/Calendar.h"

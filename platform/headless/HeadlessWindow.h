@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "forms/Onlooker.h"
-#include "platform/headless/FocusKeeper.h"
+#include "platform/headless/MemoryFocus.h"
 #include "platform/headless/PlacedHeadlessControl.h"
 
 namespace kel::headless {
@@ -76,7 +76,7 @@ private:
     Onlooker& Onlooker_;
     Scene Scene_;
     TabOrder Order_;
-    FocusKeeper Focus_;
+    MemoryFocus Focus_;
     WindowServices Services_;
     std::vector<std::unique_ptr<PlacedPanel>> Panels_;
     std::vector<std::unique_ptr<PlacedHeadlessControl>> Controls_;  ///< last: they lean on all of the above

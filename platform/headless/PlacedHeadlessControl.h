@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "forms/Home.h"
-#include "platform/headless/FocusKeeper.h"
+#include "platform/headless/MemoryFocus.h"
 
 namespace kel::headless {
 
@@ -26,7 +26,7 @@ struct WindowServices {
     SharedSettings& settings;
     const RegionalSettings& region;
     Input& input;
-    FocusKeeper& focus;
+    MemoryFocus& focus;
     Painter& painter;
 };
 
@@ -74,7 +74,7 @@ private:
     ControlObserver& Observer_;
     Painter& Painter_;
     Input& Input_;
-    FocusKeeper& Focus_;
+    MemoryFocus& Focus_;
     std::u16string Name_;
     std::u16string ToolTipText_;
     Rect Bounds_;

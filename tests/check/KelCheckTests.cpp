@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "forms/play/Looks.h"
+#include "forms/play/ControlInWords.h"
 #include "tests/check/OneControl.h"
 
 namespace kel::test {

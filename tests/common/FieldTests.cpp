@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "common/FieldLayout.h"
-#include "common/FieldLook.h"
+#include "common/FieldState.h"
 #include "tests/runtime/RegionalServices.h"
 
 namespace kel {
@@ -61,7 +61,7 @@ SharedSettings coloursOf(std::int32_t depth) {
     return settings;
 }
 
-TEST(FieldLook, ColoursFollowTheDisplaysDepth) {
+TEST(FieldState, ColoursFollowTheDisplaysDepth) {
     for (const std::int32_t depth : {16, 24, 32}) {
         const SharedSettings rich = coloursOf(depth);
         EXPECT_EQ(rich.FieldBackNormal, 0x00FFFFFFU);
@@ -76,7 +76,7 @@ TEST(FieldLook, ColoursFollowTheDisplaysDepth) {
     EXPECT_EQ(poor.FieldBackFocusLocked, 0x80000005U);
 }
 
-TEST(FieldLook, TheColourItselfIsTheStateOfTheField) {
+TEST(FieldState, TheColourItselfIsTheStateOfTheField) {
     const SharedSettings settings = coloursOf(24);
     const auto normal = settings.FieldBackNormal, locked = settings.FieldBackLocked;
     const auto focus = settings.FieldBackFocus, focusLocked = settings.FieldBackFocusLocked;
@@ -93,7 +93,7 @@ TEST(FieldLook, TheColourItselfIsTheStateOfTheField) {
 }
 
 // With three equal colours a field that was only locked cannot be told from a focused one.
-TEST(FieldLook, UnlockingOnAPoorDisplayLooksFocused) {
+TEST(FieldState, UnlockingOnAPoorDisplayLooksFocused) {
     const SharedSettings settings = coloursOf(8);
     const BackChange change = backOnStateChange(settings, false, settings.FieldBackLocked);
     EXPECT_EQ(change, (BackChange{settings.FieldBackFocus, false}));

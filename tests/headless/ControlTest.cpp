@@ -5,7 +5,7 @@
 #include "controls/datetime/KelDate.h"
 #include "controls/number/KelNumber.h"
 #include "controls/text/KelText.h"
-#include "forms/play/Looks.h"
+#include "forms/play/ControlInWords.h"
 #include "forms/ScriptValue.h"
 #include "tests/check/OneControl.h"
 #include "tests/headless/Keys.h"

@@ -8,7 +8,7 @@
 #include <QWindow>
 
 #include "platform/qt/home/QtHome.h"
-#include "platform/qt/widgets/ChildField.h"
+#include "platform/qt/widgets/FieldView.h"
 #include "tests/qt/ProbeForm.h"
 #include "tests/qt/QtForm.h"
 
@@ -18,7 +18,7 @@ namespace {
 
 constexpr Qt::DropActions AnyAction = Qt::CopyAction | Qt::MoveAction;
 
-QWidget& areaOf(TextEntry& box) { return dynamic_cast<qt::ChildField&>(*box.view()).mouseArea(); }
+QWidget& areaOf(TextEntry& box) { return dynamic_cast<qt::FieldView&>(*box.view()).mouseArea(); }
 
 QPoint startOf(const QWidget& area) { return {4, area.height() / 2}; }
 QPoint endOf(const QWidget& area) { return {area.width() - 3, area.height() / 2}; }

@@ -6,7 +6,7 @@
 #include <QTest>
 #include <QWheelEvent>
 
-#include "platform/qt/widgets/ChildField.h"
+#include "platform/qt/widgets/FieldView.h"
 #include "tests/qt/ProbeForm.h"
 
 namespace kel::test {
@@ -24,7 +24,7 @@ bool turn(QWidget& area, const QPoint& angle) {
     return event.isAccepted();
 }
 
-QWidget& areaOf(TextEntry& box) { return dynamic_cast<qt::ChildField&>(*box.view()).mouseArea(); }
+QWidget& areaOf(TextEntry& box) { return dynamic_cast<qt::FieldView&>(*box.view()).mouseArea(); }
 
 TEST(Wheel, CountsWholeNotches) {
     struct Case {

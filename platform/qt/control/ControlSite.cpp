@@ -11,13 +11,13 @@
 #include "library/Dispatch.h"
 #include "library/SharedSettings.h"
 #include "platform/qt/base/TextBridge.h"
-#include "platform/qt/base/WidgetLook.h"
-#include "platform/qt/control/FocusTracker.h"
+#include "platform/qt/base/WidgetSettings.h"
 #include "platform/qt/control/FocusWay.h"
 #include "platform/qt/control/KelControlWidget.h"
+#include "platform/qt/control/QtFocus.h"
 #include "platform/qt/control/RetiredControls.h"
 #include "platform/qt/widgets/CaptionLabel.h"
-#include "platform/qt/widgets/ChildField.h"
+#include "platform/qt/widgets/FieldView.h"
 #include "platform/qt/widgets/QtCheckBox.h"
 #include "platform/qt/widgets/QtComboBox.h"
 #include "platform/qt/widgets/QtLine.h"
@@ -38,7 +38,7 @@ void setSpokenName(QWidget& widget, const QString& before, const QString& now) {
 
 }  // namespace
 
-ControlSite::ControlSite(KelControlWidget& widget, const Surroundings& surroundings)
+ControlSite::ControlSite(KelControlWidget& widget, const ControlServices& surroundings)
     : Host_(&widget), Widget_(&widget), Surroundings_(surroundings), Grid_(surroundings.system.twipsPerPixel()) {}
 
 ControlSite::~ControlSite() { focus::forget(*this); }
@@ -55,7 +55,7 @@ void ControlSite::leaveWidget() {
     Remains_->setObjectName(Widget_->objectName());
     Remains_->setEnabled(enabled());
     Remains_->resize(Widget_->size());
-    for (ChildWidget* const child : Children_) child->widget().setParent(Remains_.get());
+    for (PlacedView* const child : Children_) child->widget().setParent(Remains_.get());
     Widget_ = Remains_.get();
     Host_ = nullptr;
     Mnemonic_ = 0;
@@ -102,7 +102,7 @@ void ControlSite::setOrigin(QPoint twips) {
 }
 
 void ControlSite::placeChildren() const {
-    for (ChildWidget* const child : Children_) child->placeAgain();
+    for (PlacedView* const child : Children_) child->placeAgain();
 }
 
 void ControlSite::mirrored() {
@@ -165,7 +165,7 @@ void ControlSite::toolTipChanged() {
     // Before it shows, the control takes the tooltip over by itself.
     if (!Shown_) return;
     const QString text = Widget_->toolTip();
-    for (ChildField* const field : Fields_) field->shown().setToolTip(viewOf(text));
+    for (FieldView* const field : Fields_) field->shown().setToolTip(viewOf(text));
     if (PictureBox* const picture = Control_->widgets().picture) picture->setToolTip(viewOf(text));
 }
 
@@ -181,7 +181,7 @@ void ControlSite::hidden() {
 }
 
 void ControlSite::recolored() {
-    for (ChildField* const field : Fields_) field->colorAgain();
+    for (FieldView* const field : Fields_) field->colorAgain();
     Widget_->update();
 }
 
@@ -201,9 +201,9 @@ std::unique_ptr<View> ControlSite::makeView(UpDown& spinner) {
 
 std::unique_ptr<View> ControlSite::makeView(Label& label) { return std::make_unique<CaptionLabel>(*this, label); }
 
-void ControlSite::moveFocusTo(FieldWidget& field) { focusWidget(dynamic_cast<ChildField&>(*field.view()).widget()); }
+void ControlSite::moveFocusTo(FieldWidget& field) { focusWidget(dynamic_cast<FieldView&>(*field.view()).widget()); }
 
-void ControlSite::focusBarred(FieldWidget& field) { dynamic_cast<ChildField&>(*field.view()).giveUpFocus(); }
+void ControlSite::focusBarred(FieldWidget& field) { dynamic_cast<FieldView&>(*field.view()).giveUpFocus(); }
 
 std::unique_ptr<TextView> ControlSite::makeView(TextBox& box) {
     if (!box.multiLine()) return std::make_unique<QtLine>(*this, box, *Widget_);
@@ -224,7 +224,7 @@ void ControlSite::setClipboardText(std::u16string_view text) {
     QGuiApplication::clipboard()->setText(toQString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
 }
 
-void ControlSite::addField(ChildField& field) {
+void ControlSite::addField(FieldView& field) {
     Fields_.push_back(&field);
     if (Active_ == nullptr) {
         Active_ = &field;
@@ -237,17 +237,17 @@ void ControlSite::addField(ChildField& field) {
     }
 }
 
-void ControlSite::removeField(const ChildField& field) {
+void ControlSite::removeField(const FieldView& field) {
     std::erase(Fields_, &field);
     if (Active_ == &field) Active_ = nullptr;
 }
 
-void ControlSite::fieldShown(ChildField& field) {
+void ControlSite::fieldShown(FieldView& field) {
     if (&field != Active_) activate(field);
 }
 
 /// The field takes the other one's place: what points to the composite finds it.
-void ControlSite::activate(ChildField& field) {
+void ControlSite::activate(FieldView& field) {
     Active_ = &field;
     fieldEnabled(field, isFieldEnabled());
     Widget_->setSizePolicy(QSizePolicy::Expanding, field.isTall() ? QSizePolicy::Expanding : QSizePolicy::Fixed);
@@ -256,7 +256,7 @@ void ControlSite::activate(ChildField& field) {
 }
 
 /// Qt gives the focus to whom a widget names in its place, disabled or not.
-void ControlSite::fieldEnabled(const ChildField& field, bool enabled) {
+void ControlSite::fieldEnabled(const FieldView& field, bool enabled) {
     if (&field != Active_) return;
     // A policy that is set goes to the one in the widget's place as well, who has its own.
     Widget_->setFocusProxy(nullptr);
@@ -278,7 +278,7 @@ void ControlSite::tabAfter(ControlSite& before) {
 bool ControlSite::owns(const QWidget& widget) const { return Widget_->isAncestorOf(&widget); }
 
 void ControlSite::leaveTabOrder() {
-    for (const ChildField* const field : Fields_) field->widget().setFocusPolicy(Qt::ClickFocus);
+    for (const FieldView* const field : Fields_) field->widget().setFocusPolicy(Qt::ClickFocus);
 }
 
 // ---- Caption
@@ -286,7 +286,7 @@ void ControlSite::leaveTabOrder() {
 void ControlSite::captionChanged(const QString& spokenBefore) {
     const QString spoken = Label_->spokenCaption();
     setSpokenName(*Widget_, spokenBefore, spoken);
-    for (const ChildField* const field : Fields_) setSpokenName(field->widget(), spokenBefore, spoken);
+    for (const FieldView* const field : Fields_) setSpokenName(field->widget(), spokenBefore, spoken);
 
     if (Mnemonic_ != 0) Widget_->releaseShortcut(Mnemonic_);
     Mnemonic_ = 0;

@@ -17,12 +17,12 @@ class QKeySequence;
 namespace kel::qt {
 
 class CaptionLabel;
-class ChildField;
-class ChildWidget;
+class FieldView;
+class PlacedView;
 class KelControlWidget;
 
 /// What a control on Qt works with. All of it outlives the control.
-struct Surroundings {
+struct ControlServices {
     SharedSettings& settings;
     System& system;
     const RegionalSettings& region;
@@ -32,7 +32,7 @@ struct Surroundings {
 /// widgets.
 class ControlSite final : public Container, public WidgetHost {
 public:
-    ControlSite(KelControlWidget& widget, const Surroundings& surroundings);
+    ControlSite(KelControlWidget& widget, const ControlServices& surroundings);
     ControlSite(const ControlSite&) = delete;
     ControlSite& operator=(const ControlSite&) = delete;
     ~ControlSite();
@@ -94,12 +94,12 @@ public:
 
     // ---- What the child widgets tell
 
-    void add(ChildWidget& child) { Children_.push_back(&child); }
-    void remove(const ChildWidget& child) { std::erase(Children_, &child); }
-    void addField(ChildField& field);
-    void removeField(const ChildField& field);
-    void fieldShown(ChildField& field);
-    void fieldEnabled(const ChildField& field, bool enabled);
+    void add(PlacedView& child) { Children_.push_back(&child); }
+    void remove(const PlacedView& child) { std::erase(Children_, &child); }
+    void addField(FieldView& field);
+    void removeField(const FieldView& field);
+    void fieldShown(FieldView& field);
+    void fieldEnabled(const FieldView& field, bool enabled);
     void setLabel(CaptionLabel* label) { Label_ = label; }
     void captionChanged(const QString& spokenBefore);
     bool owns(const QWidget& widget) const;
@@ -109,7 +109,7 @@ public:
     void tabAfter(ControlSite& before);
 
     /// The field that shows, nullptr when there is none.
-    ChildField* activeField() const { return Active_; }
+    FieldView* activeField() const { return Active_; }
 
     // ---- Places
 
@@ -122,18 +122,18 @@ public:
 private:
     QSize pixelSize() const;
     void placeChildren() const;
-    void activate(ChildField& field);
+    void activate(FieldView& field);
     bool isFieldEnabled() const;
 
     KelControlWidget* Host_;  ///< nullptr once it is gone
     QWidget* Widget_;         ///< the host's, or what is left in its place
     std::unique_ptr<QWidget> Remains_;
-    Surroundings Surroundings_;
+    ControlServices Surroundings_;
     TwipGrid Grid_;
     CaptionLabel* Label_ = nullptr;
-    std::vector<ChildWidget*> Children_;
-    std::vector<ChildField*> Fields_;  ///< of the children
-    ChildField* Active_ = nullptr;
+    std::vector<PlacedView*> Children_;
+    std::vector<FieldView*> Fields_;  ///< of the children
+    FieldView* Active_ = nullptr;
     QPoint Origin_;  ///< twips
     Size Size_;
     int Mnemonic_ = 0;  ///< of the widget's shortcuts; 0 for none

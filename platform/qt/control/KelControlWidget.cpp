@@ -31,7 +31,7 @@ KelControlWidget::KelControlWidget(const ClassModel& model, QWidget* parent)
     control().InitProperties();
 }
 
-KelControlWidget::KelControlWidget(const ClassModel& model, const Surroundings& surroundings, QWidget* parent)
+KelControlWidget::KelControlWidget(const ClassModel& model, const ControlServices& surroundings, QWidget* parent)
     : QWidget(parent), Site_(std::make_unique<ControlSite>(*this, surroundings)) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     // So that buddies find it; the field inside takes clicks as well.

@@ -17,7 +17,7 @@ struct EventRow;
 namespace qt {
 
 class ControlSite;
-struct Surroundings;
+struct ControlServices;
 
 /// One control of the library as a Qt widget: base of the widget classes, which are made from the type model and
 /// add its properties, slots and signals. It can be laid out, tabbed to, enabled and given a tooltip like any
@@ -42,7 +42,7 @@ protected:
     explicit KelControlWidget(const ClassModel& model, QWidget* parent = nullptr);
 
     /// A control on a form: made and initialised, for the form to load.
-    KelControlWidget(const ClassModel& model, const Surroundings& surroundings, QWidget* parent);
+    KelControlWidget(const ClassModel& model, const ControlServices& surroundings, QWidget* parent);
 
     /// The control raises an event. By-reference arguments may be changed.
     virtual void controlEvent(const EventRow& event, std::span<Variant> arguments);

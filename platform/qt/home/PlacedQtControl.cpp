@@ -2,12 +2,12 @@
 
 #include "platform/qt/base/TextBridge.h"
 #include "platform/qt/control/FocusWay.h"
-#include "platform/qt/widgets/ChildField.h"
+#include "platform/qt/widgets/FieldView.h"
 
 namespace kel::qt {
 
 PlacedQtControl::PlacedQtControl(const ClassModel& model, const Placement& placement, std::size_t order,
-                                 const Surroundings& surroundings, ControlObserver& observer, QWidget& parent)
+                                 const ControlServices& surroundings, ControlObserver& observer, QWidget& parent)
     : KelControlWidget(model, surroundings, &parent),
       TabStop(placement.tabIndex, order, placement.tabStop),
       Observer_(observer),

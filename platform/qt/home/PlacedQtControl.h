@@ -12,7 +12,7 @@ class PlacedQtControl final : public KelControlWidget, public PlacedControl, pub
 public:
     /// `order` counts the controls placed before.
     PlacedQtControl(const ClassModel& model, const Placement& placement, std::size_t order,
-                    const Surroundings& surroundings, ControlObserver& observer, QWidget& parent);
+                    const ControlServices& surroundings, ControlObserver& observer, QWidget& parent);
 
     Control& control() override { return KelControlWidget::control(); }
     const std::u16string& name() const override { return Placement_.name; }

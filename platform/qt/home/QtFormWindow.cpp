@@ -6,7 +6,7 @@
 
 #include "library/SharedSettings.h"
 #include "platform/qt/base/TextBridge.h"
-#include "platform/qt/base/WidgetLook.h"
+#include "platform/qt/base/WidgetSettings.h"
 #include "platform/qt/home/ForeignWidgets.h"
 #include "platform/qt/home/PlacedQtControl.h"
 
@@ -34,7 +34,7 @@ private:
 
 }  // namespace
 
-QtFormWindow::QtFormWindow(const WindowSpec& description, const Surroundings& surroundings)
+QtFormWindow::QtFormWindow(const WindowSpec& description, const ControlServices& surroundings)
     : Surroundings_(surroundings), Window_(std::make_unique<FormWidget>()) {
     const TwipGrid grid(surroundings.system.twipsPerPixel());
     Window_->setWindowTitle(toQString(description.caption));

@@ -17,7 +17,7 @@ class PlacedQtControl;
 /// A form on the screen.
 class QtFormWindow final : public FormWindow {
 public:
-    QtFormWindow(const WindowSpec& description, const Surroundings& surroundings);
+    QtFormWindow(const WindowSpec& description, const ControlServices& surroundings);
     ~QtFormWindow() override;
 
     PlacedControl& place(const ClassModel& model, const Placement& placement, ControlObserver& observer) override;
@@ -45,7 +45,7 @@ private:
     void befriendLabels();
     void activate();
 
-    Surroundings Surroundings_;
+    ControlServices Surroundings_;
     std::unique_ptr<QWidget> Window_;
     TabOrder Order_;
     std::vector<std::unique_ptr<PlacedPanel>> Panels_;

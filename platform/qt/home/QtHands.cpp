@@ -28,9 +28,9 @@ void settle() {
 }
 
 /// Where it is seen.
-ChildField* fieldOf(PlacedControl& control) {
+FieldView* fieldOf(PlacedControl& control) {
     const FieldWidget* const shown = control.control().widgets().field;
-    auto* const field = shown != nullptr ? dynamic_cast<ChildField*>(shown->view()) : nullptr;
+    auto* const field = shown != nullptr ? dynamic_cast<FieldView*>(shown->view()) : nullptr;
     return field != nullptr && field->widget().isVisible() ? field : nullptr;
 }
 
@@ -105,7 +105,7 @@ void QtFormWindow::focus(PlacedControl& control) {
 
 void QtFormWindow::click(PlacedControl& control, std::int32_t position) {
     activate();
-    if (ChildField* const field = fieldOf(control)) {
+    if (FieldView* const field = fieldOf(control)) {
         const QPointer<QWidget> area = &field->mouseArea();
         closePopups();
         giveFocusByClick(field->widget());
@@ -118,7 +118,7 @@ void QtFormWindow::click(PlacedControl& control, std::int32_t position) {
 void QtFormWindow::rightClick(PlacedControl& control) {
     const QPointer<QWidget> window = Window_.get();
     activate();
-    if (ChildField* const field = fieldOf(control)) {
+    if (FieldView* const field = fieldOf(control)) {
         const QPointer<QWidget> area = &field->mouseArea();
         const bool hasMenu = field->textInput() != nullptr;
         closePopups();

@@ -26,7 +26,7 @@ public:
     const RegionalSettings& region() const override { return Services_.region(); }
 
     std::unique_ptr<FormWindow> makeWindow(const WindowSpec& description, System& system) override {
-        return std::make_unique<QtFormWindow>(description, Surroundings{Settings_, system, Services_.region()});
+        return std::make_unique<QtFormWindow>(description, ControlServices{Settings_, system, Services_.region()});
     }
 
 private:
@@ -53,7 +53,7 @@ Home& defaultHome() {
     return *home;
 }
 
-Surroundings defaultSurroundings() {
+ControlServices defaultSurroundings() {
     Home& home = defaultHome();
     // A control that is newly placed is never loaded, and takes some of the settings as it is made.
     if (!home.settings().Runtime) InitControls(home.settings(), home.system());

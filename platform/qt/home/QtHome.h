@@ -6,7 +6,7 @@
 
 namespace kel::qt {
 
-struct Surroundings;
+struct ControlServices;
 
 /// A Linux desktop, or any other that Qt knows. Needs a QApplication, which outlives it.
 std::unique_ptr<Home> makeHome(const HomeOptions& options);
@@ -14,6 +14,6 @@ std::unique_ptr<Home> makeHome(const HomeOptions& options);
 /// The home of the widgets that a program makes by itself. Made when first asked for, with the desktop's own
 /// settings; goes with the QApplication.
 Home& defaultHome();
-Surroundings defaultSurroundings();
+ControlServices defaultSurroundings();
 
 }  // namespace kel::qt

@@ -5,7 +5,7 @@
 #include <QPointer>
 
 #include "platform/qt/base/TextBridge.h"
-#include "platform/qt/control/FocusTracker.h"
+#include "platform/qt/control/QtFocus.h"
 #include "platform/qt/control/RetiredControls.h"
 
 namespace kel::qt {

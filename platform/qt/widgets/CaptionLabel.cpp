@@ -8,7 +8,7 @@
 #include "common/FieldLayout.h"
 #include "platform/qt/base/FieldColors.h"
 #include "platform/qt/base/TextBridge.h"
-#include "platform/qt/base/WidgetLook.h"
+#include "platform/qt/base/WidgetSettings.h"
 #include "platform/qt/control/ControlSite.h"
 
 namespace kel::qt {

@@ -11,9 +11,9 @@
 #include "platform/qt/base/FieldColors.h"
 #include "platform/qt/base/KeyMap.h"
 #include "platform/qt/base/TextBridge.h"
-#include "platform/qt/base/WidgetLook.h"
+#include "platform/qt/base/WidgetSettings.h"
 #include "platform/qt/control/ControlSite.h"
-#include "platform/qt/control/FocusTracker.h"
+#include "platform/qt/control/QtFocus.h"
 
 namespace kel::qt {
 
@@ -38,7 +38,7 @@ std::int32_t valueFor(Qt::CheckState state) {
 }  // namespace
 
 QtCheckBox::QtCheckBox(ControlSite& site, CheckBox& box, QWidget& parent)
-    : QCheckBox(&parent), ChildField(site, *this, box), Box_(box) {
+    : QCheckBox(&parent), FieldView(site, *this, box), Box_(box) {
     setFocusPolicy(Qt::StrongFocus);
     connect(this, StateChanged, this, [this] { stateChangedInWidget(); });
 }

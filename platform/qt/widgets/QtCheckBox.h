@@ -3,7 +3,7 @@
 #include <QCheckBox>
 
 #include "host/widgets/CheckBox.h"
-#include "platform/qt/widgets/ChildField.h"
+#include "platform/qt/widgets/FieldView.h"
 
 class QStyleOptionButton;
 
@@ -11,7 +11,7 @@ namespace kel::qt {
 
 /// A check box in the style's look. All of it takes clicks. It stands on the ground of its window, whatever its back
 /// colour.
-class QtCheckBox final : public QCheckBox, public View, public ChildField {
+class QtCheckBox final : public QCheckBox, public View, public FieldView {
 public:
     QtCheckBox(ControlSite& site, CheckBox& box, QWidget& parent);
 

@@ -7,7 +7,7 @@
 #include <QStyleOptionFrame>
 
 #include "platform/qt/base/EdgeGuard.h"
-#include "platform/qt/control/FocusTracker.h"
+#include "platform/qt/control/QtFocus.h"
 #include "platform/qt/widgets/ComboFrame.h"
 
 namespace kel::qt {

@@ -17,8 +17,8 @@
 #include "host/editing/TextDifference.h"
 #include "platform/qt/base/EdgeGuard.h"
 #include "platform/qt/base/TextBridge.h"
-#include "platform/qt/base/WidgetLook.h"
-#include "platform/qt/control/FocusTracker.h"
+#include "platform/qt/base/WidgetSettings.h"
+#include "platform/qt/control/QtFocus.h"
 #include "platform/qt/widgets/AccessibleLine.h"
 
 namespace kel::qt {
@@ -58,7 +58,7 @@ int toInt(std::size_t position) { return static_cast<int>(position); }
 }  // namespace
 
 QtLine::QtLine(ControlSite& site, TextEntry& box, QWidget& parent)
-    : QWidget(&parent), ChildField(site, *this, box), Input_(box, *this) {
+    : QWidget(&parent), FieldView(site, *this, box), Input_(box, *this) {
     makeLinesAccessible();
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_InputMethodEnabled);

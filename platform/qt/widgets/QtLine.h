@@ -6,7 +6,7 @@
 #include <QWidget>
 
 #include "host/widgets/TextEntry.h"
-#include "platform/qt/widgets/ChildField.h"
+#include "platform/qt/widgets/FieldView.h"
 #include "platform/qt/widgets/LineLayout.h"
 #include "platform/qt/widgets/TextInput.h"
 
@@ -16,7 +16,7 @@ namespace kel::qt {
 
 /// A line of text that can be edited, in the style's look of a line edit. What stands in it is the widget's; here it is
 /// only laid out and painted, and whatever a person does goes to the widget.
-class QtLine : public QWidget, public TextView, public ChildField {
+class QtLine : public QWidget, public TextView, public FieldView {
 public:
     QtLine(ControlSite& site, TextEntry& box, QWidget& parent);
     ~QtLine() override;

@@ -8,7 +8,7 @@
 
 #include "platform/qt/base/FieldColors.h"
 #include "platform/qt/base/TextBridge.h"
-#include "platform/qt/base/WidgetLook.h"
+#include "platform/qt/base/WidgetSettings.h"
 #include "platform/qt/control/ControlSite.h"
 
 namespace kel::qt {
@@ -52,7 +52,7 @@ QAccessibleInterface* makeSpoken(const QString& /*className*/, QObject* object) 
 }  // namespace
 
 QtPictureBox::QtPictureBox(ControlSite& site, PictureBox& box, QWidget& parent)
-    : QWidget(&parent), ChildWidget(site, *this, box), Box_(box) {
+    : QWidget(&parent), PlacedView(site, *this, box), Box_(box) {
     // What is behind it need not be painted with each step of a job.
     setAttribute(Qt::WA_OpaquePaintEvent);
     QAccessible::installFactory(&makeSpoken);

@@ -3,7 +3,7 @@
 #include <QWidget>
 
 #include "host/widgets/PictureBox.h"
-#include "platform/qt/widgets/ChildWidget.h"
+#include "platform/qt/widgets/PlacedView.h"
 
 class QPainter;
 
@@ -11,7 +11,7 @@ namespace kel::qt {
 
 /// A bar with a text over it. It never has the focus; a screen reader reads it as a progress bar. From right to left
 /// the bar begins at the right.
-class QtPictureBox final : public QWidget, public PictureView, public ChildWidget {
+class QtPictureBox final : public QWidget, public PictureView, public PlacedView {
 public:
     QtPictureBox(ControlSite& site, PictureBox& box, QWidget& parent);
 

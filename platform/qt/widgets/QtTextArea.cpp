@@ -14,8 +14,8 @@
 #include "host/editing/TextDifference.h"
 #include "platform/qt/base/EdgeGuard.h"
 #include "platform/qt/base/TextBridge.h"
-#include "platform/qt/base/WidgetLook.h"
-#include "platform/qt/control/FocusTracker.h"
+#include "platform/qt/base/WidgetSettings.h"
+#include "platform/qt/control/QtFocus.h"
 #include "platform/qt/widgets/PlainText.h"
 #include "values/TextBoundaries.h"
 
@@ -29,7 +29,7 @@ constexpr int TextIndent = 3;
 }  // namespace
 
 QtTextArea::QtTextArea(ControlSite& site, TextEntry& box, QWidget& parent)
-    : QPlainTextEdit(&parent), ChildField(site, *this, box), Input_(box, *this) {
+    : QPlainTextEdit(&parent), FieldView(site, *this, box), Input_(box, *this) {
     setTabChangesFocus(true);
     // It loses its place in the tab order to the next control, and would then lead here from elsewhere.
     viewport()->setFocusProxy(nullptr);

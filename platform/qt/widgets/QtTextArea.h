@@ -4,14 +4,14 @@
 #include <QPlainTextEdit>
 
 #include "host/widgets/TextEntry.h"
-#include "platform/qt/widgets/ChildField.h"
+#include "platform/qt/widgets/FieldView.h"
 #include "platform/qt/widgets/TextInput.h"
 
 namespace kel::qt {
 
 /// Several lines of text that can be edited. Qt's own box lays them out, and is kept showing what the widget holds;
 /// what anybody else does to its text goes to the widget, and is taken back where that refuses it.
-class QtTextArea final : public QPlainTextEdit, public TextView, public ChildField, private TextLines {
+class QtTextArea final : public QPlainTextEdit, public TextView, public FieldView, private TextLines {
 public:
     QtTextArea(ControlSite& site, TextEntry& box, QWidget& parent);
 

@@ -26,7 +26,7 @@ bool tellsDisabled(const QPalette& palette) {
 }  // namespace
 
 QtUpDown::QtUpDown(ControlSite& site, UpDown& spinner, QWidget& parent)
-    : QWidget(&parent), ChildWidget(site, *this, spinner), Spinner_(spinner) {
+    : QWidget(&parent), PlacedView(site, *this, spinner), Spinner_(spinner) {
     setFocusPolicy(Qt::NoFocus);
     setMouseTracking(true);
     hide();

@@ -5,12 +5,12 @@
 #include <QWidget>
 
 #include "host/widgets/UpDown.h"
-#include "platform/qt/widgets/ChildWidget.h"
+#include "platform/qt/widgets/PlacedView.h"
 
 namespace kel::qt {
 
 /// A spinner: two buttons in the style's look with its arrows. It never has the focus.
-class QtUpDown final : public QWidget, public View, public ChildWidget {
+class QtUpDown final : public QWidget, public View, public PlacedView {
 public:
     QtUpDown(ControlSite& site, UpDown& spinner, QWidget& parent);
 

@@ -11,9 +11,9 @@
 
 #include "platform/qt/base/KeyMap.h"
 #include "platform/qt/base/TextBridge.h"
-#include "platform/qt/control/FocusTracker.h"
-#include "platform/qt/widgets/ChildField.h"
+#include "platform/qt/control/QtFocus.h"
 #include "platform/qt/widgets/EditMenu.h"
+#include "platform/qt/widgets/FieldView.h"
 
 namespace kel::qt {
 

@@ -12,16 +12,16 @@ class QWheelEvent;
 
 namespace kel::qt {
 
-class ChildField;
+class FieldView;
 
 /// What a person does to a text, whichever of Qt's widgets shows it: on its way to the box.
 class TextInput {
 public:
     /// Both outlive the input.
-    TextInput(TextEntry& box, ChildField& field) : Box_(box), Field_(field) {}
+    TextInput(TextEntry& box, FieldView& field) : Box_(box), Field_(field) {}
 
     TextEntry& box() const { return Box_; }
-    ChildField& field() const { return Field_; }
+    FieldView& field() const { return Field_; }
 
     void keyPressed(QKeyEvent& event);
     void shortcutAsked(QKeyEvent& event) const;
@@ -52,7 +52,7 @@ private:
     bool takeFocus();
 
     TextEntry& Box_;
-    ChildField& Field_;
+    FieldView& Field_;
     std::int32_t Aim_ = -1;
 };
 

@@ -9,7 +9,7 @@
 
 #include <vector>
 
-#include "platform/win32/base/Look.h"
+#include "platform/win32/base/Gdi.h"
 #include "platform/win32/base/WideText.h"
 #include "values/Text.h"
 

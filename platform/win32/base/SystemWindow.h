@@ -3,7 +3,7 @@
 #include "host/widgets/Widget.h"
 #include "platform/win32/base/TwipGrid.h"
 #include "platform/win32/base/WindowClass.h"
-#include "platform/win32/widgets/ChildField.h"
+#include "platform/win32/widgets/WindowedView.h"
 
 namespace kel::win32 {
 

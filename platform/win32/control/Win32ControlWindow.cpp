@@ -74,31 +74,31 @@ void Win32ControlWindow::setLabel(Win32Label* label) {
     if (Label_ != nullptr && Window_ != nullptr) Label_->makeWindow(height());
 }
 
-void Win32ControlWindow::add(ChildWidget& widget) {
+void Win32ControlWindow::add(WindowedView& widget) {
     Widgets_.push_back(&widget);
     if (Window_ != nullptr) widget.makeWindow();
 }
 
-void Win32ControlWindow::addField(ChildField& field) {
+void Win32ControlWindow::addField(WindowedField& field) {
     Fields_.push_back(&field);
     add(field);
 }
 
-void Win32ControlWindow::removeField(ChildField& field) {
+void Win32ControlWindow::removeField(WindowedField& field) {
     std::erase(Fields_, &field);
     if (Focus_) Focus_->forget(field.widget());
     remove(field);
 }
 
-ChildField* Win32ControlWindow::shownField() const {
+WindowedField* Win32ControlWindow::shownField() const {
     const auto found =
-        std::find_if(Fields_.begin(), Fields_.end(), [](const ChildField* field) { return field->shown(); });
+        std::find_if(Fields_.begin(), Fields_.end(), [](const WindowedField* field) { return field->shown(); });
     return found != Fields_.end() ? *found : nullptr;
 }
 
-ChildWidget* Win32ControlWindow::widgetOf(HWND window) const { return withWindow(Widgets_, window); }
+WindowedView* Win32ControlWindow::widgetOf(HWND window) const { return withWindow(Widgets_, window); }
 
-ChildField* Win32ControlWindow::fieldOf(HWND window) const { return withWindow(Fields_, window); }
+WindowedField* Win32ControlWindow::fieldOf(HWND window) const { return withWindow(Fields_, window); }
 
 // ---- The window
 
@@ -122,7 +122,7 @@ void Win32ControlWindow::makeWindow(HWND parent) {
     if (Window_ == nullptr) return;
     EnableWindow(Window_, Enabled_);
     if (Label_ != nullptr) Label_->makeWindow(height());
-    for (ChildWidget* const widget : Widgets_) widget->makeWindow();
+    for (WindowedView* const widget : Widgets_) widget->makeWindow();
 }
 
 void Win32ControlWindow::setParent(HWND parent) {
@@ -159,7 +159,7 @@ void Win32ControlWindow::setEnabled(bool enabled) {
     Enabled_ = enabled;
     if (!enabled) takeInputFrom(Window_);
     if (enabled != Enabled_) return;  // a handler has put it again
-    for (ChildWidget* const widget : Widgets_) widget->frameEnabledChanged();
+    for (WindowedView* const widget : Widgets_) widget->frameEnabledChanged();
     if (Window_ == nullptr) return;
     EnableWindow(Window_, enabled);
     RedrawWindow(Window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
@@ -187,28 +187,28 @@ void Win32ControlWindow::setToolTip(HWND field, const wchar_t* text) {
 // ---- Focus and keys
 
 void Win32ControlWindow::setFocus() {
-    if (const ChildField* const field = shownField()) field->widget().setFocus();
+    if (const WindowedField* const field = shownField()) field->widget().setFocus();
 }
 
 void Win32ControlWindow::moveFocusTo(FieldWidget& field) {
-    const auto* const seen = viewOf<ChildField>(&field);
+    const auto* const seen = viewOf<WindowedField>(&field);
     if (seen != nullptr && seen->window() != nullptr) SetFocus(seen->window());
 }
 
-void Win32ControlWindow::arrived(ChildField& field) {
-    const std::shared_ptr<FocusWatch> around = FocusWatch::around(Window_);
+void Win32ControlWindow::arrived(WindowedField& field) {
+    const std::shared_ptr<Win32Focus> around = Win32Focus::around(Window_);
     if (around != Focus_) leave();
     Focus_ = around;
     around->arrived(Window_, field);
 }
 
 void Win32ControlWindow::departed(HWND next) {
-    if (const std::shared_ptr<FocusWatch> around = Focus_; around && !isIn(Window_, next))
+    if (const std::shared_ptr<Win32Focus> around = Focus_; around && !isIn(Window_, next))
         around->departed(*this, next);
 }
 
 void Win32ControlWindow::leave() {
-    if (const std::shared_ptr<FocusWatch> around = Focus_) around->leave(*this);
+    if (const std::shared_ptr<Win32Focus> around = Focus_) around->leave(*this);
 }
 
 bool Win32ControlWindow::hasFocus() const { return Window_ != nullptr && isIn(Window_, GetFocus()); }
@@ -227,7 +227,7 @@ void Win32ControlWindow::dropInputOf(HWND window) const {
 }
 
 bool Win32ControlWindow::translateAccelerator(MSG& message) {
-    const ChildField* const field = fieldOf(message.hwnd);
+    const WindowedField* const field = fieldOf(message.hwnd);
     if (field == nullptr || message.message != WM_KEYDOWN || !field->wantsKey(strokeOf(message))) return false;
     TranslateMessage(&message);
     DispatchMessageW(&message);
@@ -243,7 +243,7 @@ void Win32ControlWindow::captionChanged() {
 
 void Win32ControlWindow::drawCaption(HDC context, const RECT& area) const {
     if (Label_ == nullptr) return;
-    const ChildField* const field = shownField();
+    const WindowedField* const field = shownField();
     Label_->draw(context, area, field != nullptr ? field->baseline() : heightOf(area), Enabled_);
 }
 
@@ -252,7 +252,7 @@ void Win32ControlWindow::draw(HDC context, const RECT& bounds) {
     FillRect(context, &bounds, GetSysColorBrush(COLOR_BTNFACE));
     IntersectClipRect(context, bounds.left, bounds.top, bounds.right, bounds.bottom);
     drawCaption(context, bounds);
-    for (const ChildWidget* const widget : Widgets_)
+    for (const WindowedView* const widget : Widgets_)
         if (widget->shown()) widget->draw(context, {bounds.left, bounds.top});
 }
 
@@ -266,7 +266,7 @@ void Win32ControlWindow::drawLabelWindow(const DRAWITEMSTRUCT& item) const {
 void Win32ControlWindow::setGrid(const TwipGrid& grid) {
     Grid_ = grid;
     if (Label_ != nullptr) Label_->rescale();
-    for (ChildWidget* const widget : Widgets_) widget->rescale();
+    for (WindowedView* const widget : Widgets_) widget->rescale();
     captionChanged();
 }
 
@@ -277,7 +277,7 @@ LRESULT Win32ControlWindow::handleMessage(HWND window, UINT message, WPARAM wide
 }
 
 LRESULT Win32ControlWindow::handle(HWND window, UINT message, WPARAM wide, LPARAM data) {
-    if (message == FocusWatch::leaveMessage()) {
+    if (message == Win32Focus::leaveMessage()) {
         leave();
         return 0;
     }
@@ -291,15 +291,15 @@ LRESULT Win32ControlWindow::handle(HWND window, UINT message, WPARAM wide, LPARA
         case WM_SETFOCUS: setFocus(); return 0;
         case WM_CTLCOLOREDIT:
         case WM_CTLCOLORSTATIC:
-            if (const ChildField* const field = fieldOf(reinterpret_cast<HWND>(data)))
+            if (const WindowedField* const field = fieldOf(reinterpret_cast<HWND>(data)))
                 return reinterpret_cast<LRESULT>(field->colors(reinterpret_cast<HDC>(wide)));
             break;
         case WM_COMMAND:
-            if (ChildWidget* const widget = widgetOf(reinterpret_cast<HWND>(data))) widget->notified(HIWORD(wide), 0);
+            if (WindowedView* const widget = widgetOf(reinterpret_cast<HWND>(data))) widget->notified(HIWORD(wide), 0);
             return 0;
         case WM_NOTIFY: {
             const auto& header = *reinterpret_cast<const NMHDR*>(data);
-            if (ChildWidget* const widget = widgetOf(header.hwndFrom)) return widget->notified(header.code, data);
+            if (WindowedView* const widget = widgetOf(header.hwndFrom)) return widget->notified(header.code, data);
             break;
         }
         case WM_DESTROY:

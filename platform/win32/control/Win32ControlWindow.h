@@ -6,9 +6,9 @@
 #include "platform/win32/base/TwipGrid.h"
 #include "platform/win32/base/WindowClass.h"
 #include "platform/win32/control/ControlWindow.h"
-#include "platform/win32/control/FocusWatch.h"
-#include "platform/win32/widgets/ChildField.h"
+#include "platform/win32/control/Win32Focus.h"
 #include "platform/win32/widgets/Win32Label.h"
+#include "platform/win32/widgets/WindowedView.h"
 
 namespace kel::win32 {
 
@@ -43,7 +43,7 @@ private:
     std::unique_ptr<TextView> makeView(ComboBox& box) override;
     bool takesInput() const override { return Enabled_ && Visible_; }
     void moveFocusTo(FieldWidget& field) override;
-    void focusBarred(FieldWidget& field) override { takeInputFrom(viewOf<ChildField>(&field)->wholeWindow()); }
+    void focusBarred(FieldWidget& field) override { takeInputFrom(viewOf<WindowedField>(&field)->wholeWindow()); }
     void controlEntered() override { Owner_.focusEntered(); }
     void controlLeft() override { Owner_.focusLeft(); }
     std::u16string clipboardText() override { return Clipboard_->text(Window_); }
@@ -53,11 +53,11 @@ private:
     ControlWindowOwner& owner() override { return Owner_; }
     const TwipGrid& grid() const override { return Grid_; }
     bool enabled() const override { return Enabled_; }
-    void add(ChildWidget& widget) override;
-    void remove(ChildWidget& widget) override { std::erase(Widgets_, &widget); }
-    void addField(ChildField& field) override;
-    void removeField(ChildField& field) override;
-    void arrived(ChildField& field) override;
+    void add(WindowedView& widget) override;
+    void remove(WindowedView& widget) override { std::erase(Widgets_, &widget); }
+    void addField(WindowedField& field) override;
+    void removeField(WindowedField& field) override;
+    void arrived(WindowedField& field) override;
     void departed(HWND next) override;
     void leave();
     void takeInputFrom(HWND window) override;
@@ -76,16 +76,16 @@ private:
 
     void makeWindow(HWND parent);
     HWND parkingWindow();
-    ChildWidget* widgetOf(HWND window) const;
-    ChildField* fieldOf(HWND window) const;
-    ChildField* shownField() const;
+    WindowedView* widgetOf(HWND window) const;
+    WindowedField* fieldOf(HWND window) const;
+    WindowedField* shownField() const;
 
     ControlWindowOwner& Owner_;
     TwipGrid Grid_;
     std::shared_ptr<Clipboard> Clipboard_;
-    std::shared_ptr<FocusWatch> Focus_;  ///< where it has had the focus last; nullptr for nowhere
-    std::vector<ChildWidget*> Widgets_;
-    std::vector<ChildField*> Fields_;  ///< those of them that can have the focus
+    std::shared_ptr<Win32Focus> Focus_;  ///< where it has had the focus last; nullptr for nowhere
+    std::vector<WindowedView*> Widgets_;
+    std::vector<WindowedField*> Fields_;  ///< those of them that can have the focus
     Win32Label* Label_ = nullptr;
     HWND Window_ = nullptr;
     HWND Parking_ = nullptr;  ///< the parent that nobody sees

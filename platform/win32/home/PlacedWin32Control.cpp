@@ -2,12 +2,12 @@
 
 #include "platform/win32/control/Win32ControlWindow.h"
 #include "platform/win32/home/Win32FormWindow.h"
-#include "platform/win32/widgets/ChildField.h"
+#include "platform/win32/widgets/WindowedView.h"
 
 namespace kel::win32 {
 
 PlacedWin32Control::PlacedWin32Control(const ClassModel& model, const Placement& placement, std::size_t order,
-                                       ControlObserver& observer, const Surroundings& surroundings)
+                                       ControlObserver& observer, const ControlServices& surroundings)
     : TabStop(placement.tabIndex, order, placement.tabStop),
       Observer_(observer),
       Form_(surroundings.form),
@@ -78,7 +78,7 @@ void PlacedWin32Control::focusLeft() {
 void PlacedWin32Control::passFocusOn() { Form_.passFocusOn(*this); }
 
 HWND PlacedWin32Control::focusWindow() const {
-    const ChildField* const field = viewOf<ChildField>(focusTarget());
+    const WindowedField* const field = viewOf<WindowedField>(focusTarget());
     return field != nullptr ? field->window() : nullptr;
 }
 

@@ -18,7 +18,7 @@ class Win32FormWindow;
 /// A control with everything it stands on: its place on the form, its container, its window.
 class PlacedWin32Control final : public PlacedControl, public TabStop, private Container, private ControlWindowOwner {
 public:
-    struct Surroundings {
+    struct ControlServices {
         System& system;
         SharedSettings& settings;
         const RegionalSettings& region;
@@ -29,7 +29,7 @@ public:
 
     /// `order` counts the controls placed before.
     PlacedWin32Control(const ClassModel& model, const Placement& placement, std::size_t order,
-                       ControlObserver& observer, const Surroundings& surroundings);
+                       ControlObserver& observer, const ControlServices& surroundings);
     ~PlacedWin32Control() override;
 
     Control& control() override { return *Control_; }

@@ -65,8 +65,8 @@ HWND Win32FormWindow::parentOf(const Placement& placement) const {
 PlacedControl& Win32FormWindow::place(const ClassModel& model, const Placement& placement, ControlObserver& observer) {
     Controls_.push_back(std::make_unique<PlacedWin32Control>(
         model, placement, Controls_.size(), observer,
-        PlacedWin32Control::Surroundings{System_, Settings_, Region_, Session_.clipboard(), parentOf(placement),
-                                         *this}));
+        PlacedWin32Control::ControlServices{System_, Settings_, Region_, Session_.clipboard(), parentOf(placement),
+                                            *this}));
     PlacedWin32Control& placed = *Controls_.back();
     Order_.add(placed);
     placed.control().Initialize();

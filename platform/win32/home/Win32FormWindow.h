@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "forms/Home.h"
-#include "platform/win32/base/Look.h"
+#include "platform/win32/base/Gdi.h"
 #include "platform/win32/base/WindowClass.h"
 #include "platform/win32/home/PlacedWin32Control.h"
 

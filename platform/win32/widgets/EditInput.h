@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "platform/win32/widgets/ChildField.h"
 #include "platform/win32/widgets/EditView.h"
+#include "platform/win32/widgets/WindowedView.h"
 
 namespace kel::win32 {
 
@@ -14,7 +14,7 @@ inline constexpr char16_t DeleteCharacter = 127;
 class EditInput {
 public:
     /// All of them outlive the input.
-    EditInput(ControlFrame& frame, ChildField& field, EditView& view, TextEntry& entry)
+    EditInput(ControlFrame& frame, WindowedField& field, EditView& view, TextEntry& entry)
         : Frame_(frame), Field_(field), View_(view), Entry_(entry) {}
 
     LRESULT handle(UINT message, WPARAM wide, LPARAM data);
@@ -41,7 +41,7 @@ private:
     LRESULT wheelTurned(WPARAM wide, LPARAM data);
 
     ControlFrame& Frame_;
-    ChildField& Field_;
+    WindowedField& Field_;
     EditView& View_;
     TextEntry& Entry_;
     char16_t FirstHalf_ = 0;  ///< of a pair whose second half has not come yet

@@ -4,7 +4,7 @@
 
 #include "host/DepthGuard.h"
 #include "host/editing/TextDifference.h"
-#include "platform/win32/base/Look.h"
+#include "platform/win32/base/Gdi.h"
 #include "platform/win32/base/WideText.h"
 #include "values/TextBoundaries.h"
 

@@ -72,7 +72,7 @@ RECT turned(HDC context, const RECT& area) {
 
 }  // namespace
 
-Win32CheckBox::Win32CheckBox(ControlFrame& frame, CheckBox& box) : ChildField(box), PaintedWindow(frame), Box_(box) {
+Win32CheckBox::Win32CheckBox(ControlFrame& frame, CheckBox& box) : WindowedField(box), PaintedWindow(frame), Box_(box) {
     frame.addField(*this);
 }
 

@@ -5,14 +5,14 @@
 #include <uxtheme.h>
 
 #include "host/widgets/CheckBox.h"
-#include "platform/win32/base/Look.h"
+#include "platform/win32/base/Gdi.h"
 #include "platform/win32/base/SystemWindow.h"
 
 namespace kel::win32 {
 
 /// A check box: the system's button, whose state is kept here and which says when it is pressed. It is painted here,
 /// since the system's own picture has no colours for a caption where visual styles are on.
-class Win32CheckBox final : public View, public ChildField, private PaintedWindow {
+class Win32CheckBox final : public View, public WindowedField, private PaintedWindow {
 public:
     Win32CheckBox(ControlFrame& frame, CheckBox& box);
     ~Win32CheckBox() override;
@@ -22,7 +22,7 @@ public:
     void outOfDate() override;
     void paintAgain() override;
 
-    // ---- ChildField
+    // ---- WindowedField
 
     HWND window() const override { return windowHandle(); }
     void makeWindow() override;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "host/widgets/Label.h"
-#include "platform/win32/base/Look.h"
-#include "platform/win32/widgets/ChildField.h"
+#include "platform/win32/base/Gdi.h"
+#include "platform/win32/widgets/WindowedView.h"
 
 namespace kel::win32 {
 

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "host/widgets/PictureBox.h"
-#include "platform/win32/base/Look.h"
+#include "platform/win32/base/Gdi.h"
 #include "platform/win32/base/SystemWindow.h"
 
 namespace kel::win32 {
 
 /// A picture box: the system's progress bar, for those who cannot see it, with a picture of our own.
-class Win32PictureBox final : public PictureView, public ChildWidget, private PaintedWindow {
+class Win32PictureBox final : public PictureView, public WindowedView, private PaintedWindow {
 public:
     Win32PictureBox(ControlFrame& frame, PictureBox& box);
     ~Win32PictureBox() override;
@@ -19,7 +19,7 @@ public:
     Size extentOf(std::u16string_view text) const override;
     void paintNow() override;
 
-    // ---- ChildWidget
+    // ---- WindowedView
 
     HWND window() const override { return windowHandle(); }
     void makeWindow() override;

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "platform/win32/base/Look.h"
+#include "platform/win32/base/Gdi.h"
 #include "platform/win32/widgets/EditInput.h"
 
 namespace kel::win32 {
 
 /// What shows a text box and what shows a combo box have in common: the system's edit window, which shows the text of
 /// the widget. Whatever that window is asked to do goes to the widget.
-class Win32TextEntry : public TextView, public ChildField, protected WindowHandler {
+class Win32TextEntry : public TextView, public WindowedField, protected WindowHandler {
 public:
     // ---- TextView
 
@@ -15,7 +15,7 @@ public:
     void paintAgain() final;
     const TextLines* lines() const final { return &View_; }
 
-    // ---- ChildField
+    // ---- WindowedField
 
     HWND window() const final { return View_.window(); }
     void makeWindow() final;
@@ -31,7 +31,7 @@ protected:
     static constexpr int TextGap = 1;    ///< between edge and text, pixels
 
     Win32TextEntry(ControlFrame& frame, TextEntry& entry)
-        : ChildField(entry), Frame_(frame), Entry_(entry), View_(entry), Input_(frame, *this, View_, entry) {}
+        : WindowedField(entry), Frame_(frame), Entry_(entry), View_(entry), Input_(frame, *this, View_, entry) {}
     /// Of what derives from this, which is told until the window is gone.
     void destroy();
 

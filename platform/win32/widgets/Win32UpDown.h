@@ -7,7 +7,7 @@ namespace kel::win32 {
 
 /// A spinner: the system's up-down control, which holds no number here and only says which of its buttons is
 /// pressed or held.
-class Win32UpDown final : public View, public ChildWidget, private SystemWindow {
+class Win32UpDown final : public View, public WindowedView, private SystemWindow {
 public:
     Win32UpDown(ControlFrame& frame, UpDown& spinner);
     ~Win32UpDown() override;
@@ -17,7 +17,7 @@ public:
     void outOfDate() override;
     void paintAgain() override { frame().viewChanged(); }
 
-    // ---- ChildWidget
+    // ---- WindowedView
 
     HWND window() const override { return windowHandle(); }
     void makeWindow() override;

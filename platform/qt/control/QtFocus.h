@@ -4,26 +4,26 @@
 
 namespace kel::qt {
 
-class ChildField;
+class FieldView;
 class ControlSite;
 
 /// What Qt says of the focus, for those who are told of it. Popups, menus and other windows in front are no change.
 namespace focus {
 
 /// In a window that is not the active one the field has the focus as soon as it is.
-void arrived(ChildField& field, Qt::FocusReason reason);
-void departed(ChildField& field, Qt::FocusReason reason);
+void arrived(FieldView& field, Qt::FocusReason reason);
+void departed(FieldView& field, Qt::FocusReason reason);
 
 /// From a field that can have it no longer: into the one that has taken its place in the same control, else on as by
 /// Tab. Nowhere when nothing else takes it.
-void passOn(ChildField& field);
+void passOn(FieldView& field);
 
 /// The field or the control is about to go, without a word to anybody.
-void forget(const ChildField& field);
+void forget(const FieldView& field);
 void forget(const ControlSite& site);
 
 /// Whether its control has been told that it has the focus.
-bool isHeldBy(const ChildField& field);
+bool isHeldBy(const FieldView& field);
 
 /// The Tab key moves the focus at this moment.
 bool movesByTab();

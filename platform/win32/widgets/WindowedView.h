@@ -12,7 +12,7 @@ class TwipGrid;
 class Win32Label;
 
 /// What a control's window knows of the widgets in it, but for the caption.
-class ChildWidget {
+class WindowedView {
 public:
     /// nullptr while there is none.
     virtual HWND window() const = 0;
@@ -37,11 +37,11 @@ public:
     virtual void draw(HDC context, POINT origin) const = 0;
 
 protected:
-    ~ChildWidget() = default;
+    ~WindowedView() = default;
 };
 
 /// What it knows of those that can have the focus.
-class ChildField : public ChildWidget {
+class WindowedField : public WindowedView {
 public:
     FieldWidget& widget() const { return Widget_; }
     bool shown() const final { return Widget_.visible(); }
@@ -56,8 +56,8 @@ public:
     virtual int baseline() const = 0;
 
 protected:
-    explicit ChildField(FieldWidget& widget) : Widget_(widget) {}
-    ~ChildField() = default;
+    explicit WindowedField(FieldWidget& widget) : Widget_(widget) {}
+    ~WindowedField() = default;
 
 private:
     FieldWidget& Widget_;
@@ -78,13 +78,13 @@ public:
     virtual const TwipGrid& grid() const = 0;
     virtual bool enabled() const = 0;
 
-    virtual void add(ChildWidget& widget) = 0;
-    virtual void remove(ChildWidget& widget) = 0;
-    virtual void addField(ChildField& field) = 0;
-    virtual void removeField(ChildField& field) = 0;
+    virtual void add(WindowedView& widget) = 0;
+    virtual void remove(WindowedView& widget) = 0;
+    virtual void addField(WindowedField& field) = 0;
+    virtual void removeField(WindowedField& field) = 0;
 
     /// The window of the field has got the focus; the one that had it has lost it to `next`.
-    virtual void arrived(ChildField& field) = 0;
+    virtual void arrived(WindowedField& field) = 0;
     virtual void departed(HWND next) = 0;
     /// The focus goes on when it is in `window`, and a mouse button held there counts as released.
     virtual void takeInputFrom(HWND window) = 0;

@@ -1,8 +1,8 @@
-#include "platform/win32/control/FocusWatch.h"
+#include "platform/win32/control/Win32Focus.h"
 
 #include <utility>
 
-#include "platform/win32/widgets/ChildField.h"
+#include "platform/win32/widgets/WindowedView.h"
 
 namespace kel::win32 {
 
@@ -15,29 +15,29 @@ HWND rootOf(HWND window) { return window != nullptr ? GetAncestor(window, GA_ROO
 
 }  // namespace
 
-UINT FocusWatch::leaveMessage() {
+UINT Win32Focus::leaveMessage() {
     static const UINT Message = RegisterWindowMessageW(L"KelControls8.Leave");
     return Message;
 }
 
-FocusWatch* FocusWatch::of(HWND root) {
-    return root != nullptr ? static_cast<FocusWatch*>(GetPropW(root, propertyName().c_str())) : nullptr;
+Win32Focus* Win32Focus::of(HWND root) {
+    return root != nullptr ? static_cast<Win32Focus*>(GetPropW(root, propertyName().c_str())) : nullptr;
 }
 
-std::shared_ptr<FocusWatch> FocusWatch::around(HWND control) {
+std::shared_ptr<Win32Focus> Win32Focus::around(HWND control) {
     HWND const root = rootOf(control);
-    FocusWatch* const known = of(root);
-    return known != nullptr ? known->shared_from_this() : std::make_shared<FocusWatch>(root);
+    Win32Focus* const known = of(root);
+    return known != nullptr ? known->shared_from_this() : std::make_shared<Win32Focus>(root);
 }
 
-FocusWatch::FocusWatch(HWND root) : Root_(root) { SetPropW(Root_, propertyName().c_str(), this); }
+Win32Focus::Win32Focus(HWND root) : Root_(root) { SetPropW(Root_, propertyName().c_str(), this); }
 
-FocusWatch::~FocusWatch() {
+Win32Focus::~Win32Focus() {
     resume();
     if (of(Root_) == this) RemovePropW(Root_, propertyName().c_str());
 }
 
-void FocusWatch::arrived(HWND control, const ChildField& field) {
+void Win32Focus::arrived(HWND control, const WindowedField& field) {
     resume();
     // While it was away nobody has left: the one it was in is held open for that by its own window.
     const WidgetHost* const entered = Order_.entered();
@@ -47,7 +47,7 @@ void FocusWatch::arrived(HWND control, const ChildField& field) {
     Order_.arrived(field.widget());
 }
 
-void FocusWatch::departed(const WidgetHost& control, HWND next) {
+void Win32Focus::departed(const WidgetHost& control, HWND next) {
     // With another window in front, or another program, it is only away for a while.
     const bool isPassing = next != nullptr ? rootOf(next) != Root_ : GetActiveWindow() != Root_;
     if (isPassing)
@@ -56,7 +56,7 @@ void FocusWatch::departed(const WidgetHost& control, HWND next) {
         leave(control);
 }
 
-void FocusWatch::leave(const WidgetHost& control) {
+void Win32Focus::leave(const WidgetHost& control) {
     resume();
     const FieldWidget* const field = Order_.target();
     if (field != nullptr && &field->host() == &control) Order_.departed(*field, nullptr);
@@ -64,20 +64,20 @@ void FocusWatch::leave(const WidgetHost& control) {
 
 // ---- Away for a while
 
-void FocusWatch::suspend() {
+void Win32Focus::suspend() {
     if (Order_.holder() == nullptr || Hook_ != nullptr) return;
     Hook_ = SetWinEventHook(EVENT_OBJECT_FOCUS, EVENT_OBJECT_FOCUS, nullptr, &focusMoved, GetCurrentProcessId(),
                             GetCurrentThreadId(), WINEVENT_OUTOFCONTEXT);
 }
 
-void FocusWatch::resume() {
+void Win32Focus::resume() {
     if (Hook_ != nullptr) UnhookWinEvent(std::exchange(Hook_, nullptr));
 }
 
 /// The window is in front again, and the focus went elsewhere in it than to where it was.
-void CALLBACK FocusWatch::focusMoved(HWINEVENTHOOK /*hook*/, DWORD /*event*/, HWND window, LONG /*object*/,
+void CALLBACK Win32Focus::focusMoved(HWINEVENTHOOK /*hook*/, DWORD /*event*/, HWND window, LONG /*object*/,
                                      LONG /*child*/, DWORD /*thread*/, DWORD /*time*/) {
-    const FocusWatch* const watch = of(rootOf(window));
+    const Win32Focus* const watch = of(rootOf(window));
     if (watch == nullptr || watch->Hook_ == nullptr || GetFocus() != window) return;
     HWND const control = watch->Control_;
     if (window != control && IsChild(control, window) == FALSE) SendMessageW(control, leaveMessage(), 0, 0);

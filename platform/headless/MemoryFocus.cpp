@@ -1,4 +1,4 @@
-#include "platform/headless/FocusKeeper.h"
+#include "platform/headless/MemoryFocus.h"
 
 #include "platform/headless/PlacedHeadlessControl.h"
 
@@ -12,22 +12,22 @@ PlacedHeadlessControl& placedWith(const FieldWidget& field) {
 
 }  // namespace
 
-void FocusKeeper::moveTo(FieldWidget& target) {
+void MemoryFocus::moveTo(FieldWidget& target) {
     Input_.activate(Window_);
     Order_.arrived(target);
 }
 
-void FocusKeeper::moveTo(const TabStop& stop, bool byTab) {
+void MemoryFocus::moveTo(const TabStop& stop, bool byTab) {
     const TabKey::Scope tab(Input_.Tab, byTab);
     moveTo(*stop.focusTarget());
 }
 
-void FocusKeeper::moveByTab(bool back) {
+void MemoryFocus::moveByTab(bool back) {
     const TabStop* const from = holder() != nullptr ? &placedWith(*holder()) : nullptr;
     if (const TabStop* const next = Stops_.next(from, back)) moveTo(*next, true);
 }
 
-void FocusKeeper::recheck() {
+void MemoryFocus::recheck() {
     const FieldWidget* const barred = Order_.target();
     if (barred == nullptr || barred->takesInput()) return;
     TabStop& stop = placedWith(*barred);

@@ -1,4 +1,4 @@
-#include "common/FieldLook.h"
+#include "common/FieldState.h"
 
 namespace kel {
 

@@ -11,13 +11,13 @@ namespace kel::qt {
 class ControlSite;
 
 /// A child widget of a control, as the composite around it knows it.
-class ChildWidget {
+class PlacedView {
 public:
     /// All of them outlive this. `widget` shows `shown`.
-    ChildWidget(ControlSite& site, QWidget& widget, Widget& shown);
-    ChildWidget(const ChildWidget&) = delete;
-    ChildWidget& operator=(const ChildWidget&) = delete;
-    virtual ~ChildWidget();
+    PlacedView(ControlSite& site, QWidget& widget, Widget& shown);
+    PlacedView(const PlacedView&) = delete;
+    PlacedView& operator=(const PlacedView&) = delete;
+    virtual ~PlacedView();
 
     ControlSite& site() const { return Site_; }
     QWidget& widget() const { return Widget_; }

@@ -1,4 +1,4 @@
-#include "platform/qt/base/WidgetLook.h"
+#include "platform/qt/base/WidgetSettings.h"
 
 #include <QWidget>
 

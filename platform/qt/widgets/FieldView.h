@@ -2,17 +2,17 @@
 
 #include "host/widgets/Widget.h"
 #include "platform/qt/base/FieldColors.h"
-#include "platform/qt/widgets/ChildWidget.h"
+#include "platform/qt/widgets/PlacedView.h"
 
 namespace kel::qt {
 
 class TextInput;
 
 /// A child widget that can have the focus.
-class ChildField : public ChildWidget {
+class FieldView : public PlacedView {
 public:
-    ChildField(ControlSite& site, QWidget& widget, FieldWidget& shown);
-    ~ChildField() override;
+    FieldView(ControlSite& site, QWidget& widget, FieldWidget& shown);
+    ~FieldView() override;
 
     FieldWidget& shown() const { return Shown_; }
 

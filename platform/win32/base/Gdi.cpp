@@ -1,4 +1,4 @@
-#include "platform/win32/base/Look.h"
+#include "platform/win32/base/Gdi.h"
 
 #include <algorithm>
 #include <cstring>

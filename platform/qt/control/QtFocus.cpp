@@ -1,4 +1,4 @@
-#include "platform/qt/control/FocusTracker.h"
+#include "platform/qt/control/QtFocus.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -8,7 +8,7 @@
 #include "host/focus/TabKey.h"
 #include "platform/qt/control/ControlSite.h"
 #include "platform/qt/control/FocusWay.h"
-#include "platform/qt/widgets/ChildField.h"
+#include "platform/qt/widgets/FieldView.h"
 
 namespace kel::qt::focus {
 
@@ -32,7 +32,7 @@ bool isPassing(Qt::FocusReason reason) {
 void leave(const FieldWidget& field, const QWidget* next, Qt::FocusReason reason) {
     Suspended = false;
     const TabKey::Scope tab(Tab, isByTab(reason));
-    const auto* const nextField = dynamic_cast<const ChildField*>(next);
+    const auto* const nextField = dynamic_cast<const FieldView*>(next);
     Order.departed(field, nextField != nullptr ? &nextField->site() : nullptr);
 }
 
@@ -40,7 +40,7 @@ void leave(const FieldWidget& field, const QWidget* next, Qt::FocusReason reason
 void focusMoved(const QWidget* now) {
     const FieldWidget* const holder = Order.holder();
     if (!Suspended || holder == nullptr || now == nullptr) return;
-    const QWidget& widget = dynamic_cast<const ChildField&>(*holder->view()).widget();
+    const QWidget& widget = dynamic_cast<const FieldView&>(*holder->view()).widget();
     if (now == &widget || now->window() != widget.window() || QApplication::activePopupWidget() != nullptr) return;
     leave(*holder, now, Qt::OtherFocusReason);
 }
@@ -64,7 +64,7 @@ void watchApplication() {
 
 }  // namespace
 
-void arrived(ChildField& field, Qt::FocusReason reason) {
+void arrived(FieldView& field, Qt::FocusReason reason) {
     watchApplication();
     QWidget& widget = field.widget();
     // Qt lets code give it to what only its surroundings hide.
@@ -78,10 +78,10 @@ void arrived(ChildField& field, Qt::FocusReason reason) {
     Order.arrived(field.shown());
 }
 
-void departed(ChildField& field, Qt::FocusReason reason) {
+void departed(FieldView& field, Qt::FocusReason reason) {
     if (&field.shown() != Order.target()) return;
     const QWidget* const now = QApplication::focusWidget();
-    const auto* const next = dynamic_cast<const ChildField*>(now);
+    const auto* const next = dynamic_cast<const FieldView*>(now);
     const bool comesBack = next != nullptr && next != &field && !now->isVisible();
     if (comesBack || isPassing(reason)) {
         Suspended = true;
@@ -92,9 +92,9 @@ void departed(ChildField& field, Qt::FocusReason reason) {
     if (!field.takesFocus() && field.widget().window()->focusWidget() == nullptr) passOn(field);
 }
 
-void passOn(ChildField& field) {
+void passOn(FieldView& field) {
     QWidget& widget = field.widget();
-    ChildField* const shown = field.site().activeField();
+    FieldView* const shown = field.site().activeField();
     const bool stays = shown != nullptr && shown != &field && shown->takesFocus();
     QWidget* const heir = stays ? &shown->widget() : nextByTab(widget);
     if (heir != nullptr)
@@ -103,11 +103,11 @@ void passOn(ChildField& field) {
         widget.clearFocus();
 }
 
-void forget(const ChildField& field) { Order.forget(field.shown()); }
+void forget(const FieldView& field) { Order.forget(field.shown()); }
 
 void forget(const ControlSite& site) { Order.forget(site); }
 
-bool isHeldBy(const ChildField& field) { return Order.holder() == &field.shown(); }
+bool isHeldBy(const FieldView& field) { return Order.holder() == &field.shown(); }
 
 bool movesByTab() { return Tab.isHeld(); }
 

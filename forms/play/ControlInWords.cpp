@@ -1,4 +1,4 @@
-#include "forms/play/Looks.h"
+#include "forms/play/ControlInWords.h"
 
 #include <array>
 #include <cstdio>

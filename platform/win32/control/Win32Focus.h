@@ -9,23 +9,23 @@
 
 namespace kel::win32 {
 
-class ChildField;
+class WindowedField;
 
 /// What the system says of the focus to the windows of our controls in one top-level window, for those who are told of
 /// it. Menus, message boxes and other windows in front are no change. The controls share it by a property of the
 /// top-level window, whoever has put them there.
-class FocusWatch : public std::enable_shared_from_this<FocusWatch> {
+class Win32Focus : public std::enable_shared_from_this<Win32Focus> {
 public:
     /// Of the top-level window that `control` is in.
-    static std::shared_ptr<FocusWatch> around(HWND control);
+    static std::shared_ptr<Win32Focus> around(HWND control);
 
-    explicit FocusWatch(HWND root);
-    ~FocusWatch();
-    FocusWatch(const FocusWatch&) = delete;
-    FocusWatch& operator=(const FocusWatch&) = delete;
+    explicit Win32Focus(HWND root);
+    ~Win32Focus();
+    Win32Focus(const Win32Focus&) = delete;
+    Win32Focus& operator=(const Win32Focus&) = delete;
 
     /// The field's window in `control` has got the focus.
-    void arrived(HWND control, const ChildField& field);
+    void arrived(HWND control, const WindowedField& field);
     /// It has gone from the control to `next`, which is none of its windows.
     void departed(const WidgetHost& control, HWND next);
     /// The control is to be left: see `leaveMessage`.
@@ -39,7 +39,7 @@ public:
     static UINT leaveMessage();
 
 private:
-    static FocusWatch* of(HWND root);
+    static Win32Focus* of(HWND root);
     void suspend();
     void resume();
     static void CALLBACK focusMoved(HWINEVENTHOOK hook, DWORD event, HWND window, LONG object, LONG child, DWORD thread,

@@ -1,32 +1,32 @@
-#include "platform/qt/widgets/ChildField.h"
+#include "platform/qt/widgets/FieldView.h"
 
 #include <QWidget>
 
-#include "platform/qt/base/WidgetLook.h"
+#include "platform/qt/base/WidgetSettings.h"
 #include "platform/qt/control/ControlSite.h"
-#include "platform/qt/control/FocusTracker.h"
 #include "platform/qt/control/FocusWay.h"
+#include "platform/qt/control/QtFocus.h"
 
 namespace kel::qt {
 
-ChildField::ChildField(ControlSite& site, QWidget& widget, FieldWidget& shown)
-    : ChildWidget(site, widget, shown), Shown_(shown) {
+FieldView::FieldView(ControlSite& site, QWidget& widget, FieldWidget& shown)
+    : PlacedView(site, widget, shown), Shown_(shown) {
     site.addField(*this);
 }
 
-ChildField::~ChildField() {
+FieldView::~FieldView() {
     focus::forget(*this);
     site().removeField(*this);
 }
 
-bool ChildField::takesFocus() const { return qt::takesFocus(widget()); }
+bool FieldView::takesFocus() const { return qt::takesFocus(widget()); }
 
-void ChildField::giveUpFocus() {
+void FieldView::giveUpFocus() {
     if (widget().window()->focusWidget() == &widget()) focus::passOn(*this);
     focus::departed(*this, Qt::OtherFocusReason);
 }
 
-void ChildField::showState(Changes changes) {
+void FieldView::showState(Changes changes) {
     if (changes.has(Change::Place)) placeAgain();
     if (changes.has(Change::Enabled)) {
         widget().setEnabled(Shown_.enabled());
@@ -40,6 +40,6 @@ void ChildField::showState(Changes changes) {
     if (changes.has(Change::ToolTip)) setWidgetToolTip(widget(), Shown_.toolTip());
 }
 
-int ChildField::widthFor(int characters) const { return characters * widget().fontMetrics().averageCharWidth(); }
+int FieldView::widthFor(int characters) const { return characters * widget().fontMetrics().averageCharWidth(); }
 
 }  // namespace kel::qt

@@ -7,10 +7,10 @@
 namespace kel::headless {
 
 /// The focus of one window in memory, where a move has arrived as soon as it is asked for.
-class FocusKeeper {
+class MemoryFocus {
 public:
     /// All of it outlives the keeper.
-    FocusKeeper(Input& input, FormWindow& window, const TabOrder& stops)
+    MemoryFocus(Input& input, FormWindow& window, const TabOrder& stops)
         : Input_(input), Window_(window), Stops_(stops) {}
 
     /// The widget with the focus, nullptr while nothing has it.
