@@ -118,7 +118,7 @@ HRESULT Activation::setRects(const RECT& bounds, const RECT& clip) {
         return S_OK;
     }
     const Flag placing(Placing_);
-    Control_.takeExtent(fromPixels(bounds, Control_.twipsPerPixel()));
+    Control_.takeExtent(fromPixels(bounds, TwipScale(Control_.twipsPerPixel())));
     applyExtent();
     return S_OK;
 }
@@ -131,7 +131,7 @@ void Activation::extentChanged() {
 
 /// Shows the window in the size that the control has, and tells the host when that is not the one it gave.
 void Activation::applyExtent() {
-    const SIZE wanted = toPixels(Control_.extent(), Control_.twipsPerPixel());
+    const SIZE wanted = toPixels(Control_.extent(), TwipScale(Control_.twipsPerPixel()));
     const bool differs = wanted.cx != Bounds_.right - Bounds_.left || wanted.cy != Bounds_.bottom - Bounds_.top;
     Bounds_.right = Bounds_.left + wanted.cx;
     Bounds_.bottom = Bounds_.top + wanted.cy;

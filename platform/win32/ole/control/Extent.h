@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "host/Geometry.h"
+#include "host/TwipScale.h"
 
 /// Between the units that hosts measure a control in: twips, pixels and hundredths of a millimetre.
 namespace kel::win32::ole {
@@ -18,13 +19,13 @@ inline Size fromHimetric(const SIZEL& size) {
     return {MulDiv(size.cx, TwipsPerInch, HimetricPerInch), MulDiv(size.cy, TwipsPerInch, HimetricPerInch)};
 }
 
-inline SIZE toPixels(Size twips, int twipsPerPixel) {
-    return {MulDiv(twips.width, 1, twipsPerPixel), MulDiv(twips.height, 1, twipsPerPixel)};
+inline SIZE toPixels(Size twips, const TwipScale& scale) {
+    return {scale.pixel(twips.width), scale.pixel(twips.height)};
 }
 
-inline Size fromPixels(const RECT& bounds, int twipsPerPixel) {
-    return {static_cast<std::int32_t>(bounds.right - bounds.left) * twipsPerPixel,
-            static_cast<std::int32_t>(bounds.bottom - bounds.top) * twipsPerPixel};
+inline Size fromPixels(const RECT& bounds, const TwipScale& scale) {
+    return {scale.twips(static_cast<int>(bounds.right - bounds.left)),
+            scale.twips(static_cast<int>(bounds.bottom - bounds.top))};
 }
 
 }  // namespace kel::win32::ole

@@ -90,7 +90,7 @@ HENHMETAFILE DataPart::drawEnhanced() {
     const RECT frame{0, 0, size.cx, size.cy};
     HDC context = CreateEnhMetaFileW(nullptr, nullptr, &frame, nullptr);
     if (context == nullptr) throw std::bad_alloc();
-    const SIZE pixels = toPixels(Control_.extent(), Control_.library().system().twipsPerPixel());
+    const SIZE pixels = toPixels(Control_.extent(), TwipScale(Control_.library().system().twipsPerPixel()));
     Control_.window().draw(context, {0, 0, pixels.cx, pixels.cy});
     return CloseEnhMetaFile(context);
 }
@@ -98,7 +98,7 @@ HENHMETAFILE DataPart::drawEnhanced() {
 HGLOBAL DataPart::drawClassic() {
     HDC context = CreateMetaFileW(nullptr);
     if (context == nullptr) throw std::bad_alloc();
-    const SIZE pixels = toPixels(Control_.extent(), Control_.library().system().twipsPerPixel());
+    const SIZE pixels = toPixels(Control_.extent(), TwipScale(Control_.library().system().twipsPerPixel()));
     SetMapMode(context, MM_ANISOTROPIC);
     SetWindowOrgEx(context, 0, 0, nullptr);
     SetWindowExtEx(context, pixels.cx, pixels.cy, nullptr);
