@@ -5,7 +5,6 @@
 #include <random>
 
 #include "values/Text.h"
-#include "values/TextBoundaries.h"
 
 namespace kel::test {
 namespace {
@@ -38,8 +37,6 @@ TEST(PlainText, EveryTextComesBackUnchanged) {
         edit.setPlainText(plain::encoded(text));
         EXPECT_EQ(plain::text(*edit.document()), text);
         EXPECT_EQ(plain::length(*edit.document()), text.size());
-        EXPECT_TRUE(plain::equals(*edit.document(), text));
-        EXPECT_FALSE(plain::equals(*edit.document(), text + u"x"));
     }
 }
 
@@ -72,19 +69,6 @@ TEST(PlainText, EditsAsAStringDoes) {
         if (text.size() > 60) {
             text.clear();
             edit.clear();
-        }
-    }
-}
-
-TEST(PlainText, TakesAnyPartOut) {
-    QPlainTextEdit edit;
-    const std::u16string text = u"a\r\n\r\nb\rc\n\r\n";
-    edit.setPlainText(plain::encoded(text));
-    for (std::size_t start = 0; start <= text.size(); ++start) {
-        for (std::size_t end = start; end <= text.size(); ++end) {
-            const std::size_t from = snapDown(text, start, true);
-            const std::size_t to = snapDown(text, end, true);
-            EXPECT_EQ(plain::textBetween(*edit.document(), from, to), text.substr(from, to - from));
         }
     }
 }

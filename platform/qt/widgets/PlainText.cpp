@@ -73,12 +73,6 @@ void appendDecoded(std::u16string& text, QStringView part) {
                    text.begin() + static_cast<std::ptrdiff_t>(start), [](char16_t unit) { return toText(unit); });
 }
 
-bool equalsDecoded(QStringView part, std::u16string_view text) {
-    const std::u16string_view units = viewOf(part);
-    return std::equal(units.begin(), units.end(), text.begin(), text.end(),
-                      [](char16_t inDocument, char16_t unit) { return toText(inDocument) == unit; });
-}
-
 }  // namespace
 
 std::size_t toText(const QTextDocument& document, int position) {
@@ -96,36 +90,14 @@ std::size_t length(const QTextDocument& document) {
            static_cast<std::size_t>(document.blockCount() - 1);
 }
 
-std::u16string text(const QTextDocument& document) { return textBetween(document, 0, length(document)); }
-
-std::u16string textBetween(const QTextDocument& document, std::size_t start, std::size_t end) {
+std::u16string text(const QTextDocument& document) {
     std::u16string text;
-    text.reserve(end - start);
-    for (QTextBlock block = blockAt(document, start); block.isValid(); block = block.next()) {
-        const std::size_t blockStart = startOf(block);
-        const QString content = block.text();
-        const std::size_t from = std::min(start > blockStart ? start - blockStart : 0, lengthOf(block));
-        const std::size_t to = std::min(end - blockStart, lengthOf(block));
-        appendDecoded(text,
-                      QStringView(content).sliced(static_cast<qsizetype>(from), static_cast<qsizetype>(to - from)));
-        if (end < blockStart + lengthOf(block) + LineBreak.size()) break;
-        text += LineBreak;
+    text.reserve(length(document));
+    for (QTextBlock block = document.firstBlock(); block.isValid(); block = block.next()) {
+        if (block.blockNumber() > 0) text += LineBreak;
+        appendDecoded(text, block.text());
     }
     return text;
-}
-
-bool equals(const QTextDocument& document, std::u16string_view text) {
-    if (text.size() != length(document)) return false;
-    std::size_t at = 0;
-    for (QTextBlock block = document.firstBlock(); block.isValid(); block = block.next()) {
-        const std::size_t size = lengthOf(block);
-        if (!equalsDecoded(block.text(), text.substr(at, size))) return false;
-        at += size;
-        if (at == text.size()) return true;
-        if (text.substr(at, LineBreak.size()) != LineBreak) return false;
-        at += LineBreak.size();
-    }
-    return true;
 }
 
 void replace(QTextDocument& document, std::size_t start, std::size_t end, std::u16string_view text) {

@@ -18,8 +18,6 @@ int toDocument(const QTextDocument& document, std::size_t position);
 
 std::size_t length(const QTextDocument& document);
 std::u16string text(const QTextDocument& document);
-std::u16string textBetween(const QTextDocument& document, std::size_t start, std::size_t end);
-bool equals(const QTextDocument& document, std::u16string_view text);
 
 /// Anything may become or stop being a line break: a carriage return and a line feed that come to stand together,
 /// or apart.
