@@ -1,6 +1,7 @@
 #pragma once
 
 #include <new>
+#include <type_traits>
 
 #include "library/AutomationError.h"
 #include "platform/win32/ole/com/Com.h"
@@ -12,11 +13,16 @@ namespace kel::win32::ole {
 HRESULT reportError(HRESULT code, std::u16string_view description) noexcept;
 HRESULT reportError(const AutomationError& error) noexcept;
 
-/// Runs the body of a component method. No exception gets past it.
+/// Runs the body of a component method; one that returns nothing succeeds. No exception gets past it.
 template <class Body>
 HRESULT atEdge(Body&& body) noexcept {
     try {
-        return body();
+        if constexpr (std::is_void_v<std::invoke_result_t<Body>>) {
+            body();
+            return S_OK;
+        } else {
+            return body();
+        }
     } catch (const AutomationError& error) {
         return reportError(error);
     } catch (const std::bad_alloc&) {

@@ -1,5 +1,7 @@
 #include "platform/win32/ole/control/Activation.h"
 
+#include "platform/win32/ole/control/OleControl.h"
+
 namespace kel::win32::ole {
 
 namespace {
@@ -61,7 +63,7 @@ HRESULT Activation::enterWindow() {
     setRects(bounds, clip);
     if (!inPlace()) return E_UNEXPECTED;
     Control_.window().setVisible(true);
-    Control_.appeared();
+    Control_.control().Show();
     if (!inPlace()) return E_UNEXPECTED;
     if (IOleClientSite* shown = Control_.site().get()) ComPtr<IOleClientSite>(shown)->ShowObject();
     return inPlace() ? S_OK : E_UNEXPECTED;
@@ -79,8 +81,9 @@ HRESULT Activation::activateUi() {
     }
     const ComPtr<IOleInPlaceFrame> frame = Frame_;
     const ComPtr<IOleInPlaceUIWindow> document = Document_;
-    if (frame && uiActive()) frame->SetActiveObject(&Control_.activeObject(), ObjectName);
-    if (document && uiActive()) document->SetActiveObject(&Control_.activeObject(), ObjectName);
+    const auto active = ComPtr<IOleInPlaceActiveObject>::of(&Control_.inner());
+    if (frame && uiActive()) frame->SetActiveObject(active.get(), ObjectName);
+    if (document && uiActive()) document->SetActiveObject(active.get(), ObjectName);
     if (frame && uiActive()) frame->SetBorderSpace(nullptr);
     return uiActive() ? S_OK : E_UNEXPECTED;
 }
@@ -118,7 +121,8 @@ HRESULT Activation::setRects(const RECT& bounds, const RECT& clip) {
         return S_OK;
     }
     const Flag placing(Placing_);
-    Control_.takeExtent(fromPixels(bounds, TwipScale(Control_.twipsPerPixel())));
+    const TwipGrid grid = Control_.grid();
+    Control_.takeExtent({grid.twips(widthOf(bounds)), grid.twips(heightOf(bounds))});
     applyExtent();
     return S_OK;
 }
@@ -131,10 +135,11 @@ void Activation::extentChanged() {
 
 /// Shows the window in the size that the control has, and tells the host when that is not the one it gave.
 void Activation::applyExtent() {
-    const SIZE wanted = toPixels(Control_.extent(), TwipScale(Control_.twipsPerPixel()));
-    const bool differs = wanted.cx != Bounds_.right - Bounds_.left || wanted.cy != Bounds_.bottom - Bounds_.top;
-    Bounds_.right = Bounds_.left + wanted.cx;
-    Bounds_.bottom = Bounds_.top + wanted.cy;
+    const Size extent = Control_.extent();
+    RECT wanted = Control_.grid().pixels({0, 0, extent.width, extent.height});
+    OffsetRect(&wanted, Bounds_.left, Bounds_.top);
+    const bool differs = EqualRect(&wanted, &Bounds_) == FALSE;
+    Bounds_ = wanted;
     place();
     const ComPtr<IOleInPlaceSite> site = Site_;
     if (differs && site) site->OnPosRectChange(&Bounds_);

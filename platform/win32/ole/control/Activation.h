@@ -1,35 +1,17 @@
 #pragma once
 
-#include "platform/win32/control/ControlWindow.h"
-#include "platform/win32/ole/control/ClientSite.h"
-#include "platform/win32/ole/control/Extent.h"
+#include "platform/win32/ole/com/Com.h"
 
 namespace kel::win32::ole {
 
-/// What the activation of a control in its host's window has to do with the control.
-class Activated {
-public:
-    virtual ClientSite& site() = 0;
-    virtual ControlWindow& window() = 0;
-    virtual IOleInPlaceActiveObject& activeObject() = 0;
-    virtual int twipsPerPixel() const = 0;
-    virtual Size extent() const = 0;
-
-    /// The host gives the control this size; the control may take another one.
-    virtual void takeExtent(Size twips) = 0;
-    /// The control's window is there for the user to see.
-    virtual void appeared() = 0;
-
-protected:
-    ~Activated() = default;
-};
+class OleControl;
 
 /// The steps between a control that only has a picture, one with a window in its host, and one whose user
 /// interface is the host's for the moment. The host may interfere at each call out: activate, deactivate,
 /// close; the step under way then ends where it is, with an error.
 class Activation {
 public:
-    explicit Activation(Activated& control) : Control_(control) {}
+    explicit Activation(OleControl& control) : Control_(control) {}
 
     bool inPlace() const { return State_ != State::Passive; }
     bool uiActive() const { return State_ == State::UiActive; }
@@ -55,7 +37,7 @@ private:
     void applyExtent();
     void place();
 
-    Activated& Control_;
+    OleControl& Control_;
     State State_ = State::Passive;
     bool Busy_ = false;     ///< on the way into the host's window
     bool Placing_ = false;  ///< the host is giving the control a size, or being told of one

@@ -25,7 +25,7 @@ protected:
     void* find(REFIID iid) override {
         void* const found = asOneOf<IDispatch, Interface>(iid, Dual_);
         if (found != nullptr) return found;
-        return asOneOf<IProvideClassInfo, IProvideClassInfo2, ISupportErrorInfo>(iid, ClassInfo_);
+        return ClassInfo_.find(iid);
     }
 
 private:

@@ -78,4 +78,26 @@ void ClientSite::saveObject() const {
     if (site) site->SaveObject();
 }
 
+// ---- Viewer
+
+void Viewer::set(IAdviseSink* sink, DWORD aspects, DWORD flags) {
+    Sink_ = ComPtr<IAdviseSink>(sink);
+    Aspects_ = aspects;
+    Flags_ = flags;
+    if ((flags & ADVF_PRIMEFIRST) != 0) outOfDate();
+}
+
+void Viewer::get(IAdviseSink** sink, DWORD* aspects, DWORD* flags) const {
+    if (aspects != nullptr) *aspects = Aspects_;
+    if (flags != nullptr) *flags = Flags_;
+    if (sink != nullptr) *sink = ComPtr<IAdviseSink>(Sink_).detach();
+}
+
+void Viewer::outOfDate() {
+    const ComPtr<IAdviseSink> sink = Sink_;
+    if (!sink) return;
+    if ((Flags_ & ADVF_ONLYONCE) != 0) Sink_ = {};
+    sink->OnViewChange(DVASPECT_CONTENT, -1);
+}
+
 }  // namespace kel::win32::ole

@@ -37,4 +37,19 @@ private:
     ComPtr<IOleClientSite> Site_;
 };
 
+/// Who shows a picture of the control that is not active, and is told when it looks different.
+class Viewer {
+public:
+    /// `sink` may be null.
+    void set(IAdviseSink* sink, DWORD aspects, DWORD flags);
+    /// Into what of the three the caller wants.
+    void get(IAdviseSink** sink, DWORD* aspects, DWORD* flags) const;
+    void outOfDate();
+
+private:
+    ComPtr<IAdviseSink> Sink_;
+    DWORD Aspects_ = 0;
+    DWORD Flags_ = 0;
+};
+
 }  // namespace kel::win32::ole

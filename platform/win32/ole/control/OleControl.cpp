@@ -6,6 +6,21 @@
 
 namespace kel::win32::ole {
 
+namespace {
+
+constexpr int TwipsPerInch = 1440;
+constexpr int HimetricPerInch = 2540;  ///< hundredths of a millimetre
+
+SIZEL toHimetric(Size twips) {
+    return {MulDiv(twips.width, HimetricPerInch, TwipsPerInch), MulDiv(twips.height, HimetricPerInch, TwipsPerInch)};
+}
+
+Size fromHimetric(const SIZEL& size) {
+    return {MulDiv(size.cx, TwipsPerInch, HimetricPerInch), MulDiv(size.cy, TwipsPerInch, HimetricPerInch)};
+}
+
+}  // namespace
+
 OleControl::OleControl(Library& library, const ClassModel& model, const ClassIdentity& identity, IUnknown* outer)
     : ComObject(library.module(), outer),
       Library_(library),
@@ -14,18 +29,9 @@ OleControl::OleControl(Library& library, const ClassModel& model, const ClassIde
       System_(*this, library.system()),
       Activation_(*this),
       Connections_(*this, toGuid(identity.events)),
-      OleObject_(*this),
-      OleControl_(*this),
-      QuickActivate_(*this),
       ClassInfo_(*this, identity, library),
-      PropertyPages_(*this),
-      InPlaceObject_(*this),
-      ActiveObject_(*this),
-      View_(*this),
-      Data_(*this),
-      PersistBag_(*this),
-      PersistStream_(*this),
-      PersistStorage_(*this),
+      Parts_{makeEmbeddedPart(*this), makeKeysPart(*this), makeInPlacePart(*this), makePicturePart(*this),
+             makePersistPart(*this)},
       Window_(makeControlWindow(*this, System_)) {
     ControlHost host{*this, Window_->widgets(), System_, library.settings(), systemRegion()};
     Control_ = model.makeControl(host);
@@ -39,24 +45,10 @@ OleControl::~OleControl() {
 }
 
 void* OleControl::find(REFIID iid) {
-    void* found = nullptr;
-    const auto offer = [&](void* interfaceOfPart) {
-        if (found == nullptr) found = interfaceOfPart;
-        return found != nullptr;
-    };
-    static_cast<void>(offer(asOneOf<IOleObject>(iid, OleObject_)) || offer(asOneOf<IOleControl>(iid, OleControl_)) ||
-                      offer(asOneOf<IOleWindow, IOleInPlaceObject>(iid, InPlaceObject_)) ||
-                      offer(asOneOf<IOleInPlaceActiveObject>(iid, ActiveObject_)) ||
-                      offer(asOneOf<IViewObject, IViewObject2>(iid, View_)) ||
-                      offer(asOneOf<IDataObject>(iid, Data_)) ||
-                      offer(asOneOf<IPersist, IPersistStreamInit>(iid, PersistStream_)) ||
-                      offer(asOneOf<IPersistPropertyBag>(iid, PersistBag_)) ||
-                      offer(asOneOf<IPersistStorage>(iid, PersistStorage_)) ||
-                      offer(asOneOf<IConnectionPointContainer>(iid, Connections_)) ||
-                      offer(asOneOf<IProvideClassInfo, IProvideClassInfo2, ISupportErrorInfo>(iid, ClassInfo_)) ||
-                      offer(asOneOf<IQuickActivate>(iid, QuickActivate_)) ||
-                      offer(asOneOf<ISpecifyPropertyPages>(iid, PropertyPages_)));
-    return found;
+    for (const auto& part : Parts_)
+        if (void* const found = part->find(iid)) return found;
+    if (void* const found = asOneOf<IConnectionPointContainer>(iid, Connections_)) return found;
+    return ClassInfo_.find(iid);
 }
 
 // ---- Size
@@ -103,10 +95,9 @@ void OleControl::setSite(IOleClientSite* site) {
     Site_.set(site);
 }
 
-HRESULT OleControl::close(bool save) {
+void OleControl::close(bool save) {
     if (save && Dirty_) Site_.saveObject();
     Activation_.deactivate();
-    return S_OK;
 }
 
 void OleControl::freezeEvents(bool freeze) { FrozenDepth_ = std::max(0, FrozenDepth_ + (freeze ? 1 : -1)); }
@@ -171,7 +162,7 @@ void OleControl::passFocusOn() {
 }
 
 void OleControl::viewChanged() {
-    if (!Dying_ && !Activation_.inPlace()) View_.outOfDate();
+    if (!Dying_ && !Activation_.inPlace()) Viewer_.outOfDate();
 }
 
 void OleControl::mnemonicChanged() {

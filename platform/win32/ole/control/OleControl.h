@@ -1,28 +1,25 @@
 #pragma once
 
+#include <array>
 #include <functional>
 
 #include "host/Container.h"
 #include "library/Control.h"
+#include "platform/win32/base/TwipGrid.h"
 #include "platform/win32/control/ControlWindow.h"
 #include "platform/win32/ole/automation/Library.h"
 #include "platform/win32/ole/com/ConnectionPoints.h"
 #include "platform/win32/ole/control/Activation.h"
+#include "platform/win32/ole/control/ClassInfoPart.h"
+#include "platform/win32/ole/control/ClientSite.h"
 #include "platform/win32/ole/control/ControlParts.h"
 #include "platform/win32/ole/control/ControlSystem.h"
-#include "platform/win32/ole/control/InPlaceParts.h"
-#include "platform/win32/ole/control/PersistParts.h"
-#include "platform/win32/ole/control/ViewParts.h"
 
 namespace kel::win32::ole {
 
 /// A control as component hosts see it: the control itself, its window, its place in the host, and the
 /// parts through which the host works them. The dispatch interface comes with `ControlObject`.
-class OleControl : public ComObject,
-                   private Container,
-                   private ControlWindowOwner,
-                   private Activated,
-                   protected PutGate {
+class OleControl : public ComObject, private Container, private ControlWindowOwner, protected PutGate {
 public:
     OleControl(Library& library, const ClassModel& model, const ClassIdentity& identity, IUnknown* outer);
     ~OleControl() override;
@@ -33,15 +30,19 @@ public:
     const ClassModel& model() const { return Model_; }
     const ClassIdentity& identity() const { return Identity_; }
     Control& control() const { return *Control_; }
-    ControlWindow& window() override { return *Window_; }
-    ClientSite& site() override { return Site_; }
+    ControlWindow& window() const { return *Window_; }
+    ClientSite& site() { return Site_; }
     Activation& activation() { return Activation_; }
     ConnectionPointsPart& connections() { return Connections_; }
-    ViewPart& view() { return View_; }
+    Viewer& viewer() { return Viewer_; }
+
+    /// Of the screen.
+    TwipGrid grid() const { return TwipGrid(System_.twipsPerPixel()); }
 
     /// Twips; a usual size until the host gives one.
-    Size extent() const override { return Extent_; }
-    void takeExtent(Size twips) override;
+    Size extent() const { return Extent_; }
+    /// The control may take another one.
+    void takeExtent(Size twips);
 
     /// The same in hundredths of a millimetre; what the host gave comes back to the last digit.
     SIZEL himetricExtent() const;
@@ -56,7 +57,7 @@ public:
 
     void freezeEvents(bool freeze);
     void setSite(IOleClientSite* site);
-    HRESULT close(bool save);
+    void close(bool save);
 
 protected:
     void* find(REFIID iid) override;
@@ -85,11 +86,6 @@ private:
     void viewChanged() override;
     void mnemonicChanged() override;
 
-    // Activated
-    IOleInPlaceActiveObject& activeObject() override { return ActiveObject_; }
-    int twipsPerPixel() const override { return System_.twipsPerPixel(); }
-    void appeared() override { Control_->Show(); }
-
     enum class Birth { Made, Beginning, Begun };
 
     Library& Library_;
@@ -97,6 +93,7 @@ private:
     const ClassIdentity& Identity_;
     ControlSystem System_;
     ClientSite Site_;
+    Viewer Viewer_;
     Size Extent_{3600, 300};
     SIZEL Given_{0, 0};  ///< last size in hundredths of a millimetre
     bool HasExtent_ = false;
@@ -108,18 +105,8 @@ private:
     int FrozenDepth_ = 0;
     Activation Activation_;
     ConnectionPointsPart Connections_;
-    OleObjectPart OleObject_;
-    OleControlPart OleControl_;
-    QuickActivatePart QuickActivate_;
     ClassInfoPart ClassInfo_;
-    PropertyPagesPart PropertyPages_;
-    InPlaceObjectPart InPlaceObject_;
-    ActiveObjectPart ActiveObject_;
-    ViewPart View_;
-    DataPart Data_;
-    PersistBagPart PersistBag_;
-    PersistStreamPart PersistStream_;
-    PersistStoragePart PersistStorage_;
+    std::array<std::unique_ptr<ControlInterfaces>, 5> Parts_;
     std::unique_ptr<ControlWindow> Window_;
     std::unique_ptr<Control> Control_;  ///< last: it leans on all of the above
 };
