@@ -21,7 +21,7 @@ bool fitsParameters(const MemberRow& member, std::span<const Variant> arguments)
     return true;
 }
 
-DispatchFault run(Thunk thunk, DispatchFault::Kind missing, LibraryObject& object, const MemberRow& member,
+DispatchFault run(Thunk thunk, DispatchFault::Kind missing, Object& object, const MemberRow& member,
                   std::span<Variant> arguments, Variant* result, const RegionalSettings& region) {
     if (thunk == nullptr) return {missing};
     if (!fitsParameters(member, arguments)) return {DispatchFault::Kind::ArgumentCount};
@@ -59,20 +59,19 @@ const EventRow* findEvent(const ClassModel& model, std::u16string_view name) {
     return found == model.events.end() ? nullptr : &*found;
 }
 
-DispatchFault getMember(LibraryObject& object, const MemberRow& member, std::span<Variant> arguments, Variant& result,
+DispatchFault getMember(Object& object, const MemberRow& member, std::span<Variant> arguments, Variant& result,
                         const RegionalSettings& region) {
     return run(member.get, DispatchFault::Kind::NotReadable, object, member, arguments, &result, region);
 }
 
-DispatchFault putMember(LibraryObject& object, const MemberRow& member, const Variant& value,
-                        const RegionalSettings& region) {
+DispatchFault putMember(Object& object, const MemberRow& member, const Variant& value, const RegionalSettings& region) {
     if (member.put == nullptr) return {DispatchFault::Kind::NotWritable};
     if (isOmitted(value)) return {DispatchFault::Kind::ArgumentCount};
     Variant copy = value;
     return member.put(object, {&copy, 1}, nullptr, region);
 }
 
-DispatchFault callMember(LibraryObject& object, const MemberRow& member, std::span<Variant> arguments, Variant& result,
+DispatchFault callMember(Object& object, const MemberRow& member, std::span<Variant> arguments, Variant& result,
                          const RegionalSettings& region) {
     return run(member.call, DispatchFault::Kind::NotCallable, object, member, arguments, &result, region);
 }

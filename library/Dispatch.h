@@ -21,15 +21,14 @@ const MemberRow* findMember(const ClassModel& model, std::int32_t id);
 const EventRow* findEvent(const ClassModel& model, std::u16string_view name);
 
 /// Reads a property. By-reference arguments are written back into `arguments`.
-DispatchFault getMember(LibraryObject& object, const MemberRow& member, std::span<Variant> arguments, Variant& result,
+DispatchFault getMember(Object& object, const MemberRow& member, std::span<Variant> arguments, Variant& result,
                         const RegionalSettings& region);
 
 /// Puts a property. `value` is never changed, also when the put takes its argument by reference.
-DispatchFault putMember(LibraryObject& object, const MemberRow& member, const Variant& value,
-                        const RegionalSettings& region);
+DispatchFault putMember(Object& object, const MemberRow& member, const Variant& value, const RegionalSettings& region);
 
 /// Calls a method; `result` is left alone by methods without one.
-DispatchFault callMember(LibraryObject& object, const MemberRow& member, std::span<Variant> arguments, Variant& result,
+DispatchFault callMember(Object& object, const MemberRow& member, std::span<Variant> arguments, Variant& result,
                          const RegionalSettings& region);
 
 /// What went wrong, for a person: "KelText.CaptionWidth: a 16-bit integer is wanted, not "abc"".

@@ -2,7 +2,6 @@
 
 #include <new>
 
-#include "platform/win32/ole/com/ModuleFile.h"
 #include "platform/win32/ole/runtime/AutomationRuntime.h"
 
 namespace kel::win32::ole {

@@ -28,10 +28,11 @@ struct Outcome {
 /// table. Faults of the caller come back as an outcome, failures of a member are thrown.
 class MemberAccess {
 public:
-    /// `gate` may be null. Both outlive this.
-    MemberAccess(LibraryObject& object, PutGate* gate) : Object_(object), Gate_(gate) {}
+    /// `gate` may be null. All of them outlive this.
+    MemberAccess(Object& object, const ClassModel& model, PutGate* gate)
+        : Object_(object), Model_(model), Gate_(gate) {}
 
-    const ClassModel& model() const { return Object_.model(); }
+    const ClassModel& model() const { return Model_; }
     const MemberRow& row(std::size_t index) const { return model().members[index]; }
 
     Outcome get(const MemberRow& member, std::span<Variant> arguments, Variant& result) const;
@@ -42,7 +43,8 @@ public:
 private:
     Outcome outcome(DispatchFault fault, const MemberRow& member, std::span<const Variant> arguments) const;
 
-    LibraryObject& Object_;
+    Object& Object_;
+    const ClassModel& Model_;
     PutGate* Gate_;
 };
 

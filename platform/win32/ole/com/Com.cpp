@@ -4,6 +4,7 @@
 #include <new>
 
 #include "library/AutomationError.h"
+#include "platform/win32/base/WindowClass.h"
 
 namespace kel::win32::ole {
 
@@ -18,6 +19,18 @@ BSTR makeBstr(std::u16string_view text) {
     if (made == nullptr) throw std::bad_alloc();
     std::copy(text.begin(), text.end(), made);
     return made;
+}
+
+std::wstring moduleFile() {
+    std::wstring path(MAX_PATH, L'\0');
+    for (;;) {
+        const DWORD units = GetModuleFileNameW(thisModule(), path.data(), static_cast<DWORD>(path.size()));
+        if (units < path.size()) {
+            path.resize(units);
+            return path;
+        }
+        path.resize(path.size() * 2);
+    }
 }
 
 void check(HRESULT result, const char* what) {

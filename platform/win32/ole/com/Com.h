@@ -87,6 +87,9 @@ inline std::u16string textOf(BSTR text) {
 /// A new BSTR, the caller's to free. Throws std::bad_alloc.
 BSTR makeBstr(std::u16string_view text);
 
+/// The file that this code was loaded from.
+std::wstring moduleFile();
+
 /// Throws AutomationError with this code when it is a failure.
 void check(HRESULT result, const char* what);
 

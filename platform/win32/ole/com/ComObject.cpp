@@ -28,4 +28,10 @@ ULONG ComObject::Inner::Release() noexcept {
     return left;
 }
 
+HRESULT giveNew(ComObject* made, REFIID iid, void** out) {
+    const HRESULT result = made->inner().QueryInterface(iid, out);
+    made->inner().Release();
+    return result;
+}
+
 }  // namespace kel::win32::ole

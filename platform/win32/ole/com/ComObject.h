@@ -56,6 +56,9 @@ private:
     IUnknown* Outer_;  ///< not counted: it holds this object, or is it
 };
 
+/// Hands over a new object, with its maker's reference, as the interface of this identifier.
+HRESULT giveNew(ComObject* made, REFIID iid, void** out);
+
 /// Some interfaces of an object. `Interfaces` derive from IUnknown in different ways.
 template <class... Interfaces>
 class Part : public Interfaces... {

@@ -70,10 +70,10 @@ void writeProgramIds(const Key& classes, const ClassEntry& entry) {
     independent.sub(L"CurVer").set(versioned(entry));
 }
 
-void writeControl(const Key& key, const ClassEntry& entry, const std::wstring& file) {
+void writeControl(const Key& key, const ClassEntry& entry) {
     key.sub(L"Control");
     key.sub(L"MiscStatus").set(L"0").sub(L"1").set(std::to_wstring(entry.miscStatus));
-    key.sub(L"ToolboxBitmap32").set(file + L", " + std::to_wstring(entry.toolboxPicture));
+    key.sub(L"ToolboxBitmap32").set(moduleFile() + L", " + std::to_wstring(entry.toolboxPicture));
     key.sub(L"Implemented Categories").sub(ControlCategory);
 }
 
@@ -81,12 +81,12 @@ void writeClass(const Key& classes, const ClassEntry& entry, const LibraryEntry&
     writeProgramIds(classes, entry);
     const Key key = classes.sub(L"CLSID\\" + textOf(entry.clsid));
     key.set(entry.description);
-    key.sub(L"InprocServer32").set(library.file).set(L"ThreadingModel", L"Apartment");
+    key.sub(L"InprocServer32").set(moduleFile()).set(L"ThreadingModel", L"Apartment");
     key.sub(L"ProgID").set(versioned(entry));
     key.sub(L"VersionIndependentProgID").set(entry.programId);
     key.sub(L"Programmable");
     key.sub(L"Implemented Categories").sub(AutomationCategory);
-    if (entry.isControl) writeControl(key, entry, library.file);
+    if (entry.isControl) writeControl(key, entry);
     if (!library.hasTypeLibrary) return;
     key.sub(L"TypeLib").set(textOf(library.typeLibrary));
     key.sub(L"Version").set(std::to_wstring(library.major) + L"." + std::to_wstring(library.minor));
@@ -103,11 +103,11 @@ Function* automationFunction(const char* name) {
     return reinterpret_cast<Function*>(reinterpret_cast<void*>(found));
 }
 
-void writeTypeLibrary(const LibraryEntry& library, Scope scope) {
+void writeTypeLibrary(Scope scope) {
+    std::wstring file = moduleFile();
     ComPtr<ITypeLib> types;
-    check(LoadTypeLibEx(library.file.c_str(), REGKIND_NONE, types.receive()), "the type library cannot be read");
-    std::wstring file = library.file;
-    std::wstring folder = folderOf(library.file);
+    check(LoadTypeLibEx(file.c_str(), REGKIND_NONE, types.receive()), "the type library cannot be read");
+    std::wstring folder = folderOf(file);
     auto* const registerTypes = scope == Scope::Machine
                                     ? &RegisterTypeLib
                                     : automationFunction<decltype(RegisterTypeLib)>("RegisterTypeLibForUser");
@@ -128,7 +128,7 @@ void registerLibrary(const LibraryEntry& library, Scope scope) {
     try {
         const Key classes = Key::classes(scope);
         for (const ClassEntry& entry : library.classes) writeClass(classes, entry, library);
-        if (library.hasTypeLibrary) writeTypeLibrary(library, scope);
+        if (library.hasTypeLibrary) writeTypeLibrary(scope);
     } catch (...) {
         unregisterLibrary(library, scope);
         throw;

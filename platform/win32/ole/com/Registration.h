@@ -20,8 +20,8 @@ struct ClassEntry {
     int toolboxPicture = 0;  ///< resource number, 0 for none
 };
 
+/// What it is told of the server, which is this file.
 struct LibraryEntry {
-    std::wstring file;
     bool hasTypeLibrary = false;
     GUID typeLibrary{};
     WORD major = 0;

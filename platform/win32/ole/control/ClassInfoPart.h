@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/win32/ole/automation/DualPart.h"
+#include "library/Identities.h"
+#include "platform/win32/ole/automation/DispatchPart.h"
 
 namespace kel::win32::ole {
 

@@ -18,7 +18,7 @@ public:
     PlainObject(Library& library, const ClassModel& model, const ClassIdentity& identity, IUnknown* outer)
         : ComObject(library.module(), outer),
           Object_(model.makeObject(library.settings())),
-          Dual_(*this, static_cast<LibraryObject&>(*Object_), nullptr, library),
+          Dual_(*this, *Object_, model, nullptr, &library),
           ClassInfo_(*this, identity, library) {}
 
 protected:

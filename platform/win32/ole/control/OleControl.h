@@ -116,7 +116,7 @@ template <class Dual, class Interface>
 class ControlObject final : public OleControl {
 public:
     ControlObject(Library& library, const ClassModel& model, const ClassIdentity& identity, IUnknown* outer)
-        : OleControl(library, model, identity, outer), Dual_(*this, control(), this, library) {}
+        : OleControl(library, model, identity, outer), Dual_(*this, control(), model, this, &library) {}
 
 protected:
     void* find(REFIID iid) override {

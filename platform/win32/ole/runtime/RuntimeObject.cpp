@@ -1,10 +1,66 @@
 #include "platform/win32/ole/runtime/RuntimeObject.h"
 
+#include "platform/win32/ole/automation/DispatchCaller.h"
 #include "platform/win32/ole/automation/DispatchPart.h"
 
 namespace kel::win32::ole {
 
 namespace {
+
+constexpr MemberRow DatesMembers[] = {
+    method<&RuntimeDates::NumberFromValue>(u"NumberFromValue", 1, u"A value or a text as a rounded number")
+        .arguments(u"Value", u"Decimals"),
+    method<&RuntimeDates::RoundNumber>(u"RoundNumber", 2, u"A number rounded to some decimals")
+        .arguments(u"Number", u"Decimals"),
+    method<&RuntimeDates::ParseDate>(u"ParseDate", 3, u"A text as a date in a field's format, or Null")
+        .arguments(u"Text", u"Format", u"DefaultDate", u"BirthDay"),
+    method<&RuntimeDates::LastDayOfMonth>(u"LastDayOfMonth", 4, u"The last day of a date's month").arguments(u"Date"),
+    method<&RuntimeDates::ParseTime>(u"ParseTime", 5, u"A text as a time, or Null").arguments(u"Text"),
+};
+
+constinit const ClassModel DatesModel{
+    .name = u"RuntimeDates", .help = u"Conversions of numbers, dates and times", .members = DatesMembers};
+
+/// The conversions, as an object of their own.
+class DatesObject final : public Object, public AutomationObject {
+public:
+    DatesObject(Module& module, std::shared_ptr<RuntimeDates> dates) : Module_(module), Dates_(std::move(dates)) {}
+
+    ComPtr<IDispatch> dispatch() override {
+        ComPtr<IDispatch> made;
+        giveNew(new DispatchObject(Module_, Dates_, DatesModel, nullptr), IID_IDispatch, made.receiveVoid());
+        return made;
+    }
+
+private:
+    Module& Module_;
+    std::shared_ptr<RuntimeDates> Dates_;
+};
+
+class RuntimeObject final : public Object {
+public:
+    RuntimeObject(Module& module, std::shared_ptr<Runtime> runtime) : Module_(module), Runtime_(std::move(runtime)) {}
+
+    std::int32_t ColorDepth() { return Runtime_->ColorDepth(); }
+    std::u16string DecimalSeparator() { return Runtime_->DecimalSeparator(); }
+    std::int16_t DecimalDigits() { return Runtime_->DecimalDigits(); }
+    std::u16string CaptionFontName() { return Runtime_->CaptionFontName(); }
+    double CaptionFontSize() { return Runtime_->CaptionFontSize(); }
+    std::u16string FieldFontName() { return Runtime_->FieldFontName(); }
+    double FieldFontSize() { return Runtime_->FieldFontSize(); }
+    void SendKey(std::int16_t keyCode) { Runtime_->SendKey(keyCode); }
+    ObjectPtr RuntimeDates() { return std::make_shared<DatesObject>(Module_, Runtime_->RuntimeDates()); }
+    std::u16string ListAppend(const std::u16string& list, const std::u16string& item) {
+        return Runtime_->ListAppend(list, item);
+    }
+    std::u16string ReadField(const std::u16string& text, std::int32_t& position, std::int16_t separator) {
+        return Runtime_->ReadField(text, position, separator);
+    }
+
+private:
+    Module& Module_;
+    std::shared_ptr<Runtime> Runtime_;
+};
 
 constexpr MemberRow Members[] = {
     property<&RuntimeObject::ColorDepth>(u"ColorDepth", 1, u"Bits per pixel of the display"),
@@ -21,49 +77,13 @@ constexpr MemberRow Members[] = {
     property<&RuntimeObject::RuntimeDates>(u"RuntimeDates", 11, u"Conversions of numbers, dates and times"),
 };
 
-constexpr MemberRow DatesMembers[] = {
-    method<&RuntimeDatesObject::NumberFromValue>(u"NumberFromValue", 1, u"A value or a text as a rounded number")
-        .arguments(u"Value", u"Decimals"),
-    method<&RuntimeDatesObject::RoundNumber>(u"RoundNumber", 2, u"A number rounded to some decimals")
-        .arguments(u"Number", u"Decimals"),
-    method<&RuntimeDatesObject::ParseDate>(u"ParseDate", 3, u"A text as a date in a field's format, or Null")
-        .arguments(u"Text", u"Format", u"DefaultDate", u"BirthDay"),
-    method<&RuntimeDatesObject::LastDayOfMonth>(u"LastDayOfMonth", 4, u"The last day of a date's month")
-        .arguments(u"Date"),
-    method<&RuntimeDatesObject::ParseTime>(u"ParseTime", 5, u"A text as a time, or Null").arguments(u"Text"),
-};
-
-constinit const ClassModel DatesModel{
-    .name = u"RuntimeDates", .help = u"Conversions of numbers, dates and times", .members = DatesMembers};
-
-/// The conversions as hosts hold them.
-class DatesComObject final : public ComObject {
-public:
-    DatesComObject(Module& module, std::shared_ptr<RuntimeDatesObject> dates)
-        : ComObject(module, nullptr), Dates_(std::move(dates)), Dispatch_(*this, *Dates_) {}
-
-protected:
-    void* find(REFIID iid) override { return asOneOf<IDispatch>(iid, Dispatch_); }
-
-private:
-    std::shared_ptr<RuntimeDatesObject> Dates_;
-    DispatchPart Dispatch_;
-};
-
 constinit const ClassModel RuntimeModel{
     .name = u"Runtime", .help = u"Regional settings, fonts and lists", .members = Members};
 
 }  // namespace
 
-const ClassModel& RuntimeObject::model() const { return RuntimeModel; }
-
-const ClassModel& RuntimeDatesObject::model() const { return DatesModel; }
-
-ComPtr<IDispatch> RuntimeDatesObject::dispatch() {
-    auto* const made = new DatesComObject(Module_, shared_from_this());
-    auto found = ComPtr<IDispatch>::of(&made->inner());
-    made->inner().Release();
-    return found;
+ComObject* makeRuntimeObject(Module& module, std::shared_ptr<Runtime> runtime, IUnknown* outer) {
+    return new DispatchObject(module, std::make_shared<RuntimeObject>(module, std::move(runtime)), RuntimeModel, outer);
 }
 
 }  // namespace kel::win32::ole
