@@ -46,7 +46,8 @@ void Font::rescale(const TwipGrid& grid) {
 
 TEXTMETRICW Font::metrics(HWND window) const {
     const WindowContext context(window);
-    const Selected selected(context.get(), handle());
+    const SavedContext saved(context.get());
+    SelectObject(context.get(), handle());
     TEXTMETRICW metrics{};
     GetTextMetricsW(context.get(), &metrics);
     return metrics;

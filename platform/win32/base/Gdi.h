@@ -50,20 +50,7 @@ private:
     double Points_ = 0;
 };
 
-/// Selects an object for as long as it lives.
-class Selected {
-public:
-    Selected(HDC context, HGDIOBJ object) : Context_(context), Before_(SelectObject(context, object)) {}
-    ~Selected() { SelectObject(Context_, Before_); }
-    Selected(const Selected&) = delete;
-    Selected& operator=(const Selected&) = delete;
-
-private:
-    HDC Context_;
-    HGDIOBJ Before_;
-};
-
-/// The device context of a window for measuring.
+/// The device context of a window, or with nullptr of the screen, for measuring.
 class WindowContext {
 public:
     explicit WindowContext(HWND window) : Window_(window), Context_(GetDC(window)) {}
@@ -78,7 +65,7 @@ private:
     HDC Context_;
 };
 
-/// Keeps clip, colours and fonts of a context as they were.
+/// Keeps clip, colours and what is selected into a context as they were.
 class SavedContext {
 public:
     explicit SavedContext(HDC context) : Context_(context), Level_(SaveDC(context)) {}

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "platform/win32/base/AtEnd.h"
 #include "platform/win32/base/Picture.h"
 #include "platform/win32/base/Session.h"
 #include "platform/win32/home/Win32FormWindow.h"
@@ -35,22 +36,6 @@ private:
     static constexpr std::size_t KeyCount = 256;
     static constexpr BYTE Down = 0x80;
     BYTE Before_[KeyCount]{};
-};
-
-/// Closes menus as soon as they open, while it lives: it ticks within the menu's own loop.
-class MenuCloser {
-public:
-    explicit MenuCloser(HWND form) : Form_(form) {
-        constexpr UINT Period = 10;  // milliseconds
-        SetTimer(Form_, Timer, Period, nullptr);
-    }
-    ~MenuCloser() { KillTimer(Form_, Timer); }
-    MenuCloser(const MenuCloser&) = delete;
-    MenuCloser& operator=(const MenuCloser&) = delete;
-
-private:
-    static constexpr UINT_PTR Timer = 1;
-    HWND Form_;
 };
 
 LPARAM keyData(std::int16_t code, bool alt, bool up) {
@@ -164,7 +149,11 @@ void Win32FormWindow::rightClick(PlacedControl& control) {
     focus(control);
     HWND const field = static_cast<PlacedWin32Control&>(control).focusWindow();
     if (field == nullptr) return;
-    const MenuCloser closer(Window_);
+    // Closes the menu as soon as it opens: it ticks within the menu's own loop.
+    constexpr UINT_PTR Timer = 1;
+    constexpr UINT Period = 10;  // milliseconds
+    SetTimer(Window_, Timer, Period, nullptr);
+    const AtEnd stop([&] { KillTimer(Window_, Timer); });
     const POINT place = centerOf(field);
     postMouse(field, WM_RBUTTONDOWN, MK_RBUTTON, place);
     postMouse(field, WM_RBUTTONUP, 0, place);

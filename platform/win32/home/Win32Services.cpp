@@ -6,6 +6,7 @@
 #include <array>
 #include <cmath>
 
+#include "platform/win32/base/Gdi.h"
 #include "platform/win32/base/MessageBox.h"
 #include "platform/win32/base/WideText.h"
 #include "platform/win32/home/Win32Region.h"
@@ -18,19 +19,8 @@ namespace {
 constexpr int TwipsPerInch = 1440;
 constexpr int PointsPerInch = 72;
 
-/// The screen, asked for its measures.
-class ScreenContext {
-public:
-    ScreenContext() = default;
-    ~ScreenContext() { ReleaseDC(nullptr, Context_); }
-    ScreenContext(const ScreenContext&) = delete;
-    ScreenContext& operator=(const ScreenContext&) = delete;
-
-    int measure(int what) const { return GetDeviceCaps(Context_, what); }
-
-private:
-    HDC Context_ = GetDC(nullptr);
-};
+/// A measure of the screen.
+int measure(int what) { return GetDeviceCaps(WindowContext(nullptr).get(), what); }
 
 SYSTEMTIME now() {
     SYSTEMTIME time{};
@@ -68,14 +58,11 @@ void Win32System::beep() { MessageBeep(MB_OK); }
 bool Win32System::tabKeyDown() const { return GetKeyState(VK_TAB) < 0; }
 
 std::int32_t Win32System::twipsPerPixel() const {
-    const int dotsPerInch = ScreenContext().measure(LOGPIXELSX);
+    const int dotsPerInch = measure(LOGPIXELSX);
     return dotsPerInch > 0 ? std::max(1, (TwipsPerInch + dotsPerInch / 2) / dotsPerInch) : 15;
 }
 
-std::int32_t Win32RuntimeServices::colorDepth() const {
-    const ScreenContext screen;
-    return screen.measure(BITSPIXEL) * screen.measure(PLANES);
-}
+std::int32_t Win32RuntimeServices::colorDepth() const { return measure(BITSPIXEL) * measure(PLANES); }
 
 const RegionalSettings& Win32RuntimeServices::region() const { return systemRegion(); }
 
@@ -83,7 +70,7 @@ FontChoice Win32RuntimeServices::messageFont() {
     NONCLIENTMETRICSW metrics{};
     metrics.cbSize = sizeof metrics;
     if (SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0) == FALSE) return {u"Tahoma", 8};
-    const int dotsPerInch = std::max(1, ScreenContext().measure(LOGPIXELSY));
+    const int dotsPerInch = std::max(1, measure(LOGPIXELSY));
     const double points = std::abs(metrics.lfMessageFont.lfHeight) * static_cast<double>(PointsPerInch) / dotsPerInch;
     return {unwiden(metrics.lfMessageFont.lfFaceName), std::round(points * 4) / 4};
 }

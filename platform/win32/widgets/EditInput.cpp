@@ -5,6 +5,7 @@
 
 #include <algorithm>
 
+#include "platform/win32/base/AtEnd.h"
 #include "platform/win32/base/WideText.h"
 #include "platform/win32/widgets/EditInput.h"
 #include "values/Text.h"
@@ -31,22 +32,6 @@ EditAction actionOf(UINT message) {
         default: return EditAction::None;
     }
 }
-
-class InputContext {
-public:
-    explicit InputContext(HWND window) : Window_(window), Context_(ImmGetContext(window)) {}
-    ~InputContext() {
-        if (Context_ != nullptr) ImmReleaseContext(Window_, Context_);
-    }
-    InputContext(const InputContext&) = delete;
-    InputContext& operator=(const InputContext&) = delete;
-
-    HIMC get() const { return Context_; }
-
-private:
-    HWND Window_;
-    HIMC Context_;
-};
 
 }  // namespace
 
@@ -208,28 +193,26 @@ EditInput::Answer EditInput::handleInputMethod(UINT message, WPARAM wide, LPARAM
 }
 
 void EditInput::placeInputMethod() const {
-    const InputContext context(window());
-    if (context.get() == nullptr) return;
+    HIMC const context = ImmGetContext(window());
+    if (context == nullptr) return;
+    const AtEnd release([&] { ImmReleaseContext(window(), context); });
     COMPOSITIONFORM place{};
     place.dwStyle = CFS_POINT;
     GetCaretPos(&place.ptCurrentPos);
-    ImmSetCompositionWindow(context.get(), &place);
+    ImmSetCompositionWindow(context, &place);
     LOGFONTW description{};
     if (GetObjectW(reinterpret_cast<HFONT>(View_.base(WM_GETFONT)), sizeof description, &description) != 0)
-        ImmSetCompositionFontW(context.get(), &description);
+        ImmSetCompositionFontW(context, &description);
 }
 
 void EditInput::takeCommitted() {
-    std::wstring text;
-    {
-        const InputContext context(window());
-        if (context.get() == nullptr) return;
-        const LONG bytes = ImmGetCompositionStringW(context.get(), GCS_RESULTSTR, nullptr, 0);
-        if (bytes <= 0) return;
-        text.resize(static_cast<std::size_t>(bytes) / sizeof(wchar_t));
-        ImmGetCompositionStringW(context.get(), GCS_RESULTSTR, text.data(), static_cast<DWORD>(bytes));
-    }
-    Entry_.typeCommitted(unwiden(text));
+    HIMC const context = ImmGetContext(window());
+    if (context == nullptr) return;
+    const LONG bytes = std::max(ImmGetCompositionStringW(context, GCS_RESULTSTR, nullptr, 0), LONG{0});
+    std::wstring text(static_cast<std::size_t>(bytes) / sizeof(wchar_t), L'\0');
+    ImmGetCompositionStringW(context, GCS_RESULTSTR, text.data(), static_cast<DWORD>(bytes));
+    ImmReleaseContext(window(), context);
+    if (!text.empty()) Entry_.typeCommitted(unwiden(text));
 }
 
 // ---- Mouse

@@ -80,7 +80,8 @@ void Win32PictureBox::showToolTip() {
 
 Size Win32PictureBox::extentOf(std::u16string_view text) const {
     const WindowContext context(window());
-    const Selected selected(context.get(), Font_.handle());
+    const SavedContext saved(context.get());
+    SelectObject(context.get(), Font_.handle());
     const std::wstring units = wide(text);
     SIZE size{};
     GetTextExtentPoint32W(context.get(), units.c_str(), static_cast<int>(units.size()), &size);

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "library/AutomationError.h"
+#include "platform/win32/base/AtEnd.h"
 #include "platform/win32/ole/automation/VariantConversion.h"
 #include "values/Text.h"
 
@@ -12,33 +13,13 @@ namespace kel::win32::ole {
 
 namespace {
 
-/// What an object says about its failure.
-class ExceptionInfo {
-public:
-    ExceptionInfo() = default;
-    ~ExceptionInfo() {
-        SysFreeString(Info_.bstrSource);
-        SysFreeString(Info_.bstrDescription);
-        SysFreeString(Info_.bstrHelpFile);
-    }
-    ExceptionInfo(const ExceptionInfo&) = delete;
-    ExceptionInfo& operator=(const ExceptionInfo&) = delete;
-
-    EXCEPINFO* get() { return &Info_; }
-
-    [[noreturn]] void raise() {
-        if (Info_.pfnDeferredFillIn != nullptr) Info_.pfnDeferredFillIn(&Info_);
-        throw AutomationError(code(), toUtf8(textOf(Info_.bstrDescription)));
-    }
-
-private:
-    HRESULT code() const {
-        if (Info_.scode != 0) return Info_.scode;
-        return MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, Info_.wCode);
-    }
-
-    EXCEPINFO Info_{};
-};
+/// The failure that the object describes.
+[[noreturn]] void raise(EXCEPINFO& exception) {
+    if (exception.pfnDeferredFillIn != nullptr) exception.pfnDeferredFillIn(&exception);
+    const HRESULT code =
+        exception.scode != 0 ? exception.scode : MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, exception.wCode);
+    throw AutomationError(code, toUtf8(textOf(exception.bstrDescription)));
+}
 
 [[noreturn]] void raise(HRESULT code, std::u16string_view name) {
     throw AutomationError(code, "the run-time object's " + toUtf8(name) + " failed");
@@ -84,8 +65,9 @@ DISPID DispatchCaller::idOf(std::u16string_view name) const {
     HRESULT result = Object_->GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id);
     if (FAILED(result)) {
         if (const auto script = ComPtr<IDispatchEx>::of(Object_.get())) {
-            const OwnedBstr bstr(name);
-            result = script->GetDispID(bstr.get(), fdexNameCaseInsensitive, &id);
+            OwnedVariant bstr;
+            toAutomation(std::u16string(name), *bstr);
+            result = script->GetDispID(bstr->bstrVal, fdexNameCaseInsensitive, &id);
         }
     }
     if (FAILED(result) || id == DISPID_UNKNOWN)
@@ -95,10 +77,15 @@ DISPID DispatchCaller::idOf(std::u16string_view name) const {
 
 HRESULT DispatchCaller::invoke(DISPID id, WORD flags, DISPPARAMS& arguments, VARIANT* result,
                                std::u16string_view name) const {
-    ExceptionInfo info;
+    EXCEPINFO exception{};
+    const AtEnd freeTexts([&] {
+        SysFreeString(exception.bstrSource);
+        SysFreeString(exception.bstrDescription);
+        SysFreeString(exception.bstrHelpFile);
+    });
     const HRESULT outcome =
-        Object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &arguments, result, info.get(), nullptr);
-    if (outcome == DISP_E_EXCEPTION) info.raise();
+        Object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &arguments, result, &exception, nullptr);
+    if (outcome == DISP_E_EXCEPTION) raise(exception);
     if (FAILED(outcome)) raise(outcome, name);
     return outcome;
 }

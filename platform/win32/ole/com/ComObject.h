@@ -78,7 +78,7 @@ protected:
     /// Runs the body of a method; the object outlives it, whatever the host does meanwhile.
     template <class Body>
     HRESULT guarded(Body&& body) noexcept {
-        const Hold hold(Whole_.outer());
+        const ComPtr<IUnknown> held(&Whole_.outer());
         return atEdge(std::forward<Body>(body));
     }
 

@@ -51,7 +51,7 @@ HRESULT ConnectionPoint::GetConnectionPointContainer(IConnectionPointContainer**
 HRESULT ConnectionPoint::Advise(IUnknown* sink, DWORD* cookie) noexcept {
     if (sink == nullptr || cookie == nullptr) return E_POINTER;
     *cookie = 0;
-    const Hold hold(Whole_.outer());
+    const ComPtr<IUnknown> held(&Whole_.outer());
     return atEdge([&] {
         ComPtr<IUnknown> accepted = accept(*sink);
         if (!accepted) return CONNECT_E_CANNOTCONNECT;
@@ -64,7 +64,7 @@ HRESULT ConnectionPoint::Advise(IUnknown* sink, DWORD* cookie) noexcept {
 }
 
 HRESULT ConnectionPoint::Unadvise(DWORD cookie) noexcept {
-    const Hold hold(Whole_.outer());
+    const ComPtr<IUnknown> held(&Whole_.outer());
     return atEdge([&] {
         auto changed = std::make_shared<std::vector<Sink>>(*Sinks_);
         if (std::erase_if(*changed, [cookie](const Sink& sink) { return sink.cookie == cookie; }) == 0)

@@ -1,5 +1,6 @@
 #include "platform/win32/ole/control/Activation.h"
 
+#include "host/DepthGuard.h"
 #include "platform/win32/ole/control/OleControl.h"
 
 namespace kel::win32::ole {
@@ -8,24 +9,12 @@ namespace {
 
 constexpr wchar_t ObjectName[] = L"KelControls8";
 
-/// Sets a flag while it lives.
-class Flag {
-public:
-    explicit Flag(bool& flag) : Flag_(flag) { Flag_ = true; }
-    ~Flag() { Flag_ = false; }
-    Flag(const Flag&) = delete;
-    Flag& operator=(const Flag&) = delete;
-
-private:
-    bool& Flag_;
-};
-
 }  // namespace
 
 HRESULT Activation::activate() {
     if (inPlace()) return S_OK;
-    if (Busy_) return E_UNEXPECTED;
-    const Flag busy(Busy_);
+    if (Entering_ > 0) return E_UNEXPECTED;
+    const DepthGuard entering(Entering_);
     const HRESULT asked = askSite();
     if (FAILED(asked)) return asked;
     const HRESULT entered = enterWindow();
@@ -116,11 +105,11 @@ HRESULT Activation::setRects(const RECT& bounds, const RECT& clip) {
     if (!inPlace()) return E_UNEXPECTED;
     Bounds_ = bounds;
     Clip_ = clip;
-    if (Placing_) {
+    if (Placing_ > 0) {
         place();
         return S_OK;
     }
-    const Flag placing(Placing_);
+    const DepthGuard placing(Placing_);
     const TwipGrid grid = Control_.grid();
     Control_.takeExtent({grid.twips(widthOf(bounds)), grid.twips(heightOf(bounds))});
     applyExtent();
@@ -128,8 +117,8 @@ HRESULT Activation::setRects(const RECT& bounds, const RECT& clip) {
 }
 
 void Activation::extentChanged() {
-    if (!inPlace() || Placing_) return;
-    const Flag placing(Placing_);
+    if (!inPlace() || Placing_ > 0) return;
+    const DepthGuard placing(Placing_);
     applyExtent();
 }
 

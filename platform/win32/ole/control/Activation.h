@@ -39,8 +39,8 @@ private:
 
     OleControl& Control_;
     State State_ = State::Passive;
-    bool Busy_ = false;     ///< on the way into the host's window
-    bool Placing_ = false;  ///< the host is giving the control a size, or being told of one
+    std::int16_t Entering_ = 0;  ///< above 0 on the way into the host's window
+    std::int16_t Placing_ = 0;   ///< above 0 while the host gives the control a size or is told of one
     ComPtr<IOleInPlaceSite> Site_;
     ComPtr<IOleInPlaceFrame> Frame_;
     ComPtr<IOleInPlaceUIWindow> Document_;

@@ -125,7 +125,7 @@ bool OleControl::mayPut(const MemberRow& member) {
 
 void OleControl::raiseEvent(const EventRow& event, std::span<Variant> arguments) {
     if (FrozenDepth_ > 0 || Dying_) return;
-    const Hold hold(outer());
+    const ComPtr<IUnknown> held(&outer());
     Connections_.Events.raise(event, arguments);
 }
 
