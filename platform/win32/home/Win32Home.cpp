@@ -7,7 +7,6 @@
 #include "platform/win32/base/MessageBox.h"
 #include "platform/win32/base/Session.h"
 #include "platform/win32/home/Win32FormWindow.h"
-#include "platform/win32/home/Win32Region.h"
 #include "platform/win32/home/Win32Services.h"
 #include "runtime/KelRuntime.h"
 
@@ -16,23 +15,19 @@ namespace kel::win32 {
 namespace {
 
 /// The machine's, but for the Tab key, which counts as down while it moves the focus and no longer.
-class HomeSystem final : public System {
+class HomeSystem final : public Win32System {
 public:
     HomeSystem(const HomeOptions& options, const Session& session)
         : Session_(session),
-          TwipsPerPixel_(options.twipsPerPixel > 0 ? options.twipsPerPixel : Machine_.twipsPerPixel()) {}
+          TwipsPerPixel_(options.twipsPerPixel > 0 ? options.twipsPerPixel : Win32System::twipsPerPixel()) {}
 
-    Date today() const override { return Machine_.today(); }
-    double timer() const override { return Machine_.timer(); }
     void messageBox(std::u16string_view prompt, std::int32_t style, std::u16string_view title) override {
         showMessageBox(Session_.activeWindow(), prompt, style, title);
     }
-    void beep() override { Machine_.beep(); }
     bool tabKeyDown() const override { return Session_.tabHeld(); }
     std::int32_t twipsPerPixel() const override { return TwipsPerPixel_; }
 
 private:
-    Win32System Machine_;
     const Session& Session_;
     std::int32_t TwipsPerPixel_;
 };
@@ -43,7 +38,7 @@ public:
         : Session_(session), Region_(options.region), ColorDepth_(options.colorDepth) {}
 
     std::int32_t colorDepth() const override { return ColorDepth_ > 0 ? ColorDepth_ : Machine_.colorDepth(); }
-    const RegionalSettings& region() const override { return Region_ != nullptr ? *Region_ : systemRegion(); }
+    const RegionalSettings& region() const override { return Region_ != nullptr ? *Region_ : Machine_.region(); }
     FontChoice captionFont() const override { return Machine_.captionFont(); }
     FontChoice fieldFont() const override { return Machine_.fieldFont(); }
     void sendKey(std::int16_t keyCode) override { Session_.send(keyCode); }

@@ -6,8 +6,9 @@
 namespace kel::win32 {
 
 /// Clock, message boxes and keyboard of the machine.
-class Win32System final : public System {
+class Win32System : public System {
 public:
+    virtual ~Win32System() = default;
     Date today() const override;
     double timer() const override;
     void messageBox(std::u16string_view prompt, std::int32_t style, std::u16string_view title) override;

@@ -15,7 +15,6 @@ public:
     Library& operator=(const Library&) = delete;
 
     Module& module() { return Module_; }
-    System& system() { return System_; }
     SharedSettings& settings() { return Settings_; }
 
     /// The type library that the file itself holds.
@@ -30,7 +29,6 @@ private:
     Library();
 
     Module Module_;
-    Win32System System_;
     Win32RuntimeServices Services_;
     SharedSettings Settings_;
     ComPtr<ITypeLib> TypeLibrary_;

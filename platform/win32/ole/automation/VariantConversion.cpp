@@ -1,8 +1,10 @@
 #include "platform/win32/ole/automation/VariantConversion.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "library/AutomationError.h"
+#include "platform/win32/base/AtEnd.h"
 #include "platform/win32/home/Win32Region.h"
 #include "platform/win32/ole/runtime/AutomationRuntime.h"
 #include "values/Coercion.h"
@@ -41,17 +43,12 @@ Variant objectOf(IUnknown* object) {
     return dispatch ? ObjectPtr(std::make_shared<AutomationRuntime>(std::move(dispatch))) : ObjectPtr();
 }
 
-Variant dereferenced(const VARIANT& in) {
-    OwnedVariant value;
-    check(VariantCopyInd(value.get(), const_cast<VARIANT*>(&in)), "the reference cannot be followed");
-    return fromAutomation(*value);
+void copyFollowing(const VARIANT& in, VARIANT& out) {
+    check(VariantCopyInd(&out, const_cast<VARIANT*>(&in)), "the reference cannot be followed");
 }
 
 void defaultProperty(const VARIANT& in, VARIANT& out, int depth) {
-    if (in.vt != VT_DISPATCH) {
-        check(VariantCopyInd(&out, const_cast<VARIANT*>(&in)), "the value cannot be copied");
-        return;
-    }
+    if (in.vt != VT_DISPATCH) return copyFollowing(in, out);
     if (in.pdispVal == nullptr || depth == 0) mismatch();
     OwnedVariant value;
     DISPPARAMS none{};
@@ -84,38 +81,30 @@ bool isObject(const VARIANT& in) {
     return (in.vt & VT_TYPEMASK) == VT_DISPATCH && (in.vt & VT_ARRAY) == 0;
 }
 
-void storeObject(IUnknown** slot, IUnknown* object) {
-    if (object != nullptr) object->AddRef();
-    IUnknown* const old = std::exchange(*slot, object);
-    if (old != nullptr) old->Release();
-}
-
-/// Moves what `value` holds, already of the slot's type, into the variable at `slot`.
-void moveInto(void* slot, VARIANT& value) {
-    if ((value.vt & VT_ARRAY) != 0) {
-        std::swap(*static_cast<SAFEARRAY**>(slot), value.parray);
-        return;
-    }
+/// Trades what `value` holds, already of the slot's type, for what stands in the variable at `slot`.
+void swapInto(void* slot, VARIANT& value) {
+    const auto swapped = [&](auto& held) { std::swap(*static_cast<std::remove_cvref_t<decltype(held)>*>(slot), held); };
+    if ((value.vt & VT_ARRAY) != 0) return swapped(value.parray);
     switch (value.vt) {
-        case VT_BSTR: std::swap(*static_cast<BSTR*>(slot), value.bstrVal); return;
+        case VT_BSTR: return swapped(value.bstrVal);
         case VT_UNKNOWN:
-        case VT_DISPATCH: storeObject(static_cast<IUnknown**>(slot), value.punkVal); return;
+        case VT_DISPATCH: return swapped(value.punkVal);
         case VT_I1:
-        case VT_UI1: std::memcpy(slot, &value.bVal, sizeof value.bVal); return;
+        case VT_UI1: return swapped(value.bVal);
         case VT_I2:
         case VT_UI2:
-        case VT_BOOL: std::memcpy(slot, &value.iVal, sizeof value.iVal); return;
+        case VT_BOOL: return swapped(value.iVal);
         case VT_I4:
         case VT_UI4:
         case VT_INT:
         case VT_UINT:
         case VT_ERROR:
-        case VT_R4: std::memcpy(slot, &value.lVal, sizeof value.lVal); return;
+        case VT_R4: return swapped(value.lVal);
         case VT_I8:
         case VT_UI8:
         case VT_R8:
         case VT_CY:
-        case VT_DATE: std::memcpy(slot, &value.llVal, sizeof value.llVal); return;
+        case VT_DATE: return swapped(value.llVal);
         case VT_DECIMAL: {
             auto* const decimal = static_cast<DECIMAL*>(slot);
             const auto reserved = decimal->wReserved;
@@ -127,65 +116,73 @@ void moveInto(void* slot, VARIANT& value) {
     }
 }
 
-void checkDimensions(SAFEARRAY* array) {
-    if (SafeArrayGetDim(array) != 1) mismatch();
-}
-
 std::u16string elementText(const VARIANT& element) {
     OwnedVariant text;
     changeType(*text, element, VT_BSTR);
     return textOf(text->bstrVal);
 }
 
-/// The elements of an array, kept in place while they are read.
-class ArrayAccess {
-public:
-    explicit ArrayAccess(SAFEARRAY* array) : Array_(array) {
-        check(SafeArrayAccessData(Array_, &Data_), "the array cannot be read");
-    }
-    ~ArrayAccess() { SafeArrayUnaccessData(Array_); }
-    ArrayAccess(const ArrayAccess&) = delete;
-    ArrayAccess& operator=(const ArrayAccess&) = delete;
-
-    std::size_t size() const { return Array_->rgsabound[0].cElements; }
-    template <class Element>
-    Element* elements() const {
-        return static_cast<Element*>(Data_);
-    }
-
-private:
-    SAFEARRAY* Array_;
-    void* Data_ = nullptr;
-};
-
-}  // namespace
-
-StringArray fromSafeArray(SAFEARRAY* array) {
+/// A null array has none.
+StringArray textsIn(SAFEARRAY* array) {
     if (array == nullptr) return {};
-    checkDimensions(array);
     VARTYPE type = VT_EMPTY;
-    if (FAILED(SafeArrayGetVartype(array, &type)) || (type != VT_BSTR && type != VT_VARIANT)) mismatch();
-    const ArrayAccess access(array);
-    StringArray texts(access.size());
+    if (SafeArrayGetDim(array) != 1 || FAILED(SafeArrayGetVartype(array, &type))) mismatch();
+    if (type != VT_BSTR && type != VT_VARIANT) mismatch();
+    void* elements = nullptr;
+    check(SafeArrayAccessData(array, &elements), "the array cannot be read");
+    const AtEnd done([array] { SafeArrayUnaccessData(array); });
+    StringArray texts(array->rgsabound[0].cElements);
     for (std::size_t i = 0; i < texts.size(); ++i)
-        texts[i] = type == VT_BSTR ? textOf(access.elements<BSTR>()[i]) : elementText(access.elements<VARIANT>()[i]);
+        texts[i] =
+            type == VT_BSTR ? textOf(static_cast<BSTR*>(elements)[i]) : elementText(static_cast<VARIANT*>(elements)[i]);
     return texts;
 }
 
-SAFEARRAY* toSafeArray(const StringArray& texts) {
+/// The caller's to destroy.
+SAFEARRAY* arrayOf(const StringArray& texts) {
     OwnedVariant owner;
     owner->parray = SafeArrayCreateVector(VT_BSTR, 0, static_cast<ULONG>(texts.size()));
     if (owner->parray == nullptr) throw std::bad_alloc();
     owner->vt = VT_ARRAY | VT_BSTR;
-    const ArrayAccess access(owner->parray);
-    for (std::size_t i = 0; i < texts.size(); ++i) access.elements<BSTR>()[i] = makeBstr(texts[i]);
+    auto* const elements = static_cast<BSTR*>(owner->parray->pvData);
+    std::transform(texts.begin(), texts.end(), elements, &makeBstr);
     owner->vt = VT_EMPTY;
     return owner->parray;
 }
 
+/// Writes a value as what the system has for it.
+struct Writer {
+    VARIANT& out;
+    template <class T>
+    void set(VARTYPE type, T& field, std::type_identity_t<T> plain) const {
+        field = plain;
+        out.vt = type;
+    }
+    void operator()(Empty) const { out.vt = VT_EMPTY; }
+    void operator()(Null) const { out.vt = VT_NULL; }
+    void operator()(Missing) const { set(VT_ERROR, out.scode, DISP_E_PARAMNOTFOUND); }
+    void operator()(bool isSet) const { set(VT_BOOL, out.boolVal, isSet ? VARIANT_TRUE : VARIANT_FALSE); }
+    void operator()(std::int16_t number) const { set(VT_I2, out.iVal, number); }
+    void operator()(std::int32_t number) const { set(VT_I4, out.lVal, number); }
+    void operator()(double number) const { set(VT_R8, out.dblVal, number); }
+    void operator()(Date date) const { set(VT_DATE, out.date, date.Serial); }
+    void operator()(const std::u16string& text) const { set(VT_BSTR, out.bstrVal, makeBstr(text)); }
+    void operator()(const StringArray& texts) const { set(VT_ARRAY | VT_BSTR, out.parray, arrayOf(texts)); }
+    void operator()(const ObjectPtr& object) const {
+        const auto known = std::dynamic_pointer_cast<AutomationObject>(object);
+        set(VT_DISPATCH, out.pdispVal, known ? known->dispatch().detach() : nullptr);
+    }
+};
+
+}  // namespace
+
 Variant fromAutomation(const VARIANT& in) {
-    if ((in.vt & VT_BYREF) != 0) return dereferenced(in);
-    if ((in.vt & VT_ARRAY) != 0) return fromSafeArray(in.parray);
+    if ((in.vt & VT_BYREF) != 0) {
+        OwnedVariant value;
+        copyFollowing(in, *value);
+        return fromAutomation(*value);
+    }
+    if ((in.vt & VT_ARRAY) != 0) return textsIn(in.parray);
     switch (in.vt) {
         case VT_EMPTY: return Empty{};
         case VT_NULL: return Null{};
@@ -218,7 +215,7 @@ Variant fromAutomation(const VARIANT& in) {
 Variant valueFromAutomation(const VARIANT& in) {
     if (!isObject(in)) return fromAutomation(in);
     OwnedVariant plain;
-    check(VariantCopyInd(plain.get(), const_cast<VARIANT*>(&in)), "the reference cannot be followed");
+    copyFollowing(in, *plain);
     OwnedVariant value;
     defaultProperty(*plain, *value, DefaultPropertyDepth);
     return fromAutomation(*value);
@@ -232,66 +229,18 @@ Variant valueFromAutomation(const VARIANT& in, TypeTag type) {
     return value;
 }
 
-void toAutomation(const Variant& value, VARIANT& out) {
-    struct Writer {
-        VARIANT& out;
-        void operator()(Empty) const { out.vt = VT_EMPTY; }
-        void operator()(Null) const { out.vt = VT_NULL; }
-        void operator()(Missing) const {
-            out.vt = VT_ERROR;
-            out.scode = DISP_E_PARAMNOTFOUND;
-        }
-        void operator()(bool set) const {
-            out.vt = VT_BOOL;
-            out.boolVal = set ? VARIANT_TRUE : VARIANT_FALSE;
-        }
-        void operator()(std::int16_t number) const {
-            out.vt = VT_I2;
-            out.iVal = number;
-        }
-        void operator()(std::int32_t number) const {
-            out.vt = VT_I4;
-            out.lVal = number;
-        }
-        void operator()(double number) const {
-            out.vt = VT_R8;
-            out.dblVal = number;
-        }
-        void operator()(Date date) const {
-            out.vt = VT_DATE;
-            out.date = date.Serial;
-        }
-        void operator()(const std::u16string& text) const {
-            out.bstrVal = makeBstr(text);
-            out.vt = VT_BSTR;
-        }
-        void operator()(const StringArray& texts) const {
-            out.parray = toSafeArray(texts);
-            out.vt = VT_ARRAY | VT_BSTR;
-        }
-        void operator()(const ObjectPtr& object) const {
-            const auto known = std::dynamic_pointer_cast<AutomationObject>(object);
-            out.pdispVal = known ? known->dispatch().detach() : nullptr;
-            out.vt = VT_DISPATCH;
-        }
-    };
-    std::visit(Writer{out}, value);
-}
+void toAutomation(const Variant& value, VARIANT& out) { std::visit(Writer{out}, value); }
 
 void writeBack(const Variant& value, const VARIANT& target) {
     if ((target.vt & VT_BYREF) == 0 || target.byref == nullptr) return;
-    if (target.vt == (VT_BYREF | VT_VARIANT)) {
-        if ((target.pvarVal->vt & VT_BYREF) != 0) return writeBack(value, *target.pvarVal);
-        OwnedVariant made;
-        toAutomation(value, *made);
-        std::swap(*target.pvarVal, *made);
-        return;
-    }
+    const bool isVariant = target.vt == (VT_BYREF | VT_VARIANT);
+    if (isVariant && (target.pvarVal->vt & VT_BYREF) != 0) return writeBack(value, *target.pvarVal);
     OwnedVariant made;
     toAutomation(value, *made);
+    if (isVariant) return std::swap(*target.pvarVal, *made);
     OwnedVariant fitting;
     changeType(*fitting, *made, static_cast<VARTYPE>(target.vt & ~VT_BYREF));
-    moveInto(target.byref, *fitting);
+    swapInto(target.byref, *fitting);
 }
 
 VARTYPE automationType(TypeTag type) {

@@ -7,7 +7,8 @@
 namespace kel::win32::ole {
 
 /// The value of `in`, references followed. An object comes as `AutomationRuntime`. Throws AutomationError with
-/// DISP_E_TYPEMISMATCH or DISP_E_OVERFLOW for what the library has no value for.
+/// DISP_E_TYPEMISMATCH or DISP_E_OVERFLOW for what the library has no value for: of arrays it has those of one
+/// dimension, of strings or variants.
 Variant fromAutomation(const VARIANT& in);
 
 /// The same where a plain value is wanted: an object gives its default property's value.
@@ -23,10 +24,6 @@ void toAutomation(const Variant& value, VARIANT& out);
 /// Stores a value in the variable that `target`, a reference, points to, as that variable's own type.
 /// Other variants are left alone. Throws AutomationError when the value does not fit.
 void writeBack(const Variant& value, const VARIANT& target);
-
-/// The elements of an array of strings or variants with one dimension; a null array has none.
-StringArray fromSafeArray(SAFEARRAY* array);
-SAFEARRAY* toSafeArray(const StringArray& texts);
 
 /// The type that automation gives a value of the library.
 VARTYPE automationType(TypeTag type);

@@ -9,22 +9,14 @@ namespace kel::win32::ole {
 
 namespace {
 
-CONNECTDATA copyConnection(const CONNECTDATA& connection) {
-    connection.pUnk->AddRef();
-    return connection;
-}
-
 IConnectionPoint* copyPoint(const ComPtr<IConnectionPoint>& point) { return ComPtr<IConnectionPoint>(point).detach(); }
 
-/// Connections that hold on to their sinks while somebody walks over them.
-using ConnectionList = std::vector<CONNECTDATA>;
-using ConnectionEnumerator = Enumerator<IEnumConnections, CONNECTDATA, CONNECTDATA, &copyConnection>;
-using PointEnumerator = Enumerator<IEnumConnectionPoints, ComPtr<IConnectionPoint>, IConnectionPoint*, &copyPoint>;
-
-void releaseConnections(const ConnectionList* list) {
-    for (const CONNECTDATA& connection : *list) connection.pUnk->Release();
-    delete list;
+CONNECTDATA copyConnection(const ConnectionPoint::Sink& sink) {
+    return {ComPtr<IUnknown>(sink.object).detach(), sink.cookie};
 }
+
+using PointEnumerator = Enumerator<IEnumConnectionPoints, ComPtr<IConnectionPoint>, IConnectionPoint*, &copyPoint>;
+using ConnectionEnumerator = Enumerator<IEnumConnections, ConnectionPoint::Sink, CONNECTDATA, &copyConnection>;
 
 }  // namespace
 
@@ -77,15 +69,7 @@ HRESULT ConnectionPoint::Unadvise(DWORD cookie) noexcept {
 HRESULT ConnectionPoint::EnumConnections(IEnumConnections** out) noexcept {
     if (out == nullptr) return E_POINTER;
     *out = nullptr;
-    return atEdge([&] {
-        auto list = std::make_unique<ConnectionList>();
-        for (const Sink& sink : *Sinks_) {
-            list->push_back({sink.object.get(), sink.cookie});
-            sink.object.get()->AddRef();
-        }
-        *out = new ConnectionEnumerator(ConnectionEnumerator::Items(list.release(), &releaseConnections));
-        return S_OK;
-    });
+    return atEdge([&] { *out = new ConnectionEnumerator(Sinks_); });
 }
 
 ComPtr<IUnknown> EventPoint::accept(IUnknown& sink) const {
@@ -142,7 +126,6 @@ HRESULT ConnectionPointsPart::EnumConnectionPoints(IEnumConnectionPoints** out) 
         points->emplace_back(&Events);
         points->emplace_back(&Notify);
         *out = new PointEnumerator(std::move(points));
-        return S_OK;
     });
 }
 

@@ -18,6 +18,11 @@ public:
     ConnectionPoint& operator=(const ConnectionPoint&) = delete;
     virtual ~ConnectionPoint() = default;
 
+    struct Sink {
+        DWORD cookie;
+        ComPtr<IUnknown> object;  ///< the interface that `accept` chose
+    };
+
     const GUID& iid() const { return Iid_; }
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) noexcept override;
@@ -31,10 +36,6 @@ public:
     HRESULT STDMETHODCALLTYPE EnumConnections(IEnumConnections** out) noexcept override;
 
 protected:
-    struct Sink {
-        DWORD cookie;
-        ComPtr<IUnknown> object;  ///< the interface that `accept` chose
-    };
     using Sinks = std::shared_ptr<const std::vector<Sink>>;
 
     /// The interface that this point calls on a sink; none when the sink does not have it.

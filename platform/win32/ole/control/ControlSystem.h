@@ -1,7 +1,6 @@
 #pragma once
 
-#include "host/System.h"
-#include "platform/win32/ole/com/Com.h"
+#include "platform/win32/home/Win32Services.h"
 
 namespace kel::win32::ole {
 
@@ -9,20 +8,14 @@ class OleControl;
 
 /// The machine as one control sees it: its message boxes stand in front of its own window, and its container is
 /// told that it has to wait for them.
-class ControlSystem final : public System {
+class ControlSystem final : public Win32System {
 public:
-    ControlSystem(OleControl& control, System& machine) : Control_(control), Machine_(machine) {}
+    explicit ControlSystem(OleControl& control) : Control_(control) {}
 
-    Date today() const override { return Machine_.today(); }
-    double timer() const override { return Machine_.timer(); }
     void messageBox(std::u16string_view prompt, std::int32_t style, std::u16string_view title) override;
-    void beep() override { Machine_.beep(); }
-    bool tabKeyDown() const override { return Machine_.tabKeyDown(); }
-    std::int32_t twipsPerPixel() const override { return Machine_.twipsPerPixel(); }
 
 private:
     OleControl& Control_;
-    System& Machine_;
 };
 
 }  // namespace kel::win32::ole

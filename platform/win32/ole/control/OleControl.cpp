@@ -23,10 +23,9 @@ Size fromHimetric(const SIZEL& size) {
 
 OleControl::OleControl(Library& library, const ClassModel& model, const ClassIdentity& identity, IUnknown* outer)
     : ComObject(library.module(), outer),
-      Library_(library),
       Model_(model),
       Identity_(identity),
-      System_(*this, library.system()),
+      System_(*this),
       Activation_(*this),
       Connections_(*this, toGuid(identity.events)),
       ClassInfo_(*this, identity, library),

@@ -26,7 +26,6 @@ public:
 
     // ---- For the parts
 
-    Library& library() const { return Library_; }
     const ClassModel& model() const { return Model_; }
     const ClassIdentity& identity() const { return Identity_; }
     Control& control() const { return *Control_; }
@@ -88,7 +87,6 @@ private:
 
     enum class Birth { Made, Beginning, Begun };
 
-    Library& Library_;
     const ClassModel& Model_;
     const ClassIdentity& Identity_;
     ControlSystem System_;

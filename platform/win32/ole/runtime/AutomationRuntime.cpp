@@ -22,30 +22,27 @@ T as(const Variant& value) {
     throw AutomationError(DISP_E_TYPEMISMATCH, "the run-time object gave a value of another type");
 }
 
+template <class T, class... Arguments>
+T call(const DispatchCaller& members, std::u16string_view name, Arguments... arguments) {
+    std::array<Variant, sizeof...(Arguments)> values{std::move(arguments)...};
+    return as<T>(members.call(name, values));
+}
+
 class AutomationDates final : public RuntimeDates {
 public:
     explicit AutomationDates(ComPtr<IDispatch> object) : Members_(std::move(object)) {}
 
     double NumberFromValue(const Variant& value, std::int16_t decimals) override {
-        std::array<Variant, 2> arguments{value, decimals};
-        return as<double>(Members_.call(u"NumberFromValue", arguments));
+        return call<double>(Members_, u"NumberFromValue", value, decimals);
     }
     double RoundNumber(double number, std::int16_t decimals) override {
-        std::array<Variant, 2> arguments{number, decimals};
-        return as<double>(Members_.call(u"RoundNumber", arguments));
+        return call<double>(Members_, u"RoundNumber", number, decimals);
     }
     Variant ParseDate(const Variant& text, const std::u16string& format, Date defaultDate, bool birthDay) override {
-        std::array<Variant, 4> arguments{text, format, defaultDate, birthDay};
-        return Members_.call(u"ParseDate", arguments);
+        return call<Variant>(Members_, u"ParseDate", text, format, defaultDate, birthDay);
     }
-    Date LastDayOfMonth(Date date) override {
-        std::array<Variant, 1> arguments{date};
-        return as<Date>(Members_.call(u"LastDayOfMonth", arguments));
-    }
-    Variant ParseTime(const Variant& text) override {
-        std::array<Variant, 1> arguments{text};
-        return Members_.call(u"ParseTime", arguments);
-    }
+    Date LastDayOfMonth(Date date) override { return call<Date>(Members_, u"LastDayOfMonth", date); }
+    Variant ParseTime(const Variant& text) override { return call<Variant>(Members_, u"ParseTime", text); }
 
 private:
     DispatchCaller Members_;
@@ -53,34 +50,30 @@ private:
 
 }  // namespace
 
-std::int32_t AutomationRuntime::ColorDepth() { return as<std::int32_t>(Members_.get(u"ColorDepth")); }
+std::int32_t AutomationRuntime::ColorDepth() { return call<std::int32_t>(Members_, u"ColorDepth"); }
 
-std::u16string AutomationRuntime::DecimalSeparator() { return as<std::u16string>(Members_.get(u"DecimalSeparator")); }
+std::u16string AutomationRuntime::DecimalSeparator() { return call<std::u16string>(Members_, u"DecimalSeparator"); }
 
-std::int16_t AutomationRuntime::DecimalDigits() { return as<std::int16_t>(Members_.get(u"DecimalDigits")); }
+std::int16_t AutomationRuntime::DecimalDigits() { return call<std::int16_t>(Members_, u"DecimalDigits"); }
 
-std::u16string AutomationRuntime::CaptionFontName() { return as<std::u16string>(Members_.get(u"CaptionFontName")); }
+std::u16string AutomationRuntime::CaptionFontName() { return call<std::u16string>(Members_, u"CaptionFontName"); }
 
-double AutomationRuntime::CaptionFontSize() { return as<double>(Members_.get(u"CaptionFontSize")); }
+double AutomationRuntime::CaptionFontSize() { return call<double>(Members_, u"CaptionFontSize"); }
 
-std::u16string AutomationRuntime::FieldFontName() { return as<std::u16string>(Members_.get(u"FieldFontName")); }
+std::u16string AutomationRuntime::FieldFontName() { return call<std::u16string>(Members_, u"FieldFontName"); }
 
-double AutomationRuntime::FieldFontSize() { return as<double>(Members_.get(u"FieldFontSize")); }
+double AutomationRuntime::FieldFontSize() { return call<double>(Members_, u"FieldFontSize"); }
 
-void AutomationRuntime::SendKey(std::int16_t keyCode) {
-    std::array<Variant, 1> arguments{keyCode};
-    Members_.call(u"SendKey", arguments);
-}
+void AutomationRuntime::SendKey(std::int16_t keyCode) { call<Variant>(Members_, u"SendKey", keyCode); }
 
 std::shared_ptr<kel::RuntimeDates> AutomationRuntime::RuntimeDates() {
-    const auto object = std::dynamic_pointer_cast<AutomationObject>(as<ObjectPtr>(Members_.get(u"RuntimeDates")));
+    const auto object = std::dynamic_pointer_cast<AutomationObject>(call<ObjectPtr>(Members_, u"RuntimeDates"));
     if (!object) throw AutomationError(DISP_E_TYPEMISMATCH, "the run-time object's RuntimeDates is no object");
     return std::make_shared<AutomationDates>(object->dispatch());
 }
 
 std::u16string AutomationRuntime::ListAppend(std::u16string list, std::u16string_view item) {
-    std::array<Variant, 2> arguments{std::move(list), std::u16string(item)};
-    return as<std::u16string>(Members_.call(u"ListAppend", arguments));
+    return call<std::u16string>(Members_, u"ListAppend", std::move(list), std::u16string(item));
 }
 
 std::u16string AutomationRuntime::ReadField(const std::u16string& text, std::int32_t& position,
