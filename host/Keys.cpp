@@ -3,6 +3,15 @@
 namespace kel {
 
 KeyStroke strokeFor(char32_t character) {
+    switch (character) {
+        case keys::Backspace:
+        case keys::Tab:
+        case keys::Enter:
+        case keys::Escape: return {static_cast<std::int16_t>(character)};
+        case 0x7F: return {keys::Backspace};
+        default: break;
+    }
+    if (character < U' ') return {static_cast<std::int16_t>(character + 'A' - 1), 0, ControlKey};
     const auto code = [character]() -> char32_t {
         if (character >= U'a' && character <= U'z') return character - U'a' + U'A';
         const bool ownKey = (character >= U'A' && character <= U'Z') || (character >= U'0' && character <= U'9');

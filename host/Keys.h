@@ -52,7 +52,7 @@ constexpr bool leavesField(const KeyStroke& stroke) {
     return stroke.code == keys::Tab && (stroke.modifiers & ControlKey) == 0;
 }
 
-/// The stroke that types `character`.
+/// The stroke that types `character`, or gives a control character as terminals send them.
 KeyStroke strokeFor(char32_t character);
 
 /// The character code that a stroke hands to key-press handlers, 0 when it gives none: Ctrl+V is 22, Enter

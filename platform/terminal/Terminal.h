@@ -1,7 +1,5 @@
 #pragma once
 
-#include <memory>
-
 #include "forms/Onlooker.h"
 
 namespace kel::terminal {
