@@ -9,16 +9,31 @@ namespace kel::qt {
 namespace {
 
 constexpr char32_t LastAscii = 0x7E;
-constexpr std::int16_t KeypadZero = 96;
-constexpr std::int16_t F1 = 112;
-
-struct KeyPair {
+/// Keys that follow one another, and their codes, which do too.
+struct KeyRun {
     int key;
     std::int16_t code;
+    int count = 1;
+    bool onKeypad = false;  ///< these are keys of the numeric keypad alone
+
+    int keyFor(std::int16_t wanted) const { return wanted >= code && wanted < code + count ? key + wanted - code : 0; }
+    std::int16_t codeOf(int wanted) const {
+        return wanted >= key && wanted < key + count ? static_cast<std::int16_t>(code + wanted - key) : std::int16_t{0};
+    }
 };
 
-/// Keys whose codes follow no rule. Where two keys share a code, the first one is sent for it.
-constexpr KeyPair NamedKeys[] = {
+/// Where two keys share a code, the first one is sent for it.
+constexpr KeyRun Runs[] = {
+    {Qt::Key_0, 96, 10, true},
+    {Qt::Key_Asterisk, 106, 1, true},
+    {Qt::Key_Plus, 107, 1, true},
+    {Qt::Key_Minus, 109, 1, true},
+    {Qt::Key_Period, keys::Decimal, 1, true},
+    {Qt::Key_Comma, keys::Decimal, 1, true},
+    {Qt::Key_Slash, 111, 1, true},
+    {Qt::Key_A, 'A', 26},
+    {Qt::Key_0, '0', 10},
+    {Qt::Key_F1, 112, 24},
     {Qt::Key_Backspace, keys::Backspace},
     {Qt::Key_Tab, keys::Tab},
     {Qt::Key_Backtab, keys::Tab},
@@ -31,49 +46,20 @@ constexpr KeyPair NamedKeys[] = {
     {Qt::Key_CapsLock, 20},
     {Qt::Key_Escape, keys::Escape},
     {Qt::Key_Space, keys::Space},
-    {Qt::Key_PageUp, keys::PageUp},
-    {Qt::Key_PageDown, keys::PageDown},
+    {Qt::Key_PageUp, keys::PageUp, 2},
     {Qt::Key_End, keys::End},
     {Qt::Key_Home, keys::Home},
-    {Qt::Key_Left, keys::Left},
-    {Qt::Key_Up, keys::Up},
-    {Qt::Key_Right, keys::Right},
-    {Qt::Key_Down, keys::Down},
+    {Qt::Key_Left, keys::Left, 4},
     {Qt::Key_Insert, keys::Insert},
     {Qt::Key_Delete, keys::Delete},
     {Qt::Key_Menu, 93},
-    {Qt::Key_NumLock, 144},
-    {Qt::Key_ScrollLock, 145},
+    {Qt::Key_NumLock, 144, 2},
 };
-
-/// Keys of the numeric keypad that type.
-constexpr KeyPair KeypadKeys[] = {
-    {Qt::Key_Asterisk, 106},        {Qt::Key_Plus, 107},  {Qt::Key_Minus, 109}, {Qt::Key_Period, keys::Decimal},
-    {Qt::Key_Comma, keys::Decimal}, {Qt::Key_Slash, 111},
-};
-
-template <std::size_t Count>
-std::int16_t codeIn(const KeyPair (&pairs)[Count], int key) {
-    const auto found =
-        std::find_if(std::begin(pairs), std::end(pairs), [key](KeyPair pair) { return pair.key == key; });
-    return found == std::end(pairs) ? std::int16_t{0} : found->code;
-}
-
-template <std::size_t Count>
-int keyIn(const KeyPair (&pairs)[Count], std::int16_t code) {
-    const auto found =
-        std::find_if(std::begin(pairs), std::end(pairs), [code](KeyPair pair) { return pair.code == code; });
-    return found == std::end(pairs) ? 0 : found->key;
-}
-
-bool isLetterOrDigit(int code) { return (code >= 'A' && code <= 'Z') || (code >= '0' && code <= '9'); }
 
 std::int16_t codeOf(int key, bool keypad) {
-    if (keypad && key >= Qt::Key_0 && key <= Qt::Key_9) return static_cast<std::int16_t>(KeypadZero + key - Qt::Key_0);
-    if (isLetterOrDigit(key)) return static_cast<std::int16_t>(key);
-    if (key >= Qt::Key_F1 && key <= Qt::Key_F24) return static_cast<std::int16_t>(F1 + key - Qt::Key_F1);
-    const std::int16_t onKeypad = keypad ? codeIn(KeypadKeys, key) : std::int16_t{0};
-    return onKeypad != 0 ? onKeypad : codeIn(NamedKeys, key);
+    for (const KeyRun& run : Runs)
+        if (const std::int16_t code = run.codeOf(key); code != 0 && (keypad || !run.onKeypad)) return code;
+    return 0;
 }
 
 char32_t firstCharacter(QStringView text) {
@@ -134,25 +120,13 @@ KeyStroke strokeOf(const QKeyEvent& event) {
 }
 
 QtKey keyFor(const KeyStroke& stroke) {
-    QtKey key{0, heldFor(stroke.modifiers), textFor(stroke)};
-    const std::int16_t code = stroke.code;
-    if (code == keys::Tab && (stroke.modifiers & ShiftKey) != 0) {
-        key.key = Qt::Key_Backtab;
-    } else if (isLetterOrDigit(code)) {
-        key.key = code;
-    } else if (code >= F1 && code < F1 + 24) {
-        key.key = Qt::Key_F1 + code - F1;
-    } else if (code >= KeypadZero && code < KeypadZero + 10) {
-        key.key = Qt::Key_0 + code - KeypadZero;
-        key.modifiers |= Qt::KeypadModifier;
-    } else if (const int keypad = keyIn(KeypadKeys, code); keypad != 0) {
-        key.key = keypad;
-        key.modifiers |= Qt::KeypadModifier;
-    } else if (const int named = keyIn(NamedKeys, code); named != 0) {
-        key.key = named;
-    } else {
-        key.key = keyOfCharacter(stroke.character);
-    }
+    QtKey key{keyOfCharacter(stroke.character), heldFor(stroke.modifiers), textFor(stroke)};
+    const auto* const run = std::find_if(std::begin(Runs), std::end(Runs),
+                                         [&](const KeyRun& some) { return some.keyFor(stroke.code) != 0; });
+    if (run == std::end(Runs)) return key;
+    key.key = run->keyFor(stroke.code);
+    if (run->onKeypad) key.modifiers |= Qt::KeypadModifier;
+    if (key.key == Qt::Key_Tab && (stroke.modifiers & ShiftKey) != 0) key.key = Qt::Key_Backtab;
     return key;
 }
 
