@@ -10,7 +10,7 @@
 #include "controls/combo/KelCombo.h"
 #include "library/SharedSettings.h"
 #include "platform/qt/home/QtHome.h"
-#include "platform/qt/widgets/QtComboBox.h"
+#include "platform/qt/widgets/ComboList.h"
 #include "tests/qt/ProbeForm.h"
 #include "tests/qt/QtForm.h"
 #include "values/Text.h"
@@ -137,18 +137,18 @@ TEST_F(Combo, ThePickedItemMayEndTheForm) {
 // ---- Mouse
 
 TEST_F(Combo, TheButtonOpensAndCloses) {
-    const QPoint middle = box().button().rect().center();
-    pressMouse(box().button(), middle);
+    const QPoint middle = box().button().center();
+    pressMouse(box(), middle);
     EXPECT_TRUE(isOpen());
     EXPECT_TRUE(box().hasFocus());
-    releaseMouse(box().button(), middle);
+    releaseMouse(box(), middle);
     EXPECT_TRUE(isOpen()) << "the release of the same press is no choice";
-    pressMouse(box().button(), middle);
-    releaseMouse(box().button(), middle);
+    pressMouse(box(), middle);
+    releaseMouse(box(), middle);
     EXPECT_FALSE(isOpen()) << "the press that closes does not open again";
-    pressMouse(box().button(), middle);
+    pressMouse(box(), middle);
     EXPECT_TRUE(isOpen());
-    releaseMouse(box().button(), middle);
+    releaseMouse(box(), middle);
     pressMouse(box(), {4, 10});
     EXPECT_FALSE(isOpen()) << "a press elsewhere";
     releaseMouse(box(), {4, 10});

@@ -55,7 +55,7 @@ void ControlSite::leaveWidget() {
     Remains_->setObjectName(Widget_->objectName());
     Remains_->setEnabled(enabled());
     Remains_->resize(Widget_->size());
-    for (PlacedView* const child : Children_) child->widget().setParent(Remains_.get());
+    forEach<PlacedView>([this](PlacedView& child) { child.widget().setParent(Remains_.get()); });
     Widget_ = Remains_.get();
     Host_ = nullptr;
     Mnemonic_ = 0;
@@ -102,7 +102,7 @@ void ControlSite::setOrigin(QPoint twips) {
 }
 
 void ControlSite::placeChildren() const {
-    for (PlacedView* const child : Children_) child->placeAgain();
+    forEach<PlacedView>([](PlacedView& child) { child.placeAgain(); });
 }
 
 void ControlSite::mirrored() {
@@ -165,7 +165,7 @@ void ControlSite::toolTipChanged() {
     // Before it shows, the control takes the tooltip over by itself.
     if (!Shown_) return;
     const QString text = Widget_->toolTip();
-    for (FieldView* const field : Fields_) field->shown().setToolTip(viewOf(text));
+    forEach<FieldView>([&text](FieldView& field) { field.shown().setToolTip(viewOf(text)); });
     if (PictureBox* const picture = Control_->widgets().picture) picture->setToolTip(viewOf(text));
 }
 
@@ -181,7 +181,7 @@ void ControlSite::hidden() {
 }
 
 void ControlSite::recolored() {
-    for (FieldView* const field : Fields_) field->colorAgain();
+    forEach<FieldView>([](FieldView& field) { field.colorAgain(); });
     Widget_->update();
 }
 
@@ -224,8 +224,7 @@ void ControlSite::setClipboardText(std::u16string_view text) {
     QGuiApplication::clipboard()->setText(toQString(text).replace(QStringLiteral("\r\n"), QStringLiteral("\n")));
 }
 
-void ControlSite::addField(FieldView& field) {
-    Fields_.push_back(&field);
+void ControlSite::fieldMade(FieldView& field) {
     if (Active_ == nullptr) {
         Active_ = &field;
         Widget_->setFocusProxy(&field.widget());
@@ -237,17 +236,13 @@ void ControlSite::addField(FieldView& field) {
     }
 }
 
-void ControlSite::removeField(const FieldView& field) {
-    std::erase(Fields_, &field);
+void ControlSite::fieldGoes(const FieldView& field) {
     if (Active_ == &field) Active_ = nullptr;
 }
 
-void ControlSite::fieldShown(FieldView& field) {
-    if (&field != Active_) activate(field);
-}
-
 /// The field takes the other one's place: what points to the composite finds it.
-void ControlSite::activate(FieldView& field) {
+void ControlSite::fieldShown(FieldView& field) {
+    if (&field == Active_) return;
     Active_ = &field;
     fieldEnabled(field, isFieldEnabled());
     Widget_->setSizePolicy(QSizePolicy::Expanding, field.isTall() ? QSizePolicy::Expanding : QSizePolicy::Fixed);
@@ -275,10 +270,8 @@ void ControlSite::tabAfter(ControlSite& before) {
     fieldEnabled(*Active_, isFieldEnabled());
 }
 
-bool ControlSite::owns(const QWidget& widget) const { return Widget_->isAncestorOf(&widget); }
-
 void ControlSite::leaveTabOrder() {
-    for (const FieldView* const field : Fields_) field->widget().setFocusPolicy(Qt::ClickFocus);
+    forEach<FieldView>([](FieldView& field) { field.widget().setFocusPolicy(Qt::ClickFocus); });
 }
 
 // ---- Caption
@@ -286,7 +279,7 @@ void ControlSite::leaveTabOrder() {
 void ControlSite::captionChanged(const QString& spokenBefore) {
     const QString spoken = Label_->spokenCaption();
     setSpokenName(*Widget_, spokenBefore, spoken);
-    for (const FieldView* const field : Fields_) setSpokenName(field->widget(), spokenBefore, spoken);
+    forEach<FieldView>([&](FieldView& field) { setSpokenName(field.widget(), spokenBefore, spoken); });
 
     if (Mnemonic_ != 0) Widget_->releaseShortcut(Mnemonic_);
     Mnemonic_ = 0;

@@ -4,7 +4,6 @@
 #include <QPoint>
 #include <QRect>
 #include <QWidget>
-#include <vector>
 
 #include "host/Container.h"
 #include "host/System.h"
@@ -12,13 +11,10 @@
 #include "library/Control.h"
 #include "platform/qt/base/TwipGrid.h"
 
-class QKeySequence;
-
 namespace kel::qt {
 
 class CaptionLabel;
 class FieldView;
-class PlacedView;
 class KelControlWidget;
 
 /// What a control on Qt works with. All of it outlives the control.
@@ -94,15 +90,12 @@ public:
 
     // ---- What the child widgets tell
 
-    void add(PlacedView& child) { Children_.push_back(&child); }
-    void remove(const PlacedView& child) { std::erase(Children_, &child); }
-    void addField(FieldView& field);
-    void removeField(const FieldView& field);
+    void fieldMade(FieldView& field);
+    void fieldGoes(const FieldView& field);
     void fieldShown(FieldView& field);
     void fieldEnabled(const FieldView& field, bool enabled);
     void setLabel(CaptionLabel* label) { Label_ = label; }
     void captionChanged(const QString& spokenBefore);
-    bool owns(const QWidget& widget) const;
     /// Its field takes the focus by a click only.
     void leaveTabOrder();
     /// The Tab key comes here from another one. Both have a field.
@@ -120,9 +113,16 @@ public:
     const TwipGrid& grid() const { return Grid_; }
 
 private:
+    /// The child widgets, or those of them that are fields.
+    template <class Child, class Action>
+    void forEach(Action action) const {
+        const QObjectList children = Widget_->children();
+        for (QObject* const child : children)
+            if (auto* const view = dynamic_cast<Child*>(child)) action(*view);
+    }
+
     QSize pixelSize() const;
     void placeChildren() const;
-    void activate(FieldView& field);
     bool isFieldEnabled() const;
 
     KelControlWidget* Host_;  ///< nullptr once it is gone
@@ -131,8 +131,6 @@ private:
     ControlServices Surroundings_;
     TwipGrid Grid_;
     CaptionLabel* Label_ = nullptr;
-    std::vector<PlacedView*> Children_;
-    std::vector<FieldView*> Fields_;  ///< of the children
     FieldView* Active_ = nullptr;
     QPoint Origin_;  ///< twips
     Size Size_;

@@ -33,7 +33,7 @@ private:
 };
 
 /// A frame with its title in the upper line, which leaves all the rest to what is placed in it.
-class Frame final : public QWidget {
+class Frame final : public QWidget, public PlacedPanel {
 public:
     Frame(const QString& title, QWidget& parent) : QWidget(&parent), Title_(title) {}
 

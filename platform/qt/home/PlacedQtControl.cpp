@@ -1,8 +1,6 @@
 #include "platform/qt/home/PlacedQtControl.h"
 
 #include "platform/qt/base/TextBridge.h"
-#include "platform/qt/control/FocusWay.h"
-#include "platform/qt/widgets/FieldView.h"
 
 namespace kel::qt {
 
@@ -27,10 +25,6 @@ void PlacedQtControl::setBounds(const Rect& bounds) {
     move(site().grid().pixels(bounds).topLeft());
     site().setOrigin({bounds.left, bounds.top});
     site().setSize({bounds.width, bounds.height});
-}
-
-void PlacedQtControl::takeFocus() {
-    if (site().activeField() != nullptr) qt::focusWidget(site().activeField()->widget());
 }
 
 }  // namespace kel::qt

@@ -21,12 +21,7 @@ public:
     std::u16string toolTipText() const override { return site().toolTipText(); }
     void setToolTipText(std::u16string_view text) override { site().setToolTipText(text); }
 
-    /// The control's `Show`, whether or not the form lets it be seen.
-    void showControl() { site().shown(); }
-    /// As code gives it: a disabled field does not take it.
-    void takeFocus();
-    void tabAfter(const PlacedQtControl& before) { site().tabAfter(before.site()); }
-    bool owns(const QWidget& widget) const { return site().owns(widget); }
+    using KelControlWidget::site;
 
 private:
     WidgetSet widgets() const override { return site().control().widgets(); }

@@ -23,15 +23,6 @@ protected:
     }
 };
 
-class QtPanel final : public PlacedPanel {
-public:
-    explicit QtPanel(QWidget& widget) : Widget_(widget) {}
-    QWidget& widget() const { return Widget_; }
-
-private:
-    QWidget& Widget_;
-};
-
 }  // namespace
 
 QtFormWindow::QtFormWindow(const WindowSpec& description, const ControlServices& surroundings)
@@ -47,7 +38,7 @@ QtFormWindow::~QtFormWindow() = default;
 // ---- Placing
 
 QWidget& QtFormWindow::parentOf(const Placement& placement) const {
-    return placement.parent != nullptr ? static_cast<const QtPanel*>(placement.parent)->widget() : *Window_;
+    return placement.parent != nullptr ? dynamic_cast<QWidget&>(*placement.parent) : *Window_;
 }
 
 PlacedControl& QtFormWindow::place(const ClassModel& model, const Placement& placement, ControlObserver& observer) {
@@ -62,8 +53,7 @@ PlacedPanel* QtFormWindow::placeForeign(const ForeignBlock& block) {
     QWidget* const widget = makeForeignWidget(block, grid, parentOf(block.placement));
     if (block.kind == ForeignBlock::Kind::Label)
         Captions_.push_back({static_cast<QLabel*>(widget), block.placement.tabIndex});
-    if (block.kind != ForeignBlock::Kind::Panel) return nullptr;
-    return Panels_.emplace_back(std::make_unique<QtPanel>(*widget)).get();
+    return dynamic_cast<PlacedPanel*>(widget);
 }
 
 void QtFormWindow::show() {
@@ -72,7 +62,7 @@ void QtFormWindow::show() {
     if (const auto runtime = Surroundings_.settings.Runtime)
         setWidgetFont(*Window_, fontLike(Window_->font(), runtime->CaptionFontName(), runtime->CaptionFontSize()));
     // By index: a host may place further controls meanwhile.
-    for (std::size_t i = 0; i < Controls_.size(); ++i) Controls_[i]->showControl();
+    for (std::size_t i = 0; i < Controls_.size(); ++i) Controls_[i]->site().shown();
     Window_->show();
     activate();
 }
@@ -82,7 +72,7 @@ void QtFormWindow::setTabOrder() {
     for (TabStop* const stop : Order_.sorted()) {
         auto* const control = static_cast<PlacedQtControl*>(stop);
         if (!control->hasField()) continue;
-        if (before != nullptr) control->tabAfter(*before);
+        if (before != nullptr) control->site().tabAfter(before->site());
         before = control;
     }
 }

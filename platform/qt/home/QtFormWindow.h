@@ -48,7 +48,6 @@ private:
     ControlServices Surroundings_;
     std::unique_ptr<QWidget> Window_;
     TabOrder Order_;
-    std::vector<std::unique_ptr<PlacedPanel>> Panels_;
     std::vector<Caption> Captions_;                           ///< plain labels, which name the next control
     std::vector<std::unique_ptr<PlacedQtControl>> Controls_;  ///< last: they stand on the window
 };

@@ -6,13 +6,13 @@
 #include <QPointer>
 
 #include "platform/qt/base/TextBridge.h"
+#include "platform/qt/control/FocusWay.h"
 #include "platform/qt/home/KeySender.h"
 #include "platform/qt/home/PlacedQtControl.h"
 #include "platform/qt/home/QtFormWindow.h"
-#include "platform/qt/widgets/QtCheckBox.h"
+#include "platform/qt/widgets/ComboList.h"
 #include "platform/qt/widgets/QtComboBox.h"
 #include "platform/qt/widgets/QtUpDown.h"
-#include "platform/qt/widgets/TextInput.h"
 
 /// What a person does at a form's window.
 namespace kel::qt {
@@ -99,7 +99,8 @@ void QtFormWindow::press(const KeyStroke& stroke) {
 
 void QtFormWindow::focus(PlacedControl& control) {
     activate();
-    static_cast<PlacedQtControl&>(control).takeFocus();
+    if (const FieldView* const field = static_cast<PlacedQtControl&>(control).site().activeField())
+        focusWidget(field->widget());
     settle();
 }
 
@@ -109,7 +110,7 @@ void QtFormWindow::click(PlacedControl& control, std::int32_t position) {
         const QPointer<QWidget> area = &field->mouseArea();
         closePopups();
         giveFocusByClick(field->widget());
-        if (TextInput* const input = area.isNull() ? nullptr : field->textInput()) input->aim(position);
+        if (auto* const input = area.isNull() ? nullptr : dynamic_cast<TextInput*>(field)) input->aim(position);
         if (!area.isNull()) clickLeft(*area);
     }
     settle();
@@ -120,7 +121,7 @@ void QtFormWindow::rightClick(PlacedControl& control) {
     activate();
     if (FieldView* const field = fieldOf(control)) {
         const QPointer<QWidget> area = &field->mouseArea();
-        const bool hasMenu = field->textInput() != nullptr;
+        const bool hasMenu = dynamic_cast<TextInput*>(field) != nullptr;
         closePopups();
         giveFocusByClick(field->widget());
         if (!area.isNull() && hasMenu) sendMouse(*area, QEvent::MouseButtonPress, Qt::RightButton);
@@ -150,7 +151,7 @@ void QtFormWindow::pick(PlacedControl& control, std::int32_t item) {
     if (!box.isNull()) {
         closePopups();
         giveFocusByClick(*box);
-        clickLeft(box->button());
+        clickLeft(*box, box->button().center());
         if (!box.isNull() && box->list() != nullptr) clickItem(*box->list(), item);
         closePopups();
     }
@@ -164,7 +165,7 @@ PlacedControl* QtFormWindow::focused() const {
     const QWidget* const widget = Window_->focusWidget();
     if (widget == nullptr) return nullptr;
     const auto holder = std::find_if(Controls_.begin(), Controls_.end(),
-                                     [widget](const auto& control) { return control->owns(*widget); });
+                                     [widget](const auto& control) { return control->isAncestorOf(widget); });
     return holder == Controls_.end() ? nullptr : holder->get();
 }
 

@@ -1,5 +1,3 @@
-#include "platform/qt/widgets/AccessibleLine.h"
-
 #include <QAccessibleWidget>
 
 #include "platform/qt/base/EdgeGuard.h"
@@ -12,6 +10,7 @@ namespace {
 
 int toInt(std::size_t position) { return static_cast<int>(position); }
 
+/// The text of a line, which assistive technology reads, and writes by the control's rules.
 class AccessibleLine final : public QAccessibleWidget,
                              public QAccessibleTextInterface,
                              public QAccessibleEditableTextInterface {
@@ -94,19 +93,8 @@ private:
     QtLine& Line_;
 };
 
-QAccessibleInterface* accessibleFor(const QString& /*className*/, QObject* object) {
-    auto* const line = dynamic_cast<QtLine*>(object);
-    return line != nullptr ? new AccessibleLine(*line) : nullptr;
-}
-
 }  // namespace
 
-void makeLinesAccessible() {
-    static const bool Installed = [] {
-        QAccessible::installFactory(&accessibleFor);
-        return true;
-    }();
-    static_cast<void>(Installed);
-}
+QAccessibleInterface* QtLine::makeAccessible() { return new AccessibleLine(*this); }
 
 }  // namespace kel::qt

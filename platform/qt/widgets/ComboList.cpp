@@ -37,7 +37,7 @@ bool movesFocus(const QKeyEvent& event) {
 
 }  // namespace
 
-ComboList::ComboList(QtLine& box, ComboBox& combo) : QListView(&box), Box_(box), Combo_(combo) {
+ComboList::ComboList(QtComboBox& box, ComboBox& combo) : QListView(&box), Box_(box), Combo_(combo) {
     setWindowFlag(Qt::Popup);
     setFocusPolicy(Qt::NoFocus);
     setModel(new ItemsModel(combo.items(), this));
@@ -117,7 +117,8 @@ bool ComboList::keyPassed(QKeyEvent& event) {
 /// All presses come here while the list is open; those on the frame mean nothing.
 void ComboList::pressedOutside(const QPoint& globalPosition) {
     if (geometry().contains(globalPosition)) return;
-    setAttribute(Qt::WA_NoMouseReplay, Button_.contains(Box_.mapFromGlobal(globalPosition)));
+    // One on the button would fall through and open it again.
+    setAttribute(Qt::WA_NoMouseReplay, Box_.button().contains(Box_.mapFromGlobal(globalPosition)));
     Combo_.showDropDown(false);
 }
 

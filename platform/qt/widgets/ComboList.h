@@ -2,8 +2,7 @@
 
 #include <QListView>
 
-#include "host/widgets/ComboBox.h"
-#include "platform/qt/widgets/QtLine.h"
+#include "platform/qt/widgets/QtComboBox.h"
 
 namespace kel::qt {
 
@@ -12,13 +11,10 @@ namespace kel::qt {
 class ComboList final : public QListView {
 public:
     /// Both outlive the list.
-    ComboList(QtLine& box, ComboBox& combo);
+    ComboList(QtComboBox& box, ComboBox& combo);
 
     /// Shows it at the box, and the highlighted row in it. Above the box where there is more room.
     void drop();
-
-    /// Of the box, where presses do not fall through when they close the list: they would open it again.
-    void setButton(const QRect& button) { Button_ = button; }
 
 protected:
     bool event(QEvent* event) override;
@@ -35,9 +31,8 @@ private:
     int heightOf(int rows) const;
     QRect place() const;
 
-    QtLine& Box_;
+    QtComboBox& Box_;
     ComboBox& Combo_;
-    QRect Button_;
 };
 
 }  // namespace kel::qt

@@ -1,5 +1,6 @@
 #include "platform/qt/widgets/FieldView.h"
 
+#include <QFocusEvent>
 #include <QWidget>
 
 #include "platform/qt/base/WidgetSettings.h"
@@ -11,12 +12,12 @@ namespace kel::qt {
 
 FieldView::FieldView(ControlSite& site, QWidget& widget, FieldWidget& shown)
     : PlacedView(site, widget, shown), Shown_(shown) {
-    site.addField(*this);
+    site.fieldMade(*this);
 }
 
 FieldView::~FieldView() {
     focus::forget(*this);
-    site().removeField(*this);
+    site().fieldGoes(*this);
 }
 
 bool FieldView::takesFocus() const { return qt::takesFocus(widget()); }
@@ -24,6 +25,17 @@ bool FieldView::takesFocus() const { return qt::takesFocus(widget()); }
 void FieldView::giveUpFocus() {
     if (widget().window()->focusWidget() == &widget()) focus::passOn(*this);
     focus::departed(*this, Qt::OtherFocusReason);
+}
+
+void FieldView::tellFocus(QEvent& event) {
+    switch (event.type()) {
+        case QEvent::FocusIn: return focus::arrived(*this, static_cast<QFocusEvent&>(event).reason());
+        case QEvent::FocusOut: return focus::departed(*this, static_cast<QFocusEvent&>(event).reason());
+        case QEvent::EnabledChange:
+            if (!widget().isEnabled()) giveUpFocus();
+            return;
+        default: return;
+    }
 }
 
 void FieldView::showState(Changes changes) {

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "host/widgets/Widget.h"
+#include "platform/qt/base/EdgeGuard.h"
 #include "platform/qt/base/FieldColors.h"
 #include "platform/qt/widgets/PlacedView.h"
 
-namespace kel::qt {
+class QEvent;
 
-class TextInput;
+namespace kel::qt {
 
 /// A child widget that can have the focus.
 class FieldView : public PlacedView {
@@ -29,8 +30,6 @@ public:
     virtual bool isTall() const = 0;
     /// From the widget's top to the baseline of its (first) line of text, in pixels.
     virtual int baseline() const = 0;
-    /// nullptr where it holds no text.
-    virtual TextInput* textInput() { return nullptr; }
     /// Where presses arrive.
     virtual QWidget& mouseArea() { return widget(); }
 
@@ -38,11 +37,23 @@ public:
     virtual int widthFor(int characters) const;
 
 protected:
+    /// An event comes to the widget, whose class has its own `way` with it: what it says of the focus is told after.
+    template <class Way>
+    bool hear(QEvent& event, Way way) {
+        return atEdge([&] {
+            const bool done = way();
+            tellFocus(event);
+            return done;
+        });
+    }
+
     /// What Qt does the same for every field: place, state, font and tooltip.
     void showState(Changes changes);
     FieldColors colors() const { return {Shown_.backColor(), Shown_.foreColor()}; }
 
 private:
+    void tellFocus(QEvent& event);
+
     FieldWidget& Shown_;
 };
 

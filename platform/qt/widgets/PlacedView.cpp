@@ -1,17 +1,26 @@
 #include "platform/qt/widgets/PlacedView.h"
 
+#include <QAccessible>
 #include <QWidget>
 
 #include "platform/qt/control/ControlSite.h"
 
 namespace kel::qt {
 
-PlacedView::PlacedView(ControlSite& site, QWidget& widget, Widget& shown)
-    : Site_(site), Widget_(widget), Shown_(shown) {
-    site.add(*this);
+namespace {
+
+QAccessibleInterface* accessibleOf(const QString& /*className*/, QObject* object) {
+    auto* const view = dynamic_cast<PlacedView*>(object);
+    return view != nullptr ? view->makeAccessible() : nullptr;
 }
 
-PlacedView::~PlacedView() { Site_.remove(*this); }
+}  // namespace
+
+PlacedView::PlacedView(ControlSite& site, QWidget& widget, Widget& shown)
+    : Site_(site), Widget_(widget), Shown_(shown) {
+    static const bool Installed = (QAccessible::installFactory(&accessibleOf), true);
+    static_cast<void>(Installed);
+}
 
 void PlacedView::placeAgain() { Widget_.setGeometry(Site_.pixelRect(Shown_.bounds())); }
 

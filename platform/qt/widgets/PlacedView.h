@@ -1,5 +1,6 @@
 #pragma once
 
+class QAccessibleInterface;
 class QWidget;
 
 namespace kel {
@@ -17,13 +18,16 @@ public:
     PlacedView(ControlSite& site, QWidget& widget, Widget& shown);
     PlacedView(const PlacedView&) = delete;
     PlacedView& operator=(const PlacedView&) = delete;
-    virtual ~PlacedView();
+    virtual ~PlacedView() = default;
 
     ControlSite& site() const { return Site_; }
     QWidget& widget() const { return Widget_; }
 
     /// The composite is mirrored now, or no longer, or its pixels are others.
     void placeAgain();
+
+    /// What assistive technology finds; nullptr for what it would find of any such widget.
+    virtual QAccessibleInterface* makeAccessible() { return nullptr; }
 
 private:
     ControlSite& Site_;

@@ -7,13 +7,11 @@
 #include <QStyle>
 #include <QStyleOptionButton>
 
-#include "platform/qt/base/EdgeGuard.h"
 #include "platform/qt/base/FieldColors.h"
 #include "platform/qt/base/KeyMap.h"
 #include "platform/qt/base/TextBridge.h"
 #include "platform/qt/base/WidgetSettings.h"
 #include "platform/qt/control/ControlSite.h"
-#include "platform/qt/control/QtFocus.h"
 
 namespace kel::qt {
 
@@ -122,7 +120,7 @@ bool QtCheckBox::event(QEvent* event) {
             });
         default: break;
     }
-    return atEdge([&] { return QCheckBox::event(event); });
+    return hear(*event, [&] { return QCheckBox::event(event); });
 }
 
 /// Qt's own keys for buttons, which also move among them, are not asked.
@@ -151,25 +149,9 @@ void QtCheckBox::mousePressEvent(QMouseEvent* event) {
         QCheckBox::mousePressEvent(event);
 }
 
-void QtCheckBox::focusInEvent(QFocusEvent* event) {
-    QCheckBox::focusInEvent(event);
-    focus::arrived(*this, event->reason());
-}
-
-void QtCheckBox::focusOutEvent(QFocusEvent* event) {
-    QCheckBox::focusOutEvent(event);
-    focus::departed(*this, event->reason());
-}
-
 void QtCheckBox::changeEvent(QEvent* event) {
     QCheckBox::changeEvent(event);
-    switch (event->type()) {
-        case QEvent::EnabledChange:
-            if (!isEnabled()) giveUpFocus();
-            break;
-        case QEvent::FontChange: site().widget().updateGeometry(); break;
-        default: break;
-    }
+    if (event->type() == QEvent::FontChange) site().widget().updateGeometry();
 }
 
 }  // namespace kel::qt

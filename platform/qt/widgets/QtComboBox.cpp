@@ -5,40 +5,53 @@
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QStyleOptionFrame>
+#include <utility>
 
-#include "platform/qt/base/EdgeGuard.h"
 #include "platform/qt/control/QtFocus.h"
-#include "platform/qt/widgets/ComboFrame.h"
+#include "platform/qt/widgets/ComboList.h"
 
 namespace kel::qt {
 
 namespace {
 
-/// The place of the button, which the box draws.
-class ButtonArea final : public QWidget {
-public:
-    explicit ButtonArea(QtComboBox& box) : QWidget(&box), Box_(box) {
-        setFocusPolicy(Qt::NoFocus);
-        setCursor(Qt::ArrowCursor);
-        setAttribute(Qt::WA_Hover);
-    }
+/// As thick as each edge is that the frame draws over the style's own picture of the box.
+constexpr int ComboEdge = 2;
 
-protected:
-    bool event(QEvent* event) override {
-        return atEdge([&] { return QWidget::event(event); });
-    }
-    void mousePressEvent(QMouseEvent* event) override {
-        if (event->button() == Qt::LeftButton) Box_.pressButton();
-    }
+/// What the sunken edge goes around.
+QRect framed(const QRect& box) { return box.adjusted(0, 0, 0, -1); }
 
-private:
-    QtComboBox& Box_;
-};
+/// The light falls from the top left, also where the box is mirrored.
+void paintLines(QPainter& painter, const QRect& rect, const QColor& topLeft, const QColor& bottomRight) {
+    painter.fillRect(QRect(rect.left(), rect.top(), rect.width() - 1, 1), topLeft);
+    painter.fillRect(QRect(rect.left(), rect.top(), 1, rect.height() - 1), topLeft);
+    painter.fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1), bottomRight);
+    painter.fillRect(QRect(rect.right(), rect.top(), 1, rect.height()), bottomRight);
+}
+
+/// The strip of the button, `width` pixels of it, inside the sunken edge of a box; at its right end, `mirrored` at the
+/// left one.
+QRect comboButtonStrip(const QRect& box, int width, bool mirrored) {
+    const QRect inner = framed(box).adjusted(ComboEdge, ComboEdge, -ComboEdge, -ComboEdge);
+    const int left = mirrored ? inner.left() : inner.right() - width + 1;
+    return {left, inner.top(), width, inner.height()};
+}
+
+/// A sunken edge around all of the box but its lowest row of pixels, and a raised one around the strip; an empty strip
+/// has none.
+void paintComboFrame(QPainter& painter, const QRect& box, const QRect& strip, const QPalette& palette) {
+    const QRect outer = framed(box);
+    paintLines(painter, outer, palette.color(QPalette::Dark), palette.color(QPalette::Light));
+    paintLines(painter, outer.adjusted(1, 1, -1, -1), palette.color(QPalette::Shadow),
+               palette.color(QPalette::Midlight));
+    if (strip.isEmpty()) return;
+    paintLines(painter, strip, palette.color(QPalette::Midlight), palette.color(QPalette::Shadow));
+    paintLines(painter, strip.adjusted(1, 1, -1, -1), palette.color(QPalette::Light), palette.color(QPalette::Dark));
+}
 
 }  // namespace
 
-QtComboBox::QtComboBox(ControlSite& site, ComboBox& box, QWidget& parent)
-    : QtLine(site, box, parent), Combo_(box), Button_(new ButtonArea(*this)) {
+QtComboBox::QtComboBox(ControlSite& site, ComboBox& box, QWidget& parent) : QtLine(site, box, parent), Combo_(box) {
+    setMouseTracking(true);
     placeButton();
 }
 
@@ -53,11 +66,6 @@ void QtComboBox::showMore(Changes changes) {
 
 // ---- List
 
-void QtComboBox::pressButton() {
-    // Getting the focus may have moved it on, or barred the box.
-    if (focus::isHeldBy(*this)) Combo_.pressButton();
-}
-
 void QtComboBox::showList() {
     if (!Combo_.isDropped()) {
         closeList();
@@ -65,7 +73,6 @@ void QtComboBox::showList() {
     }
     if (!List_) {
         List_ = std::make_unique<ComboList>(*this, Combo_);
-        List_->setButton(Button_->geometry());
         update();
     }
     List_->drop();
@@ -90,7 +97,7 @@ QStyleOptionComboBox QtComboBox::styleOption() const {
     option.editable = true;
     option.frame = true;
     option.subControls = QStyle::SC_All;
-    if (Button_->underMouse() && isEnabled()) option.activeSubControls = QStyle::SC_ComboBoxArrow;
+    if (Hovered_ && isEnabled()) option.activeSubControls = QStyle::SC_ComboBoxArrow;
     option.state.setFlag(QStyle::State_MouseOver, option.activeSubControls != QStyle::SC_None);
     option.state.setFlag(QStyle::State_On, List_ != nullptr);
     return option;
@@ -111,9 +118,8 @@ QRect QtComboBox::findTextArea() const {
 }
 
 void QtComboBox::placeButton() {
-    if (Button_->geometry() == buttonRect()) return;
-    Button_->setGeometry(buttonRect());
-    placeTextAgain();
+    const QRect place = buttonRect();
+    if (std::exchange(Button_, place) != place) placeTextAgain();
 }
 
 // ---- Events
@@ -125,30 +131,48 @@ void QtComboBox::resizeEvent(QResizeEvent* event) {
 
 void QtComboBox::changeEvent(QEvent* event) {
     QtLine::changeEvent(event);
-    switch (event->type()) {
-        case QEvent::EnabledChange:
-            if (!isEnabled()) Combo_.showDropDown(false);
-            break;
-        case QEvent::StyleChange:
-        case QEvent::LayoutDirectionChange: placeButton(); break;
-        default: break;
-    }
+    if (event->type() == QEvent::StyleChange || event->type() == QEvent::LayoutDirectionChange) placeButton();
 }
 
-// The list takes keys away from the window and passes them on: to the box that is as good as having the focus, caret
-// and all.
-
-void QtComboBox::focusInEvent(QFocusEvent* event) {
-    if (event->reason() != Qt::PopupFocusReason || !List_) QtLine::focusInEvent(event);
-}
-
-void QtComboBox::focusOutEvent(QFocusEvent* event) {
-    if (event->reason() != Qt::PopupFocusReason || !List_) QtLine::focusOutEvent(event);
+bool QtComboBox::event(QEvent* event) {
+    // The list takes keys away from the window and passes them on: to the box that is as good as having the focus,
+    // caret and all.
+    const bool movesFocus = event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut;
+    if (List_ && movesFocus && static_cast<QFocusEvent*>(event)->reason() == Qt::PopupFocusReason) return true;
+    const bool taken = QtLine::event(event);
+    if (event->type() == QEvent::EnabledChange && !isEnabled()) Combo_.showDropDown(false);
+    return taken;
 }
 
 void QtComboBox::hideEvent(QHideEvent* event) {
     QtLine::hideEvent(event);
     Combo_.showDropDown(false);
+}
+
+// ---- The button
+
+void QtComboBox::mousePressEvent(QMouseEvent* event) {
+    ButtonPressed_ = Button_.contains(event->position().toPoint());
+    if (!ButtonPressed_) return QtLine::mousePressEvent(event);
+    // Getting the focus may have moved it on, or barred the box.
+    if (event->button() == Qt::LeftButton && focus::isHeldBy(*this)) Combo_.pressButton();
+}
+
+void QtComboBox::mouseMoveEvent(QMouseEvent* event) {
+    if (event->buttons() == Qt::NoButton) hover(Button_.contains(event->position().toPoint()));
+    if (!ButtonPressed_) QtLine::mouseMoveEvent(event);
+}
+
+void QtComboBox::mouseReleaseEvent(QMouseEvent* event) {
+    if (!std::exchange(ButtonPressed_, false)) QtLine::mouseReleaseEvent(event);
+}
+
+void QtComboBox::leaveEvent(QEvent* /*event*/) { hover(false); }
+
+void QtComboBox::hover(bool onButton) {
+    if (std::exchange(Hovered_, onButton) == onButton) return;
+    setCursor(onButton ? Qt::ArrowCursor : Qt::IBeamCursor);
+    update();
 }
 
 // ---- Painting

@@ -2,12 +2,14 @@
 
 #include <memory>
 
-#include "platform/qt/widgets/ComboList.h"
+#include "host/widgets/ComboBox.h"
 #include "platform/qt/widgets/QtLine.h"
 
 class QStyleOptionComboBox;
 
 namespace kel::qt {
+
+class ComboList;
 
 /// A combo box: a line of text with a button at its end, drawn by the style as a combo box, and a list that exists as
 /// long as it is open.
@@ -18,15 +20,17 @@ public:
 
     /// What shows the list; nullptr while it is closed.
     ComboList* list() const { return List_.get(); }
-    /// What takes the presses on the button.
-    QWidget& button() const { return *Button_; }
-    void pressButton();
+    /// Where the button is.
+    const QRect& button() const { return Button_; }
 
 protected:
+    bool event(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -41,12 +45,15 @@ private:
     QStyleOptionComboBox styleOption() const;
     QRect buttonRect() const;
     void placeButton();
+    void hover(bool onButton);
     void paintAroundText(QPainter& painter, const QStyleOptionComboBox& option) const;
     void paintFramed(QPainter& painter, const QStyleOptionComboBox& option) const;
 
     ComboBox& Combo_;
     std::unique_ptr<ComboList> List_;
-    QWidget* Button_;  ///< Qt owns it
+    QRect Button_;
+    bool ButtonPressed_ = false;  ///< the mouse button in hand went down there
+    bool Hovered_ = false;        ///< the pointer is over it
 };
 
 }  // namespace kel::qt

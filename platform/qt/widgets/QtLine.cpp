@@ -19,7 +19,6 @@
 #include "platform/qt/base/TextBridge.h"
 #include "platform/qt/base/WidgetSettings.h"
 #include "platform/qt/control/QtFocus.h"
-#include "platform/qt/widgets/AccessibleLine.h"
 
 namespace kel::qt {
 
@@ -57,12 +56,9 @@ int toInt(std::size_t position) { return static_cast<int>(position); }
 
 }  // namespace
 
-QtLine::QtLine(ControlSite& site, TextEntry& box, QWidget& parent)
-    : QWidget(&parent), FieldView(site, *this, box), Input_(box, *this) {
-    makeLinesAccessible();
+QtLine::QtLine(ControlSite& site, TextEntry& box, QWidget& parent) : QWidget(&parent), TextInput(site, *this, box) {
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_InputMethodEnabled);
-    setCursor(Qt::IBeamCursor);
     setAcceptDrops(true);
 }
 
@@ -84,7 +80,7 @@ void QtLine::outOfDate() {
     if (!changes.has(Change::Text) && !changes.has(Change::Selection)) return;
     // Whatever moves text or caret ends a composition.
     if (!Composition_.text.isEmpty()) {
-        showComposition({});
+        compose({});
         QGuiApplication::inputMethod()->reset();
     }
     if (QAccessible::isActive()) tellReaders(changes.has(Change::Text));
@@ -261,20 +257,12 @@ void QtLine::timerEvent(QTimerEvent* event) {
 // ---- Events
 
 bool QtLine::event(QEvent* event) {
-    return atEdge([&] {
-        if (event->type() != QEvent::ShortcutOverride) return QWidget::event(event);
-        Input_.shortcutAsked(static_cast<QKeyEvent&>(*event));
-        return event->isAccepted();
-    });
+    return hear(*event, [&] { return QWidget::event(event); });
 }
 
 void QtLine::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
     switch (event->type()) {
-        case QEvent::EnabledChange:
-            if (!isEnabled()) giveUpFocus();
-            update();
-            break;
         case QEvent::PaletteChange: recolor(); break;
         case QEvent::FontChange:
         case QEvent::StyleChange:
@@ -282,6 +270,7 @@ void QtLine::changeEvent(QEvent* event) {
             dropLayout();
             placeTextAgain();
             break;
+        case QEvent::EnabledChange:
         case QEvent::ActivationChange: update(); break;
         default: break;
     }
@@ -290,37 +279,32 @@ void QtLine::changeEvent(QEvent* event) {
 void QtLine::resizeEvent(QResizeEvent* /*event*/) { placeTextAgain(); }
 
 void QtLine::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
     showCaret(true);
-    update();
-    focus::arrived(*this, event->reason());
 }
 
 void QtLine::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
     showCaret(false);
-    update();
-    focus::departed(*this, event->reason());
 }
+
+/// Not before anybody can see it: for a form of many fields it is a heap of cursors.
+void QtLine::enterEvent(QEnterEvent* /*event*/) { setCursor(Qt::IBeamCursor); }
 
 // ---- Input methods
 
-void QtLine::showComposition(Composition composition) {
+void QtLine::compose(Composition composition) {
     Composition_ = std::move(composition);
     dropLayout();
     update(textArea());
     updateMicroFocus();
 }
 
-/// In front of the selection, which gives way when the composition is committed and not before: it may yet be
-/// cancelled.
-void QtLine::inputMethodEvent(QInputMethodEvent* event) {
-    const bool commits = !event->commitString().isEmpty() || event->replacementLength() > 0;
-    // What is finished is no composition any longer, nor to be ended as one.
-    if (commits) showComposition({});
-    if (!Input_.committed(*event)) return;
+void QtLine::showComposition(QInputMethodEvent& event) {
     Composition composition;
-    composition.text = event->preeditString();
+    composition.text = event.preeditString();
     composition.caret = toInt(static_cast<std::size_t>(composition.text.size()));
-    for (const QInputMethodEvent::Attribute& attribute : event->attributes()) {
+    for (const QInputMethodEvent::Attribute& attribute : event.attributes()) {
         if (attribute.type == QInputMethodEvent::Cursor) {
             composition.caret = attribute.start;
             composition.caretShown = attribute.length != 0;
@@ -329,7 +313,7 @@ void QtLine::inputMethodEvent(QInputMethodEvent* event) {
             composition.formats.append({attribute.start, attribute.length, format});
         }
     }
-    if (composition.text != Composition_.text || !composition.text.isEmpty()) showComposition(std::move(composition));
+    if (!composition.text.isEmpty() || !Composition_.text.isEmpty()) compose(std::move(composition));
 }
 
 QVariant QtLine::inputMethodQuery(Qt::InputMethodQuery query) const {
@@ -367,7 +351,7 @@ void QtLine::mousePressEvent(QMouseEvent* event) {
     PressedAt_ = event->position().toPoint();
     const std::size_t place = positionAt(PressedAt_);
     const Selection& selection = box().selection();
-    const std::int32_t position = Input_.takeAim(toInt(place));
+    const std::int32_t position = takeAim(toInt(place));
     const int clicks = clicksOf(*event);
     MayDrag_ = event->button() == Qt::LeftButton && clicks == 1 && toInt(place) == position &&
                box().offers(EditAction::Copy) && place > selection.start() && place < selection.end() &&
@@ -390,11 +374,11 @@ void QtLine::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void QtLine::mouseReleaseEvent(QMouseEvent* event) {
-    if (event->button() == Qt::MiddleButton) return Input_.pastePicked();
+    if (event->button() == Qt::MiddleButton) return pastePicked();
     if (event->button() != Qt::LeftButton) return;
     // A click into the selection, which might have become a drag.
     if (std::exchange(MayDrag_, false)) box().setSelStart(toInt(positionAt(event->position().toPoint())));
-    Input_.offerPicked();
+    offerPicked();
     box().releaseMouse(rect().contains(event->position().toPoint()));
 }
 
@@ -412,13 +396,13 @@ void QtLine::startDrag() {
 
 void QtLine::contextMenuEvent(QContextMenuEvent* event) {
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    Input_.menuAsked(byKey ? mapToGlobal(caretRect(box().selection().caret).bottomLeft()) : event->globalPos());
+    menuAsked(byKey ? mapToGlobal(caretRect(box().selection().caret).bottomLeft()) : event->globalPos());
 }
 
 // ---- Drops
 
 void QtLine::dragMoveEvent(QDragMoveEvent* event) {
-    Input_.hovered(*event);
+    hovered(*event);
     DropPlace_ = event->isAccepted() ? positionAt(event->position().toPoint()) : Nowhere;
     update(textArea());
 }
@@ -430,7 +414,7 @@ void QtLine::dragLeaveEvent(QDragLeaveEvent* /*event*/) {
 
 void QtLine::dropEvent(QDropEvent* event) {
     dragLeaveEvent(nullptr);
-    if (Input_.accepts(*event)) Input_.dropped(*event, positionAt(event->position().toPoint()));
+    if (accepts(*event)) dropped(*event, positionAt(event->position().toPoint()));
 }
 
 }  // namespace kel::qt

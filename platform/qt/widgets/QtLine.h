@@ -16,7 +16,7 @@ namespace kel::qt {
 
 /// A line of text that can be edited, in the style's look of a line edit. What stands in it is the widget's; here it is
 /// only laid out and painted, and whatever a person does goes to the widget.
-class QtLine : public QWidget, public TextView, public FieldView {
+class QtLine : public QWidget, public TextView, public TextInput {
 public:
     QtLine(ControlSite& site, TextEntry& box, QWidget& parent);
     ~QtLine() override;
@@ -29,8 +29,7 @@ public:
     bool isTall() const override { return false; }
     int baseline() const override;
 
-    TextInput* textInput() override { return &Input_; }
-    TextEntry& box() const { return Input_.box(); }
+    QAccessibleInterface* makeAccessible() override;
     /// The colours it has now.
     const QPalette& look() const { return Look_; }
     /// Where the caret stands before `position`.
@@ -39,11 +38,12 @@ public:
 
 protected:
     bool event(QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override { Input_.keyPressed(*event); }
-    void inputMethodEvent(QInputMethodEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override { keyPressed(*event); }
+    void inputMethodEvent(QInputMethodEvent* event) override { composed(*event); }
     QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
@@ -51,7 +51,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override { event->setAccepted(Input_.wheelTurned(*event)); }
+    void wheelEvent(QWheelEvent* event) override { event->setAccepted(wheelTurned(*event)); }
     void contextMenuEvent(QContextMenuEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override { dragMoveEvent(event); }
     void dragMoveEvent(QDragMoveEvent* event) override;
@@ -76,7 +76,8 @@ private:
     QPoint textCorner() const;
     void scrollToCaret();
     void recolor();
-    void showComposition(Composition composition);
+    void showComposition(QInputMethodEvent& event) override;
+    void compose(Composition composition);
     void showCaret(bool shown);
     bool seesCaret() const { return (hasFocus() || lendsKeys()) && !box().locked(); }
     int clicksOf(const QMouseEvent& event);
@@ -86,7 +87,6 @@ private:
 
     static constexpr std::size_t Nowhere = static_cast<std::size_t>(-1);
 
-    TextInput Input_;
     QPalette Look_;
     Composition Composition_;
     QBasicTimer Blink_;

@@ -44,19 +44,15 @@ private:
     const QtPictureBox& Box_;
 };
 
-QAccessibleInterface* makeSpoken(const QString& /*className*/, QObject* object) {
-    auto* const box = dynamic_cast<QtPictureBox*>(object);
-    return box != nullptr ? new SpokenBar(*box) : nullptr;
-}
-
 }  // namespace
 
 QtPictureBox::QtPictureBox(ControlSite& site, PictureBox& box, QWidget& parent)
     : QWidget(&parent), PlacedView(site, *this, box), Box_(box) {
     // What is behind it need not be painted with each step of a job.
     setAttribute(Qt::WA_OpaquePaintEvent);
-    QAccessible::installFactory(&makeSpoken);
 }
+
+QAccessibleInterface* QtPictureBox::makeAccessible() { return new SpokenBar(*this); }
 
 void QtPictureBox::outOfDate() {
     const Changes changes = Box_.takeChanges();

@@ -21,6 +21,7 @@ public:
     void paintAgain() override { update(); }
     Size extentOf(std::u16string_view text) const override;
     void paintNow() override { repaint(); }
+    QAccessibleInterface* makeAccessible() override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

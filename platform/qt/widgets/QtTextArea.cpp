@@ -12,10 +12,8 @@
 #include <QTextLayout>
 
 #include "host/editing/TextDifference.h"
-#include "platform/qt/base/EdgeGuard.h"
 #include "platform/qt/base/TextBridge.h"
 #include "platform/qt/base/WidgetSettings.h"
-#include "platform/qt/control/QtFocus.h"
 #include "platform/qt/widgets/PlainText.h"
 #include "values/TextBoundaries.h"
 
@@ -29,7 +27,7 @@ constexpr int TextIndent = 3;
 }  // namespace
 
 QtTextArea::QtTextArea(ControlSite& site, TextEntry& box, QWidget& parent)
-    : QPlainTextEdit(&parent), FieldView(site, *this, box), Input_(box, *this) {
+    : QPlainTextEdit(&parent), TextInput(site, *this, box) {
     setTabChangesFocus(true);
     // It loses its place in the tab order to the next control, and would then lead here from elsewhere.
     viewport()->setFocusProxy(nullptr);
@@ -147,47 +145,11 @@ int QtTextArea::baseline() const {
 // ---- Events
 
 bool QtTextArea::event(QEvent* event) {
-    return atEdge([&] {
-        if (event->type() == QEvent::ShortcutOverride) {
-            Input_.shortcutAsked(static_cast<QKeyEvent&>(*event));
-            return event->isAccepted();
-        }
-        return QPlainTextEdit::event(event);
-    });
+    return hear(*event, [&] { return QPlainTextEdit::event(event); });
 }
 
 bool QtTextArea::viewportEvent(QEvent* event) {
     return atEdge([&] { return QPlainTextEdit::viewportEvent(event); });
-}
-
-void QtTextArea::focusInEvent(QFocusEvent* event) {
-    QPlainTextEdit::focusInEvent(event);
-    focus::arrived(*this, event->reason());
-}
-
-void QtTextArea::focusOutEvent(QFocusEvent* event) {
-    QPlainTextEdit::focusOutEvent(event);
-    focus::departed(*this, event->reason());
-}
-
-void QtTextArea::changeEvent(QEvent* event) {
-    QPlainTextEdit::changeEvent(event);
-    if (event->type() == QEvent::EnabledChange && !isEnabled()) giveUpFocus();
-}
-
-// ---- Input methods
-
-/// In front of the selection, which gives way when the composition is committed and not before: it may yet be
-/// cancelled.
-void QtTextArea::inputMethodEvent(QInputMethodEvent* event) {
-    const bool commits = !event->commitString().isEmpty() || event->replacementLength() > 0;
-    if (commits) {
-        QInputMethodEvent finished;
-        showComposition(finished);
-    }
-    if (!Input_.committed(*event) || (commits && event->preeditString().isEmpty())) return;
-    QInputMethodEvent composition(event->preeditString(), event->attributes());
-    showComposition(composition);
 }
 
 void QtTextArea::showComposition(QInputMethodEvent& event) {
@@ -204,7 +166,7 @@ void QtTextArea::showComposition(QInputMethodEvent& event) {
 // ---- Mouse and drops
 
 void QtTextArea::mousePressEvent(QMouseEvent* event) {
-    const std::int32_t aim = Input_.takeAim(-1);
+    const std::int32_t aim = takeAim(-1);
     QPlainTextEdit::mousePressEvent(event);
     if (aim >= 0) box().setSelStart(aim);
     box().pressMouse(buttonOf(event->button()));
@@ -216,26 +178,26 @@ void QtTextArea::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void QtTextArea::wheelEvent(QWheelEvent* event) {
-    Input_.wheelTurned(*event);
+    wheelTurned(*event);
     QPlainTextEdit::wheelEvent(event);
 }
 
 void QtTextArea::contextMenuEvent(QContextMenuEvent* event) {
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    Input_.menuAsked(byKey ? viewport()->mapToGlobal(cursorRect().bottomLeft()) : event->globalPos());
+    menuAsked(byKey ? viewport()->mapToGlobal(cursorRect().bottomLeft()) : event->globalPos());
 }
 
 /// Qt shows where the text would go, which moves nothing of the text's own.
 void QtTextArea::dragEnterEvent(QDragEnterEvent* event) {
     const QScopedValueRollback showing(Showing_, true);
     QPlainTextEdit::dragEnterEvent(event);
-    Input_.hovered(*event);
+    hovered(*event);
 }
 
 void QtTextArea::dragMoveEvent(QDragMoveEvent* event) {
     const QScopedValueRollback showing(Showing_, true);
     QPlainTextEdit::dragMoveEvent(event);
-    Input_.hovered(*event);
+    hovered(*event);
 }
 
 void QtTextArea::dragLeaveEvent(QDragLeaveEvent* event) {
@@ -248,7 +210,7 @@ void QtTextArea::dropEvent(QDropEvent* event) {
     QDragLeaveEvent leave;
     dragLeaveEvent(&leave);
     const QPoint point = event->position().toPoint();
-    if (Input_.accepts(*event)) Input_.dropped(*event, plain::toText(*document(), cursorForPosition(point).position()));
+    if (accepts(*event)) dropped(*event, plain::toText(*document(), cursorForPosition(point).position()));
 }
 
 QMimeData* QtTextArea::createMimeDataFromSelection() const {

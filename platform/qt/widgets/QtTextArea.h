@@ -11,7 +11,7 @@ namespace kel::qt {
 
 /// Several lines of text that can be edited. Qt's own box lays them out, and is kept showing what the widget holds;
 /// what anybody else does to its text goes to the widget, and is taken back where that refuses it.
-class QtTextArea final : public QPlainTextEdit, public TextView, public FieldView, private TextLines {
+class QtTextArea final : public QPlainTextEdit, public TextView, public TextInput, private TextLines {
 public:
     QtTextArea(ControlSite& site, TextEntry& box, QWidget& parent);
 
@@ -24,17 +24,13 @@ public:
     void colorAgain() override;
     bool isTall() const override { return true; }
     int baseline() const override;
-    TextInput* textInput() override { return &Input_; }
     QWidget& mouseArea() override { return *viewport(); }
 
 protected:
     bool event(QEvent* event) override;
     bool viewportEvent(QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override { Input_.keyPressed(*event); }
-    void inputMethodEvent(QInputMethodEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
-    void focusOutEvent(QFocusEvent* event) override;
-    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override { keyPressed(*event); }
+    void inputMethodEvent(QInputMethodEvent* event) override { composed(*event); }
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     /// Scrolls as well, whether or not it has the focus; at its end the surroundings scroll.
@@ -48,21 +44,19 @@ protected:
     QMimeData* createMimeDataFromSelection() const override;
     bool canInsertFromMimeData(const QMimeData* source) const override { return source->hasText(); }
     /// By the middle mouse button.
-    void insertFromMimeData(const QMimeData* source) override { Input_.pastePicked(source->text()); }
+    void insertFromMimeData(const QMimeData* source) override { pastePicked(source->text()); }
 
 private:
     TextLine lineAt(std::size_t position) const override;
 
-    TextEntry& box() const { return Input_.box(); }
     void showText();
     void showSelection(const Selection& selection);
     Selection shownSelection() const;
     void showLocked();
-    void showComposition(QInputMethodEvent& event);
+    void showComposition(QInputMethodEvent& event) override;
     void textChangedInWidget();
     void selectionChangedInWidget();
 
-    TextInput Input_;
     std::u16string Shown_;  ///< as the document holds it, which would be slow to ask
     bool Showing_ = false;  ///< what Qt's box tells is no news
 };

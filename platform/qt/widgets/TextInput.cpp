@@ -1,10 +1,14 @@
 #include "platform/qt/widgets/TextInput.h"
 
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QDropEvent>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QKeySequence>
+#include <QMenu>
 #include <QMimeData>
 #include <QWheelEvent>
 #include <QWidget>
@@ -12,8 +16,6 @@
 #include "platform/qt/base/KeyMap.h"
 #include "platform/qt/base/TextBridge.h"
 #include "platform/qt/control/QtFocus.h"
-#include "platform/qt/widgets/EditMenu.h"
-#include "platform/qt/widgets/FieldView.h"
 
 namespace kel::qt {
 
@@ -25,6 +27,36 @@ QStringView furtherCharacters(const KeyStroke& stroke, QStringView text) {
     return keyPressCharacter(stroke) >= U' ' && text.size() > first ? text.sliced(first) : QStringView();
 }
 
+struct Entry {
+    const char* text;  ///< as Qt's own line edit has it translated
+    const char* icon;
+    QKeySequence::StandardKey key;
+    EditAction action;
+    bool beginsGroup;
+};
+
+constexpr Entry Entries[] = {
+    {"&Undo", "edit-undo", QKeySequence::Undo, EditAction::Undo, false},
+    {"&Redo", "edit-redo", QKeySequence::Redo, EditAction::Redo, false},
+    {"Cu&t", "edit-cut", QKeySequence::Cut, EditAction::Cut, true},
+    {"&Copy", "edit-copy", QKeySequence::Copy, EditAction::Copy, false},
+    {"&Paste", "edit-paste", QKeySequence::Paste, EditAction::Paste, false},
+    {"Delete", "edit-delete", QKeySequence::UnknownKey, EditAction::EraseSelection, false},
+    {"Select All", "edit-select-all", QKeySequence::SelectAll, EditAction::SelectAll, true},
+};
+
+void addEntry(QMenu& menu, TextEntry& box, const Entry& entry) {
+    if (entry.beginsGroup) menu.addSeparator();
+    QString text = QCoreApplication::translate("QLineEdit", entry.text);
+    const QString key = QKeySequence(entry.key).toString(QKeySequence::NativeText);
+    if (!key.isEmpty()) text += u'\t' + key;
+    QAction* const action = menu.addAction(QIcon::fromTheme(QLatin1String(entry.icon)), text);
+    action->setObjectName(QLatin1String(entry.icon));
+    action->setEnabled(box.offers(entry.action));
+    const EditAction chosen = entry.action;
+    QObject::connect(action, &QAction::triggered, menu.parent(), [&box, chosen] { box.perform(chosen); });
+}
+
 }  // namespace
 
 MouseButton buttonOf(Qt::MouseButton button) {
@@ -34,7 +66,10 @@ MouseButton buttonOf(Qt::MouseButton button) {
 
 // ---- Keys, input methods and wheel
 
-void TextInput::shortcutAsked(QKeyEvent& event) const { event.setAccepted(Box_.claims(strokeOf(event))); }
+bool TextInput::claim(QEvent& event) const {
+    event.setAccepted(Box_.claims(strokeOf(static_cast<QKeyEvent&>(event))));
+    return event.isAccepted();
+}
 
 void TextInput::keyPressed(QKeyEvent& event) {
     const KeyStroke stroke = strokeOf(event);
@@ -42,22 +77,35 @@ void TextInput::keyPressed(QKeyEvent& event) {
     Box_.typeCommitted(viewOf(furtherCharacters(stroke, event.text())));
 }
 
-bool TextInput::committed(QInputMethodEvent& event) {
+void TextInput::composed(QInputMethodEvent& event) {
+    const bool commits = !event.commitString().isEmpty() || event.replacementLength() > 0;
+    // What is finished is no composition any longer, nor to be ended as one.
+    QInputMethodEvent none;
+    if (commits) showComposition(none);
     event.setAccepted(!Box_.locked());
-    if (Box_.locked()) return false;
+    if (Box_.locked()) return;
     Box_.commitOver(event.replacementStart(), event.replacementLength(), viewOf(event.commitString()));
-    return true;
+    if (commits && event.preeditString().isEmpty()) return;
+    QInputMethodEvent composition(event.preeditString(), event.attributes());
+    showComposition(composition);
 }
 
 bool TextInput::wheelTurned(const QWheelEvent& event) {
-    return Field_.widget().hasFocus() && Box_.turnWheelBy(event.angleDelta().y());
+    return widget().hasFocus() && Box_.turnWheelBy(event.angleDelta().y());
 }
 
 // ---- Mouse
 
 std::int32_t TextInput::takeAim(std::int32_t pressed) { return Aim_ < 0 ? pressed : std::exchange(Aim_, -1); }
 
-void TextInput::menuAsked(const QPoint& globalPosition) { showEditMenu(Box_, Field_.widget(), globalPosition); }
+/// What it does goes the box's own way, so that lock and maximum length hold.
+void TextInput::menuAsked(const QPoint& globalPosition) {
+    auto* const menu = new QMenu(&widget());
+    menu->setObjectName(QStringLiteral("qt_edit_menu"));
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (const Entry& entry : Entries) addEntry(*menu, Box_, entry);
+    menu->popup(globalPosition);
+}
 
 void TextInput::pastePicked(const QString& text) {
     if (!text.isEmpty()) Box_.paste(viewOf(text));
@@ -78,7 +126,7 @@ void TextInput::offerPicked() const {
 
 bool TextInput::isMovedHere(const QDropEvent& event) const {
     const auto* const source = qobject_cast<QWidget*>(event.source());
-    const bool isHere = source == &Field_.widget() || (source != nullptr && source->parent() == &Field_.widget());
+    const bool isHere = source == &widget() || (source != nullptr && source->parent() == &widget());
     return isHere && !event.modifiers().testFlag(Qt::ControlModifier);
 }
 
@@ -109,10 +157,10 @@ void TextInput::dropped(QDropEvent& event, std::size_t place) {
 /// hear of its focus before it hears of the text.
 bool TextInput::takeFocus() {
     if (!Box_.takesInput()) return false;
-    Field_.widget().window()->activateWindow();
-    Field_.widget().setFocus(Qt::MouseFocusReason);
-    focus::arrived(Field_, Qt::MouseFocusReason);
-    return focus::isHeldBy(Field_) && Box_.takesInput();
+    widget().window()->activateWindow();
+    widget().setFocus(Qt::MouseFocusReason);
+    focus::arrived(*this, Qt::MouseFocusReason);
+    return focus::isHeldBy(*this) && Box_.takesInput();
 }
 
 }  // namespace kel::qt
