@@ -47,21 +47,5 @@ TEST_F(Check, AnEventThatDisablesTheBoxEndsTheUsersTurn) {
     EXPECT_EQ(Form.told(), (Lines{"Change!", "Locked"}));
 }
 
-TEST_F(Check, ALockedBoxTakesNoFocusAndIsDrawnEnabled) {
-    struct {
-        bool enabled, locked;
-    } const states[] = {{true, true}, {false, true}, {false, false}, {true, false}};
-    for (const auto& state : states) {
-        SCOPED_TRACE(testing::Message() << state.enabled << state.locked);
-        It.put_Enabled(state.enabled);
-        It.put_Locked(state.locked);
-        EXPECT_EQ(It.get_Enabled(), state.enabled);
-        EXPECT_EQ(It.get_Locked(), state.locked);
-        EXPECT_EQ(Box.enabled(), state.enabled);
-        Form.window().focus(Form.placed());
-        EXPECT_EQ(Form.window().focused() != nullptr, state.enabled && !state.locked);
-    }
-}
-
 }  // namespace
 }  // namespace kel::test

@@ -34,12 +34,11 @@ void WorkedBox::playStep(std::string_view step) {
     } else if (takeWord(step, "button")) {
         Box_.pressButton();
     } else {
-        test::press(*this, step);
+        // A character alone stands for the key that types it.
+        press([this](const KeyStroke& key) { Box_.strike(key.code == 0 ? strokeFor(key.character) : key); },
+              [this](std::u16string_view text) { Clipboard_ = text; }, step);
     }
 }
-
-/// A character alone stands for the key that types it.
-void WorkedBox::press(const KeyStroke& stroke) { Box_.strike(stroke.code == 0 ? strokeFor(stroke.character) : stroke); }
 
 std::string WorkedBox::look() const {
     const std::string list = Box_.isDropped() ? " open " + std::to_string(Box_.highlighted()) : "";

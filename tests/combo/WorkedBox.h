@@ -1,16 +1,14 @@
 #pragma once
 
-#include <exception>
 #include <string>
 #include <string_view>
 
-#include "forms/Home.h"
 #include "host/widgets/ComboBox.h"
 
 namespace kel::test {
 
 /// A combo box that nobody sees, worked as a person would.
-class WorkedBox final : public FormWindow, private WidgetHost {
+class WorkedBox final : private WidgetHost {
 public:
     explicit WorkedBox(ComboBoxListener& listener) : Box_(*this, listener) {}
 
@@ -24,19 +22,6 @@ public:
 
 private:
     void playStep(std::string_view step);
-
-    void press(const KeyStroke& stroke) override;
-    void setClipboard(std::u16string_view text) override { Clipboard_.assign(text); }
-    PlacedControl& place(const ClassModel&, const Placement&, ControlObserver&) override { std::terminate(); }
-    PlacedPanel* placeForeign(const ForeignBlock&) override { return nullptr; }
-    void show() override {}
-    void focus(PlacedControl&) override {}
-    void click(PlacedControl&, std::int32_t) override {}
-    void rightClick(PlacedControl&) override {}
-    void spin(PlacedControl&, bool) override {}
-    void pick(PlacedControl&, std::int32_t) override {}
-    PlacedControl* focused() const override { return nullptr; }
-    bool savePicture(const std::string&) override { return false; }
 
     bool takesInput() const override { return true; }
     void moveFocusTo(FieldWidget&) override {}

@@ -9,7 +9,6 @@ namespace {
 
 using testing::day;
 using testing::draw;
-using testing::DrawnBox;
 using enum KelDateDaysFlag;
 
 const Date Today = day(2013, 3, 15);
@@ -25,8 +24,7 @@ struct Field {
 
     FieldStep step(std::string_view before, std::optional<Date> value, int delta) const {
         const FieldFormat compiled(format);
-        const DrawnBox box(before);
-        return stepDate(box.holding(value), Today, delta, {compiled, bounds, region}, pin(flag));
+        return stepDate(testing::box(before, value), Today, delta, {compiled, bounds, region}, pin(flag));
     }
 };
 
@@ -48,18 +46,14 @@ TEST(DateSteps, MoveThePartAtTheCaret) {
     for (const char16_t* format : {u"dd/mm/yyyy", u"DD/MM/YYYY"}) {
         checkSteps({.format = format}, {
                                            {"|15/03/2013", {2013, 3, 15}, 1, "16|/03/2013"},
-                                           {"15|/03/2013", {2013, 3, 15}, -1, "14|/03/2013"},
                                            {"15/|03/2013", {2013, 3, 15}, 1, "15/04|/2013"},
                                            {"15/0|3/2013", {2013, 3, 15}, 1, "15/04|/2013"},
-                                           {"15/03|/2013", {2013, 3, 15}, -1, "15/02|/2013"},
                                            {"15/03/|2013", {2013, 3, 15}, 1, "15/03/2014|"},
                                            {"15/03/2013|", {2013, 3, 15}, -1, "15/03/2012|"},
                                            {"31/0|1/2013", {2013, 1, 31}, 1, "28/02|/2013"},
-                                           {"29/02/2|012", {2012, 2, 29}, 1, "28/02/2013|"},
                                            {"|31/12/2013", {2013, 12, 31}, 1, "01|/01/2014"},
                                        });
     }
-    checkSteps({.format = u"mm/dd/yyyy"}, {{"03/1|5/2013", {2013, 3, 15}, 1, "03/16|/2013"}});
     checkSteps({.format = u"yyyy-mm-dd"}, {{"|2013-03-15", {2013, 3, 15}, 1, "2014|-03-15"}});
     checkSteps({.format = u"ddmmyyyy"}, {{"1503|2013", {2013, 3, 15}, 1, "16032013|"}});
 }
@@ -68,12 +62,10 @@ TEST(DateSteps, CountTheSeparatorsOfTheFormatAsItIsWritten) {
     checkSteps({.format = u"dddd d mmmm yyyy"},
                {
                    {"F|riday 15 March 2013", {2013, 3, 15}, 1, "Saturday| 16 March 2013"},
-                   {"Friday 1|5 March 2013", {2013, 3, 15}, 1, "Saturday 16| March 2013"},
                    {"Friday 15 |March 2013", {2013, 3, 15}, 1, "Monday 15 April| 2013"},
                });
     // Behind the year there is no further part of the date, so the day goes.
     checkSteps({.format = u"d/m/yyyy (q)"}, {{"15/3/2013 (|1)", {2013, 3, 15}, 1, "16/3/2013 (1|)"}});
-    checkSteps({.format = u"mmm yyyy"}, {{"|Mar 2013", {2013, 3, 1}, 1, "Apr| 2013"}});
 }
 
 TEST(DateSteps, KnowLettersAndSeparatorsOfOtherScripts) {
@@ -118,19 +110,14 @@ TEST(DateSteps, FindThePartsThatAFormatShows) {
                {
                    {"15| de March de 2013", {2013, 3, 15}, 1, "16| de March de 2013"},
                    {"15 d|e March de 2013", {2013, 3, 15}, 1, "15 de April| de 2013"},
-                   {"15 de Ma|rch de 2013", {2013, 3, 15}, 1, "15 de April| de 2013"},
                    {"15 de March |de 2013", {2013, 3, 15}, 1, "15 de March de 2014|"},
                    {"15/3/20|13", {2013, 3, 15}, 1, "16| de March de 2013"},
                });
     checkSteps({.format = u"\"Date: \"dd/mm/yyyy"}, {{"|Date: 15/03/2013", {2013, 3, 15}, 1, "Date: 16|/03/2013"}});
-    checkSteps({.format = u"\\d\\a\\y d/m \\(yyyy\\)"}, {{"day 15/3| (2013)", {2013, 3, 15}, -1, "day 15/2| (2013)"},
-                                                         {"day 15/3 (2013)|", {2013, 3, 15}, -1, "day 14|/3 (2013)"}});
-    checkSteps({.format = u"Medium Date"}, {{"15-|Mar-13", {2013, 3, 15}, 1, "15-Apr|-13"}});
     checkSteps({.format = u"dd/mm/yyyy hh:mm"}, {{"15/0|3/2013 00:00", {2013, 3, 15}, 1, "15/04|/2013 00:00"},
                                                  {"15/03/2013 00:|00", {2013, 3, 15}, 1, "16|/03/2013 00:00"}});
     checkSteps({.format = u"dd.mm;yyyy"}, {{"15.|03", {2013, 3, 15}, 1, "15.04|"}});
     checkSteps({.format = u"aaaa, oooo"}, {{"Fri|day, March", {2013, 3, 15}, 1, "Saturday|, March"},
-                                           {"Friday|, March", {2013, 3, 29}, 1, "Saturday|, March"},
                                            {"Friday, |March", {2013, 3, 15}, 1, "Monday, April|"}});
     checkSteps({.format = u"\"From\" d mmm", .flag = FirstDay},
                {{"From 1| Mar", {2013, 3, 1}, 1, "From 1| Apr"}, {"march|", {2013, 3, 1}, 1, "From 1 Apr|"}});
@@ -143,12 +130,9 @@ TEST(DateSteps, FindThePartsThatAFormatShows) {
     wordy.region.MonthNames[2] = u"tháng 3";
     wordy.region.MonthNames[3] = u"tháng 4";
     checkSteps(wordy, {{"Thứ |Sáu, 15 tháng 3, 2013", {2013, 3, 15}, 1, "Thứ Bảy|, 16 tháng 3, 2013"},
-                       {"Thứ Sáu, 1|5 tháng 3, 2013", {2013, 3, 15}, 1, "Thứ Bảy, 16| tháng 3, 2013"},
                        {"Thứ Sáu, 15 tháng |3, 2013", {2013, 3, 15}, 1, "Thứ Hai, 15 tháng 4|, 2013"}});
     checkSteps({.format = u"Long Date", .region = *findRegion(u"es-ES")},
                {{"viernes, 15 de |marzo de 2013", {2013, 3, 15}, 1, "lunes, 15 de abril| de 2013"}});
-    checkSteps({.format = u"ddddd", .region = *findRegion(u"ja-JP")},
-               {{"2013/|03/15", {2013, 3, 15}, 1, "2013/04|/15"}});
     checkSteps({.format = u"Short Date", .region = *findRegion(u"ar-EG")},
                {{"١٥\u200F/|٣\u200F/٢٠١٣", {2013, 3, 15}, 1, "١٥\u200F/٤|\u200F/٢٠١٣"},
                 {"١٥\u200F|/٣\u200F/٢٠١٣", {2013, 3, 15}, 1, "١٦|\u200F/٣\u200F/٢٠١٣"}});
@@ -163,14 +147,11 @@ TEST(DateSteps, MoveTheDayOfATextThatIsNotAsShown) {
 TEST(DateSteps, NeverMoveAPinnedDay) {
     checkSteps({.flag = FirstDay}, {
                                        {"|01/03/2013", {2013, 3, 1}, 1, "01|/04/2013"},
-                                       {"01/03/|2013", {2013, 3, 1}, 1, "01/03/2014|"},
                                        {"|15/03/2013", {2013, 3, 15}, 1, "01/04|/2013"},
                                    });
     checkSteps({.flag = LastDay}, {
                                       {"31/0|1/2013", {2013, 1, 31}, 1, "28/02|/2013"},
-                                      {"28/02|/2013", {2013, 2, 28}, 1, "31/03|/2013"},
                                       {"15/03/2013|", {2013, 3, 15}, -1, "28/02|/2013"},
-                                      {"29/02/2012|", {2012, 2, 29}, 1, "28/02/2013|"},
                                   });
     checkSteps({.flag = BirthDay}, {{"|15/03/2013", {2013, 3, 15}, 1, "16|/03/2013"}});
 }
@@ -209,7 +190,6 @@ TEST(DateSteps, StopAtTheBoundsBeforeTheDayIsPinned) {
 TEST(DateSteps, StayAtTheEndsOfTheCalendar) {
     checkSteps({}, {
                        {"|31/12/9999", {9999, 12, 31}, 1, "31|/12/9999"},
-                       {"15/1|2/9999", {9999, 12, 15}, 1, "15/12|/9999"},
                        {"15/03/|9999", {9999, 3, 15}, 1, "15/03/9999|"},
                        {"|01/01/100", {100, 1, 1}, -1, "01|/01/100"},
                    });
@@ -218,38 +198,31 @@ TEST(DateSteps, StayAtTheEndsOfTheCalendar) {
 
 TEST(Dates, ArePinnedByTheRunTimeObject) {
     const DayPin payday{LastDay, [](Date date) { return Date{firstDayOfMonth(date).Serial + 24}; }};
-    EXPECT_EQ(pinned(Today, payday), day(2013, 3, 25));
     const FieldFormat format{std::u16string(DefaultDateFormat)};
     const BoxState box{u"31/03/2013", 0, day(2013, 3, 31)};
     const FieldStep step = stepDate(box, Today, 1, {format, AllDates, defaultRegion()}, payday);
     EXPECT_EQ(step.value, day(2013, 4, 25));
     EXPECT_EQ(step.caret, 2U) << "what the calendar's last day shows is the field's own text";
 
-    // Whoever pins no last day need not have a run-time object at hand.
-    EXPECT_EQ(pinned(Today, {FirstDay, {}}), day(2013, 3, 1));
-    EXPECT_EQ(pinned(Today, {BirthDay, {}}), Today);
+    EXPECT_EQ(pinned(Today, {FirstDay, {}}), day(2013, 3, 1)) << "for that none is needed";
 }
 
 TEST(Dates, AreCommittedWithinTheBoundsAndThenPinned) {
     const DateBounds bounds{day(2013, 3, 10), day(2013, 5, 20)};
     EXPECT_EQ(committed(day(2013, 3, 9), bounds, pin(Allow)), bounds.minimum);
-    EXPECT_EQ(committed(day(2013, 5, 21), bounds, pin(Allow)), bounds.maximum);
     EXPECT_EQ(committed(Today, bounds, pin(Allow)), Today);
     EXPECT_EQ(committed(day(2014, 1, 1), bounds, pin(LastDay)), day(2013, 5, 31));
-    EXPECT_EQ(committed(day(2013, 1, 1), bounds, pin(FirstDay)), day(2013, 3, 1));
 }
 
 TEST(Dates, AreSavedInEightDigitsOrAsNow) {
     EXPECT_EQ(savedDate(Today, Today), u"Now");
     EXPECT_EQ(savedDate(day(2014, 3, 5), Today), u"05032014");
-    EXPECT_EQ(savedDate(day(100, 12, 31), Today), u"31120100");
     EXPECT_EQ(savedDate(std::nullopt, Today), u"");
     for (const Date date : {day(2013, 4, 5), day(2020, 12, 5), AllDates.minimum, AllDates.maximum})
         EXPECT_EQ(loadedDate(savedDate(date, Today)), Variant(date));
     EXPECT_EQ(loadedDate(u"20131231"), Variant(Null{}));
     for (const std::u16string text : {u"Now", u"", u"15/3/2013", u"150313", u"150320130"})
         EXPECT_EQ(loadedDate(text), Variant(text));
-    EXPECT_EQ(AllDates, (DateBounds{day(FirstYear, 1, 1), day(LastYear, 12, 31), BoundsCompare::ByDay}));
 }
 
 TEST(DateKeys, StepMoveOnOrWrite) {

@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "controls/datetime/DateTimeText.h"
+#include "tests/Drawn.h"
 #include "values/Calendar.h"
-#include "values/Text.h"
 
 namespace kel::testing {
 
@@ -18,20 +18,15 @@ inline Date clock(std::int32_t hour, std::int32_t minute, std::int32_t second = 
     return timeOf({hour, minute, second}).value();
 }
 
-/// A text with its caret drawn in: "15/0|3/2013".
-struct DrawnBox {
-    std::u16string text;
-    std::size_t caret;
-
-    explicit DrawnBox(std::string_view drawn) : text(*fromUtf8(drawn)), caret(text.find(u'|')) { text.erase(caret, 1); }
-
-    BoxState holding(std::optional<Date> value) const { return {text, caret, value}; }
-};
+/// A box with its caret drawn in: "15/0|3/2013".
+inline BoxState box(std::string_view drawn, std::optional<Date> value) {
+    const test::Drawing drawing(drawn);
+    return {drawing.text, drawing.start, value};
+}
 
 /// As it stands in the box afterwards.
 inline std::string draw(const FieldStep& step) {
-    std::u16string text = step.text;
-    return toUtf8(text.insert(std::min(step.caret, text.size()), u"|"));
+    return toUtf8(test::drawnText(step.text, std::min(step.caret, step.text.size())));
 }
 
 }  // namespace kel::testing

@@ -26,19 +26,14 @@ TEST(FieldValue, IsComparedWithWhatTheHostKeeps) {
         {"emptied", Empty{}, Null{}, true, true},
         {"midnight is zero", Empty{}, Date{0}, false, false},
         {"entered", Empty{}, noon, true, true},
-        {"still nothing", Null{}, Null{}, false, false},
         {"assigned at last", Null{}, Empty{}, true, false},
-        {"entered where nothing was", Null{}, noon, true, false},
-        {"cleared", noon, Null{}, true, true},
         {"the same", noon, noon, false, false},
         {"another", Date{1.5}, noon, true, true},
         {"as a number", 0.5, noon, false, false},
-        {"as a whole number", std::int32_t{41348}, Date{41348}, false, false},
         {"as a short number", std::int16_t{2}, Date{3}, true, true},
         {"as a boolean", true, Date{-1}, false, false},
         {"as a text", u"12:00", noon, true, true},
         {"an empty text", u"", Empty{}, false, false},
-        {"an empty text and a date", u"", Date{0}, true, true},
         {"an object", ObjectPtr(), noon, true, true},
         {"left out", Missing{}, Empty{}, true, true},
     };
@@ -66,14 +61,12 @@ TEST(FieldBounds, GoByTime) {
     EXPECT_TRUE(day1850.contain({-18000.5}));
     EXPECT_EQ(day1850.clamp({-18000.125}), day1850.minimum);
     EXPECT_EQ(day1850.clamp({-18000.875}), day1850.maximum);
-    EXPECT_FALSE(day1850.contain({-18000}) || day1850.contain({-17999}));
 
     // Of dates, the days alone.
     DateBounds dates{day(2013, 3, 10), {day(2013, 5, 20).Serial + 0.25}, BoundsCompare::ByDay};
     dates.putMinimum({day(2013, 5, 20).Serial + 0.5});
     EXPECT_EQ(dates.maximum.Serial, day(2013, 5, 20).Serial + 0.25);
     EXPECT_TRUE(dates.contain(day(2013, 5, 20)));
-    EXPECT_EQ(dates.clamp(day(2013, 5, 19)), day(2013, 5, 20));
     EXPECT_EQ(dates.clamp(day(2013, 5, 21)), day(2013, 5, 20));
 
     const DateBounds crossed{day(2013, 5, 1), day(2013, 3, 1)};

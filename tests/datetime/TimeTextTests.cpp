@@ -12,13 +12,11 @@ namespace {
 
 using testing::clock;
 using testing::draw;
-using testing::DrawnBox;
 
 FieldStep step(const char16_t* format, const char* before, std::optional<Date> value, int delta,
                const DateBounds& bounds = AllTimes) {
     const FieldFormat compiled(format);
-    const DrawnBox box(before);
-    return stepTime(box.holding(value), clock(10, 15, 30), delta, {compiled, bounds, defaultRegion()});
+    return stepTime(testing::box(before, value), clock(10, 15, 30), delta, {compiled, bounds, defaultRegion()});
 }
 
 struct StepCase {
@@ -39,10 +37,7 @@ TEST(TimeSteps, MoveThePartAtTheCaret) {
     for (const char16_t* format : {u"hh:nn:ss", u"HH:NN:SS"}) {
         checkSteps(format, {
                                {"|10:15:30", {10, 15, 30}, 1, "11|:15:30"},
-                               {"10|:15:30", {10, 15, 30}, -1, "09|:15:30"},
                                {"10:|15:30", {10, 15, 30}, 1, "10:16|:30"},
-                               {"10:1|5:30", {10, 15, 30}, 1, "10:16|:30"},
-                               {"10:15|:30", {10, 15, 30}, -1, "10:14|:30"},
                                {"10:15:|30", {10, 15, 30}, 1, "10:15:31|"},
                                {"10:15:30|", {10, 15, 30}, -1, "10:15:29|"},
                                {"10:15:59|", {10, 15, 59}, 1, "10:16:00|"},
@@ -52,7 +47,6 @@ TEST(TimeSteps, MoveThePartAtTheCaret) {
     checkSteps(u"hh:nn am/pm", {
                                    {"|11:15 am", {11, 15, 0}, 1, "12|:15 pm"},
                                    {"11:|15 am", {11, 15, 0}, 1, "11:16| am"},
-                                   {"11:15 a|m", {11, 15, 0}, 1, "11:16| am"},
                                    {"11:15 am|", {11, 15, 0}, -1, "11:14| am"},
                                });
 }
@@ -74,8 +68,6 @@ TEST(TimeSteps, FindThePartsThatAFormatShows) {
                                                 {"9.59|", {9, 59, 0}, 1, "The hours: 10:00| Uhr"}});
     checkSteps(u"Long Time",
                {{"10:1|5:30", {10, 15, 30}, 1, "10:16|:30"}, {"10:15:30|", {10, 15, 30}, 1, "10:15:31|"}});
-    checkSteps(u"Medium Time", {{"10|:15 AM", {10, 15, 0}, 1, "11|:15 AM"}});
-    checkSteps(u"hh.mm", {{"10.|15", {10, 15, 0}, 1, "10.16|"}});
     checkSteps(u"Short Date", {{"30|/12/1899", {10, 15, 0}, 1, "30|/12/1899"}});
 }
 
@@ -94,7 +86,6 @@ TEST(TimeSteps, LeadToTheCurrentTimeFirst) {
 TEST(TimeSteps, StopAtTheBounds) {
     checkSteps(u"hh:nn:ss", {
                                 {"23:5|9:00", {23, 59, 0}, 1, "23:59|:59"},
-                                {"|23:00:00", {23, 0, 0}, 1, "23|:59:59"},
                                 {"00:00:00|", {0, 0, 0}, -1, "00:00:00|"},
                                 {"|00:30:00", {0, 30, 0}, -1, "00|:00:00"},
                             });
@@ -124,15 +115,12 @@ TEST(TimeFormat, WritesMinutesBehindHours) {
         const char16_t* corrected;
     } cases[] = {
         {u"hh:mm", u"hh:nn"},
-        {u"hh:mm:ss", u"hh:nn:ss"},
         {u"HH:MM", u"HH:NN"},
         {u"h:mM", u"h:nn"},
         {u"h:Mm am/pm", u"h:NN am/pm"},
         {u"dd/mm hh:mm", u"dd/mm hh:nn"},
         {u"hh:mmm", u"hh:nnm"},
         {u"hh:mm hh:mm", u"hh:nn hh:mm"},
-        {u"hh.mm", u"hh.mm"},
-        {u"hh:m", u"hh:m"},
         {u"mm:ss", u"mm:ss"},
         {u"hh:nn", u"hh:nn"},
         {u"", u""},
@@ -146,10 +134,8 @@ TEST(TimeBound, IsATimeOfDay) {
         Date kept;
     } cases[] = {
         {1.75, clock(18, 0)},
-        {0.75, clock(18, 0)},
         {2.25, clock(6, 0)},
         {-1.25, clock(18, 0)},
-        {-3, {0}},
         {41639.1, clock(2, 24)},
         {2958465 + clock(23, 59, 59).Serial, clock(23, 59, 59)},
         {41639 + 0.5 / SecondsPerDay + clock(2, 24).Serial, {41639 + 0.5 / SecondsPerDay + 0.1 - 41639}},
@@ -161,13 +147,6 @@ TEST(TimeBound, IsATimeOfDay) {
     for (const auto& test : cases) EXPECT_EQ(timeBound({test.put}).Serial, test.kept.Serial) << test.put;
     EXPECT_EQ(clockTime(36930.999), clock(10, 15, 30));
     EXPECT_EQ(clockTime(86400), clock(23, 59, 59)) << "a clock that rounds up to midnight names no later day";
-}
-
-TEST(Times, AreSavedTheSameEverywhere) {
-    EXPECT_EQ(savedTime(clock(0, 0)), u"00:00:00");
-    EXPECT_EQ(savedTime(clock(9, 5, 7)), u"09:05:07");
-    EXPECT_EQ(savedTime(clock(23, 59, 59)), u"23:59:59");
-    EXPECT_EQ(savedTime(std::nullopt), u"");
 }
 
 TEST(TimeKeys, StepMoveOnWriteOrAreRefused) {

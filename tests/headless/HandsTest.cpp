@@ -49,7 +49,7 @@ TEST_F(Hands, HandlersChangeAndSwallowKeys) {
     Window.focus(A);
     log();
     Control.changeCode = [](std::int16_t) { return std::int16_t{0}; };
-    press(Window, "Enter X Delete");
+    press(Window, "Enter Home Delete");
     EXPECT_EQ(log(), "a.KeyDown a.KeyDown a.KeyDown") << "a swallowed key gives no key-press";
     Control.changeCode = {};
     Control.changeKey = [](char32_t key) { return key == U'x' ? 0 : key == U'<' ? char32_t{8} : key - 32; };
@@ -256,21 +256,6 @@ TEST_F(Hands, HandlersChangeAndRefuseWhatIsPasted) {
     Control.changePaste = rows[2].makes;
     Box.moveSelection(0);
     EXPECT_EQ(drawn(Box), "1[2]3") << "a move is a paste";
-}
-
-TEST_F(Hands, TheKeypadsDecimalKeyHasItsOwnCodeAndTypesWhatTheLayoutGives) {
-    std::vector<std::int16_t> codes;
-    Control.changeCode = [&codes](std::int16_t code) {
-        codes.push_back(code);
-        return code;
-    };
-    Control.changeKey = [](char32_t key) { return key == U'.' ? U',' : key; };
-    Window.focus(A);
-    press(Window, "'1'");
-    Window.press({keys::Decimal, U'.', NoModifier});
-    press(Window, "'5'");
-    EXPECT_EQ(codes, std::vector<std::int16_t>{keys::Decimal});
-    EXPECT_EQ(drawn(Box), "1,5|");
 }
 
 TEST_F(Hands, WhatAnInputMethodTypesAfterTheKeypadsDecimalKeyIsWhatItIs) {

@@ -36,16 +36,6 @@ TEST(Home, TheContainerSizesAControlOnceForEachNewSize) {
     EXPECT_EQ(ProbeControl::takeLog(), "a.Show b.Show");
 }
 
-TEST(Home, OnlyPanelsHoldOtherBlocks) {
-    TestForm form;
-    for (const auto kind : {ForeignBlock::Kind::Label, ForeignBlock::Kind::Button, ForeignBlock::Kind::Panel,
-                            ForeignBlock::Kind::Line, ForeignBlock::Kind::Other}) {
-        const ForeignBlock block{.kind = kind, .placement = {}, .className = {}, .caption = {}, .line = {}};
-        EXPECT_EQ(form.window().placeForeign(block) != nullptr, kind == ForeignBlock::Kind::Panel);
-    }
-    EXPECT_FALSE(form.window().savePicture("unseen.png"));
-}
-
 TEST(Home, TheRunTimeObjectFollowsTheOptions) {
     const RegionalSettings* const german = findRegion(u"de-DE");
     ASSERT_NE(german, nullptr);

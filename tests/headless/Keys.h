@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -16,5 +17,8 @@ void put(TextEntry& box, std::string_view drawing);
 
 /// Presses keys, separated by blanks: `'text'` types it, `paste'text'` pastes it, `Ctrl+Left*3` is a key.
 void press(FormWindow& window, std::string_view keys);
+
+using Strike = std::function<void(const KeyStroke&)>;
+void press(const Strike& strike, const std::function<void(std::u16string_view)>& setClipboard, std::string_view keys);
 
 }  // namespace kel::test

@@ -73,19 +73,6 @@ TEST_F(Dispatch, FindsMembersByNameInAnyCaseAndByIdentifier) {
     EXPECT_EQ(findMember(SampleModel, 99), nullptr);
 }
 
-TEST_F(Dispatch, ConvertsWhatCanBeConverted) {
-    EXPECT_TRUE(put(u"Count", u"12").ok());
-    EXPECT_EQ(sample.Count, 12);
-    EXPECT_TRUE(put(u"Count", 2.5).ok());
-    EXPECT_EQ(sample.Count, 2);
-    EXPECT_TRUE(put(u"Count", true).ok());
-    EXPECT_EQ(sample.Count, -1);
-    EXPECT_TRUE(put(u"Name", 12.5).ok());
-    EXPECT_EQ(sample.Name, u"12.5");
-    EXPECT_TRUE(get(u"Size", none).ok());
-    EXPECT_EQ(std::get<double>(result), 2.5);
-}
-
 TEST_F(Dispatch, RefusesWhatCannotAndChangesNothing) {
     const struct {
         Variant value;
@@ -121,12 +108,6 @@ TEST_F(Dispatch, CountsArgumentsAndFillsInOptionalOnes) {
     EXPECT_TRUE(call(u"Add", {40, u"2"}).ok());
     EXPECT_EQ(std::get<std::int32_t>(result), 42);
     EXPECT_EQ(call(u"Add", {40, u"x"}), (DispatchFault{Kind::TypeMismatch, 1}));
-}
-
-TEST_F(Dispatch, NeverChangesTheCallersVariable) {
-    const Variant value = std::int32_t{12};
-    EXPECT_TRUE(put(u"Name", value).ok());
-    EXPECT_EQ(value, Variant(std::int32_t{12}));
 }
 
 TEST_F(Dispatch, SaysWhatIsWrong) {

@@ -7,32 +7,20 @@
 #include "library/AutomationError.h"
 #include "library/Dispatch.h"
 #include "platform/headless/HeadlessHome.h"
+#include "tests/runtime/RegionalServices.h"
 
 namespace kel {
 namespace {
 
-class HostRuntime final : public Runtime {
-public:
-    std::int32_t ColorDepth() override { return Depth; }
-    std::u16string DecimalSeparator() override { return Separator; }
-    std::int16_t DecimalDigits() override {
-        if (Digits < 0) throw AutomationError(UnknownNameCode, "no member DecimalDigits");
-        return Digits;
+/// A host whose region no other has.
+struct Host {
+    RegionalSettings region{.DecimalSeparator = u";!", .DecimalDigits = 3};
+    RegionalServices services;
+
+    std::shared_ptr<Runtime> runtime() {
+        services.Region = &region;
+        return makeRuntime(services);
     }
-    std::u16string CaptionFontName() override { return u"F"; }
-    double CaptionFontSize() override { return 8; }
-    std::u16string FieldFontName() override { return u"F"; }
-    double FieldFontSize() override { return 8; }
-    void SendKey(std::int16_t) override {}
-    std::shared_ptr<kel::RuntimeDates> RuntimeDates() override { return nullptr; }
-    std::u16string ListAppend(std::u16string list, std::u16string_view) override { return list; }
-    std::u16string ReadField(const std::u16string&, std::int32_t& position, std::int16_t) override {
-        position = -1;
-        return {};
-    }
-    std::int32_t Depth = 24;
-    std::u16string Separator = u";!";
-    std::int16_t Digits = 3;
 };
 
 class NoRuntime final : public Object {};
@@ -52,15 +40,16 @@ protected:
 };
 
 TEST_F(SetRuntime, TakesOverEachTime) {
-    auto first = std::make_shared<HostRuntime>();
+    Host host;
+    const auto first = host.runtime();
     hand(first);
     EXPECT_EQ(settings.Runtime, first);
     EXPECT_EQ(settings.DecimalSeparatorCode, u';');
     EXPECT_EQ(settings.DefaultDecimals, 3);
     EXPECT_EQ(settings.FieldBackFocus, 0x00C0FFC0U);
-    auto second = std::make_shared<HostRuntime>();
-    second->Depth = 8;
-    second->Separator = u",";
+    host.services.Depth = 8;
+    host.region.DecimalSeparator = u",";
+    const auto second = host.runtime();
     hand(second);
     EXPECT_EQ(settings.Runtime, second);
     EXPECT_EQ(settings.DecimalSeparatorCode, u',');
@@ -68,12 +57,7 @@ TEST_F(SetRuntime, TakesOverEachTime) {
     EXPECT_EQ(settings.ButtonWidthPixels, 0) << "only loading a control computes it";
 }
 
-TEST_F(SetRuntime, FailsWithTheObjectsOwnError) {
-    auto broken = std::make_shared<HostRuntime>();
-    broken->Digits = -1;
-    EXPECT_THROW(hand(broken), AutomationError);
-    EXPECT_THROW(hand(std::make_shared<NoRuntime>()), AutomationError);
-}
+TEST_F(SetRuntime, FailsWithTheObjectsOwnError) { EXPECT_THROW(hand(std::make_shared<NoRuntime>()), AutomationError); }
 
 class DefaultsBag final : public PropertyBag {
     Variant readProperty(const PersistedRow& row) override { return toVariant(row.readDefault); }
@@ -83,7 +67,8 @@ class DefaultsBag final : public PropertyBag {
 TEST(LoadingAControl, MakesADefaultRuntimeUnlessTheHostGaveOne) {
     for (const bool handedOver : {false, true}) {
         const auto home = headless::makeHome({.region = findRegion(u"de-DE"), .colorDepth = 24, .twipsPerPixel = 12});
-        const auto given = std::make_shared<HostRuntime>();
+        Host host;
+        const auto given = host.runtime();
         if (handedOver) adoptRuntime(home->settings(), given);
         const auto window = home->makeWindow({}, home->system());
         SilentObserver observer;

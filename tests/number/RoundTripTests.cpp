@@ -2,8 +2,6 @@
 
 #include <bit>
 #include <cmath>
-#include <cstdlib>
-#include <cstring>
 #include <random>
 
 #include "controls/number/NumberText.h"
@@ -15,7 +13,7 @@
 namespace kel {
 namespace {
 
-std::size_t caseCount = 20000;
+constexpr std::size_t CaseCount = 20000;
 
 class Numbers {
 public:
@@ -54,7 +52,7 @@ void expectReadsBack(const std::u16string& shown, double number, std::int16_t de
 TEST(RoundTrip, WhatIsShownReadsBackInEveryRegion) {
     Numbers numbers;
     const auto names = regionNames();
-    for (std::size_t i = 0; i < caseCount; ++i) {
+    for (std::size_t i = 0; i < CaseCount; ++i) {
         const RegionalSettings& region = *findRegion(names[i % names.size()]);
         const auto decimals = static_cast<std::int16_t>(numbers.below(17U));
         const bool group = numbers.below(2U) == 0;
@@ -74,7 +72,7 @@ TEST(RoundTrip, WhatIsShownReadsBackInEveryRegion) {
 /// Half of a last place is the most that rounding moves a number, and a rounded number stays.
 TEST(RoundTrip, RoundingMovesByHalfAPlaceAtMost) {
     Numbers numbers;
-    for (std::size_t i = 0; i < caseCount; ++i) {
+    for (std::size_t i = 0; i < CaseCount; ++i) {
         const double number = std::fmod(numbers.next(), 1e6);
         const auto places = static_cast<std::int32_t>(numbers.below(9U));
         const double result = roundDecimally(number, places);
@@ -86,14 +84,3 @@ TEST(RoundTrip, RoundingMovesByHalfAPlaceAtMost) {
 
 }  // namespace
 }  // namespace kel
-
-/// `--cases=N` asks for another number of random cases than the usual test run's.
-int main(int argc, char** argv) {
-    testing::InitGoogleTest(&argc, argv);
-    constexpr char Option[] = "--cases=";
-    for (int i = 1; i < argc; ++i) {
-        if (std::strncmp(argv[i], Option, sizeof Option - 1) == 0)
-            kel::caseCount = std::strtoul(argv[i] + sizeof Option - 1, nullptr, 10);
-    }
-    return RUN_ALL_TESTS();
-}

@@ -92,26 +92,6 @@ TEST_F(Progress, ALongJobCostsNothingWhileTheBarStands) {
     EXPECT_EQ(It.get_Value(), 100'000);
 }
 
-TEST_F(Progress, AReportedBoundIsInForceAndTheOtherFollows) {
-    It.put_Min(200);
-    EXPECT_EQ(It.get_Max(), 200);
-    It.put_Max(-7);
-    EXPECT_EQ(It.get_Min(), -7);
-    EXPECT_EQ(It.get_Value(), 1) << "stays until the next one is put";
-    EXPECT_EQ(Form.told(), (Lines{"Min", "Max"}));
-    It.Start();
-    EXPECT_EQ(It.get_Value(), -7);
-    EXPECT_EQ(text(), "") << "a start draws nothing";
-
-    TestBag bag;
-    It.WriteProperties(bag);
-    OneControl copy(KelProgressBarModel);
-    copy.as<KelProgressBar>().ReadProperties(bag);
-    EXPECT_EQ(copy.told(), (Lines{"Min", "Max", "ShowTime"}));
-    EXPECT_EQ(copy.as<KelProgressBar>().get_Min(), -7);
-    EXPECT_EQ(copy.as<KelProgressBar>().get_Max(), -7);
-}
-
 TEST_F(Progress, ColorEnabledAndTooltipReachTheSurface) {
     EXPECT_EQ(Surface.foreColor(), colors::SystemHighlight) << "the bar would be as black as its text";
     It.put_Enabled(false);

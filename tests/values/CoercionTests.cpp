@@ -49,11 +49,9 @@ TEST(Coercion, ToBoolean) {
         {"a word", text(u"tRUE"), None, true},
         {"a word between blanks", text(u" False "), None, false},
         {"a number as text", text(u"-1"), None, true},
-        {"zero as text", text(u"0,0"), None, false, u"de-DE"},
         {"another word", text(u"yes"), Mismatch},
         {"an empty text", text(u""), Mismatch},
         {"an argument left out", Missing{}, Mismatch},
-        {"a list", StringArray{u"1"}, Mismatch},
     };
     check(cases, true);
 }
@@ -63,7 +61,6 @@ TEST(Coercion, ToIntegers) {
         {"nothing yet", Empty{}, None, 0},
         {"True", true, None, -1},
         {"half to even, down", 12.5, None, 12},
-        {"half to even, up", 13.5, None, 14},
         {"less than half", 0.49999999999999994, None, 0},
         {"the largest, rounded down", 32767.4, None, 32767},
         {"the largest and a half", 32767.5, Overflow},
@@ -73,18 +70,13 @@ TEST(Coercion, ToIntegers) {
         {"text", text(u" 12 "), None, 12},
         {"text with a decimal comma", text(u"12,5"), None, 12, u"de-DE"},
         {"text with another region's comma", text(u"12,5"), Mismatch},
-        {"text too large", text(u"1E5"), Overflow},
         {"infinity", Infinity, Overflow},
-        {"not a number", NoNumber, Overflow},
         {"no value", Null{}, Mismatch},
-        {"an object", ObjectPtr{}, Mismatch},
     };
     check<std::int16_t>(shorts, 77);
     const Case<std::int32_t> longs[] = {
-        {"the largest", 2147483647.4, None, 2147483647},
         {"above the largest", 2147483647.5, Overflow},
         {"the smallest", -2147483648.5, None, std::numeric_limits<std::int32_t>::min()},
-        {"below the smallest", -2147483649.0, Overflow},
         {"far beyond", 1e300, Overflow},
     };
     check<std::int32_t>(longs, 77);
@@ -93,15 +85,12 @@ TEST(Coercion, ToIntegers) {
 TEST(Coercion, ToDoubleAndDate) {
     const Case<double> doubles[] = {
         {"nothing yet", Empty{}, None, 0.0},
-        {"False", false, None, 0.0},
         {"a date and time", Date{-1.25}, None, -1.25},
         {"text", text(u"-1,25"), None, -1.25, u"fr-FR"},
     };
     check(doubles, 77.0);
     const Case<Date> dates[] = {
         {"nothing yet", Empty{}, None, {0}},
-        {"True", true, None, {-1}},
-        {"a serial", 41639.75, None, {41639.75}},
         {"a serial as text", text(u"41639.75"), None, {41639.75}},
         {"the last second of the calendar", 2958465.9999, None, {2958465.9999}},
         {"the day after the calendar", 2958466.0, Overflow},
@@ -117,14 +106,12 @@ TEST(Coercion, ToDoubleAndDate) {
 TEST(Coercion, ToText) {
     const Case<std::u16string> cases[] = {
         {"nothing yet", Empty{}, None, u""},
-        {"True", true, None, u"True"},
         {"the smallest long integer", std::numeric_limits<std::int32_t>::min(), None, u"-2147483648"},
         {"a number", 0.1, None, u"0.1"},
         {"a number elsewhere", -12.5, None, u"-12,5", u"de-DE"},
         {"a number where digits differ", 12.5, None, u"12\u066B5", u"ar-EG"},
         {"a day serial", Date{41639.75}, None, u"41639.75"},
         {"no value", Null{}, Mismatch},
-        {"a list", StringArray{u"a"}, Mismatch},
     };
     check<std::u16string>(cases, u"untouched");
 }
@@ -154,11 +141,9 @@ TEST(ShortestNumber, IsPlainInTheMiddleAndScientificOutside) {
     } cases[] = {
         {0.0, u"0"},
         {-0.0, u"0"},
-        {-0.1, u"-0.1"},
         {1e14, u"100000000000000"},
         {999999999999999.9, u"999999999999999.9"},
         {1e15, u"1E+15"},
-        {1e20, u"1E+20"},
         {-1.5e300, u"-1.5E+300"},
         {0.00001, u"0.00001"},
         {-0.000012345678901234567, u"-0.000012345678901234568"},
@@ -175,10 +160,8 @@ TEST(PlainNumber, ReadsWhatIsANumberAndNothingElse) {
         std::u16string_view region = u"en-GB";
     } cases[] = {
         {u"\t+12.50\u00A0\u202F\r\n", 12.5},
-        {u".5", 0.5},
         {u"-0", 0.0},
         {u"\u22125", -5.0},
-        {u"1e3", 1000.0},
         {u"1.5E-\u0033", 0.0015},
         {u"000000000000000000000000000012", 12.0},
         {u"1e400", std::nullopt},
@@ -189,22 +172,18 @@ TEST(PlainNumber, ReadsWhatIsANumberAndNothingElse) {
         {u"1e-999999999999999999999", 0.0},
         {u"9007199254740993", 9007199254740992.0},
         {u"9007199254740993.00000000000000000000000000000000000000000000000000000000001", 9007199254740994.0},
-        {u"12.5", std::nullopt, u"de-DE"},
         {u"12,5", 12.5, u"de-DE"},
         {u"\u061C-\u0661\u0662\u066B\u0665", -12.5, u"ar-EG"},
         {u"-1\u0662\u066B5", -12.5, u"ar-EG"},
         {u"\u06F1", std::nullopt, u"ar-EG"},
         {u"", std::nullopt},
-        {u"-", std::nullopt},
         {u"e5", std::nullopt},
         {u"1e", std::nullopt},
         {u"1,000", std::nullopt},
-        {u"1 000", std::nullopt},
         {u"--1", std::nullopt},
         {u"- 1", std::nullopt},
         {u"5-", std::nullopt},
         {u"0x10", std::nullopt},
-        {u"inf", std::nullopt},
         {u"1\xD835", std::nullopt},
     };
     for (const auto& [text, expected, region] : cases) {

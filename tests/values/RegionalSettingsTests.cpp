@@ -42,14 +42,11 @@ TEST(Regions, WriteNumbersAsTheirPeopleDo) {
         int primary, secondary, minimum;
     } cases[] = {
         {u"en-GB", u".", u",", u"-", U'0', 3, 3, 1},
-        {u"de-CH", u".", u"\u2019", u"-", U'0', 3, 3, 1},
         {u"fr-FR", u",", u"\u202F", u"-", U'0', 3, 3, 1},
         {u"sv-SE", u",", u"\u00A0", u"\u2212", U'0', 3, 3, 1},
         {u"es-ES", u",", u".", u"-", U'0', 3, 3, 2},
-        {u"pl-PL", u",", u"\u00A0", u"-", U'0', 3, 3, 2},
         {u"hi-IN", u".", u",", u"-", U'0', 3, 2, 1},
         {u"ar-EG", u"\u066B", u"\u066C", u"\u061C-", U'\u0660', 3, 3, 1},
-        {u"fa-IR", u"\u066B", u"\u066C", u"\u200E\u2212", U'\u06F0', 3, 3, 1},
     };
     for (const auto& expected : cases) {
         SCOPED_TRACE(toUtf8(expected.name));
@@ -70,15 +67,11 @@ TEST(Regions, WriteDatesAndTimesAsTheirPeopleDo) {
         std::u16string_view name, shortDate, separator, longDate, time, timeSeparator;
         int firstDay;
     } cases[] = {
-        {u"en-GB", u"dd/mm/yyyy", u"/", u"dddd, d mmmm yyyy", u"hh:nn:ss", u":", 2},
         {u"en-US", u"m/d/yyyy", u"/", u"dddd, mmmm d, yyyy", u"h:nn:ss AMPM", u":", 1},
         {u"de-DE", u"dd/mm/yyyy", u".", u"dddd, d\\. mmmm yyyy", u"hh:nn:ss", u":", 2},
-        {u"nl-NL", u"dd/mm/yyyy", u"-", u"dddd d mmmm yyyy", u"hh:nn:ss", u":", 2},
         {u"da-DK", u"dd/mm/yyyy", u".", u"dddd \"den\" d\\. mmmm yyyy", u"hh:nn:ss", u".", 2},
         {u"hu-HU", u"yyyy/mm/dd\\.", u". ", u"yyyy\\. mmmm d\\., dddd", u"h:nn:ss", u":", 2},
         {u"ko-KR", u"yyyy/m/d\\.", u". ", u"yyyy\\년 m\\월 d\\일 dddd", u"AMPM h:nn:ss", u":", 1},
-        {u"bg-BG", u"d/mm/yyyy", u".", u"dddd, d mmmm yyyy \"г.\"", u"h:nn:ss", u":", 2},
-        {u"fr-CA", u"yyyy/mm/dd", u"-", u"dddd d mmmm yyyy", u"hh:nn:ss", u":", 1},
         {u"ar-EG", u"d/m/yyyy", u"\u200F/", u"dddd\\، d mmmm yyyy", u"h:nn:ss AMPM", u":", 7},
     };
     for (const auto& expected : cases) {
