@@ -6,14 +6,12 @@
 #include <QTest>
 #include <QWheelEvent>
 
-#include "common/basKelControls.h"
 #include "controls/combo/KelCombo.h"
 #include "library/SharedSettings.h"
 #include "platform/qt/home/QtHome.h"
 #include "platform/qt/widgets/ComboList.h"
 #include "tests/qt/ProbeForm.h"
 #include "tests/qt/QtForm.h"
-#include "values/Text.h"
 
 /// A combo field on the screen: what its list does for hands, keys and eyes.
 namespace kel::test {
@@ -23,20 +21,15 @@ constexpr Rect First{120, 75, 4500, 300};
 constexpr Rect Second{120, 450, 4500, 300};
 constexpr char16_t Fruits[] = u"Apple,Apricot,Banana,Cherry,Damson,Elder,Fig,Grape,Hazel,Iris";
 
-class Combo : public testing::Test, private ControlObserver {
+class Combo : public testing::Test {
 protected:
-    Combo() : Home_(qt::makeHome({})) {
-        InitControls(settings(), Home_->system());
-        Window_ = Home_->makeWindow({u"Combos", {6000, 3000}, false}, Home_->system());
-        first = &place(u"a", First);
-        second = &place(u"b", Second);
-        Window_->show();
+    Combo() : form(qt::makeHome({})), first(&place(u"a", First)), second(&place(u"b", Second)) {
+        form.show();
+        form.takeLog();
     }
 
     PlacedControl& place(const std::u16string& name, const Rect& bounds) {
-        PlacedControl& placed = Window_->place(KelComboModel, {.name = name, .bounds = bounds}, *this);
-        placed.control().InitProperties();
-        placed.setBounds(bounds);
+        PlacedControl& placed = form.placeAt({.name = name, .bounds = bounds}, KelComboModel);
         comboOf(placed).put_List(Fruits);
         return placed;
     }
@@ -52,9 +45,8 @@ protected:
     bool isOpen() { return box().list() != nullptr && list().isVisible(); }
     QPoint middleOf(int row) { return list().visualRect(list().model()->index(row, 0)).center(); }
 
-    FormWindow& window() { return *Window_; }
-    void unload() { Window_.reset(); }
-    SharedSettings& settings() { return Home_->settings(); }
+    FormWindow& window() { return form.window(); }
+    SharedSettings& settings() { return form.home().settings(); }
     void key(std::int16_t code, Modifiers modifiers = NoModifier) { window().press({code, 0, modifiers}); }
     void open() {
         window().focus(*first);
@@ -62,33 +54,19 @@ protected:
         ASSERT_TRUE(isOpen());
     }
 
-    std::string takeLog() { return std::exchange(Log_, {}); }
-    /// Runs when the user has picked an item.
-    std::function<void()> onClick;
-
+    TextForm form;
     PlacedControl* first;
     PlacedControl* second;
-
-private:
-    void controlEvent(PlacedControl& control, const EventRow& event, std::span<Variant>) override {
-        Log_ += toUtf8(control.name()) + "." + toUtf8(event.name) + " ";
-        if (onClick && event.name == u"Click") onClick();
-    }
-    void propertyReported(PlacedControl&, std::u16string_view) override {}
-
-    std::unique_ptr<Home> Home_;
-    std::unique_ptr<FormWindow> Window_;
-    std::string Log_;
 };
 
 // ---- Hands and keys
 
 TEST_F(Combo, WhatAReadersToolWritesIsTyping) {
     window().focus(*first);
-    takeLog();
+    form.takeLog();
     QAccessible::queryAccessibleInterface(&box())->setText(QAccessible::Value, QStringLiteral("Iris"));
     EXPECT_EQ(drawn(text()), "Iris|");
-    EXPECT_EQ(takeLog(), "a.ChangeEx a.Change ");
+    EXPECT_EQ(form.takeLog(), "a.ChangeEx(Iris) a.Change(Iris) ");
 }
 
 TEST_F(Combo, TheListIsNoChangeOfFocus) {
@@ -118,12 +96,14 @@ TEST_F(Combo, ClosesWhenItIsBarredOrGone) {
         EXPECT_FALSE(first->control().widgets().comboBox->isDropped()) << what;
     }
     open();
-    unload();
+    form.unload();
     letGo();
 }
 
 TEST_F(Combo, ThePickedItemMayEndTheForm) {
-    onClick = [this] { unload(); };
+    form.onEvent = [this](PlacedControl&, const EventRow& event) {
+        if (event.name == u"Click") form.unload();
+    };
     window().focus(*first);
     first->control().widgets().comboBox->showDropDown(true);
     const QPoint row = middleOf(1);
@@ -131,7 +111,7 @@ TEST_F(Combo, ThePickedItemMayEndTheForm) {
     pressMouse(*list().viewport(), row);
     releaseMouse(*list().viewport(), row);
     letGo();
-    EXPECT_EQ(takeLog(), "a.ChangeEx a.Click ");
+    EXPECT_EQ(form.takeLog(), "a.ChangeEx(Apricot) a.Click(Apricot) ");
 }
 
 // ---- Mouse
@@ -152,7 +132,7 @@ TEST_F(Combo, TheButtonOpensAndCloses) {
     pressMouse(box(), {4, 10});
     EXPECT_FALSE(isOpen()) << "a press elsewhere";
     releaseMouse(box(), {4, 10});
-    EXPECT_EQ(takeLog(), "");
+    EXPECT_EQ(form.takeLog(), "");
 }
 
 TEST_F(Combo, RowsFollowThePointer) {
@@ -192,7 +172,7 @@ TEST_F(Combo, TheWheelIsTheFormsAndScrollsTheOpenList) {
 
 TEST_F(Combo, TheListStandsAtTheBox) {
     const auto boxOnScreen = [this] { return QRect(box().mapToGlobal(QPoint()), box().size()); };
-    QWidget& form = *box().window();
+    QWidget& top = *box().window();
     open();
     EXPECT_EQ(list().geometry().topLeft(), boxOnScreen().bottomLeft() + QPoint(0, 1));
     EXPECT_EQ(list().width(), box().width());
@@ -204,15 +184,15 @@ TEST_F(Combo, TheListStandsAtTheBox) {
     combo().put_DropDownWidth(6000);
     EXPECT_EQ(list().width(), 400) << "while it is open";
     key(keys::Escape);
-    form.setLayoutDirection(Qt::RightToLeft);
-    form.move(300, 100);
+    top.setLayoutDirection(Qt::RightToLeft);
+    top.move(300, 100);
     open();
     EXPECT_EQ(list().width(), 400);
     EXPECT_EQ(list().geometry().right(), boxOnScreen().right());
     EXPECT_LT(list().height(), 4 * box().height()) << "no longer than its items";
     key(keys::Escape);
 
-    form.move(0, form.screen()->availableGeometry().bottom() - 40);
+    top.move(0, top.screen()->availableGeometry().bottom() - 40);
     open();
     EXPECT_EQ(list().geometry().bottom(), boxOnScreen().top() - 1) << "no room below";
 }

@@ -108,12 +108,6 @@ TEST(EditBox, AssistiveWritingPassesTheControlsRules) {
         put(field.box(), "|ab");
         insert(field.widget(), 2, QStringLiteral("xyz"));
         EXPECT_EQ(drawn(field.box()), "abxy|") << "no longer than it may be";
-        textOf(field.placed).entry().put_MaxLength(0);
-        textOf(field.placed).entry().put_Locked(true);
-        field.form.takeLog();
-        insert(field.widget(), 0, QStringLiteral("x"));
-        EXPECT_TRUE(field.box().text() == u"abxy");
-        EXPECT_EQ(field.form.takeLog(), "");
     }
 }
 
@@ -124,13 +118,9 @@ TEST(EditBox, KeysThatMeanNothingHereGoOn) {
         bool claimed;  ///< ahead of the window's shortcuts
         bool used;
     };
-    const Case cases[] = {
-        {strokeFor(U'x'), false, true, true},
-        {{'S', 0, ControlKey}, false, false, false},
-        {{keys::Insert, 0, NoModifier}, false, true, false},
-        {{keys::Up, 0, NoModifier}, true, true, true},
-        {{keys::Tab, 0, ControlKey}, true, false, false},
-    };
+    const Case cases[] = {{{keys::Insert}, false, true, false},
+                          {{keys::Up}, true, true, true},
+                          {{keys::Tab, 0, ControlKey}, true, false, false}};
     for (const Case& row : cases) {
         OneField field(row.multiLine);
         const qt::QtKey key = qt::keyFor(row.stroke);

@@ -41,31 +41,6 @@ TEST(FormWindow, TabFollowsTheIndexNotThePlace) {
     EXPECT_EQ(form.window().focused(), clicked) << "no tab stop, but it takes clicks";
 }
 
-TEST(FormWindow, ClicksPutTheCaretExactly) {
-    TextForm form(qt::makeHome({}));
-    PlacedControl& line = form.place(u"a");
-    PlacedControl& several = form.place(u"b", 600);
-    textOf(several).put_MultiLine(true);
-    form.show();
-    std::u16string text = u"iWi\U0001F600e\u0301";
-    text += std::u16string(400, u'w');
-    for (PlacedControl* const placed : {&line, &several}) {
-        textOf(*placed).put_Text(text);
-        for (const std::int32_t position : {0, 1, 3, 5, 7, 400, 405, 9999}) {
-            boxOf(*placed).setSelStart(1);
-            boxOf(*placed).setSelLength(200);
-            form.window().click(*placed, position);
-            EXPECT_EQ(boxOf(*placed).selStart(), std::min(position, boxOf(*placed).textLength()));
-            EXPECT_EQ(boxOf(*placed).selLength(), 0);
-        }
-    }
-    form.takeLog();
-    form.window().rightClick(line);
-    EXPECT_EQ(form.takeLog(), "") << "the right button is no click";
-    EXPECT_EQ(form.window().focused(), &line);
-    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-}
-
 /// Twips do not always fill whole pixels: neighbours still touch, and give their sizes back unchanged.
 TEST(FormWindow, KeepsTwipsAndTouchesInPixels) {
     HomeOptions options;

@@ -20,28 +20,11 @@ TEST(KeyMap, StrokesComeBackFromQt) {
         EXPECT_EQ(keyPressCharacter(back), character);
         EXPECT_EQ(back.modifiers, stroke.modifiers);
     }
-    const std::int16_t codes[] = {keys::Backspace,
-                                  keys::Tab,
-                                  keys::Enter,
-                                  keys::Escape,
-                                  keys::PageUp,
-                                  keys::PageDown,
-                                  keys::End,
-                                  keys::Home,
-                                  keys::Left,
-                                  keys::Up,
-                                  keys::Right,
-                                  keys::Down,
-                                  keys::Insert,
-                                  keys::Delete,
-                                  keys::F4,
-                                  keys::Decimal,
-                                  'A',
-                                  'V',
-                                  'Z',
-                                  '5',
-                                  101};
-    for (const std::int16_t code : codes) {
+    // Those of a keyboard, a letter, a digit and the keypad's five.
+    for (const std::int16_t code :
+         {keys::Backspace, keys::Tab, keys::Enter, keys::Escape, keys::PageUp, keys::PageDown, keys::End, keys::Home,
+          keys::Left, keys::Up, keys::Right, keys::Down, keys::Insert, keys::Delete, keys::F4, keys::Decimal,
+          std::int16_t{'A'}, std::int16_t{'5'}, std::int16_t{101}}) {
         for (unsigned modifiers = 0; modifiers < 8; ++modifiers) {
             const KeyStroke stroke{code, 0, static_cast<Modifiers>(modifiers)};
             const KeyStroke back = throughQt(stroke);

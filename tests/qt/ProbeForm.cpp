@@ -8,7 +8,6 @@
 
 #include "platform/qt/home/QtHome.h"
 #include "platform/qt/widgets/QtUpDown.h"
-#include "values/Text.h"
 
 namespace kel::test {
 
@@ -45,16 +44,12 @@ QPoint placeInWindow(const QWidget& widget, const QPoint& place) { return widget
 
 }  // namespace
 
-ProbeForm::ProbeForm() : Home_(qt::makeHome({})) {
-    Window_ = Home_->makeWindow({u"Probes", {4500, 3000}, false}, Home_->system());
-    Window_->setClipboard(u"");
-}
+ProbeForm::ProbeForm() : TextForm(qt::makeHome({})) {}
 
-PlacedControl& ProbeForm::place(const std::u16string& name, const ClassModel& model, bool tabStop) {
+PlacedControl& ProbeForm::place(const std::u16string& name, const ClassModel& model) {
     const Rect bounds{0, NextTop_, BoxBounds.width + SpinnerBounds.width, BoxBounds.height};
     NextTop_ += RowHeight;
-    PlacedControl& placed = Window_->place(model, {.name = name, .bounds = bounds, .tabStop = tabStop}, *this);
-    placed.setBounds(bounds);
+    PlacedControl& placed = placeAt({.name = name, .bounds = bounds}, model);
     ProbeControl& control = probe(placed);
     control.box().move(BoxBounds);
     control.spinner().move(SpinnerBounds);
@@ -64,18 +59,8 @@ PlacedControl& ProbeForm::place(const std::u16string& name, const ClassModel& mo
 }
 
 void ProbeForm::show() {
-    Window_->show();
+    TextForm::show();
     ProbeControl::takeLog();
-}
-
-std::string ProbeForm::focused() const {
-    const PlacedControl* const holder = Window_->focused();
-    return holder == nullptr ? "nowhere" : toUtf8(holder->name());
-}
-
-void ProbeForm::raise(PlacedControl& placed, std::function<void()> handler) {
-    Handler_ = std::move(handler);
-    probe(placed).host().container.raiseEvent({.name = u"Event", .id = 1, .help = {}}, {});
 }
 
 QWidget& boxWidgetOf(PlacedControl& placed) { return dynamic_cast<QWidget&>(*probe(placed).box().view()); }

@@ -30,9 +30,15 @@ PlacedControl& TextForm::placeAt(const Placement& placement, const ClassModel& m
     PlacedControl& placed = Window_->place(model, placement, *this);
     placed.control().InitProperties();
     placed.setBounds(placement.bounds);
-    putMember(placed.control(), *findMember(model, u"Enabled"), true, Home_->region());
+    if (const MemberRow* const enabled = findMember(model, u"Enabled"))
+        putMember(placed.control(), *enabled, true, Home_->region());
     Log_.clear();
     return placed;
+}
+
+std::string TextForm::focused() const {
+    const PlacedControl* const holder = Window_->focused();
+    return holder == nullptr ? "nowhere" : toUtf8(holder->name());
 }
 
 void TextForm::controlEvent(PlacedControl& control, const EventRow& event, std::span<Variant> /*arguments*/) {

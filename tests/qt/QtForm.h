@@ -14,17 +14,22 @@
 namespace kel::test {
 
 /// A form of fields, one below the other, on the home given. What they tell is written down.
-class TextForm final : private ControlObserver {
+class TextForm : private ControlObserver {
 public:
     explicit TextForm(std::unique_ptr<Home> home);
+    virtual ~TextForm() = default;
 
     PlacedControl& place(std::u16string_view name, std::int32_t heightTwips = 300,
                          const ClassModel& model = KelTextModel);
     PlacedControl& placeAt(const Placement& placement, const ClassModel& model = KelTextModel);
     void show() { Window_->show(); }
+    /// Destroys the window with all that is on it.
+    void unload() { Window_.reset(); }
 
     FormWindow& window() { return *Window_; }
     Home& home() { return *Home_; }
+    /// "a", or "nowhere".
+    std::string focused() const;
 
     /// "a.Change(text) b.Click() " since the last time.
     std::string takeLog() { return std::exchange(Log_, {}); }

@@ -121,7 +121,8 @@ TEST_F(Spinner, OutlivesAFormThatItsHandlerUnloads) {
     int calls = 0;
     control.on("Spin2", [&] {
         ++calls;
-        form.raise(second, [this] { form.unload(); });
+        form.onEvent = [this](auto&&...) { form.unload(); };
+        control.host().container.raiseEvent({.name = u"Event", .id = 1, .help = {}}, {});
         control.box().setText(u"back from its host");
         control.box().setFocus();
     });
