@@ -61,7 +61,7 @@ TEST(activation_of_the_user_interface_takes_the_focus) {
     adviseEvents(field.get(), &sink);
     EXPECT_CODE(field.as<IPersistStreamInit>()->InitNew(), S_OK);
     EXPECT_CODE(host.verb(OLEIVERB_UIACTIVATE), S_OK);
-    pump();
+    settle();
     EXPECT(host.called("OnUIActivate"));
     EXPECT(host.called("OnFocus"));
     SendMessageW(GetFocus(), WM_CHAR, L'a', 0);
@@ -78,15 +78,14 @@ TEST(activation_of_the_user_interface_takes_the_focus) {
 
 TEST(activation_keys_go_to_the_field_or_to_the_host) {
     Host host;
-    const auto field = host.place();
-    EXPECT_CODE(field.as<IPersistStreamInit>()->InitNew(), S_OK);
+    const auto field = host.placeNew();
     const auto active = field.as<IOleInPlaceActiveObject>();
     MSG key{};
     key.message = WM_KEYDOWN;
     key.wParam = VK_LEFT;
     EXPECT_CODE(active->TranslateAccelerator(&key), S_FALSE);
     EXPECT_CODE(host.verb(OLEIVERB_UIACTIVATE), S_OK);
-    pump();
+    settle();
     key.hwnd = GetFocus();
     EXPECT_CODE(active->TranslateAccelerator(&key), S_OK);
     EXPECT(!host.called("TranslateAccelerator"));
@@ -103,8 +102,7 @@ TEST(activation_keys_go_to_the_field_or_to_the_host) {
 
 TEST(activation_forces_its_height_on_the_host) {
     Host host;
-    const auto field = host.place();
-    EXPECT_CODE(field.as<IPersistStreamInit>()->InitNew(), S_OK);
+    const auto field = host.placeNew();
     host.Bounds = {0, 0, 200, 5};
     EXPECT_CODE(host.verb(OLEIVERB_INPLACEACTIVATE), S_OK);
     EXPECT(host.called("OnPosRectChange"));
@@ -143,8 +141,7 @@ TEST(order_calls_before_a_site_are_errors) {
 
 TEST(order_everything_twice) {
     Host host;
-    const auto field = host.place();
-    EXPECT_CODE(field.as<IPersistStreamInit>()->InitNew(), S_OK);
+    const auto field = host.placeNew();
     for (const LONG verb : {OLEIVERB_SHOW, OLEIVERB_SHOW, OLEIVERB_UIACTIVATE, OLEIVERB_UIACTIVATE, OLEIVERB_HIDE,
                             OLEIVERB_HIDE, OLEIVERB_SHOW})
         EXPECT_CODE(host.verb(verb), S_OK);
@@ -164,8 +161,7 @@ TEST(order_hosts_that_interfere_get_an_error) {
                                "OnUIActivate", "OnFocus", "ShowObject", "OnPosRectChange"}) {
         for (const int deed : {0, 1, 2, 3}) {
             Host host;
-            auto field = host.place();
-            EXPECT_CODE(field.as<IPersistStreamInit>()->InitNew(), S_OK);
+            auto field = host.placeNew();
             host.Bounds.bottom = 25;
             if (std::string(moment) == "OnPosRectChange") host.Bounds.bottom = host.Bounds.top + 5;
             int depth = 0;
@@ -186,8 +182,7 @@ TEST(order_hosts_that_interfere_get_an_error) {
 
 TEST(order_control_dies_while_active) {
     Host host;
-    auto field = host.place();
-    EXPECT_CODE(field.as<IPersistStreamInit>()->InitNew(), S_OK);
+    auto field = host.placeNew();
     EXPECT_CODE(host.verb(OLEIVERB_UIACTIVATE), S_OK);
     const HWND window = windowOf(field.get());
     host.forget();
@@ -197,8 +192,7 @@ TEST(order_control_dies_while_active) {
 
 TEST(order_host_destroys_the_parent) {
     Host outer;
-    const auto field = outer.place();
-    EXPECT_CODE(field.as<IPersistStreamInit>()->InitNew(), S_OK);
+    const auto field = outer.placeNew();
     EXPECT_CODE(outer.verb(OLEIVERB_SHOW), S_OK);
     DestroyWindow(outer.window());
     EXPECT_CODE(field->put_Text(Str(L"kept")), S_OK);

@@ -25,36 +25,6 @@ std::wstring latePut(_KelText* field, const wchar_t* name, VARIANT value) {
 
 }  // namespace
 
-TEST(vtable_properties_read_back) {
-    const auto field = makeText();
-    EXPECT_CODE(field->put_Caption(Str(L"Name")), S_OK);
-    BSTR caption = nullptr;
-    EXPECT_CODE(field->get_Caption(&caption), S_OK);
-    EXPECT_EQ(taken(caption), std::wstring(L"Name"));
-    EXPECT_CODE(field->put_CaptionWidth(700), S_OK);
-    short width = 0;
-    EXPECT_CODE(field->get_CaptionWidth(&width), S_OK);
-    EXPECT_EQ(width, 700);
-
-    struct Switch {
-        HRESULT (STDMETHODCALLTYPE _KelText::*get)(VARIANT_BOOL*);
-        HRESULT (STDMETHODCALLTYPE _KelText::*put)(VARIANT_BOOL);
-    };
-    const Switch switches[] = {{&_KelText::get_Enabled, &_KelText::put_Enabled},
-                               {&_KelText::get_InsertMode, &_KelText::put_InsertMode},
-                               {&_KelText::get_Locked, &_KelText::put_Locked},
-                               {&_KelText::get_Mandatory, &_KelText::put_Mandatory},
-                               {&_KelText::get_MultiLine, &_KelText::put_MultiLine},
-                               {&_KelText::get_SelectOnFocus, &_KelText::put_SelectOnFocus}};
-    for (const Switch& member : switches)
-        for (const VARIANT_BOOL wanted : {VARIANT_FALSE, VARIANT_TRUE, VARIANT_FALSE}) {
-            VARIANT_BOOL value = 7;
-            EXPECT_CODE((field.get()->*member.put)(wanted), S_OK);
-            EXPECT_CODE((field.get()->*member.get)(&value), S_OK);
-            EXPECT_EQ(value, wanted);
-        }
-}
-
 TEST(vtable_text_and_references) {
     const auto field = makeText();
     EXPECT_CODE(field->put_Text(Str(L"Müller")), S_OK);
@@ -133,40 +103,21 @@ TEST(late_values_of_every_kind) {
     EXPECT_EQ(number.Value.vt, VT_I4);
 }
 
-TEST(late_an_object_gives_its_default_property) {
-    const auto field = makeText();
-    const auto other = makeText();
-    other->put_Text(Str(L"from another field"));
-    VARIANT object{};
-    object.vt = VT_DISPATCH;
-    object.pdispVal = other.get();
-    EXPECT_EQ(latePut(field.get(), L"Text", object), std::wstring(L"from another field"));
-    const auto handler = create(L"KelControls8.KelControlHandler");
-    object.pdispVal = handler.get();
-    EXPECT_CODE(put(field.get(), L"Text", object), DISP_E_TYPEMISMATCH);
-    object.pdispVal = nullptr;
-    EXPECT_CODE(put(field.get(), L"Text", object), DISP_E_TYPEMISMATCH);
-}
-
 TEST(late_mistakes_have_their_codes) {
     const auto field = makeText();
     const auto handler = create(L"KelControls8.KelControlHandler");
     Var word(L"word");
-    Var large(40000L);
     Var missing;
     missing.Value.vt = VT_ERROR;
     missing.Value.scode = DISP_E_PARAMNOTFOUND;
     UINT at = 99;
     EXPECT_CODE(put(field.get(), L"CaptionWidth", word.Value, &at), DISP_E_TYPEMISMATCH);
     EXPECT_EQ(at, 0U);
-    EXPECT_CODE(put(field.get(), L"CaptionWidth", large.Value), DISP_E_OVERFLOW);
-    EXPECT_CODE(put(field.get(), L"Valid", word.Value), DISP_E_MEMBERNOTFOUND);
-    EXPECT_CODE(put(field.get(), L"Nonsense", word.Value), DISP_E_UNKNOWNNAME);
+    EXPECT_CODE(put(field.get(), L"Text", plain(VT_DISPATCH)), DISP_E_TYPEMISMATCH);
     EXPECT_CODE(invoke(field.get(), L"Text", DISPATCH_METHOD, {}), DISP_E_MEMBERNOTFOUND);
     EXPECT_CODE(invoke(field.get(), L"Refresh", DISPATCH_PROPERTYGET, {}), DISP_E_MEMBERNOTFOUND);
     EXPECT_CODE(invoke(field.get(), L"Refresh", DISPATCH_METHOD, {word.Value}), DISP_E_BADPARAMCOUNT);
     EXPECT_CODE(invoke(field.get(), L"Text", DISPATCH_PROPERTYGET, {word.Value}), DISP_E_BADPARAMCOUNT);
-    EXPECT_CODE(invoke(field.get(), L"TooltipSet", DISPATCH_METHOD, {}), DISP_E_BADPARAMCOUNT);
     EXPECT_CODE(invoke(field.get(), L"TooltipSet", DISPATCH_METHOD, {missing.Value}), DISP_E_PARAMNOTOPTIONAL);
     EXPECT_CODE(invoke(handler.get(), L"SetRuntime", DISPATCH_METHOD, {word.Value}, nullptr, nullptr, &at),
                 DISP_E_TYPEMISMATCH);

@@ -27,6 +27,13 @@ std::string shown(Number value) {
 }
 std::string shownCode(long code);
 
+/// What is done to a scene in a row of a test.
+template <class Scene>
+struct NamedDeed {
+    const char* name;
+    void (*act)(Scene& scene);
+};
+
 }  // namespace kel::tests
 
 #define TEST(name)                                                      \

@@ -59,28 +59,3 @@ TEST(progress_has_an_event_interface_without_events) {
     EXPECT_CODE(bar->put_Value(50), S_OK);
     EXPECT(sink.Heard.empty());
 }
-
-TEST(progress_is_drawn_without_a_window) {
-    const auto bar = makeBar();
-    const auto view = bar.as<IViewObject2>();
-    HDC const memory = CreateCompatibleDC(nullptr);
-    BITMAPINFO format{};
-    format.bmiHeader = {sizeof(BITMAPINFOHEADER), 100, -20, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-    void* bits = nullptr;
-    HBITMAP const bitmap = CreateDIBSection(memory, &format, DIB_RGB_COLORS, &bits, nullptr, 0);
-    HGDIOBJ const before = SelectObject(memory, bitmap);
-    const RECTL bounds{0, 0, 100, 20};
-    SIZEL size{2646, 529};
-    Host host;
-    host.place(bar);
-    EXPECT_CODE(host.object()->SetExtent(DVASPECT_CONTENT, &size), S_OK);
-    EXPECT_CODE(bar->put_Value(50), S_OK);
-    EXPECT_CODE(view->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, memory, &bounds, nullptr, nullptr, 0),
-                S_OK);
-    GdiFlush();
-    EXPECT_EQ(GetPixel(memory, 5, 10), GetSysColor(COLOR_HIGHLIGHT));
-    EXPECT_EQ(GetPixel(memory, 95, 10), GetSysColor(COLOR_BTNFACE));
-    SelectObject(memory, before);
-    DeleteObject(bitmap);
-    DeleteDC(memory);
-}

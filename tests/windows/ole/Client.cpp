@@ -82,8 +82,6 @@ Ref<_KelNumber> makeNumber() { return make<_KelNumber>(L"KelControls8.KelNumber"
 
 Ref<_KelDate> makeDate() { return make<_KelDate>(L"KelControls8.KelDate"); }
 
-Ref<_KelTime> makeTime() { return make<_KelTime>(L"KelControls8.KelTime"); }
-
 HRESULT invoke(IDispatch* object, const wchar_t* name, WORD flags, std::vector<VARIANT> arguments, VARIANT* result,
                EXCEPINFO* exception, UINT* argumentError) {
     std::wstring copy = name;
@@ -118,6 +116,12 @@ std::wstring late(IDispatch* object, const wchar_t* name) {
 std::wstring text(_KelText* object) {
     BSTR value = nullptr;
     EXPECT_CODE(object->get_Text(&value), S_OK);
+    return taken(value);
+}
+
+std::wstring captionOf(_KelText* object) {
+    BSTR value = nullptr;
+    EXPECT_CODE(object->get_Caption(&value), S_OK);
     return taken(value);
 }
 

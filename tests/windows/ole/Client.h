@@ -125,7 +125,6 @@ Ref<IDispatch> create(const wchar_t* programId);
 Ref<_KelText> makeText();
 Ref<_KelNumber> makeNumber();
 Ref<_KelDate> makeDate();
-Ref<_KelTime> makeTime();
 
 /// One late-bound call; arguments last first, as the system wants them.
 HRESULT invoke(IDispatch* object, const wchar_t* name, WORD flags, std::vector<VARIANT> arguments,
@@ -134,6 +133,7 @@ HRESULT put(IDispatch* object, const wchar_t* name, VARIANT value, UINT* argumen
 /// What a property is, described.
 std::wstring late(IDispatch* object, const wchar_t* name);
 std::wstring text(_KelText* object);
+std::wstring captionOf(_KelText* object);
 
 /// Base of the client's own objects, which live on the stack and outlive their use; counts for checks.
 template <class... Interfaces>

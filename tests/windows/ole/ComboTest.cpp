@@ -8,9 +8,6 @@ using namespace kel::tests;
 
 namespace {
 
-constexpr DISPID ChangeId = 1;
-constexpr DISPID ChangeExId = 3;
-
 Ref<_KelCombo> makeCombo() { return create(L"KelControls8.KelCombo").as<_KelCombo>(); }
 
 /// An array of a host's, freed with it.
@@ -64,39 +61,6 @@ std::wstring itemsOf(_KelCombo* field) {
     }
     return items;
 }
-
-std::wstring textOf(_KelCombo* field) {
-    BSTR text = nullptr;
-    EXPECT_CODE(field->get_Text(&text), S_OK);
-    return taken(text);
-}
-
-/// A combo field on the screen, with two items.
-class ComboHost {
-public:
-    ComboHost() : Sink(false, u"KelCombo") {
-        Field = Inside.place(makeCombo());
-        EXPECT_CODE(Field.as<IPersistStreamInit>()->InitNew(), S_OK);
-        EXPECT_CODE(Field->put_List(Str(L"Apple,Banana")), S_OK);
-        EXPECT_CODE(Inside.verb(OLEIVERB_UIACTIVATE), S_OK);
-        SetActiveWindow(Inside.window());
-        pump();
-        Parts.cbSize = sizeof Parts;
-        EXPECT(GetComboBoxInfo(descendant(Inside.window(), L"ComboBox"), &Parts));
-        adviseEvents(Field.get(), &Sink, u"KelCombo");
-    }
-
-    void type(WPARAM code) const {
-        PostMessageW(Parts.hwndItem, WM_KEYDOWN, code,
-                     static_cast<LPARAM>(1 | (MapVirtualKeyW(static_cast<UINT>(code), MAPVK_VK_TO_VSC) << 16)));
-        pump();
-    }
-
-    COMBOBOXINFO Parts{};
-    EventSink Sink;
-    Host Inside;
-    Ref<_KelCombo> Field;
-};
 
 }  // namespace
 
@@ -157,26 +121,4 @@ TEST(combo_refuses_what_is_no_array_of_strings) {
     }
     SafeArrayDestroy(table);
     EXPECT_EQ(itemsOf(field.get()), L"old");
-}
-
-TEST(combo_event_may_be_refused_by_its_host) {
-    ComboHost host;
-    bool refuse = false;
-    host.Sink.Handler = [&] {
-        if (host.Sink.Heard.back() != ChangeExId) return;
-        EXPECT_EQ(host.Sink.Passed->cArgs, 1U);
-        const VARIANT& handled = host.Sink.Passed->rgvarg[0];
-        EXPECT_EQ(handled.vt, VT_BYREF | VT_BOOL);
-        EXPECT_EQ(*handled.pboolVal, VARIANT_TRUE);
-        if (refuse) *handled.pboolVal = VARIANT_FALSE;
-    };
-    host.type('B');
-    EXPECT_EQ(textOf(host.Field.get()), L"Banana");
-    EXPECT(host.Sink.Heard == (std::vector<DISPID>{ChangeExId, ChangeId}));
-    host.Sink.Heard.clear();
-    host.type(VK_F4);
-    refuse = true;
-    host.type(VK_UP);
-    EXPECT_EQ(textOf(host.Field.get()), L"Apple");
-    EXPECT(host.Sink.Heard == std::vector<DISPID>{ChangeExId});
 }

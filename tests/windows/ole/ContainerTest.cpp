@@ -63,12 +63,6 @@ void activate(HWND holder, const Ref<_KelText>& field) {
     EXPECT(IsChild(holder, GetFocus()));
 }
 
-std::wstring textOf(const Ref<_KelText>& field) {
-    BSTR text = nullptr;
-    EXPECT_CODE(field->get_Text(&text), S_OK);
-    return taken(text);
-}
-
 }  // namespace
 
 TEST(container_with_two_controls_takes_keys_and_tab) {
@@ -87,7 +81,7 @@ TEST(container_with_two_controls_takes_keys_and_tab) {
         activate(holders[0], first);
         press(top, first, 'A');
         press(top, first, 'B');
-        EXPECT_EQ(textOf(first), std::wstring(L"ab"));
+        EXPECT_EQ(text(first.get()), std::wstring(L"ab"));
 
         press(top, first, VK_TAB);
         EXPECT(GetFocus() == holders[1] || IsChild(holders[1], GetFocus()));
@@ -95,9 +89,9 @@ TEST(container_with_two_controls_takes_keys_and_tab) {
         press(top, second, 'C');
         press(top, second, VK_HOME);
         press(top, second, 'D');
-        EXPECT_EQ(textOf(second), std::wstring(L"dc"));
-        EXPECT_EQ(textOf(first), std::wstring(L"ab"));
+        EXPECT_EQ(text(second.get()), std::wstring(L"dc"));
+        EXPECT_EQ(text(first.get()), std::wstring(L"ab"));
     }
     DestroyWindow(top);
-    pump();
+    settle();
 }

@@ -92,6 +92,12 @@ void Host::adopt(IUnknown* control) {
     advise(control, IID_IPropertyNotifySink, static_cast<IPropertyNotifySink*>(this));
 }
 
+Ref<_KelText> Host::placeNew() {
+    const auto field = place();
+    EXPECT_CODE(field.as<IPersistStreamInit>()->InitNew(), S_OK);
+    return field;
+}
+
 HRESULT Host::verb(LONG verb) {
     const Ref<IOleObject> held = Object_;
     return held->DoVerb(verb, nullptr, this, 0, Window_, &Bounds);
@@ -147,52 +153,10 @@ HRESULT Host::OnChanged(DISPID id) {
     return S_OK;
 }
 
-void pump() {
-    MSG message;
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
-    }
-}
-
-namespace {
-
-struct Search {
-    const wchar_t* classPart;
-    HWND found;
-};
-
-BOOL CALLBACK look(HWND window, LPARAM parameter) {
-    Search& search = *reinterpret_cast<Search*>(parameter);
-    wchar_t name[64];
-    GetClassNameW(window, name, 64);
-    if (std::wstring(name).find(search.classPart) == std::wstring::npos) return TRUE;
-    search.found = window;
-    return FALSE;
-}
-
-}  // namespace
-
-HWND descendant(HWND window, const wchar_t* classPart) {
-    Search search{classPart, nullptr};
-    EnumChildWindows(window, &look, reinterpret_cast<LPARAM>(&search));
-    EXPECT(search.found != nullptr);
-    return search.found;
-}
-
-HWND spinnerIn(HWND host) { return descendant(host, L"UpDown"); }
-
-void click(HWND window, LONG x, LONG y) {
-    const LPARAM place = MAKELPARAM(x, y);
-    PostMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, place);
-    PostMessageW(window, WM_LBUTTONUP, 0, place);
-    pump();
-}
-
 void pressSpinner(HWND spinner, bool up) {
     RECT area{};
     GetClientRect(spinner, &area);
-    click(spinner, area.right / 2, up ? 2 : area.bottom - 2);
+    click(spinner, {area.right / 2, up ? 2 : area.bottom - 2});
 }
 
 }  // namespace kel::tests

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "tests/windows/ole/Client.h"
+#include "tests/windows/ole/Hands.h"
 
 namespace kel::tests {
 
@@ -93,6 +94,8 @@ public:
         return made;
     }
     Ref<_KelText> place() { return place(makeText()); }
+    /// ... and initialised.
+    Ref<_KelText> placeNew();
     HRESULT verb(LONG verb);
     IOleObject* object() const { return Object_.get(); }
     Ref<IOleInPlaceObject> inPlace() const { return Object_.as<IOleInPlaceObject>(); }
@@ -171,15 +174,7 @@ private:
     Ref<IOleObject> Object_;
 };
 
-/// Runs what is waiting in the queue.
-void pump();
-
-/// The first window within `window` whose class has such a part in its name.
-HWND descendant(HWND window, const wchar_t* classPart);
-HWND spinnerIn(HWND host);
-
-/// With the mouse, at a place in the window.
-void click(HWND window, LONG x, LONG y);
+/// With the mouse.
 void pressSpinner(HWND spinner, bool up);
 
 }  // namespace kel::tests

@@ -72,25 +72,11 @@ TEST(life_identity_and_interfaces) {
     EXPECT(field.as<IUnknown>().get() == object.as<IUnknown>().get());
     EXPECT(object.as<_KelText>().get() == field.get());
     EXPECT(field.as<IDispatch>().get() == static_cast<IDispatch*>(field.get()));
-    const GUID wanted[] = {IID_IOleObject,
-                           IID_IOleControl,
-                           IID_IOleWindow,
-                           IID_IOleInPlaceObject,
-                           IID_IOleInPlaceActiveObject,
-                           IID_IViewObject,
-                           IID_IViewObject2,
-                           IID_IDataObject,
-                           IID_IPersist,
-                           IID_IPersistStreamInit,
-                           IID_IPersistPropertyBag,
-                           IID_IPersistStorage,
-                           IID_IConnectionPointContainer,
-                           IID_IProvideClassInfo,
-                           IID_IProvideClassInfo2,
-                           IID_ISupportErrorInfo,
-                           IID_IQuickActivate,
-                           IID_ISpecifyPropertyPages};
-    for (const GUID& iid : wanted) {
+    for (const GUID& iid :
+         {IID_IOleObject, IID_IOleControl, IID_IOleWindow, IID_IOleInPlaceObject, IID_IOleInPlaceActiveObject,
+          IID_IViewObject, IID_IViewObject2, IID_IDataObject, IID_IPersist, IID_IPersistStreamInit,
+          IID_IPersistPropertyBag, IID_IPersistStorage, IID_IConnectionPointContainer, IID_IProvideClassInfo,
+          IID_IProvideClassInfo2, IID_ISupportErrorInfo, IID_IQuickActivate, IID_ISpecifyPropertyPages}) {
         Ref<IUnknown> found;
         EXPECT_CODE(field->QueryInterface(iid, found.receiveVoid()), S_OK);
         EXPECT(found.as<IUnknown>().get() == field.as<IUnknown>().get());

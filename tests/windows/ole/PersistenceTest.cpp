@@ -39,13 +39,11 @@ Ref<_KelText> filledField() {
 }
 
 void expectFilled(_KelText* field) {
-    BSTR caption = nullptr;
     short width = 0;
     short length = 0;
     VARIANT_BOOL locked = VARIANT_FALSE;
     VARIANT_BOOL mandatory = VARIANT_FALSE;
-    EXPECT_CODE(field->get_Caption(&caption), S_OK);
-    EXPECT_EQ(taken(caption), std::wstring(L"Näme"));
+    EXPECT_EQ(captionOf(field), std::wstring(L"Näme"));
     EXPECT_CODE(field->get_CaptionWidth(&width), S_OK);
     EXPECT_EQ(width, 900);
     EXPECT_CODE(field->get_MaxLength(&length), S_OK);
@@ -97,9 +95,7 @@ TEST(persist_bag_with_a_wrong_value_is_refused_whole) {
     stored.Texts = {{L"Caption", L"Name"}, {L"CaptionWidth", L"wide"}};
     const auto field = makeText();
     EXPECT_CODE(load(field.get(), stored), DISP_E_TYPEMISMATCH);
-    BSTR caption = nullptr;
-    EXPECT_CODE(field->get_Caption(&caption), S_OK);
-    EXPECT_EQ(taken(caption), std::wstring());
+    EXPECT_EQ(captionOf(field.get()), std::wstring());
 }
 
 TEST(persist_stream_round_trip) {
@@ -177,9 +173,7 @@ TEST(persist_new_control_takes_the_containers_name) {
     Host host;
     const auto field = host.place();
     EXPECT_CODE(field.as<IPersistPropertyBag>()->InitNew(), S_OK);
-    BSTR caption = nullptr;
-    EXPECT_CODE(field->get_Caption(&caption), S_OK);
-    EXPECT_EQ(taken(caption), std::wstring(L"Field1"));
+    EXPECT_EQ(captionOf(field.get()), std::wstring(L"Field1"));
 }
 
 TEST(persist_a_second_beginning_is_refused) {

@@ -3,7 +3,7 @@
 #include "controls/Classes.h"
 #include "platform/win32/home/Win32Home.h"
 #include "tests/windows/ole/Check.h"
-#include "tests/windows/widgets/Stage.h"
+#include "tests/windows/widgets/Scene.h"
 
 /// A form's window with real controls.
 namespace kel::tests {

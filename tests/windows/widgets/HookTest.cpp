@@ -6,7 +6,7 @@
 
 #include "platform/win32/widgets/ComboHook.h"
 #include "tests/windows/ole/Check.h"
-#include "tests/windows/widgets/Stage.h"
+#include "tests/windows/widgets/Scene.h"
 
 /// The hook in front of a window's procedure, and what it draws.
 namespace kel::tests {

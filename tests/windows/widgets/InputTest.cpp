@@ -8,44 +8,17 @@
 /// Keys, mouse and focus as the system delivers them.
 namespace kel::tests {
 
-TEST(the_keypads_decimal_key_is_known_by_its_code) {
-    HostWindow host;
+TEST(keys_are_told_in_their_order_with_their_characters) {
     Stage stage;
-    stage.placeOn(host.window());
-    SetFocus(stage.edit());
-    stage.takeLog();
+    stage.enter();
     strike(stage.edit(), VK_DECIMAL);
     EXPECT_EQ(stage.takeLog(), L"down:110 key:46 change");
-    MSG offered{};
-    offered.hwnd = stage.edit();
-    offered.message = WM_KEYDOWN;
-    offered.wParam = VK_DECIMAL;
-    offered.lParam = 1;
-    EXPECT(stage.window().translateAccelerator(offered));
-    settle();
-}
-
-TEST(a_swallowed_key_takes_its_character_along) {
-    HostWindow host;
-    Stage stage;
-    stage.placeOn(host.window());
-    SetFocus(stage.edit());
-    stage.swallowKeys = true;
-    stage.takeLog();
-    strike(stage.edit(), 'A');
-    EXPECT_EQ(stage.takeLog(), L"down:65");
-    EXPECT_EQ(stage.box().textLength(), 0);
-}
-
-TEST(a_handler_that_serves_the_queue_does_not_reorder_keys) {
-    HostWindow host;
-    Stage stage;
-    stage.placeOn(host.window());
-    SetFocus(stage.edit());
-    stage.takeLog();
     stage.onKeyDown = [] { settle(); };
     strike(stage.edit(), 'A');
     EXPECT_EQ(stage.takeLog(), L"down:65 key:97 change");
+    stage.swallowKeys = true;
+    strike(stage.edit(), 'A');
+    EXPECT_EQ(stage.takeLog(), L"down:65");
 }
 
 TEST(offered_keys_are_taken_only_where_the_field_wants_them) {
@@ -53,11 +26,9 @@ TEST(offered_keys_are_taken_only_where_the_field_wants_them) {
         WPARAM code;
         bool wanted;
     };
-    const Row rows[] = {{VK_LEFT, true}, {VK_DOWN, true}, {VK_END, true}, {VK_RETURN, true}, {VK_DELETE, true},
-                        {'A', true},     {VK_TAB, false}, {VK_F2, false}, {VK_ESCAPE, false}};
-    HostWindow host;
+    const Row rows[] = {{VK_LEFT, true}, {VK_DOWN, true},    {VK_END, true},  {VK_RETURN, true}, {VK_DELETE, true},
+                        {'A', true},     {VK_DECIMAL, true}, {VK_TAB, false}, {VK_F2, false},    {VK_ESCAPE, false}};
     Stage stage;
-    stage.placeOn(host.window());
     SetFocus(stage.edit());
     for (const Row& row : rows) {
         stage.takeLog();
@@ -66,16 +37,14 @@ TEST(offered_keys_are_taken_only_where_the_field_wants_them) {
         message.message = WM_KEYDOWN;
         message.wParam = row.code;
         message.lParam = 1;
-        EXPECT_EQ(stage.window().translateAccelerator(message), row.wanted);
+        EXPECT_EQ(stage.control().translateAccelerator(message), row.wanted);
         EXPECT_EQ(!stage.takeLog().empty(), row.wanted);
         settle();
     }
 }
 
 TEST(the_mouse_selects_and_the_keyboard_goes_on_from_there) {
-    HostWindow host;
     Stage stage;
-    stage.placeOn(host.window());
     stage.box().setText(u"one two three");
     const auto placeOf = [&stage](WPARAM position) {
         const LRESULT place = SendMessageW(stage.edit(), EM_POSFROMCHAR, position, 0);
@@ -108,11 +77,9 @@ LRESULT CALLBACK countWheels(HWND window, UINT message, WPARAM wide, LPARAM data
 }  // namespace
 
 TEST(the_wheel_counts_notches_in_the_focus_and_scrolls_the_host_otherwise) {
-    HostWindow host;
     Stage stage;
-    stage.placeOn(host.window());
     HostProcedure = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrW(host.window(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&countWheels)));
+        SetWindowLongPtrW(stage.host().window(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&countWheels)));
     WheelsSeen = 0;
     const auto turn = [&stage](short by) {
         SendMessageW(stage.edit(), WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(by)), 0);
@@ -120,8 +87,7 @@ TEST(the_wheel_counts_notches_in_the_focus_and_scrolls_the_host_otherwise) {
     turn(120);
     EXPECT_EQ(WheelsSeen, 1);
     EXPECT_EQ(stage.takeLog(), L"");
-    SetFocus(stage.edit());
-    stage.takeLog();
+    stage.enter();
     for (const int by : {-240, 60, 60}) turn(static_cast<short>(by));
     EXPECT_EQ(stage.takeLog(), L"wheel:-2 wheel:1");
     EXPECT_EQ(WheelsSeen, 1);
@@ -133,13 +99,10 @@ TEST(the_wheel_counts_notches_in_the_focus_and_scrolls_the_host_otherwise) {
 }
 
 TEST(a_handler_that_moves_the_focus_on_has_the_old_control_left_first) {
-    HostWindow host;
     Stage one;
     Stage two;
-    one.placeOn(host.window());
-    two.placeOn(host.window(), 1);
-    SetFocus(one.edit());
-    one.takeLog();
+    two.joinHostOf(one);
+    one.enter();
     std::wstring atEntry;
     bool moved = false;
     one.onLost = [&] {
@@ -147,7 +110,7 @@ TEST(a_handler_that_moves_the_focus_on_has_the_old_control_left_first) {
         SetFocus(two.edit());
         atEntry = one.takeLog();
     };
-    SetFocus(host.button());
+    SetFocus(one.host().button());
     EXPECT_EQ(atEntry, L"lost exit");
     EXPECT_EQ(two.takeLog(), L"enter got");
     EXPECT_EQ(one.takeLog(), L"");
@@ -155,11 +118,8 @@ TEST(a_handler_that_moves_the_focus_on_has_the_old_control_left_first) {
 }
 
 TEST(another_window_in_front_is_no_change_of_focus) {
-    HostWindow host;
     Stage stage;
-    stage.placeOn(host.window());
-    SetFocus(stage.edit());
-    stage.takeLog();
+    stage.enter();
     {
         HostWindow other;
         SetFocus(other.button());
@@ -167,21 +127,18 @@ TEST(another_window_in_front_is_no_change_of_focus) {
         EXPECT_EQ(stage.takeLog(), L"");
     }
     // As a host does that knows who had the focus.
-    SetActiveWindow(host.window());
+    SetActiveWindow(stage.host().window());
     SetFocus(stage.edit());
     settle();
     EXPECT_EQ(stage.takeLog(), L"");
 }
 
 TEST(coming_back_elsewhere_leaves_the_control) {
-    HostWindow host;
     Stage stage;
     Stage beside;
-    stage.placeOn(host.window());
-    beside.placeOn(host.window(), 1);
-    for (HWND const elsewhere : {host.button(), beside.edit()}) {
-        SetFocus(stage.edit());
-        stage.takeLog();
+    beside.joinHostOf(stage);
+    for (HWND const elsewhere : {stage.host().button(), beside.edit()}) {
+        stage.enter();
         {
             HostWindow other;
             SetFocus(other.button());
@@ -195,16 +152,14 @@ TEST(coming_back_elsewhere_leaves_the_control) {
 }
 
 TEST(the_controls_own_window_hands_the_focus_to_its_field) {
-    HostWindow host;
     Stage stage;
-    stage.placeOn(host.window());
-    SetFocus(stage.window().handle());
+    SetFocus(stage.control().handle());
     EXPECT(GetFocus() == stage.edit());
-    EXPECT(stage.window().hasFocus());
-    stage.window().setEnabled(false);
-    EXPECT(!stage.window().hasFocus());
-    stage.window().setFocus();
-    EXPECT(!stage.window().hasFocus());
+    EXPECT(stage.control().hasFocus());
+    stage.control().setEnabled(false);
+    EXPECT(!stage.control().hasFocus());
+    stage.control().setFocus();
+    EXPECT(!stage.control().hasFocus());
 }
 
 }  // namespace kel::tests

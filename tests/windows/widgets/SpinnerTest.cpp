@@ -20,41 +20,24 @@ constexpr DWORD Delay = 900;  ///< longer than the system waits before it repeat
 
 std::ptrdiff_t stepsIn(const std::wstring& log) { return std::count(log.begin(), log.end(), L':'); }
 
-/// A stage on a host, its spinner shown and its box in the focus.
-class SpinnerStage {
+/// A stage with its spinner shown and its box in the focus.
+class SpinnerStage final : public Stage {
 public:
     SpinnerStage() {
-        Stage_.placeOn(Host_.window());
-        Stage_.spinner().setVisible(true);
-        SetFocus(Stage_.edit());
-        settle();
-        Stage_.takeLog();
+        spinner().setVisible(true);
+        enter();
     }
 
-    Stage& stage() { return Stage_; }
-    HostWindow& host() { return Host_; }
-    HWND spinner() const { return Stage_.spinnerWindow(); }
-
-    void press(POINT place) {
-        postMouse(spinner(), WM_LBUTTONDOWN, MK_LBUTTON, place);
+    void mouse(UINT message, POINT place) {
+        postMouse(spinnerWindow(), message, message == WM_LBUTTONUP ? 0 : MK_LBUTTON, place);
         settle();
     }
-    void moveTo(POINT place) {
-        postMouse(spinner(), WM_MOUSEMOVE, MK_LBUTTON, place);
-        settle();
-    }
-    void release(POINT place) {
-        postMouse(spinner(), WM_LBUTTONUP, 0, place);
-        settle();
-    }
-    void click(POINT place) { drag(spinner(), place, place); }
+    void press(POINT place) { mouse(WM_LBUTTONDOWN, place); }
+    void moveTo(POINT place) { mouse(WM_MOUSEMOVE, place); }
+    void release(POINT place) { mouse(WM_LBUTTONUP, place); }
 
     /// Steps told since the last log was taken.
-    std::ptrdiff_t steps() { return stepsIn(Stage_.takeLog()); }
-
-private:
-    HostWindow Host_;
-    Stage Stage_;
+    std::ptrdiff_t steps() { return stepsIn(takeLog()); }
 };
 
 }  // namespace
@@ -63,24 +46,25 @@ TEST(spinner_is_the_systems_and_steps_without_taking_the_focus) {
     SpinnerStage scene;
     DWORD low = 99;
     DWORD high = 99;
-    SendMessageW(scene.spinner(), UDM_GETRANGE32, reinterpret_cast<WPARAM>(&low), reinterpret_cast<LPARAM>(&high));
+    SendMessageW(scene.spinnerWindow(), UDM_GETRANGE32, reinterpret_cast<WPARAM>(&low),
+                 reinterpret_cast<LPARAM>(&high));
     EXPECT_EQ(low, 0UL);
     EXPECT_EQ(high, 2UL);
-    EXPECT((GetWindowLongW(scene.spinner(), GWL_STYLE) & WS_TABSTOP) == 0);
-    scene.stage().box().setText(u"12");
-    scene.stage().box().setSelLength(2);
-    scene.stage().takeLog();
-    for (const POINT place : {Upper, Upper, Lower}) scene.click(place);
-    EXPECT_EQ(scene.stage().takeLog(), L"step:2 step:2 step:0");
-    EXPECT_EQ(drawn(scene.stage().box()), L"[12]");
-    EXPECT(GetFocus() == scene.stage().edit());
+    EXPECT((GetWindowLongW(scene.spinnerWindow(), GWL_STYLE) & WS_TABSTOP) == 0);
+    scene.box().setText(u"12");
+    scene.box().setSelLength(2);
+    scene.takeLog();
+    for (const POINT place : {Upper, Upper, Lower}) click(scene.spinnerWindow(), place);
+    EXPECT_EQ(scene.takeLog(), L"step:2 step:2 step:0");
+    EXPECT_EQ(drawn(scene.box()), L"[12]");
+    EXPECT(GetFocus() == scene.edit());
     EXPECT(GetCapture() == nullptr);
 }
 
 TEST(spinner_repeats_while_its_button_is_held_and_the_pointer_is_over_it) {
     SpinnerStage scene;
     scene.press(Upper);
-    EXPECT_EQ(scene.stage().takeLog(), L"step:2");
+    EXPECT_EQ(scene.takeLog(), L"step:2");
     settleFor(Delay);
     EXPECT(scene.steps() >= 3);
     scene.moveTo({-50, 5});
@@ -97,19 +81,15 @@ TEST(spinner_repeats_while_its_button_is_held_and_the_pointer_is_over_it) {
 }
 
 TEST(spinner_stops_when_its_handler_takes_it_away) {
-    struct Deed {
-        const char* name;
-        void (*act)(Stage& stage);
-    };
-    const Deed deeds[] = {
+    const NamedDeed<Stage> deeds[] = {
         {"disabled", [](Stage& stage) { stage.spinner().setEnabled(false); }},
         {"hidden", [](Stage& stage) { stage.spinner().setVisible(false); }},
-        {"control disabled", [](Stage& stage) { stage.window().setEnabled(false); }},
-        {"control hidden", [](Stage& stage) { stage.window().setVisible(false); }},
-        {"host hidden", [](Stage& stage) { ShowWindow(GetParent(stage.window().handle()), SW_HIDE); }},
-        {"control without its host", [](Stage& stage) { stage.window().setParent(nullptr); }},
+        {"control disabled", [](Stage& stage) { stage.control().setEnabled(false); }},
+        {"control hidden", [](Stage& stage) { stage.control().setVisible(false); }},
+        {"host hidden", [](Stage& stage) { ShowWindow(stage.host().window(), SW_HIDE); }},
+        {"control without its host", [](Stage& stage) { stage.control().setParent(nullptr); }},
         {"destroyed", [](Stage& stage) { stage.dropSpinner(); }},
-        {"window destroyed", [](Stage& stage) { DestroyWindow(GetParent(stage.window().handle())); }},
+        {"window destroyed", [](Stage& stage) { DestroyWindow(stage.host().window()); }},
         {"message box in front",
          [](Stage& /*stage*/) {
              const MessageBoxHand hand([](HWND /*box*/) { settleFor(Delay); });
@@ -117,13 +97,13 @@ TEST(spinner_stops_when_its_handler_takes_it_away) {
              EXPECT_EQ(hand.seen(), 1);
          }},
     };
-    for (const Deed& deed : deeds) {
+    for (const auto& deed : deeds) {
         SpinnerStage scene;
-        scene.stage().onStep = [&] { deed.act(scene.stage()); };
-        HWND const window = scene.spinner();
+        scene.onStep = [&] { deed.act(scene); };
+        HWND const window = scene.spinnerWindow();
         scene.press(Upper);
         settleFor(Delay);
-        if (const std::wstring log = scene.stage().takeLog(); stepsIn(log) != 1)
+        if (const std::wstring log = scene.takeLog(); stepsIn(log) != 1)
             fail(__FILE__, __LINE__, std::string(deed.name) + ": " + shown(log));
         EXPECT(GetCapture() != window);
         if (IsWindow(window) != FALSE) scene.release(Upper);
@@ -132,7 +112,7 @@ TEST(spinner_stops_when_its_handler_takes_it_away) {
 
 TEST(spinner_does_not_step_again_while_its_handler_is_at_it) {
     SpinnerStage scene;
-    scene.stage().onStep = [] { settleFor(Delay); };
+    scene.onStep = [] { settleFor(Delay); };
     scene.press(Upper);
     EXPECT_EQ(scene.steps(), 1);
     scene.release(Upper);
@@ -140,16 +120,10 @@ TEST(spinner_does_not_step_again_while_its_handler_is_at_it) {
 
 TEST(spinner_comes_back_with_its_window) {
     Stage stage;
-    {
-        HostWindow host;
-        stage.placeOn(host.window());
-        stage.spinner().setVisible(true);
-    }
-    EXPECT(stage.spinner().visible());
-    HostWindow host;
-    stage.placeOn(host.window());
+    stage.spinner().setVisible(true);
+    stage.changeHost();
     EXPECT(IsWindowVisible(stage.spinnerWindow()));
-    drag(stage.spinnerWindow(), Upper, Upper);
+    click(stage.spinnerWindow(), Upper);
     EXPECT_EQ(stage.takeLog(), L"step:2");
 }
 

@@ -62,10 +62,8 @@ TEST(text_from_outside_goes_through_the_box) {
         {L"abc", 1, 0, WM_IME_CHAR, 0x3042, nullptr, L"a\u3042|bc", L"key:12354 change"},
         {L"abc", 1, 1, EM_UNDO, 0, nullptr, L"a[b]c", L""},
     };
-    HostWindow host;
     for (const MessageCase& row : cases) {
         Stage stage;
-        stage.placeOn(host.window());
         stage.box().setText(win32::unwiden(row.before));
         stage.box().setSelStart(row.caret);
         stage.box().setSelLength(row.length);
@@ -77,9 +75,7 @@ TEST(text_from_outside_goes_through_the_box) {
 }
 
 TEST(limits_and_locks_from_outside_are_the_boxs) {
-    HostWindow host;
     Stage stage;
-    stage.placeOn(host.window());
     SendMessageW(stage.edit(), EM_SETLIMITTEXT, 2, 0);
     EXPECT_EQ(SendMessageW(stage.edit(), EM_GETLIMITTEXT, 0, 0), 2);
     stage.box().setText(u"longer by code");
@@ -91,9 +87,7 @@ TEST(limits_and_locks_from_outside_are_the_boxs) {
 }
 
 TEST(pairs_come_in_two_messages_and_go_as_one) {
-    HostWindow host;
     Stage stage;
-    stage.placeOn(host.window());
     SendMessageW(stage.edit(), WM_CHAR, 0xD83D, 1);
     SendMessageW(stage.edit(), WM_CHAR, 0xDE00, 1);
     EXPECT_EQ(stage.takeLog(), L"key:128512 change");
@@ -103,15 +97,12 @@ TEST(pairs_come_in_two_messages_and_go_as_one) {
 }
 
 TEST(half_line_breaks_are_kept_and_shown_as_blanks) {
-    HostWindow host;
     Stage line;
-    line.placeOn(host.window());
     line.box().setText(u"a\r\nb");
     EXPECT_EQ(textOf(line.edit()), L"a\r\nb");
     EXPECT_EQ(shownLine(line.edit()), L"a  b");
 
     Stage lines(true);
-    lines.placeOn(host.window(), 1);
     lines.box().setText(u"a\nb\r\r\nc");
     EXPECT_EQ(textOf(lines.edit()), L"a\nb\r\r\nc");
     EXPECT_EQ(shownLine(lines.edit(), 0), L"a b ");
@@ -119,9 +110,7 @@ TEST(half_line_breaks_are_kept_and_shown_as_blanks) {
 }
 
 TEST(any_sequence_of_edits_leaves_box_and_window_the_same) {
-    HostWindow host;
     Stage stage(true);
-    stage.placeOn(host.window());
     unsigned seed = 12345;
     const auto random = [&seed](unsigned below) {
         seed = seed * 1103515245U + 12345U;
@@ -145,9 +134,7 @@ TEST(any_sequence_of_edits_leaves_box_and_window_the_same) {
 }
 
 TEST(up_and_down_go_by_the_lines_that_the_window_shows) {
-    HostWindow host;
     Stage stage(true);
-    stage.placeOn(host.window());
     std::u16string text;
     for (int word = 0; word < 40; ++word) text += u"word ";
     stage.box().setText(text);
@@ -165,12 +152,8 @@ TEST(up_and_down_go_by_the_lines_that_the_window_shows) {
 }
 
 TEST(an_input_method_commits_character_by_character) {
-    HostWindow host;
     Stage stage;
-    stage.placeOn(host.window());
-    SetFocus(stage.edit());
-    settle();
-    stage.takeLog();
+    stage.enter();
     HIMC context = ImmGetContext(stage.edit());
     EXPECT(context != nullptr);
     wchar_t composed[] = L"\u3042\u3044";
@@ -200,21 +183,19 @@ void CALLBACK closeMenu(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/, D
 }  // namespace
 
 TEST(the_context_menu_pastes_through_the_box_and_takes_no_focus) {
-    HostWindow host;
     Stage stage;
-    stage.placeOn(host.window());
     stage.box().setText(u"ab");
     stage.box().setMaxLength(4);
     SetFocus(stage.edit());
     stage.box().setSelStart(1);
     settle();
-    putClipboard(host.window(), L"xyz\r\nsecond line");
+    putClipboard(stage.host().window(), L"xyz\r\nsecond line");
     stage.takeLog();
-    SetTimer(host.window(), 7, 20, &pressInMenu);
-    SetTimer(host.window(), 8, 2000, &closeMenu);
+    SetTimer(stage.host().window(), 7, 20, &pressInMenu);
+    SetTimer(stage.host().window(), 8, 2000, &closeMenu);
     SendMessageW(stage.edit(), WM_CONTEXTMENU, reinterpret_cast<WPARAM>(stage.edit()), MAKELPARAM(150, 10));
-    KillTimer(host.window(), 7);
-    KillTimer(host.window(), 8);
+    KillTimer(stage.host().window(), 7);
+    KillTimer(stage.host().window(), 8);
     settle();
     EXPECT_EQ(stage.takeLog(), L"paste:xyz change");
     expectShown(stage, L"axy|b");
@@ -254,15 +235,13 @@ TEST(nothing_is_pasted_past_the_control) {
         {"character", [](HWND edit) { SendMessageW(edit, WM_CHAR, 22, 1); }},
         {"past the box", [](HWND edit) { putPastTheBox(edit, L"12.5"); }},
     };
-    HostWindow host;
     for (const Way& way : ways) {
         Stage stage;
-        stage.placeOn(host.window());
         stage.box().setText(u"abc");
         SetFocus(stage.edit());
         stage.box().setSelStart(1);
         stage.box().setSelLength(1);
-        putClipboard(host.window(), L"12.5");
+        putClipboard(stage.host().window(), L"12.5");
         bool asked = false;
         stage.onPaste = [&asked](std::u16string& text) {
             asked = text == u"12.5";

@@ -5,13 +5,7 @@ On Error Resume Next
 Set field = CreateObject("KelControls8.KelText")
 field.Text = "by default"
 Expect field & "", "by default", "the field itself"
-field.MultiLine = True
-field.Text = "a" & vbCrLf & vbCrLf
-Expect field.TextRaw, "a" & vbCrLf & vbCrLf, "TextRaw"
-Expect field.Text, "a", "Text"
-Expect field.TextRaw, "a", "TextRaw after Text"
-Expect field.MultiLine, True, "MultiLine"
-Tested "script_text_default_member_and_lines"
+Tested "script_text_default_member"
 
 ' A put by reference leaves the caller's variable alone, whatever it holds.
 Set field = CreateObject("KelControls8.KelText")
