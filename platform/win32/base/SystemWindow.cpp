@@ -1,6 +1,6 @@
 #include "platform/win32/base/SystemWindow.h"
 
-#include "platform/win32/control/ControlWindow.h"
+#include "platform/win32/control/ControlWindowOwner.h"
 
 namespace kel::win32 {
 

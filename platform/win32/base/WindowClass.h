@@ -24,7 +24,7 @@ class WindowClass {
 public:
     /// A class of our own.
     explicit WindowClass(const wchar_t* name);
-    /// The system's class `base` with our handler in front; `procedure` is what handles the rest.
+    /// The system's class `base` with our handler in front; `baseProcedure` is what handles the rest.
     WindowClass(const wchar_t* name, const wchar_t* base);
     ~WindowClass();
     WindowClass(const WindowClass&) = delete;

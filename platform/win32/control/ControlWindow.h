@@ -1,51 +1,19 @@
 #pragma once
 
-#include <windows.h>
-
 #include <memory>
+#include <vector>
 
 #include "host/System.h"
 #include "host/Widgets.h"
+#include "platform/win32/base/Clipboard.h"
+#include "platform/win32/base/TwipGrid.h"
 #include "platform/win32/base/WindowClass.h"
+#include "platform/win32/control/ControlWindowOwner.h"
+#include "platform/win32/control/Win32Focus.h"
+#include "platform/win32/widgets/Win32Label.h"
+#include "platform/win32/widgets/WindowedView.h"
 
 namespace kel::win32 {
-
-/// Whoever holds a control and its window: told what happens to the window. Any of these calls may run host
-/// code, which may close, move or release the control.
-class ControlWindowOwner {
-public:
-    /// Owner, control and window stay alive from `holdOpen` to the matching `letGo`. The window's procedures
-    /// stand between the two whenever they run, and touch nothing of their own after the last `letGo`.
-    virtual void holdOpen() = 0;
-    virtual void letGo() = 0;
-
-    /// The focus comes into the control from outside; said before the child widget tells its listener.
-    virtual void focusEntered() = 0;
-    /// The focus has gone to a window outside the control; said after the child widget told its listener.
-    virtual void focusLeft() = 0;
-
-    /// The field that has the focus can have it no longer. It goes to another field of the control where one shows in
-    /// its place, else on to the host's next control, as by Tab. Where it stays, the field drops it.
-    virtual void passFocusOn() = 0;
-
-    /// The control looks other than it did: where the host paints its picture itself, it is out of date.
-    virtual void viewChanged() = 0;
-
-    /// The caption marks another character from now on.
-    virtual void mnemonicChanged() = 0;
-
-protected:
-    ~ControlWindowOwner() = default;
-};
-
-/// Handles a message while its control is held open.
-template <class Action>
-LRESULT heldOpen(ControlWindowOwner& owner, Action action) noexcept {
-    owner.holdOpen();
-    const LRESULT result = atEdge(action);
-    owner.letGo();
-    return result;
-}
 
 /// The window of one control, a child of whatever window its host gives it, and the host of the child
 /// widgets in it. Coordinates here are screen pixels; the widgets' are twips (`System::twipsPerPixel`).
@@ -53,45 +21,108 @@ LRESULT heldOpen(ControlWindowOwner& owner, Action action) noexcept {
 /// Widgets and control work without any window being there: what they are given is kept and shown once there
 /// is one. When a host destroys the parent with the window in it, the widgets keep what they hold, and the
 /// next `handle` makes the window anew.
-class ControlWindow {
+class ControlWindow final : private ControlFrame, private WidgetHost, private WindowHandler {
 public:
-    ControlWindow() = default;
+    /// `owner` outlives the window.
+    ControlWindow(ControlWindowOwner& owner, const System& system,
+                  std::shared_ptr<Clipboard> clipboard = std::make_shared<Clipboard>())
+        : Owner_(owner), Grid_(system.twipsPerPixel()), Clipboard_(std::move(clipboard)) {}
+    /// Destroys the window. The control, and with it every widget, is gone before.
+    ~ControlWindow();
     ControlWindow(const ControlWindow&) = delete;
     ControlWindow& operator=(const ControlWindow&) = delete;
-    /// Destroys the window. The control, and with it every widget, is gone before.
-    virtual ~ControlWindow() = default;
 
-    virtual WidgetHost& widgets() = 0;
+    WidgetHost& widgets() { return *this; }
 
     /// The control's own window. There being none, it is made: hidden, in a parent that nobody sees. nullptr
     /// when the system gives no window.
-    virtual HWND handle() = 0;
+    HWND handle();
+    /// The same as hosts of any width have it: handles have 32 significant bits in 64-bit processes too.
+    std::int32_t handleNumber() { return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(handle())); }
 
     /// Moves the window into `parent`, nullptr for the parent that nobody sees; makes the window if need be.
-    virtual void setParent(HWND parent) = 0;
+    void setParent(HWND parent);
 
     /// Place inside the parent; nothing outside `clip`, in the same coordinates, is shown.
-    virtual void place(const RECT& bounds, const RECT& clip) = 0;
+    void place(const RECT& bounds, const RECT& clip);
 
-    virtual void setVisible(bool visible) = 0;
+    void setVisible(bool visible);
 
     /// A disabled window takes no input, and neither do the widgets in it.
-    virtual void setEnabled(bool enabled) = 0;
+    bool enabled() const override { return Enabled_; }
+    void setEnabled(bool enabled);
 
     /// Gives the focus to the field by code. Nothing happens while the control is disabled or hidden.
-    virtual void setFocus() = 0;
-    virtual bool hasFocus() const = 0;
+    void setFocus();
 
     /// A key that the host offers before it looks at it itself. True: the field wants it (arrows, Home, End,
     /// Enter, Escape in a dropped list, the editing shortcuts) and has been given it. Tab is never wanted.
-    virtual bool translateAccelerator(MSG& message) = 0;
+    bool translateAccelerator(MSG& message);
 
     /// Paints the control as it stands into `bounds`, also while it has no window. `context` may be that of
     /// a metafile.
-    virtual void draw(HDC context, const RECT& bounds) = 0;
-};
+    void draw(HDC context, const RECT& bounds);
 
-/// `owner` and `system` outlive the window.
-std::unique_ptr<ControlWindow> makeControlWindow(ControlWindowOwner& owner, System& system);
+    /// The screen that the window is on has another resolution.
+    void setGrid(const TwipGrid& grid);
+
+private:
+    template <class Seen, class Shown>
+    std::unique_ptr<Seen> make(Shown& shown);
+    std::unique_ptr<PictureView> makeView(PictureBox& box) override;
+    std::unique_ptr<View> makeView(CheckBox& box) override;
+    std::unique_ptr<View> makeView(UpDown& spinner) override;
+    std::unique_ptr<View> makeView(Label& label) override;
+    std::unique_ptr<TextView> makeView(TextBox& box) override;
+    std::unique_ptr<TextView> makeView(ComboBox& box) override;
+    bool takesInput() const override { return Enabled_ && Visible_; }
+    void moveFocusTo(FieldWidget& field) override;
+    void focusBarred(FieldWidget& field) override { takeInputFrom(viewOf<WindowedField>(&field)->wholeWindow()); }
+    void controlEntered() override { Owner_.focusEntered(); }
+    void controlLeft() override { Owner_.focusLeft(); }
+    std::u16string clipboardText() override { return Clipboard_->text(Window_); }
+    void setClipboardText(std::u16string_view text) override { Clipboard_->setText(Window_, text); }
+
+    HWND window() const override { return Window_; }
+    ControlWindowOwner& owner() override { return Owner_; }
+    const TwipGrid& grid() const override { return Grid_; }
+    void add(WindowedView& widget) override;
+    void remove(WindowedView& widget) override;
+    void arrived(WindowedField& field) override;
+    void departed(HWND next) override;
+    void leave();
+    void takeInputFrom(HWND window) override;
+    void dropInputOf(HWND window) const;
+    void setToolTip(HWND field, const wchar_t* text) override;
+    void setLabel(Win32Label* label) override;
+    void captionChanged() override;
+    void mnemonicChanged() override { Owner_.mnemonicChanged(); }
+    void viewChanged() override { Owner_.viewChanged(); }
+
+    LRESULT handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) override;
+    LRESULT handle(HWND window, UINT message, WPARAM wide, LPARAM data);
+    int height() const { return heightOf(Bounds_); }
+    void drawCaption(HDC context, const RECT& area) const;
+    void drawLabelWindow(const DRAWITEMSTRUCT& item) const;
+
+    void makeWindow(HWND parent);
+    HWND parkingWindow();
+    WindowedView* widgetOf(HWND window) const;
+    WindowedField* fieldOf(HWND window) const;
+    WindowedField* shownField() const;
+
+    ControlWindowOwner& Owner_;
+    TwipGrid Grid_;
+    std::shared_ptr<Clipboard> Clipboard_;
+    std::shared_ptr<Win32Focus> Focus_;  ///< where it has had the focus last; nullptr for nowhere
+    std::vector<WindowedView*> Widgets_;
+    Win32Label* Label_ = nullptr;
+    HWND Window_ = nullptr;
+    HWND Parking_ = nullptr;  ///< the parent that nobody sees
+    HWND ToolTips_ = nullptr;
+    RECT Bounds_{};
+    bool Enabled_ = true;
+    bool Visible_ = false;
+};
 
 }  // namespace kel::win32

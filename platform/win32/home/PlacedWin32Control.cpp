@@ -1,6 +1,5 @@
 #include "platform/win32/home/PlacedWin32Control.h"
 
-#include "platform/win32/control/Win32ControlWindow.h"
 #include "platform/win32/home/Win32FormWindow.h"
 #include "platform/win32/widgets/WindowedView.h"
 
@@ -13,19 +12,17 @@ PlacedWin32Control::PlacedWin32Control(const ClassModel& model, const Placement&
       Form_(surroundings.form),
       Grid_(surroundings.system.twipsPerPixel()),
       Name_(placement.name),
-      Bounds_(placement.bounds) {
-    ControlWindowOwner& owner = *this;
-    Window_ = std::make_unique<Win32ControlWindow>(owner, surroundings.system, surroundings.clipboard);
-    Window_->setParent(surroundings.parent);
-    Window_->setVisible(placement.visible);
-    ControlHost host{*this, Window_->widgets(), surroundings.system, surroundings.settings, surroundings.region};
+      Bounds_(placement.bounds),
+      Window_(*this, surroundings.system, surroundings.clipboard) {
+    Window_.setParent(surroundings.parent);
+    Window_.setVisible(placement.visible);
+    ControlHost host{*this, Window_.widgets(), surroundings.system, surroundings.settings, surroundings.region};
     Control_ = model.makeControl(host);
 }
 
 PlacedWin32Control::~PlacedWin32Control() {
     // From here on nobody is told of the focus.
     Control_.reset();
-    Window_.reset();
 }
 
 void PlacedWin32Control::setBounds(const Rect& bounds) {
@@ -46,25 +43,13 @@ void PlacedWin32Control::setSize(Size wanted) {
 
 void PlacedWin32Control::showPlace() {
     const RECT pixels = Grid_.pixels(Bounds_);
-    Window_->place(pixels, pixels);
+    Window_.place(pixels, pixels);
 }
-
-ControlWindow& PlacedWin32Control::window() const { return *Window_; }
 
 void PlacedWin32Control::setGrid(const TwipGrid& grid) {
     Grid_ = grid;
-    Window_->setGrid(grid);
+    Window_.setGrid(grid);
     showPlace();
-}
-
-void PlacedWin32Control::setEnabled(bool enabled) {
-    Enabled_ = enabled;
-    Window_->setEnabled(enabled);
-}
-
-std::int32_t PlacedWin32Control::windowHandle() {
-    // Window handles have 32 significant bits in 64-bit processes too.
-    return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(Window_->handle()));
 }
 
 void PlacedWin32Control::focusEntered() {

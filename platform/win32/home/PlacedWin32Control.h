@@ -11,8 +11,6 @@
 
 namespace kel::win32 {
 
-class Clipboard;
-class Win32ControlWindow;
 class Win32FormWindow;
 
 /// A control with everything it stands on: its place on the form, its container, its window.
@@ -39,7 +37,7 @@ public:
     std::u16string toolTipText() const override { return ToolTipText_; }
     void setToolTipText(std::u16string_view text) override { ToolTipText_.assign(text); }
 
-    ControlWindow& window() const;
+    ControlWindow& window() { return Window_; }
     /// The form is on a screen of another resolution.
     void setGrid(const TwipGrid& grid);
 
@@ -52,9 +50,9 @@ private:
     bool hasSize() const override { return Sized_; }
     Size size() const override { return {Bounds_.width, Bounds_.height}; }
     void setSize(Size size) override;
-    bool enabled() const override { return Enabled_; }
-    void setEnabled(bool enabled) override;
-    std::int32_t windowHandle() override;
+    bool enabled() const override { return Window_.enabled(); }
+    void setEnabled(bool enabled) override { Window_.setEnabled(enabled); }
+    std::int32_t windowHandle() override { return Window_.handleNumber(); }
     std::u16string displayName() const override { return Name_; }
     void propertyChanged(const MemberRow& property) override { Observer_.propertyReported(*this, property.name); }
     void raiseEvent(const EventRow& event, std::span<Variant> arguments) override {
@@ -78,9 +76,8 @@ private:
     std::u16string Name_;
     std::u16string ToolTipText_;
     Rect Bounds_;
-    bool Enabled_ = true;
     bool Sized_ = false;
-    std::unique_ptr<Win32ControlWindow> Window_;
+    ControlWindow Window_;
     std::unique_ptr<Control> Control_;  ///< last, so that it goes before all it stands on
 };
 

@@ -7,7 +7,6 @@
 #include "library/SharedSettings.h"
 #include "platform/win32/base/Session.h"
 #include "platform/win32/base/WideText.h"
-#include "platform/win32/home/ForeignWindows.h"
 
 namespace kel::win32 {
 
@@ -21,15 +20,6 @@ const WindowClass& formClass() {
     static const WindowClass Class(L"KelControls8.Form");
     return Class;
 }
-
-class Win32Panel final : public PlacedPanel {
-public:
-    explicit Win32Panel(HWND window) : Window_(window) {}
-    HWND window() const { return Window_; }
-
-private:
-    HWND Window_;
-};
 
 }  // namespace
 
@@ -59,7 +49,7 @@ Win32FormWindow::~Win32FormWindow() {
 // ---- Placing
 
 HWND Win32FormWindow::parentOf(const Placement& placement) const {
-    return placement.parent != nullptr ? static_cast<const Win32Panel*>(placement.parent)->window() : Window_;
+    return placement.parent != nullptr ? static_cast<const ForeignWindow*>(placement.parent)->window() : Window_;
 }
 
 PlacedControl& Win32FormWindow::place(const ClassModel& model, const Placement& placement, ControlObserver& observer) {
@@ -74,23 +64,14 @@ PlacedControl& Win32FormWindow::place(const ClassModel& model, const Placement& 
 }
 
 PlacedPanel* Win32FormWindow::placeForeign(const ForeignBlock& block) {
-    HWND const parent = parentOf(block.placement);
-    if (block.kind == ForeignBlock::Kind::Panel) {
-        const PanelWindows panel = makePanel(block, Grid_, parent);
-        Foreign_.push_back({block, panel.panel, panel.frame});
-        return Panels_.emplace_back(std::make_unique<Win32Panel>(panel.panel)).get();
-    }
-    Foreign_.push_back({block, makeForeignWindow(block, Grid_, parent), nullptr});
+    Foreign_.push_back(std::make_unique<ForeignWindow>(block, Grid_, parentOf(block.placement)));
     if (block.kind == ForeignBlock::Kind::Label) Order_.addLabel(block.caption, block.placement.tabIndex);
-    return nullptr;
+    return block.kind == ForeignBlock::Kind::Panel ? Foreign_.back().get() : nullptr;
 }
 
 void Win32FormWindow::show() {
     setForeignFont();
-    // Frames belong behind all that has been placed in their panels.
-    for (const Foreign& foreign : Foreign_)
-        if (foreign.frame != nullptr)
-            SetWindowPos(foreign.frame, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    for (const auto& foreign : Foreign_) foreign->sendFrameBack();
     // By index: a host may place further controls meanwhile.
     for (std::size_t i = 0; i < Controls_.size(); ++i) Controls_[i]->control().Show();
     ShowWindow(Window_, SW_SHOWNORMAL);
@@ -100,9 +81,7 @@ void Win32FormWindow::show() {
 void Win32FormWindow::setForeignFont() {
     if (const auto runtime = Settings_.Runtime)
         Font_.choose({runtime->CaptionFontName(), runtime->CaptionFontSize()}, Grid_);
-    const auto font = reinterpret_cast<WPARAM>(Font_.handle());
-    for (const Foreign& foreign : Foreign_)
-        SendMessageW(foreign.frame != nullptr ? foreign.frame : foreign.window, WM_SETFONT, font, TRUE);
+    for (const auto& foreign : Foreign_) foreign->setFont(Font_.handle());
 }
 
 // ---- Focus
@@ -147,11 +126,7 @@ void Win32FormWindow::changeResolution(int dotsPerInch) {
     constexpr int TwipsPerInch = 1440;
     Grid_ = TwipGrid((TwipsPerInch + dotsPerInch / 2) / std::max(dotsPerInch, 1));
     sizeWindow();
-    for (const Foreign& foreign : Foreign_) {
-        const RECT place = foreignPlace(foreign.block, Grid_);
-        MoveWindow(foreign.window, place.left, place.top, widthOf(place), heightOf(place), TRUE);
-        if (foreign.frame != nullptr) MoveWindow(foreign.frame, 0, 0, widthOf(place), heightOf(place), TRUE);
-    }
+    for (const auto& foreign : Foreign_) foreign->place(Grid_);
     setForeignFont();
     for (const auto& control : Controls_) control->setGrid(Grid_);
 }

@@ -6,6 +6,7 @@
 #include "forms/Home.h"
 #include "platform/win32/base/Gdi.h"
 #include "platform/win32/base/WindowClass.h"
+#include "platform/win32/home/ForeignWindow.h"
 #include "platform/win32/home/PlacedWin32Control.h"
 
 namespace kel::win32 {
@@ -43,12 +44,6 @@ public:
     void sendKey(std::int16_t code);
 
 private:
-    struct Foreign {
-        ForeignBlock block;
-        HWND window;
-        HWND frame;  ///< of a panel
-    };
-
     LRESULT handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) override;
     void activated(WPARAM state);
     void changeResolution(int dotsPerInch);
@@ -77,8 +72,7 @@ private:
     HWND Window_ = nullptr;
     HWND FocusBefore_ = nullptr;  ///< which had the focus when another window came in front
     TabOrder Order_;
-    std::vector<Foreign> Foreign_;
-    std::vector<std::unique_ptr<PlacedPanel>> Panels_;
+    std::vector<std::unique_ptr<ForeignWindow>> Foreign_;
     std::vector<std::unique_ptr<PlacedWin32Control>> Controls_;
 };
 

@@ -73,11 +73,11 @@ RECT turned(HDC context, const RECT& area) {
 }  // namespace
 
 Win32CheckBox::Win32CheckBox(ControlFrame& frame, CheckBox& box) : WindowedField(box), PaintedWindow(frame), Box_(box) {
-    frame.addField(*this);
+    frame.add(*this);
 }
 
 Win32CheckBox::~Win32CheckBox() {
-    frame().removeField(*this);
+    frame().remove(*this);
     destroy();
 }
 

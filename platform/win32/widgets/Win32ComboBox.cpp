@@ -22,7 +22,7 @@ const WindowClass& comboClass() {
 }  // namespace
 
 Win32ComboBox::Win32ComboBox(ControlFrame& frame, ComboBox& box) : Win32TextEntry(frame, box), Box_(box) {
-    frame.addField(*this);
+    frame.add(*this);
 }
 
 // ---- The window

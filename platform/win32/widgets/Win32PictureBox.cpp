@@ -12,13 +12,8 @@ namespace {
 
 constexpr int WholeBar = 100;
 
-/// The system registers the base class at the latest when it is asked to.
 const WindowClass& progressClass() {
-    static const WindowClass Class = [] {
-        const INITCOMMONCONTROLSEX wanted{sizeof wanted, ICC_PROGRESS_CLASS};
-        InitCommonControlsEx(&wanted);
-        return WindowClass(L"KelControls8.PictureBox", PROGRESS_CLASSW);
-    }();
+    static const WindowClass Class(L"KelControls8.PictureBox", PROGRESS_CLASSW);
     return Class;
 }
 

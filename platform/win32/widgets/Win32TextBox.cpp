@@ -5,7 +5,7 @@
 namespace kel::win32 {
 
 Win32TextBox::Win32TextBox(ControlFrame& frame, TextBox& box) : Win32TextEntry(frame, box), Box_(box) {
-    frame.addField(*this);
+    frame.add(*this);
 }
 
 bool Win32TextBox::createWindow() {

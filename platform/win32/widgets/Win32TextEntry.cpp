@@ -1,7 +1,7 @@
 #include "platform/win32/widgets/Win32TextEntry.h"
 
 #include "platform/win32/base/WideText.h"
-#include "platform/win32/control/ControlWindow.h"
+#include "platform/win32/control/ControlWindowOwner.h"
 
 namespace kel::win32 {
 
@@ -12,7 +12,7 @@ void Win32TextEntry::makeWindow() {
 }
 
 void Win32TextEntry::destroy() {
-    Frame_.removeField(*this);
+    Frame_.remove(*this);
     if (wholeWindow() != nullptr) DestroyWindow(wholeWindow());
 }
 

@@ -6,13 +6,8 @@ namespace kel::win32 {
 
 namespace {
 
-/// The system registers the base class at the latest when it is asked to.
 const WindowClass& upDownClass() {
-    static const WindowClass Class = [] {
-        const INITCOMMONCONTROLSEX wanted{sizeof wanted, ICC_UPDOWN_CLASS};
-        InitCommonControlsEx(&wanted);
-        return WindowClass(L"KelControls8.UpDown", UPDOWN_CLASSW);
-    }();
+    static const WindowClass Class(L"KelControls8.UpDown", UPDOWN_CLASSW);
     return Class;
 }
 

@@ -10,6 +10,7 @@ namespace kel::win32 {
 class ControlWindowOwner;
 class TwipGrid;
 class Win32Label;
+class WindowedField;
 
 /// What a control's window knows of the widgets in it, but for the caption.
 class WindowedView {
@@ -23,6 +24,9 @@ public:
     virtual void makeWindow() = 0;
 
     virtual bool shown() const = 0;
+
+    /// nullptr where it cannot have the focus.
+    virtual WindowedField* asField() { return nullptr; }
 
     /// The frame is enabled from now on, or no longer.
     virtual void frameEnabledChanged() {}
@@ -45,6 +49,7 @@ class WindowedField : public WindowedView {
 public:
     FieldWidget& widget() const { return Widget_; }
     bool shown() const final { return Widget_.visible(); }
+    WindowedField* asField() final { return this; }
 
     /// A key that its host would otherwise take for itself.
     virtual bool wantsKey(const KeyStroke& stroke) const = 0;
@@ -80,8 +85,6 @@ public:
 
     virtual void add(WindowedView& widget) = 0;
     virtual void remove(WindowedView& widget) = 0;
-    virtual void addField(WindowedField& field) = 0;
-    virtual void removeField(WindowedField& field) = 0;
 
     /// The window of the field has got the focus; the one that had it has lost it to `next`.
     virtual void arrived(WindowedField& field) = 0;

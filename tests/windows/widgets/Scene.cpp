@@ -24,7 +24,7 @@ HostWindow::~HostWindow() { DestroyWindow(Window_); }
 
 Scene::Scene(int width, int height) : Size_{width, height} {
     win32::ControlWindowOwner& owner = *this;
-    Window_ = win32::makeControlWindow(owner, machine());
+    Window_ = std::make_unique<win32::ControlWindow>(owner, machine());
 }
 
 void Scene::placeOn(HWND host, int column) {

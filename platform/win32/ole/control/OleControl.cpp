@@ -31,17 +31,13 @@ OleControl::OleControl(Library& library, const ClassModel& model, const ClassIde
       ClassInfo_(*this, identity, library),
       Parts_{makeEmbeddedPart(*this), makeKeysPart(*this), makeInPlacePart(*this), makePicturePart(*this),
              makePersistPart(*this)},
-      Window_(makeControlWindow(*this, System_)) {
-    ControlHost host{*this, Window_->widgets(), System_, library.settings(), systemRegion()};
+      Window_(*this, System_) {
+    ControlHost host{*this, Window_.widgets(), System_, library.settings(), systemRegion()};
     Control_ = model.makeControl(host);
     Control_->Initialize();
 }
 
-OleControl::~OleControl() {
-    Dying_ = true;
-    Control_.reset();
-    Window_.reset();
-}
+OleControl::~OleControl() { Dying_ = true; }
 
 void* OleControl::find(REFIID iid) {
     for (const auto& part : Parts_)
@@ -103,16 +99,6 @@ void OleControl::freezeEvents(bool freeze) { FrozenDepth_ = std::max(0, FrozenDe
 
 // ---- What the control says to its host
 
-void OleControl::setEnabled(bool enabled) {
-    Enabled_ = enabled;
-    Window_->setEnabled(enabled);
-}
-
-std::int32_t OleControl::windowHandle() {
-    // Window handles have 32 significant bits in 64-bit processes too.
-    return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(Window_->handle()));
-}
-
 void OleControl::propertyChanged(const MemberRow& property) {
     Dirty_ = true;
     Connections_.Notify.changed(property.id);
@@ -156,7 +142,7 @@ void OleControl::focusLeft() {
 void OleControl::passFocusOn() {
     if (Dying_) return;
     HWND const field = GetFocus();
-    Window_->setFocus();
+    Window_.setFocus();
     if (GetFocus() == field) Site_.pressTab(field);
 }
 

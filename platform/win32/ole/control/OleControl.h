@@ -29,7 +29,7 @@ public:
     const ClassModel& model() const { return Model_; }
     const ClassIdentity& identity() const { return Identity_; }
     Control& control() const { return *Control_; }
-    ControlWindow& window() const { return *Window_; }
+    ControlWindow& window() { return Window_; }
     ClientSite& site() { return Site_; }
     Activation& activation() { return Activation_; }
     ConnectionPointsPart& connections() { return Connections_; }
@@ -67,9 +67,9 @@ private:
     bool hasSize() const override { return HasExtent_; }
     Size size() const override { return Extent_; }
     void setSize(Size size) override;
-    bool enabled() const override { return Enabled_; }
-    void setEnabled(bool enabled) override;
-    std::int32_t windowHandle() override;
+    bool enabled() const override { return Window_.enabled(); }
+    void setEnabled(bool enabled) override { Window_.setEnabled(enabled); }
+    std::int32_t windowHandle() override { return Window_.handleNumber(); }
     std::u16string displayName() const override { return Site_.displayName(); }
     void propertyChanged(const MemberRow& property) override;
     void raiseEvent(const EventRow& event, std::span<Variant> arguments) override;
@@ -95,7 +95,6 @@ private:
     Size Extent_{3600, 300};
     SIZEL Given_{0, 0};  ///< last size in hundredths of a millimetre
     bool HasExtent_ = false;
-    bool Enabled_ = true;
     bool Dirty_ = false;
     bool Entered_ = false;
     bool Dying_ = false;
@@ -105,7 +104,7 @@ private:
     ConnectionPointsPart Connections_;
     ClassInfoPart ClassInfo_;
     std::array<std::unique_ptr<ControlInterfaces>, 5> Parts_;
-    std::unique_ptr<ControlWindow> Window_;
+    ControlWindow Window_;
     std::unique_ptr<Control> Control_;  ///< last: it leans on all of the above
 };
 

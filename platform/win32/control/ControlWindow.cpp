@@ -1,4 +1,4 @@
-#include "platform/win32/control/Win32ControlWindow.h"
+#include "platform/win32/control/ControlWindow.h"
 
 #include <commctrl.h>
 
@@ -15,16 +15,14 @@ namespace kel::win32 {
 
 namespace {
 
+/// Some widgets in its windows stand on classes that the system registers at the latest when it is asked to.
 const WindowClass& controlClass() {
-    static const WindowClass Class(L"KelControls8.Control");
+    static const WindowClass Class = [] {
+        const INITCOMMONCONTROLSEX wanted{sizeof wanted, ICC_UPDOWN_CLASS | ICC_PROGRESS_CLASS};
+        InitCommonControlsEx(&wanted);
+        return WindowClass(L"KelControls8.Control");
+    }();
     return Class;
-}
-
-template <class Widget>
-Widget* withWindow(const std::vector<Widget*>& widgets, HWND window) {
-    const auto found =
-        std::find_if(widgets.begin(), widgets.end(), [window](const Widget* widget) { return widget->has(window); });
-    return found != widgets.end() ? *found : nullptr;
 }
 
 bool isIn(HWND window, HWND other) { return other != nullptr && (other == window || IsChild(window, other) != FALSE); }
@@ -39,11 +37,7 @@ KeyStroke strokeOf(const MSG& message) {
 
 }  // namespace
 
-std::unique_ptr<ControlWindow> makeControlWindow(ControlWindowOwner& owner, System& system) {
-    return std::make_unique<Win32ControlWindow>(owner, system, std::make_shared<Clipboard>());
-}
-
-Win32ControlWindow::~Win32ControlWindow() {
+ControlWindow::~ControlWindow() {
     if (Focus_) Focus_->forget(static_cast<const WidgetHost&>(*this));
     if (Window_ != nullptr) DestroyWindow(Window_);
     if (Parking_ != nullptr) DestroyWindow(Parking_);
@@ -52,69 +46,72 @@ Win32ControlWindow::~Win32ControlWindow() {
 // ---- Widgets
 
 template <class Seen, class Shown>
-std::unique_ptr<Seen> Win32ControlWindow::make(Shown& shown) {
+std::unique_ptr<Seen> ControlWindow::make(Shown& shown) {
     ControlFrame& frame = *this;
     return std::make_unique<Seen>(frame, shown);
 }
 
-std::unique_ptr<PictureView> Win32ControlWindow::makeView(PictureBox& box) { return make<Win32PictureBox>(box); }
+std::unique_ptr<PictureView> ControlWindow::makeView(PictureBox& box) { return make<Win32PictureBox>(box); }
 
-std::unique_ptr<View> Win32ControlWindow::makeView(CheckBox& box) { return make<Win32CheckBox>(box); }
+std::unique_ptr<View> ControlWindow::makeView(CheckBox& box) { return make<Win32CheckBox>(box); }
 
-std::unique_ptr<View> Win32ControlWindow::makeView(UpDown& spinner) { return make<Win32UpDown>(spinner); }
+std::unique_ptr<View> ControlWindow::makeView(UpDown& spinner) { return make<Win32UpDown>(spinner); }
 
-std::unique_ptr<View> Win32ControlWindow::makeView(Label& label) { return make<Win32Label>(label); }
+std::unique_ptr<View> ControlWindow::makeView(Label& label) { return make<Win32Label>(label); }
 
-std::unique_ptr<TextView> Win32ControlWindow::makeView(TextBox& box) { return make<Win32TextBox>(box); }
+std::unique_ptr<TextView> ControlWindow::makeView(TextBox& box) { return make<Win32TextBox>(box); }
 
-std::unique_ptr<TextView> Win32ControlWindow::makeView(ComboBox& box) { return make<Win32ComboBox>(box); }
+std::unique_ptr<TextView> ControlWindow::makeView(ComboBox& box) { return make<Win32ComboBox>(box); }
 
-void Win32ControlWindow::setLabel(Win32Label* label) {
+void ControlWindow::setLabel(Win32Label* label) {
     Label_ = label;
     if (Label_ != nullptr && Window_ != nullptr) Label_->makeWindow(height());
 }
 
-void Win32ControlWindow::add(WindowedView& widget) {
+void ControlWindow::add(WindowedView& widget) {
     Widgets_.push_back(&widget);
     if (Window_ != nullptr) widget.makeWindow();
 }
 
-void Win32ControlWindow::addField(WindowedField& field) {
-    Fields_.push_back(&field);
-    add(field);
+void ControlWindow::remove(WindowedView& widget) {
+    std::erase(Widgets_, &widget);
+    const WindowedField* const field = widget.asField();
+    if (Focus_ && field != nullptr) Focus_->forget(field->widget());
 }
 
-void Win32ControlWindow::removeField(WindowedField& field) {
-    std::erase(Fields_, &field);
-    if (Focus_) Focus_->forget(field.widget());
-    remove(field);
-}
-
-WindowedField* Win32ControlWindow::shownField() const {
+WindowedView* ControlWindow::widgetOf(HWND window) const {
     const auto found =
-        std::find_if(Fields_.begin(), Fields_.end(), [](const WindowedField* field) { return field->shown(); });
-    return found != Fields_.end() ? *found : nullptr;
+        std::find_if(Widgets_.begin(), Widgets_.end(), [window](WindowedView* widget) { return widget->has(window); });
+    return found != Widgets_.end() ? *found : nullptr;
 }
 
-WindowedView* Win32ControlWindow::widgetOf(HWND window) const { return withWindow(Widgets_, window); }
+WindowedField* ControlWindow::fieldOf(HWND window) const {
+    WindowedView* const widget = widgetOf(window);
+    return widget != nullptr ? widget->asField() : nullptr;
+}
 
-WindowedField* Win32ControlWindow::fieldOf(HWND window) const { return withWindow(Fields_, window); }
+WindowedField* ControlWindow::shownField() const {
+    const auto found = std::find_if(Widgets_.begin(), Widgets_.end(), [](WindowedView* widget) {
+        return widget->asField() != nullptr && widget->shown();
+    });
+    return found != Widgets_.end() ? (*found)->asField() : nullptr;
+}
 
 // ---- The window
 
-HWND Win32ControlWindow::handle() {
+HWND ControlWindow::handle() {
     if (Window_ == nullptr) makeWindow(parkingWindow());
     return Window_;
 }
 
-HWND Win32ControlWindow::parkingWindow() {
+HWND ControlWindow::parkingWindow() {
     if (Parking_ == nullptr)
         Parking_ = CreateWindowExW(WS_EX_TOOLWINDOW, controlClass().name(), L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr,
                                    thisModule(), nullptr);
     return Parking_;
 }
 
-void Win32ControlWindow::makeWindow(HWND parent) {
+void ControlWindow::makeWindow(HWND parent) {
     if (parent == nullptr) return;
     Window_ = CreateWindowExW(WS_EX_CONTROLPARENT, controlClass().name(), L"",
                               WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, Bounds_.left, Bounds_.top, widthOf(Bounds_),
@@ -125,7 +122,7 @@ void Win32ControlWindow::makeWindow(HWND parent) {
     for (WindowedView* const widget : Widgets_) widget->makeWindow();
 }
 
-void Win32ControlWindow::setParent(HWND parent) {
+void ControlWindow::setParent(HWND parent) {
     if (Window_ == nullptr) {
         makeWindow(parent != nullptr ? parent : parkingWindow());
     } else {
@@ -136,7 +133,7 @@ void Win32ControlWindow::setParent(HWND parent) {
     if (Window_ != nullptr && Visible_) ShowWindow(Window_, SW_SHOWNA);
 }
 
-void Win32ControlWindow::place(const RECT& bounds, const RECT& clip) {
+void ControlWindow::place(const RECT& bounds, const RECT& clip) {
     Bounds_ = bounds;
     if (handle() == nullptr) return;
     placeWindow(Window_, bounds);
@@ -148,13 +145,13 @@ void Win32ControlWindow::place(const RECT& bounds, const RECT& clip) {
     SetWindowRgn(Window_, whole ? nullptr : CreateRectRgnIndirect(&seen), TRUE);
 }
 
-void Win32ControlWindow::setVisible(bool visible) {
+void ControlWindow::setVisible(bool visible) {
     Visible_ = visible;
     if (!visible) dropInputOf(Window_);
     if (Window_ != nullptr) ShowWindow(Window_, visible ? SW_SHOWNA : SW_HIDE);
 }
 
-void Win32ControlWindow::setEnabled(bool enabled) {
+void ControlWindow::setEnabled(bool enabled) {
     if (enabled == Enabled_) return;
     Enabled_ = enabled;
     if (!enabled) takeInputFrom(Window_);
@@ -165,7 +162,7 @@ void Win32ControlWindow::setEnabled(bool enabled) {
     RedrawWindow(Window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
-void Win32ControlWindow::setToolTip(HWND field, const wchar_t* text) {
+void ControlWindow::setToolTip(HWND field, const wchar_t* text) {
     if (ToolTips_ == nullptr) {
         if (*text == L'\0') return;
         // Nobody owns it: it would go with the top-level window of today, which the control may outlive in another.
@@ -186,47 +183,45 @@ void Win32ControlWindow::setToolTip(HWND field, const wchar_t* text) {
 
 // ---- Focus and keys
 
-void Win32ControlWindow::setFocus() {
+void ControlWindow::setFocus() {
     if (const WindowedField* const field = shownField()) field->widget().setFocus();
 }
 
-void Win32ControlWindow::moveFocusTo(FieldWidget& field) {
+void ControlWindow::moveFocusTo(FieldWidget& field) {
     const auto* const seen = viewOf<WindowedField>(&field);
     if (seen != nullptr && seen->window() != nullptr) SetFocus(seen->window());
 }
 
-void Win32ControlWindow::arrived(WindowedField& field) {
+void ControlWindow::arrived(WindowedField& field) {
     const std::shared_ptr<Win32Focus> around = Win32Focus::around(Window_);
     if (around != Focus_) leave();
     Focus_ = around;
     around->arrived(Window_, field);
 }
 
-void Win32ControlWindow::departed(HWND next) {
+void ControlWindow::departed(HWND next) {
     if (const std::shared_ptr<Win32Focus> around = Focus_; around && !isIn(Window_, next))
         around->departed(*this, next);
 }
 
-void Win32ControlWindow::leave() {
+void ControlWindow::leave() {
     if (const std::shared_ptr<Win32Focus> around = Focus_) around->leave(*this);
 }
 
-bool Win32ControlWindow::hasFocus() const { return Window_ != nullptr && isIn(Window_, GetFocus()); }
-
-void Win32ControlWindow::takeInputFrom(HWND window) {
+void ControlWindow::takeInputFrom(HWND window) {
     if (window == nullptr) return;
     if (isIn(window, GetFocus())) Owner_.passFocusOn();
     dropInputOf(window);
 }
 
 /// Where its host takes the control away, the host knows where the focus goes.
-void Win32ControlWindow::dropInputOf(HWND window) const {
+void ControlWindow::dropInputOf(HWND window) const {
     if (window == nullptr) return;
     if (isIn(window, GetCapture())) ReleaseCapture();
     if (isIn(window, GetFocus())) SetFocus(nullptr);
 }
 
-bool Win32ControlWindow::translateAccelerator(MSG& message) {
+bool ControlWindow::translateAccelerator(MSG& message) {
     const WindowedField* const field = fieldOf(message.hwnd);
     if (field == nullptr || message.message != WM_KEYDOWN || !field->wantsKey(strokeOf(message))) return false;
     TranslateMessage(&message);
@@ -236,18 +231,18 @@ bool Win32ControlWindow::translateAccelerator(MSG& message) {
 
 // ---- Picture
 
-void Win32ControlWindow::captionChanged() {
+void ControlWindow::captionChanged() {
     if (Label_ != nullptr) Label_->place(height());
     Owner_.viewChanged();
 }
 
-void Win32ControlWindow::drawCaption(HDC context, const RECT& area) const {
+void ControlWindow::drawCaption(HDC context, const RECT& area) const {
     if (Label_ == nullptr) return;
     const WindowedField* const field = shownField();
     Label_->draw(context, area, field != nullptr ? field->baseline() : heightOf(area), Enabled_);
 }
 
-void Win32ControlWindow::draw(HDC context, const RECT& bounds) {
+void ControlWindow::draw(HDC context, const RECT& bounds) {
     const SavedContext saved(context);
     FillRect(context, &bounds, GetSysColorBrush(COLOR_BTNFACE));
     IntersectClipRect(context, bounds.left, bounds.top, bounds.right, bounds.bottom);
@@ -257,13 +252,13 @@ void Win32ControlWindow::draw(HDC context, const RECT& bounds) {
 }
 
 /// The label's window is the part of the control that its caption may take.
-void Win32ControlWindow::drawLabelWindow(const DRAWITEMSTRUCT& item) const {
+void ControlWindow::drawLabelWindow(const DRAWITEMSTRUCT& item) const {
     FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_BTNFACE));
     const LONG left = Grid_.pixels(Label_->shown().bounds()).left;
     drawCaption(item.hDC, {-left, 0, widthOf(Bounds_) - left, height()});
 }
 
-void Win32ControlWindow::setGrid(const TwipGrid& grid) {
+void ControlWindow::setGrid(const TwipGrid& grid) {
     Grid_ = grid;
     if (Label_ != nullptr) Label_->rescale();
     for (WindowedView* const widget : Widgets_) widget->rescale();
@@ -272,11 +267,11 @@ void Win32ControlWindow::setGrid(const TwipGrid& grid) {
 
 // ---- What comes to the window
 
-LRESULT Win32ControlWindow::handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) {
+LRESULT ControlWindow::handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) {
     return heldOpen(Owner_, [&] { return handle(window, message, wide, data); });
 }
 
-LRESULT Win32ControlWindow::handle(HWND window, UINT message, WPARAM wide, LPARAM data) {
+LRESULT ControlWindow::handle(HWND window, UINT message, WPARAM wide, LPARAM data) {
     if (message == Win32Focus::leaveMessage()) {
         leave();
         return 0;
