@@ -4,11 +4,12 @@
 
 namespace kel::win32 {
 
-bool SystemWindow::create(const WindowClass& windowClass, HWND parent, DWORD style, const RECT& place) {
+bool SystemWindow::create(const WindowClass& windowClass, DWORD style) {
     if (Handle_ != nullptr) return false;
     Base_ = windowClass.baseProcedure();
-    CreateWindowExW(0, windowClass.name(), L"", WS_CHILD | WS_CLIPSIBLINGS | style, place.left, place.top,
-                    widthOf(place), heightOf(place), parent, nullptr, thisModule(), static_cast<WindowHandler*>(this));
+    const RECT area = pixels();
+    CreateWindowExW(0, windowClass.name(), L"", WS_CHILD | WS_CLIPSIBLINGS | style, area.left, area.top, widthOf(area),
+                    heightOf(area), Frame_.window(), nullptr, thisModule(), static_cast<WindowHandler*>(this));
     return Handle_ != nullptr;
 }
 
@@ -16,8 +17,14 @@ void SystemWindow::destroy() {
     if (Handle_ != nullptr) DestroyWindow(Handle_);
 }
 
-void SystemWindow::placeAs(const Widget& shown) const {
-    if (Handle_ != nullptr) placeWindow(Handle_, pixelsOf(shown));
+RECT SystemWindow::pixels(POINT origin) const {
+    RECT area = Frame_.grid().pixels(Shown_.bounds());
+    OffsetRect(&area, origin.x, origin.y);
+    return area;
+}
+
+void SystemWindow::place() const {
+    if (Handle_ != nullptr) placeWindow(Handle_, pixels());
 }
 
 LRESULT SystemWindow::base(UINT message, WPARAM wide, LPARAM data) const {

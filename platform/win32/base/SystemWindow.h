@@ -15,22 +15,23 @@ public:
     SystemWindow& operator=(const SystemWindow&) = delete;
 
 protected:
-    explicit SystemWindow(ControlFrame& frame) : Frame_(frame) {}
+    SystemWindow(ControlFrame& frame, const Widget& shown) : Frame_(frame), Shown_(shown) {}
     /// The window is gone before: it is handled by what derives from this.
     ~SystemWindow() = default;
 
     /// nullptr while there is none.
     HWND windowHandle() const { return Handle_; }
 
-    /// A child of `parent`, hidden; nothing happens where there is one. Returns whether it has been made.
-    bool create(const WindowClass& windowClass, HWND parent, DWORD style, const RECT& place);
+    /// In the window of the control, hidden; nothing happens where there is one. Returns whether it has been made.
+    bool create(const WindowClass& windowClass, DWORD style);
     void destroy();
 
     ControlFrame& frame() const { return Frame_; }
 
-    /// Where the window is to stand, and puts it there.
-    RECT pixelsOf(const Widget& shown) const { return Frame_.grid().pixels(shown.bounds()); }
-    void placeAs(const Widget& shown) const;
+    /// Where the window is to stand in that of the control, whose corner is at `origin`.
+    RECT pixels(POINT origin = {0, 0}) const;
+    /// Puts it there.
+    void place() const;
 
     LRESULT base(UINT message, WPARAM wide = 0, LPARAM data = 0) const;
     virtual LRESULT handle(UINT message, WPARAM wide, LPARAM data) = 0;
@@ -39,6 +40,7 @@ private:
     LRESULT handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) override;
 
     ControlFrame& Frame_;
+    const Widget& Shown_;
     HWND Handle_ = nullptr;
     WNDPROC Base_ = nullptr;
 };
@@ -46,7 +48,7 @@ private:
 /// One that paints itself.
 class PaintedWindow : protected SystemWindow {
 protected:
-    explicit PaintedWindow(ControlFrame& frame) : SystemWindow(frame) {}
+    using SystemWindow::SystemWindow;
     ~PaintedWindow() = default;
 
     /// `area` is all of the window.

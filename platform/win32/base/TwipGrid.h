@@ -10,6 +10,8 @@
 
 namespace kel::win32 {
 
+inline constexpr int TwipsPerInch = 1440;
+
 class TwipGrid : public TwipScale {
 public:
     using TwipScale::TwipScale;
@@ -24,6 +26,11 @@ public:
         return std::max(1, static_cast<int>(std::lround(points * TwipsPerPoint / twipsPerPixel())));
     }
 };
+
+inline std::int32_t twipsPerPixelAt(int dotsPerInch) {
+    constexpr int Usual = 15;
+    return dotsPerInch > 0 ? std::max(1, (TwipsPerInch + dotsPerInch / 2) / dotsPerInch) : Usual;
+}
 
 inline int widthOf(const RECT& area) { return static_cast<int>(area.right - area.left); }
 inline int heightOf(const RECT& area) { return static_cast<int>(area.bottom - area.top); }

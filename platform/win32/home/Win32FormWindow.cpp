@@ -123,8 +123,7 @@ void Win32FormWindow::sizeWindow() {
 
 /// The window has come to another screen: all in it keeps its size in twips.
 void Win32FormWindow::changeResolution(int dotsPerInch) {
-    constexpr int TwipsPerInch = 1440;
-    Grid_ = TwipGrid((TwipsPerInch + dotsPerInch / 2) / std::max(dotsPerInch, 1));
+    Grid_ = TwipGrid(twipsPerPixelAt(dotsPerInch));
     sizeWindow();
     for (const auto& foreign : Foreign_) foreign->place(Grid_);
     setForeignFont();

@@ -16,7 +16,6 @@ namespace kel::win32 {
 
 namespace {
 
-constexpr int TwipsPerInch = 1440;
 constexpr int PointsPerInch = 72;
 
 /// A measure of the screen.
@@ -57,10 +56,7 @@ void Win32System::beep() { MessageBeep(MB_OK); }
 
 bool Win32System::tabKeyDown() const { return GetKeyState(VK_TAB) < 0; }
 
-std::int32_t Win32System::twipsPerPixel() const {
-    const int dotsPerInch = measure(LOGPIXELSX);
-    return dotsPerInch > 0 ? std::max(1, (TwipsPerInch + dotsPerInch / 2) / dotsPerInch) : 15;
-}
+std::int32_t Win32System::twipsPerPixel() const { return twipsPerPixelAt(measure(LOGPIXELSX)); }
 
 std::int32_t Win32RuntimeServices::colorDepth() const { return measure(BITSPIXEL) * measure(PLANES); }
 

@@ -14,8 +14,6 @@ namespace kel::win32 {
 
 namespace {
 
-constexpr std::int32_t NoLimit = 0x7FFFFFFE;  ///< as the edit window says it
-
 bool isControl(char32_t character) { return character < U' ' || character == DeleteCharacter; }
 
 char32_t takeFirst(std::u16string_view& units) { return units.empty() ? 0 : takeCodePoint(units); }

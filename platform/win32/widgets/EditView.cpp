@@ -12,7 +12,6 @@ namespace kel::win32 {
 
 namespace {
 
-constexpr WPARAM NoLimit = 0x7FFFFFFE;
 constexpr DWORD LineStyle = ES_AUTOHSCROLL;
 constexpr DWORD LinesStyle = ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | WS_VSCROLL;
 

@@ -10,6 +10,8 @@
 
 namespace kel::win32 {
 
+inline constexpr std::int32_t NoLimit = 0x7FFFFFFE;  ///< on the length of a text, as the edit window says it
+
 /// The system's edit window, showing a text: what stands in it, where it breaks the lines, and what it makes of them by
 /// itself, which it tells the text. It decides nothing. What anybody wants of the window comes to its handler first;
 /// `base` is what the system would do.

@@ -72,7 +72,8 @@ RECT turned(HDC context, const RECT& area) {
 
 }  // namespace
 
-Win32CheckBox::Win32CheckBox(ControlFrame& frame, CheckBox& box) : WindowedField(box), PaintedWindow(frame), Box_(box) {
+Win32CheckBox::Win32CheckBox(ControlFrame& frame, CheckBox& box)
+    : WindowedField(box), PaintedWindow(frame, box), Box_(box) {
     frame.add(*this);
 }
 
@@ -84,7 +85,7 @@ Win32CheckBox::~Win32CheckBox() {
 // ---- The window
 
 void Win32CheckBox::makeWindow() {
-    if (create(buttonClass(), frame().window(), WS_TABSTOP | BS_3STATE, pixelsOf(Box_))) show(Changes::all());
+    if (create(buttonClass(), WS_TABSTOP | BS_3STATE)) show(Changes::all());
 }
 
 void Win32CheckBox::outOfDate() {
@@ -97,7 +98,7 @@ void Win32CheckBox::outOfDate() {
 }
 
 void Win32CheckBox::show(Changes changes) {
-    if (changes.has(Change::Place)) placeAs(Box_);
+    if (changes.has(Change::Place)) place();
     if (changes.has(Change::Font)) base(WM_SETFONT, reinterpret_cast<WPARAM>(Font_.handle()));
     if (changes.has(Change::Caption)) base(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(wide(Box_.caption()).c_str()));
     if (changes.has(Change::Value)) base(BM_SETCHECK, static_cast<WPARAM>(Box_.value()));
@@ -128,16 +129,12 @@ bool Win32CheckBox::hides(UINT interfaceState) const {
 }
 
 int Win32CheckBox::baseline() const {
-    const RECT area = pixelsOf(Box_);
+    const RECT area = pixels();
     const TEXTMETRICW metrics = Font_.metrics(window());
     return static_cast<int>(area.top + (heightOf(area) - metrics.tmHeight) / 2 + metrics.tmAscent);
 }
 
-void Win32CheckBox::draw(HDC context, POINT origin) const {
-    RECT area = pixelsOf(Box_);
-    OffsetRect(&area, origin.x, origin.y);
-    paint(context, area, nullptr);
-}
+void Win32CheckBox::draw(HDC context, POINT origin) const { paint(context, pixels(origin), nullptr); }
 
 /// The button itself knows whether it has a visual style.
 void Win32CheckBox::paint(HDC context, const RECT& area) const { paint(context, area, GetWindowTheme(window())); }

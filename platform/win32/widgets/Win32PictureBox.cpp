@@ -32,7 +32,7 @@ LRESULT rangeOfBar(bool lowest, PBRANGE* range) {
 
 }  // namespace
 
-Win32PictureBox::Win32PictureBox(ControlFrame& frame, PictureBox& box) : PaintedWindow(frame), Box_(box) {
+Win32PictureBox::Win32PictureBox(ControlFrame& frame, PictureBox& box) : PaintedWindow(frame, box), Box_(box) {
     frame.add(*this);
 }
 
@@ -44,7 +44,7 @@ Win32PictureBox::~Win32PictureBox() {
 // ---- The window
 
 void Win32PictureBox::makeWindow() {
-    if (!create(progressClass(), frame().window(), 0, pixelsOf(Box_))) return;
+    if (!create(progressClass(), 0)) return;
     EnableWindow(window(), Box_.enabled());
     showToolTip();
     ShowWindow(window(), SW_SHOWNA);
@@ -52,7 +52,7 @@ void Win32PictureBox::makeWindow() {
 
 void Win32PictureBox::outOfDate() {
     const Changes changes = Box_.takeChanges();
-    if (changes.has(Change::Place)) placeAs(Box_);
+    if (changes.has(Change::Place)) place();
     if (changes.has(Change::Enabled) && window() != nullptr) EnableWindow(window(), Box_.enabled());
     if (changes.has(Change::Font)) Font_.choose(Box_.font(), frame().grid());
     if (changes.has(Change::ToolTip)) showToolTip();
@@ -63,7 +63,7 @@ void Win32PictureBox::outOfDate() {
 
 void Win32PictureBox::rescale() {
     Font_.rescale(frame().grid());
-    placeAs(Box_);
+    place();
     paintAgain();
 }
 
@@ -93,21 +93,17 @@ void Win32PictureBox::paintNow() {
     if (window() != nullptr) UpdateWindow(window());
 }
 
-void Win32PictureBox::draw(HDC context, POINT origin) const {
-    RECT area = pixelsOf(Box_);
-    OffsetRect(&area, origin.x, origin.y);
-    paint(context, area);
-}
+void Win32PictureBox::draw(HDC context, POINT origin) const { paint(context, pixels(origin)); }
 
 void Win32PictureBox::paint(HDC context, const RECT& area) const {
     const SavedContext saved(context);
     const TwipGrid& grid = frame().grid();
     const BarPicture& picture = Box_.picture();
-    const RECT inControl = pixelsOf(Box_);
-    const Rect place = Box_.bounds();
-    const POINT text{area.left - inControl.left + grid.pixel(place.left + picture.textLeft),
-                     area.top - inControl.top + grid.pixel(place.top + picture.textTop)};
-    const LONG end = area.left - inControl.left + grid.pixel(place.left + picture.barWidth);
+    const RECT inControl = pixels();
+    const Rect bounds = Box_.bounds();
+    const POINT text{area.left - inControl.left + grid.pixel(bounds.left + picture.textLeft),
+                     area.top - inControl.top + grid.pixel(bounds.top + picture.textTop)};
+    const LONG end = area.left - inControl.left + grid.pixel(bounds.left + picture.barWidth);
     const RECT bar{area.left, area.top, std::clamp(end, area.left, area.right), area.bottom};
 
     SelectObject(context, Font_.handle());

@@ -13,7 +13,7 @@ const WindowClass& upDownClass() {
 
 }  // namespace
 
-Win32UpDown::Win32UpDown(ControlFrame& frame, UpDown& spinner) : SystemWindow(frame), Spinner_(spinner) {
+Win32UpDown::Win32UpDown(ControlFrame& frame, UpDown& spinner) : SystemWindow(frame, spinner), Spinner_(spinner) {
     frame.add(*this);
 }
 
@@ -25,7 +25,7 @@ Win32UpDown::~Win32UpDown() {
 // ---- The window
 
 void Win32UpDown::makeWindow() {
-    if (!create(upDownClass(), frame().window(), 0, pixelsOf(Spinner_))) return;
+    if (!create(upDownClass(), 0)) return;
     base(UDM_SETRANGE32, UpDown::Down, UpDown::Up);
     base(UDM_SETPOS32, 0, UpDown::Rest);
     EnableWindow(window(), looksEnabled());
@@ -35,7 +35,7 @@ void Win32UpDown::makeWindow() {
 void Win32UpDown::outOfDate() {
     const Changes changes = Spinner_.takeChanges();
     if (!Spinner_.enabled() || !Spinner_.visible()) frame().takeInputFrom(window());
-    if (changes.has(Change::Place)) placeAs(Spinner_);
+    if (changes.has(Change::Place)) place();
     if (changes.has(Change::Enabled)) frameEnabledChanged();
     if (changes.has(Change::Visible) && window() != nullptr)
         ShowWindow(window(), Spinner_.visible() ? SW_SHOWNA : SW_HIDE);
@@ -47,8 +47,7 @@ void Win32UpDown::frameEnabledChanged() {
 }
 
 void Win32UpDown::draw(HDC context, POINT origin) const {
-    RECT area = pixelsOf(Spinner_);
-    OffsetRect(&area, origin.x, origin.y);
+    const RECT area = pixels(origin);
     const LONG middle = (area.top + area.bottom) / 2;
     RECT upper{area.left, area.top, area.right, middle};
     RECT lower{area.left, middle, area.right, area.bottom};

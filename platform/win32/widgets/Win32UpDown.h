@@ -23,7 +23,7 @@ public:
     void makeWindow() override;
     bool shown() const override { return Spinner_.visible(); }
     void frameEnabledChanged() override;
-    void rescale() override { placeAs(Spinner_); }
+    void rescale() override { place(); }
     LRESULT notified(UINT notification, LPARAM details) override;
     void draw(HDC context, POINT origin) const override;
 

@@ -14,7 +14,7 @@ std::shared_ptr<Runtime> createRegisteredRuntime() {
     const HRESULT result = CoCreateInstance(toGuid(identities::Runtime), nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
                                             object.receiveVoid());
     if (FAILED(result)) return nullptr;
-    return std::make_shared<AutomationRuntime>(std::move(object));
+    return automationRuntime(std::move(object));
 }
 
 }  // namespace

@@ -40,7 +40,7 @@ Variant integerOf(const VARIANT& in) {
 Variant objectOf(IUnknown* object) {
     auto dispatch = ComPtr<IDispatch>::of(object);
     if (object != nullptr && !dispatch) mismatch();
-    return dispatch ? ObjectPtr(std::make_shared<AutomationRuntime>(std::move(dispatch))) : ObjectPtr();
+    return dispatch ? ObjectPtr(automationRuntime(std::move(dispatch))) : ObjectPtr();
 }
 
 void copyFollowing(const VARIANT& in, VARIANT& out) {

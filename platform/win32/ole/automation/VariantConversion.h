@@ -6,7 +6,7 @@
 /// Between the system's variants and the library's.
 namespace kel::win32::ole {
 
-/// The value of `in`, references followed. An object comes as `AutomationRuntime`. Throws AutomationError with
+/// The value of `in`, references followed. An object comes as an `automationRuntime`. Throws AutomationError with
 /// DISP_E_TYPEMISMATCH or DISP_E_OVERFLOW for what the library has no value for: of arrays it has those of one
 /// dimension, of strings or variants.
 Variant fromAutomation(const VARIANT& in);

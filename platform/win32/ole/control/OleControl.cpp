@@ -8,7 +8,6 @@ namespace kel::win32::ole {
 
 namespace {
 
-constexpr int TwipsPerInch = 1440;
 constexpr int HimetricPerInch = 2540;  ///< hundredths of a millimetre
 
 SIZEL toHimetric(Size twips) {

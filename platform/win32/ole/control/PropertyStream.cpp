@@ -1,7 +1,6 @@
 #include "platform/win32/ole/control/PropertyStream.h"
 
-#include <bit>
-#include <limits>
+#include <cstring>
 
 #include "library/AutomationError.h"
 #include "platform/win32/ole/com/Com.h"
@@ -21,15 +20,17 @@ enum class Kind : std::uint8_t { Empty, Null, String, Boolean, Integer16, Intege
     throw AutomationError(HRESULT_FROM_WIN32(ERROR_INVALID_DATA), "the stored properties are damaged");
 }
 
+/// Numbers go as they stand in memory, which is little-endian wherever this runs.
 class Writer {
 public:
     template <class T>
     void number(T value) {
-        for (std::size_t i = 0; i < sizeof(T); ++i) Bytes_.push_back(static_cast<std::byte>(value >> (8 * i)));
+        const auto bytes = std::as_bytes(std::span(&value, 1));
+        Bytes_.insert(Bytes_.end(), bytes.begin(), bytes.end());
     }
     void text(std::u16string_view text) {
         number(static_cast<std::uint32_t>(text.size()));
-        for (const char16_t unit : text) number(static_cast<std::uint16_t>(unit));
+        for (const char16_t unit : text) number(unit);
     }
     void bytes(const Bytes& bytes) { Bytes_.insert(Bytes_.end(), bytes.begin(), bytes.end()); }
     Bytes take() { return std::move(Bytes_); }
@@ -52,19 +53,15 @@ public:
     }
     template <class T>
     T number() {
-        T value = 0;
-        std::size_t shift = 0;
-        for (const std::byte byte : take(sizeof(T))) {
-            value = static_cast<T>(value | static_cast<T>(static_cast<T>(byte) << shift));
-            shift += 8;
-        }
+        T value{};
+        std::memcpy(&value, take(sizeof value).data(), sizeof value);
         return value;
     }
     std::u16string text() {
         const auto units = number<std::uint32_t>();
         if (units > Rest_.size() / 2) damaged();
         std::u16string text(units, u'\0');
-        for (char16_t& unit : text) unit = static_cast<char16_t>(number<std::uint16_t>());
+        for (char16_t& unit : text) unit = number<char16_t>();
         return text;
     }
 
@@ -78,14 +75,10 @@ Bytes payloadOf(const Variant& value, Kind& kind) {
         Kind operator()(Empty) const { return Kind::Empty; }
         Kind operator()(Null) const { return Kind::Null; }
         Kind operator()(bool set) const { return out.number<std::uint8_t>(set ? 1 : 0), Kind::Boolean; }
-        Kind operator()(std::int16_t number) const {
-            return out.number(static_cast<std::uint16_t>(number)), Kind::Integer16;
-        }
-        Kind operator()(std::int32_t number) const {
-            return out.number(static_cast<std::uint32_t>(number)), Kind::Integer32;
-        }
-        Kind operator()(double number) const { return out.number(std::bit_cast<std::uint64_t>(number)), Kind::Double; }
-        Kind operator()(Date date) const { return out.number(std::bit_cast<std::uint64_t>(date.Serial)), Kind::Date; }
+        Kind operator()(std::int16_t number) const { return out.number(number), Kind::Integer16; }
+        Kind operator()(std::int32_t number) const { return out.number(number), Kind::Integer32; }
+        Kind operator()(double number) const { return out.number(number), Kind::Double; }
+        Kind operator()(Date date) const { return out.number(date.Serial), Kind::Date; }
         Kind operator()(const std::u16string& text) const { return out.text(text), Kind::String; }
         // No persisted property holds these.
         Kind operator()(Missing) const { return Kind::Empty; }
@@ -104,10 +97,10 @@ bool readPayload(std::uint8_t kind, Reader in, Variant& out) {
         case Kind::Null: out = Null{}; return true;
         case Kind::String: out = in.text(); return true;
         case Kind::Boolean: out = in.number<std::uint8_t>() != 0; return true;
-        case Kind::Integer16: out = static_cast<std::int16_t>(in.number<std::uint16_t>()); return true;
-        case Kind::Integer32: out = static_cast<std::int32_t>(in.number<std::uint32_t>()); return true;
-        case Kind::Double: out = std::bit_cast<double>(in.number<std::uint64_t>()); return true;
-        case Kind::Date: out = Date{std::bit_cast<double>(in.number<std::uint64_t>())}; return true;
+        case Kind::Integer16: out = in.number<std::int16_t>(); return true;
+        case Kind::Integer32: out = in.number<std::int32_t>(); return true;
+        case Kind::Double: out = in.number<double>(); return true;
+        case Kind::Date: out = Date{in.number<double>()}; return true;
     }
     return false;
 }

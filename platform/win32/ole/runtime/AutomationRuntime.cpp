@@ -48,40 +48,43 @@ private:
     DispatchCaller Members_;
 };
 
+class AutomationRuntime final : public Runtime, public AutomationObject {
+public:
+    explicit AutomationRuntime(ComPtr<IDispatch> object) : Members_(std::move(object)) {}
+
+    ComPtr<IDispatch> dispatch() override { return Members_.object(); }
+
+    std::int32_t ColorDepth() override { return call<std::int32_t>(Members_, u"ColorDepth"); }
+    std::u16string DecimalSeparator() override { return call<std::u16string>(Members_, u"DecimalSeparator"); }
+    std::int16_t DecimalDigits() override { return call<std::int16_t>(Members_, u"DecimalDigits"); }
+    std::u16string CaptionFontName() override { return call<std::u16string>(Members_, u"CaptionFontName"); }
+    double CaptionFontSize() override { return call<double>(Members_, u"CaptionFontSize"); }
+    std::u16string FieldFontName() override { return call<std::u16string>(Members_, u"FieldFontName"); }
+    double FieldFontSize() override { return call<double>(Members_, u"FieldFontSize"); }
+    void SendKey(std::int16_t keyCode) override { call<Variant>(Members_, u"SendKey", keyCode); }
+    std::shared_ptr<kel::RuntimeDates> RuntimeDates() override {
+        const auto object = std::dynamic_pointer_cast<AutomationObject>(call<ObjectPtr>(Members_, u"RuntimeDates"));
+        if (!object) throw AutomationError(DISP_E_TYPEMISMATCH, "the run-time object's RuntimeDates is no object");
+        return std::make_shared<AutomationDates>(object->dispatch());
+    }
+    std::u16string ListAppend(std::u16string list, std::u16string_view item) override {
+        return call<std::u16string>(Members_, u"ListAppend", std::move(list), std::u16string(item));
+    }
+    std::u16string ReadField(const std::u16string& text, std::int32_t& position, std::int16_t separator) override {
+        std::array<Variant, 3> arguments{text, position, separator};
+        std::u16string field = as<std::u16string>(Members_.call(u"ReadField", arguments, 1));
+        position = as<std::int32_t>(arguments[1]);
+        return field;
+    }
+
+private:
+    DispatchCaller Members_;
+};
+
 }  // namespace
 
-std::int32_t AutomationRuntime::ColorDepth() { return call<std::int32_t>(Members_, u"ColorDepth"); }
-
-std::u16string AutomationRuntime::DecimalSeparator() { return call<std::u16string>(Members_, u"DecimalSeparator"); }
-
-std::int16_t AutomationRuntime::DecimalDigits() { return call<std::int16_t>(Members_, u"DecimalDigits"); }
-
-std::u16string AutomationRuntime::CaptionFontName() { return call<std::u16string>(Members_, u"CaptionFontName"); }
-
-double AutomationRuntime::CaptionFontSize() { return call<double>(Members_, u"CaptionFontSize"); }
-
-std::u16string AutomationRuntime::FieldFontName() { return call<std::u16string>(Members_, u"FieldFontName"); }
-
-double AutomationRuntime::FieldFontSize() { return call<double>(Members_, u"FieldFontSize"); }
-
-void AutomationRuntime::SendKey(std::int16_t keyCode) { call<Variant>(Members_, u"SendKey", keyCode); }
-
-std::shared_ptr<kel::RuntimeDates> AutomationRuntime::RuntimeDates() {
-    const auto object = std::dynamic_pointer_cast<AutomationObject>(call<ObjectPtr>(Members_, u"RuntimeDates"));
-    if (!object) throw AutomationError(DISP_E_TYPEMISMATCH, "the run-time object's RuntimeDates is no object");
-    return std::make_shared<AutomationDates>(object->dispatch());
-}
-
-std::u16string AutomationRuntime::ListAppend(std::u16string list, std::u16string_view item) {
-    return call<std::u16string>(Members_, u"ListAppend", std::move(list), std::u16string(item));
-}
-
-std::u16string AutomationRuntime::ReadField(const std::u16string& text, std::int32_t& position,
-                                            std::int16_t separator) {
-    std::array<Variant, 3> arguments{text, position, separator};
-    std::u16string field = as<std::u16string>(Members_.call(u"ReadField", arguments, 1));
-    position = as<std::int32_t>(arguments[1]);
-    return field;
+std::shared_ptr<Runtime> automationRuntime(ComPtr<IDispatch> object) {
+    return std::make_shared<AutomationRuntime>(std::move(object));
 }
 
 }  // namespace kel::win32::ole
