@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QString>
 #include <vector>
 
@@ -27,42 +28,18 @@ void appendText(std::vector<Piece>& pieces, const QString& text) {
     pieces.back().text += text;
 }
 
-/// The quoted text that begins at `position`, which is moved after it; a doubled quote is a quote.
-QString takeQuoted(const QString& format, qsizetype& position) {
-    QString text;
-    const bool isDoubled = format.mid(position, 2) == u"''";
-    for (++position; position < format.size(); ++position) {
-        if (format[position] != u'\'') {
-            text += format[position];
-        } else if (!isDoubled && format.mid(position, 2) == u"''") {
-            text += format[position++];
-        } else {
-            ++position;
-            break;
-        }
-    }
-    return isDoubled ? QStringLiteral("'") : text;
-}
-
-/// The field that begins at `position`, which is moved after it.
-Piece takeField(const QString& format, qsizetype& position) {
-    const QChar letter = format[position].toLower() == u'a' ? QChar(u'a') : format[position];
-    const qsizetype start = position;
-    while (position < format.size() && format[position] == format[start]) ++position;
-    if (letter == u'a' && position < format.size() && format[position].toLower() == u'p') ++position;
-    return {letter, format.mid(start, position - start)};
-}
-
+/// Text may stand between quotes; a doubled quote is a quote, inside them or alone.
 std::vector<Piece> piecesOf(const QString& format, const QString& fieldLetters) {
+    const QRegularExpression parts(QStringLiteral("'((?:[^']|'')*)'|([%1])\\2*(?:(?<=[Aa])[Pp])?|.").arg(fieldLetters));
     std::vector<Piece> pieces;
-    for (qsizetype position = 0; position < format.size();) {
-        if (format[position] == u'\'') {
-            appendText(pieces, takeQuoted(format, position));
-        } else if (fieldLetters.contains(format[position])) {
-            pieces.push_back(takeField(format, position));
-        } else {
-            appendText(pieces, format.mid(position++, 1));
-        }
+    for (const QRegularExpressionMatch& part : parts.globalMatch(format)) {
+        const QString quoted = part.captured(1).replace(QStringLiteral("''"), QStringLiteral("'"));
+        if (part.hasCaptured(2))
+            pieces.push_back({part.captured(2) == u'A' ? QChar(u'a') : part.captured(2).front(), part.captured()});
+        else if (part.hasCaptured(1))
+            appendText(pieces, quoted.isEmpty() ? QStringLiteral("'") : quoted);
+        else
+            appendText(pieces, part.captured());
     }
     return pieces;
 }
@@ -82,24 +59,15 @@ bool hasLetters(const QString& text) {
 /// Text as it stands in a format expression: blanks and commas are plain, all else is protected.
 QString protectedText(const QString& text) {
     QString expression;
-    QString literal;
-    const auto flush = [&] {
-        if (literal.size() == 1 || literal.contains(u'"')) {
-            for (const QChar unit : literal) expression += QStringLiteral("\\") + unit;
-        } else if (!literal.isEmpty()) {
-            expression += u'"' + literal + u'"';
-        }
-        literal.clear();
-    };
-    for (const QChar unit : text) {
-        if (unit == u' ' || unit == u',') {
-            flush();
-            expression += unit;
-        } else {
-            literal += unit;
-        }
+    for (const QRegularExpressionMatch& part : QRegularExpression(QStringLiteral("[ ,]|[^ ,]+")).globalMatch(text)) {
+        const QString run = part.captured();
+        if (run == u' ' || run == u',')
+            expression += run;
+        else if (run.size() > 1 && !run.contains(u'"'))
+            expression += u'"' + run + u'"';
+        else
+            for (const QChar unit : run) expression += QStringLiteral("\\") + unit;
     }
-    flush();
     return expression;
 }
 
@@ -169,34 +137,23 @@ std::u16string timeExpression(const std::vector<Piece>& pieces) {
     return marker < hour ? std::u16string(MarkerField) + u' ' + digits : digits + u' ' + MarkerField;
 }
 
-struct Grouping {
-    std::uint8_t primary = 0;
-    std::uint8_t secondary = 0;
-    std::uint8_t minimum = 1;
-};
-
-/// Digits of each group of a whole number, from the right.
-std::vector<int> groupSizes(const QLocale& locale, double number) {
-    std::vector<int> sizes;
-    const QString text = locale.toString(number, 'f', 0);
-    for (const QString& group : text.split(locale.groupSeparator())) {
-        sizes.insert(sizes.begin(), static_cast<int>(group.size() / locale.zeroDigit().size()));
-    }
-    return sizes;
-}
-
-Grouping groupingOf(QLocale locale) {
+/// Qt says how it groups only by doing so.
+void readGrouping(QLocale locale, RegionalSettings& region) {
     constexpr double Long = 123456789012.0;
     constexpr double FourDigits = 1234.0;
     locale.setNumberOptions(QLocale::DefaultNumberOptions);
-    if (locale.groupSeparator().isEmpty()) return {};
-    const std::vector<int> sizes = groupSizes(locale, Long);
-    if (sizes.size() < 3) return {};
-    Grouping grouping;
-    grouping.primary = static_cast<std::uint8_t>(sizes[0]);
-    grouping.secondary = static_cast<std::uint8_t>(sizes[1]);
-    grouping.minimum = groupSizes(locale, FourDigits).size() == 1 && grouping.primary == 3 ? 2 : 1;
-    return grouping;
+    const QString separator = locale.groupSeparator();
+    const QStringList groups = locale.toString(Long, 'f', 0).split(separator);
+    region.PrimaryGroup = region.SecondaryGroup = 0;
+    region.MinimumGroupingDigits = 1;
+    if (separator.isEmpty() || groups.size() < 3) return;
+    const auto digitsOf = [&](const QString& group) {
+        return static_cast<std::uint8_t>(group.size() / locale.zeroDigit().size());
+    };
+    region.PrimaryGroup = digitsOf(groups.last());
+    region.SecondaryGroup = digitsOf(groups[groups.size() - 2]);
+    const bool leavesFour = !locale.toString(FourDigits, 'f', 0).contains(separator);
+    if (leavesFour && region.PrimaryGroup == 3) region.MinimumGroupingDigits = 2;
 }
 
 char32_t codePointOf(const QString& text) {
@@ -209,10 +166,7 @@ void readNumbers(const QLocale& locale, RegionalSettings& region) {
     region.GroupSeparator = locale.groupSeparator().toStdU16String();
     region.NegativeSign = locale.negativeSign().toStdU16String();
     region.ZeroDigit = codePointOf(locale.zeroDigit());
-    const Grouping grouping = groupingOf(locale);
-    region.PrimaryGroup = grouping.primary;
-    region.SecondaryGroup = grouping.secondary;
-    region.MinimumGroupingDigits = grouping.minimum;
+    readGrouping(locale, region);
 }
 
 void readFormats(const QLocale& locale, RegionalSettings& region) {
