@@ -84,8 +84,7 @@ std::int32_t ListItems::findPrefix(std::u16string_view beginning) const {
         return NotFound;
     }
     if (Sorted_.empty()) indexBeginnings();
-    const std::size_t first = firstSorted(beginning);
-    const std::size_t end = endSorted(beginning, first);
+    const auto [first, end] = sortedRange(beginning);
     return first == end ? NotFound : static_cast<std::int32_t>(smallestOf(first, end));
 }
 
@@ -103,22 +102,19 @@ void ListItems::indexBeginnings() const {
         Sorted_[node] = std::min(Sorted_[2 * node], Sorted_[2 * node + 1]);
 }
 
-std::size_t ListItems::firstSorted(std::u16string_view beginning) const {
+ListItems::Range ListItems::sortedRange(std::u16string_view beginning) const {
+    struct Order {
+        const ListItems& items;
+        bool operator()(Position one, std::u16string_view wanted) const {
+            return compareFoldedBeginning(items.at(one), wanted) < 0;
+        }
+        bool operator()(std::u16string_view wanted, Position one) const {
+            return compareFoldedBeginning(items.at(one), wanted) > 0;
+        }
+    };
     const auto leaves = Sorted_.begin() + static_cast<std::ptrdiff_t>(Ends_.size());
-    const auto first =
-        std::lower_bound(leaves, Sorted_.end(), beginning, [this](Position position, std::u16string_view wanted) {
-            return compareFoldedBeginning(at(position), wanted) < 0;
-        });
-    return static_cast<std::size_t>(first - leaves);
-}
-
-std::size_t ListItems::endSorted(std::u16string_view beginning, std::size_t first) const {
-    const auto leaves = Sorted_.begin() + static_cast<std::ptrdiff_t>(Ends_.size());
-    const auto end = std::upper_bound(leaves + static_cast<std::ptrdiff_t>(first), Sorted_.end(), beginning,
-                                      [this](std::u16string_view wanted, Position position) {
-                                          return compareFoldedBeginning(at(position), wanted) > 0;
-                                      });
-    return static_cast<std::size_t>(end - leaves);
+    const auto [first, end] = std::equal_range(leaves, Sorted_.end(), beginning, Order{*this});
+    return {static_cast<std::size_t>(first - leaves), static_cast<std::size_t>(end - leaves)};
 }
 
 /// The smallest position in a range of the order that is not empty.

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace kel {
@@ -33,12 +34,12 @@ public:
 
 private:
     using Position = std::uint32_t;
+    using Range = std::pair<std::size_t, std::size_t>;  ///< of places in the order
 
     void indexTexts() const;
     void indexBeginnings() const;
     std::size_t slotOf(std::u16string_view text) const;
-    std::size_t firstSorted(std::u16string_view beginning) const;
-    std::size_t endSorted(std::u16string_view beginning, std::size_t first) const;
+    Range sortedRange(std::u16string_view beginning) const;
     Position smallestOf(std::size_t first, std::size_t end) const;
     std::u16string_view at(Position position) const { return item(static_cast<std::int32_t>(position)); }
 

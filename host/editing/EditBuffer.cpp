@@ -17,25 +17,6 @@ std::size_t clamped(std::ptrdiff_t position, std::size_t size) {
     return position <= 0 ? 0 : std::min(static_cast<std::size_t>(position), size);
 }
 
-/// The UTF-16 units of one character.
-class Units {
-public:
-    explicit Units(char32_t character) {
-        if (character < 0x10000) {
-            Units_[0] = static_cast<char16_t>(character);
-            return;
-        }
-        Units_[0] = static_cast<char16_t>(0xD7C0 + (character >> 10));
-        Units_[1] = static_cast<char16_t>(0xDC00 + (character & 0x3FF));
-        Count_ = 2;
-    }
-    std::u16string_view view() const { return {Units_, Count_}; }
-
-private:
-    char16_t Units_[2]{};
-    std::size_t Count_ = 1;
-};
-
 /// A text that was copied with the line end in front of it is wanted all the same.
 std::u16string_view firstLine(std::u16string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(LineBreak), text.size()));
@@ -172,13 +153,27 @@ std::u16string_view EditBuffer::fitting(std::u16string_view text) const {
     return text.substr(0, snapDown(text, std::min(text.size(), room()), MultiLine_));
 }
 
-bool EditBuffer::type(char32_t character) {
-    const Units units(character);
-    return units.view().size() <= room() && replaceSelection(EditKind::Typing, units.view());
+bool EditBuffer::edit(EditAction action, char32_t character) {
+    const std::size_t caret = Selection_.caret;
+    switch (action) {
+        case EditAction::Type: return type(character);
+        case EditAction::BreakLine:
+            return MultiLine_ && LineBreak.size() <= room() && replaceSelection(EditKind::Single, LineBreak);
+        case EditAction::EraseBack: return erase(EditKind::Backspace, previousCodePoint(Text_, caret, MultiLine_));
+        case EditAction::EraseForward: return erase(EditKind::Delete, nextCodePoint(Text_, caret, MultiLine_));
+        case EditAction::EraseWordBack: return erase(EditKind::Single, wordLeft());
+        case EditAction::EraseWordForward: return erase(EditKind::Single, wordRight());
+        case EditAction::EraseSelection: return replaceSelection(EditKind::Single, {});
+        case EditAction::Undo: return carryOut(History_.undo());
+        case EditAction::Redo: return carryOut(History_.redo());
+        default: return false;
+    }
 }
 
-bool EditBuffer::breakLine() {
-    return MultiLine_ && LineBreak.size() <= room() && replaceSelection(EditKind::Single, LineBreak);
+bool EditBuffer::type(char32_t character) {
+    std::u16string units;
+    appendCodePoint(units, character);
+    return units.size() <= room() && replaceSelection(EditKind::Typing, units);
 }
 
 std::u16string EditBuffer::pasted(std::u16string_view text) const {
@@ -186,18 +181,6 @@ std::u16string EditBuffer::pasted(std::u16string_view text) const {
 }
 
 bool EditBuffer::paste(std::u16string_view text) { return replaceSelection(EditKind::Single, fitting(text)); }
-
-bool EditBuffer::eraseBack() {
-    return erase(EditKind::Backspace, previousCodePoint(Text_, Selection_.caret, MultiLine_));
-}
-
-bool EditBuffer::eraseForward() { return erase(EditKind::Delete, nextCodePoint(Text_, Selection_.caret, MultiLine_)); }
-
-bool EditBuffer::eraseWordBack() { return erase(EditKind::Single, wordLeft()); }
-
-bool EditBuffer::eraseWordForward() { return erase(EditKind::Single, wordRight()); }
-
-bool EditBuffer::eraseSelection() { return replaceSelection(EditKind::Single, {}); }
 
 bool EditBuffer::erase(EditKind kind, std::size_t reach) {
     if (!Selection_.empty()) return replaceSelection(kind, {});
@@ -225,10 +208,6 @@ bool EditBuffer::replace(EditKind kind, std::size_t from, std::size_t to, std::u
     }
     return differs;
 }
-
-bool EditBuffer::undo() { return carryOut(History_.undo()); }
-
-bool EditBuffer::redo() { return carryOut(History_.redo()); }
 
 bool EditBuffer::carryOut(const std::optional<EditHistory::Replacement>& replacement) {
     Column_ = NoColumn;

@@ -72,23 +72,15 @@ public:
     /// With both ends where a caret can stand.
     void take(const Selection& selection) { select({snapped(selection.anchor), snapped(selection.caret)}); }
 
-    bool type(char32_t character);
-    bool breakLine();
+    /// Types, breaks a line, erases, undoes or redoes; `character` is what is typed. Erasing removes the selection
+    /// where there is one.
+    bool edit(EditAction action, char32_t character);
     /// What of a text from elsewhere can stand here: one line of it in a single-line box.
     std::u16string pasted(std::u16string_view text) const;
     /// As much of a text that can stand here as there is room for.
     bool paste(std::u16string_view text);
-    /// These remove the selection where there is one.
-    bool eraseBack();
-    bool eraseForward();
-    bool eraseWordBack();
-    bool eraseWordForward();
-
-    bool eraseSelection();
     bool canUndo() const { return History_.canUndo(); }
     bool canRedo() const { return History_.canRedo(); }
-    bool undo();
-    bool redo();
 
 private:
     std::size_t destination(EditAction motion, const TextLines& view) const;
@@ -102,6 +94,7 @@ private:
     std::u16string_view fitting(std::u16string_view text) const;
     void moveCaret(std::size_t position, bool extend);
     void select(const Selection& selection);
+    bool type(char32_t character);
     bool erase(EditKind kind, std::size_t reach);
     bool replace(EditKind kind, std::size_t from, std::size_t to, std::u16string_view inserted);
     bool replaceSelection(EditKind kind, std::u16string_view inserted);

@@ -151,18 +151,9 @@ bool TextEntry::moveCaret(EditAction action, bool extend) {
 
 bool TextEntry::edit(EditAction action, char32_t character) {
     switch (action) {
-        case EditAction::Type: return Buffer_.type(character);
-        case EditAction::BreakLine: return Buffer_.breakLine();
-        case EditAction::EraseBack: return Buffer_.eraseBack();
-        case EditAction::EraseForward: return Buffer_.eraseForward();
-        case EditAction::EraseWordBack: return Buffer_.eraseWordBack();
-        case EditAction::EraseWordForward: return Buffer_.eraseWordForward();
-        case EditAction::EraseSelection: return Buffer_.eraseSelection();
         case EditAction::Cut: return cut();
         case EditAction::Paste: return insertPasted(host().clipboardText());
-        case EditAction::Undo: return Buffer_.undo();
-        case EditAction::Redo: return Buffer_.redo();
-        default: return false;
+        default: return Buffer_.edit(action, character);
     }
 }
 
@@ -208,7 +199,7 @@ void TextEntry::copy() {
 bool TextEntry::cut() {
     if (isPassword()) return false;
     copy();
-    return Buffer_.eraseSelection();
+    return Buffer_.edit(EditAction::EraseSelection, 0);
 }
 
 // ---- Mouse
