@@ -22,11 +22,10 @@ public:
     static constexpr std::int32_t Rest = 1;
     static constexpr std::int32_t Up = 2;
 
-    UpDown(WidgetHost& host, UpDownListener& listener)
-        : Host_(host), Listener_(listener), View_(host.makeView(*this)) {}
+    UpDown(WidgetHost& host, UpDownListener& listener) : Host_(host), Listener_(listener) {}
 
     bool visible() const { return Visible_; }
-    void setVisible(bool visible) { change(Visible_, visible, Change::Visible); }
+    void setVisible(bool visible);
 
     /// Enabled and shown, its control as well.
     bool takesInput() const { return enabled() && Visible_ && Host_.takesInput(); }
@@ -45,7 +44,7 @@ private:
     UpDownListener& Listener_;
     std::int32_t Value_ = Rest;
     bool Visible_ = false;
-    std::unique_ptr<View> View_;  ///< last: it reads all of the above until it goes
+    std::unique_ptr<View> View_;  ///< none until it is first shown; last: it reads all of the above until it goes
 };
 
 }  // namespace kel
