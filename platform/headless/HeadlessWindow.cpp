@@ -33,24 +33,27 @@ Rect inWindow(const Placement& placement) {
     return {origin.left + bounds.left, origin.top + bounds.top, bounds.width, bounds.height};
 }
 
+PlacedHeadlessControl& placedWith(const FieldWidget& field) {
+    return static_cast<PlacedHeadlessControl&>(field.host());
+}
+
 }  // namespace
 
 HeadlessWindow::HeadlessWindow(const WindowSpec& description, System& system, SharedSettings& settings,
                                const RegionalSettings& region, Input& input, Onlooker& onlooker)
-    : Input_(input),
+    : System_(system),
+      Settings_(settings),
+      Region_(region),
+      Input_(input),
       Onlooker_(onlooker),
-      Scene_{.window = *this, .description = description},
-      Focus_(input, *this, Order_),
-      Services_{
-          .system = system, .settings = settings, .region = region, .input = input, .focus = Focus_, .painter = *this} {
-}
+      Scene_{.window = *this, .description = description} {}
 
 HeadlessWindow::~HeadlessWindow() { Input_.forget(*this); }
 
 PlacedControl& HeadlessWindow::place(const ClassModel& model, const Placement& placement, ControlObserver& observer) {
     Placement seen = placement;
     seen.visible = isSeen(placement);
-    Controls_.push_back(std::make_unique<PlacedHeadlessControl>(model, seen, Controls_.size(), observer, Services_));
+    Controls_.push_back(std::make_unique<PlacedHeadlessControl>(*this, model, seen, Controls_.size(), observer));
     PlacedHeadlessControl& placed = *Controls_.back();
     Order_.add(placed);
     placed.control().Initialize();
@@ -73,6 +76,33 @@ void HeadlessWindow::show() {
     });
 }
 
+// ---- The focus
+
+void HeadlessWindow::moveFocusTo(FieldWidget& target) {
+    Input_.activate(*this);
+    Focus_.arrived(target);
+}
+
+void HeadlessWindow::moveFocusTo(const TabStop& stop, bool byTab) {
+    const TabKey::Scope tab(Input_.Tab, byTab);
+    moveFocusTo(*stop.focusTarget());
+}
+
+void HeadlessWindow::moveFocusByTab(bool back) {
+    const TabStop* const from = Focus_.holder() != nullptr ? &placedWith(*Focus_.holder()) : nullptr;
+    if (const TabStop* const next = Order_.next(from, back)) moveFocusTo(*next, true);
+}
+
+void HeadlessWindow::recheckFocus() {
+    const FieldWidget* const barred = Focus_.target();
+    if (barred == nullptr || barred->takesInput()) return;
+    TabStop& stop = placedWith(*barred);
+    if (const TabStop* const next = Order_.afterBarred(stop))
+        moveFocusTo(*next, next != &stop);
+    else
+        Focus_.drop();
+}
+
 // ---- Hands
 
 void HeadlessWindow::press(const KeyStroke& stroke) {
@@ -80,17 +110,14 @@ void HeadlessWindow::press(const KeyStroke& stroke) {
         // Alt and Tab go to another program.
         if (leavesField(stroke) && (stroke.modifiers & AltKey) != 0) return;
         const bool struck = Focus_.holder() != nullptr && Focus_.holder()->strike(stroke);
-        if (leavesField(stroke)) Focus_.moveByTab((stroke.modifiers & ShiftKey) != 0);
+        if (leavesField(stroke)) moveFocusByTab((stroke.modifiers & ShiftKey) != 0);
         if (!struck && stroke.modifiers == AltKey && stroke.character != 0) Order_.pressMnemonic(stroke.character);
     });
 }
 
 void HeadlessWindow::focus(PlacedControl& control) {
     byHand([&] {
-        FieldWidget* const target = placedHere(control).focusTarget();
-        if (target == nullptr) return;
-        const TabKey::Scope released(Input_.Tab, false);
-        Focus_.moveTo(*target);
+        if (placedHere(control).focusTarget() != nullptr) moveFocusTo(placedHere(control), false);
     });
 }
 
@@ -131,7 +158,7 @@ void HeadlessWindow::drop(PlacedControl& control, std::int32_t position, std::u1
 }
 
 PlacedControl* HeadlessWindow::focused() const {
-    return Focus_.holder() != nullptr ? static_cast<PlacedHeadlessControl*>(&Focus_.holder()->host()) : nullptr;
+    return Focus_.holder() != nullptr ? &placedWith(*Focus_.holder()) : nullptr;
 }
 
 }  // namespace kel::headless

@@ -4,13 +4,15 @@
 #include <vector>
 
 #include "forms/Onlooker.h"
-#include "platform/headless/MemoryFocus.h"
+#include "host/focus/FocusOrder.h"
+#include "platform/headless/Input.h"
 #include "platform/headless/PlacedHeadlessControl.h"
 
 namespace kel::headless {
 
-/// A form's window in memory; whether it is seen is up to the onlooker.
-class HeadlessWindow final : public FormWindow, private Painter {
+/// A form's window in memory; whether it is seen is up to the onlooker. A move of its focus has arrived as soon as it
+/// is asked for.
+class HeadlessWindow final : public FormWindow {
 public:
     HeadlessWindow(const WindowSpec& description, System& system, SharedSettings& settings,
                    const RegionalSettings& region, Input& input, Onlooker& onlooker);
@@ -38,8 +40,23 @@ public:
     /// Drags text from elsewhere into the field, where it falls at `position` (past the end: the end).
     void drop(PlacedControl& control, std::int32_t position, std::u16string_view text);
 
+    // ---- What its controls ask of it
+
+    ControlHost hostFor(Container& container, WidgetHost& widgets) const {
+        return {container, widgets, System_, Settings_, Region_};
+    }
+    /// Shows the window as it stands.
+    void paint() const { Onlooker_.see(Scene_); }
+    void moveFocusTo(FieldWidget& target);
+    /// A widget or a control was disabled or hidden: the focus goes on from what can no longer have it.
+    void recheckFocus();
+    /// The control is about to go, without a word to anybody.
+    void forget(const WidgetHost& control) { Focus_.forget(control); }
+    const std::u16string& clipboard() const { return Input_.Clipboard; }
+
 private:
-    void paint() override { Onlooker_.see(Scene_); }
+    void moveFocusTo(const TabStop& stop, bool byTab);
+    void moveFocusByTab(bool back);
 
     /// Runs what a person does here, on the window that then has the keyboard.
     template <class Action>
@@ -72,12 +89,14 @@ private:
         return static_cast<PlacedHeadlessControl&>(control);
     }
 
+    System& System_;
+    SharedSettings& Settings_;
+    const RegionalSettings& Region_;
     Input& Input_;
     Onlooker& Onlooker_;
     Scene Scene_;
     TabOrder Order_;
-    MemoryFocus Focus_;
-    WindowServices Services_;
+    FocusOrder Focus_;
     std::vector<std::unique_ptr<PlacedPanel>> Panels_;
     std::vector<std::unique_ptr<PlacedHeadlessControl>> Controls_;  ///< last: they lean on all of the above
 };

@@ -1,5 +1,7 @@
 #include "platform/headless/PlacedHeadlessControl.h"
 
+#include "platform/headless/HeadlessWindow.h"
+
 namespace kel::headless {
 
 namespace {
@@ -7,40 +9,34 @@ namespace {
 /// What is drawn during a job is shown before the job goes on.
 class JobView final : public PictureView {
 public:
-    JobView(const PictureBox& box, Painter& painter) : Box_(box), Painter_(painter) {}
+    JobView(const PictureBox& box, const HeadlessWindow& window) : Box_(box), Window_(window) {}
     void outOfDate() override {}
     void paintAgain() override {}
-    void paintNow() override { Painter_.paint(); }
+    void paintNow() override { Window_.paint(); }
     Size extentOf(std::u16string_view text) const override { return Box_.extentUnseen(text.size()); }
 
 private:
     const PictureBox& Box_;
-    Painter& Painter_;
+    const HeadlessWindow& Window_;
 };
 
 }  // namespace
 
-PlacedHeadlessControl::PlacedHeadlessControl(const ClassModel& model, const Placement& placement, std::size_t order,
-                                             ControlObserver& observer, const WindowServices& services)
+PlacedHeadlessControl::PlacedHeadlessControl(HeadlessWindow& window, const ClassModel& model,
+                                             const Placement& placement, std::size_t order, ControlObserver& observer)
     : TabStop(placement.tabIndex, order, placement.tabStop),
+      Window_(window),
       Observer_(observer),
-      Painter_(services.painter),
-      Input_(services.input),
-      Focus_(services.focus),
       Name_(placement.name),
       Bounds_(placement.bounds),
       Visible_(placement.visible) {
-    ControlHost host{*this, *this, services.system, services.settings, services.region};
+    ControlHost host = window.hostFor(*this, *this);
     Control_ = model.makeControl(host);
 }
 
 PlacedHeadlessControl::~PlacedHeadlessControl() {
-    Focus_.forget(*this);
+    Window_.forget(*this);
     Control_.reset();
-}
-
-std::unique_ptr<PictureView> PlacedHeadlessControl::makeView(PictureBox& box) {
-    return std::make_unique<JobView>(box, Painter_);
 }
 
 void PlacedHeadlessControl::setBounds(const Rect& bounds) {
@@ -59,7 +55,21 @@ void PlacedHeadlessControl::setSize(Size wanted) {
 
 void PlacedHeadlessControl::setEnabled(bool enabled) {
     Enabled_ = enabled;
-    Focus_.recheck();
+    Window_.recheckFocus();
 }
+
+// ---- Its widgets
+
+std::unique_ptr<PictureView> PlacedHeadlessControl::makeView(PictureBox& box) {
+    return std::make_unique<JobView>(box, Window_);
+}
+
+void PlacedHeadlessControl::moveFocusTo(FieldWidget& field) { Window_.moveFocusTo(field); }
+
+void PlacedHeadlessControl::focusBarred(FieldWidget& /*field*/) { Window_.recheckFocus(); }
+
+std::u16string PlacedHeadlessControl::clipboardText() { return Window_.clipboard(); }
+
+void PlacedHeadlessControl::setClipboardText(std::u16string_view text) { Window_.setClipboard(text); }
 
 }  // namespace kel::headless

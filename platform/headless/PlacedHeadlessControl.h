@@ -7,35 +7,18 @@
 #include <string_view>
 
 #include "forms/Home.h"
-#include "platform/headless/MemoryFocus.h"
+#include "host/focus/TabOrder.h"
 
 namespace kel::headless {
 
-/// Shows the window as it stands.
-class Painter {
-public:
-    virtual void paint() = 0;
-
-protected:
-    ~Painter() = default;
-};
-
-/// What the controls of one window have in common.
-struct WindowServices {
-    System& system;
-    SharedSettings& settings;
-    const RegionalSettings& region;
-    Input& input;
-    MemoryFocus& focus;
-    Painter& painter;
-};
+class HeadlessWindow;
 
 /// A control with everything it stands on: its place on the form, its container, the maker of its widgets.
 class PlacedHeadlessControl final : public PlacedControl, public TabStop, public WidgetHost, private Container {
 public:
-    /// `order` counts the controls placed before.
-    PlacedHeadlessControl(const ClassModel& model, const Placement& placement, std::size_t order,
-                          ControlObserver& observer, const WindowServices& services);
+    /// `order` counts the controls placed before. The window and the observer outlive it.
+    PlacedHeadlessControl(HeadlessWindow& window, const ClassModel& model, const Placement& placement,
+                          std::size_t order, ControlObserver& observer);
     ~PlacedHeadlessControl() override;
 
     Control& control() override { return *Control_; }
@@ -52,12 +35,12 @@ private:
     std::unique_ptr<PictureView> makeView(PictureBox& box) override;
 
     bool takesInput() const override { return Control_ && Enabled_ && Visible_; }
-    void moveFocusTo(FieldWidget& field) override { Focus_.moveTo(field); }
-    void focusBarred(FieldWidget& /*field*/) override { Focus_.recheck(); }
+    void moveFocusTo(FieldWidget& field) override;
+    void focusBarred(FieldWidget& field) override;
     void controlEntered() override { Control_->EnterFocus(); }
     void controlLeft() override { Control_->ExitFocus(); }
-    std::u16string clipboardText() override { return Input_.Clipboard; }
-    void setClipboardText(std::u16string_view text) override { Input_.Clipboard.assign(text); }
+    std::u16string clipboardText() override;
+    void setClipboardText(std::u16string_view text) override;
 
     bool hasSize() const override { return Sized_; }
     Size size() const override { return {Bounds_.width, Bounds_.height}; }
@@ -71,10 +54,8 @@ private:
         Observer_.controlEvent(*this, event, arguments);
     }
 
+    HeadlessWindow& Window_;
     ControlObserver& Observer_;
-    Painter& Painter_;
-    Input& Input_;
-    MemoryFocus& Focus_;
     std::u16string Name_;
     std::u16string ToolTipText_;
     Rect Bounds_;
