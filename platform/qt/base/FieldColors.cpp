@@ -90,7 +90,7 @@ QPalette makePalette(const FieldColors& wanted, const QPalette& desktop) {
     palette.setColor(QPalette::Base, back);
     palette.setColor(QPalette::Text, text);
     palette.setColor(QPalette::Disabled, QPalette::Text, mixed(text, back, DisabledShare));
-    return palette;
+    return palette.resolve(desktop);
 }
 
 struct PaletteKey {
@@ -144,7 +144,7 @@ QColor disabledCaptionColor(const QPalette& desktop) {
 }
 
 QPalette fieldPalette(const FieldColors& wanted, const QPalette& desktop) {
-    if (wanted == FieldColors{}) return {};
+    if (wanted == FieldColors{}) return desktop;
     static QHash<PaletteKey, QPalette> cache;
     const PaletteKey key{wanted, desktop.cacheKey()};
     if (const auto found = cache.constFind(key); found != cache.constEnd()) return *found;

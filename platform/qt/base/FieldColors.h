@@ -28,7 +28,7 @@ struct FieldColors {
     friend bool operator==(const FieldColors&, const FieldColors&) = default;
 };
 
-/// Only what `wanted` changes of the desktop's palette; nothing for a field in the desktop's own colours.
+/// The desktop's palette with what `wanted` changes of it. All fields in these colours share it.
 QPalette fieldPalette(const FieldColors& wanted, const QPalette& desktop);
 
 }  // namespace kel::qt

@@ -27,8 +27,4 @@ void setWidgetToolTip(QWidget& widget, std::u16string_view text) {
     if (widget.toolTip() != qtViewOf(text)) widget.setToolTip(toQString(text));
 }
 
-void colorWidget(QWidget& widget, const FieldColors& colors) {
-    widget.setPalette(fieldPalette(colors, widget.parentWidget()->palette()));
-}
-
 }  // namespace kel::qt

@@ -4,7 +4,6 @@
 #include <string_view>
 
 #include "host/widgets/Widget.h"
-#include "platform/qt/base/FieldColors.h"
 
 class QWidget;
 
@@ -19,6 +18,5 @@ QFont fontOf(const QFont& base, const FontFace& face);
 
 void setWidgetFont(QWidget& widget, const QFont& font);
 void setWidgetToolTip(QWidget& widget, std::u16string_view text);
-void colorWidget(QWidget& widget, const FieldColors& colors);
 
 }  // namespace kel::qt

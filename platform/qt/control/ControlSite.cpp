@@ -12,7 +12,6 @@
 #include "library/SharedSettings.h"
 #include "platform/qt/base/TextBridge.h"
 #include "platform/qt/base/WidgetSettings.h"
-#include "platform/qt/control/FocusWay.h"
 #include "platform/qt/control/KelControlWidget.h"
 #include "platform/qt/control/QtFocus.h"
 #include "platform/qt/control/RetiredControls.h"
@@ -201,7 +200,7 @@ std::unique_ptr<View> ControlSite::makeView(UpDown& spinner) {
 
 std::unique_ptr<View> ControlSite::makeView(Label& label) { return std::make_unique<CaptionLabel>(*this, label); }
 
-void ControlSite::moveFocusTo(FieldWidget& field) { focusWidget(dynamic_cast<FieldView&>(*field.view()).widget()); }
+void ControlSite::moveFocusTo(FieldWidget& field) { focus::give(dynamic_cast<FieldView&>(*field.view()).widget()); }
 
 void ControlSite::focusBarred(FieldWidget& field) { dynamic_cast<FieldView&>(*field.view()).giveUpFocus(); }
 

@@ -7,8 +7,7 @@
 #include "host/focus/FocusOrder.h"
 #include "host/focus/TabKey.h"
 #include "platform/qt/control/ControlSite.h"
-#include "platform/qt/control/FocusWay.h"
-#include "platform/qt/widgets/FieldView.h"
+#include "platform/qt/widgets/ComboList.h"
 
 namespace kel::qt::focus {
 
@@ -49,7 +48,16 @@ void focusMoved(const QWidget* now) {
 void giveBack(QWidget* from, const QWidget* now) {
     if (Refusing == nullptr || from == Refusing) return;
     Refusing = nullptr;
-    if (from != nullptr && now == nullptr) focusWidget(*from, Qt::OtherFocusReason);
+    if (from != nullptr && now == nullptr) give(*from);
+}
+
+/// Where the Tab key would lead from there; nullptr when nothing else takes the focus.
+QWidget* nextByTab(const QWidget& from) {
+    for (QWidget* next = from.nextInFocusChain(); next != &from; next = next->nextInFocusChain()) {
+        const bool stops = (next->focusPolicy() & Qt::TabFocus) != 0 && next->focusProxy() == nullptr;
+        if (stops && !next->isWindow() && isTakenBy(*next)) return next;
+    }
+    return nullptr;
 }
 
 void watchApplication() {
@@ -63,6 +71,23 @@ void watchApplication() {
 }
 
 }  // namespace
+
+/// While Qt disables or hides something it has not come to all that is in it, which does not know yet.
+bool isTakenBy(const QWidget& widget) {
+    for (const QWidget* around = &widget; around->isEnabled(); around = around->parentWidget()) {
+        if (around->isWindow()) return true;
+        if (around->isHidden()) return false;
+    }
+    return false;
+}
+
+void give(QWidget& widget, Qt::FocusReason reason) {
+    if (!isTakenBy(widget)) return;
+    // An open list would keep the keys, and its box the focus.
+    auto* const list = dynamic_cast<ComboList*>(QApplication::activePopupWidget());
+    if (list != nullptr && !widget.hasFocus()) list->close();
+    widget.setFocus(reason);
+}
 
 void arrived(FieldView& field, Qt::FocusReason reason) {
     watchApplication();
@@ -98,7 +123,7 @@ void passOn(FieldView& field) {
     const bool stays = shown != nullptr && shown != &field && shown->takesFocus();
     QWidget* const heir = stays ? &shown->widget() : nextByTab(widget);
     if (heir != nullptr)
-        focusWidget(*heir, stays ? Qt::OtherFocusReason : Qt::TabFocusReason);
+        give(*heir, stays ? Qt::OtherFocusReason : Qt::TabFocusReason);
     else
         widget.clearFocus();
 }

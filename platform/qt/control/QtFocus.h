@@ -2,6 +2,8 @@
 
 #include <QtCore/qnamespace.h>
 
+class QWidget;
+
 namespace kel::qt {
 
 class FieldView;
@@ -21,6 +23,11 @@ void passOn(FieldView& field);
 /// The field or the control is about to go, without a word to anybody.
 void forget(const FieldView& field);
 void forget(const ControlSite& site);
+
+/// Enabled and shown, with all around it: it would take the focus.
+bool isTakenBy(const QWidget& widget);
+/// Gives it the focus, if it takes it.
+void give(QWidget& widget, Qt::FocusReason reason = Qt::OtherFocusReason);
 
 /// Whether its control has been told that it has the focus.
 bool isHeldBy(const FieldView& field);

@@ -44,6 +44,8 @@ private:
     void setTabOrder();
     void befriendLabels();
     void activate();
+    template <class Action>
+    void byMouse(PlacedControl& control, Action action);
 
     ControlServices Surroundings_;
     std::unique_ptr<QWidget> Window_;

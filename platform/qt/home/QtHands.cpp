@@ -6,7 +6,7 @@
 #include <QPointer>
 
 #include "platform/qt/base/TextBridge.h"
-#include "platform/qt/control/FocusWay.h"
+#include "platform/qt/control/QtFocus.h"
 #include "platform/qt/home/KeySender.h"
 #include "platform/qt/home/PlacedQtControl.h"
 #include "platform/qt/home/QtFormWindow.h"
@@ -100,36 +100,39 @@ void QtFormWindow::press(const KeyStroke& stroke) {
 void QtFormWindow::focus(PlacedControl& control) {
     activate();
     if (const FieldView* const field = static_cast<PlacedQtControl&>(control).site().activeField())
-        focusWidget(field->widget());
+        focus::give(field->widget());
+    settle();
+}
+
+/// Something at the field of a control, as long as its `area` lives, that gets the focus first.
+template <class Action>
+void QtFormWindow::byMouse(PlacedControl& control, Action action) {
+    activate();
+    if (FieldView* const field = fieldOf(control)) {
+        const QPointer<QWidget> area = &field->mouseArea();
+        closePopups();
+        giveFocusByClick(field->widget());
+        if (!area.isNull()) action(*field, area);
+    }
     settle();
 }
 
 void QtFormWindow::click(PlacedControl& control, std::int32_t position) {
-    activate();
-    if (FieldView* const field = fieldOf(control)) {
-        const QPointer<QWidget> area = &field->mouseArea();
-        closePopups();
-        giveFocusByClick(field->widget());
-        if (auto* const input = area.isNull() ? nullptr : dynamic_cast<TextInput*>(field)) input->aim(position);
-        if (!area.isNull()) clickLeft(*area);
-    }
-    settle();
+    byMouse(control, [position](FieldView& field, const QPointer<QWidget>& area) {
+        if (auto* const input = dynamic_cast<TextInput*>(&field)) input->aim(position);
+        clickLeft(*area);
+    });
 }
 
 void QtFormWindow::rightClick(PlacedControl& control) {
     const QPointer<QWidget> window = Window_.get();
-    activate();
-    if (FieldView* const field = fieldOf(control)) {
-        const QPointer<QWidget> area = &field->mouseArea();
-        const bool hasMenu = dynamic_cast<TextInput*>(field) != nullptr;
+    byMouse(control, [](const FieldView& field, const QPointer<QWidget>& area) {
+        if (dynamic_cast<const TextInput*>(&field) == nullptr) return;
+        sendMouse(*area, QEvent::MouseButtonPress, Qt::RightButton);
+        if (!area.isNull()) sendMenu(*area);
         closePopups();
-        giveFocusByClick(field->widget());
-        if (!area.isNull() && hasMenu) sendMouse(*area, QEvent::MouseButtonPress, Qt::RightButton);
-        if (!area.isNull() && hasMenu) sendMenu(*area);
-        closePopups();
-        if (!area.isNull() && hasMenu) sendMouse(*area, QEvent::MouseButtonRelease, Qt::RightButton);
-    }
-    settle();
+        if (!area.isNull()) sendMouse(*area, QEvent::MouseButtonRelease, Qt::RightButton);
+    });
     if (!window.isNull()) activate();
 }
 
@@ -146,27 +149,22 @@ void QtFormWindow::spin(PlacedControl& control, bool up) {
 
 void QtFormWindow::pick(PlacedControl& control, std::int32_t item) {
     const QPointer<QWidget> window = Window_.get();
-    activate();
-    const QPointer<QtComboBox> box = dynamic_cast<QtComboBox*>(fieldOf(control));
-    if (!box.isNull()) {
-        closePopups();
-        giveFocusByClick(*box);
+    byMouse(control, [item](FieldView& field, const QPointer<QWidget>& area) {
+        auto* const box = dynamic_cast<QtComboBox*>(&field);
+        if (box == nullptr) return;
         clickLeft(*box, box->button().center());
-        if (!box.isNull() && box->list() != nullptr) clickItem(*box->list(), item);
+        if (!area.isNull() && box->list() != nullptr) clickItem(*box->list(), item);
         closePopups();
-    }
-    settle();
+    });
     if (!window.isNull()) activate();
 }
 
 void QtFormWindow::setClipboard(std::u16string_view text) { QGuiApplication::clipboard()->setText(toQString(text)); }
 
 PlacedControl* QtFormWindow::focused() const {
-    const QWidget* const widget = Window_->focusWidget();
-    if (widget == nullptr) return nullptr;
-    const auto holder = std::find_if(Controls_.begin(), Controls_.end(),
-                                     [widget](const auto& control) { return control->isAncestorOf(widget); });
-    return holder == Controls_.end() ? nullptr : holder->get();
+    for (QWidget* widget = Window_->focusWidget(); widget != nullptr; widget = widget->parentWidget())
+        if (auto* const control = dynamic_cast<PlacedQtControl*>(widget)) return control;
+    return nullptr;
 }
 
 bool QtFormWindow::savePicture(const std::string& utf8Path) {

@@ -5,7 +5,6 @@
 
 #include "platform/qt/base/WidgetSettings.h"
 #include "platform/qt/control/ControlSite.h"
-#include "platform/qt/control/FocusWay.h"
 #include "platform/qt/control/QtFocus.h"
 
 namespace kel::qt {
@@ -20,7 +19,7 @@ FieldView::~FieldView() {
     site().fieldGoes(*this);
 }
 
-bool FieldView::takesFocus() const { return qt::takesFocus(widget()); }
+bool FieldView::takesFocus() const { return focus::isTakenBy(widget()); }
 
 void FieldView::giveUpFocus() {
     if (widget().window()->focusWidget() == &widget()) focus::passOn(*this);

@@ -93,7 +93,7 @@ void QtLine::outOfDate() {
 }
 
 void QtLine::recolor() {
-    Look_ = fieldPalette(colors(), palette()).resolve(palette());
+    Look_ = fieldPalette(colors(), palette());
     update();
 }
 

@@ -13,7 +13,6 @@
 
 #include "host/editing/TextDifference.h"
 #include "platform/qt/base/TextBridge.h"
-#include "platform/qt/base/WidgetSettings.h"
 #include "platform/qt/widgets/PlainText.h"
 #include "values/TextBoundaries.h"
 
@@ -43,7 +42,7 @@ QtTextArea::QtTextArea(ControlSite& site, TextEntry& box, QWidget& parent)
 void QtTextArea::outOfDate() {
     const Changes changes = box().takeChanges();
     showState(changes);
-    if (changes.has(Change::Colors)) colorWidget(*this, colors());
+    if (changes.has(Change::Colors)) colorAgain();
     if (changes.has(Change::Locked)) showLocked();
     if (changes.has(Change::Text) || changes.has(Change::Selection)) showText();
 }
@@ -81,7 +80,8 @@ void QtTextArea::showLocked() {
 }
 
 void QtTextArea::colorAgain() {
-    if (colors() != FieldColors{}) colorWidget(*this, colors());
+    const bool areUsual = colors() == FieldColors{};
+    setPalette(areUsual ? QPalette() : fieldPalette(colors(), parentWidget()->palette()));
 }
 
 // ---- What somebody else has made of it, a screen reader, say, that writes into it
