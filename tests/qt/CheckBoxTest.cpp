@@ -8,6 +8,7 @@
 #include "controls/check/KelCheck.h"
 #include "platform/qt/home/QtHome.h"
 #include "platform/qt/widgets/QtCheckBox.h"
+#include "tests/qt/Pictures.h"
 #include "tests/qt/ProbeForm.h"
 #include "tests/qt/QtForm.h"
 
@@ -161,10 +162,7 @@ TEST(CheckInQt, FromRightToLeftTheBoxStandsAtTheRight) {
     window.show();
     const auto inkAt = [&field](int left, int right) {
         const QImage picture = field.grab().toImage();
-        for (int y = 0; y < picture.height(); ++y)
-            for (int x = left; x < right; ++x)
-                if (picture.pixel(x, y) != picture.pixel(100, 0)) return true;
-        return false;
+        return !inkIn(picture, {left, 0, right - left, picture.height()}, picture.pixelColor(100, 0)).isEmpty();
     };
     EXPECT_TRUE(inkAt(0, 20));
     EXPECT_FALSE(inkAt(180, 200));

@@ -4,7 +4,6 @@
 #include <QScreen>
 #include <QScrollBar>
 #include <QTest>
-#include <QWheelEvent>
 
 #include "controls/combo/KelCombo.h"
 #include "library/SharedSettings.h"
@@ -148,22 +147,13 @@ TEST_F(Combo, RowsFollowThePointer) {
     EXPECT_FALSE(isOpen());
 }
 
-/// Whether the area had a use for it.
-bool turn(QWidget& area, int notches) {
-    const QPoint place = area.rect().center();
-    QWheelEvent event(place, area.mapToGlobal(place), {}, {0, notches * 120}, Qt::NoButton, Qt::NoModifier,
-                      Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&area, &event);
-    return event.isAccepted();
-}
-
 TEST_F(Combo, TheWheelIsTheFormsAndScrollsTheOpenList) {
     combo().put_Text(u"Cherry");
     window().focus(*first);
-    EXPECT_FALSE(turn(box(), -1));
+    EXPECT_FALSE(turnWheel(box(), {0, -120}));
     EXPECT_EQ(combo().get_Text(), u"Cherry");
     open();
-    turn(*list().viewport(), -1);
+    turnWheel(*list().viewport(), {0, -120});
     EXPECT_GT(list().verticalScrollBar()->value(), 0);
     EXPECT_EQ(combo().get_Text(), u"Cherry");
 }

@@ -7,19 +7,11 @@
 #include "platform/qt/base/FieldColors.h"
 #include "platform/qt/home/QtHome.h"
 #include "platform/qt/widgets/QtLine.h"
+#include "tests/qt/Pictures.h"
 #include "tests/qt/QtForm.h"
 
 namespace kel::test {
 namespace {
-
-QPalette darkDesktop() {
-    QPalette palette(QColor(45, 45, 48));
-    palette.setColor(QPalette::Base, QColor(30, 30, 30));
-    palette.setColor(QPalette::Text, Qt::white);
-    palette.setColor(QPalette::WindowText, Qt::white);
-    palette.setColor(QPalette::Highlight, QColor(20, 60, 120));
-    return palette;
-}
 
 double luminance(const QColor& color) {
     const auto linear = [](double part) {
@@ -86,14 +78,9 @@ TEST(Looks, AChangeOfTheDesktopReachesTheFields) {
     EXPECT_EQ(shown.look().color(QPalette::Base), light.color(QPalette::Base));
 }
 
-/// Rows of the picture that hold ink, between the columns given.
-QRect inkIn(const QImage& picture, int left, int right) {
-    const QColor paper = picture.pixelColor(left, picture.height() / 2);
-    QRect ink;
-    for (int y = 0; y < picture.height(); ++y)
-        for (int x = left; x < right; ++x)
-            if (picture.pixelColor(x, y) != paper) ink |= QRect(x, y, 1, 1);
-    return ink;
+/// Where there is ink between the columns given.
+QRect inkBetween(const QImage& picture, int left, int right) {
+    return inkIn(picture, {left, 0, right - left, picture.height()}, picture.pixelColor(left, picture.height() / 2));
 }
 
 TEST(Looks, CaptionAndTextStandOnOneLine) {
@@ -109,9 +96,9 @@ TEST(Looks, CaptionAndTextStandOnOneLine) {
         const QImage picture = field->grab().toImage();
         constexpr int Caption = 80;
         constexpr int Inset = 3;
-        const QRect caption = inkIn(picture, 0, Caption);
+        const QRect caption = inkBetween(picture, 0, Caption);
         const QRect text =
-            inkIn(picture.copy(0, Inset, 240, 20 - 2 * Inset), Caption + Inset, 160).translated(0, Inset);
+            inkBetween(picture.copy(0, Inset, 240, 20 - 2 * Inset), Caption + Inset, 160).translated(0, Inset);
         EXPECT_EQ(caption.top(), text.top());
         EXPECT_EQ(caption.bottom(), text.bottom());
         EXPECT_LE(caption.left(), 2) << "at the left edge";
@@ -130,7 +117,7 @@ TEST(Looks, FromRightToLeftTheCaptionStandsAtTheRight) {
     window.setLayoutDirection(Qt::RightToLeft);
     EXPECT_EQ(box.geometry(), QRect(0, 0, 160, 20));
     EXPECT_EQ(field->control().widgets().entry->bounds(), (Rect{1200, 0, 2400, 300})) << "in twips nothing changes";
-    EXPECT_GE(inkIn(field->grab().toImage(), 162, 240).right(), 236);
+    EXPECT_GE(inkBetween(field->grab().toImage(), 162, 240).right(), 236);
     field->resize(300, 20);
     EXPECT_EQ(box.geometry(), QRect(0, 0, 220, 20));
 }
@@ -144,7 +131,7 @@ TEST(Looks, AClippedTextShowsWhole) {
     const QImage picture = field.grab().toImage();
     constexpr int Inset = 3;
     const QImage inside = picture.copy(Inset, Inset, 100, 20 - 2 * Inset);
-    const QRect ink = inkIn(inside, 0, inside.width());
+    const QRect ink = inkBetween(inside, 0, inside.width());
     EXPECT_GT(ink.height(), 8);
     EXPECT_LT(ink.bottom(), inside.height() - 1) << "descenders reach the frame";
 }

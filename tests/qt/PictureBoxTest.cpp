@@ -8,17 +8,10 @@
 #include "platform/qt/base/FieldColors.h"
 #include "platform/qt/home/QtHome.h"
 #include "platform/qt/widgets/QtPictureBox.h"
+#include "tests/qt/Pictures.h"
 
 namespace kel::test {
 namespace {
-
-/// Nothing in it looks different where it is disabled.
-QPalette darkDesktop() {
-    QPalette palette(QColor(45, 45, 48));
-    palette.setColor(QPalette::WindowText, Qt::white);
-    palette.setColor(QPalette::Highlight, QColor(20, 60, 120));
-    return palette;
-}
 
 class PaintCount final : public QObject {
 public:
@@ -51,18 +44,9 @@ protected:
     QColor ink() { return qt::captionColorOn(window.palette(), colors::SystemHighlight); }
     /// Where the bar is, by its top line, which no text reaches.
     QRect barIn(const QImage& picture) {
-        QRect bar;
-        for (int x = 0; x < picture.width(); ++x)
-            if (picture.pixelColor(x, 0) == ink()) bar |= QRect(x, 0, 1, picture.height());
+        QRect bar = where(picture, {0, 0, picture.width(), 1}, [this](const QColor& pixel) { return pixel == ink(); });
+        if (!bar.isEmpty()) bar.setHeight(picture.height());
         return bar;
-    }
-    /// Where there is anything but `paper`.
-    static QRect writingIn(const QImage& picture, const QRect& part, const QColor& paper) {
-        QRect writing;
-        for (int y = part.top(); y <= part.bottom(); ++y)
-            for (int x = part.left(); x <= part.right(); ++x)
-                if (picture.pixelColor(x, y) != paper) writing |= QRect(x, y, 1, 1);
-        return writing;
     }
 
     QWidget window;
@@ -79,7 +63,7 @@ TEST_F(Picture, IsShownBeforeThePutReturns) {
     EXPECT_EQ(paints.take(), 1);
     QCoreApplication::processEvents();
     EXPECT_EQ(paints.take(), 0);
-    EXPECT_EQ(writingIn(picture(), box().rect(), ground()), QRect());
+    EXPECT_EQ(inkIn(picture(), box().rect(), ground()), QRect());
 }
 
 TEST_F(Picture, TheBarReachesFromItsEdgeAndTheTextStandsInTheMiddle) {
@@ -101,7 +85,7 @@ TEST_F(Picture, TheBarReachesFromItsEdgeAndTheTextStandsInTheMiddle) {
         bar().put_Value(-1);
         bar().put_Max(100);
         bar().put_Value(0);
-        const QRect text = writingIn(picture(), box().rect(), ground());
+        const QRect text = inkIn(picture(), box().rect(), ground());
         ASSERT_FALSE(text.isEmpty());
         EXPECT_NEAR(text.center().x(), 150, 2);
         EXPECT_NEAR(text.center().y(), 10, 2);
@@ -126,14 +110,11 @@ TEST_F(Picture, TextIsReadableOverBarAndGroundOnEveryDesktop) {
             const QRect uncovered = covered.translated(direction == Qt::LeftToRight ? 150 : -150, 0);
             // Whole strokes have the colour itself, which `captionColorOn` has made readable on the ground.
             const auto has = [&shown](const QRect& part, const QColor& color) {
-                for (int y = part.top(); y <= part.bottom(); ++y)
-                    for (int x = part.left(); x <= part.right(); ++x)
-                        if (shown.pixelColor(x, y) == color) return true;
-                return false;
+                return !where(shown, part, [&color](const QColor& pixel) { return pixel == color; }).isEmpty();
             };
             EXPECT_TRUE(has(covered, ground()));
             EXPECT_TRUE(has(uncovered, ink()));
-            EXPECT_LE(writingIn(shown, covered, ink()).width(), 30) << "and the bar is of that colour";
+            EXPECT_LE(inkIn(shown, covered, ink()).width(), 30) << "and the bar is of that colour";
         }
     }
 }

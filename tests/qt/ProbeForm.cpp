@@ -4,9 +4,11 @@
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QTest>
+#include <QWheelEvent>
 #include <QWindow>
 
 #include "platform/qt/home/QtHome.h"
+#include "platform/qt/widgets/FieldView.h"
 #include "platform/qt/widgets/QtUpDown.h"
 
 namespace kel::test {
@@ -77,6 +79,17 @@ void moveMouse(QWidget& widget, const QPoint& place) {
 
 void releaseMouse(QWidget& widget, const QPoint& place) {
     QTest::mouseRelease(&windowOf(widget), Qt::LeftButton, {}, placeInWindow(widget, place));
+}
+
+QWidget& areaOf(TextEntry& box) { return dynamic_cast<qt::FieldView&>(*box.view()).mouseArea(); }
+
+bool turnWheel(QWidget& area, const QPoint& angle) {
+    const QPoint place = area.rect().center();
+    QWheelEvent event(place, area.mapToGlobal(place), {}, angle, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                      false);
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(&area, &event);
+    return event.isAccepted();
 }
 
 QPoint buttonOf(const QWidget& spinner, bool upper) {

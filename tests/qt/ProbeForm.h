@@ -33,6 +33,11 @@ void pressMouse(QWidget& widget, const QPoint& place);
 void moveMouse(QWidget& widget, const QPoint& place);
 void releaseMouse(QWidget& widget, const QPoint& place);
 
+/// The part of a box that takes the mouse.
+QWidget& areaOf(TextEntry& box);
+/// As the window system does; whether it was used. Qt hands on what is not.
+bool turnWheel(QWidget& area, const QPoint& angle);
+
 /// The middle of a spinner's upper or lower button.
 QPoint buttonOf(const QWidget& spinner, bool upper);
 

@@ -9,6 +9,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "tests/qt/Pictures.h"
 #include "tests/qt/ProbeForm.h"
 
 namespace kel::test {
@@ -150,11 +151,7 @@ QRect arrowIn(const QImage& picture, bool upper) {
     const QRect inside =
         QRect(0, upper ? 0 : half, picture.width(), half).adjusted(3 * scale, 2 * scale, -3 * scale, -2 * scale);
     const int paper = qGray(picture.pixel(inside.bottomLeft()));
-    QRect ink;
-    for (int y = inside.top(); y <= inside.bottom(); ++y)
-        for (int x = inside.left(); x <= inside.right(); ++x)
-            if (std::abs(paper - qGray(picture.pixel(x, y))) > 60) ink |= QRect(x, y, 1, 1);
-    return ink;
+    return where(picture, inside, [paper](const QColor& pixel) { return std::abs(paper - qGray(pixel.rgb())) > 60; });
 }
 
 int widthOfInk(const QImage& picture, const QRect& arrow, int y) {

@@ -51,13 +51,7 @@ TEST(Properties, WriteAndReadTheControl) {
         {"caption", QStringLiteral("&Caption")},
         {"captionWidth", 1500},
         {"enabled", false},
-        {"insertMode", false},
-        {"locked", true},
-        {"mandatory", false},
-        {"maxLength", 12},
-        {"multiLine", true},
         {"passwordChar", QStringLiteral("*")},
-        {"selectOnFocus", true},
         {"text", QStringLiteral("some text")},
     };
     for (const auto& [name, value] : values) {
