@@ -32,19 +32,15 @@ TEST_F(Check, GreyIsNotTrueAndAClickUnchecksIt) {
     EXPECT_EQ(Form.told(), Lines{"Value"});
 }
 
-TEST_F(Check, AnEventThatSetsTheValueRaisesNoFurtherOne) {
-    Form.onEvent = [this] { It.put_Value(false); };
-    Form.window().click(Form.placed(), 0);
-    EXPECT_FALSE(It.get_Value());
-    EXPECT_EQ(Form.told(), (Lines{"Change!", "Value"}));
-}
-
 TEST_F(Check, AnEventThatDisablesTheBoxEndsTheUsersTurn) {
     Form.onEvent = [this] { It.put_Locked(true); };
     Form.window().focus(Form.placed());
     for (int presses = 0; presses < 2; ++presses) Form.window().press(strokeFor(U' '));
     EXPECT_TRUE(It.get_Value());
     EXPECT_EQ(Form.told(), (Lines{"Change!", "Locked"}));
+    EXPECT_TRUE(Box.enabled()) << "a locked box is drawn as it was";
+    It.put_Enabled(false);
+    EXPECT_FALSE(Box.enabled());
 }
 
 }  // namespace

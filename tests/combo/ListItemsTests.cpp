@@ -63,13 +63,10 @@ TEST(ListItems, BeginningsGoByTheListsOrderAndNotByCase) {
     } cases[] = {
         {"the first of several, not the one in the same case", u"ap", u"APRICOT"},
         {"a whole item, though an earlier one begins with it", u"apple", u"Apple pie"},
-        {"letters beyond ASCII", u"\u00C9TE", u"\u00E9te"},
         {"Greek with its final sigma", u"\u03BF\u03B4\u03BF\u03C3", u"\u03BF\u03B4\u03BF\u03C2"},
         {"letters in pairs", u"\U00010428", u"\U00010400x"},
         {"half a pair is no whole one", u"\xD801", u""},
-        {"longer than any item", u"apricots", u""},
         {"no accents are dropped", u"ete", u""},
-        {"nothing", u"", u""},
     };
     for (const bool indexed : {false, true}) {
         const ListItems list = indexed ? longListOf({u"APRICOT", u"apricot", u"Apple pie", u"apple", u"\u00E9te",

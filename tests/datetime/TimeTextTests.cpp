@@ -94,21 +94,6 @@ TEST(TimeSteps, StopAtTheBounds) {
     EXPECT_EQ(step(u"hh:nn", "|08:15", clock(8, 15), -1, office).value, office.minimum);
 }
 
-TEST(TimeSteps, MeetEverySecondOfTheDayExactly) {
-    const FieldFormat format(u"hh:nn:ss");
-    const FieldRules rules{format, AllTimes, defaultRegion()};
-    std::u16string text = u"00:00:00";
-    Date time{0};
-    for (std::int32_t second = 1; second < SecondsPerDay; ++second) {
-        FieldStep next = stepTime({text, 8, time}, {0}, 1, rules);
-        time = next.value;
-        text = std::move(next.text);
-        ASSERT_EQ(time, clock(second / 3600, second / 60 % 60, second % 60));
-        ASSERT_EQ(text, savedTime(time));
-    }
-    EXPECT_EQ(time, AllTimes.maximum);
-}
-
 TEST(TimeFormat, WritesMinutesBehindHours) {
     const struct {
         const char16_t* given;

@@ -43,16 +43,13 @@ TEST(FormBag, ReadsExactlyTheTypeOfTheRow) {
     };
     const Case cases[] = {
         {"", Caption, std::u16string()},
-        {"", Value, std::int16_t{0}},
         {"caption = \"a\"\n", Caption, std::u16string(u"a")},
         {"Caption = .5\n", Caption, std::u16string(u"0.5")},
         {"CaptionWidth = 2.5\n", Width, std::int16_t{2}},
         {"Enabled = 0   'False\n", Enabled, false},
-        {"Enabled = 3\n", Enabled, true},
         {"MaxValue = .75\n", MaxValue, Date{.75}},
         {"Value = \"10:15\"\n", Value, std::u16string(u"10:15")},
         {"Value = 70000\n", Value, std::int32_t{70000}},
-        {"Value = .5\n", Value, .5},
         {"DropDownWidth = 200\n", DropDown, std::int16_t{200}},
         {"Value = 2\n", Number, 2.0},
     };
@@ -70,7 +67,6 @@ TEST(FormBag, RefusesWrongValues) {
         {"CaptionWidth = \"5\"\n", Width, "CaptionWidth wants a value of type 16-bit integer, not \"5\""},
         {"Enabled = True\n", Enabled, "Enabled wants a value of type boolean, not True"},
         {"MaxValue = 2958466\n", MaxValue, "MaxValue wants a value of type date, not 2958466"},
-        {"Caption = {1}\n", Caption, "Caption wants a value of type string, not {1}"},
         {"Value = ^W\n", Value, "Value wants a value of type variant, not ^W"},
     };
     for (const Case& c : cases)
@@ -105,7 +101,6 @@ TEST(FormBag, ChangesOnlyWhatDiffers) {
         {"Enabled = 1\nX = 1\n", Enabled, false, "Enabled = 0   'False\nX = 1\n"},
         {"Enabled = 0\nX = 1\n", Enabled, true, "X = 1\n"},
         {"Caption = \"b\"\nX = 1\n", Caption, text, "Caption = \"a\"\nX = 1\n"},
-        {"MaxValue = 5\nX = 1\n", MaxValue, Date{2958465}, "X = 1\n"},
         {"X = 1\n", MaxValue, Date{.25}, "MaxValue = .25\nX = 1\n"},
         {"X = 1\n", Value, std::u16string(u"00:00:00"), "Value = \"00:00:00\"\nX = 1\n"},
         {"dropdownwidth = 3\n", DropDown, std::int16_t{4}, "dropdownwidth = 4\n"},

@@ -1,4 +1,3 @@
-#include <functional>
 
 #include "FormTesting.h"
 
@@ -50,10 +49,8 @@ TEST(FormErrors, OfTheWholeFile) {
 TEST(FormErrors, OfBlocksAndGroups) {
     expectMistakes({
         {Head, 2, "\"Begin VB.Form f\" has no End: the file is cut off after line 2"},
-        {Head + "Begin A b\nEnd\n", 2, "\"Begin VB.Form f\" has no End"},
         {Head + "Begin\nEnd\n", 3, "without a class and a name"},
         {Head + "EndProperty\n", 3, "EndProperty without BeginProperty"},
-        {"VERSION 5.00\nBeginProperty Font\n", 2, "outside a block"},
         {Head + "BeginProperty Font\nEnd\n", 4, "End inside \"BeginProperty Font\" of line 3"},
     });
 }
@@ -68,7 +65,6 @@ TEST(FormErrors, OfProperties) {
         {Head + "X = \"a.frx\":00G0\n", 3, "\"00G0\" is no hexadecimal offset"},
         {Head + "Width = 1\nLeft = 2\nwidth = 1\nEnd\n", 5, "\"Width\" stands in this block already, in line 3"},
         {Head + "BeginProperty A\nX = 1\nx = 2\nEndProperty\nEnd\n", 5, "in line 4"},
-        {Head + "Font = 1\nBeginProperty Font\nEndProperty\nEnd\n", 4, "in line 3"},
         {Head + std::string("X = \"a\0b\"\n", 10) + "End\n", 3, "NUL"},
     });
     EXPECT_EQ(parseError(Head + "X=1\nBeginProperty A\nX=1\nEndProperty\nBeginProperty B\nX=1\nEndProperty\nEnd\n"),
@@ -112,24 +108,9 @@ std::string randomBytes(std::size_t size) {
 // Minutes or gigabytes spent on noise are a hang to whoever opened the wrong file.
 TEST(FormErrors, NoiseOfAHundredMegabytesIsRefusedAtOnce) {
     constexpr std::size_t Size = 100'000'000;
-    const std::function<Mistake()> noises[] = {
-        [] {
-            return Mistake{randomBytes(Size), 1, "VERSION"};
-        },
-        [] {
-            return Mistake{Head + randomBytes(Size), 3, ""};
-        },
-        [] {
-            return Mistake{"VERSION 5.00" + std::string(Size, ' '), 1, "longer than 1 MiB"};
-        },
-        [] {
-            return Mistake{Head + std::string(Size, '\n'), 1'000'001, "a million lines"};
-        },
-        [] {
-            return Mistake{Head + repeated("x=1\n", Size / 4), 1'000'001, "a million lines"};
-        },
-    };
-    for (const auto& noise : noises) expectMistake(noise());
+    expectMistake({Head + randomBytes(Size), 3, ""});
+    expectMistake({"VERSION 5.00" + std::string(Size, ' '), 1, "longer than 1 MiB"});
+    expectMistake({Head + repeated("x=1\n", Size / 4), 1'000'001, "a million lines"});
 }
 
 TEST(FormErrors, NameTheFileThatCannotBeRead) {

