@@ -2,6 +2,7 @@
 
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/ole/Host.h"
+#include "tests/windows/widgets/Picture.h"
 
 using namespace kel::tests;
 
@@ -67,9 +68,7 @@ TEST(activation_of_the_user_interface_takes_the_focus) {
     SendMessageW(GetFocus(), WM_CHAR, L'a', 0);
     EXPECT_EQ(text(field.get()), std::wstring(L"a"));
     EXPECT_EQ(sink.Heard.size(), std::size_t{1});
-    VARIANT_BOOL changed = VARIANT_FALSE;
-    EXPECT_CODE(field->get_Changed(&changed), S_OK);
-    EXPECT_EQ(changed, VARIANT_TRUE);
+    EXPECT_EQ(late(field.get(), L"Changed"), L"bool True");
     SetFocus(host.window());
     EXPECT(host.called("OnFocusLost"));
     EXPECT_CODE(host.inPlace()->UIDeactivate(), S_OK);
@@ -204,20 +203,15 @@ TEST(view_draws_without_a_window) {
     const auto field = makeText();
     EXPECT_CODE(field->put_Text(Str(L"picture")), S_OK);
     const auto view = field.as<IViewObject2>();
-    HDC screen = GetDC(nullptr);
-    HDC memory = CreateCompatibleDC(screen);
-    HBITMAP bitmap = CreateCompatibleBitmap(screen, 200, 40);
-    SelectObject(memory, bitmap);
-    PatBlt(memory, 0, 0, 200, 40, BLACKNESS);
+    Picture picture;
+    PatBlt(picture.context(), 0, 0, 200, 40, BLACKNESS);
     const RECTL bounds{0, 0, 200, 40};
-    EXPECT_CODE(view->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, memory, &bounds, nullptr, nullptr, 0),
-                S_OK);
-    EXPECT(GetPixel(memory, 150, 20) != 0);
-    EXPECT_CODE(view->Draw(DVASPECT_ICON, -1, nullptr, nullptr, nullptr, memory, &bounds, nullptr, nullptr, 0),
-                DV_E_DVASPECT);
-    DeleteDC(memory);
-    DeleteObject(bitmap);
-    ReleaseDC(nullptr, screen);
+    const auto draw = [&](DWORD aspect) {
+        return view->Draw(aspect, -1, nullptr, nullptr, nullptr, picture.context(), &bounds, nullptr, nullptr, 0);
+    };
+    EXPECT_CODE(draw(DVASPECT_CONTENT), S_OK);
+    EXPECT(GetPixel(picture.context(), 150, 20) != 0);
+    EXPECT_CODE(draw(DVASPECT_ICON), DV_E_DVASPECT);
     const auto data = field.as<IDataObject>();
     FORMATETC format{CF_ENHMETAFILE, nullptr, DVASPECT_CONTENT, -1, TYMED_ENHMF};
     STGMEDIUM medium{};

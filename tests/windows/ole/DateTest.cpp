@@ -84,9 +84,7 @@ TEST(date_bounds_are_dates) {
     const auto field = makeDate();
     EXPECT_CODE(field->put_MaxValue(March31), S_OK);
     EXPECT_CODE(field->put_MinValue(March15), S_OK);
-    DATE bound = 0;
-    EXPECT_CODE(field->get_MinValue(&bound), S_OK);
-    EXPECT_EQ(bound, March15);
+    EXPECT_EQ(late(field.get(), L"MinValue"), L"date 41348");
     EXPECT_EQ(late(field.get(), L"MaxValue"), L"date 41364");
     EXPECT_CODE(field->put_MaxValue(Year9999 + 1), DISP_E_OVERFLOW);
 
@@ -95,8 +93,6 @@ TEST(date_bounds_are_dates) {
     Var written;
     EXPECT_CODE(VarBstrFromDate(March31, LOCALE_USER_DEFAULT, 0, &written.Value.bstrVal), S_OK);
     written.Value.vt = VT_BSTR;
-    EXPECT_CODE(put(field.get(), L"MaxValue", number(March15)), S_OK);
-    EXPECT_EQ(late(field.get(), L"MaxValue"), L"date 41348");
     EXPECT_CODE(put(field.get(), L"MaxValue", written.Value), S_OK);
     EXPECT_EQ(late(field.get(), L"MaxValue"), L"date 41364");
     EXPECT_CODE(put(field.get(), L"MaxValue", days.Value), S_OK);

@@ -39,20 +39,10 @@ Ref<_KelText> filledField() {
 }
 
 void expectFilled(_KelText* field) {
-    short width = 0;
-    short length = 0;
-    VARIANT_BOOL locked = VARIANT_FALSE;
-    VARIANT_BOOL mandatory = VARIANT_FALSE;
-    EXPECT_EQ(captionOf(field), std::wstring(L"Näme"));
-    EXPECT_CODE(field->get_CaptionWidth(&width), S_OK);
-    EXPECT_EQ(width, 900);
-    EXPECT_CODE(field->get_MaxLength(&length), S_OK);
-    EXPECT_EQ(length, 12);
-    EXPECT_CODE(field->get_Locked(&locked), S_OK);
-    EXPECT_EQ(locked, VARIANT_TRUE);
-    EXPECT_CODE(field->get_Mandatory(&mandatory), S_OK);
-    EXPECT_EQ(mandatory, VARIANT_TRUE);
-    EXPECT_EQ(text(field), std::wstring(L"x \"y\" 12,5"));
+    constexpr std::pair<const wchar_t*, const wchar_t*> Wanted[] = {
+        {L"Caption", L"text Näme"}, {L"CaptionWidth", L"short 900"}, {L"MaxLength", L"short 12"},
+        {L"Locked", L"bool True"},  {L"Mandatory", L"bool True"},    {L"Text", L"text x \"y\" 12,5"}};
+    for (const auto& [name, value] : Wanted) EXPECT_EQ(late(field, name), std::wstring(value));
 }
 
 std::string savedBytes() {
@@ -66,9 +56,7 @@ bool isRefused(const std::string& bytes) {
     const auto field = makeText();
     const auto stream = memoryStream(bytes);
     if (SUCCEEDED(field.as<IPersistStreamInit>()->Load(stream.get()))) return false;
-    short width = -1;
-    EXPECT_CODE(field->get_CaptionWidth(&width), S_OK);
-    EXPECT_EQ(width, 0);
+    EXPECT_EQ(late(field.get(), L"CaptionWidth"), L"short 0");
     EXPECT_EQ(text(field.get()), std::wstring());
     EXPECT_CODE(field.as<IPersistStreamInit>()->InitNew(), S_OK);
     return true;

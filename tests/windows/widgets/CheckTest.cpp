@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/widgets/Picture.h"
@@ -74,6 +75,13 @@ constexpr NamedDeed<CheckScene> Presses[] = {
     {"mnemonic", [](CheckScene& scene) { scene.box().pressMnemonic(); }},
 };
 
+/// Ways to bar it from input.
+constexpr NamedDeed<CheckScene> Bars[] = {
+    {"disabled", [](CheckScene& scene) { scene.box().setEnabled(false); }},
+    {"locked", [](CheckScene& scene) { scene.control().setEnabled(false); }},
+    {"hidden", [](CheckScene& scene) { scene.box().setVisible(false); }},
+};
+
 constexpr DWORD Ground = 0xC0FFEE;
 constexpr DWORD Ink = 0xFF0000;
 constexpr int CaptionLeft = 16;  ///< pixels
@@ -124,12 +132,7 @@ TEST(check_is_toggled_by_every_kind_of_press) {
 }
 
 TEST(check_that_takes_no_input_is_neither_toggled_nor_focused) {
-    const NamedDeed<CheckScene> deeds[] = {
-        {"disabled", [](CheckScene& scene) { scene.box().setEnabled(false); }},
-        {"locked", [](CheckScene& scene) { scene.control().setEnabled(false); }},
-        {"hidden", [](CheckScene& scene) { scene.box().setVisible(false); }},
-    };
-    for (const auto& deed : deeds) {
+    for (const auto& deed : Bars) {
         CheckScene scene;
         scene.enter();
         deed.act(scene);
@@ -196,16 +199,11 @@ TEST(check_keeps_from_its_host_the_keys_that_act_in_it) {
 }
 
 TEST(check_press_that_ends_elsewhere_does_not_toggle) {
-    const NamedDeed<CheckScene> ends[] = {
-        {"beside it",
-         [](CheckScene& scene) {
-             postMouse(scene.window(), WM_MOUSEMOVE, MK_LBUTTON, {-50, 10});
-         }},
-        {"disabled", [](CheckScene& scene) { scene.box().setEnabled(false); }},
-        {"locked", [](CheckScene& scene) { scene.control().setEnabled(false); }},
-        {"hidden", [](CheckScene& scene) { scene.box().setVisible(false); }},
-        {"without its capture", [](CheckScene& /*scene*/) { ReleaseCapture(); }},
-    };
+    std::vector<NamedDeed<CheckScene>> ends(std::begin(Bars), std::end(Bars));
+    ends.push_back({"beside it", [](CheckScene& scene) {
+                        postMouse(scene.window(), WM_MOUSEMOVE, MK_LBUTTON, {-50, 10});
+                    }});
+    ends.push_back({"without its capture", [](CheckScene& /*scene*/) { ReleaseCapture(); }});
     for (const auto& end : ends) {
         CheckScene scene;
         scene.enter();
@@ -216,7 +214,7 @@ TEST(check_press_that_ends_elsewhere_does_not_toggle) {
         end.act(scene);
         settle();
         EXPECT((SendMessageW(scene.window(), BM_GETSTATE, 0, 0) & BST_PUSHED) == 0);
-        postMouse(scene.window(), WM_LBUTTONUP, 0, end.name == ends[0].name ? POINT{-50, 10} : Middle);
+        postMouse(scene.window(), WM_LBUTTONUP, 0, std::string(end.name) == "beside it" ? POINT{-50, 10} : Middle);
         settle();
         EXPECT(GetCapture() == nullptr);
         if (scene.box().value() != CheckBox::Unchecked) fail(__FILE__, __LINE__, end.name);

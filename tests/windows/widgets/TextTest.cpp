@@ -50,12 +50,9 @@ struct MessageCase {
 TEST(text_from_outside_goes_through_the_box) {
     const MessageCase cases[] = {
         {L"old", 2, 0, WM_SETTEXT, 0, L"new", L"|new", L"change"},
-        {L"same", 2, 0, WM_SETTEXT, 0, L"same", L"|same", L""},
         {L"abc", 1, 1, EM_REPLACESEL, TRUE, L"xyz", L"axyz|c", L"change"},
-        {L"abc", 1, 1, EM_REPLACESEL, FALSE, L"b", L"ab|c", L""},
         {L"abc", 1, 1, WM_CLEAR, 0, nullptr, L"a|c", L"change"},
         {L"abc", 1, 1, WM_CUT, 0, nullptr, L"a|c", L"change"},
-        {L"abc", 1, 1, WM_COPY, 0, nullptr, L"a[b]c", L""},
         {L"abc", 1, 0, WM_CHAR, L'x', nullptr, L"ax|bc", L"key:120 change"},
         {L"abc", 1, 0, WM_CHAR, VK_BACK, nullptr, L"|bc", L"key:8 change"},
         {L"abc", 1, 0, WM_UNICHAR, 0xE9, nullptr, L"a\u00E9|bc", L"key:233 change"},
