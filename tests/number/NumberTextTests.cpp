@@ -58,6 +58,7 @@ TEST(NumberKeys, InsertingLetOnlyNumbersThrough) {
                                                        {"1|2", U'5', Passes, "1|2"},
                                                        {"1|2", U'a', Beeps, "1|2"},
                                                        {"1|2", U',', Beeps, "1|2"},
+                                                       {"1|2", U' ', Beeps, "1|2"},
                                                        {"1|2", U'\u2212', Beeps, "1|2"},
                                                        {"1|2", U'\U0001F600', Beeps, "1|2"},
                                                        {"1|2", U'-', Refused, "-[12]"},

@@ -65,14 +65,17 @@ TEST(number_message_box_has_the_container_wait) {
     std::string whileUp;
     HWND owner = nullptr;
     bool ownerWaits = false;
+    wchar_t title[32]{};
     const MessageBoxHand hand([&](HWND box) {
         whileUp = host.Inside.Frame->Waits;
         owner = GetWindow(box, GW_OWNER);
         ownerWaits = IsWindowEnabled(owner) == FALSE;
+        GetWindowTextW(box, title, 32);
     });
     EXPECT(!host.valid(true));
     settle();
     EXPECT_EQ(hand.seen(), 1);
+    EXPECT_EQ(std::wstring(title), L"Invalid Value");
     EXPECT(whileUp == "+");
     EXPECT(host.Inside.Frame->Waits == "+-");
     EXPECT(owner == host.Inside.window());
