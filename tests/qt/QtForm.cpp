@@ -58,8 +58,4 @@ TextEntry& boxOf(PlacedControl& control) { return *control.control().widgets().e
 
 QWidget& widgetOf(TextEntry& box) { return dynamic_cast<QWidget&>(*box.view()); }
 
-void typeInto(FormWindow& window, std::u32string_view characters) {
-    for (const char32_t character : characters) window.press(strokeFor(character));
-}
-
 }  // namespace kel::test

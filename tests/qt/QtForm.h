@@ -53,6 +53,4 @@ TextEntry& boxOf(PlacedControl& control);
 /// The Qt widget behind a box.
 QWidget& widgetOf(TextEntry& box);
 
-void typeInto(FormWindow& window, std::u32string_view characters);
-
 }  // namespace kel::test

@@ -34,9 +34,6 @@ constexpr struct {
 } Kinds[] = {{L"empty", VT_EMPTY}, {L"null", VT_NULL}, {L"bool", VT_BOOL}, {L"short", VT_I2},
              {L"long", VT_I4},     {L"double", VT_R8}, {L"date", VT_DATE}, {L"text", VT_BSTR}};
 
-/// The system writes a date as one; here it is the number of its day.
-VARTYPE writtenAs(VARTYPE type) { return type == VT_DATE ? VARTYPE{VT_R8} : type; }
-
 }  // namespace
 
 std::wstring described(const VARIANT& value) {
@@ -45,24 +42,11 @@ std::wstring described(const VARIANT& value) {
     if (kind == std::end(Kinds)) return L"type " + std::to_wstring(value.vt);
     if (kind->type == VT_EMPTY || kind->type == VT_NULL) return kind->word;
     VARIANT plainValue = value;
-    plainValue.vt = writtenAs(value.vt);
+    // The system writes a date as one; here it is the number of its day.
+    if (value.vt == VT_DATE) plainValue.vt = VT_R8;
     Var text;
     EXPECT_CODE(VariantChangeTypeEx(&text.Value, &plainValue, LOCALE_INVARIANT, VARIANT_ALPHABOOL, VT_BSTR), S_OK);
     return std::wstring(kind->word) + L" " + std::wstring(text.Value.bstrVal, SysStringLen(text.Value.bstrVal));
-}
-
-Var variantOf(const std::wstring& description) {
-    const std::wstring word = description.substr(0, description.find(L' '));
-    const auto kind = std::find_if(std::begin(Kinds), std::end(Kinds), [&](const auto& k) { return word == k.word; });
-    EXPECT(kind != std::end(Kinds));
-    Var value;
-    value.Value.vt = kind->type;
-    if (kind->type == VT_EMPTY || kind->type == VT_NULL) return value;
-    value.Value.vt = VT_EMPTY;
-    Var text(description.substr(word.size() + 1).c_str());
-    EXPECT_CODE(VariantChangeTypeEx(&value.Value, &text.Value, LOCALE_INVARIANT, 0, writtenAs(kind->type)), S_OK);
-    value.Value.vt = kind->type;
-    return value;
 }
 
 namespace {

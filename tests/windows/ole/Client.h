@@ -113,8 +113,6 @@ public:
 /// "short 700", "long 7", "double 2.5", "bool True", "date 41348", "text abc", "null", "empty"; numbers with a point,
 /// whatever the region.
 std::wstring described(const VARIANT& value);
-/// The value that is described so.
-Var variantOf(const std::wstring& description);
 
 GUID systemGuid(const Guid& guid);
 

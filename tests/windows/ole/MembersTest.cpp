@@ -57,9 +57,8 @@ public:
     }
     void hearEvents() { adviseEvents(Control.get(), &Sink, classOf(Control.get())); }
 
-    void put(const wchar_t* name, const wchar_t* value) const {
-        const Var given = variantOf(value);
-        EXPECT_CODE(kel::tests::put(Control.get(), name, given.Value), S_OK);
+    void put(const wchar_t* name, const Var& value) const {
+        EXPECT_CODE(kel::tests::put(Control.get(), name, value.Value), S_OK);
     }
     std::wstring get(const wchar_t* name) const { return late(Control.get(), name); }
     void call(const wchar_t* name, std::vector<VARIANT> arguments = {}) const {
@@ -142,8 +141,8 @@ const Deed Deeds[] = {
 class Ready : public Placed {
 public:
     explicit Ready(const Deed& deed) : Placed(deed.className) {
-        if (deed.act == &spinUp) put(L"UpDown", L"bool True");
-        if (deed.act == &pickLast) put(L"List", L"text Apple,Plum");
+        if (deed.act == &spinUp) put(L"UpDown", Var(1L));
+        if (deed.act == &pickLast) put(L"List", Var(L"Apple,Plum"));
         hearEvents();
         show();
     }
