@@ -128,8 +128,8 @@ public:
     /// nullptr: nowhere.
     virtual PlacedControl* focused() const = 0;
 
-    /// Writes a picture of the window. False when the home has no pictures or the file cannot be written.
-    virtual bool savePicture(const std::string& utf8Path) = 0;
+    /// Of the window, as the bytes of a PNG file; empty where the home has none.
+    virtual std::string picture() = 0;
 };
 
 struct WindowSpec {

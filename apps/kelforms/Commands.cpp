@@ -1,13 +1,14 @@
 #include "apps/kelforms/Commands.h"
 
 #include <algorithm>
-#include <fstream>
 #include <iostream>
 #include <iterator>
 
 #include "apps/kelforms/Homes.h"
 #include "controls/Classes.h"
 #include "forms/Describe.h"
+#include "forms/file/FileWriter.h"
+#include "forms/file/FormStore.h"
 #include "forms/play/Player.h"
 #include "values/Calendar.h"
 #include "values/Text.h"
@@ -18,15 +19,13 @@ namespace {
 
 std::string readAll(const std::string& path) {
     if (path == "-") return {std::istreambuf_iterator<char>(std::cin), {}};
-    std::ifstream file(path, std::ios::binary);
-    if (!file) throw UsageError(path + ": the file cannot be read");
-    return {std::istreambuf_iterator<char>(file), {}};
+    return readWholeFile(pathOf(path));
 }
 
-void writeAll(const std::string& path, const std::string& bytes) {
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    file << bytes;
-    if (!file.flush()) throw UsageError(path + ": the file cannot be written");
+void writePicture(FormWindow& window, const std::string& path) {
+    std::string picture = window.picture();
+    if (picture.empty()) throw UsageError("there are no pictures on this home, so none for " + path);
+    writeFile(pathOf(path), std::move(picture));
 }
 
 void setClock(PlaySystem& system, const Options& options) {
@@ -38,7 +37,7 @@ void setClock(PlaySystem& system, const Options& options) {
 bool compare(const Script& script, const ScriptCommand& command, const std::vector<std::string>& printed) {
     const std::vector<std::string> expected = script.expected(command);
     if (printed == expected) return true;
-    std::cout << script.file << ":" << command.line << ": " << script.lines[command.line - 1] << "\n";
+    std::cout << script.file << ":" << command.line << ": " << script.lines[command.line - 1].text << "\n";
     for (const std::string& line : expected) std::cout << "  wanted  " << line << "\n";
     for (const std::string& line : printed) std::cout << "  printed " << line << "\n";
     if (printed.empty()) std::cout << "  printed nothing\n";
@@ -60,14 +59,13 @@ ExitStatus playScript(const Options& options) {
         if (options.check || options.update) continue;
         for (const std::string& line : printed.back()) std::cout << line << "\n";
     }
-    if (!options.shot.empty() && !player.form().window().savePicture(options.shot))
-        throw UsageError("--shot: no picture can be written to " + options.shot + " on " + options.on);
+    if (!options.shot.empty()) writePicture(player.form().window(), options.shot);
     if (!options.used.empty()) {
         std::string used;
         for (const std::string& line : player.used()) used += line + "\n";
-        writeAll(options.used, used);
+        writeFile(pathOf(options.used), std::move(used));
     }
-    if (options.update) writeAll(scriptFile, writeScript(script, printed));
+    if (options.update) writeFile(pathOf(scriptFile), writeScript(script, printed));
     return same ? Done : Differed;
 }
 
@@ -86,8 +84,7 @@ ExitStatus shootForm(const Options& options) {
     SilentObserver observer;
     Form form(session->home(), session->home().system(), observer, readFormFile(options.files[0]));
     form.show();
-    if (!form.window().savePicture(options.files[1]))
-        throw UsageError(options.files[1] + ": the picture cannot be written");
+    writePicture(form.window(), options.files[1]);
     return Done;
 }
 

@@ -8,10 +8,12 @@ int main(int argc, char** argv) {
     const std::vector<std::string> arguments(argv + 1, argv + argc);
     if (!arguments.empty() && (arguments[0] == "--help" || arguments[0] == "-h" || arguments[0] == "help")) {
         std::cout << Usage;
-        return Done;
+        return std::cout.flush() ? Done : Wrong;
     }
     try {
-        return runCommand(readOptions(arguments));
+        const ExitStatus status = runCommand(readOptions(arguments));
+        if (!std::cout.flush()) throw std::runtime_error("kelforms: the standard output cannot be written");
+        return status;
     } catch (const UsageError& error) {
         std::cerr << "kelforms: " << error.what() << "\n\n" << Usage;
     } catch (const std::exception& error) {

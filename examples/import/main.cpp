@@ -134,6 +134,7 @@ int main(int count, char** arguments) try {
     form.setList(words.size() > 2 ? words[2].toStdString() : sampleList());
     if (words.size() > 3 && words[3] == "--at-once") {
         report(form.work());
+        if (!std::cout.flush()) throw std::runtime_error("import: the standard output cannot be written");
         return 0;
     }
     return QApplication::exec();

@@ -5,7 +5,6 @@
 
 #include "forms/file/FormError.h"
 #include "forms/file/FormStore.h"
-#include "forms/file/FormText.h"
 
 namespace kel {
 
@@ -67,17 +66,26 @@ void appendNumber(std::string& bytes, std::uint32_t number, int size) {
 
 }  // namespace
 
-std::optional<fs::path> findResource(const fs::path& folder, const std::string& utf8Name) {
+void ResourceFolder::readNames() const {
+    std::error_code fault;
+    const fs::path folder = Folder_.empty() ? fs::path(".") : Folder_;
+    const fs::file_time_type changed = fs::last_write_time(folder, fault);
+    if (fault || changed == ReadAt_) return;
+    ReadAt_ = changed;
+    Names_.clear();
+    for (fs::directory_iterator entry(folder, fault), end; !fault && entry != end; entry.increment(fault))
+        if (std::error_code ignored; entry->is_regular_file(ignored))
+            Names_.emplace(utf8Of(entry->path().filename()), Folder_ / entry->path().filename());
+}
+
+std::optional<fs::path> ResourceFolder::find(const std::string& utf8Name) const {
     if (!isPlainName(utf8Name)) return std::nullopt;
     std::error_code ignored;
-    const fs::path exact = folder / pathOf(utf8Name);
+    const fs::path exact = Folder_ / pathOf(utf8Name);
     if (fs::is_regular_file(exact, ignored)) return exact;
-    for (fs::directory_iterator entry(folder.empty() ? fs::path(".") : folder, ignored), end; !ignored && entry != end;
-         entry.increment(ignored)) {
-        if (equalsIgnoringAsciiCase(utf8Of(entry->path().filename()), utf8Name) && entry->is_regular_file(ignored))
-            return entry->path();
-    }
-    return std::nullopt;
+    readNames();
+    const auto found = Names_.find(utf8Name);
+    return found == Names_.end() ? std::nullopt : std::optional(found->second);
 }
 
 std::string readTextRecord(const fs::path& file, std::uint32_t offset) { return RecordReader(file, offset).read(); }

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "forms/file/FormEncoding.h"
+#include "forms/file/FormFrx.h"
 #include "forms/file/FormText.h"
 #include "forms/file/FormValue.h"
 #include "values/Variant.h"
@@ -82,6 +83,7 @@ struct FormModel {
     };
 
     std::string path;
+    std::shared_ptr<const ResourceFolder> resources;  ///< beside the file
     std::shared_ptr<const std::string> bytes;
     FormEncoding encoding = FormEncoding::Ascii;
     std::size_t markLength = 0;  ///< of a byte order mark

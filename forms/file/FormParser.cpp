@@ -28,6 +28,7 @@ class FormParser {
 public:
     FormParser(std::string bytes, const std::string& path) {
         Model_.path = path;
+        Model_.resources = std::make_shared<ResourceFolder>(pathOf(path).parent_path());
         Model_.bytes = std::make_shared<const std::string>(std::move(bytes));
         Rest_ = *Model_.bytes;
     }

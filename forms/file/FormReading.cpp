@@ -1,8 +1,6 @@
 #include "forms/file/FormReading.h"
 
 #include "forms/file/FormError.h"
-#include "forms/file/FormFrx.h"
-#include "forms/file/FormStore.h"
 #include "values/Text.h"
 
 namespace kel {
@@ -48,7 +46,7 @@ std::optional<FormReference> referenceAt(const FormModel& model, FormModel::Line
 
 std::string readReferencedText(const FormModel& model, const FormReference& reference) {
     const std::string name = toUtf8(reference.file);
-    const auto file = findResource(pathOf(model.path).parent_path(), name);
+    const auto file = model.resources->find(name);
     if (!file) throw FormFault{name + " is not there"};
     try {
         return readTextRecord(*file, reference.offset);

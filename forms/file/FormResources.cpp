@@ -1,5 +1,6 @@
 #include "forms/file/FormResources.h"
 
+#include "forms/file/FileWriter.h"
 #include "forms/file/FormError.h"
 #include "forms/file/FormFrx.h"
 #include "forms/file/FormReading.h"
@@ -10,18 +11,24 @@ namespace kel {
 
 namespace {
 
-std::u16string ownNameFor(const std::filesystem::path& form) {
-    return fromUtf8(utf8Of(form.stem())).value_or(std::u16string()) + u".frx";
+/// The name of a file as a text. One that is no UTF-8 is taken for one of the older systems.
+std::u16string textOf(const std::filesystem::path& name) {
+    const std::string bytes = utf8Of(name);
+    const auto text = fromUtf8(bytes);
+    return text ? *text : fromWindows1252(bytes);
 }
 
 }  // namespace
 
+std::u16string resourceNameOf(const std::filesystem::path& form) { return textOf(form.stem()) + u".frx"; }
+
 FormResources::FormResources(const FormModel& model, const std::string& path)
     : Model_(model),
-      SourceFolder_(pathOf(model.path).parent_path()),
+      Path_(path),
       Folder_(pathOf(path).parent_path()),
-      SameFolder_(isSameFolder(SourceFolder_, Folder_)),
-      OwnName_(ownNameFor(pathOf(path))) {
+      PassedOn_(isStream(pathOf(path))),
+      SameFolder_(isSameFolder(Model_.resources->path(), Folder_.path())),
+      OwnName_(resourceNameOf(pathOf(path))) {
     collectNames();
     const auto named = Names_.find(OwnName_);
     if (named != Names_.end()) OwnName_ = *named;
@@ -34,6 +41,7 @@ void FormResources::collectNames() {
 }
 
 std::uint32_t FormResources::addText(std::string_view bytes) {
+    if (PassedOn_) throw FormError(Path_, 0, "has no place beside it for the file that the form's texts need");
     if (!Own_) Own_ = readOwn();
     const std::string record = makeTextRecord(bytes);
     // A text saved before is found again, so that saving twice adds nothing.
@@ -47,15 +55,16 @@ std::uint32_t FormResources::addText(std::string_view bytes) {
 
 std::string FormResources::readOwn() const {
     const bool isNamed = Names_.contains(OwnName_);
-    const auto& folder = isNamed ? SourceFolder_ : Folder_;
-    const auto file = findResource(folder, toUtf8(OwnName_));
+    const ResourceFolder& folder = isNamed ? *Model_.resources : Folder_;
+    const auto file = folder.find(toUtf8(OwnName_));
     if (file) return readWholeFile(*file);
     if (!isNamed) return {};
-    throw FormError(utf8Of(folder / pathOf(toUtf8(OwnName_))), 0, "is not there, so no text can be added to it");
+    throw FormError(utf8Of(folder.path() / pathOf(toUtf8(OwnName_))), 0, "is not there, so no text can be added to it");
 }
 
 std::vector<FormResource> FormResources::take() {
     std::vector<FormResource> resources;
+    if (PassedOn_) return resources;
     for (const std::u16string& name : Names_) {
         if (SameFolder_ || (Own_ && name == OwnName_)) continue;
         if (auto copy = copyOf(name)) resources.push_back(*std::move(copy));
@@ -65,7 +74,7 @@ std::vector<FormResource> FormResources::take() {
 }
 
 std::optional<FormResource> FormResources::copyOf(const std::u16string& name) const {
-    const auto file = findResource(SourceFolder_, toUtf8(name));
+    const auto file = Model_.resources->find(toUtf8(name));
     if (!file) return std::nullopt;
     return FormResource{toUtf8(name), readWholeFile(*file)};
 }

@@ -16,6 +16,9 @@ struct FormResource {
     std::string bytes;
 };
 
+/// The name of a form's own resource file: "orders.frx" for "orders.frm".
+std::u16string resourceNameOf(const std::filesystem::path& form);
+
 /// The resource files of a form that is being written to some place: those it names, which go where it goes,
 /// and its own, NAME.frx, which takes the texts that the form cannot hold. Existing records stay where they
 /// are, so that no reference to them breaks.
@@ -28,7 +31,8 @@ public:
     const std::u16string& ownName() const { return OwnName_; }
 
     /// Adds a text to the form's own file and gives its offset there. Throws FormError when the file is named by
-    /// the form and is not there, since old references would then point into the wrong file.
+    /// the form and is not there, since old references would then point into the wrong file, and when the form goes
+    /// where no file can stand beside it.
     std::uint32_t addText(std::string_view bytes);
 
     /// The files that must stand beside the written form and may not yet. Throws FormError.
@@ -40,8 +44,9 @@ private:
     std::optional<FormResource> copyOf(const std::u16string& name) const;
 
     const FormModel& Model_;
-    std::filesystem::path SourceFolder_;
-    std::filesystem::path Folder_;
+    std::string Path_;
+    ResourceFolder Folder_;
+    bool PassedOn_;  ///< to a device or a pipe
     bool SameFolder_;
     std::set<std::u16string, NameOrder> Names_;  ///< as the form spells them
     std::u16string OwnName_;

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
-#include <random>
-#include <utility>
 
 #include "forms/file/FormError.h"
 
@@ -13,59 +11,6 @@ namespace kel {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// A new file beside `target` that disappears again unless it takes the target's place.
-class PendingFile {
-public:
-    explicit PendingFile(const FileToWrite& file) : Target_(targetOf(file.path)), Pending_(nameBeside(Target_)) {
-        std::error_code fault;
-        if (fs::is_directory(Target_, fault)) throw FormError(utf8Of(Target_), 0, "is a folder");
-        std::ofstream stream(Pending_, std::ios::binary | std::ios::trunc);
-        stream.write(file.bytes.data(), static_cast<std::streamsize>(file.bytes.size()));
-        stream.close();
-        if (stream) return;
-        discard();
-        throw FormError(utf8Of(Target_), 0, "cannot be written");
-    }
-    ~PendingFile() { discard(); }
-    PendingFile(const PendingFile&) = delete;
-    PendingFile& operator=(const PendingFile&) = delete;
-    PendingFile(PendingFile&& other) noexcept
-        : Target_(std::move(other.Target_)), Pending_(std::exchange(other.Pending_, {})) {}
-    PendingFile& operator=(PendingFile&&) = delete;
-
-    void takePlace() {
-        std::error_code fault;
-        const fs::file_status old = fs::status(Target_, fault);
-        if (fs::is_regular_file(old)) fs::permissions(Pending_, old.permissions(), fault);
-        fs::rename(Pending_, Target_, fault);
-        if (fault) throw FormError(utf8Of(Target_), 0, "cannot be written: " + fault.message());
-        Pending_.clear();
-    }
-
-private:
-    static fs::path targetOf(const fs::path& path) {
-        std::error_code fault;
-        if (!fs::is_symlink(path, fault)) return path;
-        const fs::path target = fs::canonical(path, fault);
-        return fault ? path : target;
-    }
-
-    static fs::path nameBeside(const fs::path& target) {
-        std::random_device random;
-        fs::path name = target;
-        name += ".new" + std::to_string(random());
-        return name;
-    }
-
-    void discard() const {
-        std::error_code ignored;
-        if (!Pending_.empty()) fs::remove(Pending_, ignored);
-    }
-
-    fs::path Target_;
-    fs::path Pending_;
-};
 
 fs::path absoluteFolder(const fs::path& folder) {
     std::error_code fault;
@@ -97,13 +42,6 @@ std::string readWholeFile(const fs::path& path) {
     if (stream.bad()) throw FormError(utf8Of(path), 0, "cannot be read");
     if (bytes.size() > LargestFile) throw FormError(utf8Of(path), 0, "is larger than 2 GB");
     return bytes;
-}
-
-void writeTogether(const std::vector<FileToWrite>& files) {
-    std::vector<PendingFile> pending;
-    pending.reserve(files.size());
-    for (const FileToWrite& file : files) pending.emplace_back(file);
-    for (PendingFile& file : pending) file.takePlace();
 }
 
 bool isSameFolder(const fs::path& left, const fs::path& right) { return absoluteFolder(left) == absoluteFolder(right); }

@@ -1,5 +1,6 @@
 #include "forms/play/Script.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -253,16 +254,17 @@ ScriptCommand readCommand(const std::string& file, std::size_t lineNumber, std::
 }
 
 void splitLines(Script& script, std::string_view text) {
-    if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
+    constexpr std::string_view Mark = "\xEF\xBB\xBF";
+    if (text.starts_with(Mark)) {
+        script.mark = Mark;
+        text.remove_prefix(Mark.size());
+    }
     while (!text.empty()) {
-        const std::size_t end = text.find('\n');
-        std::string_view line = text.substr(0, end);
-        if (line.ends_with('\r')) {
-            line.remove_suffix(1);
-            script.crlf = true;
-        }
-        script.lines.emplace_back(line);
-        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+        const std::size_t size = std::min(text.find('\n'), text.size() - 1) + 1;
+        const std::string_view whole = text.substr(0, size);
+        const std::string_view end = whole.ends_with("\r\n") ? "\r\n" : whole.ends_with('\n') ? "\n" : "";
+        script.lines.push_back({std::string(whole.substr(0, size - end.size())), std::string(end)});
+        text.remove_prefix(size);
     }
 }
 
@@ -275,7 +277,7 @@ Script readScript(const std::string& file, std::string_view utf8) {
     script.file = file;
     splitLines(script, utf8);
     for (std::size_t i = 0; i < script.lines.size(); ++i) {
-        const std::string& line = script.lines[i];
+        const std::string& line = script.lines[i].text;
         const auto text = fromUtf8(line);
         if (!text) throw ScriptError(file, i + 1, "the line is not valid UTF-8");
         if (isExpectation(line)) {
@@ -299,19 +301,28 @@ Script readScript(const std::string& file, std::string_view utf8) {
 std::vector<std::string> Script::expected(const ScriptCommand& command) const {
     std::vector<std::string> texts;
     for (std::size_t i = command.expectedFrom; i < command.expectedTo; ++i)
-        texts.push_back(lines[i].size() > ExpectedMark.size() ? lines[i].substr(ExpectedMark.size()) : std::string());
+        texts.push_back(lines[i].text.substr(std::min(lines[i].text.size(), ExpectedMark.size())));
     return texts;
 }
 
 std::string writeScript(const Script& script, const std::vector<std::vector<std::string>>& printed) {
-    const std::string_view lineEnd = script.crlf ? "\r\n" : "\n";
-    std::string text;
+    const auto endOf = [&script](std::size_t line) -> std::string_view {
+        if (!script.lines[line].end.empty()) return script.lines[line].end;
+        return line > 0 ? script.lines[line - 1].end : "\n";
+    };
+    std::string text = script.mark;
     std::size_t next = 0;
     for (std::size_t i = 0; i < script.lines.size(); ++i) {
-        if (isExpectation(script.lines[i])) continue;
-        text.append(script.lines[i]).append(lineEnd);
-        if (next == script.commands.size() || script.commands[next].line != i + 1) continue;
-        for (const std::string& line : printed[next]) text.append(ExpectedMark).append(line).append(lineEnd);
+        if (isExpectation(script.lines[i].text)) continue;
+        const bool isCommand = next < script.commands.size() && script.commands[next].line == i + 1;
+        const bool isLast = !isCommand || printed[next].empty();
+        text.append(script.lines[i].text).append(isLast ? script.lines[i].end : endOf(i));
+        if (!isCommand) continue;
+        std::size_t expected = script.commands[next].expectedFrom;
+        for (const std::string& line : printed[next]) {
+            const bool stood = expected < script.commands[next].expectedTo;
+            text.append(ExpectedMark).append(line).append(endOf(stood ? expected++ : i));
+        }
         ++next;
     }
     return text;

@@ -64,12 +64,17 @@ struct ScriptCommand {
     std::size_t expectedTo = 0;
 };
 
-/// A whole script. `lines` are its lines without their ends.
+/// A whole script.
 struct Script {
+    struct Line {
+        std::string text;
+        std::string end;  ///< LF, CR LF, or nothing at the end of the file
+    };
+
     std::string file;
-    std::vector<std::string> lines;
+    std::string mark;  ///< a byte order mark, if one stands in front
+    std::vector<Line> lines;
     std::vector<ScriptCommand> commands;
-    bool crlf = false;  ///< lines end with CR LF
 
     /// What the command must print.
     std::vector<std::string> expected(const ScriptCommand& command) const;
@@ -78,7 +83,8 @@ struct Script {
 /// Reads a script; throws ScriptError at the first line that is not well-formed.
 Script readScript(const std::string& file, std::string_view utf8);
 
-/// The script with each command's `> ` lines replaced by what it printed; `printed` has an entry a command.
+/// The script with each command's `> ` lines replaced by what it printed; `printed` has an entry a command. All else
+/// stays to the byte.
 std::string writeScript(const Script& script, const std::vector<std::vector<std::string>>& printed);
 
 }  // namespace kel

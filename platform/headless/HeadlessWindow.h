@@ -30,7 +30,7 @@ public:
     void pick(PlacedControl& control, std::int32_t item) override;
     void setClipboard(std::u16string_view text) override { Input_.Clipboard.assign(text); }
     PlacedControl* focused() const override;
-    bool savePicture(const std::string& /*utf8Path*/) override { return false; }
+    std::string picture() override { return {}; }
 
     // ---- Further hands, which scripts do not have
 

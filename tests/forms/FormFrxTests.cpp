@@ -103,6 +103,18 @@ TEST(FormFrx, SavingElsewhereTakesTheResourceFilesAlong) {
     EXPECT_EQ(readBytes(folder.file("other/orders.frx")), frx);
 }
 
+TEST(FormFrx, ANameThatIsNoUtf8HasItsResourceFileToo) {
+    const TemporaryFolder folder;
+    FormFile form = FormFile::parse(formWith(""), folder.file("Gr\xF6\xDF"
+                                                              "e.frm"));
+    for (const char16_t* const text : {u"one\n", u"two\n"}) {
+        form.set(1, u"Text", std::u16string(text));
+        form.save(form.path());
+        EXPECT_EQ(readFormFile(form.path()).text(1, u"Text"), text);
+        EXPECT_TRUE(std::filesystem::exists(folder.file("Gr\u00F6\u00DFe.frx")));
+    }
+}
+
 TEST(FormFrx, AResourceFileOfAnotherFormIsNeverReplaced) {
     const TemporaryFolder folder;
     folder.write("orders.frx", readBytes(sampleFile("orders.frx")));
@@ -160,7 +172,7 @@ TEST(FormFrx, AFileThatCannotBeWrittenIsNamedAndLeavesNothing) {
     FormFile form = parseWith("");
     form.set(1, u"Text", std::u16string(u"\n"));
     EXPECT_EQ(errorOf([&] { form.save(folder.file("none/a.frm")); }),
-              folder.file("none/a.frx") + ": cannot be written");
+              folder.file("none/a.frx") + ": cannot be written: No such file or directory");
     std::filesystem::create_directories(folder.file("b.frm"));
     EXPECT_EQ(errorOf([&] { form.save(folder.file("b.frm")); }), folder.file("b.frm") + ": is a folder");
     EXPECT_EQ(folder.count(), 0);

@@ -32,7 +32,7 @@ public:
     void pick(PlacedControl& control, std::int32_t item) override;
     void setClipboard(std::u16string_view text) override;
     PlacedControl* focused() const override;
-    bool savePicture(const std::string& utf8Path) override;
+    std::string picture() override;
 
 private:
     struct Caption {

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QBuffer>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QMouseEvent>
@@ -167,9 +168,11 @@ PlacedControl* QtFormWindow::focused() const {
     return nullptr;
 }
 
-bool QtFormWindow::savePicture(const std::string& utf8Path) {
+std::string QtFormWindow::picture() {
     settle();
-    return Window_->grab().save(QString::fromStdString(utf8Path), "PNG");
+    QBuffer png;
+    Window_->grab().save(&png, "PNG");
+    return png.data().toStdString();
 }
 
 }  // namespace kel::qt

@@ -3,8 +3,6 @@
 #include "platform/win32/base/AtEnd.h"
 #include "platform/win32/base/ComPtr.h"
 #include "platform/win32/base/Gdi.h"
-#include "platform/win32/base/WideText.h"
-#include "values/Text.h"
 
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
@@ -30,7 +28,17 @@ HBITMAP bitmapOf(HWND window) {
     return bitmap;
 }
 
-bool writePng(HBITMAP bitmap, const wchar_t* path) {
+/// All that was written to a stream in memory.
+std::string bytesOf(IStream* stream) {
+    HGLOBAL memory = nullptr;
+    STATSTG size{};
+    if (FAILED(GetHGlobalFromStream(stream, &memory)) || FAILED(stream->Stat(&size, STATFLAG_NONAME))) return {};
+    std::string bytes(static_cast<const char*>(GlobalLock(memory)), static_cast<std::size_t>(size.cbSize.QuadPart));
+    GlobalUnlock(memory);
+    return bytes;
+}
+
+std::string toPng(HBITMAP bitmap) {
     const HRESULT begun = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
     const AtEnd end([begun] {
         if (SUCCEEDED(begun)) CoUninitialize();
@@ -38,32 +46,32 @@ bool writePng(HBITMAP bitmap, const wchar_t* path) {
     ComPtr<IWICImagingFactory> factory;
     if (FAILED(CoCreateInstance(CLSID_WICImagingFactory, nullptr, CLSCTX_INPROC_SERVER, IID_IWICImagingFactory,
                                 factory.receiveVoid())))
-        return false;
+        return {};
     ComPtr<IWICBitmap> picture;
     ComPtr<IWICBitmapSource> pixels;
-    ComPtr<IWICStream> stream;
+    ComPtr<IStream> stream;
     ComPtr<IWICBitmapEncoder> encoder;
     ComPtr<IWICBitmapFrameEncode> frame;
     const auto done = [](HRESULT result) { return SUCCEEDED(result); };
-    return done(factory->CreateBitmapFromHBITMAP(bitmap, nullptr, WICBitmapIgnoreAlpha, picture.receive())) &&
-           done(WICConvertBitmapSource(GUID_WICPixelFormat24bppBGR, picture.get(), pixels.receive())) &&
-           done(factory->CreateStream(stream.receive())) && done(stream->InitializeFromFilename(path, GENERIC_WRITE)) &&
-           done(factory->CreateEncoder(GUID_ContainerFormatPng, nullptr, encoder.receive())) &&
-           done(encoder->Initialize(stream.get(), WICBitmapEncoderNoCache)) &&
-           done(encoder->CreateNewFrame(frame.receive(), nullptr)) && done(frame->Initialize(nullptr)) &&
-           done(frame->WriteSource(pixels.get(), nullptr)) && done(frame->Commit()) && done(encoder->Commit());
+    const bool written =
+        done(factory->CreateBitmapFromHBITMAP(bitmap, nullptr, WICBitmapIgnoreAlpha, picture.receive())) &&
+        done(WICConvertBitmapSource(GUID_WICPixelFormat24bppBGR, picture.get(), pixels.receive())) &&
+        done(CreateStreamOnHGlobal(nullptr, TRUE, stream.receive())) &&
+        done(factory->CreateEncoder(GUID_ContainerFormatPng, nullptr, encoder.receive())) &&
+        done(encoder->Initialize(stream.get(), WICBitmapEncoderNoCache)) &&
+        done(encoder->CreateNewFrame(frame.receive(), nullptr)) && done(frame->Initialize(nullptr)) &&
+        done(frame->WriteSource(pixels.get(), nullptr)) && done(frame->Commit()) && done(encoder->Commit());
+    return written ? bytesOf(stream.get()) : std::string();
 }
 
 }  // namespace
 
-bool savePictureOf(HWND window, const std::string& utf8Path) {
-    const auto path = fromUtf8(utf8Path);
-    if (!path) return false;
+std::string pictureOf(HWND window) {
     RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
     GdiFlush();
     HBITMAP const bitmap = bitmapOf(window);
     const AtEnd drop([bitmap] { DeleteObject(bitmap); });
-    return writePng(bitmap, wide(*path).c_str());
+    return toPng(bitmap);
 }
 
 }  // namespace kel::win32

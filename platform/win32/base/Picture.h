@@ -6,7 +6,7 @@
 
 namespace kel::win32 {
 
-/// Writes what `window` shows inside its frame as a PNG file. False when that cannot be done.
-bool savePictureOf(HWND window, const std::string& utf8Path);
+/// What `window` shows inside its frame, as the bytes of a PNG file; empty when that cannot be had.
+std::string pictureOf(HWND window);
 
 }  // namespace kel::win32

@@ -190,9 +190,9 @@ void Win32FormWindow::setClipboard(std::u16string_view text) { Session_.clipboar
 
 PlacedControl* Win32FormWindow::focused() const { return focusedControl(); }
 
-bool Win32FormWindow::savePicture(const std::string& utf8Path) {
+std::string Win32FormWindow::picture() {
     activate();
-    return savePictureOf(Window_, utf8Path);
+    return pictureOf(Window_);
 }
 
 }  // namespace kel::win32
