@@ -1,9 +1,9 @@
 #include "forms/Form.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "controls/Classes.h"
-#include "forms/file/FormBag.h"
 #include "values/Text.h"
 
 namespace kel {
@@ -128,6 +128,14 @@ void Form::writeExtender(const Entry& entry, FormFile& file) const {
     setIfDifferent(file, entry.block, u"Height", entry.bounds.height, now.height);
     const std::u16string toolTipText = entry.control->toolTipText();
     if (toolTipText != entry.toolTipText) file.set(entry.block, u"ToolTipText", toolTipText);
+}
+
+std::vector<ControlBag::Deviation> Form::deviations(FormBlockId block) const {
+    const auto entry = std::find_if(Entries_.begin(), Entries_.end(), [&](const Entry& e) { return e.block == block; });
+    if (entry == Entries_.end()) return {};
+    ControlBag bag(File_, block);
+    entry->control->control().WriteProperties(bag);
+    return bag.deviations();
 }
 
 void Form::save(const std::string& path) const {

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "forms/file/FormBag.h"
 #include "forms/file/FormFile.h"
 #include "forms/Home.h"
 
@@ -25,6 +26,9 @@ public:
 
     /// By its name, case ignored; an element of a control array is "name(index)". nullptr: there is none.
     PlacedControl* find(std::u16string_view name) const;
+
+    /// What the control of a block gives back otherwise than it stands in the file. A block without a control has none.
+    std::vector<ControlBag::Deviation> deviations(FormBlockId block) const;
 
     /// Writes the form with its controls' properties as they are now; what did not change stands as it was.
     /// Throws FormError when it cannot.

@@ -22,6 +22,9 @@ public:
     /// `item` is none of this list's own texts.
     void add(std::u16string_view item);
 
+    /// The same items in the same order.
+    bool operator==(const ListItems& other) const { return Units_ == other.Units_ && Ends_ == other.Ends_; }
+
     std::int32_t size() const { return static_cast<std::int32_t>(Ends_.size()); }
     bool contains(std::int32_t index) const { return index >= 0 && index < size(); }
     /// Valid until an item is added. `index` counts from 0 and is below `size`.

@@ -100,6 +100,8 @@ struct PersistedRow {
     void (*load)(Object& target, const Variant& value) = nullptr;
     /// The value to save, of exactly `type`.
     Variant (*save)(const Object& target) = nullptr;
+    /// Whether two texts load as the same; nullptr: only equal ones do.
+    bool (*loadsSame)(std::u16string_view left, std::u16string_view right) = nullptr;
 };
 
 struct MemberRow {
@@ -378,6 +380,12 @@ struct PropertyRow : MemberRow {
         return row;
     }
 
+    /// A text that is another one in writing alone is no change.
+    constexpr PropertyRow sameWhere(bool (*loadsSame)(std::u16string_view, std::u16string_view)) const {
+        PropertyRow row = *this;
+        row.persisted.loadsSame = loadsSame;
+        return row;
+    }
     constexpr PropertyRow readAs(std::u16string_view otherName) const {
         PropertyRow row = *this;
         row.persisted.readName = otherName;

@@ -16,13 +16,15 @@ constexpr std::array<char16_t, 32> Windows1252Upper = {0x20AC, 0x0081, 0x201A, 0
                                                        0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                                        0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-/// The code point at `position`, which is moved after it.
+constexpr bool isHalfPair(char32_t point) { return point >= 0xD800 && point <= 0xDFFF; }
+
+/// The code point at `position`, which is moved after it; half a pair by itself is one.
 char32_t takeCodePoint(std::u16string_view text, std::size_t& position) {
     const char16_t unit = text[position++];
     if (isHighSurrogate(unit) && position < text.size() && isLowSurrogate(text[position])) {
         return 0x10000U + ((unit & 0x3FFU) << 10) + (text[position++] & 0x3FFU);
     }
-    return isHighSurrogate(unit) || isLowSurrogate(unit) ? Replacement : char32_t{unit};
+    return unit;
 }
 
 void appendUtf8(std::string& bytes, char32_t point) {
@@ -69,8 +71,7 @@ std::optional<char32_t> takeUtf8(std::string_view bytes, std::size_t& position) 
         if ((byte & 0xC0) != 0x80) return std::nullopt;
         point = (point << 6) | (byte & 0x3FU);
     }
-    const bool isSurrogate = point >= 0xD800 && point <= 0xDFFF;
-    if (point < lead.least || point > 0x10FFFF || isSurrogate) return std::nullopt;
+    if (point < lead.least || point > 0x10FFFF) return std::nullopt;
     return point;
 }
 
@@ -97,19 +98,28 @@ bool equalsIgnoringCase(std::u16string_view left, std::u16string_view right) {
                       [](char16_t a, char16_t b) { return toLowerAscii(a) == toLowerAscii(b); });
 }
 
-std::string toUtf8(std::u16string_view text) {
+bool hasHalfPair(std::u16string_view text) {
+    for (std::size_t position = 0; position < text.size();)
+        if (isHalfPair(takeCodePoint(text, position))) return true;
+    return false;
+}
+
+std::string toUtf8(std::u16string_view text, HalfPairs halves) {
     std::string bytes;
     bytes.reserve(text.size());
-    for (std::size_t position = 0; position < text.size();) appendUtf8(bytes, takeCodePoint(text, position));
+    for (std::size_t position = 0; position < text.size();) {
+        const char32_t point = takeCodePoint(text, position);
+        appendUtf8(bytes, isHalfPair(point) && halves == HalfPairs::Replaced ? Replacement : point);
+    }
     return bytes;
 }
 
-std::optional<std::u16string> fromUtf8(std::string_view bytes) {
+std::optional<std::u16string> fromUtf8(std::string_view bytes, HalfPairs halves) {
     std::u16string text;
     text.reserve(bytes.size());
     for (std::size_t position = 0; position < bytes.size();) {
         const std::optional<char32_t> point = takeUtf8(bytes, position);
-        if (!point) return std::nullopt;
+        if (!point || (isHalfPair(*point) && halves == HalfPairs::Replaced)) return std::nullopt;
         appendCodePoint(text, *point);
     }
     return text;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -41,11 +42,19 @@ constexpr char16_t toLowerAscii(char16_t unit) {
 /// Equality without regard to the case of ASCII letters, as member and property names are compared.
 bool equalsIgnoringCase(std::u16string_view left, std::u16string_view right);
 
-/// UTF-8 for files and terminals; a half pair becomes U+FFFD.
-std::string toUtf8(std::u16string_view text);
+/// What becomes of half a surrogate pair, which UTF-8 has no form for.
+enum class HalfPairs : std::uint8_t {
+    Replaced,  ///< written as U+FFFD, not read
+    Kept       ///< written and read as the number that it is, in three bytes; other programs take that for no UTF-8
+};
 
-/// Nothing when `bytes` is not valid UTF-8 (overlong forms and encoded surrogates included).
-std::optional<std::u16string> fromUtf8(std::string_view bytes);
+bool hasHalfPair(std::u16string_view text);
+
+/// UTF-8 for files and terminals.
+std::string toUtf8(std::u16string_view text, HalfPairs halves = HalfPairs::Replaced);
+
+/// Nothing when `bytes` is not valid UTF-8 (overlong forms included).
+std::optional<std::u16string> fromUtf8(std::string_view bytes, HalfPairs halves = HalfPairs::Replaced);
 
 /// Windows-1252, as classic form files use; the five bytes without a character map to C1 controls.
 std::u16string fromWindows1252(std::string_view bytes);

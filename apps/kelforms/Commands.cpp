@@ -125,13 +125,28 @@ void printBlock(const FormFile& file, FormBlockId id) {
                       << " is no property of " << toUtf8(model->name) << "; it is kept as it is\n";
 }
 
+/// What would come back otherwise when the form is saved, or is taken only in part.
+void printDeviations(const Form& form, FormBlockId id) {
+    constexpr std::size_t LongestShown = 40;
+    for (const ControlBag::Deviation& deviation : form.deviations(id)) {
+        const std::u16string_view shown = headOf(deviation.value, LongestShown);
+        std::cout << deviation.line << ": " << toUtf8(deviation.name)
+                  << (deviation.isKept ? " is not taken as it stands, but kept so: the control has "
+                                       : " comes in otherwise, and is saved so: ")
+                  << toUtf8(shown) << (shown.size() < deviation.value.size() ? "..." : "") << "\n";
+    }
+}
+
 ExitStatus checkForm(const Options& options) {
     const FormFile file = readFormFile(options.files[0]);
     const auto session = openHome("headless", options.home, false);
     SilentObserver observer;
     // Loading is what finds wrong classes and values.
     const Form form(session->home(), session->home().system(), observer, file);
-    for (FormBlockId id = 0; id < file.blocks().size(); ++id) printBlock(file, id);
+    for (FormBlockId id = 0; id < file.blocks().size(); ++id) {
+        printBlock(file, id);
+        printDeviations(form, id);
+    }
     return Done;
 }
 

@@ -145,10 +145,15 @@ void KelCombo::settleText() const {
     Typing_ = false;
     if (Combo1_.textLength() != 0)
         showText(Combo1_.text());
-    else if (Field_.get_Mandatory() &&
-             (!LimitToList_ || Combo1_.items().findExact(TextOriginal_) != ListItems::NotFound))
-        Combo1_.setText(TextOriginal_);
+    else if (Field_.get_Mandatory())
+        bringBackOriginal();
     Combo1_.setSelStart(0);
+}
+
+/// The reference may be a text from before only items could stand; such a one stays away.
+void KelCombo::bringBackOriginal() const {
+    const bool mayStand = !LimitToList_ || Combo1_.items().findExact(TextOriginal_) != ListItems::NotFound;
+    Combo1_.setText(mayStand ? TextOriginal_ : std::u16string());
 }
 
 void KelCombo::put_LimitToList(bool limit) {
@@ -210,7 +215,7 @@ void KelCombo::completeTyping() {
         Combo1_.setListIndex(item);
         selectFrom(caret);
     } else if (LimitToList_) {
-        Combo1_.setText(TextOriginal_);
+        bringBackOriginal();
         selectFrom(caret > 0 ? caret - 1 : 0);
     }
 }

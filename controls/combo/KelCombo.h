@@ -71,6 +71,7 @@ private:
     bool selectEqual(const std::u16string& text) const;
     void showText(const std::u16string& text) const;
     void settleText() const;
+    void bringBackOriginal() const;
     void completeTyping();
     void selectFrom(std::int32_t caret);
     bool hostWantsChange();

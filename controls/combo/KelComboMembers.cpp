@@ -1,9 +1,13 @@
 #include "common/EntryMembers.h"
 #include "controls/combo/KelCombo.h"
+#include "controls/combo/ListText.h"
 
 namespace kel {
 
 namespace {
+
+/// The same items however they are quoted, as far as a combo takes them.
+bool isSameList(std::u16string_view left, std::u16string_view right) { return listItemsOf(left) == listItemsOf(right); }
 
 constexpr MemberRow Members[] = {
     entry::caption(0x68030013),
@@ -21,7 +25,8 @@ constexpr MemberRow Members[] = {
         .saved(true),
     property<&KelCombo::get_List, &KelCombo::put_List>(
         u"List", 0x6803000C, u"The items, separated by commas; items with commas or quotes stand in double quotes")
-        .saved(u""),
+        .saved(u"")
+        .sameWhere(&isSameList),
     property<&KelCombo::get_ListCount>(u"ListCount", 0x6803000B, u"Count of the items"),
     property<&KelCombo::get_ListIndex, &KelCombo::put_ListIndex>(
         u"ListIndex", 0x6803000A, u"The item that is the text, counted from 1; -1 for none or without LimitToList")

@@ -23,6 +23,15 @@ public:
     /// says the same in another way stays as it is. A property that equals its default loses its line.
     void applyTo(FormFile& file, FormBlockId block) const;
 
+    /// The properties of the block that the control gives back otherwise than they stand there.
+    struct Deviation {
+        std::size_t line = 0;
+        std::u16string_view name;
+        std::u16string value;  ///< as it would be written
+        bool isKept = false;   ///< saving leaves the line as it is
+    };
+    std::vector<Deviation> deviations() const;
+
 private:
     struct Written {
         PersistedRow row;

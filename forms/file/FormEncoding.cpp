@@ -46,7 +46,7 @@ std::string transcode(std::string_view bytes, FormEncoding from, FormEncoding to
 
 std::u16string decodeRecord(std::string_view bytes, FormEncoding form) {
     if (form != FormEncoding::Windows1252) {
-        if (auto text = fromUtf8(bytes)) return *std::move(text);
+        if (auto text = fromUtf8(bytes, HalfPairs::Kept)) return *std::move(text);
     }
     return fromWindows1252(bytes);
 }
@@ -54,8 +54,8 @@ std::u16string decodeRecord(std::string_view bytes, FormEncoding form) {
 std::optional<std::string> encodeRecord(std::u16string_view text, FormEncoding form) {
     std::optional<std::string> classic = toWindows1252(text);
     if (form == FormEncoding::Windows1252) return classic;
-    const bool readsBack = classic && form == FormEncoding::Ascii && detectEncoding(*classic) != FormEncoding::Utf8;
-    return readsBack ? classic : toUtf8(text);
+    const bool readsBack = classic && form == FormEncoding::Ascii && decodeRecord(*classic, form) == text;
+    return readsBack ? classic : toUtf8(text, HalfPairs::Kept);
 }
 
 }  // namespace kel

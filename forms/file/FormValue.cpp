@@ -130,7 +130,7 @@ std::u16string writeFormVariant(const Variant& value) {
 
 bool needsRecord(std::u16string_view text) {
     const auto isControl = [](char16_t unit) { return unit < u' ' || unit == 0x7F; };
-    return text.size() > LongestInlineText || std::any_of(text.begin(), text.end(), isControl);
+    return text.size() > LongestInlineText || std::any_of(text.begin(), text.end(), isControl) || hasHalfPair(text);
 }
 
 std::optional<Variant> convertFormValue(const FormValue& value, TypeTag type) {

@@ -103,6 +103,18 @@ TEST(FormFrx, SavingElsewhereTakesTheResourceFilesAlong) {
     EXPECT_EQ(readBytes(folder.file("other/orders.frx")), frx);
 }
 
+TEST(FormFrx, HalfAPairComesBack) {
+    const TemporaryFolder folder;
+    for (const char* const caption : {"a", "\xC3\xA9", "\xE9"}) {
+        FormFile form = FormFile::parse(formWith(std::string("Caption = \"") + caption + "\"\n"), folder.file("a.frm"));
+        for (const char16_t* const text : {u"a\xD83D", u"\xDE00\xD83D\xDE00\xD83D z", u"\u00ED\u00A0\u20AC\n"}) {
+            form.set(1, u"Text", std::u16string(text));
+            form.save(form.path());
+            EXPECT_EQ(readFormFile(form.path()).text(1, u"Text"), text);
+        }
+    }
+}
+
 TEST(FormFrx, ANameThatIsNoUtf8HasItsResourceFileToo) {
     const TemporaryFolder folder;
     FormFile form = FormFile::parse(formWith(""), folder.file("Gr\xF6\xDF"
