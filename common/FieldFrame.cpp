@@ -4,12 +4,12 @@ namespace kel {
 
 void setCaptionFont(const ControlHost& host, TextualWidget& widget) {
     const auto runtime = runtimeFor(host);
-    widget.setFont(runtime->CaptionFontName(), runtime->CaptionFontSize());
+    widget.setFont(runtime->CaptionFontName(), usableFontSize(runtime->CaptionFontSize()));
 }
 
 void setFieldFont(const ControlHost& host, TextualWidget& widget) {
     const auto runtime = runtimeFor(host);
-    widget.setFont(runtime->FieldFontName(), runtime->FieldFontSize());
+    widget.setFont(runtime->FieldFontName(), usableFontSize(runtime->FieldFontSize()));
 }
 
 std::shared_ptr<Runtime> runtimeFor(const ControlHost& host) {

@@ -50,9 +50,10 @@ Placement placementOf(const FormFile& file, FormBlockId id, PlacedPanel* parent)
 }
 
 Rect lineOf(const FormFile& file, FormBlockId id) {
-    const std::int32_t left = file.integer(id, u"X1");
-    const std::int32_t top = file.integer(id, u"Y1");
-    return {left, top, file.integer(id, u"X2") - left, file.integer(id, u"Y2") - top};
+    const auto place = [&](std::u16string_view name) { return withinReach(file.integer(id, name)); };
+    const std::int32_t left = place(u"X1");
+    const std::int32_t top = place(u"Y1");
+    return {left, top, place(u"X2") - left, place(u"Y2") - top};
 }
 
 ForeignBlock foreignBlock(const FormFile& file, FormBlockId id, PlacedPanel* parent) {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "host/Geometry.h"
+
 namespace kel {
 
 /// Twips on a screen of some resolution. Edges are rounded, not lengths, so that what touches in twips touches on the
@@ -18,7 +20,10 @@ public:
         const std::int64_t below = raised < 0 ? TwipsPerPixel_ - 1 : 0;
         return static_cast<std::int32_t>((raised - below) / TwipsPerPixel_);
     }
-    std::int32_t twips(int pixels) const { return pixels * TwipsPerPixel_; }
+    std::int32_t twips(int pixels) const {
+        constexpr std::int64_t Farthest = FarthestTwips;
+        return static_cast<std::int32_t>(std::clamp(std::int64_t{pixels} * TwipsPerPixel_, -Farthest, Farthest));
+    }
 
 private:
     std::int32_t TwipsPerPixel_;

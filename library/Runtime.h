@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -24,6 +25,12 @@ public:
     /// The time of day that `text` (a text, a date or a number) stands for, or Null.
     virtual Variant ParseTime(const Variant& text) = 0;
 };
+
+/// A size in points as a host gives it, made one that a font can have; 0 stands for the usual one.
+constexpr double usableFontSize(double points) {
+    constexpr double Largest = 1638;
+    return points > 0 ? std::min(points, Largest) : 0;
+}
 
 /// The object that a host hands to the library, once for all controls: regional settings, fonts, and the
 /// moving on of the focus. Members may throw AutomationError when the host's object fails.

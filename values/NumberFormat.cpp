@@ -31,17 +31,18 @@ public:
     }
 
     std::u16string text() const {
-        std::u16string text(length(), u'\0');
+        std::u16string text(mostUnits(), u'\0');
         char16_t* pen = putWhole(put(Before_, text.data()));
         pen = put(Point_, pen);
         for (std::size_t at = 0; at < Fraction_; ++at) pen = putDigit(pen, Zero_, Digits_.fractionDigit(at));
-        put(Behind_, pen);
+        pen = put(Behind_, pen);
+        text.resize(static_cast<std::size_t>(pen - text.data()));
         return text;
     }
 
 private:
-    std::size_t length() const {
-        const std::size_t digits = (Whole_ + Fraction_) * (Zero_ > 0xFFFF ? 2 : 1);
+    std::size_t mostUnits() const {
+        const std::size_t digits = (Whole_ + Fraction_) * (Zero_ + 9 > 0xFFFF ? 2 : 1);
         return digits + Before_.size() + Point_.size() + Behind_.size() + Separators_ * Grouping_.separator().size();
     }
 

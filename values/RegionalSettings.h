@@ -39,6 +39,14 @@ struct RegionalSettings {
     friend bool operator==(const RegionalSettings&, const RegionalSettings&) = default;
 };
 
+/// `zero` where ten digits can follow one another from there, all of them characters that take up the same room; else
+/// the plain 0. For what a system says of itself, which somebody may have edited.
+constexpr char32_t zeroOfTenDigits(char32_t zero) {
+    const char32_t nine = zero + 9;
+    const bool isHalfPair = nine >= 0xD800 && zero <= 0xDFFF;
+    return nine <= 0x10FFFF && zero >> 16 == nine >> 16 && !isHalfPair ? zero : U'0';
+}
+
 /// The built-in settings of a region by its name ("en-GB", also "en_GB", case ignored);
 /// nullptr when the region is not built in.
 const RegionalSettings* findRegion(std::u16string_view name);

@@ -88,10 +88,11 @@ char32_t codePointBefore(std::u16string_view text, std::size_t position) {
     return codePointAt(text, codePointStartBefore(text, position));
 }
 
-/// Whether `position` has an odd count of flag letters in front of it, so that the next one completes a flag.
-bool isInsideFlag(std::u16string_view text, std::size_t position) {
+/// Whether `position` has an odd count of flag letters in front of it, so that the next one completes a flag. `known`
+/// is the end of some character, and no flag goes across it.
+bool isInsideFlag(std::u16string_view text, std::size_t position, std::size_t known) {
     bool odd = false;
-    while (position > 0 && isFlagLetter(codePointBefore(text, position))) {
+    while (position > known && isFlagLetter(codePointBefore(text, position))) {
         odd = !odd;
         position = codePointStartBefore(text, position);
     }
@@ -113,7 +114,7 @@ bool splitsUnit(std::u16string_view text, std::size_t position, bool multiLine) 
     return splitsPair(text, position) || (multiLine && splitsLineBreak(text, position));
 }
 
-bool splitsCharacter(std::u16string_view text, std::size_t position, bool multiLine) {
+bool splitsCharacterAfter(std::size_t known, std::u16string_view text, std::size_t position, bool multiLine) {
     if (position == 0 || position >= text.size()) return false;
     if (splitsUnit(text, position, multiLine)) return true;
     if (text[position] < FirstJoining && text[position - 1] < FirstJoining) return false;
@@ -122,8 +123,12 @@ bool splitsCharacter(std::u16string_view text, std::size_t position, bool multiL
     if (isControl(before) || isControl(after)) return false;
     if (isJoining(after) || joinsSyllable(hangulOf(before), hangulOf(after)) || joinsConjunct(before, after))
         return true;
-    if (isFlagLetter(after)) return isInsideFlag(text, position);
+    if (isFlagLetter(after)) return isInsideFlag(text, position, known);
     return before == Joiner && isIn(Pictures, after) && followsJoinedPicture(text, position);
+}
+
+bool splitsCharacter(std::u16string_view text, std::size_t position, bool multiLine) {
+    return splitsCharacterAfter(0, text, position, multiLine);
 }
 
 template <class Splits>
@@ -171,6 +176,12 @@ std::size_t skipBack(std::u16string_view text, std::size_t position, std::size_t
 
 std::size_t nextCharacter(std::u16string_view text, std::size_t position, bool multiLine) {
     return nextStop(text, position, multiLine, splitsCharacter);
+}
+
+std::size_t characterEnd(std::u16string_view text, std::size_t start, bool multiLine) {
+    return nextStop(text, start, multiLine, [start](std::u16string_view whole, std::size_t position, bool lines) {
+        return splitsCharacterAfter(start, whole, position, lines);
+    });
 }
 
 std::size_t previousCharacter(std::u16string_view text, std::size_t position, bool multiLine) {

@@ -16,6 +16,10 @@ namespace kel {
 std::size_t nextCharacter(std::u16string_view text, std::size_t position, bool multiLine);
 std::size_t previousCharacter(std::u16string_view text, std::size_t position, bool multiLine);
 
+/// The end of the character that begins at `start`: what `nextCharacter` gives there, without a look at the text in
+/// front, so that walking along a line of flags takes no longer than along letters.
+std::size_t characterEnd(std::u16string_view text, std::size_t start, bool multiLine);
+
 /// The same for code points: only the two halves of a surrogate pair belong together.
 std::size_t nextCodePoint(std::u16string_view text, std::size_t position, bool multiLine);
 std::size_t previousCodePoint(std::u16string_view text, std::size_t position, bool multiLine);

@@ -51,11 +51,12 @@ std::u16string FormFile::text(FormBlockId block, std::u16string_view name, std::
 }
 
 Rect FormFile::bounds(FormBlockId block) const {
-    return {integer(block, u"Left"), integer(block, u"Top"), integer(block, u"Width"), integer(block, u"Height")};
+    return withinReach(
+        Rect{integer(block, u"Left"), integer(block, u"Top"), integer(block, u"Width"), integer(block, u"Height")});
 }
 
 Size FormFile::clientSize(FormBlockId block) const {
-    return {integer(block, u"ClientWidth"), integer(block, u"ClientHeight")};
+    return withinReach(Size{integer(block, u"ClientWidth"), integer(block, u"ClientHeight")});
 }
 
 void FormFile::set(FormBlockId block, std::u16string_view name, const Variant& value) {

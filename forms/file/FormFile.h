@@ -42,9 +42,9 @@ public:
     bool boolean(FormBlockId block, std::u16string_view name, bool byDefault) const;
     std::u16string text(FormBlockId block, std::u16string_view name, std::u16string_view byDefault = {}) const;
 
-    /// `Left`, `Top`, `Width`, `Height`, in twips; 0 where one is missing.
+    /// `Left`, `Top`, `Width`, `Height`, in twips within reach; 0 where one is missing.
     Rect bounds(FormBlockId block) const;
-    /// `ClientWidth` and `ClientHeight`, in twips.
+    /// `ClientWidth` and `ClientHeight`, in twips within reach.
     Size clientSize(FormBlockId block) const;
 
     /// Replaces the value of a property in its line, or adds a line where such files have it. Throws FormError

@@ -34,7 +34,7 @@ public:
 Variant another(const Variant& value) {
     if (const bool* const truth = std::get_if<bool>(&value)) return !*truth;
     if (const auto* const number = std::get_if<std::int16_t>(&value)) return static_cast<std::int16_t>(*number + 1);
-    if (const auto* const number = std::get_if<std::int32_t>(&value)) return *number + 1;
+    if (const auto* const number = std::get_if<std::int32_t>(&value)) return *number - (*number == INT32_MAX ? 1 : -1);
     if (const double* const number = std::get_if<double>(&value)) return *number + 0.5;
     if (const auto* const text = std::get_if<std::u16string>(&value)) return *text + u"x";
     return Date{41334.75};
@@ -158,7 +158,7 @@ void Player::execute(const ScriptCommand& command, const std::string& scriptFile
         case Verb::Properties: printProperties(control()); break;
         case Verb::Resize: {
             const Rect old = control().bounds();
-            control().setBounds({old.left, old.top, command.numbers[0], command.numbers[1]});
+            control().setBounds(withinReach(Rect{old.left, old.top, command.numbers[0], command.numbers[1]}));
             break;
         }
         case Verb::Where: {

@@ -145,7 +145,8 @@ public:
     std::int32_t number(const char* what) {
         const std::u16string text = word(what);
         double number = 0;
-        if (!readPlainNumber(text, defaultRegion(), number) || number != static_cast<std::int32_t>(number))
+        if (!readPlainNumber(text, defaultRegion(), number) || number < INT32_MIN || number > INT32_MAX ||
+            number != static_cast<std::int32_t>(number))
             fail(std::string(what) + ": a whole number is wanted, not \"" + toUtf8(text) + "\"");
         return static_cast<std::int32_t>(number);
     }

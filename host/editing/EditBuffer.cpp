@@ -102,13 +102,13 @@ void EditBuffer::move(EditAction motion, bool extend, const TextLines& view) {
 
 std::size_t EditBuffer::columnIn(const TextLine& line, std::size_t position) const {
     std::size_t column = 0;
-    for (std::size_t at = line.start; at < position; at = nextCharacter(Text_, at, true)) ++column;
+    for (std::size_t at = line.start; at < position; at = characterEnd(Text_, at, true)) ++column;
     return column;
 }
 
 std::size_t EditBuffer::atColumn(const TextLine& line, std::size_t column) const {
     std::size_t at = line.start;
-    for (; column > 0 && at < line.end; --column) at = nextCharacter(Text_, at, true);
+    for (; column > 0 && at < line.end; --column) at = characterEnd(Text_, at, true);
     return at;
 }
 

@@ -51,8 +51,8 @@ Size TextualWidget::extentUnseen(std::size_t characters) const {
     constexpr double WidthOfPoint = 10;
     constexpr double HeightOfPoint = 24;
     const double size = Font_.size > 0 ? std::max(Font_.size, 1.0) : UsualSize;
-    return {static_cast<std::int32_t>(size * WidthOfPoint * static_cast<double>(characters)),
-            static_cast<std::int32_t>(size * HeightOfPoint)};
+    const double width = std::min<double>(size * WidthOfPoint * static_cast<double>(characters), FarthestTwips);
+    return {static_cast<std::int32_t>(width), static_cast<std::int32_t>(size * HeightOfPoint)};
 }
 
 }  // namespace kel

@@ -81,6 +81,11 @@ TEST(NumberFormat, TakesSettingsThatOnlyAUserWouldMake) {
     region.DecimalSeparator.clear();
     region.ZeroDigit = U'\U0001E950';
     EXPECT_EQ(shown(10.5, {.decimals = 1}, region), "\U0001E951\U0001E950.\U0001E955");
+    region.ZeroDigit = 0xFFFA;  // its ten digits run on into the next plane
+    EXPECT_EQ(shown(10.9, {.decimals = 1}, region), "\uFFFB\uFFFA.\U00010003");
+    for (const char32_t zero : {U'\uFFFA', U'\uD7FF', char32_t{0xDC00}, char32_t{0x10FFFF}, char32_t{0xFFFFFFFF}})
+        EXPECT_EQ(zeroOfTenDigits(zero), U'0');
+    for (const char32_t zero : {U'\u0660', U'\U0001E950'}) EXPECT_EQ(zeroOfTenDigits(zero), zero);
 }
 
 }  // namespace

@@ -68,6 +68,7 @@ TEST(Characters, AreWhatAReaderCounts) {
     for (const auto& [text, multiLine, stops] : cases) {
         SCOPED_TRACE(toUtf8(text));
         EXPECT_EQ(stopsForward(text, multiLine, nextCharacter), stops);
+        EXPECT_EQ(stopsForward(text, multiLine, characterEnd), stops);
         EXPECT_EQ(stopsBack(text, multiLine, previousCharacter), reversed(stops));
     }
 }
@@ -146,4 +147,7 @@ TEST(Characters, LongTextsOfOneKindAreCrossedAtOnce) {
     EXPECT_EQ(nextCharacter(picturesJoined, 0, false), picturesJoined.size());
     EXPECT_EQ(previousCharacter(picturesJoined, picturesJoined.size(), false), 0U);
     EXPECT_EQ(nextCharacter(u"a" + std::u16string(Many, u'\u0301'), 0, false), Many + 1);
+    std::u16string flags;
+    while (flags.size() < Many) flags += u"\U0001F1E9\U0001F1EA";
+    EXPECT_EQ(stopsForward(flags, false, characterEnd).size(), flags.size() / 4);
 }

@@ -165,7 +165,7 @@ void readNumbers(const QLocale& locale, RegionalSettings& region) {
     region.DecimalSeparator = locale.decimalPoint().toStdU16String();
     region.GroupSeparator = locale.groupSeparator().toStdU16String();
     region.NegativeSign = locale.negativeSign().toStdU16String();
-    region.ZeroDigit = codePointOf(locale.zeroDigit());
+    region.ZeroDigit = zeroOfTenDigits(codePointOf(locale.zeroDigit()));
     readGrouping(locale, region);
 }
 

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <array>
 #include <cwchar>
 
@@ -53,7 +54,9 @@ void readGrouping(const std::u16string& sizes, RegionalSettings& region) {
 char32_t zeroDigit(const Locale& locale) {
     constexpr unsigned NativeDigits = 2;
     const std::u16string digits = locale.text(LOCALE_SNATIVEDIGITS);
-    return locale.number(LOCALE_IDIGITSUBSTITUTION) == NativeDigits && digits.size() == 10 ? digits.front() : U'0';
+    const auto breaks = [](char16_t left, char16_t right) { return right != left + 1; };
+    const bool isRow = digits.size() == 10 && std::adjacent_find(digits.begin(), digits.end(), breaks) == digits.end();
+    return locale.number(LOCALE_IDIGITSUBSTITUTION) == NativeDigits && isRow ? zeroOfTenDigits(digits.front()) : U'0';
 }
 
 void readNumbers(const Locale& locale, RegionalSettings& region) {

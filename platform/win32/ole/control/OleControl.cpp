@@ -15,7 +15,8 @@ SIZEL toHimetric(Size twips) {
 }
 
 Size fromHimetric(const SIZEL& size) {
-    return {MulDiv(size.cx, TwipsPerInch, HimetricPerInch), MulDiv(size.cy, TwipsPerInch, HimetricPerInch)};
+    return withinReach(
+        Size{MulDiv(size.cx, TwipsPerInch, HimetricPerInch), MulDiv(size.cy, TwipsPerInch, HimetricPerInch)});
 }
 
 }  // namespace

@@ -58,9 +58,9 @@ public:
     std::u16string DecimalSeparator() override { return call<std::u16string>(Members_, u"DecimalSeparator"); }
     std::int16_t DecimalDigits() override { return call<std::int16_t>(Members_, u"DecimalDigits"); }
     std::u16string CaptionFontName() override { return call<std::u16string>(Members_, u"CaptionFontName"); }
-    double CaptionFontSize() override { return call<double>(Members_, u"CaptionFontSize"); }
+    double CaptionFontSize() override { return usableFontSize(call<double>(Members_, u"CaptionFontSize")); }
     std::u16string FieldFontName() override { return call<std::u16string>(Members_, u"FieldFontName"); }
-    double FieldFontSize() override { return call<double>(Members_, u"FieldFontSize"); }
+    double FieldFontSize() override { return usableFontSize(call<double>(Members_, u"FieldFontSize")); }
     void SendKey(std::int16_t keyCode) override { call<Variant>(Members_, u"SendKey", keyCode); }
     std::shared_ptr<kel::RuntimeDates> RuntimeDates() override {
         const auto object = std::dynamic_pointer_cast<AutomationObject>(call<ObjectPtr>(Members_, u"RuntimeDates"));
