@@ -7,6 +7,7 @@
 #include <QInputMethodEvent>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
+#include <QStyle>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <QTextLayout>
@@ -144,7 +145,16 @@ int QtTextArea::baseline() const {
 
 // ---- Events
 
+/// Where a scroll bar leaves no room for text, Qt's box would show and hide it for ever.
+void QtTextArea::allowScrollBar() {
+    const int edges = 2 * (frameWidth() + static_cast<int>(document()->documentMargin()));
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    const bool isNarrow = width() < edges + bar + fontMetrics().maxWidth();
+    setVerticalScrollBarPolicy(isNarrow ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
+}
+
 bool QtTextArea::event(QEvent* event) {
+    if (event->type() == QEvent::Resize) allowScrollBar();
     return hear(*event, [&] { return QPlainTextEdit::event(event); });
 }
 

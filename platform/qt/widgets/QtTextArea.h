@@ -49,6 +49,7 @@ protected:
 private:
     TextLine lineAt(std::size_t position) const override;
 
+    void allowScrollBar();
     void showText();
     void showSelection(const Selection& selection);
     Selection shownSelection() const;
