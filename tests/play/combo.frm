@@ -2,7 +2,7 @@ VERSION 5.00
 Object = "{0992557C-BAC4-4203-B9CA-4ED27EA3B85A}#1.4#0"; "KelControls8.ocx"
 Begin VB.Form frmCombo 
    Caption         =   "Combo fields"
-   ClientHeight    =   2640
+   ClientHeight    =   3000
    ClientWidth     =   4300
    Begin KelControls8.KelCombo fruit 
       Height          =   300
@@ -82,6 +82,12 @@ Begin VB.Form frmCombo
       Width           =   4000
       Caption         =   "Text"
       CaptionWidth    =   1200
+   End
+   Begin KelControls8.KelProgressBar bar 
+      Height          =   300
+      Left            =   120
+      Top             =   2640
+      Width           =   4000
    End
 End
 Attribute VB_Name = "frmCombo"

@@ -109,9 +109,10 @@ void QtFormWindow::focus(PlacedControl& control) {
 template <class Action>
 void QtFormWindow::byMouse(PlacedControl& control, Action action) {
     activate();
-    if (FieldView* const field = fieldOf(control)) {
+    const QPointer<QWidget> window = Window_.get();
+    closePopups();
+    if (FieldView* const field = window.isNull() ? nullptr : fieldOf(control)) {
         const QPointer<QWidget> area = &field->mouseArea();
-        closePopups();
         giveFocusByClick(field->widget());
         if (!area.isNull()) action(*field, area);
     }
@@ -141,10 +142,8 @@ void QtFormWindow::spin(PlacedControl& control, bool up) {
     activate();
     const UpDown* const shown = control.control().widgets().upDown;
     const QPointer<QtUpDown> spinner = shown != nullptr ? dynamic_cast<QtUpDown*>(shown->view()) : nullptr;
-    if (!spinner.isNull() && spinner->isVisible()) {
-        closePopups();
-        clickLeft(*spinner, spinner->half(up).center());
-    }
+    closePopups();
+    if (!spinner.isNull() && spinner->isVisible()) clickLeft(*spinner, spinner->half(up).center());
     settle();
 }
 

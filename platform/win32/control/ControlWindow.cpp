@@ -284,6 +284,9 @@ LRESULT ControlWindow::handle(HWND window, UINT message, WPARAM wide, LPARAM dat
             return TRUE;
         }
         case WM_SETFOCUS: setFocus(); return 0;
+        case WM_LBUTTONDOWN:
+        case WM_MBUTTONDOWN:
+        case WM_RBUTTONDOWN: Win32Focus::pressed(Window_); break;
         case WM_CTLCOLOREDIT:
         case WM_CTLCOLORSTATIC:
             if (const WindowedField* const field = fieldOf(reinterpret_cast<HWND>(data)))

@@ -56,6 +56,11 @@ void Win32Focus::departed(const WidgetHost& control, HWND next) {
         leave(control);
 }
 
+void Win32Focus::pressed(HWND control) {
+    const Win32Focus* const known = of(rootOf(control));
+    if (known != nullptr && known->Order_.holder() != nullptr) known->Order_.holder()->pressedAnywhere();
+}
+
 void Win32Focus::leave(const WidgetHost& control) {
     resume();
     const FieldWidget* const field = Order_.target();

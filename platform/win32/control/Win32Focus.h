@@ -31,6 +31,9 @@ public:
     /// The control is to be left: see `leaveMessage`.
     void leave(const WidgetHost& control);
 
+    /// A mouse button went down in `control`, where no field takes it.
+    static void pressed(HWND control);
+
     /// About to go, without a word to anybody.
     void forget(const FieldWidget& field) { Order_.forget(field); }
     void forget(const WidgetHost& control) { Order_.forget(control); }

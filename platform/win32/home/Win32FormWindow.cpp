@@ -7,6 +7,7 @@
 #include "library/SharedSettings.h"
 #include "platform/win32/base/Session.h"
 #include "platform/win32/base/WideText.h"
+#include "platform/win32/control/Win32Focus.h"
 
 namespace kel::win32 {
 
@@ -171,6 +172,9 @@ LRESULT Win32FormWindow::handleMessage(HWND window, UINT message, WPARAM wide, L
         case WM_ACTIVATE: activated(wide); return 0;
         case SentKey: strikeSent(static_cast<std::int16_t>(wide)); return 0;
         case WM_TIMER: EndMenu(); return 0;
+        case WM_LBUTTONDOWN:
+        case WM_MBUTTONDOWN:
+        case WM_RBUTTONDOWN: Win32Focus::pressed(Window_); return 0;
         case WM_CLOSE:
             ShowWindow(window, SW_HIDE);
             Session_.closed();

@@ -74,6 +74,12 @@ POINT centerOf(HWND window) {
     return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
 }
 
+/// What takes the mouse there: the window itself, or one in it.
+HWND seenAtCenter(HWND window) {
+    HWND const seen = ChildWindowFromPointEx(window, centerOf(window), CWP_SKIPDISABLED | CWP_SKIPINVISIBLE);
+    return seen != nullptr ? seen : window;
+}
+
 /// Within the window, and a little below the upper end of the caret.
 POINT aimedAt(HWND window, POINT caret) {
     RECT area{};
@@ -138,10 +144,13 @@ void Win32FormWindow::focus(PlacedControl& control) {
 
 void Win32FormWindow::click(PlacedControl& control, std::int32_t position) {
     focus(control);
-    HWND const field = static_cast<PlacedWin32Control&>(control).focusWindow();
-    if (field == nullptr) return;
+    auto& placed = static_cast<PlacedWin32Control&>(control);
+    HWND const field = placed.focusWindow();
     auto* const entry = viewOf<Win32TextEntry>(control.control().widgets().entry);
-    postLeftClick(field, entry != nullptr ? aimedAt(field, entry->showPosition(position)) : centerOf(field));
+    if (field == nullptr)
+        postLeftClick(placed.window().enabled() ? seenAtCenter(placed.window().handle()) : Window_, {});
+    else
+        postLeftClick(field, entry != nullptr ? aimedAt(field, entry->showPosition(position)) : centerOf(field));
     Session_.settle(true);
 }
 

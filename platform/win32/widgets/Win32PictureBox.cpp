@@ -123,6 +123,10 @@ LRESULT Win32PictureBox::handle(UINT message, WPARAM wide, LPARAM data) {
         // The system's bar would have a border.
         case WM_NCCALCSIZE:
         case WM_NCPAINT: return 0;
+        // Pressed, it is as the control around it.
+        case WM_LBUTTONDOWN:
+        case WM_MBUTTONDOWN:
+        case WM_RBUTTONDOWN: return SendMessageW(GetParent(window()), message, wide, data);
         case PBM_GETPOS: return Box_.picture().percent;
         case PBM_GETRANGE: return rangeOfBar(wide != FALSE, reinterpret_cast<PBRANGE*>(data));
         case WM_GETTEXTLENGTH: return static_cast<LRESULT>(Box_.picture().text.size());
