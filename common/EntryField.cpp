@@ -150,6 +150,8 @@ void EntryField::initUpDown(bool shown) {
 }
 
 void EntryField::initNew() {
+    Mandatory_ = true;
+    SelectOnFocus_ = false;
     Label1_.setCaption(Host_.container.displayName());
     setWidth(Label1_, NewCaptionWidth);
     Control_.Resize();

@@ -97,8 +97,6 @@ public:
     // ---- State that a control sets without a report
 
     void initInsertMode(bool insert) { InsertMode_ = insert; }
-    void initMandatory(bool mandatory) { Mandatory_ = mandatory; }
-    void initSelectOnFocus(bool select) { SelectOnFocus_ = select; }
     void initUpDown(bool shown);
     void colorCaption() { Label1_.setForeColor(captionColor(Mandatory_)); }
 

@@ -266,12 +266,10 @@ void KelCombo::Resize() {
 
 void KelCombo::InitProperties() {
     LimitToList_ = true;
-    Field_.initMandatory(true);
-    Field_.initSelectOnFocus(false);
     Combo1_.setLocked(false);
     Combo1_.setListIndex(ListItems::NotFound);
-    Field_.colorCaption();
     Field_.initNew();
+    Field_.colorCaption();
 }
 
 void KelCombo::ReadProperties(PropertyBag& bag) {

@@ -99,8 +99,6 @@ void KelText::makeMultiLineBox() {
 
 void KelText::InitProperties() {
     Field_.initInsertMode(true);
-    Field_.initMandatory(true);
-    Field_.initSelectOnFocus(false);
     Field_.initNew();
 }
 
