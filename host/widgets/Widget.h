@@ -63,6 +63,7 @@ struct FontFace {
     std::u16string name;
     double size = 0;  ///< points
     bool bold = false;
+    friend bool operator==(const FontFace&, const FontFace&) = default;
 };
 
 /// A widget that shows text.

@@ -18,8 +18,17 @@ void setWidgetFont(QWidget& widget, const QFont& font) {
 }
 
 QFont fontOf(const QFont& base, const FontFace& face) {
+    struct Made {
+        QFont base;
+        FontFace face;
+        QFont font;
+    };
+    static Made Last;
+    const bool isSameBase = base == Last.base && base.resolveMask() == Last.base.resolveMask();
+    if (isSameBase && face == Last.face) return Last.font;
     QFont font = fontLike(base, face.name, face.size);
     font.setBold(face.bold);
+    Last = {base, face, font};
     return font;
 }
 

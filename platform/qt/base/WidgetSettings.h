@@ -13,7 +13,7 @@ namespace kel::qt {
 /// `base` in another family and size (points).
 QFont fontLike(const QFont& base, std::u16string_view family, double size);
 
-/// `base` with what is chosen of `face`.
+/// `base` with what is chosen of `face`. The captions of a form, which are alike, share it.
 QFont fontOf(const QFont& base, const FontFace& face);
 
 void setWidgetFont(QWidget& widget, const QFont& font);
