@@ -151,6 +151,7 @@ TEST(PlainNumber, ReadsWhatIsANumberAndNothingElse) {
     } cases[] = {
         {u"\t+12.50\u00A0\u202F\r\n", 12.5},
         {u"-0", 0.0},
+        {u"\u22125", -5.0},
         {u"1.5E-\u0033", 0.0015},
         {u"1e400", std::nullopt},
         {u"1.7976931348623157e308", std::numeric_limits<double>::max()},
