@@ -309,7 +309,7 @@ std::vector<std::string> Script::expected(const ScriptCommand& command) const {
 std::string writeScript(const Script& script, const std::vector<std::vector<std::string>>& printed) {
     const auto endOf = [&script](std::size_t line) -> std::string_view {
         if (!script.lines[line].end.empty()) return script.lines[line].end;
-        return line > 0 ? script.lines[line - 1].end : "\n";
+        return line > 0 ? std::string_view(script.lines[line - 1].end) : "\n";
     };
     std::string text = script.mark;
     std::size_t next = 0;
