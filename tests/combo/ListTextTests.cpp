@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
-
 #include "runtime/ListString.h"
 #include "values/Text.h"
 
@@ -54,20 +52,6 @@ TEST(ListText, ReadsAsTheFieldReaderDoes) {
             }
             ASSERT_EQ(itemsOf(listItemsOf(list)), fields) << "number " << code << " of length " << length;
         }
-    }
-}
-
-TEST(ListText, WhatTheRuntimeAppendsComesBack) {
-    std::mt19937 random(4);
-    constexpr std::u16string_view Alphabet = u",\"a b\r\n\t\u00E9\u4E2D";
-    for (int round = 0; round < 2000; ++round) {
-        StringArray items(random() % 5);
-        std::u16string list;
-        for (std::u16string& item : items) {
-            for (std::size_t units = random() % 6; units > 0; --units) item += Alphabet[random() % Alphabet.size()];
-            appendListItem(list, item);
-        }
-        ASSERT_EQ(itemsOf(listItemsOf(list)), items);
     }
 }
 

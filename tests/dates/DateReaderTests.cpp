@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <random>
 
 #include "values/Calendar.h"
 #include "values/Text.h"
@@ -184,16 +183,6 @@ TEST(DateReader, IsNotUpsetByTheEndlessAndTheStrange) {
     for (const std::u16string& format : {words, digits, letters, halves, blanks})
         EXPECT_EQ(read(words, format, u"es-ES"), "none");
     EXPECT_EQ(read(blanks + u"15/3/2013" + blanks, DayFirst, u"es-ES"), "2013-03-15");
-
-    constexpr std::u16string_view Alphabet = u"0123456789/-. adefmnorty\"\\\xD801\x0661";
-    std::mt19937 random(8);
-    const auto anything = [&] {
-        std::u16string text;
-        for (auto length = random() % 16; length != 0; --length) text += Alphabet[random() % Alphabet.size()];
-        return text;
-    };
-    const auto names = regionNames();
-    for (int round = 0; round < 5000; ++round) read(anything(), anything(), names[random() % names.size()]);
 }
 
 }  // namespace

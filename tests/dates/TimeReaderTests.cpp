@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
-
 #include "values/Calendar.h"
 #include "values/Text.h"
 
@@ -106,14 +104,6 @@ TEST(TimeReader, IsNotUpsetByTheEndlessAndTheStrange) {
     EXPECT_EQ(read(dates, u"es-ES"), "none");
     const std::u16string blanks(Megabyte, u' ');
     EXPECT_EQ(read(blanks + u"9" + blanks + u"30" + blanks + u"p" + blanks), "21:30:00");
-
-    constexpr std::u16string_view Alphabet = u"0123456789:. /hamp\xD801\x0661";
-    std::mt19937 random(8);
-    for (int round = 0; round < 5000; ++round) {
-        std::u16string text;
-        for (auto length = random() % 12; length != 0; --length) text += Alphabet[random() % Alphabet.size()];
-        read(text, u"ar-EG");
-    }
 }
 
 }  // namespace

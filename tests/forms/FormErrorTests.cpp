@@ -119,6 +119,16 @@ TEST(FormErrors, NameTheFileThatCannotBeRead) {
     EXPECT_EQ(errorOf([&] { readFormFile(folder.file("other")); }), folder.file("other") + ": is a folder");
 }
 
+TEST(FormErrors, AFormCutAnywhereIsReadOrRefused) {
+    const std::string bytes = readBytes(sampleFile("orders.frm"));
+    const std::size_t codeStart = bytes.find("Attribute VB_Name");
+    ASSERT_NE(codeStart, std::string::npos);
+    for (std::size_t length = 0; length < bytes.size(); ++length) {
+        const bool isCut = length + 2 < codeStart;
+        EXPECT_EQ(!errorOf([&] { FormFile::parse(bytes.substr(0, length), "test.frm"); }).empty(), isCut) << length;
+    }
+}
+
 }  // namespace
 
 }  // namespace kel

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <random>
 
 #include "values/Text.h"
 
@@ -112,17 +111,7 @@ TEST(FormatExpression, SpeaksTheRegionsLanguage) {
     check({{u"#,##0.0", 1234.5, "١٬٢٣٤٫٥"}}, *findRegion(u"ar-EG"));
 }
 
-TEST(FormatExpression, TakesAnyTextAndAnyNumber) {
-    constexpr std::u16string_view Alphabet = u"0#.,%E+e-;\"\\ x\xD800";
-    std::mt19937 random(8);
-    for (int round = 0; round < 20000; ++round) {
-        std::u16string expression;
-        for (auto length = random() % 24; length != 0; --length) expression += Alphabet[random() % Alphabet.size()];
-        const double number = std::ldexp(static_cast<double>(random()) - 2e9, static_cast<int>(random() % 2000) - 1000);
-        const FormatExpression format(expression);
-        format.format(number, defaultRegion());
-        format.formatNull(*findRegion(u"ar-EG"));
-    }
+TEST(FormatExpression, TakesTextsOfAMillionUnits) {
     const std::u16string zeros(1 << 20, u'0');
     EXPECT_EQ(FormatExpression(zeros + u"." + zeros).format(5, defaultRegion()).size(), (2U << 20) + 1);
     EXPECT_EQ(FormatExpression(std::u16string(1 << 20, u';')).format(5, defaultRegion()), u"");
