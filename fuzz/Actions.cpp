@@ -72,7 +72,7 @@ public:
             case u'g': get(who, rest); break;
             default: hand(line[0], *Controls_[who], numberIn(rest), rest);
         }
-        for (PlacedControl* const placed : Controls_) checkControl(*placed, placed == Window_->focused());
+        for (PlacedControl* const placed : Controls_) checkControl(*placed);
         if (before != nullptr && Window_->focused() != nullptr && before != Window_->focused()) checkLeft(*before);
     }
 

@@ -32,13 +32,16 @@ void requireSame(const FormFile& form, const std::string& bytes, const char* pro
 }
 
 void checkSetting(FormFile form) {
-    const std::u16string texts[] = {u"", u"z\u0142 \"quoted\"", u"two\r\nlines", u"half \xD83D"};
-    const std::size_t blocks = std::min(form.blocks().size(), MostBlocks);
-    for (FormBlockId block = 0; block < blocks; ++block) form.set(block, u"AddedByFuzz", texts[block % 4]);
+    constexpr std::pair<std::u16string_view, std::u16string_view> Texts[] = {
+        {u"FuzzA", u""}, {u"FuzzB", u"z\u0142 \"quoted\""}, {u"FuzzC", u"two\r\nlines"}, {u"FuzzD", u"half \xD83D"}};
+    const std::size_t blocks = std::min<std::size_t>(form.blocks().size(), 5);
+    for (FormBlockId block = 0; block < blocks; ++block)
+        for (const auto& [name, text] : Texts) form.set(block, name, std::u16string(text));
     const FormOutput output = form.output(formPath());
     const FormFile changed = reread(output);
     for (FormBlockId block = 0; block < blocks; ++block)
-        require(changed.text(block, u"AddedByFuzz") == texts[block % 4], "a property that is set reads back");
+        for (const auto& [name, text] : Texts)
+            require(changed.text(block, name) == text, "a property that is set reads back", {name, text});
     requireSame(changed, output.form, "what was composed composes to the same");
 }
 
@@ -53,10 +56,13 @@ FormFile passedThrough(const FormFile& file) {
         if (!isLibraryClass(file.block(block)) || file.block(block).index) continue;
         PlacedControl* const placed = form.find(file.block(block).name);
         if (placed == nullptr) continue;
-        checkControl(*placed, false);
+        checkControl(*placed);
         ControlBag bag(file, block);
         placed->control().WriteProperties(bag);
         bag.applyTo(copy, block);
+        for (const char16_t* const name : {u"Caption", u"List", u"ListTag"})
+            require(copy.text(block, name) == file.text(block, name), "a text or a list is saved as it was loaded",
+                    {file.block(block).name, name});
     }
     return copy;
 }

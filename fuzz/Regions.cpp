@@ -16,6 +16,8 @@
 namespace kel::fuzz {
 namespace {
 
+constexpr char32_t LastCharacter = 0x10FFFF;
+
 /// Each line is a setting, as somebody may have edited it; one that is missing leaves the usual one.
 RegionalSettings regionIn(Lines& lines) {
     RegionalSettings region = lines.region();
@@ -31,6 +33,8 @@ RegionalSettings regionIn(Lines& lines) {
           &region.PmMarker})
         text(*setting);
     number(region.ZeroDigit);
+    // Homes let in characters alone, though not always ten in a row.
+    if (region.ZeroDigit > LastCharacter - 9) region.ZeroDigit = U'0';
     number(region.PrimaryGroup);
     number(region.SecondaryGroup);
     number(region.MinimumGroupingDigits);

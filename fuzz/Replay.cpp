@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <exception>
@@ -12,6 +14,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 namespace {
 
 namespace fs = std::filesystem;
+
+/// No input takes longer by far, also with sanitizers on a busy machine.
+constexpr unsigned LongestSeconds = 20;
 
 std::vector<fs::path> filesIn(const fs::path& place) {
     if (!fs::is_directory(place)) return {place};
@@ -32,6 +37,7 @@ int main(int argc, char** argv) {
         for (int i = 1; i < argc; ++i) {
             for (const fs::path& file : filesIn(argv[i])) {
                 std::fprintf(stderr, "%s\n", file.c_str());
+                alarm(LongestSeconds);
                 const std::string bytes = kel::readWholeFile(file);
                 LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size());
                 ++count;

@@ -127,8 +127,7 @@ void play(const Script& script) {
         } catch (const ScriptError&) {  // The next one may be possible.
         }
         for (const std::u16string& name : form.controls)
-            if (PlacedControl* const control = player.form().find(name))
-                checkControl(*control, player.form().window().focused() == control);
+            if (PlacedControl* const control = player.form().find(name)) checkControl(*control);
     }
 }
 

@@ -47,9 +47,6 @@ const std::filesystem::path& folder();
 void writeInFolder(const std::string& name, std::string_view bytes);
 
 /// What must hold of a control whatever has been done to it.
-void checkControl(PlacedControl& placed, bool isFocused);
-
-/// A property's value, read as code does it.
-Variant valueOf(Control& control, std::u16string_view property);
+void checkControl(PlacedControl& placed);
 
 }  // namespace kel::fuzz
