@@ -17,29 +17,6 @@
 namespace kel::fuzz {
 namespace {
 
-constexpr std::int16_t Keys[] = {keys::Backspace,
-                                 keys::Delete,
-                                 keys::Left,
-                                 keys::Right,
-                                 keys::Home,
-                                 keys::End,
-                                 keys::Up,
-                                 keys::Down,
-                                 keys::Enter,
-                                 keys::Escape,
-                                 keys::PageUp,
-                                 keys::PageDown,
-                                 keys::Insert,
-                                 keys::F4,
-                                 keys::Tab,
-                                 keys::Decimal,
-                                 u'A',
-                                 u'C',
-                                 u'V',
-                                 u'X',
-                                 u'Y',
-                                 u'Z'};
-
 /// A form of all controls in a region, and a person in front of it.
 class Session {
 public:
@@ -108,8 +85,9 @@ private:
         }
     }
 
+    /// A key by the character that has its code: % is Left, A the letter with Ctrl.
     void strike(char16_t key, char16_t modifiers) {
-        const std::int16_t code = Keys[(key - u'a') % std::size(Keys)];
+        const auto code = static_cast<std::int16_t>(key & 0xFF);
         const bool isLetter = code >= u'A' && code <= u'Z';
         const auto held = static_cast<Modifiers>(isLetter ? modifiers % 8 | ControlKey : modifiers % 8);
         Window_->press({code, isLetter ? static_cast<char32_t>(code) : 0, held});
