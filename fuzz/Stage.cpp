@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 
@@ -56,13 +57,19 @@ Stage::Stage(const RegionalSettings& region)
     System_.setTimer(Now);
 }
 
+std::u16string Bag::lowered(std::u16string_view name) {
+    std::u16string small(name);
+    std::transform(small.begin(), small.end(), small.begin(), toLowerAscii);
+    return small;
+}
+
 Variant Bag::readProperty(const PersistedRow& row) {
-    const auto found = Values_.find(row.readName);
+    const auto found = Values_.find(lowered(row.readName));
     return found == Values_.end() ? toVariant(row.readDefault) : found->second;
 }
 
 void Bag::writeProperty(const PersistedRow& row, const Variant& value) {
-    if (!equalsDefault(value, row.writeDefault)) Values_.insert_or_assign(std::u16string(row.name), value);
+    if (!equalsDefault(value, row.writeDefault)) Values_.insert_or_assign(lowered(row.name), value);
 }
 
 std::u16string Bag::differenceFrom(const Bag& other) const {

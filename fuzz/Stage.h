@@ -35,11 +35,14 @@ public:
     Variant readProperty(const PersistedRow& row) override;
     void writeProperty(const PersistedRow& row, const Variant& value) override;
     bool operator==(const Bag& other) const { return Values_ == other.Values_; }
+    bool has(std::u16string_view name) const { return Values_.contains(lowered(name)); }
     /// The first property that differs.
     std::u16string differenceFrom(const Bag& other) const;
 
 private:
-    std::map<std::u16string, Variant, std::less<>> Values_;
+    static std::u16string lowered(std::u16string_view name);
+
+    std::map<std::u16string, Variant> Values_;  ///< by their names in small letters
 };
 
 /// A folder for the files of this process, made when it is first asked for and empty then. It goes with the process.
