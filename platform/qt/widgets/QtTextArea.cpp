@@ -31,6 +31,8 @@ QtTextArea::QtTextArea(ControlSite& site, TextEntry& box, QWidget& parent)
     setTabChangesFocus(true);
     // It loses its place in the tab order to the next control, and would then lead here from elsewhere.
     viewport()->setFocusProxy(nullptr);
+    // Lines are broken; only a letter wider than the field would ask for it.
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     document()->setUndoRedoEnabled(false);
     document()->setDocumentMargin(std::max(TextIndent - frameWidth(), 1));
     connect(this, &QPlainTextEdit::textChanged, this, [this] { textChangedInWidget(); });
