@@ -2,7 +2,7 @@
 
 #include <array>
 #include <csignal>
-#include <set>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -47,11 +47,16 @@ private:
     std::array<void (*)(int), Signals.size()> Before_{};
 };
 
-/// What went wrong with a file, in the system's words.
-FormError errorAt(const fs::path& path, const std::system_error& error) {
-    if (error.code() == std::errc::device_or_resource_busy)
-        return {utf8Of(path), 0, "is being written by another program"};
-    return {utf8Of(path), 0, "cannot be written: " + error.code().message()};
+/// Does it, and says of which file it was when the system refuses.
+template <class Action>
+auto named(const fs::path& path, Action action) {
+    try {
+        return action();
+    } catch (const std::system_error& error) {
+        if (error.code() == std::errc::device_or_resource_busy)
+            throw FormError(utf8Of(path), 0, "is being written by another program");
+        throw FormError(utf8Of(path), 0, "cannot be written: " + error.code().message());
+    }
 }
 
 FormError refused(const fs::path& path, const char* reason) { return {utf8Of(path), 0, reason}; }
@@ -84,15 +89,14 @@ fs::path replaceable(const fs::path& named) {
 class PendingFile {
 public:
     explicit PendingFile(const FileToWrite& file)
-        : Target_(replaceable(file.path)), Pending_(nameBeside(Target_)), File_(makeAlone()) {
+        : Target_(replaceable(file.path)),
+          Pending_(nameBeside(Target_)),
+          File_(named(Target_, [this] { return OutputFile::makeAlone(Pending_); })) {
         try {
-            std::error_code fault;
-            if (fs::exists(Target_, fault)) File_.takeAccessOf(Target_);
-            File_.write(file.bytes);
-            File_.sync();
-        } catch (const std::system_error& error) {
+            named(Target_, [&] { fill(file.bytes); });
+        } catch (...) {
             discard();
-            throw errorAt(Target_, error);
+            throw;
         }
     }
     ~PendingFile() { discard(); }
@@ -104,16 +108,16 @@ public:
           File_(std::move(other.File_)) {}
     PendingFile& operator=(PendingFile&&) = delete;
 
-    const fs::path& target() const { return Target_; }
-    fs::path folder() const { return Target_.has_parent_path() ? Target_.parent_path() : fs::path("."); }
+    void syncFolder() const {
+        const fs::path folder = Target_.has_parent_path() ? Target_.parent_path() : fs::path(".");
+        named(Target_, [&] { kel::syncFolder(folder); });
+    }
 
     void takePlace() {
 #ifdef _WIN32
         File_.close();  // an open file is not renamed there
 #endif
-        std::error_code fault;
-        fs::rename(Pending_, Target_, fault);
-        if (fault) throw errorAt(Target_, std::system_error(fault));
+        named(Target_, [this] { fs::rename(Pending_, Target_); });
         Pending_.clear();
     }
 
@@ -126,12 +130,11 @@ private:
         return target.parent_path() / name;
     }
 
-    OutputFile makeAlone() const {
-        try {
-            return OutputFile::makeAlone(Pending_);
-        } catch (const std::system_error& error) {
-            throw errorAt(Target_, error);
-        }
+    void fill(std::string_view bytes) const {
+        std::error_code fault;
+        if (fs::exists(Target_, fault)) File_.takeAccessOf(Target_);
+        File_.write(bytes);
+        File_.sync();
     }
 
     void discard() {
@@ -145,22 +148,9 @@ private:
 };
 
 void putInPlace(std::vector<PendingFile>& pending) {
-    const auto syncFolders = [&pending] {
-        std::set<fs::path> folders;
-        for (const PendingFile& file : pending) folders.insert(file.folder());
-        for (const fs::path& folder : folders) syncFolder(folder);
-    };
-    syncFolders();
+    for (const PendingFile& file : pending) file.syncFolder();
     for (PendingFile& file : pending) file.takePlace();
-    syncFolders();
-}
-
-void writeThrough(const FileToWrite& file) {
-    try {
-        OutputFile::openStream(file.path).write(file.bytes);
-    } catch (const std::system_error& error) {
-        throw errorAt(file.path, error);
-    }
+    for (const PendingFile& file : pending) file.syncFolder();
 }
 
 }  // namespace
@@ -175,7 +165,7 @@ void writeTogether(const std::vector<FileToWrite>& files) {
         putInPlace(pending);
     }
     for (const FileToWrite& file : files)
-        if (isStream(file.path)) writeThrough(file);
+        if (isStream(file.path)) named(file.path, [&file] { OutputFile::openStream(file.path).write(file.bytes); });
 }
 
 void writeFile(const fs::path& path, std::string bytes) { writeTogether({{path, std::move(bytes)}}); }

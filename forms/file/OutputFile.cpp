@@ -50,11 +50,11 @@ bool mayWrite(const fs::path& file) { return _waccess(file.c_str(), 2) == 0; }
 
 #else
 
-/// Whether the name is still that of the open file.
-bool isNameOf(int file, const fs::path& path) {
+/// Whether the name, looked up by `stat` or `lstat`, is that of the open file.
+bool isNameOf(int file, const fs::path& path, int (*lookUp)(const char*, struct stat*)) {
     struct stat opened {};
     struct stat named {};
-    return fstat(file, &opened) == 0 && lstat(path.c_str(), &named) == 0 && opened.st_ino == named.st_ino &&
+    return fstat(file, &opened) == 0 && lookUp(path.c_str(), &named) == 0 && opened.st_ino == named.st_ino &&
            opened.st_dev == named.st_dev;
 }
 
@@ -79,7 +79,7 @@ int openAlone(const fs::path& path) {
             continue;
         }
         // Between its making and its locking another program may have taken it for a leftover.
-        if (lock(file) && isNameOf(file, path)) return file;
+        if (lock(file) && isNameOf(file, path, lstat)) return file;
         close(file);
     }
 }
@@ -146,12 +146,7 @@ void OutputFile::takeAccessOf(const fs::path& other) const {
     checked(fchmod(Descriptor_, theirs.st_mode & 07777));
 }
 
-bool isStandardOutput(const fs::path& path) {
-    struct stat output {};
-    struct stat named {};
-    return fstat(STDOUT_FILENO, &output) == 0 && stat(path.c_str(), &named) == 0 && output.st_ino == named.st_ino &&
-           output.st_dev == named.st_dev;
-}
+bool isStandardOutput(const fs::path& path) { return isNameOf(STDOUT_FILENO, path, stat); }
 
 void syncFolder(const fs::path& folder) {
     const int opened = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
