@@ -2,6 +2,8 @@
 #include <KelTextWidget.h>
 #include <cmath>
 #include <QApplication>
+#include <QScreen>
+#include <QTest>
 
 #include "library/Control.h"
 #include "platform/qt/base/FieldColors.h"
@@ -55,6 +57,55 @@ TEST(Looks, ColorsNameRedInTheLowByteAndTheSystemsByIndex) {
     EXPECT_EQ(qt::desktopColor(0x80000005, dark), dark.color(QPalette::Base));
     EXPECT_EQ(qt::desktopColor(0x80000011, dark), dark.color(QPalette::Disabled, QPalette::Text));
     EXPECT_EQ(qt::desktopColor(0x800000FF, dark), dark.color(QPalette::WindowText)) << "no such index";
+}
+
+/// A letter types itself; "<" is Left, "{" Home, "#" Backspace, "_" Shift+Left, and "z" undoes.
+void typeInto(QWidget& line, char key) {
+    switch (key) {
+        case '<': return QTest::keyClick(&line, Qt::Key_Left);
+        case '{': return QTest::keyClick(&line, Qt::Key_Home);
+        case '#': return QTest::keyClick(&line, Qt::Key_Backspace);
+        case '_': return QTest::keyClick(&line, Qt::Key_Left, Qt::ShiftModifier);
+        case 'z': return QTest::keyClick(&line, Qt::Key_Z, Qt::ControlModifier);
+        default: return QTest::keyClick(&line, key);
+    }
+}
+
+/// What is on the screen, where only a part was painted anew, and what a painting of all shows.
+TEST(Looks, WhatAKeyPaintsIsWhatIsThere) {
+    struct Typing {
+        const char* what;
+        const char16_t* text;
+        Selection selection;
+        const char* keys;
+    };
+    for (const Typing& typing :
+         {Typing{"at the end", u"", {}, "affiWWjf1"}, Typing{"in the middle", u"fifi fl", {4, 4}, "Wi##f"},
+          Typing{"from the front", u"AVAVA", {0, 0}, "Tjz<W"}, Typing{"over a selection", u"one two", {2, 5}, "#x_y_#"},
+          Typing{"to nothing and on", u"ab", {2, 2}, "##cd{#e"},
+          Typing{"out of the field", u"WWWWWWWWWWWW", {12, 12}, "WWWW####{i"},
+          Typing{"the other way", u"אב", {2, 2}, "1a#<b"}}) {
+        for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            QWidget window;
+            auto* const field = new KelTextWidget(&window);
+            field->setGeometry(0, 0, 300, 24);
+            field->setLayoutDirection(direction);
+            window.show();
+            QWidget& line = widgetOf(*field->control().widgets().entry);
+            line.setFocus();
+            field->setText(QString::fromUtf16(typing.text));
+            field->control().widgets().entry->select(typing.selection);
+            for (const char* key = typing.keys; *key != 0; ++key) {
+                QApplication::processEvents();
+                typeInto(line, *key);
+                QApplication::processEvents();
+                const QImage seen = window.screen()->grabWindow(window.winId()).toImage();
+                EXPECT_EQ(seen.convertToFormat(QImage::Format_RGB32),
+                          window.grab().toImage().convertToFormat(QImage::Format_RGB32))
+                    << typing.what << ", key " << (key - typing.keys);
+            }
+        }
+    }
 }
 
 TEST(Looks, AChangeOfTheDesktopReachesTheFields) {

@@ -26,6 +26,8 @@ public:
     void lay(std::u16string_view text, const QFont& font, Qt::LayoutDirection emptyDirection,
              const Composition& composition, std::size_t at);
 
+    /// As it is displayed.
+    QString text() const { return Layout_.text(); }
     int width() const { return Width_; }
     int ascent() const { return Ascent_; }
     bool isRightToLeft() const;

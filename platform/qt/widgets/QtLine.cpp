@@ -1,5 +1,6 @@
 #include "platform/qt/widgets/QtLine.h"
 
+#include <algorithm>
 #include <limits>
 #include <QAccessible>
 #include <QApplication>
@@ -54,6 +55,11 @@ constexpr Qt::InputMethodHints PasswordHints =
 
 int toInt(std::size_t position) { return static_cast<int>(position); }
 
+/// Its letters stand one behind the other, none wider than the font's widest.
+bool isPlain(QStringView text) {
+    return std::all_of(text.begin(), text.end(), [](QChar unit) { return unit >= u' ' && unit <= u'~'; });
+}
+
 }  // namespace
 
 QtLine::QtLine(ControlSite& site, TextEntry& box, QWidget& parent) : QWidget(&parent), TextInput(site, *this, box) {
@@ -75,6 +81,7 @@ void QtLine::outOfDate() {
     if (changes.has(Change::Password)) setInputMethodHints(box().isPassword() ? PasswordHints : Qt::ImhNone);
     if (changes.has(Change::Colors)) recolor();
     if (changes.has(Change::Locked)) update();
+    const QRect altered = changes.has(Change::Text) && isVisible() ? areaOfEdit() : textArea();
     if (changes.has(Change::Text) || changes.has(Change::Password)) dropLayout();
     showMore(changes);
     if (!changes.has(Change::Text) && !changes.has(Change::Selection)) return;
@@ -85,7 +92,7 @@ void QtLine::outOfDate() {
     }
     if (QAccessible::isActive()) tellReaders(changes.has(Change::Text));
     if (!isVisible()) return;
-    update(textArea());
+    update(altered);
     if (hasFocus()) {
         showCaret(true);
         updateMicroFocus();
@@ -143,6 +150,28 @@ QStyleOptionFrame QtLine::panel(int frameWidth) const {
 QRect QtLine::textArea() const {
     if (TextArea_.isNull()) TextArea_ = findTextArea();
     return TextArea_;
+}
+
+/// What a key alters of the text, at most, as far as the text that was painted tells it: a key costs by what goes to
+/// the screen. All of the text where more is going on than plain letters that come and go in front of the caret.
+QRect QtLine::areaOfEdit() const {
+    constexpr std::size_t Joined = 4;  // letters that a font may draw otherwise because of the one after them
+    const QRect area = textArea();
+    const QStringView now(box().text());
+    if (laidOut().line != this || box().isPassword() || !Composition_.text.isEmpty() || Scrolled_ != 0 || now.isEmpty())
+        return area;
+    const LineLayout& before = laidOut().layout;
+    const QString was = before.text();
+    const auto kept =
+        static_cast<std::size_t>(std::mismatch(was.begin(), was.end(), now.begin(), now.end()).first - was.begin());
+    const Selection& selection = box().selection();
+    const bool isAtCaret = Painted_.empty() && selection.empty() && std::min(Painted_.caret, selection.caret) >= kept;
+    if (!isAtCaret || before.isRightToLeft() || !isPlain(was) || !isPlain(now)) return area;
+    const int widest = fontMetrics().maxWidth();
+    const int left = before.xOf(kept - std::min(kept, Joined)) - widest;
+    const int right = std::max(before.width(), before.xOf(kept) + toInt(now.size() - kept) * widest) + widest;
+    if (right > area.width()) return area;
+    return area & QRect(textCorner().x() + left, area.y(), right - left, area.height());
 }
 
 void QtLine::placeTextAgain() {
@@ -232,7 +261,8 @@ void QtLine::paintEvent(QPaintEvent* event) {
     QPalette palette = Look_;
     palette.setCurrentColorGroup(this->palette().currentColorGroup());
     painter.setClipRect(area);
-    layout().paint(painter, corner, box().selection(), palette, area);
+    Painted_ = box().selection();
+    layout().paint(painter, corner, Painted_, palette, area);
     const bool isDroppedOn = DropPlace_ != Nowhere;
     if (!isDroppedOn && !(CaretOn_ && seesCaret() && Composition_.caretShown)) return;
     const int width = style()->pixelMetric(QStyle::PM_TextCursorWidth, nullptr, this);

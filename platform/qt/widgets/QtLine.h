@@ -71,6 +71,7 @@ protected:
 
 private:
     QRect textArea() const;
+    QRect areaOfEdit() const;
     const LineLayout& layout() const;
     void dropLayout() const;
     QPoint textCorner() const;
@@ -92,6 +93,7 @@ private:
     QBasicTimer Blink_;
     QElapsedTimer SinceDoubleClick_;
     QPoint PressedAt_;
+    Selection Painted_;
     mutable QRect TextArea_;  ///< none while it is to be found
     std::size_t DropPlace_ = Nowhere;
     std::u16string ToldText_;  ///< to screen readers; kept while there are any
