@@ -2,6 +2,7 @@
 
 #include "controls/number/NumberText.h"
 #include "fuzz/Fuzz.h"
+#include "platform/win32/home/SystemPicture.h"
 #include "tests/runtime/RegionalServices.h"
 #include "values/Coercion.h"
 #include "values/FormatExpression.h"
@@ -78,6 +79,26 @@ void workDates(const RegionalSettings& region, Date date) {
     }
 }
 
+/// The region as one that Windows describes in these words, its native digits among them.
+RegionalSettings asPictures(RegionalSettings region) {
+    region.ZeroDigit = win32::zeroOfDigits(region.AbbreviatedMonthNames.front());
+    win32::readGrouping(region.GroupSeparator, region);
+    region.ShortDateFormat = win32::formatOfDatePicture(region.ShortDateFormat, region.DateSeparator);
+    region.LongDateFormat = win32::formatOfDatePicture(region.LongDateFormat, {});
+    region.TimeFormat = win32::formatOfTimePicture(region.TimeFormat, region.TimeSeparator);
+    return region;
+}
+
+/// What stands in quotes is shown as it stands.
+void checkQuoted(const std::u16string& text, const RegionalSettings& region) {
+    std::u16string quoted;
+    for (const char16_t unit : text) quoted.append(unit == u'\'' ? 2 : 1, unit);
+    const std::u16string format = win32::formatOfDatePicture(u"d'" + quoted + u"'", {});
+    const std::u16string shown = FormatExpression(format).format(Date{2}, region);
+    require(shown.size() >= text.size() && shown.substr(shown.size() - text.size()) == text,
+            "what a picture quotes is shown as it stands", {text, format, shown});
+}
+
 #ifdef KEL_FUZZ_QT
 /// What Qt says of a region makes one in which numbers and dates read back.
 void checkLocale(std::u16string_view name, double number) {
@@ -104,7 +125,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     checkLocale(names.next(), number);
 #endif
     const kel::RegionalSettings region = regionIn(lines);
-    workNumbers(region, number);
-    workDates(region, {number});
+    for (const kel::RegionalSettings& edited : {region, asPictures(region)}) {
+        workNumbers(edited, number);
+        workDates(edited, {number});
+    }
+    checkQuoted(region.LongDateFormat, region);
     return 0;
 }
