@@ -21,7 +21,7 @@ bool showsWholeDate(std::u16string_view format) {
     for (DateFieldScanner scanner(format); scanner.next(token);) {
         if (token.field == DateField::DateSeparator || token.field == DateField::Literal) {
             if (token.field == DateField::Literal && !onlySeparates(token.text)) return false;
-            isApart = true;
+            isApart |= token.field == DateField::DateSeparator || !token.text.empty();
             continue;
         }
         if (!isApart) return false;
