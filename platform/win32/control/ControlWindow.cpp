@@ -124,13 +124,20 @@ void ControlWindow::makeWindow(HWND parent) {
 
 void ControlWindow::setParent(HWND parent) {
     if (Window_ == nullptr) {
-        makeWindow(parent != nullptr ? parent : parkingWindow());
-    } else {
-        if (parent == nullptr) dropInputOf(Window_);
-        SetParent(Window_, parent != nullptr ? parent : parkingWindow());
+        makeWindow(parent);
+    } else if (GetAncestor(Window_, GA_PARENT) != parent) {
+        SetParent(Window_, parent);
+        // The system puts it first; one that is made there comes last, where its host made it in the order of Tab.
+        SetWindowPos(Window_, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     }
-    if (parent != nullptr && Parking_ != nullptr) DestroyWindow(std::exchange(Parking_, nullptr));
+    if (Parking_ != nullptr) DestroyWindow(std::exchange(Parking_, nullptr));
     if (Window_ != nullptr && Visible_) ShowWindow(Window_, SW_SHOWNA);
+}
+
+void ControlWindow::park() {
+    if (Window_ == nullptr || Parking_ != nullptr) return;
+    dropInputOf(Window_);
+    SetParent(Window_, parkingWindow());
 }
 
 void ControlWindow::place(const RECT& bounds, const RECT& clip) {

@@ -40,8 +40,11 @@ public:
     /// The same as hosts of any width have it: handles have 32 significant bits in 64-bit processes too.
     std::int32_t handleNumber() { return static_cast<std::int32_t>(reinterpret_cast<std::intptr_t>(handle())); }
 
-    /// Moves the window into `parent`, nullptr for the parent that nobody sees; makes the window if need be.
+    /// Moves the window into `parent`, as the last in its order; makes the window if need be. Where it is in there
+    /// already it stays as it is.
     void setParent(HWND parent);
+    /// Takes the window, if there is one, to the parent that nobody sees.
+    void park();
 
     /// Place inside the parent; nothing outside `clip`, in the same coordinates, is shown.
     void place(const RECT& bounds, const RECT& clip);

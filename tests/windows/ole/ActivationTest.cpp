@@ -49,10 +49,36 @@ TEST(activation_shows_the_control_in_its_place) {
     EXPECT_CODE(host.inPlace()->InPlaceDeactivate(), S_OK);
     EXPECT(host.called("OnInPlaceDeactivate"));
     EXPECT(!IsWindowVisible(window));
-    EXPECT(GetParent(window) != host.window());
     EXPECT_CODE(host.inPlace()->GetWindow(&told), E_FAIL);
     EXPECT_CODE(host.verb(OLEIVERB_SHOW), S_OK);
     EXPECT(IsWindowVisible(window));
+}
+
+TEST(activation_keeps_the_place_among_neighbours) {
+    Host host;
+    const auto neighbour = [&] {
+        return CreateWindowExW(0, L"BUTTON", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 0, 0, 9, 9, host.window(),
+                               nullptr, nullptr, nullptr);
+    };
+    const HWND first = neighbour();
+    const auto field = host.placeNew();
+    const HWND window = windowOf(field.get());
+    EXPECT_CODE(host.verb(OLEIVERB_SHOW), S_OK);
+    const HWND last = neighbour();
+    const NamedDeed<Host> deeds[] = {
+        {"nothing", [](Host&) {}},
+        {"hidden", [](Host& h) { EXPECT_CODE(h.verb(OLEIVERB_HIDE), S_OK); }},
+        {"deactivated", [](Host& h) { EXPECT_CODE(h.inPlace()->InPlaceDeactivate(), S_OK); }},
+    };
+    for (const auto& deed : deeds) {
+        deed.act(host);
+        EXPECT_EQ(IsWindowVisible(window) != FALSE, deed.name == std::string("nothing"));
+        EXPECT_CODE(host.verb(OLEIVERB_SHOW), S_OK);
+        EXPECT(GetWindow(window, GW_HWNDPREV) == first);
+        EXPECT(GetWindow(window, GW_HWNDNEXT) == last);
+    }
+    EXPECT_CODE(host.object()->Close(OLECLOSE_NOSAVE), S_OK);
+    EXPECT(GetParent(window) != host.window());
 }
 
 TEST(activation_of_the_user_interface_takes_the_focus) {

@@ -47,6 +47,7 @@ HRESULT Activation::enterWindow() {
         result = site->GetWindowContext(Frame_.receive(), Document_.receive(), &bounds, &clip, &info);
     if (FAILED(result)) return result;
     if (!inPlace()) return E_UNEXPECTED;
+    if (parent == nullptr) return E_FAIL;
     Control_.window().setParent(parent);
     if (Control_.window().handle() == nullptr) return E_FAIL;
     setRects(bounds, clip);
@@ -96,8 +97,8 @@ void Activation::deactivate() {
     const ComPtr<IOleInPlaceSite> site = std::move(Site_);
     Frame_ = {};
     Document_ = {};
+    // In the host's window it keeps its place among its neighbours, for when it is shown again.
     Control_.window().setVisible(false);
-    Control_.window().setParent(nullptr);
     site->OnInPlaceDeactivate();
 }
 

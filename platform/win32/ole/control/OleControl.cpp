@@ -86,13 +86,19 @@ HRESULT OleControl::begin(const std::function<void()>& load) {
 
 void OleControl::setSite(IOleClientSite* site) {
     if (site == Site_.get()) return;
-    Activation_.deactivate();
+    leaveHost();
     Site_.set(site);
 }
 
 void OleControl::close(bool save) {
     if (save && Dirty_) Site_.saveObject();
+    leaveHost();
+}
+
+/// The host is free to do away with its window.
+void OleControl::leaveHost() {
     Activation_.deactivate();
+    Window_.park();
 }
 
 void OleControl::freezeEvents(bool freeze) { FrozenDepth_ = std::max(0, FrozenDepth_ + (freeze ? 1 : -1)); }

@@ -85,6 +85,8 @@ private:
     void viewChanged() override;
     void mnemonicChanged() override;
 
+    void leaveHost();
+
     enum class Birth { Made, Beginning, Begun };
 
     const ClassModel& Model_;
