@@ -18,6 +18,26 @@ std::string statusWords(const ClassModel& model) {
     return words;
 }
 
+/// Both stand in every system and make proxies by a type library: the one of interfaces with a function table that
+/// automation knows, the other of those that are called late only.
+constexpr Guid ByFunctionTable = guid("00020424-0000-0000-C000-000000000046");
+constexpr Guid ByDispatch = guid("00020420-0000-0000-C000-000000000046");
+constexpr Guid Dispatch = guid("00020400-0000-0000-C000-000000000046");
+
+/// With this a host may call the interface from another apartment, as where a registry says the same.
+void writeInterface(std::ostream& out, const std::string& name, const Guid& iid, const Guid& proxies) {
+    out << "  <comInterfaceExternalProxyStub name=\"" << name << "\" iid=\"" << braced(iid) << "\"\n    tlbid=\""
+        << braced(identities::TypeLibrary) << "\" baseInterface=\"" << braced(Dispatch) << "\" proxyStubClsid32=\""
+        << braced(proxies) << "\"/>\n";
+}
+
+void writeInterfaces(std::ostream& out, const ClassModel& model) {
+    const ClassIdentity& identity = identityOf(model);
+    const std::string name = narrow(model.name);
+    writeInterface(out, '_' + name, identity.dispatch, ByFunctionTable);
+    if (identity.hasEvents()) writeInterface(out, "__" + name, identity.events, ByDispatch);
+}
+
 /// `model` is none for a class that is not in the type library.
 void writeClass(std::ostream& out, const Guid& clsid, const std::string& programId, const ClassModel* model) {
     out << "    <comClass clsid=\"" << braced(clsid) << "\" progid=\"" << programId
@@ -41,7 +61,9 @@ void writeManifest(std::ostream& out, const ClassRegistry& classes) {
         writeClass(out, identityOf(*model).coclass, library + '.' + narrow(model->name), model);
     out << "  </file>\n  <file name=\"KelRuntime8.dll\">\n";
     writeClass(out, identities::Runtime, "KelRuntime8.Runtime", nullptr);
-    out << "  </file>\n</assembly>\n";
+    out << "  </file>\n";
+    for (const ClassModel* model : classes.all()) writeInterfaces(out, *model);
+    out << "</assembly>\n";
 }
 
 }  // namespace kel::idl

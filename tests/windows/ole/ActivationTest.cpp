@@ -257,8 +257,21 @@ TEST(mnemonic_of_the_caption) {
     EXPECT_CODE(field->put_Caption(Str(L"&Name")), S_OK);
     EXPECT(host.called("OnControlInfoChanged"));
     EXPECT_CODE(control->GetControlInfo(&info), S_OK);
-    EXPECT_EQ(info.cAccel, 2);
-    EXPECT(info.hAccel != nullptr);
+    const auto isMnemonic = [&](UINT message, wchar_t character) {
+        constexpr LPARAM AltIsDown = 1 << 29;
+        MSG pressed{};
+        pressed.message = message;
+        pressed.wParam = character;
+        pressed.lParam = message == WM_SYSCHAR ? AltIsDown : 0;
+        return IsAccelerator(info.hAccel, info.cAccel, &pressed, nullptr) != FALSE;
+    };
+    for (const UINT message : {WM_SYSCHAR, WM_CHAR}) {
+        EXPECT(isMnemonic(message, L'n') && isMnemonic(message, L'N'));
+        EXPECT(!isMnemonic(message, L'a'));
+    }
+    EXPECT_CODE(field->put_Caption(Str(L"&Ärzte")), S_OK);
+    EXPECT_CODE(control->GetControlInfo(&info), S_OK);
+    EXPECT(isMnemonic(WM_SYSCHAR, L'ä') && isMnemonic(WM_SYSCHAR, L'Ä'));
     EXPECT_EQ(info.dwFlags & CTRLINFO_EATS_RETURN, static_cast<DWORD>(CTRLINFO_EATS_RETURN));
     EXPECT_CODE(field->put_Caption(Str(L"Name")), S_OK);
     EXPECT_CODE(control->GetControlInfo(&info), S_OK);

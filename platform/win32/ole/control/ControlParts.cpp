@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <cwctype>
 
 #include "host/focus/TabOrder.h"
 #include "library/ControlStatus.h"
+#include "platform/win32/ole/com/Enumerator.h"
 #include "platform/win32/ole/control/OleControl.h"
 
 namespace kel::win32::ole {
@@ -13,6 +13,24 @@ namespace kel::win32::ole {
 namespace {
 
 // ---- The control in its host
+
+struct Verb {
+    LONG id;
+    const wchar_t* name;
+};
+
+/// What a user may be offered to do with a control that takes the focus.
+constexpr Verb Edit{OLEIVERB_PRIMARY, L"&Edit"};
+
+LPOLESTR copyForCaller(std::wstring_view text) {
+    auto* const copy = static_cast<LPOLESTR>(CoTaskMemAlloc((text.size() + 1) * sizeof(wchar_t)));
+    if (copy != nullptr) *std::copy(text.begin(), text.end(), copy) = L'\0';
+    return copy;
+}
+
+OLEVERB verbForCaller(const Verb& verb) {
+    return {verb.id, copyForCaller(verb.name), MF_ENABLED, OLEVERBATTRIB_ONCONTAINERMENU};
+}
 
 class EmbeddedPart final : public ControlPart<IOleObject, IQuickActivate> {
 public:
@@ -60,7 +78,11 @@ public:
     HRESULT STDMETHODCALLTYPE EnumVerbs(IEnumOLEVERB** verbs) noexcept override {
         if (verbs == nullptr) return E_POINTER;
         *verbs = nullptr;
-        return OleRegEnumVerbs(toGuid(Control_.identity().coclass), verbs);
+        return guarded([&] {
+            auto known = std::make_shared<std::vector<Verb>>();
+            if (Control_.model().takesFocus) known->push_back(Edit);
+            *verbs = new Enumerator<IEnumOLEVERB, Verb, OLEVERB, &verbForCaller>(std::move(known));
+        });
     }
     HRESULT STDMETHODCALLTYPE Update() noexcept override { return S_OK; }
     HRESULT STDMETHODCALLTYPE IsUpToDate() noexcept override { return S_OK; }
@@ -71,11 +93,10 @@ public:
     }
     HRESULT STDMETHODCALLTYPE GetUserType(DWORD /*form*/, LPOLESTR* type) noexcept override {
         if (type == nullptr) return E_POINTER;
-        const std::u16string_view name = Control_.model().name;
-        *type = static_cast<LPOLESTR>(CoTaskMemAlloc((name.size() + 1) * sizeof(wchar_t)));
-        if (*type == nullptr) return E_OUTOFMEMORY;
-        *std::copy(name.begin(), name.end(), *type) = L'\0';
-        return S_OK;
+        return guarded([&] {
+            *type = copyForCaller(wide(Control_.model().name));
+            return *type != nullptr ? S_OK : E_OUTOFMEMORY;
+        });
     }
     HRESULT STDMETHODCALLTYPE SetExtent(DWORD aspect, SIZEL* size) noexcept override {
         if (size == nullptr) return E_POINTER;
@@ -178,7 +199,7 @@ public:
         return guarded([&] {
             makeAccelerators(mnemonicOf(Control_.control().widgets()));
             info->hAccel = Accelerators_;
-            info->cAccel = static_cast<USHORT>(Accelerators_ != nullptr ? 2 : 0);
+            info->cAccel = static_cast<USHORT>(Accelerators_ != nullptr ? AcceleratorCount : 0);
             info->dwFlags = CTRLINFO_EATS_RETURN;
         });
     }
@@ -203,13 +224,26 @@ public:
     }
 
 private:
+    /// Hosts look for a mnemonic with Alt, or, where the focus is in nothing that takes characters, for the plain
+    /// character; in either case.
+    static constexpr std::size_t AcceleratorCount = 4;
+
+    static WORD inCase(char16_t character, LPWSTR(WINAPI* change)(LPWSTR)) {
+        // A text whose address is a single character is that character.
+        const auto changed =
+            reinterpret_cast<std::uintptr_t>(change(reinterpret_cast<LPWSTR>(std::uintptr_t{character})));
+        return static_cast<WORD>(changed);
+    }
+
     void makeAccelerators(char16_t mnemonic) {
         if (mnemonic == Mnemonic_) return;
         if (Accelerators_ != nullptr) DestroyAcceleratorTable(std::exchange(Accelerators_, nullptr));
         Mnemonic_ = mnemonic;
         if (mnemonic == 0) return;
-        std::array<ACCEL, 2> keys{ACCEL{FALT, static_cast<WORD>(std::towlower(mnemonic)), 0},
-                                  ACCEL{FALT, static_cast<WORD>(std::towupper(mnemonic)), 0}};
+        const WORD small = inCase(mnemonic, &CharLowerW);
+        const WORD capital = inCase(mnemonic, &CharUpperW);
+        std::array<ACCEL, AcceleratorCount> keys{
+            {{FALT, small, 0}, {FALT, capital, 0}, {0, small, 0}, {0, capital, 0}}};
         Accelerators_ = CreateAcceleratorTableW(keys.data(), static_cast<int>(keys.size()));
     }
 
