@@ -151,10 +151,78 @@ TEST(persist_storage_round_trip) {
     EXPECT_CODE(persist->InitNew(storage.get()), CO_E_ALREADYINITIALIZED);
     EXPECT_CODE(persist->Save(storage.get(), FALSE), S_OK);
     EXPECT_CODE(persist->SaveCompleted(nullptr), S_OK);
-    EXPECT_CODE(persist->IsDirty(), S_FALSE);
     const auto field = makeText();
     EXPECT_CODE(field.as<IPersistStorage>()->Load(storage.get()), S_OK);
     expectFilled(field.get());
+}
+
+namespace {
+
+/// Hears when a document's part is saved.
+class SaveSink final : public StackObject<IAdviseSink> {
+public:
+    void STDMETHODCALLTYPE OnDataChange(FORMATETC*, STGMEDIUM*) override {}
+    void STDMETHODCALLTYPE OnViewChange(DWORD, LONG) override {}
+    void STDMETHODCALLTYPE OnRename(IMoniker*) override {}
+    void STDMETHODCALLTYPE OnSave() override { ++Saved; }
+    void STDMETHODCALLTYPE OnClose() override {}
+
+    int Saved = 0;
+};
+
+/// A field in a document, and what can be done to it there.
+struct Document {
+    Document() {
+        EXPECT_CODE(
+            StgCreateDocfile(nullptr, STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE | STGM_DELETEONRELEASE, 0,
+                             storage.receive()),
+            S_OK);
+        DWORD cookie = 0;
+        EXPECT_CODE(field.as<IOleObject>()->Advise(&sink, &cookie), S_OK);
+    }
+    void saveStream(BOOL clearDirty) {
+        EXPECT_CODE(field.as<IPersistStreamInit>()->Save(memoryStream().get(), clearDirty), S_OK);
+    }
+    void saveStorage(BOOL sameAsLoad, IStorage* goesOnWith) {
+        EXPECT_CODE(field.as<IPersistStorage>()->Save(storage.get(), sameAsLoad), S_OK);
+        EXPECT_CODE(field.as<IPersistStorage>()->SaveCompleted(goesOnWith), S_OK);
+    }
+
+    Ref<_KelText> field = makeText();
+    Ref<IStorage> storage;
+    SaveSink sink;
+    Bag bag;
+};
+
+}  // namespace
+
+TEST(persist_documents_know_what_is_saved) {
+    struct Row {
+        NamedDeed<Document> deed;
+        HRESULT dirty;
+        int told;
+    };
+    const Row rows[] = {
+        {{"nothing", [](Document&) {}}, S_OK, 0},
+        {{"copied to a stream", [](Document& d) { d.saveStream(FALSE); }}, S_OK, 0},
+        {{"saved to a stream", [](Document& d) { d.saveStream(TRUE); }}, S_FALSE, 1},
+        {{"saved to a bag", [](Document& d) { EXPECT_CODE(save(d.field.get(), d.bag), S_OK); }}, S_FALSE, 1},
+        {{"copied to a storage", [](Document& d) { d.saveStorage(FALSE, nullptr); }}, S_OK, 0},
+        {{"saved to its storage", [](Document& d) { d.saveStorage(TRUE, nullptr); }}, S_FALSE, 1},
+        {{"moved to a storage", [](Document& d) { d.saveStorage(FALSE, d.storage.get()); }}, S_FALSE, 1},
+        {{"its storage given back",
+          [](Document& d) { EXPECT_CODE(d.field.as<IPersistStorage>()->SaveCompleted(d.storage.get()), S_OK); }},
+         S_OK,
+         0},
+    };
+    for (const Row& row : rows) {
+        Document document;
+        EXPECT_CODE(document.field.as<IPersistStorage>()->InitNew(document.storage.get()), S_OK);
+        row.deed.act(document);
+        const HRESULT dirty = document.field.as<IPersistStreamInit>()->IsDirty();
+        if (dirty != row.dirty || document.sink.Saved != row.told)
+            fail(__FILE__, __LINE__, std::string(row.deed.name) + ": told " + shown(document.sink.Saved));
+    }
 }
 
 TEST(persist_new_control_takes_the_containers_name) {

@@ -100,4 +100,27 @@ void Viewer::outOfDate() {
     sink->OnViewChange(DVASPECT_CONTENT, -1);
 }
 
+// ---- Embedders
+
+IOleAdviseHolder& Embedders::holder() {
+    if (!Holder_) check(CreateOleAdviseHolder(Holder_.receive()), "no one can be advised");
+    return *Holder_.get();
+}
+
+HRESULT Embedders::add(IAdviseSink* sink, DWORD* cookie) { return holder().Advise(sink, cookie); }
+
+HRESULT Embedders::remove(DWORD cookie) { return Holder_ ? Holder_->Unadvise(cookie) : OLE_E_NOCONNECTION; }
+
+HRESULT Embedders::list(IEnumSTATDATA** out) { return holder().EnumAdvise(out); }
+
+void Embedders::saved() const {
+    const ComPtr<IOleAdviseHolder> holder = Holder_;
+    if (holder) holder->SendOnSave();
+}
+
+void Embedders::closed() const {
+    const ComPtr<IOleAdviseHolder> holder = Holder_;
+    if (holder) holder->SendOnClose();
+}
+
 }  // namespace kel::win32::ole

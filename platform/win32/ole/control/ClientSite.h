@@ -52,4 +52,20 @@ private:
     DWORD Flags_ = 0;
 };
 
+/// Who embeds the control in a document and is told what becomes of it.
+class Embedders {
+public:
+    HRESULT add(IAdviseSink* sink, DWORD* cookie);
+    HRESULT remove(DWORD cookie);
+    HRESULT list(IEnumSTATDATA** out);
+
+    void saved() const;
+    void closed() const;
+
+private:
+    IOleAdviseHolder& holder();
+
+    ComPtr<IOleAdviseHolder> Holder_;  ///< none until somebody asks for it
+};
+
 }  // namespace kel::win32::ole

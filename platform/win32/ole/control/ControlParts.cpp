@@ -54,8 +54,7 @@ public:
     HRESULT STDMETHODCALLTYPE Close(DWORD saveOption) noexcept override {
         return guarded([&] {
             Control_.close(saveOption != OLECLOSE_NOSAVE);
-            const ComPtr<IOleAdviseHolder> holder = Advises_;
-            if (holder) holder->SendOnClose();
+            Control_.embedders().closed();
         });
     }
     HRESULT STDMETHODCALLTYPE SetMoniker(DWORD /*which*/, IMoniker* /*moniker*/) noexcept override { return E_NOTIMPL; }
@@ -109,15 +108,15 @@ public:
         return aspect == DVASPECT_CONTENT ? GetContentExtent(size) : DV_E_DVASPECT;
     }
     HRESULT STDMETHODCALLTYPE Advise(IAdviseSink* sink, DWORD* cookie) noexcept override {
-        return guarded([&] { return advises().Advise(sink, cookie); });
+        return guarded([&] { return Control_.embedders().add(sink, cookie); });
     }
     HRESULT STDMETHODCALLTYPE Unadvise(DWORD cookie) noexcept override {
-        return guarded([&] { return Advises_ ? Advises_->Unadvise(cookie) : OLE_E_NOCONNECTION; });
+        return guarded([&] { return Control_.embedders().remove(cookie); });
     }
     HRESULT STDMETHODCALLTYPE EnumAdvise(IEnumSTATDATA** out) noexcept override {
         if (out == nullptr) return E_POINTER;
         *out = nullptr;
-        return guarded([&] { return advises().EnumAdvise(out); });
+        return guarded([&] { return Control_.embedders().list(out); });
     }
     HRESULT STDMETHODCALLTYPE GetMiscStatus(DWORD aspect, DWORD* status) noexcept override {
         if (status == nullptr) return E_POINTER;
@@ -175,13 +174,6 @@ private:
         const HRESULT result = doVerb(OLEIVERB_PRIMARY);
         return SUCCEEDED(result) ? OLEOBJ_S_INVALIDVERB : result;
     }
-
-    IOleAdviseHolder& advises() {
-        if (!Advises_) check(CreateOleAdviseHolder(Advises_.receive()), "no one can be advised");
-        return *Advises_.get();
-    }
-
-    ComPtr<IOleAdviseHolder> Advises_;
 };
 
 // ---- Keys

@@ -84,6 +84,17 @@ HRESULT OleControl::begin(const std::function<void()>& load) {
     return S_OK;
 }
 
+HRESULT OleControl::beginNew() {
+    const HRESULT begun = begin([this] { Control_->InitProperties(); });
+    if (SUCCEEDED(begun)) Dirty_ = true;
+    return begun;
+}
+
+void OleControl::saved() {
+    Dirty_ = false;
+    Embedders_.saved();
+}
+
 void OleControl::setSite(IOleClientSite* site) {
     if (site == Site_.get()) return;
     leaveHost();

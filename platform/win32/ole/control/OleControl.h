@@ -34,6 +34,7 @@ public:
     Activation& activation() { return Activation_; }
     ConnectionPointsPart& connections() { return Connections_; }
     Viewer& viewer() { return Viewer_; }
+    Embedders& embedders() { return Embedders_; }
 
     /// Of the screen.
     TwipGrid grid() const { return TwipGrid(System_.twipsPerPixel()); }
@@ -48,10 +49,13 @@ public:
     void takeHimetricExtent(const SIZEL& size);
 
     bool dirty() const { return Dirty_; }
-    void setClean() { Dirty_ = false; }
+    /// What the host keeps is the control as it stands.
+    void saved();
 
-    /// Runs the control's first loading, or its first defaults. E_UNEXPECTED when that has happened before;
-    /// a failure leaves the control as it was made.
+    /// Gives the control its first defaults, with which it is worth saving. E_UNEXPECTED when it has begun before, in
+    /// either way.
+    HRESULT beginNew();
+    /// Runs the control's first loading. A failure leaves the control as it was made.
     HRESULT begin(const std::function<void()>& load);
 
     void freezeEvents(bool freeze);
@@ -94,6 +98,7 @@ private:
     ControlSystem System_;
     ClientSite Site_;
     Viewer Viewer_;
+    Embedders Embedders_;
     Size Extent_{3600, 300};
     SIZEL Given_{0, 0};  ///< last size in hundredths of a millimetre
     bool HasExtent_ = false;

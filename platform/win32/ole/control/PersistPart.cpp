@@ -97,7 +97,7 @@ public:
     }
     HRESULT STDMETHODCALLTYPE IsDirty() noexcept override { return Control_.dirty() ? S_OK : S_FALSE; }
     HRESULT STDMETHODCALLTYPE InitNew() noexcept override {
-        return guarded([&] { return initialise(); });
+        return guarded([&] { return Control_.beginNew(); });
     }
 
     // ---- IPersistPropertyBag
@@ -117,7 +117,7 @@ public:
         return guarded([&] {
             const ValueBag values = saved(Control_);
             for (const StoredValue& stored : values.values()) writeToBag(*bag, stored);
-            if (clearDirty != FALSE) Control_.setClean();
+            if (clearDirty != FALSE) Control_.saved();
         });
     }
 
@@ -131,7 +131,7 @@ public:
         if (stream == nullptr) return E_POINTER;
         return guarded([&] {
             saveStream(Control_, *stream);
-            if (clearDirty != FALSE) Control_.setClean();
+            if (clearDirty != FALSE) Control_.saved();
         });
     }
     HRESULT STDMETHODCALLTYPE GetSizeMax(ULARGE_INTEGER* size) noexcept override {
@@ -143,7 +143,7 @@ public:
 
     HRESULT STDMETHODCALLTYPE InitNew(IStorage* storage) noexcept override {
         if (storage == nullptr) return E_POINTER;
-        return guarded([&] { return onceOnly(initialise()); });
+        return guarded([&] { return onceOnly(Control_.beginNew()); });
     }
     HRESULT STDMETHODCALLTYPE Load(IStorage* storage) noexcept override {
         if (storage == nullptr) return E_POINTER;
@@ -156,28 +156,33 @@ public:
             }));
         });
     }
-    HRESULT STDMETHODCALLTYPE Save(IStorage* storage, BOOL /*sameAsLoad*/) noexcept override {
+    HRESULT STDMETHODCALLTYPE Save(IStorage* storage, BOOL sameAsLoad) noexcept override {
         if (storage == nullptr) return E_POINTER;
         return guarded([&] {
+            Unfinished_ = Saving::None;
             ComPtr<IStream> stream;
             check(storage->CreateStream(StreamName, STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE, 0, 0,
                                         stream.receive()),
                   "the storage takes no stream");
             saveStream(Control_, *stream.get());
+            Unfinished_ = sameAsLoad != FALSE ? Saving::InPlace : Saving::Copy;
         });
     }
-    HRESULT STDMETHODCALLTYPE SaveCompleted(IStorage* /*storage*/) noexcept override {
-        Control_.setClean();
-        return S_OK;
+    HRESULT STDMETHODCALLTYPE SaveCompleted(IStorage* storage) noexcept override {
+        return guarded([&] {
+            const Saving saving = std::exchange(Unfinished_, Saving::None);
+            if (saving == Saving::InPlace || (saving == Saving::Copy && storage != nullptr)) Control_.saved();
+        });
     }
     HRESULT STDMETHODCALLTYPE HandsOffStorage() noexcept override { return S_OK; }
 
 private:
-    HRESULT initialise() {
-        return Control_.begin([&] { Control_.control().InitProperties(); });
-    }
     /// Storages have a name of their own for what has begun already.
     static HRESULT onceOnly(HRESULT begun) { return begun == E_UNEXPECTED ? CO_E_ALREADYINITIALIZED : begun; }
+
+    /// A copy that went elsewhere saves nothing, unless the host goes on with it.
+    enum class Saving { None, InPlace, Copy };
+    Saving Unfinished_ = Saving::None;
 };
 
 }  // namespace
