@@ -4,7 +4,9 @@
 
 #include <array>
 #include <cwchar>
+#include <map>
 
+#include "platform/win32/base/AtEnd.h"
 #include "platform/win32/base/WideText.h"
 #include "platform/win32/home/SystemPicture.h"
 
@@ -103,6 +105,20 @@ RegionalSettings readRegion(const wchar_t* name) {
 const RegionalSettings& systemRegion() {
     static const RegionalSettings Region = readRegion(LOCALE_NAME_USER_DEFAULT);
     return Region;
+}
+
+const RegionalSettings& regionOf(std::uint32_t locale) {
+    static const LCID UserLocale = GetUserDefaultLCID();
+    if (locale == LOCALE_NEUTRAL || locale == LOCALE_USER_DEFAULT || locale == UserLocale) return systemRegion();
+    static SRWLOCK lock = SRWLOCK_INIT;
+    static std::map<std::uint32_t, RegionalSettings> regions;
+    AcquireSRWLockExclusive(&lock);
+    const AtEnd release([] { ReleaseSRWLockExclusive(&lock); });
+    const auto known = regions.find(locale);
+    if (known != regions.end()) return known->second;
+    std::array<wchar_t, LOCALE_NAME_MAX_LENGTH> name{};
+    if (LCIDToLocaleName(locale, name.data(), static_cast<int>(name.size()), 0) == 0) return systemRegion();
+    return regions.emplace(locale, readRegion(name.data())).first->second;
 }
 
 }  // namespace kel::win32

@@ -103,6 +103,40 @@ TEST(late_values_of_every_kind) {
     EXPECT_EQ(number.Value.vt, VT_I4);
 }
 
+TEST(late_texts_are_read_by_the_callers_locale) {
+    struct Case {
+        LCID locale;
+        Ref<IDispatch> object;
+        const wchar_t* member;
+        Var value;
+        const wchar_t* wanted;
+    };
+    constexpr LCID German = 0x407, American = 0x409, British = 0x809;
+    Var dateValue;
+    dateValue.Value = date(41348);
+    Var germanDate;
+    EXPECT_CODE(VariantChangeTypeEx(&germanDate.Value, &dateValue.Value, German, 0, VT_BSTR), S_OK);
+    const std::wstring germanText = described(germanDate.Value);
+    const auto number = create(L"KelControls8.KelNumber"), day = create(L"KelControls8.KelDate");
+    Case cases[] = {
+        {German, number, L"UpDownChange", Var(L"2,5"), L"double 2.5"},
+        {American, number, L"UpDownChange", Var(L"2.5"), L"double 2.5"},
+        {American, day, L"MaxValue", Var(L"3/4/2013"), L"date 41337"},
+        {British, day, L"MaxValue", Var(L"3/4/2013"), L"date 41367"},
+        {German, makeText().as<IDispatch>(), L"TextSaved", std::move(dateValue), germanText.c_str()},
+    };
+    for (Case& c : cases) {
+        std::wstring name = c.member;
+        wchar_t* names = name.data();
+        DISPID id = DISPID_UNKNOWN, put = DISPID_PROPERTYPUT;
+        EXPECT_CODE(c.object->GetIDsOfNames(IID_NULL, &names, 1, c.locale, &id), S_OK);
+        DISPPARAMS passed{&c.value.Value, &put, 1, 1};
+        EXPECT_CODE(c.object->Invoke(id, IID_NULL, c.locale, DISPATCH_PROPERTYPUT, &passed, nullptr, nullptr, nullptr),
+                    S_OK);
+        EXPECT_EQ(late(c.object.get(), c.member), std::wstring(c.wanted));
+    }
+}
+
 TEST(late_mistakes_have_their_codes) {
     const auto field = makeText();
     const auto handler = create(L"KelControls8.KelControlHandler");

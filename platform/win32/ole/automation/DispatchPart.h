@@ -38,10 +38,10 @@ public:
                                             DISPID* ids) noexcept override {
         return this->guarded([&] { return idsOfNames(Access_.model(), iid, names, count, ids); });
     }
-    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID iid, LCID /*locale*/, WORD flags, DISPPARAMS* arguments,
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* arguments,
                                      VARIANT* result, EXCEPINFO* exception, UINT* argumentError) noexcept override {
         return this->guarded(
-            [&] { return invoke(Access_, id, iid, flags, arguments, result, exception, argumentError); });
+            [&] { return invoke(Access_, id, iid, locale, flags, arguments, result, exception, argumentError); });
     }
 
 protected:

@@ -79,12 +79,12 @@ protected:
     HRESULT forwardPut(std::size_t index, In in) noexcept {
         return this->guarded([&] {
             const MemberRow& row = this->access().row(index);
-            return finish(this->access().put(row, argumentOf(row.type, in)));
+            return finish(this->access().put(row, argumentOf(row.type, in), LOCALE_USER_DEFAULT));
         });
     }
 
 private:
-    using Access = Outcome (MemberAccess::*)(const MemberRow&, std::span<Variant>, Variant&) const;
+    using Access = Outcome (MemberAccess::*)(const MemberRow&, std::span<Variant>, Variant&, LCID) const;
 
     template <class Out, class... In>
     HRESULT forward(std::size_t index, Out* out, Access reach, In... in) noexcept {
@@ -94,7 +94,7 @@ private:
             std::array<Variant, sizeof...(In)> values{argumentOf(row.parameterRows[next++].type, in)...};
             [[maybe_unused]] const auto before = values;
             Variant result;
-            const Outcome outcome = (this->access().*reach)(row, values, result);
+            const Outcome outcome = (this->access().*reach)(row, values, result, LOCALE_USER_DEFAULT);
             if (FAILED(outcome.code)) return finish(outcome);
             next = 0;
             static_cast<void>((..., (giveBack(row.parameterRows[next], before[next], values[next], in), ++next)));

@@ -17,8 +17,8 @@ constexpr std::size_t MostArguments = std::tuple_size_v<decltype(MemberRow::para
 /// What the caller handed over, in the order of the parameters.
 class PassedArguments {
 public:
-    PassedArguments(const DISPPARAMS& passed, const MemberRow& member)
-        : Passed_(passed), Parameters_(member.parameters()) {}
+    PassedArguments(const DISPPARAMS& passed, const MemberRow& member, LCID locale)
+        : Passed_(passed), Parameters_(member.parameters()), Locale_(locale) {}
 
     /// False, with `code` and `position` of the argument at fault, when they do not fit the parameters.
     HRESULT read(UINT* argumentError) {
@@ -45,7 +45,7 @@ public:
     void writeBackChanged(std::span<const Variant> before) const {
         for (std::size_t i = 0; i < Count_; ++i)
             if (Parameters_[i].byReference && Taken_[i] && Values_[i] != before[i])
-                writeBack(Values_[i], Passed_.rgvarg[Index_[i]]);
+                writeBack(Values_[i], Passed_.rgvarg[Index_[i]], Locale_);
     }
 
 private:
@@ -65,7 +65,7 @@ private:
         Count_ = std::max(Count_, parameter + 1);
         const VARIANT& passed = Passed_.rgvarg[index];
         try {
-            Values_[parameter] = valueFromAutomation(passed, Parameters_[parameter].type);
+            Values_[parameter] = valueFromAutomation(passed, Parameters_[parameter].type, Locale_);
         } catch (const AutomationError& error) {
             if (argumentError != nullptr) *argumentError = index;
             return error.code();
@@ -75,6 +75,7 @@ private:
 
     const DISPPARAMS& Passed_;
     std::span<const ParameterRow> Parameters_;
+    LCID Locale_;
     std::array<Variant, MostArguments> Values_;
     std::array<UINT, MostArguments> Index_{};
     std::array<bool, MostArguments> Taken_{};
@@ -86,44 +87,46 @@ HRESULT finish(const Outcome& outcome, UINT index, UINT* argumentError) {
     return outcome.code;
 }
 
-HRESULT invokePut(const MemberAccess& access, const MemberRow& row, const DISPPARAMS& passed, UINT* argumentError) {
+HRESULT invokePut(const MemberAccess& access, const MemberRow& row, LCID locale, const DISPPARAMS& passed,
+                  UINT* argumentError) {
     if (row.put == nullptr) return DISP_E_MEMBERNOTFOUND;
     const bool isNamed = passed.cNamedArgs == 1 && passed.rgdispidNamedArgs[0] == DISPID_PROPERTYPUT;
     if (passed.cArgs != 1 || (passed.cNamedArgs != 0 && !isNamed)) return DISP_E_BADPARAMCOUNT;
     Variant value;
     try {
-        value = valueFromAutomation(passed.rgvarg[0], row.type);
+        value = valueFromAutomation(passed.rgvarg[0], row.type, locale);
     } catch (const AutomationError& error) {
         if (argumentError != nullptr) *argumentError = 0;
         return error.code();
     }
-    return finish(access.put(row, value), 0, argumentError);
+    return finish(access.put(row, value, locale), 0, argumentError);
 }
 
-HRESULT invokeGetOrCall(const MemberAccess& access, const MemberRow& row, const DISPPARAMS& passed, VARIANT* result,
-                        UINT* argumentError) {
-    PassedArguments arguments(passed, row);
+HRESULT invokeGetOrCall(const MemberAccess& access, const MemberRow& row, LCID locale, const DISPPARAMS& passed,
+                        VARIANT* result, UINT* argumentError) {
+    PassedArguments arguments(passed, row, locale);
     const HRESULT fit = arguments.read(argumentError);
     if (FAILED(fit)) return fit;
     const auto values = arguments.values();
     std::array<Variant, MostArguments> before;
     std::copy(values.begin(), values.end(), before.begin());
     Variant value;
-    const Outcome outcome = row.isMethod ? access.call(row, values, value) : access.get(row, values, value);
+    const Outcome outcome =
+        row.isMethod ? access.call(row, values, value, locale) : access.get(row, values, value, locale);
     if (FAILED(outcome.code)) return finish(outcome, arguments.indexOf(outcome.argument), argumentError);
     arguments.writeBackChanged(before);
     if (result != nullptr) toAutomation(value, *result);
     return S_OK;
 }
 
-HRESULT dispatch(const MemberAccess& access, DISPID id, WORD flags, const DISPPARAMS& passed, VARIANT* result,
-                 UINT* argumentError) {
+HRESULT dispatch(const MemberAccess& access, DISPID id, LCID locale, WORD flags, const DISPPARAMS& passed,
+                 VARIANT* result, UINT* argumentError) {
     const MemberRow* row = findMember(access.model(), id);
     if (row == nullptr) return DISP_E_MEMBERNOTFOUND;
-    if ((flags & DISPATCH_PROPERTYPUT) != 0) return invokePut(access, *row, passed, argumentError);
+    if ((flags & DISPATCH_PROPERTYPUT) != 0) return invokePut(access, *row, locale, passed, argumentError);
     const WORD wanted = row->isMethod ? DISPATCH_METHOD : DISPATCH_PROPERTYGET;
     if ((flags & wanted) == 0) return DISP_E_MEMBERNOTFOUND;
-    return invokeGetOrCall(access, *row, passed, result, argumentError);
+    return invokeGetOrCall(access, *row, locale, passed, result, argumentError);
 }
 
 HRESULT fillIn(EXCEPINFO* exception, const ClassModel& model, const AutomationError& error) {
@@ -154,13 +157,15 @@ HRESULT idsOfNames(const ClassModel& model, REFIID iid, LPOLESTR* names, UINT co
     return std::find(ids, ids + count, DISPID_UNKNOWN) == ids + count ? S_OK : DISP_E_UNKNOWNNAME;
 }
 
-HRESULT invoke(const MemberAccess& access, DISPID id, REFIID iid, WORD flags, DISPPARAMS* arguments, VARIANT* result,
-               EXCEPINFO* exception, UINT* argumentError) {
+HRESULT invoke(const MemberAccess& access, DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* arguments,
+               VARIANT* result, EXCEPINFO* exception, UINT* argumentError) {
     if (!IsEqualGUID(iid, IID_NULL)) return DISP_E_UNKNOWNINTERFACE;
     if (arguments == nullptr) return E_INVALIDARG;
     if (result != nullptr) VariantInit(result);
+    // Hosts that know no locale mean the user's.
+    if (locale == LOCALE_NEUTRAL) locale = LOCALE_USER_DEFAULT;
     try {
-        return dispatch(access, id, flags, *arguments, result, argumentError);
+        return dispatch(access, id, locale, flags, *arguments, result, argumentError);
     } catch (const AutomationError& error) {
         return fillIn(exception, access.model(), error);
     }

@@ -8,7 +8,7 @@ namespace kel::win32::ole {
 HRESULT idsOfNames(const ClassModel& model, REFIID iid, LPOLESTR* names, UINT count, DISPID* ids);
 
 /// One late-bound call, as IDispatch has it.
-HRESULT invoke(const MemberAccess& access, DISPID id, REFIID iid, WORD flags, DISPPARAMS* arguments, VARIANT* result,
-               EXCEPINFO* exception, UINT* argumentError);
+HRESULT invoke(const MemberAccess& access, DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* arguments,
+               VARIANT* result, EXCEPINFO* exception, UINT* argumentError);
 
 }  // namespace kel::win32::ole

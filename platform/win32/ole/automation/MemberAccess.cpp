@@ -39,18 +39,18 @@ Outcome MemberAccess::outcome(DispatchFault fault, const MemberRow& member, std:
     return {codeOf(fault, member, arguments), fault.argument, describeFault(fault, model(), member.name, arguments)};
 }
 
-Outcome MemberAccess::get(const MemberRow& member, std::span<Variant> arguments, Variant& result) const {
-    return outcome(getMember(Object_, member, arguments, result, systemRegion()), member, arguments);
+Outcome MemberAccess::get(const MemberRow& member, std::span<Variant> arguments, Variant& result, LCID locale) const {
+    return outcome(getMember(Object_, member, arguments, result, regionOf(locale)), member, arguments);
 }
 
-Outcome MemberAccess::put(const MemberRow& member, const Variant& value) const {
+Outcome MemberAccess::put(const MemberRow& member, const Variant& value, LCID locale) const {
     if (member.put != nullptr && Gate_ != nullptr && !Gate_->mayPut(member))
         return {.code = S_FALSE, .description = {}};
-    return outcome(putMember(Object_, member, value, systemRegion()), member, {&value, 1});
+    return outcome(putMember(Object_, member, value, regionOf(locale)), member, {&value, 1});
 }
 
-Outcome MemberAccess::call(const MemberRow& member, std::span<Variant> arguments, Variant& result) const {
-    return outcome(callMember(Object_, member, arguments, result, systemRegion()), member, arguments);
+Outcome MemberAccess::call(const MemberRow& member, std::span<Variant> arguments, Variant& result, LCID locale) const {
+    return outcome(callMember(Object_, member, arguments, result, regionOf(locale)), member, arguments);
 }
 
 }  // namespace kel::win32::ole

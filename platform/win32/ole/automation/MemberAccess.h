@@ -35,10 +35,11 @@ public:
     const ClassModel& model() const { return Model_; }
     const MemberRow& row(std::size_t index) const { return model().members[index]; }
 
-    Outcome get(const MemberRow& member, std::span<Variant> arguments, Variant& result) const;
+    /// What the caller gives as a text is read by the rules of `locale`.
+    Outcome get(const MemberRow& member, std::span<Variant> arguments, Variant& result, LCID locale) const;
     /// S_FALSE when the host did not let it happen.
-    Outcome put(const MemberRow& member, const Variant& value) const;
-    Outcome call(const MemberRow& member, std::span<Variant> arguments, Variant& result) const;
+    Outcome put(const MemberRow& member, const Variant& value, LCID locale) const;
+    Outcome call(const MemberRow& member, std::span<Variant> arguments, Variant& result, LCID locale) const;
 
 private:
     Outcome outcome(DispatchFault fault, const MemberRow& member, std::span<const Variant> arguments) const;

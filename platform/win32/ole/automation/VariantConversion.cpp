@@ -18,13 +18,13 @@ constexpr int DefaultPropertyDepth = 8;
 
 [[noreturn]] void mismatch() { throw AutomationError(DISP_E_TYPEMISMATCH, "a value of this type is not understood"); }
 
-void changeType(VARIANT& out, const VARIANT& in, VARTYPE type) {
-    check(VariantChangeType(&out, const_cast<VARIANT*>(&in), 0, type), "the value has no such form");
+void changeType(VARIANT& out, const VARIANT& in, VARTYPE type, LCID locale) {
+    check(VariantChangeTypeEx(&out, const_cast<VARIANT*>(&in), locale, 0, type), "the value has no such form");
 }
 
 Variant doubleOf(const VARIANT& in) {
     OwnedVariant number;
-    changeType(*number, in, VT_R8);
+    changeType(*number, in, VT_R8, LOCALE_INVARIANT);
     return number->dblVal;
 }
 
@@ -59,19 +59,19 @@ void defaultProperty(const VARIANT& in, VARIANT& out, int depth) {
 }
 
 /// A number in a text stays one: it counts days.
-Variant textAsDate(Variant value) {
+Variant textAsDate(Variant value, LCID locale) {
     const auto* const text = std::get_if<std::u16string>(&value);
     double number = 0;
-    if (text == nullptr || readPlainNumber(*text, systemRegion(), number)) return value;
+    if (text == nullptr || readPlainNumber(*text, regionOf(locale), number)) return value;
     DATE serial = 0;
-    const bool isDate = SUCCEEDED(VarDateFromStr(wide(*text).data(), LOCALE_USER_DEFAULT, 0, &serial));
+    const bool isDate = SUCCEEDED(VarDateFromStr(wide(*text).data(), locale, 0, &serial));
     return isDate ? Variant(Date{serial}) : value;
 }
 
-Variant dateAsText(Variant value) {
+Variant dateAsText(Variant value, LCID locale) {
     const auto* const date = std::get_if<Date>(&value);
     OwnedVariant text;
-    if (date == nullptr || FAILED(VarBstrFromDate(date->Serial, LOCALE_USER_DEFAULT, 0, &text->bstrVal))) return value;
+    if (date == nullptr || FAILED(VarBstrFromDate(date->Serial, locale, 0, &text->bstrVal))) return value;
     text->vt = VT_BSTR;
     return textOf(text->bstrVal);
 }
@@ -116,14 +116,14 @@ void swapInto(void* slot, VARIANT& value) {
     }
 }
 
-std::u16string elementText(const VARIANT& element) {
+std::u16string elementText(const VARIANT& element, LCID locale) {
     OwnedVariant text;
-    changeType(*text, element, VT_BSTR);
+    changeType(*text, element, VT_BSTR, locale);
     return textOf(text->bstrVal);
 }
 
 /// A null array has none.
-StringArray textsIn(SAFEARRAY* array) {
+StringArray textsIn(SAFEARRAY* array, LCID locale) {
     if (array == nullptr) return {};
     VARTYPE type = VT_EMPTY;
     if (SafeArrayGetDim(array) != 1 || FAILED(SafeArrayGetVartype(array, &type))) mismatch();
@@ -133,8 +133,8 @@ StringArray textsIn(SAFEARRAY* array) {
     const AtEnd done([array] { SafeArrayUnaccessData(array); });
     StringArray texts(array->rgsabound[0].cElements);
     for (std::size_t i = 0; i < texts.size(); ++i)
-        texts[i] =
-            type == VT_BSTR ? textOf(static_cast<BSTR*>(elements)[i]) : elementText(static_cast<VARIANT*>(elements)[i]);
+        texts[i] = type == VT_BSTR ? textOf(static_cast<BSTR*>(elements)[i])
+                                   : elementText(static_cast<VARIANT*>(elements)[i], locale);
     return texts;
 }
 
@@ -176,13 +176,13 @@ struct Writer {
 
 }  // namespace
 
-Variant fromAutomation(const VARIANT& in) {
+Variant fromAutomation(const VARIANT& in, LCID locale) {
     if ((in.vt & VT_BYREF) != 0) {
         OwnedVariant value;
         copyFollowing(in, *value);
-        return fromAutomation(*value);
+        return fromAutomation(*value, locale);
     }
-    if ((in.vt & VT_ARRAY) != 0) return textsIn(in.parray);
+    if ((in.vt & VT_ARRAY) != 0) return textsIn(in.parray, locale);
     switch (in.vt) {
         case VT_EMPTY: return Empty{};
         case VT_NULL: return Null{};
@@ -212,34 +212,34 @@ Variant fromAutomation(const VARIANT& in) {
     }
 }
 
-Variant valueFromAutomation(const VARIANT& in) {
-    if (!isObject(in)) return fromAutomation(in);
+Variant valueFromAutomation(const VARIANT& in, LCID locale) {
+    if (!isObject(in)) return fromAutomation(in, locale);
     OwnedVariant plain;
     copyFollowing(in, *plain);
     OwnedVariant value;
     defaultProperty(*plain, *value, DefaultPropertyDepth);
-    return fromAutomation(*value);
+    return fromAutomation(*value, locale);
 }
 
-Variant valueFromAutomation(const VARIANT& in, TypeTag type) {
-    if (type == TypeTag::Object) return fromAutomation(in);
-    Variant value = valueFromAutomation(in);
-    if (type == TypeTag::Date) return textAsDate(std::move(value));
-    if (type == TypeTag::String) return dateAsText(std::move(value));
+Variant valueFromAutomation(const VARIANT& in, TypeTag type, LCID locale) {
+    if (type == TypeTag::Object) return fromAutomation(in, locale);
+    Variant value = valueFromAutomation(in, locale);
+    if (type == TypeTag::Date) return textAsDate(std::move(value), locale);
+    if (type == TypeTag::String) return dateAsText(std::move(value), locale);
     return value;
 }
 
 void toAutomation(const Variant& value, VARIANT& out) { std::visit(Writer{out}, value); }
 
-void writeBack(const Variant& value, const VARIANT& target) {
+void writeBack(const Variant& value, const VARIANT& target, LCID locale) {
     if ((target.vt & VT_BYREF) == 0 || target.byref == nullptr) return;
     const bool isVariant = target.vt == (VT_BYREF | VT_VARIANT);
-    if (isVariant && (target.pvarVal->vt & VT_BYREF) != 0) return writeBack(value, *target.pvarVal);
+    if (isVariant && (target.pvarVal->vt & VT_BYREF) != 0) return writeBack(value, *target.pvarVal, locale);
     OwnedVariant made;
     toAutomation(value, *made);
     if (isVariant) return std::swap(*target.pvarVal, *made);
     OwnedVariant fitting;
-    changeType(*fitting, *made, static_cast<VARTYPE>(target.vt & ~VT_BYREF));
+    changeType(*fitting, *made, static_cast<VARTYPE>(target.vt & ~VT_BYREF), locale);
     swapInto(target.byref, *fitting);
 }
 
