@@ -10,7 +10,8 @@ namespace {
 constexpr MemberRow Members[] = {
     method<&KelControlHandler::SetRuntime>(u"SetRuntime", 0x60030000,
                                            u"Hands the host's run-time object to the library")
-        .arguments(u"Runtime"),
+        .arguments(u"Runtime")
+        .forTrusted(),
 };
 
 ObjectPtr make(SharedSettings& settings) { return std::make_shared<KelControlHandler>(settings); }
@@ -29,6 +30,7 @@ const ClassModel& KelControlHandler::model() const { return KelControlHandlerMod
 void KelControlHandler::SetRuntime(const ObjectPtr& runtime) {
     auto known = std::dynamic_pointer_cast<Runtime>(runtime);
     if (!known) throw AutomationError(UnknownNameCode, "the object is no run-time object: it has no DecimalSeparator");
+    Settings_.HandedOver = true;
     adoptRuntime(Settings_, std::move(known));
 }
 

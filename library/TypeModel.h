@@ -111,6 +111,7 @@ struct MemberRow {
     bool isMethod = false;
     bool hidden = false;          ///< not listed by browsers and designers
     bool putByReference = false;  ///< the put's argument is a pointer; the caller's variable never changes
+    bool trusted = false;         ///< not for a script that its host does not trust
     TypeTag type = TypeTag::None;
     Thunk get = nullptr;
     Thunk put = nullptr;
@@ -142,6 +143,11 @@ struct MemberRow {
         MemberRow row = *this;
         row.hidden = true;
         row.putByReference = true;
+        return row;
+    }
+    constexpr MemberRow forTrusted() const {
+        MemberRow row = *this;
+        row.trusted = true;
         return row;
     }
     constexpr MemberRow byReference() const {

@@ -9,7 +9,6 @@
 #include "platform/win32/base/Gdi.h"
 #include "platform/win32/base/MessageBox.h"
 #include "platform/win32/base/WideText.h"
-#include "platform/win32/home/Win32Region.h"
 #include "values/Calendar.h"
 
 namespace kel::win32 {
@@ -59,8 +58,6 @@ bool Win32System::tabKeyDown() const { return GetKeyState(VK_TAB) < 0; }
 std::int32_t Win32System::twipsPerPixel() const { return twipsPerPixelAt(measure(LOGPIXELSX)); }
 
 std::int32_t Win32RuntimeServices::colorDepth() const { return measure(BITSPIXEL) * measure(PLANES); }
-
-const RegionalSettings& Win32RuntimeServices::region() const { return systemRegion(); }
 
 FontChoice Win32RuntimeServices::messageFont() {
     NONCLIENTMETRICSW metrics{};

@@ -1,7 +1,14 @@
 // Objects and what they leave behind.
 
+#include <objsafe.h>
+
+#include <optional>
+
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/ole/Host.h"
+
+// The system's header leaves it without.
+__CRT_UUID_DECL(IObjectSafety, 0xcb5bdc81, 0x93c1, 0x11cf, 0x8f, 0x20, 0x00, 0x80, 0x5f, 0x2c, 0xd0, 0x64)
 
 using namespace kel;
 using namespace kel::tests;
@@ -49,6 +56,77 @@ void liveOnce(IStream* stream) {
     Ref<IStream> saved;
     CreateStreamOnHGlobal(nullptr, TRUE, saved.receive());
     EXPECT_CODE(field.as<IPersistStreamInit>()->Save(saved.get(), TRUE), S_OK);
+}
+
+struct Elsewhere {
+    const std::function<void()>& body;
+    std::optional<Failure> failure;
+
+    static DWORD WINAPI run(void* elsewhere) {
+        auto& self = *static_cast<Elsewhere*>(elsewhere);
+        OleInitialize(nullptr);
+        try {
+            self.body();
+        } catch (const Failure& caught) {
+            self.failure = caught;
+        }
+        OleUninitialize();
+        return 0;
+    }
+};
+
+/// Runs `body` on a thread with an apartment of its own, while this one serves its calls. What fails there fails here.
+void inAnotherApartment(const std::function<void()>& body) {
+    Elsewhere elsewhere{body, {}};
+    HANDLE thread = CreateThread(nullptr, 0, &Elsewhere::run, &elsewhere, 0, nullptr);
+    EXPECT(thread != nullptr);
+    while (MsgWaitForMultipleObjects(1, &thread, FALSE, INFINITE, QS_ALLINPUT) != WAIT_OBJECT_0) settle();
+    CloseHandle(thread);
+    if (elsewhere.failure) throw *elsewhere.failure;
+}
+
+void inAnotherApartment(const Ref<_KelText>& field, const std::function<void(_KelText&)>& body) {
+    Ref<IStream> handedOver;
+    EXPECT_CODE(CoMarshalInterThreadInterfaceInStream(__uuidof(_KelText), field.get(), handedOver.receive()), S_OK);
+    inAnotherApartment([&] {
+        Ref<_KelText> proxy;
+        EXPECT_CODE(CoUnmarshalInterface(handedOver.get(), __uuidof(_KelText), proxy.receiveVoid()), S_OK);
+        body(*proxy.get());
+    });
+}
+
+/// A host's run-time object: gives what the default one gives, and counts how often it is asked.
+class HostRuntime final : public StackObject<IDispatch> {
+public:
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID locale,
+                                            DISPID* ids) override {
+        return Default->GetIDsOfNames(iid, names, count, locale, ids);
+    }
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* passed,
+                                     VARIANT* result, EXCEPINFO* exception, UINT* argument) override {
+        ++Asked;
+        return Default->Invoke(id, iid, locale, flags, passed, result, exception, argument);
+    }
+
+    HRESULT handOver() {
+        VARIANT self = plain(VT_DISPATCH);
+        self.pdispVal = this;
+        return invoke(create(L"KelControls8.KelControlHandler").get(), L"SetRuntime", DISPATCH_METHOD, {self});
+    }
+
+    Ref<IDispatch> Default;
+    int Asked = 0;
+};
+
+/// A form is opened, a date typed into it, and closed.
+void liveWithDate() {
+    const auto day = makeDate();
+    Bag bag;
+    EXPECT_CODE(load(day.get(), bag), S_OK);
+    EXPECT_CODE(put(day.get(), L"Value", Var(L"15mar2013").Value), S_OK);
+    EXPECT_EQ(late(day.get(), L"Value"), L"date 41348");
 }
 
 /// A larger object that takes a control into itself.
@@ -108,6 +186,40 @@ TEST(life_as_part_of_a_larger_object) {
     outer.Inner.reset();
 }
 
+TEST(life_of_an_object_that_strangers_may_call) {
+    struct Row {
+        const wchar_t* object;
+        DWORD promises;
+        bool handsOver;
+    };
+    constexpr DWORD Caller = INTERFACESAFE_FOR_UNTRUSTED_CALLER, Data = INTERFACESAFE_FOR_UNTRUSTED_DATA;
+    const Row rows[] = {{L"KelControls8.KelText", Caller | Data, false},
+                        {L"KelControls8.KelProgressBar", Caller | Data, false},
+                        {L"KelControls8.KelControlHandler", Caller, true}};
+    for (const Row& row : rows) {
+        const auto object = create(row.object);
+        const auto safety = object.as<IObjectSafety>();
+        EXPECT(safety);
+        DWORD promised = 0, kept = 0;
+        EXPECT_CODE(safety->GetInterfaceSafetyOptions(IID_IDispatch, &promised, &kept), S_OK);
+        EXPECT_EQ(promised, row.promises);
+        EXPECT_EQ(kept, 0UL);
+        EXPECT_CODE(safety->SetInterfaceSafetyOptions(IID_IMarshal, Caller, Caller), E_NOINTERFACE);
+        EXPECT_CODE(safety->SetInterfaceSafetyOptions(IID_IDispatch, Caller | INTERFACE_USES_DISPEX, Caller), E_FAIL);
+        EXPECT_CODE(safety->SetInterfaceSafetyOptions(IID_IDispatch, row.promises, Caller), S_OK);
+        EXPECT_CODE(safety->GetInterfaceSafetyOptions(IID_IDispatch, &promised, &kept), S_OK);
+        EXPECT_EQ(kept, Caller);
+        if (!row.handsOver) continue;
+        // The object would be that of every control in the apartment, other pages' too.
+        VARIANT runtime = plain(VT_DISPATCH);
+        runtime.pdispVal = object.get();
+        EXPECT_CODE(invoke(object.get(), L"SetRuntime", DISPATCH_METHOD, {runtime}), E_ACCESSDENIED);
+        EXPECT_CODE(object.as<_KelControlHandler>()->SetRuntime(object.get()), E_ACCESSDENIED);
+    }
+    // It presses keys.
+    EXPECT(!create(L"KelRuntime8.Runtime").as<IObjectSafety>());
+}
+
 TEST(life_quick_activation) {
     Host host;
     const auto field = makeText();
@@ -145,6 +257,26 @@ TEST(life_a_thousand_cycles_leave_nothing) {
     EXPECT(after.drawing <= before.drawing + 2);
     EXPECT_CODE(Server(L"KelControls8.ocx").canUnload(), S_OK);
     EXPECT_CODE(Server(L"KelRuntime8.dll").canUnload(), S_OK);
+}
+
+TEST(life_of_a_run_time_object_is_that_of_its_apartment) {
+    HostRuntime runtime;
+    inAnotherApartment([&] {
+        runtime.Default = create(L"KelRuntime8.Runtime");
+        EXPECT_CODE(runtime.handOver(), S_OK);
+        liveWithDate();
+        const int asked = runtime.Asked;
+        EXPECT(asked > 0);
+        inAnotherApartment(&liveWithDate);
+        EXPECT_EQ(runtime.Asked, asked);
+        // With its last form closed a host that tidies up keeps what it has handed over.
+        EXPECT_CODE(Server(L"KelControls8.ocx").canUnload(), S_FALSE);
+        liveWithDate();
+        EXPECT(runtime.Asked > asked);
+        runtime.Default.reset();
+    });
+    EXPECT_EQ(runtime.References, 1L);
+    EXPECT_CODE(Server(L"KelControls8.ocx").canUnload(), S_OK);
 }
 
 TEST(life_embedded_in_a_document) {
@@ -187,6 +319,15 @@ TEST(manifest_makes_objects_without_registration) {
         const auto field = makeText();
         EXPECT_CODE(field->put_Text(Str(L"unregistered")), S_OK);
         EXPECT_EQ(text(field.get()), std::wstring(L"unregistered"));
+        Ref<IEnumOLEVERB> verbs;
+        EXPECT_CODE(field.as<IOleObject>()->EnumVerbs(verbs.receive()), S_OK);
+        OLEVERB verb{};
+        EXPECT_CODE(verbs->Next(1, &verb, nullptr), S_OK);
+        EXPECT_EQ(verb.lVerb, static_cast<LONG>(OLEIVERB_PRIMARY));
+        CoTaskMemFree(verb.lpszVerbName);
+        inAnotherApartment(field,
+                           [](_KelText& proxy) { EXPECT_CODE(proxy.put_Caption(Str(L"from elsewhere")), S_OK); });
+        EXPECT_EQ(captionOf(field.get()), std::wstring(L"from elsewhere"));
         EXPECT(create(L"KelRuntime8.Runtime"));
         // Hosts ask before they make an object.
         for (const wchar_t* name : {L"KelControls8.KelText", L"KelControls8.KelProgressBar"}) {

@@ -19,7 +19,7 @@ protected:
 template <class Interface>
 class DispatchPart : public Part<Interface> {
 public:
-    DispatchPart(ComObject& whole, Object& object, const ClassModel& model, PutGate* gate, TypeDescriptions* types)
+    DispatchPart(ComObject& whole, Object& object, const ClassModel& model, MemberGate* gate, TypeDescriptions* types)
         : Part<Interface>(whole), Access_(object, model, gate), Types_(types) {}
 
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override {

@@ -2,29 +2,30 @@
 
 #include <new>
 
-#include "platform/win32/ole/runtime/AutomationRuntime.h"
+#include "platform/win32/base/WindowClass.h"
 
 namespace kel::win32::ole {
 
 namespace {
 
-/// The registered default run-time object; none where `KelRuntime8` is not installed.
-std::shared_ptr<Runtime> createRegisteredRuntime() {
-    ComPtr<IDispatch> object;
-    const HRESULT result = CoCreateInstance(toGuid(identities::Runtime), nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
-                                            object.receiveVoid());
-    if (FAILED(result)) return nullptr;
-    return automationRuntime(std::move(object));
+class Locked {
+public:
+    explicit Locked(SRWLOCK& lock) : Lock_(lock) { AcquireSRWLockExclusive(&Lock_); }
+    ~Locked() { ReleaseSRWLockExclusive(&Lock_); }
+    Locked(const Locked&) = delete;
+    Locked& operator=(const Locked&) = delete;
+
+private:
+    SRWLOCK& Lock_;
+};
+
+/// As long as the system may call into this code, whoever has loaded its file cannot take it away.
+void holdModule() {
+    HMODULE module = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS, reinterpret_cast<LPCWSTR>(&thisModule), &module);
 }
 
 }  // namespace
-
-Library::Library() {
-    Settings_.makeDefaultRuntime = [this] {
-        auto runtime = createRegisteredRuntime();
-        return runtime ? runtime : makeRuntime(Services_);
-    };
-}
 
 Library& Library::instance() {
     // Never destroyed: when a process ends, the objects it would let go may be gone already.
@@ -33,19 +34,65 @@ Library& Library::instance() {
     return *Instance;
 }
 
-ITypeLib& Library::typeLibrary() {
-    if (!TypeLibrary_)
-        check(LoadTypeLibEx(moduleFile().c_str(), REGKIND_NONE, TypeLibrary_.receive()), "the type library is missing");
-    return *TypeLibrary_.get();
+// ---- Apartments
+
+std::shared_ptr<Apartment> Library::apartment() {
+    {
+        const Locked locked(Lock_);
+        const auto known = Apartments_.find(GetCurrentThreadId());
+        if (known != Apartments_.end()) return known->second;
+    }
+    // Nobody else makes that of this thread meanwhile.
+    auto made = std::make_shared<Apartment>(&Library::apartmentEnds);
+    holdModule();
+    const Locked locked(Lock_);
+    Apartments_.emplace(GetCurrentThreadId(), made);
+    return made;
 }
 
-HRESULT Library::typeInfo(REFGUID guid, ITypeInfo** out) { return typeLibrary().GetTypeInfoOfGuid(guid, out); }
+std::shared_ptr<Apartment> Library::takeApartment(bool handedOverToo) {
+    const Locked locked(Lock_);
+    const auto known = Apartments_.find(GetCurrentThreadId());
+    if (known == Apartments_.end() || (known->second->settings().HandedOver && !handedOverToo)) return nullptr;
+    std::shared_ptr<Apartment> taken = std::move(known->second);
+    Apartments_.erase(known);
+    return taken;
+}
+
+void Library::endApartment(bool handedOverToo) {
+    const std::shared_ptr<Apartment> ended = takeApartment(handedOverToo);
+    if (!ended) return;
+    ended->end();
+    const Locked locked(Lock_);
+    ++EndedApartments_;
+}
+
+void Library::apartmentEnds() { instance().endApartment(true); }
 
 bool Library::releaseIfIdle() {
     if (!Module_.idle()) return false;
-    const std::shared_ptr<Runtime> last = std::move(Settings_.Runtime);
-    TypeLibrary_ = {};
-    return true;
+    endApartment(false);
+    ComPtr<ITypeLib> types;
+    const Locked locked(Lock_);
+    std::swap(types, TypeLibrary_);
+    // Who asks holds the file by itself; when a thread ended, nobody else might have.
+    for (; EndedApartments_ > 0; --EndedApartments_) FreeLibrary(thisModule());
+    return Apartments_.empty();
 }
+
+// ---- Types
+
+ComPtr<ITypeLib> Library::typeLibrary() {
+    {
+        const Locked locked(Lock_);
+        if (TypeLibrary_) return TypeLibrary_;
+    }
+    ComPtr<ITypeLib> loaded;
+    check(LoadTypeLibEx(moduleFile().c_str(), REGKIND_NONE, loaded.receive()), "the type library is missing");
+    const Locked locked(Lock_);
+    return TypeLibrary_ = loaded;
+}
+
+HRESULT Library::typeInfo(REFGUID guid, ITypeInfo** out) { return typeLibrary()->GetTypeInfoOfGuid(guid, out); }
 
 }  // namespace kel::win32::ole

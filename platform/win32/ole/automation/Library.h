@@ -1,7 +1,8 @@
 #pragma once
 
-#include "library/SharedSettings.h"
-#include "platform/win32/home/Win32Services.h"
+#include <map>
+
+#include "platform/win32/ole/automation/Apartment.h"
 #include "platform/win32/ole/automation/DualPart.h"
 
 namespace kel::win32::ole {
@@ -15,22 +16,29 @@ public:
     Library& operator=(const Library&) = delete;
 
     Module& module() { return Module_; }
-    SharedSettings& settings() { return Settings_; }
 
-    /// The type library that the file itself holds.
-    ITypeLib& typeLibrary();
+    /// That of the calling thread.
+    std::shared_ptr<Apartment> apartment();
+
     HRESULT typeInfo(REFGUID guid, ITypeInfo** out) override;
 
-    /// True when no object is alive. The run-time object is let go then: nobody is there to use it, and
-    /// when the file is unloaded it is too late.
+    /// True when no object is alive and no host has a run-time object here: settings outlive the controls of a form
+    /// that is closed, for the next one.
     bool releaseIfIdle();
 
 private:
-    Library();
+    Library() = default;
+
+    /// The type library that the file itself holds.
+    ComPtr<ITypeLib> typeLibrary();
+    static void apartmentEnds();
+    std::shared_ptr<Apartment> takeApartment(bool handedOverToo);
+    void endApartment(bool handedOverToo);
 
     Module Module_;
-    Win32RuntimeServices Services_;
-    SharedSettings Settings_;
+    SRWLOCK Lock_ = SRWLOCK_INIT;  ///< for what follows
+    std::map<DWORD, std::shared_ptr<Apartment>> Apartments_;
+    int EndedApartments_ = 0;  ///< that hold the file of this code still
     ComPtr<ITypeLib> TypeLibrary_;
 };
 

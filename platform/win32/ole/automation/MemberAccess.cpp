@@ -50,6 +50,8 @@ Outcome MemberAccess::put(const MemberRow& member, const Variant& value, LCID lo
 }
 
 Outcome MemberAccess::call(const MemberRow& member, std::span<Variant> arguments, Variant& result, LCID locale) const {
+    if (Gate_ != nullptr && !Gate_->mayCall(member))
+        return {.code = E_ACCESSDENIED, .description = u"this member is not for scripts that are not trusted"};
     return outcome(callMember(Object_, member, arguments, result, regionOf(locale)), member, arguments);
 }
 

@@ -7,14 +7,16 @@
 
 namespace kel::win32::ole {
 
-/// Asked before a property is put from outside.
-class PutGate {
+/// Asked before a member is reached for from outside.
+class MemberGate {
 public:
     /// False: the host wants the property to stay as it is.
-    virtual bool mayPut(const MemberRow& member) = 0;
+    virtual bool mayPut(const MemberRow& /*member*/) { return true; }
+    /// False: it is not for a caller of this kind.
+    virtual bool mayCall(const MemberRow& /*member*/) const { return true; }
 
 protected:
-    ~PutGate() = default;
+    ~MemberGate() = default;
 };
 
 /// What came of reaching for a member.
@@ -29,7 +31,7 @@ struct Outcome {
 class MemberAccess {
 public:
     /// `gate` may be null. All of them outlive this.
-    MemberAccess(Object& object, const ClassModel& model, PutGate* gate)
+    MemberAccess(Object& object, const ClassModel& model, MemberGate* gate)
         : Object_(object), Model_(model), Gate_(gate) {}
 
     const ClassModel& model() const { return Model_; }
@@ -46,7 +48,7 @@ private:
 
     Object& Object_;
     const ClassModel& Model_;
-    PutGate* Gate_;
+    MemberGate* Gate_;
 };
 
 }  // namespace kel::win32::ole

@@ -8,6 +8,8 @@ namespace {
 
 constexpr wchar_t ControlCategory[] = L"{40FC6ED4-2438-11CF-A3DB-080036F12502}";
 constexpr wchar_t AutomationCategory[] = L"{40FC6ED5-2438-11CF-A3DB-080036F12502}";
+constexpr wchar_t SafeForScriptingCategory[] = L"{7DD95801-9882-11CF-9FA9-00AA006C42C4}";
+constexpr wchar_t SafeForInitializingCategory[] = L"{7DD95802-9882-11CF-9FA9-00AA006C42C4}";
 
 void checkWin32(LSTATUS status, const char* what) { check(HRESULT_FROM_WIN32(static_cast<DWORD>(status)), what); }
 
@@ -74,7 +76,9 @@ void writeControl(const Key& key, const ClassEntry& entry) {
     key.sub(L"Control");
     key.sub(L"MiscStatus").set(L"0").sub(L"1").set(std::to_wstring(entry.miscStatus));
     key.sub(L"ToolboxBitmap32").set(moduleFile() + L", " + std::to_wstring(entry.toolboxPicture));
-    key.sub(L"Implemented Categories").sub(ControlCategory);
+    const Key categories = key.sub(L"Implemented Categories");
+    for (const wchar_t* const category : {ControlCategory, SafeForScriptingCategory, SafeForInitializingCategory})
+        categories.sub(category);
 }
 
 void writeClass(const Key& classes, const ClassEntry& entry, const LibraryEntry& library) {

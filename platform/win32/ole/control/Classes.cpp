@@ -5,6 +5,7 @@
 
 #include "controls/Classes.h"
 #include "KelControls8Forward.h"
+#include "platform/win32/ole/com/SafetyPart.h"
 #include "platform/win32/ole/control/OleControl.h"
 
 namespace kel::win32::ole {
@@ -13,25 +14,31 @@ namespace {
 
 /// A creatable class that is no control.
 template <class Dual, class Interface>
-class PlainObject final : public ComObject {
+class PlainObject final : public ComObject, private MemberGate {
 public:
     PlainObject(Library& library, const ClassModel& model, const ClassIdentity& identity, IUnknown* outer)
         : ComObject(library.module(), outer),
-          Object_(model.makeObject(library.settings())),
-          Dual_(*this, *Object_, model, nullptr, &library),
-          ClassInfo_(*this, identity, library) {}
+          Apartment_(library.apartment()),
+          Object_(model.makeObject(Apartment_->settings())),
+          Dual_(*this, *Object_, model, this, &library),
+          ClassInfo_(*this, identity, library),
+          Safety_(*this, INTERFACESAFE_FOR_UNTRUSTED_CALLER) {}
 
 protected:
     void* find(REFIID iid) override {
         void* const found = asOneOf<IDispatch, Interface>(iid, Dual_);
         if (found != nullptr) return found;
+        if (void* const safety = Safety_.find(iid)) return safety;
         return ClassInfo_.find(iid);
     }
+    bool mayCall(const MemberRow& member) const override { return !member.trusted || !Safety_.hasUntrustedCaller(); }
 
 private:
+    std::shared_ptr<Apartment> Apartment_;
     ObjectPtr Object_;
     Dual Dual_;
     ClassInfoPart ClassInfo_;
+    SafetyPart Safety_;
 };
 
 template <class Dual, class Interface>

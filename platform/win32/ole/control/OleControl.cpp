@@ -25,14 +25,17 @@ OleControl::OleControl(Library& library, const ClassModel& model, const ClassIde
     : ComObject(library.module(), outer),
       Model_(model),
       Identity_(identity),
+      Apartment_(library.apartment()),
       System_(*this),
       Activation_(*this),
       Connections_(*this, toGuid(identity.events)),
       ClassInfo_(*this, identity, library),
+      // Its members reach nothing outside the page, and properties that are damaged are refused.
+      Safety_(*this, INTERFACESAFE_FOR_UNTRUSTED_CALLER | INTERFACESAFE_FOR_UNTRUSTED_DATA),
       Parts_{makeEmbeddedPart(*this), makeKeysPart(*this), makeInPlacePart(*this), makePicturePart(*this),
              makePersistPart(*this)},
       Window_(*this, System_) {
-    ControlHost host{*this, Window_.widgets(), System_, library.settings(), systemRegion()};
+    ControlHost host{*this, Window_.widgets(), System_, Apartment_->settings(), systemRegion()};
     Control_ = model.makeControl(host);
     Control_->Initialize();
 }
@@ -43,6 +46,7 @@ void* OleControl::find(REFIID iid) {
     for (const auto& part : Parts_)
         if (void* const found = part->find(iid)) return found;
     if (void* const found = asOneOf<IConnectionPointContainer>(iid, Connections_)) return found;
+    if (void* const found = Safety_.find(iid)) return found;
     return ClassInfo_.find(iid);
 }
 

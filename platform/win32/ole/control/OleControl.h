@@ -9,6 +9,7 @@
 #include "platform/win32/control/ControlWindow.h"
 #include "platform/win32/ole/automation/Library.h"
 #include "platform/win32/ole/com/ConnectionPoints.h"
+#include "platform/win32/ole/com/SafetyPart.h"
 #include "platform/win32/ole/control/Activation.h"
 #include "platform/win32/ole/control/ClassInfoPart.h"
 #include "platform/win32/ole/control/ClientSite.h"
@@ -19,7 +20,7 @@ namespace kel::win32::ole {
 
 /// A control as component hosts see it: the control itself, its window, its place in the host, and the
 /// parts through which the host works them. The dispatch interface comes with `ControlObject`.
-class OleControl : public ComObject, private Container, private ControlWindowOwner, protected PutGate {
+class OleControl : public ComObject, private Container, private ControlWindowOwner, protected MemberGate {
 public:
     OleControl(Library& library, const ClassModel& model, const ClassIdentity& identity, IUnknown* outer);
     ~OleControl() override;
@@ -95,6 +96,7 @@ private:
 
     const ClassModel& Model_;
     const ClassIdentity& Identity_;
+    std::shared_ptr<Apartment> Apartment_;
     ControlSystem System_;
     ClientSite Site_;
     Viewer Viewer_;
@@ -110,6 +112,7 @@ private:
     Activation Activation_;
     ConnectionPointsPart Connections_;
     ClassInfoPart ClassInfo_;
+    SafetyPart Safety_;
     std::array<std::unique_ptr<ControlInterfaces>, 5> Parts_;
     ControlWindow Window_;
     std::unique_ptr<Control> Control_;  ///< last: it leans on all of the above

@@ -1,0 +1,80 @@
+#include "platform/win32/ole/automation/Apartment.h"
+
+#include <atomic>
+
+#include "platform/win32/ole/runtime/AutomationRuntime.h"
+
+namespace kel::win32::ole {
+
+namespace {
+
+/// The registered default run-time object; none where `KelRuntime8` is not installed.
+std::shared_ptr<Runtime> createRegisteredRuntime() {
+    ComPtr<IDispatch> object;
+    const HRESULT result = CoCreateInstance(toGuid(identities::Runtime), nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
+                                            object.receiveVoid());
+    if (FAILED(result)) return nullptr;
+    return automationRuntime(std::move(object));
+}
+
+/// Told when the component system leaves the thread.
+class EndWatch final : public IInitializeSpy {
+public:
+    explicit EndWatch(void (*ends)()) : Ends_(ends) {}
+    virtual ~EndWatch() = default;
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) noexcept override {
+        if (out == nullptr) return E_POINTER;
+        const bool known = IsEqualGUID(iid, IID_IUnknown) || IsEqualGUID(iid, __uuidof(IInitializeSpy));
+        *out = known ? this : nullptr;
+        if (!known) return E_NOINTERFACE;
+        AddRef();
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++References_; }
+    ULONG STDMETHODCALLTYPE Release() noexcept override {
+        const ULONG left = --References_;
+        if (left == 0) delete this;
+        return left;
+    }
+
+    HRESULT STDMETHODCALLTYPE PreInitialize(DWORD /*kind*/, DWORD /*entered*/) noexcept override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE PostInitialize(HRESULT result, DWORD /*kind*/, DWORD /*entered*/) noexcept override {
+        return result;
+    }
+    HRESULT STDMETHODCALLTYPE PreUninitialize(DWORD entered) noexcept override {
+        if (entered == 1) Ends_();
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE PostUninitialize(DWORD /*entered*/) noexcept override { return S_OK; }
+
+private:
+    void (*Ends_)();
+    std::atomic<ULONG> References_ = 0;
+};
+
+}  // namespace
+
+Apartment::Apartment(void (*ends)()) {
+    Settings_.makeDefaultRuntime = [this] {
+        auto runtime = createRegisteredRuntime();
+        return runtime ? runtime : makeRuntime(Services_);
+    };
+    Settings_.regionalRuntime = [this](const RegionalSettings& region) { return regionalRuntime(region); };
+    const ComPtr<IInitializeSpy> watch(new EndWatch(ends));
+    CoRegisterInitializeSpy(watch.get(), &Watch_);
+}
+
+std::shared_ptr<Runtime> Apartment::regionalRuntime(const RegionalSettings& region) {
+    if (&region == &systemRegion()) return nullptr;
+    auto& known = Regional_[&region];
+    if (known == nullptr) known = std::make_unique<Regional>(region);
+    return known->runtime;
+}
+
+void Apartment::end() {
+    const std::shared_ptr<Runtime> last = std::move(Settings_.Runtime);
+    if (Watch_.QuadPart != 0) CoRevokeInitializeSpy(std::exchange(Watch_, {}));
+}
+
+}  // namespace kel::win32::ole
