@@ -38,6 +38,7 @@ public:
     ControlHost& host() { return Host_; }
     const ControlHost& host() const { return Host_; }
     const RegionalSettings& region() const { return Host_.region; }
+    void takeRegion(const RegionalSettings& region) { Host_.region = region; }
     Label& label() { return Label1_; }
 
     /// A box of the control's, which owns it. The first is the one that shows; a further one takes over what is kept in
@@ -167,6 +168,7 @@ public:
     const EntryField& entry() const { return const_cast<EntryControl*>(this)->entry(); }
 
     void Resize() override { entry().layOut(); }
+    void RegionChanged(const RegionalSettings& region) override { entry().takeRegion(region); }
     void Show() override { entry().show(); }
     void ReadProperties(PropertyBag& bag) override { entry().load(bag); }
     void WriteProperties(PropertyBag& bag) const override;

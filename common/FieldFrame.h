@@ -12,7 +12,8 @@ namespace kel {
 void setCaptionFont(const ControlHost& host, TextualWidget& widget);
 void setFieldFont(const ControlHost& host, TextualWidget& widget);
 
-/// The host's run-time object, a default one for this once while none is held.
+/// The host's run-time object, a default one for this once while none is held; where the host has none and the control
+/// goes by a region of its own, a default one for that.
 std::shared_ptr<Runtime> runtimeFor(const ControlHost& host);
 /// Its conversions.
 std::shared_ptr<RuntimeDates> runtimeDates(const ControlHost& host);

@@ -10,6 +10,8 @@
 
 namespace kel {
 
+struct FontFace;
+
 /// The place of one control in its host. Outlives the control.
 class Container {
 public:
@@ -28,6 +30,9 @@ public:
 
     /// The name the host knows the control by.
     virtual std::u16string displayName() const = 0;
+
+    /// Fills in what nobody has chosen of a font with the host's own, if it has one.
+    virtual void completeFont(FontFace& /*face*/) const {}
 
     /// A property that the host's form keeps was set: the form needs saving.
     virtual void propertyChanged(const MemberRow& property) = 0;

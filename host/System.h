@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string_view>
 
 #include "values/Variant.h"
@@ -40,7 +41,7 @@ struct ControlHost {
     WidgetHost& widgets;
     System& system;
     SharedSettings& settings;
-    const RegionalSettings& region;
+    std::reference_wrapper<const RegionalSettings> region;
 };
 
 }  // namespace kel

@@ -117,7 +117,8 @@ public:
     virtual std::unique_ptr<TextView> makeView(TextBox& /*box*/) { return nullptr; }
     virtual std::unique_ptr<TextView> makeView(ComboBox& /*box*/) { return nullptr; }
 
-    /// The control is enabled and shown, so that its widgets take input.
+    /// The control is enabled and shown, and there is a person to work it: nobody fills in a form that is only being
+    /// designed. Else its widgets take no input, and look as ever.
     virtual bool takesInput() const = 0;
     /// By code. The field takes input.
     virtual void moveFocusTo(FieldWidget& field) = 0;

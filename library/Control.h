@@ -21,6 +21,8 @@ public:
     virtual void Show() = 0;
     virtual void EnterFocus() = 0;
     virtual void ExitFocus() = 0;
+    /// Numbers and dates are written and read by `region` from now on, which outlives the control. The value stays.
+    virtual void RegionChanged(const RegionalSettings& /*region*/) {}
 
     /// The child widgets as they stand, for whoever draws, drives or describes the control.
     virtual WidgetSet widgets() = 0;

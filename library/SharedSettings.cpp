@@ -24,12 +24,16 @@ void chooseFieldColors(SharedSettings& settings, std::int32_t colorDepth) {
 
 }  // namespace
 
+char16_t separatorCodeOf(Runtime& runtime) {
+    const std::u16string separator = runtime.DecimalSeparator();
+    return separator.empty() ? u'.' : separator.front();
+}
+
 void adoptRuntime(SharedSettings& settings, std::shared_ptr<Runtime> runtime) {
     settings.Runtime = std::move(runtime);
     // A copy, because a run-time object written by the host may hand over another one while it is asked.
     const std::shared_ptr<Runtime> held = settings.Runtime;
-    const std::u16string separator = held->DecimalSeparator();
-    settings.DecimalSeparatorCode = separator.empty() ? u'.' : separator.front();
+    settings.DecimalSeparatorCode = separatorCodeOf(*held);
     settings.DefaultDecimals = held->DecimalDigits();
     chooseFieldColors(settings, held->ColorDepth());
 }

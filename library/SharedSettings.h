@@ -41,6 +41,9 @@ struct SharedSettings {
     }
 };
 
+/// The character that a run-time object's decimal separator begins with.
+char16_t separatorCodeOf(Runtime& runtime);
+
 /// Stores `runtime` in place of any held one, then takes separator, digits and field colours from it.
 void adoptRuntime(SharedSettings& settings, std::shared_ptr<Runtime> runtime);
 

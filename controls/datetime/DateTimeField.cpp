@@ -130,6 +130,12 @@ void DateTimeField::exitFocus() {
     Entry_.colorOnExit();
 }
 
+void DateTimeField::takeRegion(const RegionalSettings& region) {
+    if (TextDirty_) CommitText();
+    Entry_.takeRegion(region);
+    show(dateIn(Value_));
+}
+
 // ---- Focus
 
 /// A value that was never assigned compares as 0, one that is none never does.

@@ -74,6 +74,7 @@ public:
 
     void initNew();
     void exitFocus();
+    void takeRegion(const RegionalSettings& region);
 
 private:
     void Text1_Change() override {}
@@ -122,6 +123,7 @@ public:
     void InitProperties() override { field().initNew(); }
     void EnterFocus() override {}
     void ExitFocus() override { field().exitFocus(); }
+    void RegionChanged(const RegionalSettings& region) override { field().takeRegion(region); }
 };
 
 }  // namespace kel

@@ -54,8 +54,21 @@ void KelNumber::put_Decimals(std::int16_t count) {
 
 void KelNumber::takeDecimals() {
     const SharedSettings& settings = Field_.host().settings;
-    DecimalsInUse_ = Decimals_ == RegionalDecimals ? settings.DefaultDecimals : Decimals_;
+    std::int16_t regional = settings.DefaultDecimals;
     DecimalCharacter_ = settings.DecimalSeparatorCode;
+    if (const std::shared_ptr<Runtime> own = settings.runtimeOf(Field_.region())) {
+        regional = own->DecimalDigits();
+        DecimalCharacter_ = separatorCodeOf(*own);
+    }
+    DecimalsInUse_ = Decimals_ == RegionalDecimals ? regional : Decimals_;
+}
+
+void KelNumber::RegionChanged(const RegionalSettings& region) {
+    if (TextDirty_) CommitText();
+    const bool stands = Text1_.text() == valueText();
+    Field_.takeRegion(region);
+    takeDecimals();
+    if (stands) showValue();
 }
 
 void KelNumber::put_MaxValue(double maximum) {
@@ -106,7 +119,11 @@ void KelNumber::put_Value(const Variant& value) {
     Field_.report<&KelNumber::put_Value>();
 }
 
-void KelNumber::showValue() { Text1_.setText(displayText(Value_, DecimalsInUse_, GroupDigits_, Field_.region())); }
+std::u16string KelNumber::valueText() const {
+    return displayText(Value_, DecimalsInUse_, GroupDigits_, Field_.region());
+}
+
+void KelNumber::showValue() { Text1_.setText(valueText()); }
 
 void KelNumber::CommitText() {
     TextDirty_ = false;

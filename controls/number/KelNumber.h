@@ -44,6 +44,7 @@ public:
 
     const ClassModel& model() const override;
     void InitProperties() override;
+    void RegionChanged(const RegionalSettings& region) override;
     void EnterFocus() override;
     void ExitFocus() override;
     EntryField& entry() override { return Field_; }
@@ -69,6 +70,7 @@ private:
     double bounded(double value) const;
     double parseField() const { return numberFromValue(Text1_.text()); }
     void takeDecimals();
+    std::u16string valueText() const;
     void showValue();
     TextSpan selection() const;
     void select(TextSpan span);

@@ -42,6 +42,7 @@ public:
     void Show() override;
     void EnterFocus() override {}
     void ExitFocus() override {}
+    void RegionChanged(const RegionalSettings& region) override { Host_.region = region; }
     WidgetSet widgets() override { return {.picture = &Picture1_}; }
 
 private:

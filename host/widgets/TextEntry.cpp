@@ -48,7 +48,7 @@ void TextEntry::tell(bool differs) {
 // ---- Keys
 
 bool TextEntry::strike(const KeyStroke& stroke) {
-    if (leavesField(stroke)) return false;
+    if (leavesField(stroke) || !takesInput()) return false;
     if (stroke.code != 0) {
         std::int16_t code = stroke.code;
         Listener_.Text1_KeyDown(code, stroke.modifiers);
@@ -60,6 +60,7 @@ bool TextEntry::strike(const KeyStroke& stroke) {
 }
 
 bool TextEntry::strikeCharacter(char32_t character, Modifiers modifiers) {
+    if (!takesInput()) return false;
     Listener_.Text1_KeyPress(character);
     if (character == 0 || !takesInput()) return true;
     return act(actionFor(character, modifiers), character, false);
@@ -70,7 +71,7 @@ void TextEntry::typeCommitted(std::u16string_view text) {
 }
 
 void TextEntry::commitOver(std::int32_t start, std::int32_t length, std::u16string_view text) {
-    if (Locked_) return;
+    if (Locked_ || !takesInput()) return;
     if (length > 0) {
         setSelStart(static_cast<std::int32_t>(selection().caret) + start);
         setSelLength(length);
@@ -88,8 +89,12 @@ EditAction TextEntry::inReadingOrder(EditAction action) const {
 
 // ---- Actions
 
+void TextEntry::perform(EditAction action) {
+    if (takesInput() || !edits(action)) act(action, 0, false);
+}
+
 bool TextEntry::offers(EditAction action) const {
-    if (edits(action) && Locked_) return false;
+    if (edits(action) && (Locked_ || !takesInput())) return false;
     switch (action) {
         case EditAction::Undo: return Buffer_.canUndo();
         case EditAction::Redo: return Buffer_.canRedo();
@@ -158,7 +163,7 @@ bool TextEntry::edit(EditAction action, char32_t character) {
 }
 
 void TextEntry::paste(std::u16string_view text) {
-    if (Locked_) return;
+    if (Locked_ || !takesInput()) return;
     Listener_.Text1_Edit(EditAction::Paste);
     tell(insertPasted(text));
 }

@@ -104,7 +104,7 @@ public:
     /// Whether `perform` would do anything.
     bool offers(EditAction action) const;
     /// From a menu.
-    void perform(EditAction action) { act(action, 0, false); }
+    void perform(EditAction action);
     /// A text that comes from elsewhere than the clipboard in place of the selection.
     void paste(std::u16string_view text);
     /// The same, where no rule of the control's binds.

@@ -156,6 +156,33 @@ TEST(ComboBox, ABoxThatTakesNoInputKeepsItsListClosed) {
     EXPECT_EQ(scene.worked.look(), "| -1") << "a list that loses the focus picks nothing";
 }
 
+TEST(ComboBox, WithNobodyToWorkItNothingComesOfADeed) {
+    const std::pair<const char*, void (*)(Scene&)> deeds[] = {
+        {"key", [](Scene& it) { it.worked.play("'x'"); }},
+        {"character", [](Scene& it) { it.box.strikeCharacter(U'x', NoModifier); }},
+        {"input method", [](Scene& it) { it.box.commitOver(0, 0, u"x"); }},
+        {"menu", [](Scene& it) { it.box.perform(EditAction::Cut); }},
+        {"paste", [](Scene& it) { it.worked.play("paste'x'"); }},
+        {"drop", [](Scene& it) { it.box.drop(0, u"x"); }},
+        {"assistance", [](Scene& it) { it.box.write(0, 1, u"x"); }},
+        {"button", [](Scene& it) { it.worked.play("button"); }},
+    };
+    for (const auto& [what, deed] : deeds) {
+        SCOPED_TRACE(what);
+        Scene scene(Fruit);
+        scene.box.setListIndex(0);
+        scene.box.select({0, 5});
+        scene.listener.takeLog();
+        scene.worked.setAttended(false);
+        deed(scene);
+        EXPECT_EQ(scene.worked.look(), "[Apple] 0");
+        EXPECT_EQ(scene.listener.takeLog(), "");
+        scene.worked.setAttended(true);
+        deed(scene);
+        EXPECT_NE(scene.worked.look(), "[Apple] 0");
+    }
+}
+
 TEST(ComboBox, HandlersMayInterfere) {
     Scene scene(Fruit);
     ComboBox& box = scene.box;

@@ -101,6 +101,24 @@ TEST(NumberField, TakesTheDecimalCommaOfItsRegion) {
     EXPECT_EQ(std::get<double>(number.get_Value()), 1.5);
 }
 
+TEST(Region, OfAFieldMayBecomeAnotherOne) {
+    const RegionalSettings& german = *findRegion(u"de-DE");
+    const RegionalSettings& english = *findRegion(u"en-GB");
+    OneControl form(KelNumberModel);
+    KelNumber& number = form.as<KelNumber>();
+    number.put_MaxValue(9999);
+    number.put_Decimals(2);
+    const auto shown = [&] { return toUtf8(number.widgets().entry->text()); };
+    // What a person is at is read as it was written.
+    form.window().focus(form.placed());
+    press(form.window(), "'2.5'");
+    number.RegionChanged(german);
+    EXPECT_EQ(shown(), "2,50");
+    EXPECT_EQ(std::get<double>(number.get_Value()), 2.5);
+    number.RegionChanged(english);
+    EXPECT_EQ(shown(), "2.50");
+}
+
 TEST(Wheel, StepsAFieldOnceANotch) {
     const auto turn = [](OneControl& form, std::int32_t notches) {
         EntryField::of(form.placed().control()).put_UpDown(true);

@@ -47,7 +47,7 @@ TEST(Home, TheRunTimeObjectFollowsTheOptions) {
     EXPECT_EQ(runtime->ColorDepth(), 8);
     EXPECT_EQ(form.home().system().twipsPerPixel(), 12);
     EXPECT_EQ(&form.home().region(), german);
-    EXPECT_EQ(&probe(form.place(u"a")).host().region, german) << "controls write numbers as the session does";
+    EXPECT_EQ(&probe(form.place(u"a")).host().region.get(), german) << "controls write numbers as the session does";
 
     TestForm plain;
     EXPECT_EQ(plain.home().settings().makeDefaultRuntime()->ColorDepth(), 24);

@@ -113,7 +113,8 @@ HWND ControlWindow::parkingWindow() {
 
 void ControlWindow::makeWindow(HWND parent) {
     if (parent == nullptr) return;
-    Window_ = CreateWindowExW(WS_EX_CONTROLPARENT, controlClass().name(), L"",
+    const DWORD layout = Mirrored_ ? WS_EX_LAYOUTRTL : 0;
+    Window_ = CreateWindowExW(WS_EX_CONTROLPARENT | layout, controlClass().name(), L"",
                               WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, Bounds_.left, Bounds_.top, widthOf(Bounds_),
                               height(), parent, nullptr, thisModule(), static_cast<WindowHandler*>(this));
     if (Window_ == nullptr) return;
@@ -142,6 +143,7 @@ void ControlWindow::park() {
 
 void ControlWindow::place(const RECT& bounds, const RECT& clip) {
     Bounds_ = bounds;
+    Clip_ = clip;
     if (handle() == nullptr) return;
     placeWindow(Window_, bounds);
     if (Label_ != nullptr) Label_->place(height());
@@ -167,6 +169,41 @@ void ControlWindow::setEnabled(bool enabled) {
     if (Window_ == nullptr) return;
     EnableWindow(Window_, enabled);
     RedrawWindow(Window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void ControlWindow::setInert(bool inert) {
+    if (inert == Inert_) return;
+    Inert_ = inert;
+    WindowedField* const field = shownField();
+    if (field == nullptr) return;
+    if (inert)
+        field->widget().pressedAnywhere();  // no list stays open
+    else if (field->window() != nullptr && GetFocus() == field->window())
+        arrived(*field);
+}
+
+/// The system's widgets keep the layout that they are made in: the windows are made anew, at the same place.
+void ControlWindow::setMirrored(bool mirrored) {
+    if (mirrored == Mirrored_) return;
+    Mirrored_ = mirrored;
+    if (Window_ == nullptr) return;
+    HWND const parent = GetAncestor(Window_, GA_PARENT);
+    HWND const before = GetWindow(Window_, GW_HWNDPREV);
+    dropInput();
+    DestroyWindow(Window_);
+    if (Window_ != nullptr) return;  // a handler has seen to it
+    makeWindow(parent);
+    if (Window_ == nullptr) return;
+    SetWindowPos(Window_, before != nullptr ? before : HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    place(Bounds_, Clip_);
+    if (Visible_) ShowWindow(Window_, SW_SHOWNA);
+}
+
+void ControlWindow::setGround(Color ground) {
+    if (ground == Ground_) return;
+    Ground_ = ground;
+    captionChanged();
+    if (Window_ != nullptr) InvalidateRect(Window_, nullptr, TRUE);
 }
 
 void ControlWindow::setToolTip(HWND field, const wchar_t* text) {
@@ -200,6 +237,7 @@ void ControlWindow::moveFocusTo(FieldWidget& field) {
 }
 
 void ControlWindow::arrived(WindowedField& field) {
+    if (Inert_) return;
     const std::shared_ptr<Win32Focus> around = Win32Focus::around(Window_);
     if (around != Focus_) leave();
     Focus_ = around;
@@ -230,13 +268,24 @@ void ControlWindow::dropInputOf(HWND window) const {
 
 bool ControlWindow::translateAccelerator(MSG& message) {
     const WindowedField* const field = fieldOf(message.hwnd);
-    if (field == nullptr || message.message != WM_KEYDOWN || !field->wantsKey(strokeOf(message))) return false;
+    if (field == nullptr || Inert_ || message.message != WM_KEYDOWN || !field->wantsKey(strokeOf(message)))
+        return false;
     TranslateMessage(&message);
     DispatchMessageW(&message);
     return true;
 }
 
 // ---- Picture
+
+void ControlWindow::fillGround(HDC context, const RECT& area) const {
+    if (isSystemColor(Ground_)) {
+        FillRect(context, &area, GetSysColorBrush(static_cast<int>(Ground_ & 0xFFU)));
+        return;
+    }
+    HBRUSH const brush = CreateSolidBrush(colorOf(Ground_));
+    FillRect(context, &area, brush);
+    DeleteObject(brush);
+}
 
 void ControlWindow::captionChanged() {
     if (Label_ != nullptr) Label_->place(height());
@@ -251,7 +300,7 @@ void ControlWindow::drawCaption(HDC context, const RECT& area) const {
 
 void ControlWindow::draw(HDC context, const RECT& bounds) {
     const SavedContext saved(context);
-    FillRect(context, &bounds, GetSysColorBrush(COLOR_BTNFACE));
+    fillGround(context, bounds);
     IntersectClipRect(context, bounds.left, bounds.top, bounds.right, bounds.bottom);
     drawCaption(context, bounds);
     for (const WindowedView* const widget : Widgets_)
@@ -260,7 +309,7 @@ void ControlWindow::draw(HDC context, const RECT& bounds) {
 
 /// The label's window is the part of the control that its caption may take.
 void ControlWindow::drawLabelWindow(const DRAWITEMSTRUCT& item) const {
-    FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_BTNFACE));
+    fillGround(item.hDC, item.rcItem);
     const LONG left = Grid_.pixels(Label_->shown().bounds()).left;
     drawCaption(item.hDC, {-left, 0, widthOf(Bounds_) - left, height()});
 }
@@ -288,6 +337,12 @@ LRESULT ControlWindow::handle(HWND window, UINT message, WPARAM wide, LPARAM dat
             const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(data);
             if (Label_ == nullptr || item.hwndItem != Label_->window()) break;
             drawLabelWindow(item);
+            return TRUE;
+        }
+        case WM_ERASEBKGND: {
+            RECT area{};
+            GetClientRect(window, &area);
+            fillGround(reinterpret_cast<HDC>(wide), area);
             return TRUE;
         }
         case WM_SETFOCUS: setFocus(); return 0;

@@ -55,6 +55,17 @@ public:
     bool enabled() const override { return Enabled_; }
     void setEnabled(bool enabled);
 
+    /// An inert control looks as ever and can be told anything, but a person's deeds do nothing to it, nor does the
+    /// focus.
+    void setInert(bool inert);
+    /// Whatever input it has, held buttons too, it has no longer.
+    void dropInput() const { dropInputOf(Window_); }
+
+    /// The colour around the field and behind the caption.
+    void setGround(Color ground);
+    /// Captions, fields and texts run from right to left.
+    void setMirrored(bool mirrored);
+
     /// Gives the focus to the field by code. Nothing happens while the control is disabled or hidden.
     void setFocus();
 
@@ -78,7 +89,7 @@ private:
     std::unique_ptr<View> makeView(Label& label) override;
     std::unique_ptr<TextView> makeView(TextBox& box) override;
     std::unique_ptr<TextView> makeView(ComboBox& box) override;
-    bool takesInput() const override { return Enabled_ && Visible_; }
+    bool takesInput() const override { return Enabled_ && Visible_ && !Inert_; }
     void moveFocusTo(FieldWidget& field) override;
     void focusBarred(FieldWidget& field) override { takeInputFrom(viewOf<WindowedField>(&field)->wholeWindow()); }
     void controlEntered() override { Owner_.focusEntered(); }
@@ -107,6 +118,7 @@ private:
     int height() const { return heightOf(Bounds_); }
     void drawCaption(HDC context, const RECT& area) const;
     void drawLabelWindow(const DRAWITEMSTRUCT& item) const;
+    void fillGround(HDC context, const RECT& area) const;
 
     void makeWindow(HWND parent);
     HWND parkingWindow();
@@ -124,8 +136,12 @@ private:
     HWND Parking_ = nullptr;  ///< the parent that nobody sees
     HWND ToolTips_ = nullptr;
     RECT Bounds_{};
+    RECT Clip_{};
     bool Enabled_ = true;
     bool Visible_ = false;
+    bool Inert_ = false;
+    bool Mirrored_ = false;
+    Color Ground_ = colors::SystemButtonFace;
 };
 
 }  // namespace kel::win32

@@ -104,6 +104,10 @@ public:
         Value.lVal = number;
     }
     Var(Var&& other) noexcept : Value(other.Value) { VariantInit(&other.Value); }
+    Var& operator=(Var&& other) noexcept {
+        std::swap(Value, other.Value);
+        return *this;
+    }
     ~Var() { VariantClear(&Value); }
     Var(const Var&) = delete;
     Var& operator=(const Var&) = delete;

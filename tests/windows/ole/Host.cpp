@@ -141,7 +141,13 @@ HRESULT Host::GetExtendedControl(IDispatch** extended) {
     return S_OK;
 }
 
+void Host::say(DISPID ambient, Var value) {
+    Ambients[ambient] = std::move(value);
+    EXPECT_CODE(Object_.as<IOleControl>()->OnAmbientPropertyChange(ambient), S_OK);
+}
+
 HRESULT Host::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*, UINT*) {
+    if (const auto found = Ambients.find(id); found != Ambients.end()) return VariantCopy(result, &found->second.Value);
     if (id != DISPID_AMBIENT_DISPLAYNAME) return DISP_E_MEMBERNOTFOUND;
     result->vt = VT_BSTR;
     result->bstrVal = SysAllocString(DisplayName.c_str());

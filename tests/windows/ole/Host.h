@@ -109,6 +109,9 @@ public:
     /// Runs when the control makes this call.
     std::map<std::string, std::function<void()>> At;
     std::wstring DisplayName = L"Field1";
+    std::map<DISPID, Var> Ambients;
+    /// Changes one of them, and says so.
+    void say(DISPID ambient, Var value);
     HRESULT MayEdit = S_OK;
     std::vector<DISPID> Changed;
     RECT Bounds{10, 20, 210, 40};

@@ -53,7 +53,7 @@ HRESULT Activation::enterWindow() {
     setRects(bounds, clip);
     if (!inPlace()) return E_UNEXPECTED;
     Control_.window().setVisible(true);
-    Control_.control().Show();
+    Control_.show();
     if (!inPlace()) return E_UNEXPECTED;
     if (IOleClientSite* shown = Control_.site().get()) ComPtr<IOleClientSite>(shown)->ShowObject();
     return inPlace() ? S_OK : E_UNEXPECTED;

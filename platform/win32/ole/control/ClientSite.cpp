@@ -10,19 +10,22 @@ namespace {
 
 constexpr std::u16string_view ToolTipName = u"ToolTipText";
 
-/// The text in a variant that a container gave; anything else is no text.
-std::u16string textIn(const VARIANT& value) { return value.vt == VT_BSTR ? textOf(value.bstrVal) : std::u16string(); }
-
 }  // namespace
 
-std::u16string ClientSite::displayName() const {
-    const auto ambient = as<IDispatch>();
-    if (!ambient) return {};
-    OwnedVariant name;
+bool ClientSite::ambient(DISPID id, VARTYPE type, OwnedVariant& out) const {
+    const auto properties = as<IDispatch>();
+    if (!properties) return false;
+    OwnedVariant given;
     DISPPARAMS none{};
-    const HRESULT result = ambient->Invoke(DISPID_AMBIENT_DISPLAYNAME, IID_NULL, LOCALE_USER_DEFAULT,
-                                           DISPATCH_PROPERTYGET, &none, name.get(), nullptr, nullptr);
-    return SUCCEEDED(result) ? textIn(*name) : std::u16string();
+    const HRESULT result = properties->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none,
+                                              given.get(), nullptr, nullptr);
+    if (FAILED(result) || given->vt == VT_EMPTY) return false;
+    return SUCCEEDED(VariantChangeType(out.get(), given.get(), 0, type));
+}
+
+std::u16string ClientSite::displayName() const {
+    OwnedVariant name;
+    return ambient(DISPID_AMBIENT_DISPLAYNAME, VT_BSTR, name) ? textOf(name->bstrVal) : std::u16string();
 }
 
 ComPtr<IDispatch> ClientSite::extendedControl() const {

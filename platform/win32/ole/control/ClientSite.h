@@ -18,6 +18,9 @@ public:
         return ComPtr<I>::of(Site_.get());
     }
 
+    /// An ambient property of the container as this type; false, and nothing in `out`, where it has none.
+    bool ambient(DISPID id, VARTYPE type, OwnedVariant& out) const;
+
     /// The name that the container knows the control by.
     std::u16string displayName() const;
 

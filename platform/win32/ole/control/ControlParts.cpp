@@ -198,13 +198,16 @@ public:
     HRESULT STDMETHODCALLTYPE OnMnemonic(MSG* message) noexcept override {
         if (message == nullptr) return E_POINTER;
         return guarded([&] {
+            if (!Control_.attended()) return S_OK;
             const HRESULT result = Control_.activation().activateUi();
             FieldWidget* const field = Control_.control().widgets().field;
             if (SUCCEEDED(result) && field != nullptr) field->pressMnemonic();
             return result;
         });
     }
-    HRESULT STDMETHODCALLTYPE OnAmbientPropertyChange(DISPID /*id*/) noexcept override { return S_OK; }
+    HRESULT STDMETHODCALLTYPE OnAmbientPropertyChange(DISPID /*id*/) noexcept override {
+        return guarded([&] { Control_.takeAmbients(); });
+    }
     HRESULT STDMETHODCALLTYPE FreezeEvents(BOOL freeze) noexcept override {
         Control_.freezeEvents(freeze != FALSE);
         return S_OK;

@@ -103,6 +103,31 @@ void OleControl::setSite(IOleClientSite* site) {
     if (site == Site_.get()) return;
     leaveHost();
     Site_.set(site);
+    takeAmbients();
+}
+
+void OleControl::takeAmbients() {
+    const Ambients now = readAmbients(Site_);
+    // While it is still filled in, a field is left as by a person.
+    if (Ambients_.userMode && !now.userMode) Window_.dropInput();
+    const Ambients before = std::exchange(Ambients_, now);
+    Window_.setInert(!attended());
+    Window_.setMirrored(now.rightToLeft);
+    Window_.setGround(now.ground);
+    if (CheckBox* const box = Control_->widgets().checkBox) box->setBackColor(now.ground);
+    const RegionalSettings& region = regionOf(now.locale);
+    if (&region != &regionOf(before.locale)) Control_->RegionChanged(region);
+    if (Shown_ && now.font != before.font) Control_->Show();
+}
+
+void OleControl::show() {
+    Shown_ = true;
+    Control_->Show();
+}
+
+void OleControl::completeFont(FontFace& face) const {
+    if (face.name.empty()) face.name = Ambients_.font.name;
+    if (face.size <= 0) face.size = Ambients_.font.size;
 }
 
 void OleControl::close(bool save) {
@@ -130,7 +155,7 @@ bool OleControl::mayPut(const MemberRow& member) {
 }
 
 void OleControl::raiseEvent(const EventRow& event, std::span<Variant> arguments) {
-    if (FrozenDepth_ > 0 || Dying_) return;
+    if (FrozenDepth_ > 0 || Dying_ || !Ambients_.userMode) return;
     const ComPtr<IUnknown> held(&outer());
     Connections_.Events.raise(event, arguments);
 }

@@ -11,6 +11,7 @@
 #include "platform/win32/ole/com/ConnectionPoints.h"
 #include "platform/win32/ole/com/SafetyPart.h"
 #include "platform/win32/ole/control/Activation.h"
+#include "platform/win32/ole/control/Ambients.h"
 #include "platform/win32/ole/control/ClassInfoPart.h"
 #include "platform/win32/ole/control/ClientSite.h"
 #include "platform/win32/ole/control/ControlParts.h"
@@ -40,6 +41,9 @@ public:
     /// Of the screen.
     TwipGrid grid() const { return TwipGrid(System_.twipsPerPixel()); }
 
+    /// It appears in its host.
+    void show();
+
     /// Twips; a usual size until the host gives one.
     Size extent() const { return Extent_; }
     /// The control may take another one.
@@ -60,6 +64,10 @@ public:
     HRESULT begin(const std::function<void()>& load);
 
     void freezeEvents(bool freeze);
+    /// There is a person whose deeds count.
+    bool attended() const { return Ambients_.userMode && !Ambients_.uiDead; }
+    /// The container says something else of the control's surroundings than before.
+    void takeAmbients();
     void setSite(IOleClientSite* site);
     void close(bool save);
 
@@ -76,6 +84,7 @@ private:
     void setEnabled(bool enabled) override { Window_.setEnabled(enabled); }
     std::int32_t windowHandle() override { return Window_.handleNumber(); }
     std::u16string displayName() const override { return Site_.displayName(); }
+    void completeFont(FontFace& face) const override;
     void propertyChanged(const MemberRow& property) override;
     void raiseEvent(const EventRow& event, std::span<Variant> arguments) override;
     std::u16string toolTipText() const override { return Site_.toolTipText(); }
@@ -99,6 +108,7 @@ private:
     std::shared_ptr<Apartment> Apartment_;
     ControlSystem System_;
     ClientSite Site_;
+    Ambients Ambients_;
     Viewer Viewer_;
     Embedders Embedders_;
     Size Extent_{3600, 300};
@@ -107,6 +117,7 @@ private:
     bool Dirty_ = false;
     bool Entered_ = false;
     bool Dying_ = false;
+    bool Shown_ = false;
     Birth Birth_ = Birth::Made;
     int FrozenDepth_ = 0;
     Activation Activation_;
