@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 /// The identifiers under which component hosts and form files know the library. They are never changed.
@@ -35,6 +36,9 @@ consteval Guid guid(std::string_view text) {
     for (std::size_t i = 0; i < 8; ++i) out.data4[i] = bytes[i + 8];
     return out;
 }
+
+/// "01234567-89AB-CDEF-0123-456789ABCDEF"
+std::string textOf(const Guid& guid);
 
 struct ClassIdentity {
     std::u16string_view name;

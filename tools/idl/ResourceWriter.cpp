@@ -4,6 +4,7 @@
 #include <fstream>
 #include <stdexcept>
 
+#include "library/Registration.h"
 #include "tools/idl/TypeNames.h"
 
 namespace kel::idl {
@@ -111,10 +112,9 @@ void writeResources(const std::filesystem::path& script, const ClassRegistry& cl
     out << "1 TYPELIB \"" << narrow(LibraryName) << ".tlb\"\n";
     for (const ClassModel* model : classes.all()) {
         if (!model->isControl()) continue;
-        const auto number = 101 + (&identityOf(*model) - identities::Classes.data());
         const std::string file = narrow(model->name) + ".bmp";
         BitmapFile(script.parent_path() / file).write(sketchOf(*model));
-        out << number << " BITMAP \"" << file << "\"\n";
+        out << registered(*model).toolboxPicture << " BITMAP \"" << file << "\"\n";
     }
     if (!out.flush()) throw std::runtime_error("cannot write " + script.string());
 }

@@ -7,7 +7,7 @@
 namespace kel::idl {
 
 /// Writes a resource script with the type library and one toolbox picture a control, and the pictures beside
-/// it. The picture of a control has the resource number 101 and up, by its place among the identities.
+/// it.
 void writeResources(const std::filesystem::path& script, const ClassRegistry& classes);
 
 }  // namespace kel::idl

@@ -1,7 +1,5 @@
 #include "tools/idl/TypeNames.h"
 
-#include <array>
-#include <cstdio>
 #include <stdexcept>
 
 #include "values/Text.h"
@@ -12,15 +10,6 @@ const ClassIdentity& identityOf(const ClassModel& model) {
     const ClassIdentity* identity = findIdentity(model.name);
     if (identity == nullptr) throw std::runtime_error("no identity for class " + narrow(model.name));
     return *identity;
-}
-
-std::string textOf(const Guid& guid) {
-    std::array<char, 37> text{};
-    const auto& tail = guid.data4;
-    std::snprintf(text.data(), text.size(), "%08X-%04X-%04X-%02X%02X-%02X%02X%02X%02X%02X%02X",
-                  static_cast<unsigned>(guid.data1), guid.data2, guid.data3, tail[0], tail[1], tail[2], tail[3],
-                  tail[4], tail[5], tail[6], tail[7]);
-    return text.data();
 }
 
 std::string narrow(std::u16string_view name) { return toUtf8(name); }

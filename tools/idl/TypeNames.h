@@ -12,9 +12,6 @@ namespace kel::idl {
 /// Identity of a class of the library. Throws std::runtime_error for a class without one.
 const ClassIdentity& identityOf(const ClassModel& model);
 
-/// "01234567-89AB-CDEF-0123-456789ABCDEF"
-std::string textOf(const Guid& guid);
-
 /// ASCII names only.
 std::string narrow(std::u16string_view name);
 

@@ -6,11 +6,6 @@ namespace kel::win32::ole {
 
 namespace {
 
-constexpr wchar_t ControlCategory[] = L"{40FC6ED4-2438-11CF-A3DB-080036F12502}";
-constexpr wchar_t AutomationCategory[] = L"{40FC6ED5-2438-11CF-A3DB-080036F12502}";
-constexpr wchar_t SafeForScriptingCategory[] = L"{7DD95801-9882-11CF-9FA9-00AA006C42C4}";
-constexpr wchar_t SafeForInitializingCategory[] = L"{7DD95802-9882-11CF-9FA9-00AA006C42C4}";
-
 void checkWin32(LSTATUS status, const char* what) { check(HRESULT_FROM_WIN32(static_cast<DWORD>(status)), what); }
 
 /// An open key that entries are written under.
@@ -33,15 +28,13 @@ public:
 
     Key sub(const std::wstring& path) const { return Key(Key_, path); }
 
-    /// An empty name is the key's own value.
-    const Key& set(const wchar_t* name, const std::wstring& text) const {
+    /// No name is the key's own value.
+    void set(const wchar_t* name, const std::wstring& text) const {
         const auto* const bytes = reinterpret_cast<const BYTE*>(text.c_str());
         checkWin32(
             RegSetValueExW(Key_, name, 0, REG_SZ, bytes, static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t))),
             "the registry cannot be written");
-        return *this;
     }
-    const Key& set(const std::wstring& text) const { return set(nullptr, text); }
 
     void removeTree(const std::wstring& path) const { RegDeleteTreeW(Key_, path.c_str()); }
 
@@ -61,39 +54,11 @@ private:
     HKEY Key_ = nullptr;
 };
 
-std::wstring versioned(const ClassEntry& entry) { return entry.programId + L".1"; }
-
-void writeProgramIds(const Key& classes, const ClassEntry& entry) {
-    const std::wstring clsid = textOf(entry.clsid);
-    const Key current = classes.sub(versioned(entry));
-    current.set(entry.description).sub(L"CLSID").set(clsid);
-    const Key independent = classes.sub(entry.programId);
-    independent.set(entry.description).sub(L"CLSID").set(clsid);
-    independent.sub(L"CurVer").set(versioned(entry));
-}
-
-void writeControl(const Key& key, const ClassEntry& entry) {
-    key.sub(L"Control");
-    key.sub(L"MiscStatus").set(L"0").sub(L"1").set(std::to_wstring(entry.miscStatus));
-    key.sub(L"ToolboxBitmap32").set(moduleFile() + L", " + std::to_wstring(entry.toolboxPicture));
-    const Key categories = key.sub(L"Implemented Categories");
-    for (const wchar_t* const category : {ControlCategory, SafeForScriptingCategory, SafeForInitializingCategory})
-        categories.sub(category);
-}
-
-void writeClass(const Key& classes, const ClassEntry& entry, const LibraryEntry& library) {
-    writeProgramIds(classes, entry);
-    const Key key = classes.sub(L"CLSID\\" + textOf(entry.clsid));
-    key.set(entry.description);
-    key.sub(L"InprocServer32").set(moduleFile()).set(L"ThreadingModel", L"Apartment");
-    key.sub(L"ProgID").set(versioned(entry));
-    key.sub(L"VersionIndependentProgID").set(entry.programId);
-    key.sub(L"Programmable");
-    key.sub(L"Implemented Categories").sub(AutomationCategory);
-    if (entry.isControl) writeControl(key, entry);
-    if (!library.hasTypeLibrary) return;
-    key.sub(L"TypeLib").set(textOf(library.typeLibrary));
-    key.sub(L"Version").set(std::to_wstring(library.major) + L"." + std::to_wstring(library.minor));
+void write(const Key& classes, const std::vector<RegistryEntry>& entries) {
+    for (const RegistryEntry& entry : entries) {
+        const Key key = classes.sub(wide(entry.key));
+        if (entry.text) key.set(entry.name.empty() ? nullptr : wide(entry.name).c_str(), wide(*entry.text));
+    }
 }
 
 /// Folder of the file, which is where help would be.
@@ -118,12 +83,13 @@ void writeTypeLibrary(Scope scope) {
     check(registerTypes(types.get(), file.data(), folder.data()), "the type library cannot be registered");
 }
 
-void removeTypeLibrary(const LibraryEntry& library, Scope scope) {
+void removeTypeLibrary(Scope scope) {
     constexpr SYSKIND Kind = sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32;
     auto* const unregisterTypes = scope == Scope::Machine
                                       ? &UnRegisterTypeLib
                                       : automationFunction<decltype(UnRegisterTypeLib)>("UnRegisterTypeLibForUser");
-    unregisterTypes(library.typeLibrary, library.major, library.minor, LOCALE_NEUTRAL, Kind);
+    unregisterTypes(toGuid(identities::TypeLibrary), identities::MajorVersion, identities::MinorVersion, LOCALE_NEUTRAL,
+                    Kind);
 }
 
 }  // namespace
@@ -131,7 +97,11 @@ void removeTypeLibrary(const LibraryEntry& library, Scope scope) {
 void registerLibrary(const LibraryEntry& library, Scope scope) {
     try {
         const Key classes = Key::classes(scope);
-        for (const ClassEntry& entry : library.classes) writeClass(classes, entry, library);
+        const std::u16string file = unwiden(moduleFile());
+        for (const RegisteredClass& entry : library.classes) {
+            write(classes, programIdEntries(entry));
+            write(classes, classEntries(entry, file));
+        }
         if (library.hasTypeLibrary) writeTypeLibrary(scope);
     } catch (...) {
         unregisterLibrary(library, scope);
@@ -141,13 +111,10 @@ void registerLibrary(const LibraryEntry& library, Scope scope) {
 
 void unregisterLibrary(const LibraryEntry& library, Scope scope) {
     const Key classes = Key::classes(scope);
-    for (const ClassEntry& entry : library.classes) {
-        classes.removeTree(versioned(entry));
-        classes.removeTree(entry.programId);
-        classes.removeTree(L"CLSID\\" + textOf(entry.clsid));
-    }
+    for (const RegisteredClass& entry : library.classes)
+        for (const std::u16string& key : keysOf(entry)) classes.removeTree(wide(key));
     classes.removeIfEmpty(L"CLSID");  // of a user who had no classes before
-    if (library.hasTypeLibrary) removeTypeLibrary(library, scope);
+    if (library.hasTypeLibrary) removeTypeLibrary(scope);
 }
 
 }  // namespace kel::win32::ole

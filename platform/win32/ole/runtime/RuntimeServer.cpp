@@ -21,11 +21,7 @@ Maker makerOf(REFCLSID clsid) {
 
 LibraryEntry libraryEntry() {
     LibraryEntry library;
-    ClassEntry entry;
-    entry.clsid = toGuid(identities::Runtime);
-    entry.programId = L"KelRuntime8.Runtime";
-    entry.description = L"KelRuntime8 run-time object";
-    library.classes.push_back(entry);
+    library.classes.push_back(registeredRuntime());
     return library;
 }
 

@@ -1,0 +1,118 @@
+#include "library/Registration.h"
+
+#include <stdexcept>
+
+#include "library/ClassRegistry.h"
+#include "library/ControlStatus.h"
+#include "values/Text.h"
+
+namespace kel {
+
+namespace {
+
+constexpr int FirstToolboxPicture = 101;
+
+std::u16string braced(const Guid& guid) { return u'{' + widen(textOf(guid)) + u'}'; }
+
+std::u16string versioned(const RegisteredClass& entry) { return entry.programId + u".1"; }
+
+std::u16string typeLibraryVersion() {
+    return widen(std::to_string(identities::MajorVersion) + '.' + std::to_string(identities::MinorVersion));
+}
+
+std::u16string typeLibraryKey() {
+    return u"TypeLib\\" + braced(identities::TypeLibrary) + u'\\' + typeLibraryVersion();
+}
+
+std::u16string classKey(const RegisteredClass& entry) { return u"CLSID\\" + braced(entry.clsid); }
+
+}  // namespace
+
+RegisteredClass registered(const ClassModel& model) {
+    const ClassIdentity* identity = findIdentity(model.name);
+    if (identity == nullptr) throw std::logic_error("no identity for class " + toUtf8(model.name));
+    RegisteredClass entry;
+    entry.clsid = identity->coclass;
+    entry.programId = std::u16string(LibraryName) + u'.' + std::u16string(model.name);
+    entry.description = model.name;
+    entry.isInTypeLibrary = true;
+    entry.isControl = model.isControl();
+    entry.miscStatus = statusBitsOf(model);
+    entry.toolboxPicture = FirstToolboxPicture + static_cast<int>(identity - identities::Classes.data());
+    return entry;
+}
+
+RegisteredClass registeredRuntime() {
+    RegisteredClass entry;
+    entry.clsid = identities::Runtime;
+    entry.programId = u"KelRuntime8.Runtime";
+    entry.description = u"KelRuntime8 run-time object";
+    return entry;
+}
+
+std::vector<RegistryEntry> programIdEntries(const RegisteredClass& entry) {
+    const std::u16string clsid = braced(entry.clsid);
+    return {{versioned(entry), {}, entry.description},
+            {versioned(entry) + u"\\CLSID", {}, clsid},
+            {entry.programId, {}, entry.description},
+            {entry.programId + u"\\CLSID", {}, clsid},
+            {entry.programId + u"\\CurVer", {}, versioned(entry)}};
+}
+
+std::vector<RegistryEntry> classEntries(const RegisteredClass& entry, const std::u16string& file) {
+    std::vector<RegistryEntry> entries;
+    const auto add = [&, key = classKey(entry)](std::u16string_view path, std::optional<std::u16string> text = {},
+                                                std::u16string_view name = {}) {
+        entries.push_back({key + std::u16string(path), std::u16string(name), std::move(text)});
+    };
+    add(u"", entry.description);
+    add(u"\\InprocServer32", file);
+    add(u"\\InprocServer32", u"Apartment", u"ThreadingModel");
+    add(u"\\ProgID", versioned(entry));
+    add(u"\\VersionIndependentProgID", entry.programId);
+    add(u"\\Programmable");
+    add(u"\\Implemented Categories\\{40FC6ED5-2438-11CF-A3DB-080036F12502}");  // can be automated
+    if (entry.isControl) {
+        add(u"\\Implemented Categories\\{40FC6ED4-2438-11CF-A3DB-080036F12502}");
+        add(u"\\Implemented Categories\\{7DD95801-9882-11CF-9FA9-00AA006C42C4}");  // safe to be scripted
+        add(u"\\Implemented Categories\\{7DD95802-9882-11CF-9FA9-00AA006C42C4}");  // safe to be loaded with data
+        add(u"\\Control");
+        add(u"\\MiscStatus", u"0");
+        add(u"\\MiscStatus\\1", widen(std::to_string(entry.miscStatus)));
+        add(u"\\ToolboxBitmap32", file + u", " + widen(std::to_string(entry.toolboxPicture)));
+    }
+    if (entry.isInTypeLibrary) {
+        add(u"\\TypeLib", braced(identities::TypeLibrary));
+        add(u"\\Version", typeLibraryVersion());
+    }
+    return entries;
+}
+
+std::vector<std::u16string> keysOf(const RegisteredClass& entry) {
+    return {versioned(entry), entry.programId, classKey(entry)};
+}
+
+std::vector<RegistryEntry> typeLibraryEntries() {
+    const std::u16string key = typeLibraryKey();
+    // Its flags say that it is one of controls.
+    return {{key, {}, std::u16string(LibraryName) + u" data-entry controls"}, {key + u"\\FLAGS", {}, u"2"}};
+}
+
+std::vector<RegistryEntry> typeLibraryEntries(int bits, const std::u16string& file) {
+    std::vector<RegistryEntry> entries{{typeLibraryKey() + u"\\0\\win" + widen(std::to_string(bits)), {}, file}};
+    const auto add = [&](const Guid& id, std::u16string name, std::u16string_view marshaler) {
+        const std::u16string key = u"Interface\\" + braced(id);
+        entries.push_back({key, {}, std::move(name)});
+        entries.push_back({key + u"\\ProxyStubClsid32", {}, std::u16string(marshaler)});
+        entries.push_back({key + u"\\TypeLib", {}, braced(identities::TypeLibrary)});
+        entries.push_back({key + u"\\TypeLib", u"Version", typeLibraryVersion()});
+    };
+    for (const ClassIdentity& identity : identities::Classes) {
+        add(identity.dispatch, u"_" + std::u16string(identity.name), u"{00020424-0000-0000-C000-000000000046}");
+        if (!identity.hasEvents()) continue;
+        add(identity.events, u"__" + std::u16string(identity.name), u"{00020420-0000-0000-C000-000000000046}");
+    }
+    return entries;
+}
+
+}  // namespace kel
