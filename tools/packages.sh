@@ -6,3 +6,4 @@ test_packages=(libgtest-dev clang-14 clang-format-14 clang-tidy-14 python3 xvfb 
 fuzz_packages=(clang-14 libclang-rt-14-dev llvm-14)
 bench_packages=(libbenchmark-dev libicu-dev)
 windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine wine64)
+installer_packages=(wixl msitools)

@@ -1,0 +1,86 @@
+# What the scripts here share: a display and a Windows of their own under Wine, and how they report. A script starts
+# with `begin SCREEN "$@"`, from the top of the source tree, and ends with `finish`.
+# shellcheck shell=bash disable=SC2034
+
+# The size of its screen, and its argument, a cross build: sets `build`, `work` for files, and `name` of the script.
+begin() {
+    build=$(realpath "${2:-build/windows-x64}")
+    local name first
+    name=$(basename "$0")
+    if [ "${KEL_INSIDE_DISPLAY:-}" != "$name $build" ]; then
+        # Scripts side by side look for a free display from different numbers on, as the search is a race.
+        first=$(cksum <<<"$name $build" | cut -d ' ' -f 1)
+        exec env KEL_INSIDE_DISPLAY="$name $build" xvfb-run -a -n $((first % 800 + 100)) -s "-screen 0 $1x24" \
+            "tests/windows/$name" "$build"
+    fi
+    unset KEL_INSIDE_DISPLAY
+    export WINEPREFIX=$build/wine-$name WINEDEBUG=-all WINEARCH=win64
+    [[ $build != *x86 ]] || WINEARCH=win32
+    export WINEDLLOVERRIDES="mscoree=;mshtml=;winedbg.exe=d"
+    work=$build/tests/windows/$name
+    results=$work/results
+    rm -rf "$WINEPREFIX" "$work"
+    mkdir -p "$work"
+    : >"$results"
+    timeout 120 wineboot -i >"$work/wineboot.log" 2>&1 </dev/null || { failed wine "no prefix could be made"; finish; }
+    wineserver -w
+    wineserver -p60 >/dev/null 2>&1
+    # Without a window manager nobody answers a managed window.
+    windows reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null
+}
+
+record() {
+    echo "$1"
+    echo "$1" >>"$results"
+}
+ok() { record "ok $1"; }
+failed() { record "FAILED $1: $2"; }
+
+# A Windows program; its background services must not hold on to our output.
+windows() { timeout 120 wine "$@" </dev/null 2>>"$work/wine.log"; }
+path() {
+    local path=Z:$1
+    path=${path/#Z:$WINEPREFIX\/drive_c/C:}
+    echo "${path//\//\\}"
+}
+
+# The tests' own lines of a program that runs some.
+reported() { grep -E '^(ok|FAILED) ' <<<"$1" | while read -r line; do record "$line"; done; }
+
+# Everything that registration may touch, one line a value.
+registry() {
+    local branch
+    for branch in 'HKLM\Software\Classes' 'HKCU\Software\Classes' "$@"; do
+        windows reg export "$branch" "$(path "$work/branch.reg")" /y >/dev/null 2>&1 || continue
+        iconv -f utf-16 -t utf-8 "$work/branch.reg" 2>/dev/null
+        rm -f "$work/branch.reg"
+    done
+}
+
+# Registers the servers of a folder, or with /u takes it back.
+both() {
+    local folder=$1 file
+    shift
+    for file in KelControls8.ocx KelRuntime8.dll; do windows regsvr32 /s "$@" "$(path "$folder/$file")" || return; done
+}
+
+# Script hosts end silently on an error: the last line must be there.
+script() {
+    local script=$1 output scripts=tests/windows/ole/scripts
+    { cat "$scripts/common.vbs" "$scripts/$script.vbs"; echo 'WScript.Echo "the end"'; } >"$work/$script.vbs"
+    output=$(windows cscript //nologo "$(path "$work/$script.vbs")" | tr -d '\r')
+    reported "$output"
+    grep -qx 'the end' <<<"$output" || failed "script_$script" "the script stopped"
+}
+
+finish() {
+    wineserver -k 2>/dev/null
+    wineserver -w 2>/dev/null
+    rm -rf "$WINEPREFIX"
+    local bad good
+    bad=$(grep -c '^FAILED' "$results")
+    good=$(grep -c '^ok' "$results")
+    echo "$good passed, $bad failed"
+    [ "$bad" -eq 0 ]
+    exit
+}
