@@ -51,6 +51,7 @@ RegisteredClass registeredRuntime() {
 }
 
 std::vector<RegistryEntry> programIdEntries(const RegisteredClass& entry) {
+    if (entry.programId.empty()) return {};
     const std::u16string clsid = braced(entry.clsid);
     return {{versioned(entry), {}, entry.description},
             {versioned(entry) + u"\\CLSID", {}, clsid},
@@ -68,6 +69,7 @@ std::vector<RegistryEntry> classEntries(const RegisteredClass& entry, const std:
     add(u"", entry.description);
     add(u"\\InprocServer32", file);
     add(u"\\InprocServer32", u"Apartment", u"ThreadingModel");
+    if (entry.programId.empty()) return entries;
     add(u"\\ProgID", versioned(entry));
     add(u"\\VersionIndependentProgID", entry.programId);
     add(u"\\Programmable");
@@ -89,6 +91,7 @@ std::vector<RegistryEntry> classEntries(const RegisteredClass& entry, const std:
 }
 
 std::vector<std::u16string> keysOf(const RegisteredClass& entry) {
+    if (entry.programId.empty()) return {classKey(entry)};
     return {versioned(entry), entry.programId, classKey(entry)};
 }
 

@@ -15,7 +15,8 @@ namespace kel {
 /// A class that programs can make objects of.
 struct RegisteredClass {
     Guid clsid;
-    std::u16string programId;  ///< without a version; the versioned one is made from it
+    /// Without a version; the versioned one is made from it. Empty for a class that is made by its identifier alone.
+    std::u16string programId;
     std::u16string description;
     bool isInTypeLibrary = false;
     bool isControl = false;
