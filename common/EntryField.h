@@ -56,6 +56,15 @@ public:
     void report() {
         Host_.container.propertyChanged(model().rowPutBy<Put>());
     }
+    /// The same for a change of a bound property that comes from the user: asks before it, and tells after it.
+    template <auto Put>
+    bool mayChange() const {
+        return Host_.container.mayChange(model().rowPutBy<Put>());
+    }
+    template <auto Put>
+    void tellChanged() const {
+        Host_.container.boundChanged(model().rowPutBy<Put>());
+    }
 
     // ---- Members of the controls
 

@@ -9,44 +9,54 @@ namespace kel::entry {
 
 constexpr auto caption(std::int32_t id) {
     return property<&EntryField::get_Caption, &EntryField::put_Caption>(u"Caption", id, u"Text of the caption")
-        .saved(u"");
+        .saved(u"")
+        .in(Category::Appearance);
 }
 
 constexpr auto captionWidth(std::int32_t id) {
     return property<&EntryField::get_CaptionWidth, &EntryField::put_CaptionWidth>(u"CaptionWidth", id,
                                                                                   u"Width of the caption in twips")
-        .saved(0);
+        .saved(0)
+        .in(Category::Appearance);
 }
 
 constexpr auto enabled(std::int32_t id = EnabledId) {
     return property<&EntryField::get_Enabled, &EntryField::put_Enabled>(u"Enabled", id, u"The field takes input")
-        .saved(true);
+        .saved(true)
+        .in(Category::Behavior);
 }
 
 constexpr auto fontBold(std::int32_t id) {
     return property<&EntryField::get_FontBold, &EntryField::put_FontBold>(u"FontBold", id,
                                                                           u"Caption and field are shown in bold")
-        .saved(false);
+        .saved(false)
+        .in(Category::Appearance);
 }
 
 constexpr auto insertMode(std::int32_t id, bool byDefault) {
     return property<&EntryField::get_InsertMode, &EntryField::put_InsertMode>(
                u"InsertMode", id, u"Typing inserts instead of overwriting; the Insert key toggles it")
-        .saved(byDefault);
+        .saved(byDefault)
+        .in(Category::Behavior);
 }
 
 constexpr auto locked(std::int32_t id, std::u16string_view help) {
-    return property<&EntryField::get_Locked, &EntryField::put_Locked>(u"Locked", id, help).saved(false);
+    return property<&EntryField::get_Locked, &EntryField::put_Locked>(u"Locked", id, help)
+        .saved(false)
+        .in(Category::Behavior);
 }
 
 constexpr auto mandatory(std::int32_t id, std::u16string_view help = u"The field must not be left empty") {
-    return property<&EntryField::get_Mandatory, &EntryField::put_Mandatory>(u"Mandatory", id, help).saved(true);
+    return property<&EntryField::get_Mandatory, &EntryField::put_Mandatory>(u"Mandatory", id, help)
+        .saved(true)
+        .in(Category::Behavior);
 }
 
 constexpr auto maxLength(std::int32_t id) {
     return property<&EntryField::get_MaxLength, &EntryField::put_MaxLength>(
                u"MaxLength", id, u"Most UTF-16 units that can be typed or pasted; 0 for no limit")
-        .saved(0);
+        .saved(0)
+        .in(Category::Behavior);
 }
 
 constexpr auto refresh(std::int32_t id) { return method<&EntryField::Refresh>(u"Refresh", id, u"Repaints the field"); }
@@ -54,7 +64,8 @@ constexpr auto refresh(std::int32_t id) { return method<&EntryField::Refresh>(u"
 constexpr auto selectOnFocus(std::int32_t id,
                              std::u16string_view help = u"Entering the field with the Tab key selects its text") {
     return property<&EntryField::get_SelectOnFocus, &EntryField::put_SelectOnFocus>(u"SelectOnFocus", id, help)
-        .saved(false);
+        .saved(false)
+        .in(Category::Behavior);
 }
 
 constexpr auto tooltipSet(std::int32_t id) {
@@ -62,7 +73,9 @@ constexpr auto tooltipSet(std::int32_t id) {
 }
 
 constexpr auto upDown(std::int32_t id, bool byDefault, std::u16string_view help = u"A spinner is shown") {
-    return property<&EntryField::get_UpDown, &EntryField::put_UpDown>(u"UpDown", id, help).saved(byDefault);
+    return property<&EntryField::get_UpDown, &EntryField::put_UpDown>(u"UpDown", id, help)
+        .saved(byDefault)
+        .in(Category::Appearance);
 }
 
 /// A reference that a host keeps in the control.

@@ -37,6 +37,11 @@ public:
     /// A property that the host's form keeps was set: the form needs saving.
     virtual void propertyChanged(const MemberRow& property) = 0;
 
+    /// The user is about to change a property that data can be bound to. False: it stays as it is.
+    virtual bool mayChange(const MemberRow& /*property*/) { return true; }
+    /// Such a property has another value, and `propertyChanged` did not tell of it.
+    virtual void boundChanged(const MemberRow& /*property*/) {}
+
     /// Runs the host's handlers; by-reference arguments come back in `arguments`.
     virtual void raiseEvent(const EventRow& event, std::span<Variant> arguments) = 0;
 

@@ -12,6 +12,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "library/DesignFacts.h"
 #include "library/KelDateDaysFlag.h"
 #include "values/Coercion.h"
 #include "values/Variant.h"
@@ -122,9 +123,12 @@ struct MemberRow {
     /// Saved properties are read and written in the order of their rows, but for those that come before this one.
     std::u16string_view readBefore{};
     std::u16string_view writtenBefore{};
+    DesignFacts design{};
 
     constexpr std::span<const ParameterRow> parameters() const { return {parameterRows.data(), parameterCount}; }
     constexpr bool isPersisted() const { return persisted.type != TypeTag::None; }
+    /// Whether a designer sets it: forms keep what it is given.
+    constexpr bool isDesigned() const { return isPersisted() && put != nullptr && !hidden; }
 
     template <class... Names>
     constexpr MemberRow arguments(Names... names) const {
@@ -410,6 +414,35 @@ struct PropertyRow : MemberRow {
     constexpr PropertyRow beforeWriting(std::u16string_view otherName) const {
         PropertyRow row = *this;
         row.writtenBefore = otherName;
+        return row;
+    }
+
+    // ---- For designers
+
+    constexpr PropertyRow in(Category category) const {
+        PropertyRow row = *this;
+        row.design.category = category;
+        return row;
+    }
+    constexpr PropertyRow on(DesignPage page) const {
+        PropertyRow row = *this;
+        row.design.page = page;
+        return row;
+    }
+    /// `names` stands for good.
+    constexpr PropertyRow choices(std::span<const std::u16string_view> names) const {
+        PropertyRow row = *this;
+        row.design.choices = names;
+        return row;
+    }
+    constexpr PropertyRow linesWhere(std::u16string_view switchName) const {
+        PropertyRow row = *this;
+        row.design.linesWhere = switchName;
+        return row;
+    }
+    constexpr PropertyRow bound() const {
+        PropertyRow row = *this;
+        row.design.isBound = true;
         return row;
     }
 };

@@ -89,8 +89,12 @@ void KelCheck::Show() {
 
 // ---- The check box
 
+bool KelCheck::Check1_Toggle() { return Host_.container.mayChange(model().rowPutBy<&KelCheck::put_Value>()); }
+
 void KelCheck::Check1_Click() {
-    if (EventDepth_ == 0) Host_.container.raiseEvent(Change, {});
+    if (EventDepth_ != 0) return;
+    Host_.container.boundChanged(model().rowPutBy<&KelCheck::put_Value>());
+    Host_.container.raiseEvent(Change, {});
 }
 
 void KelCheck::Check1_KeyPress(char32_t& KeyAscii) {

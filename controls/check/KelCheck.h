@@ -53,6 +53,7 @@ public:
     WidgetSet widgets() override { return {.field = &Check1_, .checkBox = &Check1_}; }
 
 private:
+    bool Check1_Toggle() override;
     void Check1_Click() override;
     void Check1_KeyPress(char32_t& KeyAscii) override;
 

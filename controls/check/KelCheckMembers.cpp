@@ -6,25 +6,32 @@ namespace {
 
 constexpr MemberRow Members[] = {
     property<&KelCheck::get_Caption, &KelCheck::put_Caption>(u"Caption", CaptionId, u"Text beside the check box")
-        .savedAs<&KelCheck::loadCaption, &KelCheck::get_Caption>(u""),
+        .savedAs<&KelCheck::loadCaption, &KelCheck::get_Caption>(u"")
+        .in(Category::Appearance),
     property<&KelCheck::get_Changed>(u"Changed", 0x68030007, u"The value differs from the original value"),
     property<&KelCheck::get_ChangedSaved>(u"ChangedSaved", 0x68030006, u"The value differs from the saved value"),
     property<&KelCheck::get_Enabled, &KelCheck::put_Enabled>(u"Enabled", EnabledId, u"The check box takes input")
-        .saved(true),
+        .saved(true)
+        .in(Category::Behavior),
     property<&KelCheck::get_FontBold, &KelCheck::put_FontBold>(u"FontBold", 0x68030005, u"The caption is shown in bold")
-        .savedAs<&KelCheck::loadFontBold, &KelCheck::get_FontBold>(false),
+        .savedAs<&KelCheck::loadFontBold, &KelCheck::get_FontBold>(false)
+        .in(Category::Appearance),
     property<&KelCheck::get_Locked, &KelCheck::put_Locked>(u"Locked", 0x68030004,
                                                            u"The value is shown but cannot be changed by the user")
-        .saved(false),
+        .saved(false)
+        .in(Category::Behavior),
     property<&KelCheck::get_Mandatory, &KelCheck::put_Mandatory>(u"Mandatory", 0x68030003,
                                                                  u"The caption has the colour of mandatory fields")
-        .saved(true),
+        .saved(true)
+        .in(Category::Behavior),
     method<&KelCheck::Refresh>(u"Refresh", 0x60030008, u"Repaints the check box"),
     method<&KelCheck::TooltipSet>(u"TooltipSet", 0x60030009, u"Sets the tooltip").arguments(u"Tooltip"),
     property<&KelCheck::get_Valid>(u"Valid", 0x68030002, u"Always true"),
     property<&KelCheck::get_Value, &KelCheck::put_Value>(u"Value", DefaultMemberId, u"The box is checked")
         // Although a new check box is unchecked: form files rely on it.
-        .saved(true),
+        .saved(true)
+        .in(Category::Data)
+        .bound(),
     property<&KelCheck::get_ValueOriginal, &KelCheck::put_ValueOriginal>(u"ValueOriginal", 0x68030001,
                                                                          u"What Changed compares with")
         .hiddenByReference(),

@@ -66,9 +66,12 @@ std::int16_t KelCombo::get_ListIndex() const {
 
 void KelCombo::put_ListIndex(std::int16_t item) {
     if (item < 1 || item > get_ListCount()) return;
-    const DepthGuard guard(SelectionDepth_);
-    Combo1_.setListIndex(item - 1);
+    {
+        const DepthGuard guard(SelectionDepth_);
+        Combo1_.setListIndex(item - 1);
+    }
     TextOriginal_ = Combo1_.text();
+    tellText();
 }
 
 std::u16string KelCombo::get_ListItem(std::int16_t Item) const {
@@ -123,8 +126,15 @@ void KelCombo::put_Text(const std::u16string& text) {
         Typing_ = false;
         showText(text);
     }
-    TextOriginal_ = Combo1_.text();
+    TextOriginal_ = TextTold_ = Combo1_.text();
     Field_.report<&KelCombo::put_Text>();
+}
+
+/// However another text has come about.
+void KelCombo::tellText() const {
+    if (Combo1_.text() == TextTold_) return;
+    TextTold_ = Combo1_.text();
+    Field_.tellChanged<&KelCombo::put_Text>();
 }
 
 bool KelCombo::selectEqual(const std::u16string& text) const {
@@ -141,13 +151,16 @@ void KelCombo::showText(const std::u16string& text) const {
 /// What the user leaves behind: an item where there is one, no text that is none where only items may stand, and no
 /// mandatory field without a text, as long as there is one that may stand.
 void KelCombo::settleText() const {
-    const DepthGuard guard(SelectionDepth_);
-    Typing_ = false;
-    if (Combo1_.textLength() != 0)
-        showText(Combo1_.text());
-    else if (Field_.get_Mandatory())
-        bringBackOriginal();
-    Combo1_.setSelStart(0);
+    {
+        const DepthGuard guard(SelectionDepth_);
+        Typing_ = false;
+        if (Combo1_.textLength() != 0)
+            showText(Combo1_.text());
+        else if (Field_.get_Mandatory())
+            bringBackOriginal();
+        Combo1_.setSelStart(0);
+    }
+    tellText();
 }
 
 /// The reference may be a text from before only items could stand; such a one stays away.
@@ -160,8 +173,11 @@ void KelCombo::put_LimitToList(bool limit) {
     LimitToList_ = limit;
     Field_.report<&KelCombo::put_LimitToList>();
     if (!limit) return;
-    const DepthGuard guard(SelectionDepth_);
-    if (!selectEqual(Combo1_.text())) Combo1_.setText({});
+    {
+        const DepthGuard guard(SelectionDepth_);
+        if (!selectEqual(Combo1_.text())) Combo1_.setText({});
+    }
+    tellText();
 }
 
 bool KelCombo::get_Valid() const {
@@ -179,12 +195,14 @@ void KelCombo::Combo1_Change() {
         const DepthGuard guard(SelectionDepth_);
         Combo1_.setText({});
     }
+    tellText();
     if (!get_Changed() || !hostWantsChange()) return;
     Field_.host().container.raiseEvent(Change, {});
     if (LimitToList_) TextOriginal_ = Combo1_.text();
 }
 
 void KelCombo::Combo1_Click() {
+    tellText();
     if (SelectionDepth_ > 0 || !get_Changed() || !hostWantsChange()) return;
     Field_.host().container.raiseEvent(Click, {});
     Field_.host().container.raiseEvent(Change, {});
@@ -228,12 +246,19 @@ void KelCombo::selectFrom(std::int32_t caret) {
 void KelCombo::Combo1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) {
     Typing_ = true;
     const bool deletes = KeyCode == keys::Delete && Shift == NoModifier;
-    if (deletes && Combo1_.selLength() != 0 && !Combo1_.locked()) Combo1_.setSelText({});
+    if (!deletes || Combo1_.selLength() == 0 || Combo1_.locked()) return;
+    if (Field_.mayChange<&KelCombo::put_Text>()) Combo1_.setSelText({});
+}
+
+bool KelCombo::Combo1_Edit(EditAction Action) {
+    const bool may = Field_.mayChange<&KelCombo::put_Text>();
+    if (may) expectResult(Action);
+    return may;
 }
 
 /// What is taken away on purpose does not come back as a completion. All else is typing, also without a key; but
 /// Delete may have been handled as one already.
-void KelCombo::Combo1_Edit(EditAction Action) {
+void KelCombo::expectResult(EditAction Action) {
     const bool hasSelection = Combo1_.selLength() != 0;
     switch (Action) {
         case EditAction::Cut:

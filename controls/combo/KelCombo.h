@@ -62,7 +62,8 @@ private:
     void Combo1_Change() override;
     void Combo1_Click() override;
     void Combo1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) override;
-    void Combo1_Edit(EditAction Action) override;
+    bool Combo1_Edit(EditAction Action) override;
+    bool Combo1_Pick() override { return Field_.mayChange<&KelCombo::put_Text>(); }
     void Combo1_KeyPress(char32_t& KeyAscii) override;
     void Combo1_GotFocus() override;
     void Combo1_LostFocus() override;
@@ -74,6 +75,8 @@ private:
     void bringBackOriginal() const;
     void completeTyping();
     void selectFrom(std::int32_t caret);
+    void expectResult(EditAction action);
+    void tellText() const;
     bool hostWantsChange();
 
     /// Where the tag asked for last stands, so that a loop over all tags reads each of them once more and not all.
@@ -94,6 +97,7 @@ private:
     std::u16string TextOriginal_;
     std::u16string TextSaved_;
 
+    mutable std::u16string TextTold_;          ///< the text that listeners know
     mutable std::int16_t SelectionDepth_ = 0;  ///< above 0 while the control itself changes text or selection
     mutable bool Typing_ = false;              ///< keys were pressed whose result is not settled
 };

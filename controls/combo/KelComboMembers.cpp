@@ -18,15 +18,19 @@ constexpr MemberRow Members[] = {
         u"DropDownWidth", 0x6803000F, u"Width of the dropped list in twips, up to 8000; 0 for the field's width")
         // Read by another name than written: kept, since forms were saved so.
         .savedAs<&KelCombo::loadDropDownWidth, &KelCombo::storedDropDownWidth>(0)
-        .readAs(u"DropdownWidth"),
+        .readAs(u"DropdownWidth")
+        .in(Category::Appearance),
     entry::enabled(0x6803000E),
     property<&KelCombo::get_LimitToList, &KelCombo::put_LimitToList>(u"LimitToList", 0x6803000D,
                                                                      u"The text is an item of the list, or empty")
-        .saved(true),
+        .saved(true)
+        .in(Category::Behavior),
     property<&KelCombo::get_List, &KelCombo::put_List>(
         u"List", 0x6803000C, u"The items, separated by commas; items with commas or quotes stand in double quotes")
         .saved(u"")
-        .sameWhere(&isSameList),
+        .sameWhere(&isSameList)
+        .in(Category::List)
+        .on(DesignPage::List),
     property<&KelCombo::get_ListCount>(u"ListCount", 0x6803000B, u"Count of the items"),
     property<&KelCombo::get_ListIndex, &KelCombo::put_ListIndex>(
         u"ListIndex", 0x6803000A, u"The item that is the text, counted from 1; -1 for none or without LimitToList")
@@ -37,7 +41,9 @@ constexpr MemberRow Members[] = {
         .lastOptional(),
     property<&KelCombo::get_ListTag, &KelCombo::put_ListTag>(u"ListTag", 0x68030008,
                                                              u"Tags of the items, written as the list is")
-        .saved(u""),
+        .saved(u"")
+        .in(Category::List)
+        .on(DesignPage::List),
     property<&KelCombo::get_ListTagItem>(u"ListTagItem", 0x68030007,
                                          u"Tag of an item, counted from 1; left out, of the selected one")
         .arguments(u"Item")
@@ -49,7 +55,9 @@ constexpr MemberRow Members[] = {
     entry::selectOnFocus(0x68030003),
     property<&KelCombo::get_Text, &KelCombo::put_Text>(u"Text", DefaultMemberId,
                                                        u"The text; where only items may stand, an item or empty")
-        .saved(u""),
+        .saved(u"")
+        .in(Category::Data)
+        .bound(),
     entry::original<&KelCombo::get_TextOriginal, &KelCombo::put_TextOriginal>(u"TextOriginal", 0x68030002),
     entry::saved<&KelCombo::get_TextSaved, &KelCombo::put_TextSaved>(u"TextSaved", 0x68030001),
     entry::tooltipSet(0x60030015),

@@ -102,16 +102,29 @@ void DateTimeField::CommitText() {
 }
 
 void DateTimeField::takeRead(std::optional<Date> date) {
-    Value_ = date ? Variant(Rules_.committed(*date, host(), Bounds_)) : Variant(Null{});
+    const Variant value = date ? Variant(Rules_.committed(*date, host(), Bounds_)) : Variant(Null{});
+    if (mayTake(value)) take(value);
+}
+
+/// The host may want to keep a value that the user is about to change.
+bool DateTimeField::mayTake(const Variant& value) const {
+    return dateIn(value) == dateIn(Value_) || Entry_.mayChange<&DateTimeField::put_Value>();
+}
+
+void DateTimeField::take(const Variant& value) {
+    const bool differs = dateIn(value) != dateIn(Value_);
+    Value_ = value;
+    if (differs) Entry_.tellChanged<&DateTimeField::put_Value>();
 }
 
 void DateTimeField::step(std::int32_t delta) {
     if (Entry_.get_Locked()) return;
     const BoxState before{.text = Text1_.text(), .caret = static_cast<std::size_t>(Text1_.selStart()), .value = read()};
     const FieldStep step = Rules_.step(before, delta, host(), textRules());
-    Value_ = step.value;
+    if (!mayTake(step.value)) return;
     Text1_.setText(step.text);
     Text1_.setSelStart(static_cast<std::int32_t>(step.caret));
+    take(step.value);  // last: whoever is told of it may read it, which reads the text
     if (!step.isFirst && !isChangedByStep(ValueOriginal_, step.value)) return;
     host().container.raiseEvent(Change_, {});
     ValueOriginal_ = Value_;

@@ -97,6 +97,8 @@ private:
     std::optional<Date> read() const;
     std::optional<Date> parsed(const Variant& text) const;
     void takeRead(std::optional<Date> date);
+    bool mayTake(const Variant& value) const;
+    void take(const Variant& value);
     void show(std::optional<Date> date) { Text1_.setText(Format_.show(date, Entry_.region())); }
     bool showsValue() const;
     bool isValueOutOfRange() const;

@@ -5,6 +5,10 @@ namespace kel {
 
 namespace {
 
+constexpr std::u16string_view UsualFormats[] = {
+    u"hh:nn am/pm", u"hh:nn:ss am/pm", u"hh:nn", u"hh:nn:ss", u"h:nn", u"Short Time", u"Medium Time", u"Long Time",
+};
+
 constexpr MemberRow Members[] = {
     entry::caption(0x6803000E),
     entry::captionWidth(0x6803000D),
@@ -13,16 +17,21 @@ constexpr MemberRow Members[] = {
     entry::enabled(),
     property<&DateTimeField::get_Format, &DateTimeField::put_Format>(u"Format", 0x6803000A,
                                                                      u"How the time is shown, such as hh:nn am/pm")
-        .saved(DefaultTimeFormat),
+        .saved(DefaultTimeFormat)
+        .in(Category::Format)
+        .on(DesignPage::Format)
+        .choices(UsualFormats),
     entry::insertMode(0x68030009, false),
     entry::locked(0x68030008, u"The value can be read and copied but not edited"),
     entry::mandatory(0x68030007),
     property<&DateTimeField::get_MaxValue, &DateTimeField::put_MaxValue>(u"MaxValue", 0x68030006,
                                                                          u"Latest time accepted")
-        .saved(AllTimes.maximum),
+        .saved(AllTimes.maximum)
+        .in(Category::Data),
     property<&DateTimeField::get_MinValue, &DateTimeField::put_MinValue>(u"MinValue", 0x68030005,
                                                                          u"Earliest time accepted")
-        .saved(AllTimes.minimum),
+        .saved(AllTimes.minimum)
+        .in(Category::Data),
     entry::refresh(0x6003000F),
     entry::selectOnFocus(0x68030004),
     entry::tooltipSet(0x60030010),
@@ -35,7 +44,9 @@ constexpr MemberRow Members[] = {
         u"Value", DefaultMemberId, u"The time; Null for none, Empty before the first one")
         // Written as a text, which equals no number: always.
         .savedAs<&DateTimeField::put_Value, &KelTime::storedValue>(std::int16_t{0})
-        .beforeWriting(u"UpDown"),
+        .beforeWriting(u"UpDown")
+        .in(Category::Data)
+        .bound(),
     entry::original<&DateTimeField::get_ValueOriginal, &DateTimeField::put_ValueOriginal>(u"ValueOriginal", 0x68030001),
     entry::saved<&DateTimeField::get_ValueSaved, &DateTimeField::put_ValueSaved>(u"ValueSaved", 0x68030000),
 };

@@ -128,8 +128,15 @@ void KelNumber::showValue() { Text1_.setText(valueText()); }
 void KelNumber::CommitText() {
     TextDirty_ = false;
     if (Field_.get_Locked()) return;
-    Value_ = bounded(parseField());
+    takeValue(bounded(parseField()));
     showValue();
+}
+
+/// What the user has made of the value, unless the host wants to keep it.
+void KelNumber::takeValue(double value) {
+    if (value == Value_ || !Field_.mayChange<&KelNumber::put_Value>()) return;
+    Value_ = value;
+    Field_.tellChanged<&KelNumber::put_Value>();
 }
 
 void KelNumber::StepValue(double delta) {

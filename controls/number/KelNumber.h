@@ -64,6 +64,7 @@ private:
 
     double number();
     void CommitText();
+    void takeValue(double value);
     void StepValue(double delta);
     double numberFromValue(const Variant& value) const;
     double roundNumber(double number) const;

@@ -17,26 +17,36 @@ constexpr MemberRow Members[] = {
         u"Decimals", 0x6803000D, u"Decimal places, 0 to 16; -1 for as many as the region uses")
         // First, so that all numbers after them are rounded with the right count.
         .saved(-1)
-        .beforeReading(u"Caption"),
+        .beforeReading(u"Caption")
+        .in(Category::Format)
+        .on(DesignPage::Numbers),
     entry::enabled(),
     entry::fontBold(0x6803000C),
     property<&KelNumber::get_GroupDigits, &KelNumber::put_GroupDigits>(
         u"GroupDigits", 0x6803000B, u"Thousands are grouped while the field is not edited")
-        .saved(true),
+        .saved(true)
+        .in(Category::Format)
+        .on(DesignPage::Numbers),
     entry::insertMode(0x6803000A, false).beforeReading(u"FontBold"),
     entry::locked(0x68030009, u"The value can be read and copied but not edited"),
     entry::mandatory(0x68030008, u"The value must not be zero"),
     property<&KelNumber::get_MaxValue, &KelNumber::put_MaxValue>(u"MaxValue", 0x68030007, u"Largest value accepted")
-        .saved(0),
+        .saved(0)
+        .in(Category::Data)
+        .on(DesignPage::Numbers),
     property<&KelNumber::get_MinValue, &KelNumber::put_MinValue>(u"MinValue", 0x68030006, u"Smallest value accepted")
-        .saved(0),
+        .saved(0)
+        .in(Category::Data)
+        .on(DesignPage::Numbers),
     entry::refresh(0x60030013),
     entry::selectOnFocus(0x68030005, u"Entering the field selects its text"),
     entry::tooltipSet(0x60030014),
     entry::upDown(0x68030004, false, u"A spinner is shown, and the Up and Down keys step the value"),
     property<&KelNumber::get_UpDownChange, &KelNumber::put_UpDownChange>(u"UpDownChange", 0x68030003,
                                                                          u"What one step adds or takes away")
-        .saved(1),
+        .saved(1)
+        .in(Category::Behavior)
+        .on(DesignPage::Numbers),
     property<&KelNumber::get_Valid>(u"Valid", 0x68030002,
                                     u"The value is in range, and not zero in a mandatory field, or the field is locked")
         .arguments(u"ShowMessage")
@@ -44,7 +54,9 @@ constexpr MemberRow Members[] = {
     property<&KelNumber::get_Value, &KelNumber::put_Value>(u"Value", DefaultMemberId, u"The number")
         // No number equals the empty text, so that a value is always written.
         .savedAs<&KelNumber::loadValue, &KelNumber::storedValue>(0)
-        .writtenUnless(u""),
+        .writtenUnless(u"")
+        .in(Category::Data)
+        .bound(),
     entry::original<&KelNumber::get_ValueOriginal, &KelNumber::put_ValueOriginal>(u"ValueOriginal", 0x68030001),
     entry::saved<&KelNumber::get_ValueSaved, &KelNumber::put_ValueSaved>(u"ValueSaved", 0x68030000),
 };

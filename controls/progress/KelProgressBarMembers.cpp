@@ -9,15 +9,18 @@ constexpr MemberRow Members[] = {
     property<&KelProgressBar::get_Enabled, &KelProgressBar::put_Enabled>(u"Enabled", 0x68030003,
                                                                          u"The control is enabled"),
     property<&KelProgressBar::get_Max, &KelProgressBar::put_Max>(u"Max", 0x68030002, u"Last value of the job")
-        .saved(100),
+        .saved(100)
+        .in(Category::Data),
     property<&KelProgressBar::get_Min, &KelProgressBar::put_Min>(u"Min", 0x68030001, u"First value of the job")
         .saved(1)
         .beforeReading(u"Max")
-        .beforeWriting(u"Max"),
+        .beforeWriting(u"Max")
+        .in(Category::Data),
     method<&KelProgressBar::Refresh>(u"Refresh", 0x60030005, u"Repaints the bar"),
     property<&KelProgressBar::get_ShowTime, &KelProgressBar::put_ShowTime>(
         u"ShowTime", 0x68030000, u"The time left stands behind the percentage")
-        .saved(true),
+        .saved(true)
+        .in(Category::Appearance),
     method<&KelProgressBar::Start>(u"Start", 0x60030006, u"Begins a job: the time counts from here"),
     property<&KelProgressBar::get_Value, &KelProgressBar::put_Value>(
         u"Value", DefaultMemberId, u"How far the job is, within Min and Max; setting it moves the bar"),

@@ -115,7 +115,10 @@ void KelText::Text1_GotFocus() {
 
 void KelText::Text1_LostFocus() { activeBox().setSelStart(0); }
 
-void KelText::Text1_Change() { Field_.host().container.raiseEvent(Change, {}); }
+void KelText::Text1_Change() {
+    Field_.tellChanged<&KelText::put_Text>();
+    Field_.host().container.raiseEvent(Change, {});
+}
 
 void KelText::Text1_Click() { Field_.host().container.raiseEvent(Click, {}); }
 

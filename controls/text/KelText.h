@@ -40,6 +40,7 @@ private:
     void Text1_Click() override;
     void Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) override;
     void Text1_KeyPress(char32_t& KeyAscii) override;
+    bool Text1_Edit(EditAction /*Action*/) override { return Field_.mayChange<&KelText::put_Text>(); }
     bool Text1_Paste(std::u16string& /*Text*/) override { return true; }
     void Text1_MouseDown(MouseButton /*Button*/) override {}
     bool Text1_UsesWheel() override { return false; }

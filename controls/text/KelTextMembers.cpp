@@ -18,17 +18,22 @@ constexpr MemberRow Members[] = {
     entry::maxLength(0x68030006),
     property<&KelText::get_MultiLine, &KelText::put_MultiLine>(u"MultiLine", 0x68030005,
                                                                u"The field holds several lines")
-        .saved(false),
+        .saved(false)
+        .in(Category::Behavior),
     property<&KelText::get_PasswordChar, &KelText::put_PasswordChar>(
         u"PasswordChar", 0x68030004, u"Character shown in place of each one typed; empty shows the text")
-        .saved(u""),
+        .saved(u"")
+        .in(Category::Appearance),
     entry::refresh(0x6003000F),
     entry::selectOnFocus(0x68030003),
     property<&KelText::get_Text, &KelText::put_Text>(
         u"Text", DefaultMemberId,
         u"The text, a multi-line one without its trailing empty lines: reading takes them out of the field, which "
         u"moves the caret to its start; a Change handler reads TextRaw instead")
-        .savedAs<&KelText::put_Text, &KelText::get_TextRaw>(u""),
+        .savedAs<&KelText::put_Text, &KelText::get_TextRaw>(u"")
+        .in(Category::Data)
+        .linesWhere(u"MultiLine")
+        .bound(),
     entry::original<&KelText::get_TextOriginal, &KelText::put_TextOriginal>(u"TextOriginal", 0x68030002),
     entry::saved<&KelText::get_TextSaved, &KelText::put_TextSaved>(u"TextSaved", 0x68030001),
     entry::tooltipSet(0x60030010),

@@ -33,7 +33,7 @@ bool CheckBox::takePress() {
 }
 
 void CheckBox::release() {
-    if (takesInput()) setValue(Value_ == Unchecked ? Checked : Unchecked);
+    if (takesInput() && Listener_.Check1_Toggle()) setValue(Value_ == Unchecked ? Checked : Unchecked);
 }
 
 void CheckBox::press() {

@@ -7,6 +7,8 @@ namespace kel {
 
 class CheckBoxListener {
 public:
+    /// The user is about to toggle the box. False: it stays as it is.
+    virtual bool Check1_Toggle() { return true; }
     /// The state differs from before, by the user or by code.
     virtual void Check1_Click() = 0;
     /// A character, or a control character, is about to act; 0 swallows it.

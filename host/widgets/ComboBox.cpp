@@ -139,7 +139,7 @@ void ComboBox::pick(std::int32_t index) {
 }
 
 void ComboBox::take(std::int32_t index) {
-    if (locked() || !Items_.contains(index)) return;
+    if (locked() || !Items_.contains(index) || !Listener_.Combo1_Pick()) return;
     setListIndex(index);
     setSelStart(0);
     Listener_.Combo1_Click();

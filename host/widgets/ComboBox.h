@@ -11,12 +11,14 @@ class ComboBoxListener {
 public:
     /// The text differs from before, by an edit of the user's or by code; not by picking.
     virtual void Combo1_Change() = 0;
+    /// The user is about to pick an item. False: the box stays as it is.
+    virtual bool Combo1_Pick() { return true; }
     /// The user has picked an item, which is selected now; it may be the one that was before.
     virtual void Combo1_Click() = 0;
     /// A key goes down; `KeyCode` set to 0 swallows it.
     virtual void Combo1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) = 0;
-    /// The user is about to edit the text in this way, by whatever means.
-    virtual void Combo1_Edit(EditAction Action) = 0;
+    /// The user is about to edit the text in this way, by whatever means. False: it stays as it is.
+    virtual bool Combo1_Edit(EditAction Action) = 0;
     /// A character is about to be inserted, or a control character to act; 0 swallows it.
     virtual void Combo1_KeyPress(char32_t& KeyAscii) = 0;
     virtual void Combo1_GotFocus() = 0;
@@ -100,7 +102,7 @@ private:
     void Text1_Click() override {}
     void Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) override;
     void Text1_KeyPress(char32_t& KeyAscii) override { Listener_.Combo1_KeyPress(KeyAscii); }
-    void Text1_Edit(EditAction Action) override { Listener_.Combo1_Edit(Action); }
+    bool Text1_Edit(EditAction Action) override { return Listener_.Combo1_Edit(Action); }
     bool Text1_Paste(std::u16string& /*Text*/) override { return true; }
     void Text1_MouseDown(MouseButton /*Button*/) override {}
     bool Text1_UsesWheel() override { return Dropped_; }

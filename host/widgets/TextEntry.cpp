@@ -112,8 +112,7 @@ bool TextEntry::act(EditAction action, char32_t character, bool extend) {
     if (moves(action)) return moveCaret(action, extend);
     if (edits(action)) {
         if (Locked_ || (action == EditAction::BreakLine && !Buffer_.multiLine())) return false;
-        Listener_.Text1_Edit(action);
-        tell(edit(action, character));
+        if (Listener_.Text1_Edit(action)) tell(edit(action, character));
         return true;
     }
     switch (action) {
@@ -164,13 +163,11 @@ bool TextEntry::edit(EditAction action, char32_t character) {
 
 void TextEntry::paste(std::u16string_view text) {
     if (Locked_ || !takesInput()) return;
-    Listener_.Text1_Edit(EditAction::Paste);
-    tell(insertPasted(text));
+    if (Listener_.Text1_Edit(EditAction::Paste)) tell(insertPasted(text));
 }
 
 void TextEntry::replaceSelection(std::u16string_view text) {
-    Listener_.Text1_Edit(EditAction::Paste);
-    setSelText(text);
+    if (Listener_.Text1_Edit(EditAction::Paste)) setSelText(text);
 }
 
 void TextEntry::write(std::size_t start, std::size_t end, std::u16string_view text) {

@@ -22,8 +22,8 @@ public:
     virtual void Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) = 0;
     /// A character is about to be inserted, or a control character to act; 0 swallows it.
     virtual void Text1_KeyPress(char32_t& KeyAscii) = 0;
-    /// The user is about to edit the text in this way: by key, from a menu, by a drop.
-    virtual void Text1_Edit(EditAction /*Action*/) {}
+    /// The user is about to edit the text in this way: by key, from a menu, by a drop. False: it stays as it is.
+    virtual bool Text1_Edit(EditAction /*Action*/) { return true; }
     /// The user pastes or drops `Text` in the place of the selection; what it is changed to comes instead.
     /// False refuses it: the box stays as it is.
     virtual bool Text1_Paste(std::u16string& Text) = 0;

@@ -26,7 +26,7 @@ private:
     void Combo1_KeyDown(std::int16_t& KeyCode, Modifiers) override {
         if (onKeyDown) onKeyDown(KeyCode);
     }
-    void Combo1_Edit(EditAction /*Action*/) override {}
+    bool Combo1_Edit(EditAction /*Action*/) override { return true; }
     void Combo1_KeyPress(char32_t& KeyAscii) override {
         if (KeyAscii == keys::Enter) note("Enter");
     }

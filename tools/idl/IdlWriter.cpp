@@ -22,6 +22,11 @@ typedef struct tagVARIANT VARIANT;
 { HRESULT GetTypeInfoCount(); HRESULT GetTypeInfo(); HRESULT GetIDsOfNames(); HRESULT Invoke(); }
 )";
 
+/// Told after each change, asked before it, and shown to the user as something that data is bound to.
+constexpr std::string_view Bindable = ", bindable, requestedit, displaybind";
+
+bool isBoundByDefault(const MemberRow& row) { return row.design.isBound && row.id == DefaultMemberId; }
+
 std::string hexadecimal(std::int32_t id) {
     char text[16];
     std::snprintf(text, sizeof text, "0x%08X", static_cast<unsigned>(id));
@@ -64,8 +69,9 @@ private:
     }
 
     void attributes(const MemberRow& row, std::string_view kind) {
-        Out_ << "        [id(" << dispatchId(row.id) << ')' << kind << (row.hidden ? ", hidden" : "") << ", helpstring("
-             << quoted(row.help) << ")]\n        HRESULT " << narrow(row.name) << '(';
+        Out_ << "        [id(" << dispatchId(row.id) << ')' << kind << (row.hidden ? ", hidden" : "")
+             << (row.design.isBound ? Bindable : "") << (isBoundByDefault(row) ? ", defaultbind" : "")
+             << ", helpstring(" << quoted(row.help) << ")]\n        HRESULT " << narrow(row.name) << '(';
     }
 
     void writeGet(const MemberRow& row) {
@@ -116,9 +122,11 @@ void writeCoclass(std::ostream& out, const ClassModel& model) {
 
 void writeDaysFlag(std::ostream& out) {
     out << "    typedef [uuid(" << textOf(identities::DaysFlag)
-        << "), helpstring(\"What a date field makes of the day it is given\")]\n    enum KelDateDaysFlag\n    {\n"
-           "        Allow = 0,\n        FirstDay = 1,\n        LastDay = 2,\n        BirthDay = 3\n"
-           "    } KelDateDaysFlag;\n\n";
+        << "), helpstring(\"What a date field makes of the day it is given\")]\n    enum KelDateDaysFlag\n    {\n";
+    for (std::size_t value = 0; value < KelDateDaysFlagNames.size(); ++value)
+        out << "        " << narrow(KelDateDaysFlagNames[value]) << " = " << value
+            << (value + 1 < KelDateDaysFlagNames.size() ? ",\n" : "\n");
+    out << "    } KelDateDaysFlag;\n\n";
 }
 
 }  // namespace
@@ -126,8 +134,8 @@ void writeDaysFlag(std::ostream& out) {
 void writeIdl(std::ostream& out, const ClassRegistry& classes) {
     const std::string library = narrow(LibraryName);
     out << Prelude << "\n[uuid(" << textOf(identities::TypeLibrary) << "), version(" << identities::MajorVersion << '.'
-        << identities::MinorVersion << "), helpstring(\"" << library << " data-entry controls\")]\nlibrary " << library
-        << "\n{\n    importlib(\"stdole2.tlb\");\n\n";
+        << identities::MinorVersion << "), control, helpstring(\"" << library << " data-entry controls\")]\nlibrary "
+        << library << "\n{\n    importlib(\"stdole2.tlb\");\n\n";
     writeDaysFlag(out);
     for (const ClassModel* model : classes.all()) {
         InterfaceWriter(out, *model).write();

@@ -137,6 +137,27 @@ const Deed Deeds[] = {
      {ChangeId}},
 };
 
+/// Types, and leaves the field.
+void type(const Host& host, const wchar_t* text) {
+    SetFocus(descendant(host.window(), L"Edit"));
+    for (; *text != 0; ++text) SendMessageW(GetFocus(), WM_CHAR, static_cast<WPARAM>(*text), 0);
+    SetFocus(host.window());
+    settle();
+}
+
+/// What a person does to the value that data is bound to.
+const Deed BoundDeeds[] = {
+    {L"KelNumber", &spinUp, {}},
+    {L"KelNumber", [](const Host& host) { type(host, L"12"); }, {}},
+    {L"KelDate", &spinUp, {}},
+    {L"KelDate", [](const Host& host) { type(host, L"5"); }, {}},
+    {L"KelTime", &spinUp, {}},
+    {L"KelTime", [](const Host& host) { type(host, L"9"); }, {}},
+    {L"KelCheck", [](const Host& host) { SendMessageW(widgetIn(host), BM_CLICK, 0, 0); }, {}},
+    {L"KelCombo", &pickLast, {}},
+    {L"KelText", [](const Host& host) { type(host, L"a"); }, {}},
+};
+
 /// A control on the screen in which a deed can be done.
 class Ready : public Placed {
 public:
@@ -207,6 +228,23 @@ TEST(members_events_follow_what_a_user_does) {
         EXPECT_EQ(field.Sink.Heard.size(), deed.events.size());
         EXPECT(field.Sink.Heard == deed.events);
         EXPECT(field.Inside.called("OnUIActivate"));
+    }
+}
+
+TEST(members_bound_values_ask_first_and_tell_after) {
+    for (const bool may : {true, false}) {
+        for (const Deed& deed : BoundDeeds) {
+            Ready field(deed);
+            const wchar_t* const bound =
+                classOf(field.Control.get()) == u"KelText" || deed.act == &pickLast ? L"Text" : L"Value";
+            const std::wstring before = field.get(bound);
+            field.Inside.Changed.clear();
+            field.Inside.MayEdit = may ? S_OK : S_FALSE;
+            deed.act(field.Inside);
+            EXPECT_EQ(field.get(bound) != before, may);
+            EXPECT((field.Inside.Changed == std::vector<DISPID>(may ? 1 : 0, DISPID_VALUE)));
+            if (!may) EXPECT(field.Sink.Heard.empty());
+        }
     }
 }
 

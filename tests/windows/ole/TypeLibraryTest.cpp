@@ -88,6 +88,9 @@ void expectFunction(ITypeInfo* table, UINT index, const MemberRow& row, INVOKEKI
     EXPECT_EQ(function->invkind, kind);
     EXPECT_EQ(static_cast<std::size_t>(function->oVft), (7 + index) * sizeof(void*));
     EXPECT_EQ((function->wFuncFlags & FUNCFLAG_FHIDDEN) != 0, row.hidden);
+    constexpr int Bindable = FUNCFLAG_FBINDABLE | FUNCFLAG_FREQUESTEDIT | FUNCFLAG_FDISPLAYBIND;
+    EXPECT_EQ(function->wFuncFlags & Bindable, row.design.isBound ? Bindable : 0);
+    EXPECT_EQ((function->wFuncFlags & FUNCFLAG_FDEFAULTBIND) != 0, row.design.isBound && row.id == DefaultMemberId);
     EXPECT_EQ(function.help(), wide(row.help));
     const auto parameters = row.parameters();
     const bool returns = !isPut && row.type != TypeTag::None;
@@ -173,6 +176,7 @@ TEST(typelib_classes_and_enumeration) {
     EXPECT_CODE(types->GetLibAttr(&library), S_OK);
     EXPECT_EQ(library->wMajorVerNum * 100 + library->wMinorVerNum, 104);
     EXPECT_EQ(library->syskind, sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32);
+    EXPECT_EQ(library->wLibFlags & LIBFLAG_FCONTROL, LIBFLAG_FCONTROL);
     types->ReleaseTLibAttr(library);
     BSTR name = nullptr;
     EXPECT_CODE(types->GetDocumentation(-1, &name, nullptr, nullptr, nullptr), S_OK);

@@ -64,8 +64,9 @@ private:
     void Combo1_Change() override { tell(L"change"); }
     void Combo1_Click() override { tell(L"click:" + std::to_wstring(Box_->listIndex())); }
     void Combo1_KeyDown(std::int16_t& /*KeyCode*/, Modifiers /*Shift*/) override {}
-    void Combo1_Edit(EditAction Action) override {
+    bool Combo1_Edit(EditAction Action) override {
         if (Action == EditAction::Paste) tell(L"typed");
+        return true;
     }
     void Combo1_KeyPress(char32_t& /*KeyAscii*/) override {}
     void Combo1_GotFocus() override { tell(L"got"); }

@@ -150,8 +150,18 @@ void OleControl::propertyChanged(const MemberRow& property) {
     Connections_.Notify.changed(property.id);
 }
 
-bool OleControl::mayPut(const MemberRow& member) {
-    return !member.isPersisted() || Connections_.Notify.mayChange(member.id);
+bool OleControl::mayPut(const MemberRow& member) { return !member.isPersisted() || mayChange(member); }
+
+bool OleControl::mayChange(const MemberRow& property) {
+    if (Dying_) return true;
+    const ComPtr<IUnknown> held(&outer());
+    return Connections_.Notify.mayChange(property.id);
+}
+
+void OleControl::boundChanged(const MemberRow& property) {
+    if (Dying_) return;
+    const ComPtr<IUnknown> held(&outer());
+    Connections_.Notify.changed(property.id);
 }
 
 void OleControl::raiseEvent(const EventRow& event, std::span<Variant> arguments) {

@@ -86,6 +86,8 @@ private:
     std::u16string displayName() const override { return Site_.displayName(); }
     void completeFont(FontFace& face) const override;
     void propertyChanged(const MemberRow& property) override;
+    bool mayChange(const MemberRow& property) override;
+    void boundChanged(const MemberRow& property) override;
     void raiseEvent(const EventRow& event, std::span<Variant> arguments) override;
     std::u16string toolTipText() const override { return Site_.toolTipText(); }
     void setToolTipText(std::u16string_view text) override { Site_.setToolTipText(text); }
