@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "library/DesignFacts.h"
+
 /// The identifiers under which component hosts and form files know the library. They are never changed.
 namespace kel {
 
@@ -49,6 +51,11 @@ struct ClassIdentity {
     constexpr bool hasEvents() const { return events != Guid{}; }
 };
 
+struct PageIdentity {
+    DesignPage page;
+    Guid coclass;
+};
+
 namespace identities {
 
 inline constexpr Guid TypeLibrary = guid("0992557C-BAC4-4203-B9CA-4ED27EA3B85A");
@@ -76,6 +83,14 @@ inline constexpr std::array Classes{
                   guid("025E972A-45DA-4A62-A197-5B6666159407"), guid("0E40D282-D600-4695-96B0-2610108FFAFA")},
     ClassIdentity{u"KelControlHandler", guid("EE0BEC45-2027-458E-AF3C-7E1F1C7C2470"),
                   guid("1B28A375-173A-4438-8DFB-D2C78383032B"), Guid{}},
+};
+
+/// The pages of property dialogs, in the order in which a dialog shows them.
+inline constexpr std::array Pages{
+    PageIdentity{DesignPage::General, guid("C263EF98-362C-489F-84A9-45E1F44968DA")},
+    PageIdentity{DesignPage::List, guid("221B5D02-BF65-4C5B-A07D-7AC8879A620E")},
+    PageIdentity{DesignPage::Format, guid("0E2614EA-5BD5-4E5E-AC48-FD50AA7366F5")},
+    PageIdentity{DesignPage::Numbers, guid("A827F306-E654-4A90-B856-5078D8E612C6")},
 };
 
 }  // namespace identities

@@ -4,6 +4,7 @@
 
 #include "library/ClassRegistry.h"
 #include "library/ControlStatus.h"
+#include "library/DesignFacts.h"
 #include "values/Text.h"
 
 namespace kel {
@@ -39,6 +40,14 @@ RegisteredClass registered(const ClassModel& model) {
     entry.isControl = model.isControl();
     entry.miscStatus = statusBitsOf(model);
     entry.toolboxPicture = FirstToolboxPicture + static_cast<int>(identity - identities::Classes.data());
+    return entry;
+}
+
+RegisteredClass registered(const PageIdentity& page) {
+    RegisteredClass entry;
+    entry.clsid = page.coclass;
+    entry.description = std::u16string(LibraryName) + u" property page " +
+                        std::u16string(DesignPageTitles[static_cast<std::size_t>(page.page)]);
     return entry;
 }
 

@@ -27,6 +27,9 @@ struct RegisteredClass {
 /// Of a class of the type library. Throws std::logic_error for a class without an identity.
 RegisteredClass registered(const ClassModel& model);
 
+/// A page of property dialogs.
+RegisteredClass registered(const PageIdentity& page);
+
 /// The default run-time object, which has a server of its own.
 RegisteredClass registeredRuntime();
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "runtime/ListString.h"
+#include "runtime/TaggedList.h"
 #include "values/Text.h"
 
 namespace kel {
@@ -72,6 +73,40 @@ TEST(ListText, StopsAtTheMostItems) {
     ASSERT_EQ(fromArray.size(), 32767);
     EXPECT_EQ(fromArray.item(0), u"a,\"b\"") << "an array's elements are taken as they are";
     EXPECT_EQ(fromArray.item(32766), u"last");
+}
+
+TEST(TaggedList, KeepsItemsAndTagsSideBySide) {
+    const struct {
+        const char16_t* items;
+        const char16_t* tags;
+        TaggedList list;
+        const char16_t* keptTags;
+    } cases[] = {
+        {u"", u"1,2", {}, u""},
+        {u"a,\"b,c\"", u"", {{u"a", u""}, {u"b,c", u""}}, u""},
+        {u"a,b,c", u"\"\",2", {{u"a", u""}, {u"b", u"2"}, {u"c", u""}}, u"\"\",2"},
+        {u"\"\"", u"1", {{u"", u"1"}}, u"1"},
+        {u"a,", u"1,,3", {{u"a", u"1"}, {u"", u""}}, u"1"},
+    };
+    for (const auto& test : cases) {
+        EXPECT_EQ(taggedListOf(test.items, test.tags), test.list) << toUtf8(test.items);
+        EXPECT_EQ(itemsOf(test.list), test.items);
+        EXPECT_EQ(tagsOf(test.list), test.keptTags) << toUtf8(test.items);
+    }
+}
+
+TEST(TaggedList, TakesALineForEachItem) {
+    const struct {
+        const char16_t* text;
+        TaggedList list;
+    } cases[] = {
+        {u"", {}},
+        {u"\r\n\n", {}},
+        {u"a\t1\r\nb\r\n", {{u"a", u"1"}, {u"b", u""}}},
+        {u"a\n\nb\tx\ty", {{u"a", u""}, {u"", u""}, {u"b", u"x\ty"}}},
+        {u"a\rb, c\t", {{u"a", u""}, {u"b, c", u""}}},
+    };
+    for (const auto& test : cases) EXPECT_EQ(taggedLines(test.text), test.list) << toUtf8(test.text);
 }
 
 }  // namespace

@@ -59,6 +59,8 @@ void writeManifest(std::ostream& out, const ClassRegistry& classes) {
         << identities::MinorVersion << "\" helpdir=\"\" flags=\"control\"/>\n";
     for (const ClassModel* model : classes.all())
         writeClass(out, identityOf(*model).coclass, library + '.' + narrow(model->name), model);
+    for (const PageIdentity& page : identities::Pages)
+        out << "    <comClass clsid=\"" << braced(page.coclass) << "\" threadingModel=\"Apartment\"/>\n";
     out << "  </file>\n  <file name=\"KelRuntime8.dll\">\n";
     writeClass(out, identities::Runtime, "KelRuntime8.Runtime", nullptr);
     out << "  </file>\n";

@@ -46,6 +46,8 @@ void writeRegistryTable(std::ostream& out, const ClassRegistry& classes, int bit
         table.write("Names", programIdEntries(entry));
         table.write("Controls", classEntries(entry, controls));
     }
+    for (const PageIdentity& page : identities::Pages)
+        table.write("Controls", classEntries(registered(page), controls));
     table.write("Names", programIdEntries(registeredRuntime()));
     table.write("Runtime", classEntries(registeredRuntime(), u"[#Runtime]"));
 }

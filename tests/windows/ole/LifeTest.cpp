@@ -329,6 +329,12 @@ TEST(manifest_makes_objects_without_registration) {
                            [](_KelText& proxy) { EXPECT_CODE(proxy.put_Caption(Str(L"from elsewhere")), S_OK); });
         EXPECT_EQ(captionOf(field.get()), std::wstring(L"from elsewhere"));
         EXPECT(create(L"KelRuntime8.Runtime"));
+        for (const PageIdentity& page : identities::Pages) {
+            Ref<IUnknown> shown;
+            EXPECT_CODE(CoCreateInstance(systemGuid(page.coclass), nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown,
+                                         shown.receiveVoid()),
+                        S_OK);
+        }
         // Hosts ask before they make an object.
         for (const wchar_t* name : {L"KelControls8.KelText", L"KelControls8.KelProgressBar"}) {
             DWORD told = 0, own = 0;

@@ -12,24 +12,26 @@ namespace kel::win32::ole {
 namespace {
 
 template <class T>
-Variant coerced(const PersistedRow& row, const Variant& value) {
+Variant coerced(std::u16string_view name, const Variant& value) {
     T out{};
     const CoercionFault fault = coerce(value, systemRegion(), out);
     if (fault == CoercionFault::None) return detail::toVariant(std::move(out));
     throw AutomationError(fault == CoercionFault::Overflow ? DISP_E_OVERFLOW : DISP_E_TYPEMISMATCH,
-                          "the stored " + toUtf8(row.name) + " is no value of its type");
+                          toUtf8(name) + " is no value of its type");
 }
 
-Variant exactly(const PersistedRow& row, const Variant& value) {
-    switch (row.type) {
-        case TypeTag::String: return coerced<std::u16string>(row, value);
-        case TypeTag::Boolean: return coerced<bool>(row, value);
-        case TypeTag::Integer16: return coerced<std::int16_t>(row, value);
+}  // namespace
+
+Variant exactValue(TypeTag type, std::u16string_view name, const Variant& value) {
+    switch (type) {
+        case TypeTag::String: return coerced<std::u16string>(name, value);
+        case TypeTag::Boolean: return coerced<bool>(name, value);
+        case TypeTag::Integer16: return coerced<std::int16_t>(name, value);
         case TypeTag::Integer32:
-        case TypeTag::DaysFlag: return coerced<std::int32_t>(row, value);
-        case TypeTag::Double: return coerced<double>(row, value);
-        case TypeTag::Date: return coerced<Date>(row, value);
-        case TypeTag::Strings: return coerced<StringArray>(row, value);
+        case TypeTag::DaysFlag: return coerced<std::int32_t>(name, value);
+        case TypeTag::Double: return coerced<double>(name, value);
+        case TypeTag::Date: return coerced<Date>(name, value);
+        case TypeTag::Strings: return coerced<StringArray>(name, value);
         case TypeTag::None:
         case TypeTag::Object:
         case TypeTag::Any: return value;
@@ -37,10 +39,8 @@ Variant exactly(const PersistedRow& row, const Variant& value) {
     return value;
 }
 
-}  // namespace
-
 void ValueBag::take(const PersistedRow& row, const Variant& value) {
-    Values_.push_back({std::u16string(row.readName), exactly(row, value)});
+    Values_.push_back({std::u16string(row.readName), exactValue(row.type, row.name, value)});
 }
 
 Variant ValueBag::readProperty(const PersistedRow& row) {

@@ -14,6 +14,9 @@ struct StoredValue {
     Variant value;
 };
 
+/// The value as exactly this type. Throws AutomationError, which names the property, when it cannot be that.
+Variant exactValue(TypeTag type, std::u16string_view name, const Variant& value);
+
 /// Persisted properties in memory, between a control and whatever a host keeps them in. A control is loaded
 /// from here only after all of its values have been read and found good.
 class ValueBag final : public PropertyBag {

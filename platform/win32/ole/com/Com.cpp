@@ -21,6 +21,18 @@ BSTR makeBstr(std::u16string_view text) {
     return made;
 }
 
+LPOLESTR tryTaskText(std::u16string_view text) noexcept {
+    auto* const made = static_cast<LPOLESTR>(CoTaskMemAlloc((text.size() + 1) * sizeof(wchar_t)));
+    if (made != nullptr) *std::copy(text.begin(), text.end(), made) = L'\0';
+    return made;
+}
+
+LPOLESTR makeTaskText(std::u16string_view text) {
+    LPOLESTR const made = tryTaskText(text);
+    if (made == nullptr) throw std::bad_alloc();
+    return made;
+}
+
 std::wstring moduleFile() {
     std::wstring path(MAX_PATH, L'\0');
     for (;;) {

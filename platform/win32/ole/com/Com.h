@@ -33,6 +33,11 @@ inline std::u16string textOf(BSTR text) {
 /// A new BSTR, the caller's to free. Throws std::bad_alloc.
 BSTR makeBstr(std::u16string_view text);
 
+/// A zero-terminated text in the memory that callers of components free. Throws std::bad_alloc.
+LPOLESTR makeTaskText(std::u16string_view text);
+/// nullptr when there is no memory for it.
+LPOLESTR tryTaskText(std::u16string_view text) noexcept;
+
 /// The file that this code was loaded from.
 std::wstring moduleFile();
 

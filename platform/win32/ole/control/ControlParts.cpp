@@ -1,6 +1,5 @@
 #include "platform/win32/ole/control/ControlParts.h"
 
-#include <algorithm>
 #include <array>
 
 #include "host/focus/TabOrder.h"
@@ -16,20 +15,14 @@ namespace {
 
 struct Verb {
     LONG id;
-    const wchar_t* name;
+    const char16_t* name;
 };
 
 /// What a user may be offered to do with a control that takes the focus.
-constexpr Verb Edit{OLEIVERB_PRIMARY, L"&Edit"};
-
-LPOLESTR copyForCaller(std::wstring_view text) {
-    auto* const copy = static_cast<LPOLESTR>(CoTaskMemAlloc((text.size() + 1) * sizeof(wchar_t)));
-    if (copy != nullptr) *std::copy(text.begin(), text.end(), copy) = L'\0';
-    return copy;
-}
+constexpr Verb Edit{OLEIVERB_PRIMARY, u"&Edit"};
 
 OLEVERB verbForCaller(const Verb& verb) {
-    return {verb.id, copyForCaller(verb.name), MF_ENABLED, OLEVERBATTRIB_ONCONTAINERMENU};
+    return {verb.id, tryTaskText(verb.name), MF_ENABLED, OLEVERBATTRIB_ONCONTAINERMENU};
 }
 
 class EmbeddedPart final : public ControlPart<IOleObject, IQuickActivate> {
@@ -71,8 +64,8 @@ public:
         return E_NOTIMPL;
     }
     HRESULT STDMETHODCALLTYPE DoVerb(LONG verb, LPMSG /*message*/, IOleClientSite* /*site*/, LONG /*index*/,
-                                     HWND /*parent*/, LPCRECT /*bounds*/) noexcept override {
-        return guarded([&] { return doVerb(verb); });
+                                     HWND parent, LPCRECT /*bounds*/) noexcept override {
+        return guarded([&] { return verb == OLEIVERB_PROPERTIES ? showProperties(Control_, parent) : doVerb(verb); });
     }
     HRESULT STDMETHODCALLTYPE EnumVerbs(IEnumOLEVERB** verbs) noexcept override {
         if (verbs == nullptr) return E_POINTER;
@@ -92,10 +85,8 @@ public:
     }
     HRESULT STDMETHODCALLTYPE GetUserType(DWORD /*form*/, LPOLESTR* type) noexcept override {
         if (type == nullptr) return E_POINTER;
-        return guarded([&] {
-            *type = copyForCaller(wide(Control_.model().name));
-            return *type != nullptr ? S_OK : E_OUTOFMEMORY;
-        });
+        *type = nullptr;
+        return guarded([&] { *type = makeTaskText(Control_.model().name); });
     }
     HRESULT STDMETHODCALLTYPE SetExtent(DWORD aspect, SIZEL* size) noexcept override {
         if (size == nullptr) return E_POINTER;
@@ -178,13 +169,12 @@ private:
 
 // ---- Keys
 
-/// There are no property pages: designers show the properties by themselves.
-class KeysPart final : public ControlPart<IOleControl, ISpecifyPropertyPages> {
+class KeysPart final : public ControlPart<IOleControl> {
 public:
     using ControlPart::ControlPart;
     ~KeysPart() override { makeAccelerators(0); }
 
-    void* find(REFIID iid) override { return asOneOf<IOleControl, ISpecifyPropertyPages>(iid, *this); }
+    void* find(REFIID iid) override { return asOneOf<IOleControl>(iid, *this); }
 
     HRESULT STDMETHODCALLTYPE GetControlInfo(CONTROLINFO* info) noexcept override {
         if (info == nullptr) return E_POINTER;
@@ -210,11 +200,6 @@ public:
     }
     HRESULT STDMETHODCALLTYPE FreezeEvents(BOOL freeze) noexcept override {
         Control_.freezeEvents(freeze != FALSE);
-        return S_OK;
-    }
-    HRESULT STDMETHODCALLTYPE GetPages(CAUUID* pages) noexcept override {
-        if (pages == nullptr) return E_POINTER;
-        *pages = {};
         return S_OK;
     }
 

@@ -28,6 +28,10 @@ protected:
 
 /// The control as an object embedded in a host.
 std::unique_ptr<ControlInterfaces> makeEmbeddedPart(OleControl& control);
+/// What designers ask: property pages, names of values, headings.
+std::unique_ptr<ControlInterfaces> makeDesignPart(OleControl& control);
+/// The host's property dialog; where it has none, the system's in front of `parent`. Returns once it is closed.
+HRESULT showProperties(OleControl& control, HWND parent);
 /// Keys, ambient properties and the pausing of events.
 std::unique_ptr<ControlInterfaces> makeKeysPart(OleControl& control);
 /// The control's window, as its container moves it and as its frame talks to it while the user works in it.

@@ -32,8 +32,8 @@ OleControl::OleControl(Library& library, const ClassModel& model, const ClassIde
       ClassInfo_(*this, identity, library),
       // Its members reach nothing outside the page, and properties that are damaged are refused.
       Safety_(*this, INTERFACESAFE_FOR_UNTRUSTED_CALLER | INTERFACESAFE_FOR_UNTRUSTED_DATA),
-      Parts_{makeEmbeddedPart(*this), makeKeysPart(*this), makeInPlacePart(*this), makePicturePart(*this),
-             makePersistPart(*this)},
+      Parts_{makeEmbeddedPart(*this), makeKeysPart(*this),    makeInPlacePart(*this),
+             makePicturePart(*this),  makePersistPart(*this), makeDesignPart(*this)},
       Window_(*this, System_) {
     ControlHost host{*this, Window_.widgets(), System_, Apartment_->settings(), systemRegion()};
     Control_ = model.makeControl(host);

@@ -126,7 +126,7 @@ private:
     ConnectionPointsPart Connections_;
     ClassInfoPart ClassInfo_;
     SafetyPart Safety_;
-    std::array<std::unique_ptr<ControlInterfaces>, 5> Parts_;
+    std::array<std::unique_ptr<ControlInterfaces>, 6> Parts_;
     ControlWindow Window_;
     std::unique_ptr<Control> Control_;  ///< last: it leans on all of the above
 };

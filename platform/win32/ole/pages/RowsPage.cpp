@@ -1,0 +1,133 @@
+#include "platform/win32/ole/pages/RowsPage.h"
+
+#include <algorithm>
+#include <cwctype>
+
+#include "library/AutomationError.h"
+#include "platform/win32/base/WideText.h"
+#include "platform/win32/home/Win32Services.h"
+#include "platform/win32/ole/pages/Sample.h"
+#include "values/Text.h"
+
+namespace kel::win32::ole {
+
+namespace {
+
+constexpr DWORD FirstEditor = 100;
+constexpr DWORD SampleId = 800;
+constexpr short Switches = 166;  ///< where they begin, beside the other editors
+constexpr double SampleNumber = -1234.5;
+
+/// The first letter of a name that marks no other one; 0 where there is none left.
+wchar_t takeMnemonic(std::u16string_view name, std::wstring& taken) {
+    for (const char16_t unit : name) {
+        const auto letter = static_cast<wchar_t>(std::towupper(static_cast<wint_t>(unit)));
+        if (taken.find(letter) != std::wstring::npos) continue;
+        taken += letter;
+        return static_cast<wchar_t>(unit);
+    }
+    return 0;
+}
+
+DATE now() {
+    SYSTEMTIME local{};
+    GetLocalTime(&local);
+    DATE serial = 0;
+    SystemTimeToVariantTime(&local, &serial);
+    return serial;
+}
+
+}  // namespace
+
+void RowsPage::takeObjects() {
+    std::wstring taken;
+    Editors_.clear();
+    DWORD id = FirstEditor;
+    for (const MemberRow* row : objects().rows(kind()))
+        Editors_.emplace_back(*row, objects(), id++, takeMnemonic(row->name, taken));
+}
+
+void RowsPage::layOut(DialogTemplate& dialog) {
+    // A switch may let a text have several lines.
+    short left = Margin;
+    for (const RowEditor& editor : Editors_) {
+        if (editor.isSwitch()) continue;
+        editor.layOut(dialog, Margin, left, Switches - 2 * Margin);
+        left = static_cast<short>(left + editor.height());
+    }
+    short right = Margin;
+    for (const RowEditor& editor : Editors_) {
+        if (!editor.isSwitch()) continue;
+        editor.layOut(dialog, Switches, right, Width - Switches - Margin);
+        right = static_cast<short>(right + editor.height());
+    }
+    if (!hasSample()) return;
+    dialog.add(L"STATIC", L"Sample", SS_LEFT, {Switches, right, Width - Switches - Margin, 9}, 0);
+    dialog.add(L"STATIC", L"", SS_NOPREFIX, {Switches, static_cast<short>(right + 11), Width - Switches - Margin, 44},
+               SampleId, WS_EX_CLIENTEDGE);
+}
+
+void RowsPage::showAll() {
+    Showing_ = true;
+    for (const RowEditor& editor : Editors_) editor.show(window());
+    Showing_ = false;
+    showSample();
+}
+
+std::optional<std::u16string> RowsPage::applyAll() {
+    for (RowEditor& editor : Editors_) {
+        if (!editor.typed()) continue;
+        auto wrong = objects().put(editor.row(), *editor.typed());
+        if (wrong) {
+            if (window() != nullptr) editor.focus(window());
+            return wrong;
+        }
+        editor.applied(objects());
+    }
+    // One put may lead to others: a bound takes the other one along.
+    for (RowEditor& editor : Editors_) editor.applied(objects());
+    if (window() != nullptr) showAll();
+    return std::nullopt;
+}
+
+bool RowsPage::edit(const MemberRow& row) {
+    const auto found = std::find_if(Editors_.begin(), Editors_.end(),
+                                    [&row](const RowEditor& editor) { return editor.row().name == row.name; });
+    if (found != Editors_.end()) found->focus(window());
+    return found != Editors_.end();
+}
+
+void RowsPage::command(DWORD id, UINT code) {
+    if (Showing_ || id < FirstEditor || id >= FirstEditor + Editors_.size()) return;
+    RowEditor& editor = Editors_[id - FirstEditor];
+    if (editor.hears(window(), code)) {
+        setDirty(true);
+        showSample();
+    }
+    say(editor.help());
+}
+
+// ---- Sample
+
+std::u16string RowsPage::sample() const {
+    Sample made(objects().type());
+    try {
+        for (const RowEditor& editor : Editors_)
+            if (editor.current()) made.put(editor.row(), *editor.current());
+        if (kind() == DesignPage::Format) return made.shown(Date{now()});
+        std::u16string text = made.shown(SampleNumber);
+        for (const RowEditor& editor : Editors_)
+            if (editor.row().design.category == Category::Data && editor.current())
+                text += u"\r\n" + std::u16string(editor.row().name) + u" " +
+                        made.shown(typedValue(editor.row(), *editor.current(), Variant()));
+        return text;
+    } catch (const AutomationError&) {
+        return u"?";
+    }
+}
+
+void RowsPage::showSample() const {
+    if (hasSample()) SetDlgItemTextW(window(), SampleId, wide(sample()).c_str());
+}
+
+}  // namespace kel::win32::ole
