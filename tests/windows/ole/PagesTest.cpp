@@ -486,6 +486,40 @@ TEST(pages_stand_in_the_systems_own_dialog) {
     EXPECT_EQ(shown, std::wstring(L"Name"));
 }
 
+TEST(pages_list_imports_files_of_every_encoding) {
+    wchar_t folder[MAX_PATH] = {};
+    GetTempPathW(MAX_PATH, folder);
+    const std::wstring file = std::wstring(folder) + L"pages_import.txt";
+    const struct {
+        std::string bytes;
+        const wchar_t* items;
+    } cases[] = {
+        {"Gr\xC3\xB6\xC3\x9F"
+         "e\t9\nb",
+         L"text Größe,b"},
+        {"\xEF\xBB\xBF\xC3\xB6", L"text ö"},
+        {std::string("\xFF\xFE\xF6\0\t\0x\0", 8), L"text ö"},
+        {"\xF6,\t1", L"text \"ö,\""},
+    };
+    for (const auto& c : cases) {
+        HANDLE const made = CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+        DWORD written = 0;
+        WriteFile(made, c.bytes.data(), static_cast<DWORD>(c.bytes.size()), &written, nullptr);
+        CloseHandle(made);
+        const auto combo = makeControl(L"KelCombo");
+        Shown page(DesignPage::List, {combo.get()});
+        {
+            constexpr int FileName = 0x47C;  // the box with the names used before
+            MessageBoxHand hand([&](HWND dialog) { SetDlgItemTextW(dialog, FileName, file.c_str()); });
+            page.pressButton(L"Import...");
+            EXPECT_EQ(hand.seen(), 1);
+        }
+        EXPECT_CODE(page.Page->Apply(), S_OK);
+        EXPECT_EQ(late(combo.get(), L"List"), std::wstring(c.items));
+    }
+    DeleteFileW(file.c_str());
+}
+
 TEST(pages_list_edits_items_and_tags_side_by_side) {
     const auto combo = makeControl(L"KelCombo");
     EXPECT_CODE(put(combo.get(), L"List", Var(L"Apple,\"Pear, ripe\"").Value), S_OK);

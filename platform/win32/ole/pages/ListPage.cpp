@@ -4,11 +4,9 @@
 #include <commdlg.h>
 
 #include <array>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 
 #include "controls/combo/ListText.h"
+#include "platform/win32/base/AtEnd.h"
 #include "platform/win32/base/Clipboard.h"
 #include "platform/win32/base/WindowClass.h"
 #include "values/Text.h"
@@ -36,11 +34,26 @@ constexpr std::array Buttons{Button{AddId, L"&Add"},          Button{RemoveId, L
                              Button{UpId, L"Move &up"},       Button{DownId, L"Move &down"},
                              Button{ImportId, L"&Import..."}, Button{PasteId, L"&Paste"}};
 
+/// By the system's calls: streams would double the size of the server.
+std::string bytesOfFile(const std::wstring& name) {
+    HANDLE const file = CreateFileW(name.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE) throw AutomationError(STG_E_FILENOTFOUND, "the file cannot be read");
+    const AtEnd closed([file] { CloseHandle(file); });
+    constexpr DWORD Largest = 64U << 20U;  // more than a full list comes to
+    LARGE_INTEGER size{};
+    if (GetFileSizeEx(file, &size) == FALSE || size.QuadPart > Largest)
+        throw AutomationError(STG_E_READFAULT, "the file is too large for a list");
+    std::string bytes(static_cast<std::size_t>(size.QuadPart), '\0');
+    DWORD read = 0;
+    if (ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr) == FALSE)
+        throw AutomationError(STG_E_READFAULT, "the file cannot be read");
+    bytes.resize(read);
+    return bytes;
+}
+
 /// A file's text: UTF-16 or UTF-8 with a mark, UTF-8 without one, else in the characters of this machine.
 std::u16string textOfFile(const std::wstring& name) {
-    std::ifstream in(std::filesystem::path(name), std::ios::binary);
-    if (!in) throw AutomationError(STG_E_FILENOTFOUND, "the file cannot be read");
-    std::string bytes{std::istreambuf_iterator<char>(in), {}};
+    std::string bytes = bytesOfFile(name);
     if (bytes.starts_with("\xFF\xFE")) {
         std::u16string text((bytes.size() - 2) / 2, u'\0');
         std::memcpy(text.data(), bytes.data() + 2, text.size() * 2);
@@ -244,7 +257,7 @@ void ListPage::importFile() {
     asked.lpstrFilter = L"Text (*.txt;*.csv)\0*.txt;*.csv\0All files\0*.*\0";
     asked.lpstrFile = name.data();
     asked.nMaxFile = static_cast<DWORD>(name.size());
-    asked.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
+    asked.Flags = OFN_EXPLORER | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR;
     if (GetOpenFileNameW(&asked) == FALSE || window() == nullptr) return;
     try {
         import(textOfFile(name.c_str()));
