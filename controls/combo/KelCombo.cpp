@@ -65,7 +65,7 @@ std::int16_t KelCombo::get_ListIndex() const {
 }
 
 void KelCombo::put_ListIndex(std::int16_t item) {
-    if (item < 1 || item > get_ListCount()) return;
+    if (item < 1 || item > get_ListCount() || !Field_.mayChange<&KelCombo::put_Text>()) return;
     {
         const DepthGuard guard(SelectionDepth_);
         Combo1_.setListIndex(item - 1);

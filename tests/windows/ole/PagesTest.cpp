@@ -403,8 +403,12 @@ TEST(pages_show_a_sample_before_anything_is_applied) {
 
 TEST(pages_show_several_lines_where_there_are_some) {
     const auto field = makeControl(L"KelText");
-    EXPECT_CODE(put(field.get(), L"MultiLine", Var(1L).Value), S_OK);
     Shown page(DesignPage::General, {field.get()});
+    EXPECT((GetWindowLongW(page.need(L"Text"), GWL_STYLE) & ES_MULTILINE) == 0);
+    SetFocus(page.need(L"MultiLine"));
+    page.pressButton(L"MultiLine");
+    EXPECT_CODE(page.Page->Apply(), S_OK);
+    EXPECT(GetFocus() == page.need(L"MultiLine"));
     EXPECT((GetWindowLongW(page.need(L"Text"), GWL_STYLE) & ES_MULTILINE) != 0);
     page.type(L"Text", L"one\r\ntwo");
     EXPECT_CODE(page.Page->Apply(), S_OK);

@@ -9,10 +9,11 @@ namespace {
 constexpr DWORD SayId = 900;
 constexpr short SayHeight = 25;
 
+INT_PTR CALLBACK doNothing(HWND /*window*/, UINT /*message*/, WPARAM /*wide*/, LPARAM /*data*/) { return FALSE; }
+
 SIZE inPixels(short width, short height) {
     DialogTemplate empty(width, height);
-    HWND const window = empty.create(
-        HWND_MESSAGE, [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0);
+    HWND const window = empty.create(HWND_MESSAGE, &doNothing, 0);
     if (window == nullptr) throw std::bad_alloc();
     RECT area{0, 0, width, height};
     MapDialogRect(window, &area);
@@ -94,18 +95,22 @@ HRESULT PropertyPage::SetObjects(ULONG count, IUnknown** objects) noexcept {
         Objects_ = SelectedObjects(objects, count);
         setDirty(false);
         takeObjects();
-        if (Window_ == nullptr) return;
-        // The dialog is laid out for the objects that it shows.
-        HWND const parent = GetParent(Window_);
-        RECT area{};
-        GetWindowRect(Window_, &area);
-        MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&area), 2);
-        const bool shown = IsWindowVisible(Window_) != FALSE;
-        close();
-        if (Objects_.empty()) return;
-        check(Activate(parent, &area, FALSE), "the page cannot be shown");
-        if (shown) Show(SW_SHOW);
+        if (Window_ != nullptr) layOutAnew();
     });
+}
+
+void PropertyPage::layOutAnew() {
+    HWND const parent = GetParent(Window_);
+    RECT area{};
+    GetWindowRect(Window_, &area);
+    MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&area), 2);
+    const bool shown = IsWindowVisible(Window_) != FALSE;
+    const int focused = GetParent(GetFocus()) == Window_ ? GetDlgCtrlID(GetFocus()) : 0;
+    close();
+    if (Objects_.empty()) return;
+    check(Activate(parent, &area, FALSE), "the page cannot be shown");
+    if (shown) Show(SW_SHOW);
+    if (focused != 0) SetFocus(item(static_cast<DWORD>(focused)));
 }
 
 HRESULT PropertyPage::Show(UINT command) noexcept {

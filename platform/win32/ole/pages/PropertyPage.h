@@ -59,6 +59,9 @@ protected:
     /// A key that the page has a use for before the dialog.
     virtual bool takeKey(const MSG& /*message*/) { return false; }
 
+    /// Another layout takes the place of the one that is shown.
+    void layOutAnew();
+
     void setDirty(bool dirty);
     /// A line of help, or of what is wrong, below all else.
     void say(const std::u16string& text, bool isError = false);

@@ -39,31 +39,33 @@ DATE now() {
 
 }  // namespace
 
-void RowsPage::takeObjects() {
+std::vector<RowEditor> RowsPage::makeEditors() const {
+    std::vector<RowEditor> editors;
     std::wstring taken;
-    Editors_.clear();
     DWORD id = FirstEditor;
     for (const MemberRow* row : objects().rows(kind()))
-        Editors_.emplace_back(*row, objects(), id++, takeMnemonic(row->name, taken));
+        editors.emplace_back(*row, objects(), id++, takeMnemonic(row->name, taken));
+    return editors;
 }
 
+void RowsPage::takeObjects() { Editors_ = makeEditors(); }
+
 void RowsPage::layOut(DialogTemplate& dialog) {
-    // A switch may let a text have several lines.
-    short left = Margin;
+    short top = Margin;
     for (const RowEditor& editor : Editors_) {
         if (editor.isSwitch()) continue;
-        editor.layOut(dialog, Margin, left, Switches - 2 * Margin);
-        left = static_cast<short>(left + editor.height());
+        editor.layOut(dialog, Margin, top, Switches - 2 * Margin);
+        top = static_cast<short>(top + editor.height());
     }
-    short right = Margin;
+    top = Margin;
     for (const RowEditor& editor : Editors_) {
         if (!editor.isSwitch()) continue;
-        editor.layOut(dialog, Switches, right, Width - Switches - Margin);
-        right = static_cast<short>(right + editor.height());
+        editor.layOut(dialog, Switches, top, Width - Switches - Margin);
+        top = static_cast<short>(top + editor.height());
     }
     if (!hasSample()) return;
-    dialog.add(L"STATIC", L"Sample", SS_LEFT, {Switches, right, Width - Switches - Margin, 9}, 0);
-    dialog.add(L"STATIC", L"", SS_NOPREFIX, {Switches, static_cast<short>(right + 11), Width - Switches - Margin, 44},
+    dialog.add(L"STATIC", L"Sample", SS_LEFT, {Switches, top, Width - Switches - Margin, 9}, 0);
+    dialog.add(L"STATIC", L"", SS_NOPREFIX, {Switches, static_cast<short>(top + 11), Width - Switches - Margin, 44},
                SampleId, WS_EX_CLIENTEDGE);
 }
 
@@ -84,9 +86,12 @@ std::optional<std::u16string> RowsPage::applyAll() {
         }
         editor.applied(objects());
     }
-    // One put may lead to others: a bound takes the other one along.
-    for (RowEditor& editor : Editors_) editor.applied(objects());
-    if (window() != nullptr) showAll();
+    // One put may lead to others, as a bound takes the other one along; and a switch may give a text several lines.
+    const std::vector<RowEditor> before = std::exchange(Editors_, makeEditors());
+    const bool isAsHigh = std::equal(before.begin(), before.end(), Editors_.begin(), Editors_.end(),
+                                     [](const auto& a, const auto& b) { return a.height() == b.height(); });
+    if (window() != nullptr && isAsHigh) showAll();
+    if (window() != nullptr && !isAsHigh) layOutAnew();
     return std::nullopt;
 }
 

@@ -19,6 +19,7 @@ private:
     bool edit(const MemberRow& row) override;
     void command(DWORD id, UINT code) override;
 
+    std::vector<RowEditor> makeEditors() const;
     bool hasSample() const { return kind() != DesignPage::General; }
     std::u16string sample() const;
     void showSample() const;
