@@ -4,6 +4,7 @@
 #include <functional>
 #include <string_view>
 
+#include "host/TwipScale.h"
 #include "values/Variant.h"
 
 namespace kel {
@@ -28,8 +29,8 @@ public:
     /// Whether the Tab key is down at this moment.
     virtual bool tabKeyDown() const = 0;
 
-    /// Screen resolution across: 15 on a screen of 96 dots per inch.
-    virtual std::int32_t twipsPerPixel() const = 0;
+    /// Of the screen: 15 twips on a pixel at 96 dots per inch.
+    virtual TwipScale scale() const = 0;
 
 protected:
     ~System() = default;

@@ -26,7 +26,7 @@ public:
     void messageBox(std::u16string_view prompt, std::int32_t style, std::u16string_view title) override;
     void beep() override;
     bool tabKeyDown() const override { return Platform_.tabKeyDown(); }
-    std::int32_t twipsPerPixel() const override { return Platform_.twipsPerPixel(); }
+    TwipScale scale() const override { return Platform_.scale(); }
 
 private:
     System& Platform_;

@@ -19,7 +19,7 @@ public:
     HeadlessSystem(const HomeOptions& options, const Input& input, Onlooker& onlooker)
         : Input_(input),
           Onlooker_(onlooker),
-          TwipsPerPixel_(options.twipsPerPixel > 0 ? options.twipsPerPixel : UsualTwipsPerPixel) {}
+          Scale_(options.twipsPerPixel > 0 ? options.twipsPerPixel : UsualTwipsPerPixel) {}
 
     Date today() const override { return Clock_.today(); }
     double timer() const override { return Clock_.secondsSinceMidnight(); }
@@ -28,12 +28,12 @@ public:
     }
     void beep() override { Onlooker_.beep(); }
     bool tabKeyDown() const override { return Input_.Tab.isHeld(); }
-    std::int32_t twipsPerPixel() const override { return TwipsPerPixel_; }
+    TwipScale scale() const override { return Scale_; }
 
 private:
     const Input& Input_;
     Onlooker& Onlooker_;
-    std::int32_t TwipsPerPixel_;
+    TwipScale Scale_;
     mutable LocalClock Clock_;
 };
 

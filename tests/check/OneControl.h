@@ -23,7 +23,7 @@ public:
     void messageBox(std::u16string_view, std::int32_t, std::u16string_view) override {}
     void beep() override {}
     bool tabKeyDown() const override { return false; }
-    std::int32_t twipsPerPixel() const override { return 15; }
+    TwipScale scale() const override { return TwipScale(15); }
 
     double Clock = 36000;
     mutable int Asked = 0;

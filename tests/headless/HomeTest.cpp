@@ -45,13 +45,13 @@ TEST(Home, TheRunTimeObjectFollowsTheOptions) {
     EXPECT_NE(runtime, make());
     EXPECT_EQ(runtime->DecimalSeparator(), u",");
     EXPECT_EQ(runtime->ColorDepth(), 8);
-    EXPECT_EQ(form.home().system().twipsPerPixel(), 12);
+    EXPECT_EQ(form.home().system().scale(), TwipScale(12));
     EXPECT_EQ(&form.home().region(), german);
     EXPECT_EQ(&probe(form.place(u"a")).host().region.get(), german) << "controls write numbers as the session does";
 
     TestForm plain;
     EXPECT_EQ(plain.home().settings().makeDefaultRuntime()->ColorDepth(), 24);
-    EXPECT_EQ(plain.home().system().twipsPerPixel(), 15);
+    EXPECT_EQ(plain.home().system().scale(), TwipScale(15));
     EXPECT_EQ(plain.home().region(), defaultRegion());
 }
 

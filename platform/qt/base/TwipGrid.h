@@ -13,6 +13,7 @@ class TwipGrid : public TwipScale {
 public:
     using TwipScale::twips;
     using TwipScale::TwipScale;
+    TwipGrid(const TwipScale& scale) : TwipScale(scale) {}
 
     Size twips(QSize pixels) const { return {twips(pixels.width()), twips(pixels.height())}; }
 

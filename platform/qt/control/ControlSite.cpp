@@ -38,7 +38,7 @@ void setSpokenName(QWidget& widget, const QString& before, const QString& now) {
 }  // namespace
 
 ControlSite::ControlSite(KelControlWidget& widget, const ControlServices& surroundings)
-    : Host_(&widget), Widget_(&widget), Surroundings_(surroundings), Grid_(surroundings.system.twipsPerPixel()) {}
+    : Host_(&widget), Widget_(&widget), Surroundings_(surroundings), Grid_(surroundings.system.scale()) {}
 
 ControlSite::~ControlSite() { focus::forget(*this); }
 

@@ -27,7 +27,7 @@ protected:
 
 QtFormWindow::QtFormWindow(const WindowSpec& description, const ControlServices& surroundings)
     : Surroundings_(surroundings), Window_(std::make_unique<FormWidget>()) {
-    const TwipGrid grid(surroundings.system.twipsPerPixel());
+    const TwipGrid grid(surroundings.system.scale());
     Window_->setWindowTitle(toQString(description.caption));
     Window_->setLayoutDirection(description.rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
     Window_->setFixedSize(grid.pixels({0, 0, description.clientSize.width, description.clientSize.height}).size());
@@ -49,7 +49,7 @@ PlacedControl& QtFormWindow::place(const ClassModel& model, const Placement& pla
 }
 
 PlacedPanel* QtFormWindow::placeForeign(const ForeignBlock& block) {
-    const TwipGrid grid(Surroundings_.system.twipsPerPixel());
+    const TwipGrid grid(Surroundings_.system.scale());
     QWidget* const widget = makeForeignWidget(block, grid, parentOf(block.placement));
     if (block.kind == ForeignBlock::Kind::Label)
         Captions_.push_back({static_cast<QLabel*>(widget), block.placement.tabIndex});

@@ -48,7 +48,7 @@ void bringBack(QWidget& window) {
 class QtSystem final : public System {
 public:
     explicit QtSystem(const HomeOptions& options)
-        : TwipsPerPixel_(options.twipsPerPixel > 0 ? options.twipsPerPixel : UsualTwipsPerPixel) {}
+        : Scale_(options.twipsPerPixel > 0 ? options.twipsPerPixel : UsualTwipsPerPixel) {}
 
     Date today() const override { return Clock_.today(); }
     double timer() const override { return Clock_.secondsSinceMidnight(); }
@@ -65,10 +65,10 @@ public:
     }
     void beep() override { QApplication::beep(); }
     bool tabKeyDown() const override { return focus::movesByTab(); }
-    std::int32_t twipsPerPixel() const override { return TwipsPerPixel_; }
+    TwipScale scale() const override { return Scale_; }
 
 private:
-    std::int32_t TwipsPerPixel_;
+    TwipScale Scale_;
     mutable LocalClock Clock_;
 };
 

@@ -6,14 +6,27 @@
 
 namespace kel::win32 {
 
+TwipScale screenScale(HWND window) {
+    using DotsPerInchOf = UINT WINAPI(HWND);
+    static auto* const DotsPerInch = reinterpret_cast<DotsPerInchOf*>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "GetDpiForWindow")));
+    const UINT dots = window != nullptr && DotsPerInch != nullptr ? DotsPerInch(window) : 0;
+    return TwipScale::ofDotsPerInch(dots > 0 ? static_cast<int>(dots)
+                                             : GetDeviceCaps(WindowContext(nullptr).get(), LOGPIXELSX));
+}
+
 HBRUSH brushFor(HDC context, COLORREF color) {
     SetDCBrushColor(context, color);
     return static_cast<HBRUSH>(GetStockObject(DC_BRUSH));
 }
 
+COLORREF inkOf(const FieldWidget& field, bool enabled) {
+    return enabled ? colorOf(field.foreColor()) : GetSysColor(COLOR_GRAYTEXT);
+}
+
 HBRUSH setColors(HDC context, const FieldWidget& field, bool enabled) {
     const COLORREF back = colorOf(field.backColor());
-    SetTextColor(context, enabled ? colorOf(field.foreColor()) : GetSysColor(COLOR_GRAYTEXT));
+    SetTextColor(context, inkOf(field, enabled));
     SetBkColor(context, back);
     return brushFor(context, back);
 }
@@ -42,6 +55,15 @@ void Font::rescale(const TwipGrid& grid) {
     LOGFONTW description = Description_;
     description.lfHeight = -grid.fontPixels(Points_);
     make(description);
+}
+
+HFONT Font::makeScaled(const TwipScale& scale, const TwipScale& screen) const {
+    LOGFONTW description{};
+    GetObjectW(handle(), sizeof description, &description);
+    description.lfHeight = static_cast<LONG>(Points_ > 0 ? -TwipGrid(scale).fontPixels(Points_)
+                                                         : std::lround(static_cast<double>(description.lfHeight) *
+                                                                       scale.exactPixels(1) / screen.exactPixels(1)));
+    return CreateFontIndirectW(&description);
 }
 
 TEXTMETRICW Font::metrics(HWND window) const {

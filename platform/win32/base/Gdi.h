@@ -16,13 +16,16 @@ inline COLORREF colorOf(Color color) {
                                 : static_cast<COLORREF>(color & 0xFFFFFFU);
 }
 
-/// Flags for `DrawText`: text reads as the window goes.
-inline UINT readingOrder(HDC context) { return (GetLayout(context) & LAYOUT_RTL) != 0 ? DT_RTLREADING : 0U; }
+/// That of the screen that `window` is on, as its program sees it; that of the first screen for nullptr, and where the
+/// system knows but one.
+TwipScale screenScale(HWND window);
 
 /// Fills in `color` with the system's changeable brush: there is none to keep.
 HBRUSH brushFor(HDC context, COLORREF color);
 
-/// Those of a field, grey text where it is not enabled. Returns the brush for its background.
+/// That of a field's text, grey where it is not enabled.
+COLORREF inkOf(const FieldWidget& field, bool enabled);
+/// Those of a field. Returns the brush for its background.
 HBRUSH setColors(HDC context, const FieldWidget& field, bool enabled);
 
 /// A font of our own, or the system's while none has been chosen.
@@ -38,6 +41,9 @@ public:
     void choose(const FontFace& face, const TwipGrid& grid);
     /// The same on a screen of another resolution.
     void rescale(const TwipGrid& grid);
+    /// The same where twips count as `scale` says, not as on the `screen` that it has been chosen for; the caller's to
+    /// delete.
+    HFONT makeScaled(const TwipScale& scale, const TwipScale& screen) const;
     /// Ascent of it, and height of its lines, where `window` stands.
     TEXTMETRICW metrics(HWND window) const;
 
@@ -65,17 +71,17 @@ private:
     HDC Context_;
 };
 
-/// Keeps clip, colours and what is selected into a context as they were.
+/// Keeps clip, colours and what is selected into a context as they were. The last that was saved is the first that is
+/// restored: a metafile is played where others were saved before.
 class SavedContext {
 public:
-    explicit SavedContext(HDC context) : Context_(context), Level_(SaveDC(context)) {}
-    ~SavedContext() { RestoreDC(Context_, Level_); }
+    explicit SavedContext(HDC context) : Context_(context) { SaveDC(context); }
+    ~SavedContext() { RestoreDC(Context_, -1); }
     SavedContext(const SavedContext&) = delete;
     SavedContext& operator=(const SavedContext&) = delete;
 
 private:
     HDC Context_;
-    int Level_;
 };
 
 }  // namespace kel::win32

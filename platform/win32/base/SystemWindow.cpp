@@ -1,6 +1,7 @@
 #include "platform/win32/base/SystemWindow.h"
 
 #include "platform/win32/control/ControlWindowOwner.h"
+#include "platform/win32/drawing/Canvas.h"
 
 namespace kel::win32 {
 
@@ -15,12 +16,6 @@ bool SystemWindow::create(const WindowClass& windowClass, DWORD style) {
 
 void SystemWindow::destroy() {
     if (Handle_ != nullptr) DestroyWindow(Handle_);
-}
-
-RECT SystemWindow::pixels(POINT origin) const {
-    RECT area = Frame_.grid().pixels(Shown_.bounds());
-    OffsetRect(&area, origin.x, origin.y);
-    return area;
 }
 
 void SystemWindow::place() const {
@@ -46,21 +41,21 @@ void PaintedWindow::invalidate() const {
     if (windowHandle() != nullptr) InvalidateRect(windowHandle(), nullptr, FALSE);
 }
 
+void PaintedWindow::paint(HDC context) const {
+    const RECT place = pixels();
+    draw(Canvas(context, frame().grid(), {-place.left, -place.top}));
+}
+
 LRESULT PaintedWindow::handle(UINT message, WPARAM wide, LPARAM data) {
-    RECT area{};
     switch (message) {
         case WM_ERASEBKGND: return TRUE;
         case WM_PAINT: {
-            GetClientRect(windowHandle(), &area);
             PAINTSTRUCT painting{};
-            paint(BeginPaint(windowHandle(), &painting), area);
+            paint(BeginPaint(windowHandle(), &painting));
             EndPaint(windowHandle(), &painting);
             return 0;
         }
-        case WM_PRINTCLIENT:
-            GetClientRect(windowHandle(), &area);
-            paint(reinterpret_cast<HDC>(wide), area);
-            return 0;
+        case WM_PRINTCLIENT: paint(reinterpret_cast<HDC>(wide)); return 0;
         default: return base(message, wide, data);
     }
 }

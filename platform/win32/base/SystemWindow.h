@@ -28,8 +28,8 @@ protected:
 
     ControlFrame& frame() const { return Frame_; }
 
-    /// Where the window is to stand in that of the control, whose corner is at `origin`.
-    RECT pixels(POINT origin = {0, 0}) const;
+    /// Where the window is to stand in that of the control.
+    RECT pixels() const { return Frame_.grid().pixels(Shown_.bounds()); }
     /// Puts it there.
     void place() const;
 
@@ -51,13 +51,15 @@ protected:
     using SystemWindow::SystemWindow;
     ~PaintedWindow() = default;
 
-    /// `area` is all of the window.
-    virtual void paint(HDC context, const RECT& area) const = 0;
+    virtual void draw(const Canvas& canvas) const = 0;
 
     LRESULT handle(UINT message, WPARAM wide, LPARAM data) override;
 
     /// Paints at the next opportunity.
     void invalidate() const;
+
+private:
+    void paint(HDC context) const;
 };
 
 }  // namespace kel::win32

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/win32/drawing/Canvas.h"
 #include "platform/win32/widgets/Win32CheckBox.h"
 #include "platform/win32/widgets/Win32ComboBox.h"
 #include "platform/win32/widgets/Win32PictureBox.h"
@@ -14,6 +15,8 @@
 namespace kel::win32 {
 
 namespace {
+
+constexpr UINT ResolutionChanged = 0x02E3;  // WM_DPICHANGED_AFTERPARENT, younger than what the headers are asked for
 
 /// Some widgets in its windows stand on classes that the system registers at the latest when it is asked to.
 const WindowClass& controlClass() {
@@ -277,44 +280,37 @@ bool ControlWindow::translateAccelerator(MSG& message) {
 
 // ---- Picture
 
-void ControlWindow::fillGround(HDC context, const RECT& area) const {
-    if (isSystemColor(Ground_)) {
-        FillRect(context, &area, GetSysColorBrush(static_cast<int>(Ground_ & 0xFFU)));
-        return;
-    }
-    HBRUSH const brush = CreateSolidBrush(colorOf(Ground_));
-    FillRect(context, &area, brush);
-    DeleteObject(brush);
-}
-
 void ControlWindow::captionChanged() {
     if (Label_ != nullptr) Label_->place(height());
     Owner_.viewChanged();
 }
 
-void ControlWindow::drawCaption(HDC context, const RECT& area) const {
+void ControlWindow::drawCaption(const Canvas& canvas, LONG bottom) const {
     if (Label_ == nullptr) return;
     const WindowedField* const field = shownField();
-    Label_->draw(context, area, field != nullptr ? field->baseline() : heightOf(area), Enabled_);
+    Label_->draw(canvas, bottom, field != nullptr ? field->baseline(canvas) : static_cast<int>(bottom), Enabled_);
 }
 
-void ControlWindow::draw(HDC context, const RECT& bounds) {
-    const SavedContext saved(context);
-    fillGround(context, bounds);
-    IntersectClipRect(context, bounds.left, bounds.top, bounds.right, bounds.bottom);
-    drawCaption(context, bounds);
+void ControlWindow::draw(const PictureCanvas& picture) const {
+    drawCaption(picture.canvas(), picture.bottom());
     for (const WindowedView* const widget : Widgets_)
-        if (widget->shown()) widget->draw(context, {bounds.left, bounds.top});
+        if (widget->shown()) widget->draw(picture.canvas());
 }
 
 /// The label's window is the part of the control that its caption may take.
 void ControlWindow::drawLabelWindow(const DRAWITEMSTRUCT& item) const {
-    fillGround(item.hDC, item.rcItem);
     const LONG left = Grid_.pixels(Label_->shown().bounds()).left;
-    drawCaption(item.hDC, {-left, 0, widthOf(Bounds_) - left, height()});
+    const Canvas canvas(item.hDC, Grid_, {-left, 0});
+    canvas.fill(item.rcItem, ground());
+    drawCaption(canvas, height());
+}
+
+void ControlWindow::followScreen() {
+    if (Window_ != nullptr) setGrid(screenScale(Window_));
 }
 
 void ControlWindow::setGrid(const TwipGrid& grid) {
+    if (grid == Grid_) return;
     Grid_ = grid;
     if (Label_ != nullptr) Label_->rescale();
     for (WindowedView* const widget : Widgets_) widget->rescale();
@@ -342,7 +338,7 @@ LRESULT ControlWindow::handle(HWND window, UINT message, WPARAM wide, LPARAM dat
         case WM_ERASEBKGND: {
             RECT area{};
             GetClientRect(window, &area);
-            fillGround(reinterpret_cast<HDC>(wide), area);
+            Canvas(reinterpret_cast<HDC>(wide), Grid_, {}).fill(area, ground());
             return TRUE;
         }
         case WM_SETFOCUS: setFocus(); return 0;
@@ -362,6 +358,7 @@ LRESULT ControlWindow::handle(HWND window, UINT message, WPARAM wide, LPARAM dat
             if (WindowedView* const widget = widgetOf(header.hwndFrom)) return widget->notified(header.code, data);
             break;
         }
+        case ResolutionChanged: Owner_.resolutionChanged(); return 0;
         case WM_DESTROY:
             if (ToolTips_ != nullptr) DestroyWindow(std::exchange(ToolTips_, nullptr));
             break;

@@ -15,8 +15,10 @@
 
 namespace kel::win32 {
 
+class PictureCanvas;
+
 /// The window of one control, a child of whatever window its host gives it, and the host of the child
-/// widgets in it. Coordinates here are screen pixels; the widgets' are twips (`System::twipsPerPixel`).
+/// widgets in it. Coordinates here are screen pixels; the widgets' are twips (`System::scale`).
 ///
 /// Widgets and control work without any window being there: what they are given is kept and shown once there
 /// is one. When a host destroys the parent with the window in it, the widgets keep what they hold, and the
@@ -26,7 +28,7 @@ public:
     /// `owner` outlives the window.
     ControlWindow(ControlWindowOwner& owner, const System& system,
                   std::shared_ptr<Clipboard> clipboard = std::make_shared<Clipboard>())
-        : Owner_(owner), Grid_(system.twipsPerPixel()), Clipboard_(std::move(clipboard)) {}
+        : Owner_(owner), Grid_(system.scale()), Clipboard_(std::move(clipboard)) {}
     /// Destroys the window. The control, and with it every widget, is gone before.
     ~ControlWindow();
     ControlWindow(const ControlWindow&) = delete;
@@ -63,6 +65,7 @@ public:
 
     /// The colour around the field and behind the caption.
     void setGround(Color ground);
+    COLORREF ground() const { return colorOf(Ground_); }
     /// Captions, fields and texts run from right to left.
     void setMirrored(bool mirrored);
 
@@ -73,12 +76,14 @@ public:
     /// Enter, Escape in a dropped list, the editing shortcuts) and has been given it. Tab is never wanted.
     bool translateAccelerator(MSG& message);
 
-    /// Paints the control as it stands into `bounds`, also while it has no window. `context` may be that of
-    /// a metafile.
-    void draw(HDC context, const RECT& bounds);
+    /// Paints the control as it stands, also while it has no window.
+    void draw(const PictureCanvas& picture) const;
 
-    /// The screen that the window is on has another resolution.
+    /// That of the screen that the window is on.
+    const TwipGrid& grid() const override { return Grid_; }
     void setGrid(const TwipGrid& grid);
+    /// Takes it from the system, which tells screens apart for programs that know that they differ.
+    void followScreen();
 
 private:
     template <class Seen, class Shown>
@@ -99,7 +104,6 @@ private:
 
     HWND window() const override { return Window_; }
     ControlWindowOwner& owner() override { return Owner_; }
-    const TwipGrid& grid() const override { return Grid_; }
     void add(WindowedView& widget) override;
     void remove(WindowedView& widget) override;
     void arrived(WindowedField& field) override;
@@ -116,9 +120,8 @@ private:
     LRESULT handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) override;
     LRESULT handle(HWND window, UINT message, WPARAM wide, LPARAM data);
     int height() const { return heightOf(Bounds_); }
-    void drawCaption(HDC context, const RECT& area) const;
+    void drawCaption(const Canvas& canvas, LONG bottom) const;
     void drawLabelWindow(const DRAWITEMSTRUCT& item) const;
-    void fillGround(HDC context, const RECT& area) const;
 
     void makeWindow(HWND parent);
     HWND parkingWindow();

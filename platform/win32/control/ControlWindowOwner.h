@@ -27,6 +27,9 @@ public:
     /// The control looks other than it did: where the host paints its picture itself, it is out of date.
     virtual void viewChanged() = 0;
 
+    /// The window is on a screen of another resolution, whose pixels its place is to be told in.
+    virtual void resolutionChanged() = 0;
+
     /// The caption marks another character from now on.
     virtual void mnemonicChanged() = 0;
 

@@ -10,7 +10,7 @@ PlacedWin32Control::PlacedWin32Control(const ClassModel& model, const Placement&
     : TabStop(placement.tabIndex, order, placement.tabStop),
       Observer_(observer),
       Form_(surroundings.form),
-      Grid_(surroundings.system.twipsPerPixel()),
+      Grid_(surroundings.system.scale()),
       Name_(placement.name),
       Bounds_(placement.bounds),
       Window_(*this, surroundings.system, surroundings.clipboard) {

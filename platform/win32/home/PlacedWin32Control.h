@@ -66,6 +66,8 @@ private:
     void focusLeft() override;
     void passFocusOn() override;
     void viewChanged() override {}
+    /// The form sees to all of its controls.
+    void resolutionChanged() override {}
     void mnemonicChanged() override {}
 
     void showPlace();

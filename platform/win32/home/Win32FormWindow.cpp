@@ -30,7 +30,7 @@ Win32FormWindow::Win32FormWindow(const WindowSpec& description, System& system, 
       Settings_(settings),
       Region_(region),
       Session_(session),
-      Grid_(system.twipsPerPixel()),
+      Grid_(system.scale()),
       ClientSize_(description.clientSize) {
     const DWORD extended = description.rightToLeft ? WS_EX_LAYOUTRTL : 0;
     Window_ = CreateWindowExW(extended, formClass().name(), wide(description.caption).c_str(), FormStyle, CW_USEDEFAULT,
@@ -124,7 +124,7 @@ void Win32FormWindow::sizeWindow() {
 
 /// The window has come to another screen: all in it keeps its size in twips.
 void Win32FormWindow::changeResolution(int dotsPerInch) {
-    Grid_ = TwipGrid(twipsPerPixelAt(dotsPerInch));
+    Grid_ = TwipScale::ofDotsPerInch(dotsPerInch);
     sizeWindow();
     for (const auto& foreign : Foreign_) foreign->place(Grid_);
     setForeignFont();

@@ -19,17 +19,17 @@ class HomeSystem final : public Win32System {
 public:
     HomeSystem(const HomeOptions& options, const Session& session)
         : Session_(session),
-          TwipsPerPixel_(options.twipsPerPixel > 0 ? options.twipsPerPixel : Win32System::twipsPerPixel()) {}
+          Scale_(options.twipsPerPixel > 0 ? TwipScale(options.twipsPerPixel) : Win32System::scale()) {}
 
     void messageBox(std::u16string_view prompt, std::int32_t style, std::u16string_view title) override {
         showMessageBox(Session_.activeWindow(), prompt, style, title);
     }
     bool tabKeyDown() const override { return Session_.tabHeld(); }
-    std::int32_t twipsPerPixel() const override { return TwipsPerPixel_; }
+    TwipScale scale() const override { return Scale_; }
 
 private:
     const Session& Session_;
-    std::int32_t TwipsPerPixel_;
+    TwipScale Scale_;
 };
 
 class HomeServices final : public RuntimeServices {

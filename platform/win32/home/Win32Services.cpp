@@ -55,7 +55,7 @@ void Win32System::beep() { MessageBeep(MB_OK); }
 
 bool Win32System::tabKeyDown() const { return GetKeyState(VK_TAB) < 0; }
 
-std::int32_t Win32System::twipsPerPixel() const { return twipsPerPixelAt(measure(LOGPIXELSX)); }
+TwipScale Win32System::scale() const { return TwipScale::ofDotsPerInch(measure(LOGPIXELSX)); }
 
 std::int32_t Win32RuntimeServices::colorDepth() const { return measure(BITSPIXEL) * measure(PLANES); }
 

@@ -15,7 +15,7 @@ public:
     void messageBox(std::u16string_view prompt, std::int32_t style, std::u16string_view title) override;
     void beep() override;
     bool tabKeyDown() const override;
-    std::int32_t twipsPerPixel() const override;
+    TwipScale scale() const override;
 };
 
 /// What the default run-time object takes from the system.

@@ -5,7 +5,10 @@
 
 #include <algorithm>
 
+#include "host/focus/Mnemonic.h"
 #include "platform/win32/base/WideText.h"
+#include "platform/win32/drawing/CanvasText.h"
+#include "platform/win32/drawing/Symbols.h"
 #include "platform/win32/widgets/EditInput.h"
 #include "values/Text.h"
 
@@ -128,39 +131,35 @@ bool Win32CheckBox::hides(UINT interfaceState) const {
     return window() != nullptr && (static_cast<UINT>(base(WM_QUERYUISTATE)) & interfaceState) != 0;
 }
 
-int Win32CheckBox::baseline() const {
-    const RECT area = pixels();
-    const TEXTMETRICW metrics = Font_.metrics(window());
-    return static_cast<int>(area.top + (heightOf(area) - metrics.tmHeight) / 2 + metrics.tmAscent);
+int Win32CheckBox::baseline(const Canvas& canvas) const {
+    const RECT area = canvas.area(Box_.bounds());
+    const CanvasText text(canvas, Font_);
+    return static_cast<int>(area.top) + (heightOf(area) - text.height()) / 2 + text.ascent();
 }
 
-void Win32CheckBox::draw(HDC context, POINT origin) const { paint(context, pixels(origin), nullptr); }
-
-/// The button itself knows whether it has a visual style.
-void Win32CheckBox::paint(HDC context, const RECT& area) const { paint(context, area, GetWindowTheme(window())); }
-
-void Win32CheckBox::paint(HDC context, const RECT& area, HTHEME theme) const {
-    const SavedContext saved(context);
-    FillRect(context, &area, colors(context));
-    IntersectClipRect(context, area.left, area.top, area.right, area.bottom);
-    const RECT box = boxIn(area);
-    paintBox(context, box, theme);
-    paintCaption(context, {box.right + frame().grid().pixel(CaptionGap), area.top, area.right, area.bottom});
+void Win32CheckBox::draw(const Canvas& canvas) const {
+    const SavedContext saved(canvas.context());
+    const RECT area = canvas.area(Box_.bounds());
+    canvas.fill(area, colorOf(Box_.backColor()));
+    canvas.clip(area);
+    const SIZE size = canvas.size({BoxSize, BoxSize});
+    const LONG top = area.top + (heightOf(area) - size.cy) / 2;
+    const RECT box{area.left, top, area.left + size.cx, top + size.cy};
+    if (canvas.isWindow())
+        paintBox(canvas.context(), box);
+    else
+        drawCheck(canvas, box, Box_.value(), Box_.enabled());
+    drawCaption(canvas, {box.right + canvas.size({CaptionGap, 0}).cx, area.top, area.right, area.bottom});
 }
 
 /// A control that takes no input leaves the caption as it is.
 HBRUSH Win32CheckBox::colors(HDC context) const { return setColors(context, Box_, Box_.enabled()); }
 
-RECT Win32CheckBox::boxIn(const RECT& area) const {
-    const int size = frame().grid().pixel(BoxSize);
-    const LONG top = area.top + (heightOf(area) - size) / 2;
-    return {area.left, top, area.left + size, top + size};
-}
-
-void Win32CheckBox::paintBox(HDC context, const RECT& place, HTHEME theme) const {
+/// The button itself knows whether it has a visual style.
+void Win32CheckBox::paintBox(HDC context, const RECT& place) const {
     const SavedContext saved(context);
     RECT box = turned(context, place);
-    if (theme != nullptr) {
+    if (HTHEME const theme = GetWindowTheme(window())) {
         const int look = !Box_.enabled()    ? CBS_UNCHECKEDDISABLED
                          : isIn(BST_PUSHED) ? CBS_UNCHECKEDPRESSED
                          : isIn(BST_HOT)    ? CBS_UNCHECKEDHOT
@@ -172,24 +171,26 @@ void Win32CheckBox::paintBox(HDC context, const RECT& place, HTHEME theme) const
     DrawFrameControl(context, &box, DFC_BUTTON, frameState(Box_.value()) | look);
 }
 
-void Win32CheckBox::paintCaption(HDC context, const RECT& area) const {
-    SelectObject(context, Font_.handle());
-    SetBkMode(context, TRANSPARENT);
-    const std::wstring text = wide(Box_.caption());
-    const UINT flags = DT_SINGLELINE | readingOrder(context) | (hides(UISF_HIDEACCEL) ? DT_HIDEPREFIX : 0U);
-    RECT place = area;
-    DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &place, flags | DT_CALCRECT);
-    OffsetRect(&place, 0, (heightOf(area) - heightOf(place)) / 2);
-    DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &place, flags | DT_NOCLIP);
-    if (window() == nullptr || GetFocus() != window() || hides(UISF_HIDEFOCUS)) return;
+void Win32CheckBox::drawCaption(const Canvas& canvas, const RECT& room) const {
+    const CanvasText text(canvas, Font_);
+    RECT place = room;
+    place.top += (heightOf(room) - text.height()) / 2;
+    place.bottom = place.top + text.height();
+    text.caption(place, Box_.caption(), inkOf(Box_, Box_.enabled()), false, !hides(UISF_HIDEACCEL));
+    if (!canvas.isWindow() || GetFocus() != window() || hides(UISF_HIDEFOCUS)) return;
+    place.right = place.left + text.width(wide(readCaption(Box_.caption()).text));
+    paintFocus(canvas.context(), place, room);
+}
+
+void Win32CheckBox::paintFocus(HDC context, RECT caption, const RECT& room) const {
     // Around nothing the frame would not be seen.
-    if (text.empty()) place = area;
-    InflateRect(&place, 1, 1);
-    const RECT room{area.left - 1, area.top, area.right, area.bottom};
-    IntersectRect(&place, &place, &room);
+    if (Box_.caption().empty()) caption = room;
+    InflateRect(&caption, 1, 1);
+    const RECT seen{room.left - 1, room.top, room.right, room.bottom};
+    IntersectRect(&caption, &caption, &seen);
     SetTextColor(context, RGB(0, 0, 0));
     SetBkColor(context, RGB(255, 255, 255));
-    DrawFocusRect(context, &place);
+    DrawFocusRect(context, &caption);
 }
 
 // ---- What comes to the window

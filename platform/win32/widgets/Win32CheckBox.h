@@ -30,19 +30,17 @@ public:
     HBRUSH colors(HDC context) const override;
     void rescale() override;
     LRESULT notified(UINT notification, LPARAM details) override;
-    int baseline() const override;
-    void draw(HDC context, POINT origin) const override;
+    int baseline(const Canvas& canvas) const override;
+    void draw(const Canvas& canvas) const override;
 
 private:
     void show(Changes changes);
 
     // ---- Picture
 
-    void paint(HDC context, const RECT& area) const override;
-    void paint(HDC context, const RECT& area, HTHEME theme) const;
-    RECT boxIn(const RECT& area) const;
-    void paintBox(HDC context, const RECT& place, HTHEME theme) const;
-    void paintCaption(HDC context, const RECT& area) const;
+    void paintBox(HDC context, const RECT& place) const;
+    void drawCaption(const Canvas& canvas, const RECT& room) const;
+    void paintFocus(HDC context, RECT caption, const RECT& room) const;
     bool isIn(UINT buttonState) const;
     bool hides(UINT interfaceState) const;
 

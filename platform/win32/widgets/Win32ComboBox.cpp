@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/win32/base/WideText.h"
+#include "platform/win32/drawing/Symbols.h"
 #include "platform/win32/widgets/ComboHook.h"
 
 namespace kel::win32 {
@@ -146,32 +147,34 @@ bool Win32ComboBox::showRow(std::int32_t item, POINT& center) const {
 
 // ---- Picture
 
-int Win32ComboBox::baseline() const {
-    RECT text{0, EdgeWidth + TextGap, 0, 0};
-    if (window() != nullptr) {
-        GetClientRect(window(), &text);
-        MapWindowPoints(window(), Combo_, reinterpret_cast<POINT*>(&text), 2);
-        text.top += View_.textTop();
-    }
-    return static_cast<int>(pixels().top + text.top + textMetrics().tmAscent);
+int Win32ComboBox::textTop() const {
+    if (window() == nullptr) return EdgeWidth + TextGap;
+    POINT corner{0, View_.textTop()};
+    MapWindowPoints(window(), Combo_, &corner, 1);
+    return static_cast<int>(corner.y);
 }
 
-void Win32ComboBox::draw(HDC context, POINT origin) const {
-    const SavedContext saved(context);
-    const RECT area = drawGround(context, origin);
-    RECT button = area;
-    InflateRect(&button, -EdgeWidth, -EdgeWidth);
-    button.left = std::max(button.left, button.right - GetSystemMetrics(SM_CXVSCROLL));
-    DrawFrameControl(context, &button, DFC_SCROLL, DFCS_SCROLLCOMBOBOX | (Box_.enabled() ? 0U : DFCS_INACTIVE));
-    RECT edge = area;
-    if (const std::int16_t* const buttonWidth = Box_.frameButtonWidth())
-        drawComboFrame(context, area, *buttonWidth);
-    else
-        DrawEdge(context, &edge, EDGE_SUNKEN, BF_RECT);
-    RECT text = area;
-    InflateRect(&text, -(EdgeWidth + TextGap), -(EdgeWidth + TextGap));
+int Win32ComboBox::baseline(const Canvas& canvas) const { return baselineAt(canvas, textTop()); }
+
+void Win32ComboBox::draw(const Canvas& canvas) const {
+    const SavedContext saved(canvas.context());
+    const RECT area = drawGround(canvas);
+    RECT button = canvas.inside(area, EdgeWidth);
+    button.left = std::max(button.left, button.right - canvas.across(GetSystemMetrics(SM_CXVSCROLL)));
+    drawArrowButton(canvas, button, Arrow::Down, Box_.enabled());
+    RECT frame = area;
+    if (const std::int16_t* const buttonWidth = Box_.frameButtonWidth()) {
+        frame.bottom -= canvas.down(1);
+        RECT raised = canvas.inside(frame, EdgeWidth);
+        raised.left = raised.right - canvas.across(*buttonWidth);
+        if (*buttonWidth > 0) canvas.raisedEdge(raised);
+    }
+    canvas.sunkenEdge(frame);
+    RECT text = canvas.inside(area, EdgeWidth + TextGap);
+    text.top = area.top + canvas.down(textTop());
     text.right = button.left;
-    drawText(context, text, DT_SINGLELINE | DT_VCENTER);
+    canvas.clip(text);
+    drawText(canvas, text);
 }
 
 }  // namespace kel::win32

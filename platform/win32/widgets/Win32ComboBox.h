@@ -15,8 +15,8 @@ public:
 
     HWND wholeWindow() const override { return Combo_; }
     LRESULT notified(UINT notification, LPARAM details) override;
-    int baseline() const override;
-    void draw(HDC context, POINT origin) const override;
+    int baseline(const Canvas& canvas) const override;
+    void draw(const Canvas& canvas) const override;
 
     // ---- For hands
 
@@ -33,6 +33,8 @@ private:
     void showPlace() override;
     void showOwn(Changes changes) override;
     int listHeight() const;
+    /// Upper edge of the text, in the screen's pixels from that of the box.
+    int textTop() const;
 
     // ---- The system's list
 

@@ -4,6 +4,7 @@
 #include "platform/win32/base/TwipGrid.h"
 #include "platform/win32/base/WideText.h"
 #include "platform/win32/base/WindowClass.h"
+#include "platform/win32/drawing/CanvasText.h"
 
 namespace kel::win32 {
 
@@ -35,26 +36,18 @@ void Win32Label::outOfDate() {
     if (changes.has(Change::Mnemonic)) Frame_.mnemonicChanged();
 }
 
-void Win32Label::draw(HDC context, const RECT& control, int baseline, bool enabled) const {
+void Win32Label::draw(const Canvas& canvas, LONG bottom, int baseline, bool enabled) const {
     const Rect bounds = Label_.bounds();
     if (Label_.caption().empty() || bounds.width <= 0) return;
-    const SavedContext saved(context);
-    RECT area = Frame_.grid().pixels(bounds);
-    OffsetRect(&area, control.left, control.top);
+    const SavedContext saved(canvas.context());
     // The caption's own height is for the layout; its text may take that of the control.
-    area.bottom = control.bottom;
-    IntersectClipRect(context, area.left, control.top, area.right, area.bottom);
-
-    SelectObject(context, Font_.handle());
-    TEXTMETRICW metrics{};
-    GetTextMetricsW(context, &metrics);
-    area.top = control.top + baseline - metrics.tmAscent;
-    SetTextColor(context, enabled && Label_.enabled() ? colorOf(Label_.foreColor()) : GetSysColor(COLOR_GRAYTEXT));
-    SetBkMode(context, TRANSPARENT);
-    const bool severalLines = bounds.height > CaptionHeight;
-    const UINT flags = DT_LEFT | DT_NOCLIP | (severalLines ? DT_WORDBREAK : DT_SINGLELINE) | readingOrder(context);
-    const std::wstring text = wide(Label_.caption());
-    DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &area, flags);
+    RECT area = canvas.area({bounds.left, 0, bounds.width, 0});
+    area.bottom = bottom;
+    canvas.clip(area);
+    const CanvasText text(canvas, Font_);
+    area.top = baseline - text.ascent();
+    const COLORREF ink = enabled && Label_.enabled() ? colorOf(Label_.foreColor()) : GetSysColor(COLOR_GRAYTEXT);
+    text.caption(area, Label_.caption(), ink, bounds.height > CaptionHeight, true);
 }
 
 }  // namespace kel::win32

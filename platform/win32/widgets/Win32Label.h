@@ -27,8 +27,8 @@ public:
     /// In another resolution.
     void rescale() { Font_.rescale(Frame_.grid()); }
 
-    /// With its text on `baseline`, in pixels from the top; `control` is the whole control.
-    void draw(HDC context, const RECT& control, int baseline, bool enabled) const;
+    /// With its text on `baseline`, in a control that ends at `bottom`.
+    void draw(const Canvas& canvas, LONG bottom, int baseline, bool enabled) const;
 
 private:
     ControlFrame& Frame_;

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "platform/win32/base/WideText.h"
+#include "platform/win32/drawing/CanvasText.h"
 
 namespace kel::win32 {
 
@@ -15,14 +16,6 @@ constexpr int WholeBar = 100;
 const WindowClass& progressClass() {
     static const WindowClass Class(L"KelControls8.PictureBox", PROGRESS_CLASSW);
     return Class;
-}
-
-/// A part of the picture with what there is of the text in it.
-void paintPart(HDC context, const RECT& part, COLORREF ground, COLORREF ink, POINT place, const std::wstring& text) {
-    FillRect(context, &part, brushFor(context, ground));
-    SetTextColor(context, ink);
-    ExtTextOutW(context, static_cast<int>(place.x), static_cast<int>(place.y), ETO_CLIPPED, &part, text.c_str(),
-                static_cast<UINT>(text.size()), nullptr);
 }
 
 LRESULT rangeOfBar(bool lowest, PBRANGE* range) {
@@ -93,27 +86,42 @@ void Win32PictureBox::paintNow() {
     if (window() != nullptr) UpdateWindow(window());
 }
 
-void Win32PictureBox::draw(HDC context, POINT origin) const { paint(context, pixels(origin)); }
-
-void Win32PictureBox::paint(HDC context, const RECT& area) const {
-    const SavedContext saved(context);
-    const TwipGrid& grid = frame().grid();
+void Win32PictureBox::draw(const Canvas& canvas) const {
+    const SavedContext saved(canvas.context());
     const BarPicture& picture = Box_.picture();
-    const RECT inControl = pixels();
     const Rect bounds = Box_.bounds();
-    const POINT text{area.left - inControl.left + grid.pixel(bounds.left + picture.textLeft),
-                     area.top - inControl.top + grid.pixel(bounds.top + picture.textTop)};
-    const LONG end = area.left - inControl.left + grid.pixel(bounds.left + picture.barWidth);
+    const RECT area = canvas.area(bounds);
+    const LONG end = canvas.area({bounds.left, bounds.top, picture.barWidth, 0}).right;
     const RECT bar{area.left, area.top, std::clamp(end, area.left, area.right), area.bottom};
+    const RECT rest{bar.right, area.top, area.right, area.bottom};
 
-    SelectObject(context, Font_.handle());
-    SetBkMode(context, TRANSPARENT);
-    SetTextAlign(context, TA_LEFT | TA_TOP | TA_NOUPDATECP);
+    const CanvasText text(canvas, Font_);
     const std::wstring units = wide(picture.text);
+    const POINT place = placeOf(text, canvas, units);
     const COLORREF fore = colorOf(Box_.foreColor());
     const COLORREF ground = GetSysColor(COLOR_BTNFACE);
-    paintPart(context, bar, fore, ground, text, units);
-    paintPart(context, {bar.right, area.top, area.right, area.bottom}, ground, fore, text, units);
+    canvas.fill(bar, fore);
+    canvas.fill(rest, ground);
+    text.line(place, units, ground, &bar);
+    text.line(place, units, fore, &rest);
+}
+
+/// The middle of the text is where it is on the screen: letters elsewhere are a little narrower or wider.
+POINT Win32PictureBox::placeOf(const CanvasText& text, const Canvas& canvas, std::wstring_view units) const {
+    const BarPicture& picture = Box_.picture();
+    const Rect bounds = Box_.bounds();
+    Rect place{bounds.left + picture.textLeft, bounds.top + picture.textTop, 0, 0};
+    if (!canvas.isWindow()) {
+        const Size size = extentOf(picture.text);
+        place.width = size.width;
+        place.height = size.height;
+    }
+    RECT area = canvas.area(place);
+    if (!canvas.isWindow()) {
+        area.left += (widthOf(area) - text.width(units)) / 2;
+        area.top += (heightOf(area) - text.height()) / 2;
+    }
+    return {area.left, area.top};
 }
 
 // ---- What comes to the window

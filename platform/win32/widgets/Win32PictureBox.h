@@ -6,6 +6,8 @@
 
 namespace kel::win32 {
 
+class CanvasText;
+
 /// A picture box: the system's progress bar, for those who cannot see it, with a picture of our own.
 class Win32PictureBox final : public PictureView, public WindowedView, private PaintedWindow {
 public:
@@ -26,12 +28,12 @@ public:
     bool shown() const override { return true; }
     void rescale() override;
     LRESULT notified(UINT /*notification*/, LPARAM /*details*/) override { return 0; }
-    void draw(HDC context, POINT origin) const override;
+    void draw(const Canvas& canvas) const override;
 
 private:
     void showToolTip();
 
-    void paint(HDC context, const RECT& area) const override;
+    POINT placeOf(const CanvasText& text, const Canvas& canvas, std::wstring_view units) const;
     LRESULT handle(UINT message, WPARAM wide, LPARAM data) override;
 
     PictureBox& Box_;

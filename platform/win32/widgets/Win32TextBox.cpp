@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/win32/drawing/Canvas.h"
+
 namespace kel::win32 {
 
 Win32TextBox::Win32TextBox(ControlFrame& frame, TextBox& box) : Win32TextEntry(frame, box), Box_(box) {
@@ -32,18 +34,16 @@ LRESULT Win32TextBox::handle(HWND window, UINT message, WPARAM wide, LPARAM data
 
 // ---- Picture
 
-int Win32TextBox::baseline() const {
-    const int top = EdgeWidth + (window() != nullptr ? View_.textTop() : TextGap);
-    return static_cast<int>(pixels().top) + top + static_cast<int>(textMetrics().tmAscent);
-}
+int Win32TextBox::baseline(const Canvas& canvas) const { return baselineAt(canvas, textTop()); }
 
-void Win32TextBox::draw(HDC context, POINT origin) const {
-    const SavedContext saved(context);
-    RECT area = drawGround(context, origin);
-    DrawEdge(context, &area, EDGE_SUNKEN, BF_RECT | BF_ADJUST);
-    IntersectClipRect(context, area.left, area.top, area.right, area.bottom);
-    InflateRect(&area, -TextGap, -TextGap);
-    drawText(context, area, Box_.multiLine() ? DT_WORDBREAK | DT_EDITCONTROL : DT_SINGLELINE);
+void Win32TextBox::draw(const Canvas& canvas) const {
+    const SavedContext saved(canvas.context());
+    const RECT area = drawGround(canvas);
+    canvas.sunkenEdge(area);
+    canvas.clip(canvas.inside(area, EdgeWidth));
+    RECT text = canvas.inside(area, EdgeWidth + TextGap);
+    text.top = area.top + canvas.down(textTop());
+    drawText(canvas, text);
 }
 
 }  // namespace kel::win32

@@ -2,6 +2,7 @@
 
 #include "platform/win32/base/WideText.h"
 #include "platform/win32/control/ControlWindowOwner.h"
+#include "platform/win32/drawing/CanvasText.h"
 
 namespace kel::win32 {
 
@@ -68,19 +69,26 @@ HBRUSH Win32TextEntry::colors(HDC context) const {
     return setColors(context, Entry_, Entry_.enabled() && Frame_.enabled());
 }
 
-RECT Win32TextEntry::drawGround(HDC context, POINT origin) const {
-    RECT area = pixels();
-    OffsetRect(&area, origin.x, origin.y);
-    FillRect(context, &area, colors(context));
-    IntersectClipRect(context, area.left, area.top, area.right, area.bottom);
+int Win32TextEntry::baselineAt(const Canvas& canvas, int textTop) const {
+    return static_cast<int>(canvas.area(Entry_.bounds()).top) + canvas.down(textTop) +
+           CanvasText(canvas, Font_).ascent();
+}
+
+RECT Win32TextEntry::drawGround(const Canvas& canvas) const {
+    const RECT area = canvas.area(Entry_.bounds());
+    canvas.fill(area, colorOf(Entry_.backColor()));
+    canvas.clip(area);
     return area;
 }
 
-void Win32TextEntry::drawText(HDC context, RECT area, UINT flags) const {
-    SelectObject(context, Font_.handle());
-    SetBkMode(context, TRANSPARENT);
-    const std::wstring text = wide(displayed(Entry_.shownText(), Entry_.multiLine()));
-    DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &area, DT_NOPREFIX | flags);
+void Win32TextEntry::drawText(const Canvas& canvas, const RECT& area) const {
+    const CanvasText text(canvas, Font_);
+    const std::wstring shown = wide(displayed(Entry_.shownText(), Entry_.multiLine()));
+    const COLORREF ink = inkOf(Entry_, Entry_.enabled() && Frame_.enabled());
+    if (Entry_.multiLine())
+        text.lines(area, shown, ink);
+    else
+        text.line({area.left, area.top}, shown, ink);
 }
 
 }  // namespace kel::win32

@@ -38,9 +38,11 @@ protected:
     ControlFrame& frame() const { return Frame_; }
     RECT pixels() const { return Frame_.grid().pixels(Entry_.bounds()); }
     TEXTMETRICW textMetrics() const { return Font_.metrics(window()); }
+    /// Of text whose upper edge is so many of the screen's pixels below that of the widget.
+    int baselineAt(const Canvas& canvas, int textTop) const;
     /// The area of the picture and what is behind its text; nothing is painted around it from now on.
-    RECT drawGround(HDC context, POINT origin) const;
-    void drawText(HDC context, RECT area, UINT flags) const;
+    RECT drawGround(const Canvas& canvas) const;
+    void drawText(const Canvas& canvas, const RECT& area) const;
 
 private:
     /// Hidden; shows nothing yet. False when the system gives no window.

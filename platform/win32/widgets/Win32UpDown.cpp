@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include "platform/win32/drawing/Symbols.h"
+
 namespace kel::win32 {
 
 namespace {
@@ -46,14 +48,11 @@ void Win32UpDown::frameEnabledChanged() {
     if (window() != nullptr) EnableWindow(window(), looksEnabled());
 }
 
-void Win32UpDown::draw(HDC context, POINT origin) const {
-    const RECT area = pixels(origin);
+void Win32UpDown::draw(const Canvas& canvas) const {
+    const RECT area = canvas.area(Spinner_.bounds());
     const LONG middle = (area.top + area.bottom) / 2;
-    RECT upper{area.left, area.top, area.right, middle};
-    RECT lower{area.left, middle, area.right, area.bottom};
-    const UINT state = looksEnabled() ? 0 : DFCS_INACTIVE;
-    DrawFrameControl(context, &upper, DFC_SCROLL, DFCS_SCROLLUP | state);
-    DrawFrameControl(context, &lower, DFC_SCROLL, DFCS_SCROLLDOWN | state);
+    drawArrowButton(canvas, {area.left, area.top, area.right, middle}, Arrow::Up, looksEnabled());
+    drawArrowButton(canvas, {area.left, middle, area.right, area.bottom}, Arrow::Down, looksEnabled());
 }
 
 // ---- What comes to the window

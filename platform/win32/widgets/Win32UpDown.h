@@ -25,7 +25,7 @@ public:
     void frameEnabledChanged() override;
     void rescale() override { place(); }
     LRESULT notified(UINT notification, LPARAM details) override;
-    void draw(HDC context, POINT origin) const override;
+    void draw(const Canvas& canvas) const override;
 
 private:
     bool looksEnabled() const { return Spinner_.enabled() && frame().enabled(); }

@@ -7,6 +7,7 @@
 
 namespace kel::win32 {
 
+class Canvas;
 class ControlWindowOwner;
 class TwipGrid;
 class Win32Label;
@@ -37,8 +38,8 @@ public:
     /// answer.
     virtual LRESULT notified(UINT notification, LPARAM details) = 0;
 
-    /// Paints the widget where it stands in the control, whose corner is at `origin`.
-    virtual void draw(HDC context, POINT origin) const = 0;
+    /// Paints the widget where it stands in the control.
+    virtual void draw(const Canvas& canvas) const = 0;
 
 protected:
     ~WindowedView() = default;
@@ -57,8 +58,8 @@ public:
     /// Colours of what the system's window is about to paint.
     virtual HBRUSH colors(HDC context) const = 0;
 
-    /// Of the first line of text, in pixels from the top of the control.
-    virtual int baseline() const = 0;
+    /// Of the first line of text on the canvas.
+    virtual int baseline(const Canvas& canvas) const = 0;
 
 protected:
     explicit WindowedField(FieldWidget& widget) : Widget_(widget) {}

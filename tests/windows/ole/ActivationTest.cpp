@@ -2,7 +2,6 @@
 
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/ole/Host.h"
-#include "tests/windows/widgets/Picture.h"
 
 using namespace kel::tests;
 
@@ -223,29 +222,6 @@ TEST(order_host_destroys_the_parent) {
     EXPECT_CODE(field->put_Text(Str(L"kept")), S_OK);
     EXPECT_EQ(text(field.get()), std::wstring(L"kept"));
     EXPECT(IsWindow(windowOf(field.get())));
-}
-
-TEST(view_draws_without_a_window) {
-    const auto field = makeText();
-    EXPECT_CODE(field->put_Text(Str(L"picture")), S_OK);
-    const auto view = field.as<IViewObject2>();
-    Picture picture;
-    PatBlt(picture.context(), 0, 0, 200, 40, BLACKNESS);
-    const RECTL bounds{0, 0, 200, 40};
-    const auto draw = [&](DWORD aspect) {
-        return view->Draw(aspect, -1, nullptr, nullptr, nullptr, picture.context(), &bounds, nullptr, nullptr, 0);
-    };
-    EXPECT_CODE(draw(DVASPECT_CONTENT), S_OK);
-    EXPECT(GetPixel(picture.context(), 150, 20) != 0);
-    EXPECT_CODE(draw(DVASPECT_ICON), DV_E_DVASPECT);
-    const auto data = field.as<IDataObject>();
-    FORMATETC format{CF_ENHMETAFILE, nullptr, DVASPECT_CONTENT, -1, TYMED_ENHMF};
-    STGMEDIUM medium{};
-    EXPECT_CODE(data->GetData(&format, &medium), S_OK);
-    EXPECT(medium.hEnhMetaFile != nullptr);
-    ReleaseStgMedium(&medium);
-    format.cfFormat = CF_TEXT;
-    EXPECT_CODE(data->QueryGetData(&format), DV_E_FORMATETC);
 }
 
 TEST(mnemonic_of_the_caption) {

@@ -86,11 +86,22 @@ constexpr DWORD Ground = 0xC0FFEE;
 constexpr DWORD Ink = 0xFF0000;
 constexpr int CaptionLeft = 16;  ///< pixels
 
-/// Colours of a scene's box as it looks, with a ground and an ink of their own.
+/// What the screen shows of it.
+void copyScreen(CheckScene& scene, Picture& picture) {
+    UpdateWindow(scene.window());
+    HDC const context = GetDC(scene.window());
+    BitBlt(picture.context(), 0, 0, Width, Height, context, 0, 0, SRCCOPY);
+    ReleaseDC(scene.window(), context);
+}
+
+/// Colours of a scene's box as it looks, in its picture or on the screen, with a ground and an ink of their own.
 struct Look {
-    explicit Look(CheckScene& scene) {
+    explicit Look(CheckScene& scene, bool onScreen = false) {
         Picture picture;
-        scene.control().draw(picture.context(), {0, 0, Width, Height});
+        if (onScreen)
+            copyScreen(scene, picture);
+        else
+            scene.drawInto(picture.context());
         ink = picture.count(Ink, CaptionLeft, Width);
         box = picture.count(Ground, 0, CaptionLeft);
         caption = picture.count(Ground, CaptionLeft, Width);
@@ -101,10 +112,9 @@ struct Look {
 };
 
 void color(CheckScene& scene) {
-    const std::int32_t twips = machine().twipsPerPixel();
     scene.box().setForeColor(0x000000FF);
     scene.box().setBackColor(0x00EEFFC0);
-    scene.box().move({0, 0, Width * twips, Height * twips});
+    scene.box().move(twipsOf({0, 0, Width, Height}));
 }
 
 }  // namespace
@@ -281,24 +291,22 @@ TEST(check_picture_shows_state_and_colours) {
     scene.box().setFontBold(true);
     EXPECT(Look(scene).ink > unchecked.ink);
     scene.box().setFontBold(false);
-    // The frame of the focus is about the caption, or about everything where there is none.
+    // The frame of the focus is about the caption, or about everything where there is none; paper has no focus.
     scene.enter();
-    EXPECT(Look(scene).caption < unchecked.caption - 40);
+    EXPECT_EQ(Look(scene).caption, unchecked.caption);
+    EXPECT(Look(scene, true).caption < unchecked.caption - 40);
     scene.box().setCaption(u"");
-    const int framed = Look(scene).caption;
+    const int framed = Look(scene, true).caption;
     SetFocus(scene.host().button());
     settle();
-    EXPECT(framed < Look(scene).caption - 100);
+    EXPECT(framed < Look(scene, true).caption - 100);
 }
 
 TEST(check_states_look_different_on_the_screen) {
     CheckScene scene;
     const auto pixels = [&] {
         Picture picture;
-        UpdateWindow(scene.window());
-        HDC const context = GetDC(scene.window());
-        BitBlt(picture.context(), 0, 0, Width, Height, context, 0, 0, SRCCOPY);
-        ReleaseDC(scene.window(), context);
+        copyScreen(scene, picture);
         return picture.all(CaptionLeft, Height);
     };
     const auto unchecked = pixels();

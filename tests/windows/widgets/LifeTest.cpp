@@ -74,7 +74,7 @@ TEST(the_picture_is_the_same_with_and_without_a_window) {
     int field = 0;
     const auto look = [&] {
         Picture picture;
-        stage.control().draw(picture.context(), {0, 0, Picture::Width, Picture::Height});
+        stage.drawInto(picture.context());
         EXPECT(picture.count(Green, 0, 100) == 0);
         EXPECT(picture.count(Green, 100, 300) > 1000);
         caption = picture.count(Red, 0, 100);
@@ -99,7 +99,7 @@ TEST(the_picture_has_the_spinner_that_shows) {
     Stage stage;
     const auto arrows = [&stage] {
         Picture picture;
-        stage.control().draw(picture.context(), {0, 0, Picture::Width, Picture::Height});
+        stage.drawInto(picture.context());
         return picture.count(0, 284, 300);
     };
     const int hidden = arrows();

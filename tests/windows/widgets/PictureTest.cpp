@@ -35,7 +35,7 @@ public:
         const Size extent = box().extentOf(text);
         const std::int32_t left = (surface.width - extent.width) / 2;
         const std::int32_t top = (surface.height - extent.height) / 2;
-        return {std::move(text), left, top, pixels * machine().twipsPerPixel(), pixels * 100 / Width};
+        return {std::move(text), left, top, machine().scale().twips(pixels), pixels * 100 / Width};
     }
 
     /// Pixels of the ink between two columns, as they are on the screen at this moment.
@@ -92,7 +92,7 @@ TEST(picture_is_the_same_without_a_window) {
     const BarPicture shown = scene.bar(70, u"35% (2 minutes remaining)");
     scene.box().draw(shown);
     Picture picture;
-    scene.control().draw(picture.context(), {0, 0, Width, Height});
+    scene.drawInto(picture.context());
     EXPECT_EQ(picture.count(Ink, 0, Width), scene.inkOnScreen(0, Width));
     EXPECT(scene.box().picture().text == shown.text);
 

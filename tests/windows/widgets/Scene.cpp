@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/win32/drawing/Canvas.h"
 #include "platform/win32/home/Win32Services.h"
 
 namespace kel::tests {
@@ -9,6 +10,11 @@ namespace kel::tests {
 System& machine() {
     static win32::Win32System Machine;
     return Machine;
+}
+
+Rect twipsOf(const Rect& pixels) {
+    const TwipScale scale = machine().scale();
+    return {scale.twips(pixels.left), scale.twips(pixels.top), scale.twips(pixels.width), scale.twips(pixels.height)};
 }
 
 HostWindow::HostWindow()
@@ -42,11 +48,16 @@ void Scene::changeHost() {
     placeOn(Host_->window());
 }
 
+void Scene::drawInto(HDC context) {
+    const Rect size = whole();
+    Window_->draw(win32::PictureCanvas(context, {0, 0, Size_.cx, Size_.cy}, nullptr, {size.width, size.height},
+                                       Window_->ground(), Window_->grid()));
+}
+
 std::wstring Scene::takeLog() { return std::exchange(Log_, {}); }
 
 Rect Scene::whole() const {
-    const std::int32_t twips = machine().twipsPerPixel();
-    return {0, 0, static_cast<std::int32_t>(Size_.cx) * twips, static_cast<std::int32_t>(Size_.cy) * twips};
+    return twipsOf({0, 0, static_cast<std::int32_t>(Size_.cx), static_cast<std::int32_t>(Size_.cy)});
 }
 
 void Scene::tell(const std::wstring& what) { Log_ += (Log_.empty() ? L"" : L" ") + what; }

@@ -53,6 +53,9 @@ public:
         loseHost();
     }
 
+    /// Its picture from the upper left corner of a context, as large as it is.
+    void drawInto(HDC context);
+
     /// What was told since the last call, separated by blanks.
     std::wstring takeLog();
 
@@ -71,6 +74,7 @@ private:
     void focusLeft() override { tell(L"exit"); }
     void passFocusOn() override {}
     void viewChanged() override {}
+    void resolutionChanged() override {}
     void mnemonicChanged() override { tell(L"mnemonic"); }
 
     SIZE Size_;
@@ -81,6 +85,8 @@ private:
 
 /// The machine as the controls see it.
 System& machine();
+/// A place on its screen.
+Rect twipsOf(const Rect& pixels);
 
 /// Serves the queue for some milliseconds.
 void settleFor(DWORD time);

@@ -13,10 +13,9 @@ Stage::Stage(bool multiLine)
     : Scene(Width, Height), Label_(control().widgets()), Box_(control().widgets(), *this, multiLine) {
     UpDownListener& spinning = *this;
     UpDown_ = std::make_unique<UpDown>(control().widgets(), spinning);
-    const std::int32_t twips = machine().twipsPerPixel();
-    Label_.move({0, 0, Width / 3 * twips, 195});
-    Box_.move({Width / 3 * twips, 0, Width * 2 / 3 * twips, (multiLine ? Height : 20) * twips});
-    UpDown_->move({(Width - 16) * twips, 30 * twips, 16 * twips, 20 * twips});
+    Label_.move(twipsOf({0, 0, Width / 3, 13}));
+    Box_.move(twipsOf({Width / 3, 0, Width * 2 / 3, multiLine ? Height : 20}));
+    UpDown_->move(twipsOf({Width - 16, 30, 16, 20}));
     placeOn(host().window());
 }
 

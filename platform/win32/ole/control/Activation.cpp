@@ -106,13 +106,14 @@ HRESULT Activation::setRects(const RECT& bounds, const RECT& clip) {
     if (!inPlace()) return E_UNEXPECTED;
     Bounds_ = bounds;
     Clip_ = clip;
+    // Its host may know of another screen before the window is told.
+    Control_.window().followScreen();
     if (Placing_ > 0) {
         place();
         return S_OK;
     }
     const DepthGuard placing(Placing_);
-    const TwipGrid grid = Control_.grid();
-    Control_.takeExtent({grid.twips(widthOf(bounds)), grid.twips(heightOf(bounds))});
+    Control_.takeExtent(Control_.extent().twipsIn({widthOf(bounds), heightOf(bounds)}, Control_.window().grid()));
     applyExtent();
     return S_OK;
 }
@@ -123,13 +124,19 @@ void Activation::extentChanged() {
     applyExtent();
 }
 
+void Activation::resolutionChanged() {
+    if (!inPlace()) return;
+    Control_.window().followScreen();
+    extentChanged();
+}
+
 /// Shows the window in the size that the control has, and tells the host when that is not the one it gave.
 void Activation::applyExtent() {
-    const Size extent = Control_.extent();
-    RECT wanted = Control_.grid().pixels({0, 0, extent.width, extent.height});
-    OffsetRect(&wanted, Bounds_.left, Bounds_.top);
-    const bool differs = EqualRect(&wanted, &Bounds_) == FALSE;
-    Bounds_ = wanted;
+    const Size given{widthOf(Bounds_), heightOf(Bounds_)};
+    const Size wanted = Control_.extent().pixels(Control_.window().grid(), given);
+    const bool differs = wanted != given;
+    Bounds_.right = Bounds_.left + wanted.width;
+    Bounds_.bottom = Bounds_.top + wanted.height;
     place();
     const ComPtr<IOleInPlaceSite> site = Site_;
     if (differs && site) site->OnPosRectChange(&Bounds_);

@@ -29,6 +29,9 @@ public:
     /// The control has taken another size by itself.
     void extentChanged();
 
+    /// The control is on another screen: it keeps its size, which takes other pixels there.
+    void resolutionChanged();
+
 private:
     enum class State { Passive, InPlace, UiActive };
 

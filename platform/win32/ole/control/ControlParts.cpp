@@ -132,7 +132,7 @@ public:
             if (container->pPropertyNotifySink != nullptr)
                 Control_.connections().Notify.Advise(container->pPropertyNotifySink, &control->dwPropNotifyCookie);
             control->dwMiscStatus = statusBitsOf(Control_.model());
-            control->dwViewStatus = VIEWSTATUS_OPAQUE;
+            control->dwViewStatus = ViewStatus;
         });
     }
     HRESULT STDMETHODCALLTYPE SetContentExtent(LPSIZEL size) noexcept override {

@@ -36,6 +36,8 @@ HRESULT showProperties(OleControl& control, HWND parent);
 std::unique_ptr<ControlInterfaces> makeKeysPart(OleControl& control);
 /// The control's window, as its container moves it and as its frame talks to it while the user works in it.
 std::unique_ptr<ControlInterfaces> makeInPlacePart(OleControl& control);
+/// What a host may take for granted about its picture: VIEWSTATUS_OPAQUE and VIEWSTATUS_SOLIDBKGND.
+inline constexpr DWORD ViewStatus = VIEWSTATUS_OPAQUE | VIEWSTATUS_SOLIDBKGND;
 /// The control as a picture, shown or as data.
 std::unique_ptr<ControlInterfaces> makePicturePart(OleControl& control);
 /// The control's properties, in the host's own bag, a stream or a storage.

@@ -6,21 +6,6 @@
 
 namespace kel::win32::ole {
 
-namespace {
-
-constexpr int HimetricPerInch = 2540;  ///< hundredths of a millimetre
-
-SIZEL toHimetric(Size twips) {
-    return {MulDiv(twips.width, HimetricPerInch, TwipsPerInch), MulDiv(twips.height, HimetricPerInch, TwipsPerInch)};
-}
-
-Size fromHimetric(const SIZEL& size) {
-    return withinReach(
-        Size{MulDiv(size.cx, TwipsPerInch, HimetricPerInch), MulDiv(size.cy, TwipsPerInch, HimetricPerInch)});
-}
-
-}  // namespace
-
 OleControl::OleControl(Library& library, const ClassModel& model, const ClassIdentity& identity, IUnknown* outer)
     : ComObject(library.module(), outer),
       Model_(model),
@@ -53,23 +38,27 @@ void* OleControl::find(REFIID iid) {
 // ---- Size
 
 void OleControl::takeExtent(Size twips) {
-    if (HasExtent_ && twips == Extent_) return;
-    Extent_ = twips;
+    if (HasExtent_ && twips == Extent_.twips()) return;
+    Extent_.setTwips(twips);
     HasExtent_ = true;
     Control_->Resize();
 }
 
 void OleControl::setSize(Size size) {
-    if (HasExtent_ && size == Extent_) return;
+    if (HasExtent_ && size == Extent_.twips()) return;
     takeExtent(size);
     Activation_.extentChanged();
 }
 
-SIZEL OleControl::himetricExtent() const { return fromHimetric(Given_) == Extent_ ? Given_ : toHimetric(Extent_); }
+SIZEL OleControl::himetricExtent() const {
+    const Size size = Extent_.himetric();
+    return {size.width, size.height};
+}
 
 void OleControl::takeHimetricExtent(const SIZEL& size) {
-    Given_ = size;
-    takeExtent(fromHimetric(size));
+    const Size given{static_cast<std::int32_t>(size.cx), static_cast<std::int32_t>(size.cy)};
+    Extent_.given(given);
+    takeExtent(Extent::twipsOf(given));
 }
 
 // ---- Birth and end
@@ -84,6 +73,8 @@ HRESULT OleControl::begin(const std::function<void()>& load) {
         throw;
     }
     Birth_ = Birth::Begun;
+    // A host that shows a picture of it does not place it first.
+    if (HasExtent_) Control_->Resize();
     Dirty_ = false;
     return S_OK;
 }
@@ -204,6 +195,10 @@ void OleControl::passFocusOn() {
 
 void OleControl::viewChanged() {
     if (!Dying_ && !Activation_.inPlace()) Viewer_.outOfDate();
+}
+
+void OleControl::resolutionChanged() {
+    if (!Dying_) Activation_.resolutionChanged();
 }
 
 void OleControl::mnemonicChanged() {

@@ -4,8 +4,8 @@
 #include <functional>
 
 #include "host/Container.h"
+#include "host/Extent.h"
 #include "library/Control.h"
-#include "platform/win32/base/TwipGrid.h"
 #include "platform/win32/control/ControlWindow.h"
 #include "platform/win32/ole/automation/Library.h"
 #include "platform/win32/ole/com/ConnectionPoints.h"
@@ -38,18 +38,15 @@ public:
     Viewer& viewer() { return Viewer_; }
     Embedders& embedders() { return Embedders_; }
 
-    /// Of the screen.
-    TwipGrid grid() const { return TwipGrid(System_.twipsPerPixel()); }
-
     /// It appears in its host.
     void show();
 
-    /// Twips; a usual size until the host gives one.
-    Size extent() const { return Extent_; }
+    /// A usual size until the host gives one.
+    const Extent& extent() const { return Extent_; }
     /// The control may take another one.
     void takeExtent(Size twips);
 
-    /// The same in hundredths of a millimetre; what the host gave comes back to the last digit.
+    /// In hundredths of a millimetre.
     SIZEL himetricExtent() const;
     void takeHimetricExtent(const SIZEL& size);
 
@@ -78,7 +75,7 @@ protected:
 private:
     // Container
     bool hasSize() const override { return HasExtent_; }
-    Size size() const override { return Extent_; }
+    Size size() const override { return Extent_.twips(); }
     void setSize(Size size) override;
     bool enabled() const override { return Window_.enabled(); }
     void setEnabled(bool enabled) override { Window_.setEnabled(enabled); }
@@ -99,6 +96,7 @@ private:
     void focusLeft() override;
     void passFocusOn() override;
     void viewChanged() override;
+    void resolutionChanged() override;
     void mnemonicChanged() override;
 
     void leaveHost();
@@ -113,8 +111,7 @@ private:
     Ambients Ambients_;
     Viewer Viewer_;
     Embedders Embedders_;
-    Size Extent_{3600, 300};
-    SIZEL Given_{0, 0};  ///< last size in hundredths of a millimetre
+    Extent Extent_{{3600, 300}};
     bool HasExtent_ = false;
     bool Dirty_ = false;
     bool Entered_ = false;

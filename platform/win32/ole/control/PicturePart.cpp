@@ -1,3 +1,7 @@
+#include <algorithm>
+#include <cstdlib>
+
+#include "platform/win32/drawing/Canvas.h"
 #include "platform/win32/ole/com/Enumerator.h"
 #include "platform/win32/ole/control/ControlParts.h"
 #include "platform/win32/ole/control/OleControl.h"
@@ -18,10 +22,31 @@ HRESULT checkFormat(const FORMATETC& format) {
     return enhanced || classic ? S_OK : DV_E_FORMATETC;
 }
 
-/// The area of the picture: the control in its own size.
-RECT areaOf(const OleControl& control) {
-    const Size size = control.extent();
-    return control.grid().pixels({0, 0, size.width, size.height});
+void draw(OleControl& control, HDC context, const RECT& bounds, const RECT* metafile) {
+    if (bounds.left == bounds.right || bounds.top == bounds.bottom) return;
+    const ControlWindow& window = control.window();
+    window.draw(PictureCanvas(context, bounds, metafile, control.extent().twips(), window.ground(), window.grid()));
+}
+
+/// A host says its corner and its size.
+RECT metafileArea(const RECTL& bounds) {
+    return {bounds.left, bounds.top, bounds.left + bounds.right, bounds.top + bounds.bottom};
+}
+
+/// The whole picture in twips.
+RECT pictureOf(const OleControl& control) {
+    const Size size = control.extent().twips();
+    return {0, 0, std::max(size.width, 1), std::max(size.height, 1)};
+}
+
+/// The frame is measured on the glass of the screen, whose inches are seldom those that it counts its dots by.
+SIZE frameOf(HDC context, const SIZEL& himetric) {
+    constexpr int HimetricPerMillimetre = 100;
+    const auto pixels = [&](LONG length, int dots, int millimetres) {
+        return MulDiv(static_cast<int>(length), GetDeviceCaps(context, dots),
+                      std::max(GetDeviceCaps(context, millimetres), 1) * HimetricPerMillimetre);
+    };
+    return {pixels(himetric.cx, HORZRES, HORZSIZE), pixels(himetric.cy, VERTRES, VERTSIZE)};
 }
 
 HENHMETAFILE drawEnhanced(OleControl& control) {
@@ -29,18 +54,20 @@ HENHMETAFILE drawEnhanced(OleControl& control) {
     const RECT frame{0, 0, size.cx, size.cy};
     HDC context = CreateEnhMetaFileW(nullptr, nullptr, &frame, nullptr);
     if (context == nullptr) throw std::bad_alloc();
-    control.window().draw(context, areaOf(control));
+    const RECT picture = pictureOf(control);
+    const SIZE pixels = frameOf(context, size);
+    SetMapMode(context, MM_ANISOTROPIC);
+    SetWindowExtEx(context, picture.right, picture.bottom, nullptr);
+    SetViewportExtEx(context, pixels.cx, pixels.cy, nullptr);
+    draw(control, context, picture, nullptr);
     return CloseEnhMetaFile(context);
 }
 
 HGLOBAL drawClassic(OleControl& control) {
     HDC context = CreateMetaFileW(nullptr);
     if (context == nullptr) throw std::bad_alloc();
-    const RECT area = areaOf(control);
     SetMapMode(context, MM_ANISOTROPIC);
-    SetWindowOrgEx(context, 0, 0, nullptr);
-    SetWindowExtEx(context, area.right, area.bottom, nullptr);
-    control.window().draw(context, area);
+    draw(control, context, pictureOf(control), nullptr);
     HMETAFILE picture = CloseMetaFile(context);
     HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, sizeof(METAFILEPICT));
     auto* const described = static_cast<METAFILEPICT*>(memory != nullptr ? GlobalLock(memory) : nullptr);
@@ -54,23 +81,27 @@ HGLOBAL drawClassic(OleControl& control) {
     return memory;
 }
 
-class PicturePart final : public ControlPart<IViewObject2, IDataObject> {
+class PicturePart final : public ControlPart<IViewObjectEx, IDataObject> {
 public:
     using ControlPart::ControlPart;
 
-    void* find(REFIID iid) override { return asOneOf<IViewObject, IViewObject2, IDataObject>(iid, *this); }
+    void* find(REFIID iid) override {
+        return asOneOf<IViewObject, IViewObject2, IViewObjectEx, IDataObject>(iid, *this);
+    }
 
     // ---- IViewObject2
 
     HRESULT STDMETHODCALLTYPE Draw(DWORD aspect, LONG index, void* /*aspectInfo*/, DVTARGETDEVICE* /*device*/,
-                                   HDC /*deviceContext*/, HDC context, LPCRECTL bounds, LPCRECTL /*metafileBounds*/,
+                                   HDC /*deviceContext*/, HDC context, LPCRECTL bounds, LPCRECTL metafileBounds,
                                    BOOL(STDMETHODCALLTYPE* /*goOn*/)(ULONG_PTR),
                                    ULONG_PTR /*token*/) noexcept override {
         if (aspect != DVASPECT_CONTENT) return DV_E_DVASPECT;
         if (index != -1) return DV_E_LINDEX;
         if (context == nullptr || bounds == nullptr) return E_INVALIDARG;
         return guarded([&] {
-            Control_.window().draw(context, {bounds->left, bounds->top, bounds->right, bounds->bottom});
+            const RECT whole = metafileBounds != nullptr ? metafileArea(*metafileBounds) : RECT{};
+            draw(Control_, context, {bounds->left, bounds->top, bounds->right, bounds->bottom},
+                 metafileBounds != nullptr ? &whole : nullptr);
         });
     }
     HRESULT STDMETHODCALLTYPE GetColorSet(DWORD /*aspect*/, LONG /*index*/, void* /*aspectInfo*/,
@@ -98,6 +129,44 @@ public:
         if (index != -1) return DV_E_LINDEX;
         *size = Control_.himetricExtent();
         return S_OK;
+    }
+
+    // ---- IViewObjectEx: the whole rectangle is painted, nothing shows through, and it is one colour around the
+    // widgets
+
+    HRESULT STDMETHODCALLTYPE GetRect(DWORD aspect, LPRECTL area) noexcept override {
+        if (area == nullptr) return E_POINTER;
+        *area = {};
+        if (aspect != DVASPECT_CONTENT) return DV_E_DVASPECT;
+        const SIZEL size = Control_.himetricExtent();
+        *area = {0, 0, size.cx, size.cy};
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE GetViewStatus(DWORD* status) noexcept override {
+        if (status == nullptr) return E_POINTER;
+        *status = ViewStatus;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE QueryHitPoint(DWORD aspect, LPCRECT bounds, POINT place, LONG /*closeHint*/,
+                                            DWORD* hit) noexcept override {
+        const RECT point{place.x, place.y, place.x + 1, place.y + 1};
+        return QueryHitRect(aspect, bounds, &point, 0, hit);
+    }
+    HRESULT STDMETHODCALLTYPE QueryHitRect(DWORD aspect, LPCRECT bounds, LPCRECT area, LONG /*closeHint*/,
+                                           DWORD* hit) noexcept override {
+        if (bounds == nullptr || area == nullptr || hit == nullptr) return E_POINTER;
+        if (aspect != DVASPECT_CONTENT) return DV_E_DVASPECT;
+        RECT both{};
+        *hit = IntersectRect(&both, bounds, area) != FALSE ? HITRESULT_HIT : HITRESULT_OUTSIDE;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE GetNaturalExtent(DWORD aspect, LONG index, DVTARGETDEVICE* device, HDC /*deviceContext*/,
+                                               DVEXTENTINFO* wanted, LPSIZEL size) noexcept override {
+        if (wanted == nullptr || size == nullptr) return E_POINTER;
+        *size = {};
+        // Any size can be had: there is none to snap to.
+        if (wanted->dwExtentMode != DVEXTENT_CONTENT) return E_NOTIMPL;
+        return GetExtent(aspect, index, device, size);
     }
 
     // ---- IDataObject, for hosts that keep the picture: as a metafile, classic or enhanced
