@@ -66,8 +66,12 @@ HENHMETAFILE drawEnhanced(OleControl& control) {
 HGLOBAL drawClassic(OleControl& control) {
     HDC context = CreateMetaFileW(nullptr);
     if (context == nullptr) throw std::bad_alloc();
+    const RECT area = pictureOf(control);
     SetMapMode(context, MM_ANISOTROPIC);
-    draw(control, context, pictureOf(control), nullptr);
+    // Readers look for these in front of all else.
+    SetWindowOrgEx(context, 0, 0, nullptr);
+    SetWindowExtEx(context, area.right, area.bottom, nullptr);
+    draw(control, context, area, nullptr);
     HMETAFILE picture = CloseMetaFile(context);
     HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, sizeof(METAFILEPICT));
     auto* const described = static_cast<METAFILEPICT*>(memory != nullptr ? GlobalLock(memory) : nullptr);
