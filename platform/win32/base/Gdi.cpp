@@ -1,6 +1,7 @@
 #include "platform/win32/base/Gdi.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
 #include <iterator>
 
@@ -13,6 +14,11 @@ TwipScale screenScale(HWND window) {
     const UINT dots = window != nullptr && DotsPerInch != nullptr ? DotsPerInch(window) : 0;
     return TwipScale::ofDotsPerInch(dots > 0 ? static_cast<int>(dots)
                                              : GetDeviceCaps(WindowContext(nullptr).get(), LOGPIXELSX));
+}
+
+int onScreenOf(HWND window, int pixels) {
+    return static_cast<int>(
+        std::lround(pixels * screenScale(window).exactPixels(1) / screenScale(nullptr).exactPixels(1)));
 }
 
 HBRUSH brushFor(HDC context, COLORREF color) {

@@ -20,6 +20,9 @@ inline COLORREF colorOf(Color color) {
 /// system knows but one.
 TwipScale screenScale(HWND window);
 
+/// What so many pixels of the first screen are on that of `window`.
+int onScreenOf(HWND window, int pixels);
+
 /// Fills in `color` with the system's changeable brush: there is none to keep.
 HBRUSH brushFor(HDC context, COLORREF color);
 

@@ -86,7 +86,7 @@ void CanvasText::underline(POINT place, std::wstring_view line, std::size_t at, 
 void CanvasText::lines(const RECT& area, std::wstring_view text, COLORREF ink) const {
     POINT place{area.left, area.top};
     breakInto(widthOf(area), text, [&](std::wstring_view part) {
-        if (place.y < area.bottom) line(place, part, ink);
+        if (place.y == area.top || place.y + height() <= area.bottom) line(place, part, ink);
         place.y += height();
     });
 }

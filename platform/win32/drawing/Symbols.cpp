@@ -9,7 +9,7 @@ namespace kel::win32 {
 namespace {
 
 void drawArrow(const Canvas& canvas, const RECT& area, Arrow arrow, COLORREF ink) {
-    const int half = std::max(std::min(widthOf(area), heightOf(area)) / 3, 1);
+    const int half = std::max(std::min(widthOf(area) / 4, heightOf(area) / 2), 1);
     const LONG middle = (area.left + area.right) / 2;
     const LONG top = (area.top + area.bottom - half) / 2;
     const LONG broad = arrow == Arrow::Down ? top : top + half;

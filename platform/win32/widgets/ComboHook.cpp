@@ -1,5 +1,7 @@
 #include "platform/win32/widgets/ComboHook.h"
 
+#include "platform/win32/base/Gdi.h"
+
 namespace kel::win32 {
 
 namespace {
@@ -24,7 +26,7 @@ void setProcedure(HWND window, WNDPROC procedure, bool unicode) {
 
 int buttonWidthOf(HWND window) {
     const auto* const pixels = static_cast<const std::int16_t*>(GetPropA(window, ButtonWidthProperty));
-    return pixels != nullptr ? *pixels : 0;
+    return pixels != nullptr ? onScreenOf(window, *pixels) : 0;
 }
 
 void paintFrame(HWND window) {

@@ -162,10 +162,10 @@ TextLine EditView::lineAt(std::size_t position) const {
     return line;
 }
 
-int EditView::textTop() const {
+POINT EditView::textCorner() const {
     RECT area{};
     base(EM_GETRECT, 0, reinterpret_cast<LPARAM>(&area));
-    return static_cast<int>(area.top);
+    return {area.left, area.top};
 }
 
 }  // namespace kel::win32

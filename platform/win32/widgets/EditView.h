@@ -47,8 +47,8 @@ public:
     /// The window breaks long lines at its edge.
     TextLine lineAt(std::size_t position) const override;
 
-    /// Upper edge of the text.
-    int textTop() const;
+    /// Upper left corner of the text.
+    POINT textCorner() const;
 
 private:
     void showNothingYet();

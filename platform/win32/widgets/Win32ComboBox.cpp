@@ -147,31 +147,29 @@ bool Win32ComboBox::showRow(std::int32_t item, POINT& center) const {
 
 // ---- Picture
 
-int Win32ComboBox::textTop() const {
-    if (window() == nullptr) return EdgeWidth + TextGap;
-    POINT corner{0, View_.textTop()};
+POINT Win32ComboBox::textCorner() const {
+    if (window() == nullptr) return {EdgeWidth + TextGap, EdgeWidth + TextGap};
+    POINT corner = View_.textCorner();
     MapWindowPoints(window(), Combo_, &corner, 1);
-    return static_cast<int>(corner.y);
+    return corner;
 }
-
-int Win32ComboBox::baseline(const Canvas& canvas) const { return baselineAt(canvas, textTop()); }
 
 void Win32ComboBox::draw(const Canvas& canvas) const {
     const SavedContext saved(canvas.context());
     const RECT area = drawGround(canvas);
     RECT button = canvas.inside(area, EdgeWidth);
-    button.left = std::max(button.left, button.right - canvas.across(GetSystemMetrics(SM_CXVSCROLL)));
+    button.left =
+        std::max(button.left, button.right - canvas.across(onScreenOf(Combo_, GetSystemMetrics(SM_CXVSCROLL))));
     drawArrowButton(canvas, button, Arrow::Down, Box_.enabled());
     RECT frame = area;
     if (const std::int16_t* const buttonWidth = Box_.frameButtonWidth()) {
         frame.bottom -= canvas.down(1);
         RECT raised = canvas.inside(frame, EdgeWidth);
-        raised.left = raised.right - canvas.across(*buttonWidth);
+        raised.left = raised.right - canvas.across(onScreenOf(Combo_, *buttonWidth));
         if (*buttonWidth > 0) canvas.raisedEdge(raised);
     }
     canvas.sunkenEdge(frame);
     RECT text = canvas.inside(area, EdgeWidth + TextGap);
-    text.top = area.top + canvas.down(textTop());
     text.right = button.left;
     canvas.clip(text);
     drawText(canvas, text);

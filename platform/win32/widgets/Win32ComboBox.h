@@ -15,7 +15,6 @@ public:
 
     HWND wholeWindow() const override { return Combo_; }
     LRESULT notified(UINT notification, LPARAM details) override;
-    int baseline(const Canvas& canvas) const override;
     void draw(const Canvas& canvas) const override;
 
     // ---- For hands
@@ -33,8 +32,7 @@ private:
     void showPlace() override;
     void showOwn(Changes changes) override;
     int listHeight() const;
-    /// Upper edge of the text, in the screen's pixels from that of the box.
-    int textTop() const;
+    POINT textCorner() const override;
 
     // ---- The system's list
 

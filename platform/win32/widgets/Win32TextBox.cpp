@@ -34,16 +34,17 @@ LRESULT Win32TextBox::handle(HWND window, UINT message, WPARAM wide, LPARAM data
 
 // ---- Picture
 
-int Win32TextBox::baseline(const Canvas& canvas) const { return baselineAt(canvas, textTop()); }
+POINT Win32TextBox::textCorner() const {
+    const POINT corner = window() != nullptr ? View_.textCorner() : POINT{TextGap, TextGap};
+    return {corner.x + EdgeWidth, corner.y + EdgeWidth};
+}
 
 void Win32TextBox::draw(const Canvas& canvas) const {
     const SavedContext saved(canvas.context());
     const RECT area = drawGround(canvas);
     canvas.sunkenEdge(area);
     canvas.clip(canvas.inside(area, EdgeWidth));
-    RECT text = canvas.inside(area, EdgeWidth + TextGap);
-    text.top = area.top + canvas.down(textTop());
-    drawText(canvas, text);
+    drawText(canvas, canvas.inside(area, EdgeWidth + TextGap));
 }
 
 }  // namespace kel::win32

@@ -13,13 +13,11 @@ public:
 
     std::ptrdiff_t linesOfPage() const override;
     LRESULT notified(UINT notification, LPARAM details) override;
-    int baseline(const Canvas& canvas) const override;
     void draw(const Canvas& canvas) const override;
 
 private:
     bool createWindow() override;
-    /// Upper edge of the text, in the screen's pixels from that of the box.
-    int textTop() const { return EdgeWidth + (window() != nullptr ? View_.textTop() : TextGap); }
+    POINT textCorner() const override;
     void showPlace() override { placeWindow(window(), pixels()); }
     LRESULT handle(HWND window, UINT message, WPARAM wide, LPARAM data) override;
 

@@ -69,8 +69,8 @@ HBRUSH Win32TextEntry::colors(HDC context) const {
     return setColors(context, Entry_, Entry_.enabled() && Frame_.enabled());
 }
 
-int Win32TextEntry::baselineAt(const Canvas& canvas, int textTop) const {
-    return static_cast<int>(canvas.area(Entry_.bounds()).top) + canvas.down(textTop) +
+int Win32TextEntry::baseline(const Canvas& canvas) const {
+    return static_cast<int>(canvas.area(Entry_.bounds()).top) + canvas.down(static_cast<int>(textCorner().y)) +
            CanvasText(canvas, Font_).ascent();
 }
 
@@ -81,7 +81,11 @@ RECT Win32TextEntry::drawGround(const Canvas& canvas) const {
     return area;
 }
 
-void Win32TextEntry::drawText(const Canvas& canvas, const RECT& area) const {
+void Win32TextEntry::drawText(const Canvas& canvas, RECT area) const {
+    const RECT whole = canvas.area(Entry_.bounds());
+    const POINT corner = textCorner();
+    area.left = whole.left + canvas.across(static_cast<int>(corner.x));
+    area.top = whole.top + canvas.down(static_cast<int>(corner.y));
     const CanvasText text(canvas, Font_);
     const std::wstring shown = wide(displayed(Entry_.shownText(), Entry_.multiLine()));
     const COLORREF ink = inkOf(Entry_, Entry_.enabled() && Frame_.enabled());

@@ -21,6 +21,7 @@ public:
     void makeWindow() final;
     bool wantsKey(const KeyStroke& stroke) const final { return win32::wantsKey(Entry_, stroke); }
     HBRUSH colors(HDC context) const final;
+    int baseline(const Canvas& canvas) const final;
     void rescale() final;
 
     /// For hands: where the window shows the caret at `position`, brought into view; past an end is that end.
@@ -38,16 +39,17 @@ protected:
     ControlFrame& frame() const { return Frame_; }
     RECT pixels() const { return Frame_.grid().pixels(Entry_.bounds()); }
     TEXTMETRICW textMetrics() const { return Font_.metrics(window()); }
-    /// Of text whose upper edge is so many of the screen's pixels below that of the widget.
-    int baselineAt(const Canvas& canvas, int textTop) const;
     /// The area of the picture and what is behind its text; nothing is painted around it from now on.
     RECT drawGround(const Canvas& canvas) const;
-    void drawText(const Canvas& canvas, const RECT& area) const;
+    /// It ends with `area`.
+    void drawText(const Canvas& canvas, RECT area) const;
 
 private:
     /// Hidden; shows nothing yet. False when the system gives no window.
     virtual bool createWindow() = 0;
     virtual void showPlace() = 0;
+    /// Of the text in the widget, in the screen's pixels.
+    virtual POINT textCorner() const = 0;
     /// What only this kind of widget has.
     virtual void showOwn(Changes /*changes*/) {}
     virtual LRESULT handle(HWND window, UINT message, WPARAM wide, LPARAM data) = 0;

@@ -45,7 +45,8 @@ void keep(Picture& picture, const std::string& name) {
     info.biHeight = -picture.height();
     info.biPlanes = 1;
     info.biBitCount = 32;
-    const std::vector<DWORD> pixels = picture.all(picture.width(), picture.height());
+    std::vector<DWORD> pixels = picture.all(picture.width(), picture.height());
+    for (DWORD& pixel : pixels) pixel |= 0xFF000000U;  // windows leave anything there
     const auto bytes = static_cast<DWORD>(pixels.size() * sizeof(DWORD));
     file.bfType = 0x4D42;
     file.bfOffBits = sizeof file + sizeof info;
@@ -307,6 +308,58 @@ TEST(picture_fills_its_rectangle_wherever_it_is_drawn) {
     }
     if (!wrong.empty()) fail(__FILE__, __LINE__, wrong);
     EXPECT(wanted->left > 0.33 && wanted->right > 0.98 && wanted->textRight > wanted->textLeft + 0.2);
+}
+
+TEST(picture_is_what_the_window_shows) {
+    // Of buttons the system has its own pictures.
+    const struct {
+        const wchar_t* program;
+        std::map<std::wstring, std::wstring, NameOrder> texts;
+        int height, from, to;
+    } rows[] = {{L"KelControls8.KelText", {{L"Text", L"Hamburgefonts 123"}}, 20, 10, 250},
+                {L"KelControls8.KelText",
+                 {{L"MultiLine", L"True"}, {L"Text", L"As many lines\r\nas there are in\r\nthe field\r\nand more"}},
+                 50,
+                 10,
+                 230},
+                {L"KelControls8.KelNumber", {{L"Value", L"-1234.5"}, {L"UpDown", L"True"}}, 20, 10, 232},
+                {L"KelControls8.KelCombo", {{L"List", L"Hamburg,Aachen"}, {L"Text", L"Hamburg"}}, 20, 10, 230},
+                {L"KelControls8.KelCheck", {{L"Value", L"1"}}, 20, 24, 250}};
+    int number = 0;
+    std::string wrong;
+    for (const auto& row : rows) {
+        Host host;
+        host.Bounds = {10, 10, 250, 10 + row.height};
+        const auto control = host.place(create(row.program));
+        SIZEL size{Size.cx, MulDiv(row.height, 2540, 96)};
+        EXPECT_CODE(host.object()->SetExtent(DVASPECT_CONTENT, &size), S_OK);
+        Bag bag;
+        bag.Texts = row.texts;
+        bag.Texts[L"Caption"] = L"&Caption";
+        bag.Texts[L"CaptionWidth"] = L"1200";
+        EXPECT_CODE(load(control.get(), bag), S_OK);
+        EXPECT_CODE(host.verb(OLEIVERB_SHOW), S_OK);
+        settle();
+        RedrawWindow(host.window(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+        GdiFlush();
+        Picture shown, drawn, page(1700, 450);
+        HDC const window = GetDC(host.window());
+        BitBlt(shown.context(), 0, 0, Picture::Width, Picture::Height, window, 0, 0, SRCCOPY);
+        ReleaseDC(host.window(), window);
+        BitBlt(drawn.context(), 0, 0, Picture::Width, Picture::Height, shown.context(), 0, 0, SRCCOPY);
+        PatBlt(drawn.context(), 10, 10, 240, row.height, BLACKNESS);
+        EXPECT_CODE(draw(control.get(), drawn.context(), {10, 10, 250, 10 + row.height}), S_OK);
+        EXPECT_CODE(draw(control.get(), page.context(), {62, 62, 1562, 62 + row.height * 25 / 4}), S_OK);
+        const std::string title = "beside " + std::to_string(number++);
+        keep(shown, title + " window");
+        keep(drawn, title + " picture");
+        keep(page, title + " page");
+        int differ = 0;
+        for (int y = 10; y < 10 + row.height; ++y)
+            for (int x = row.from; x < row.to; ++x) differ += shown.at(x, y) != drawn.at(x, y) ? 1 : 0;
+        if (differ != 0) wrong += title + ": " + std::to_string(differ) + " pixels differ; ";
+    }
+    if (!wrong.empty()) fail(__FILE__, __LINE__, wrong);
 }
 
 /// The changeable brush of a context has no colour in a metafile: all its fills came out white there.
