@@ -182,6 +182,12 @@ public:
     void ReadProperties(PropertyBag& bag) override { entry().load(bag); }
     void WriteProperties(PropertyBag& bag) const override;
     WidgetSet widgets() override { return entry().widgets(); }
+    Standing standing() final;
+
+protected:
+    /// The text as it stands.
+    virtual bool isValid() = 0;
+    virtual std::optional<NumberRange> range() const { return std::nullopt; }
 };
 
 }  // namespace kel

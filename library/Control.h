@@ -1,11 +1,31 @@
 #pragma once
 
+#include <optional>
+
 #include "library/Dispatch.h"
 
 namespace kel {
 
 class PropertyBag;
 struct WidgetSet;
+
+/// A number that a person may change, as far as it goes and by how much at once.
+struct NumberRange {
+    double value = 0;
+    double minimum = 0;
+    double maximum = 0;
+    double step = 0;
+    friend bool operator==(const NumberRange&, const NumberRange&) = default;
+};
+
+/// What those who cannot see a control are told beside what its widgets show.
+struct Standing {
+    bool enabled = true;    ///< and its widgets with it
+    bool required = false;  ///< a person must not leave it empty
+    bool valid = true;      ///< as it stands, without being committed
+    bool locked = false;
+    std::optional<NumberRange> range{};
+};
 
 /// One control on a form. Its container drives it, always on the user-interface thread, in this order:
 /// `Initialize`; then `InitProperties` (newly placed in a designer) or `ReadProperties` (a saved form is
@@ -26,6 +46,11 @@ public:
 
     /// The child widgets as they stand, for whoever draws, drives or describes the control.
     virtual WidgetSet widgets() = 0;
+
+    virtual Standing standing() { return {}; }
+    /// A person sets the number of a field that has a range, as its spinner would. False where the field does not take
+    /// it, and stays as it is.
+    virtual bool enterNumber(double /*number*/) { return false; }
 };
 
 }  // namespace kel

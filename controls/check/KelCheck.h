@@ -51,6 +51,7 @@ public:
     void EnterFocus() override { ValueOriginal_ = get_Value(); }
     void ExitFocus() override {}
     WidgetSet widgets() override { return {.field = &Check1_, .checkBox = &Check1_}; }
+    Standing standing() override { return {.required = Mandatory_, .locked = Locked_}; }
 
 private:
     bool Check1_Toggle() override;

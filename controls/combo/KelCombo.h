@@ -59,6 +59,8 @@ public:
     EntryField& entry() override { return Field_; }
 
 private:
+    bool isValid() override { return get_Valid(); }
+
     void Combo1_Change() override;
     void Combo1_Click() override;
     void Combo1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) override;

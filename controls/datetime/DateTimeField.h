@@ -81,6 +81,8 @@ private:
     void Text1_Click() override {}
     void Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) override;
     void Text1_KeyPress(char32_t& KeyAscii) override;
+    /// Also one that comes without a key, such as an erasing by assistive technology.
+    bool Text1_Edit(EditAction /*Action*/) override { return TextDirty_ = true; }
     bool Text1_Paste(std::u16string& Text) override;
     void Text1_MouseDown(MouseButton Button) override;
     bool Text1_UsesWheel() override { return Entry_.get_UpDown(); }
@@ -126,6 +128,9 @@ public:
     void EnterFocus() override {}
     void ExitFocus() override { field().exitFocus(); }
     void RegionChanged(const RegionalSettings& region) override { field().takeRegion(region); }
+
+private:
+    bool isValid() override { return field().get_Valid(false); }
 };
 
 }  // namespace kel

@@ -142,8 +142,22 @@ void KelNumber::takeValue(double value) {
 void KelNumber::StepValue(double delta) {
     if (Field_.get_Locked()) return;
     CommitText();
-    const double stepped = roundNumber(steppedNumber(Value_, delta));
-    Text1_.setText(generalNumber(stepped, Field_.region()));
+    moveTo(roundNumber(steppedNumber(Value_, delta)));
+}
+
+bool KelNumber::enterNumber(double number) {
+    if (Field_.get_Locked() || !Text1_.takesInput() || !(number >= MinValue_ && number <= MaxValue_)) return false;
+    CommitText();
+    moveTo(roundNumber(number));
+    return true;
+}
+
+std::optional<NumberRange> KelNumber::range() const {
+    return NumberRange{storedValue(), MinValue_, MaxValue_, UpDownChange_};
+}
+
+void KelNumber::moveTo(double number) {
+    Text1_.setText(generalNumber(number, Field_.region()));
     CommitText();
     if (Value_ == ValueOriginal_) return;
     Field_.host().container.raiseEvent(Change, {});

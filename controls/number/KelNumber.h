@@ -48,12 +48,19 @@ public:
     void EnterFocus() override;
     void ExitFocus() override;
     EntryField& entry() override { return Field_; }
+    /// Within the bounds.
+    bool enterNumber(double number) override;
 
 private:
+    bool isValid() override { return get_Valid(false); }
+    std::optional<NumberRange> range() const override;
+
     void Text1_Change() override {}
     void Text1_Click() override {}
     void Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) override;
     void Text1_KeyPress(char32_t& KeyAscii) override;
+    /// Also one that comes without a key, such as an erasing by assistive technology.
+    bool Text1_Edit(EditAction /*Action*/) override { return TextDirty_ = true; }
     bool Text1_Paste(std::u16string& Text) override;
     void Text1_MouseDown(MouseButton Button) override;
     bool Text1_UsesWheel() override { return Field_.get_UpDown(); }
@@ -66,6 +73,7 @@ private:
     void CommitText();
     void takeValue(double value);
     void StepValue(double delta);
+    void moveTo(double number);
     double numberFromValue(const Variant& value) const;
     double roundNumber(double number) const;
     double bounded(double value) const;

@@ -44,6 +44,7 @@ public:
     void ExitFocus() override {}
     void RegionChanged(const RegionalSettings& region) override { Host_.region = region; }
     WidgetSet widgets() override { return {.picture = &Picture1_}; }
+    Standing standing() override { return {.enabled = get_Enabled()}; }
 
 private:
     static constexpr std::int32_t NeverDrawn = -1;

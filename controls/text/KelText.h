@@ -36,6 +36,8 @@ public:
     EntryField& entry() override { return Field_; }
 
 private:
+    bool isValid() override { return get_Valid(); }
+
     void Text1_Change() override;
     void Text1_Click() override;
     void Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) override;
