@@ -56,7 +56,9 @@ LRESULT PaintedWindow::handle(UINT message, WPARAM wide, LPARAM data) {
             return 0;
         }
         case WM_PRINTCLIENT: paint(reinterpret_cast<HDC>(wide)); return 0;
-        default: return base(message, wide, data);
+        default:
+            if (const auto answered = frame().answerReader(windowHandle(), message, wide, data)) return *answered;
+            return base(message, wide, data);
     }
 }
 

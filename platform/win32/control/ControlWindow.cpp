@@ -169,6 +169,7 @@ void ControlWindow::setEnabled(bool enabled) {
     if (!enabled) takeInputFrom(Window_);
     if (enabled != Enabled_) return;  // a handler has put it again
     for (WindowedView* const widget : Widgets_) widget->frameEnabledChanged();
+    if (Access_) Access_->changed();
     if (Window_ == nullptr) return;
     EnableWindow(Window_, enabled);
     RedrawWindow(Window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
@@ -245,6 +246,7 @@ void ControlWindow::arrived(WindowedField& field) {
     if (around != Focus_) leave();
     Focus_ = around;
     around->arrived(Window_, field);
+    if (Access_) Access_->focused();
 }
 
 void ControlWindow::departed(HWND next) {
@@ -282,6 +284,11 @@ bool ControlWindow::translateAccelerator(MSG& message) {
 
 void ControlWindow::captionChanged() {
     if (Label_ != nullptr) Label_->place(height());
+    viewChanged();
+}
+
+void ControlWindow::viewChanged() {
+    if (Access_) Access_->changed();
     Owner_.viewChanged();
 }
 
@@ -317,6 +324,29 @@ void ControlWindow::setGrid(const TwipGrid& grid) {
     captionChanged();
 }
 
+// ---- Readers
+
+HWND ControlWindow::speakingWindow() const {
+    if (const WindowedField* const field = shownField()) return field->window();
+    return !Widgets_.empty() ? Widgets_.front()->window() : Window_;
+}
+
+std::vector<HWND> ControlWindow::parts() const {
+    std::vector<HWND> parts;
+    for (WindowedView* const widget : Widgets_) {
+        const bool isPart = widget->asField() == nullptr && widget->window() != speakingWindow();
+        if (isPart && widget->shown() && widget->window() != nullptr) parts.push_back(widget->window());
+    }
+    return parts;
+}
+
+std::optional<LRESULT> ControlWindow::answerReader(HWND window, UINT message, WPARAM wide, LPARAM data) {
+    if (!ControlAccess::isAsked(message, data) || Owner_.accessibleControl() == nullptr) return std::nullopt;
+    AccessibleSource& source = *this;
+    if (!Access_) Access_ = std::make_unique<ControlAccess>(source, Owner_.readersModule());
+    return Access_->answer(window, wide, data);
+}
+
 // ---- What comes to the window
 
 LRESULT ControlWindow::handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) {
@@ -328,6 +358,11 @@ LRESULT ControlWindow::handle(HWND window, UINT message, WPARAM wide, LPARAM dat
         leave();
         return 0;
     }
+    if (message == ControlAccess::restMessage()) {
+        if (Access_) Access_->rested();
+        return 0;
+    }
+    if (const auto answered = answerReader(window, message, wide, data)) return *answered;
     switch (message) {
         case WM_DRAWITEM: {
             const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(data);
@@ -360,9 +395,11 @@ LRESULT ControlWindow::handle(HWND window, UINT message, WPARAM wide, LPARAM dat
         }
         case ResolutionChanged: Owner_.resolutionChanged(); return 0;
         case WM_DESTROY:
+            Access_.reset();
             if (ToolTips_ != nullptr) DestroyWindow(std::exchange(ToolTips_, nullptr));
             break;
         case WM_NCDESTROY:
+            Access_.reset();
             Window_ = nullptr;
             if (Label_ != nullptr) Label_->forgetWindow();
             leave();

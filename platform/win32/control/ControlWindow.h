@@ -5,6 +5,7 @@
 
 #include "host/System.h"
 #include "host/Widgets.h"
+#include "platform/win32/accessible/ControlAccess.h"
 #include "platform/win32/base/Clipboard.h"
 #include "platform/win32/base/TwipGrid.h"
 #include "platform/win32/base/WindowClass.h"
@@ -23,7 +24,7 @@ class PictureCanvas;
 /// Widgets and control work without any window being there: what they are given is kept and shown once there
 /// is one. When a host destroys the parent with the window in it, the widgets keep what they hold, and the
 /// next `handle` makes the window anew.
-class ControlWindow final : private ControlFrame, private WidgetHost, private WindowHandler {
+class ControlWindow final : private ControlFrame, private WidgetHost, private WindowHandler, private AccessibleSource {
 public:
     /// `owner` outlives the window.
     ControlWindow(ControlWindowOwner& owner, const System& system,
@@ -115,7 +116,11 @@ private:
     void setLabel(Win32Label* label) override;
     void captionChanged() override;
     void mnemonicChanged() override { Owner_.mnemonicChanged(); }
-    void viewChanged() override { Owner_.viewChanged(); }
+    void viewChanged() override;
+    std::optional<LRESULT> answerReader(HWND window, UINT message, WPARAM wide, LPARAM data) override;
+
+    HWND speakingWindow() const override;
+    std::vector<HWND> parts() const override;
 
     LRESULT handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) override;
     LRESULT handle(HWND window, UINT message, WPARAM wide, LPARAM data);
@@ -138,6 +143,7 @@ private:
     HWND Window_ = nullptr;
     HWND Parking_ = nullptr;  ///< the parent that nobody sees
     HWND ToolTips_ = nullptr;
+    std::unique_ptr<ControlAccess> Access_;  ///< none before a reader asks
     RECT Bounds_{};
     RECT Clip_{};
     bool Enabled_ = true;

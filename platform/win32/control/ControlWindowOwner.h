@@ -4,7 +4,15 @@
 
 #include "platform/win32/base/WindowClass.h"
 
+namespace kel {
+class Control;
+}
+
 namespace kel::win32 {
+
+namespace ole {
+class Module;
+}
 
 /// Whoever holds a control and its window: told what happens to the window. Any of these calls may run host
 /// code, which may close, move or release the control.
@@ -29,6 +37,11 @@ public:
 
     /// The window is on a screen of another resolution, whose pixels its place is to be told in.
     virtual void resolutionChanged() = 0;
+
+    /// What readers are told of; nullptr before it is made and once it goes.
+    virtual Control* accessibleControl() = 0;
+    /// What they hold counts here.
+    virtual ole::Module& readersModule() = 0;
 
     /// The caption marks another character from now on.
     virtual void mnemonicChanged() = 0;

@@ -1,6 +1,7 @@
 #include "platform/win32/home/PlacedWin32Control.h"
 
 #include "platform/win32/home/Win32FormWindow.h"
+#include "platform/win32/ole/com/ComObject.h"
 #include "platform/win32/widgets/WindowedView.h"
 
 namespace kel::win32 {
@@ -61,6 +62,12 @@ void PlacedWin32Control::focusLeft() {
 }
 
 void PlacedWin32Control::passFocusOn() { Form_.passFocusOn(*this); }
+
+/// The program stays loaded whatever is held.
+ole::Module& PlacedWin32Control::readersModule() {
+    static ole::Module Program;
+    return Program;
+}
 
 HWND PlacedWin32Control::focusWindow() const {
     const WindowedField* const field = viewOf<WindowedField>(focusTarget());

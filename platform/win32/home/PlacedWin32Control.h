@@ -69,6 +69,8 @@ private:
     /// The form sees to all of its controls.
     void resolutionChanged() override {}
     void mnemonicChanged() override {}
+    Control* accessibleControl() override { return Control_.get(); }
+    ole::Module& readersModule() override;
 
     void showPlace();
 

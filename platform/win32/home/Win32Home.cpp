@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <commctrl.h>
+#include <objbase.h>
 
 #include "platform/win32/base/MessageBox.h"
 #include "platform/win32/base/Session.h"
@@ -50,6 +51,20 @@ private:
     std::int32_t ColorDepth_;
 };
 
+/// Readers ask the windows by way of components.
+class Components {
+public:
+    Components() : Begun_(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {}
+    ~Components() {
+        if (SUCCEEDED(Begun_)) CoUninitialize();
+    }
+    Components(const Components&) = delete;
+    Components& operator=(const Components&) = delete;
+
+private:
+    HRESULT Begun_;
+};
+
 class Win32Home final : public Home {
 public:
     explicit Win32Home(const HomeOptions& options) : System_(options, Session_), Services_(options, Session_) {
@@ -69,6 +84,7 @@ public:
     Session& session() { return Session_; }
 
 private:
+    Components Components_;
     Session Session_;
     HomeSystem System_;
     HomeServices Services_;

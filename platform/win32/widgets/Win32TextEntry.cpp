@@ -60,7 +60,10 @@ void Win32TextEntry::paintAgain() {
 }
 
 LRESULT Win32TextEntry::handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) {
-    return heldOpen(Frame_.owner(), [&] { return handle(window, message, wide, data); });
+    return heldOpen(Frame_.owner(), [&] {
+        const auto answered = has(window) ? Frame_.answerReader(window, message, wide, data) : std::nullopt;
+        return answered ? *answered : handle(window, message, wide, data);
+    });
 }
 
 // ---- Picture

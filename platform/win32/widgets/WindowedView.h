@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <optional>
+
 #include "host/Keys.h"
 #include "host/widgets/Widget.h"
 
@@ -102,6 +104,9 @@ public:
     virtual void mnemonicChanged() = 0;
     /// Anything looks different.
     virtual void viewChanged() = 0;
+
+    /// A window of the widgets, or the control's own, is sent WM_GETOBJECT. None where the system is to answer.
+    virtual std::optional<LRESULT> answerReader(HWND window, UINT message, WPARAM wide, LPARAM data) = 0;
 
 protected:
     ~ControlFrame() = default;

@@ -54,6 +54,11 @@ void Scene::drawInto(HDC context) {
                                        Window_->ground(), Window_->grid()));
 }
 
+win32::ole::Module& Scene::readersModule() {
+    static win32::ole::Module Program;
+    return Program;
+}
+
 std::wstring Scene::takeLog() { return std::exchange(Log_, {}); }
 
 Rect Scene::whole() const {

@@ -76,6 +76,8 @@ private:
     void viewChanged() override {}
     void resolutionChanged() override {}
     void mnemonicChanged() override { tell(L"mnemonic"); }
+    Control* accessibleControl() override { return nullptr; }
+    win32::ole::Module& readersModule() override;
 
     SIZE Size_;
     std::unique_ptr<HostWindow> Host_ = std::make_unique<HostWindow>();

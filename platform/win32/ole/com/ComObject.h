@@ -34,6 +34,8 @@ public:
     IUnknown& inner() { return Inner_; }
 
 protected:
+    Module& countedIn() const { return Module_; }
+
     /// The interface of this identifier, not counted; nullptr where there is none.
     virtual void* find(REFIID iid) = 0;
 
@@ -79,7 +81,7 @@ protected:
     template <class Body>
     HRESULT guarded(Body&& body) noexcept {
         const ComPtr<IUnknown> held(&Whole_.outer());
-        return atEdge(std::forward<Body>(body));
+        return ole::atEdge(std::forward<Body>(body));
     }
 
 private:

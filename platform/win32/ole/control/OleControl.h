@@ -98,6 +98,8 @@ private:
     void viewChanged() override;
     void resolutionChanged() override;
     void mnemonicChanged() override;
+    Control* accessibleControl() override { return Dying_ ? nullptr : Control_.get(); }
+    Module& readersModule() override { return countedIn(); }
 
     void leaveHost();
 
