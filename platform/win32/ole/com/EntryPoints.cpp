@@ -1,6 +1,15 @@
 #include "platform/win32/ole/com/EntryPoints.h"
 
+#include <cstdlib>
 #include <cwchar>
+#include <exception>
+
+/// What the standard library's own handler would write to a console, of which a server has none, takes fifty kilobytes
+/// with all that it needs.
+namespace __cxxabiv1 {
+extern std::terminate_handler __terminate_handler;
+std::terminate_handler __terminate_handler = &std::abort;
+}  // namespace __cxxabiv1
 
 namespace {
 
