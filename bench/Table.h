@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -14,8 +15,11 @@ struct Line {
     double most = 0;                 ///< times the peers' sum, or nanoseconds without peers
 };
 
-/// Runs every registered benchmark, prints medians side by side, and says which line is over its limit.
-/// The exit status is 0 all the same, as speed depends on the machine; 1 where a benchmark could not do its work.
+/// Prints the lines whose figures are there, by their names in nanoseconds; says which one is over its limit.
+void printTable(const std::vector<Line>& lines, const std::map<std::string, double>& medians);
+
+/// Runs every registered benchmark and prints the table of their medians. The exit status is 0 all the same, as speed
+/// depends on the machine; 1 where a benchmark could not do its work.
 int runTable(int argc, char** argv, const std::vector<Line>& lines);
 
 }  // namespace kel::bench
