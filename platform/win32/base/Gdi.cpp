@@ -72,13 +72,14 @@ HFONT Font::makeScaled(const TwipScale& scale, const TwipScale& screen) const {
     return CreateFontIndirectW(&description);
 }
 
-TEXTMETRICW Font::metrics(HWND window) const {
-    const WindowContext context(window);
-    const SavedContext saved(context.get());
-    SelectObject(context.get(), handle());
-    TEXTMETRICW metrics{};
-    GetTextMetricsW(context.get(), &metrics);
-    return metrics;
+const TEXTMETRICW& Font::metrics(HWND window) const {
+    if (!Metrics_) {
+        const WindowContext context(window);
+        const SavedContext saved(context.get());
+        SelectObject(context.get(), handle());
+        GetTextMetricsW(context.get(), &Metrics_.emplace());
+    }
+    return *Metrics_;
 }
 
 void Font::make(const LOGFONTW& description) {
@@ -88,6 +89,7 @@ void Font::make(const LOGFONTW& description) {
 }
 
 void Font::drop() {
+    Metrics_.reset();
     if (Handle_ != nullptr) DeleteObject(std::exchange(Handle_, nullptr));
 }
 

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -48,7 +49,7 @@ public:
     /// delete.
     HFONT makeScaled(const TwipScale& scale, const TwipScale& screen) const;
     /// Ascent of it, and height of its lines, where `window` stands.
-    TEXTMETRICW metrics(HWND window) const;
+    const TEXTMETRICW& metrics(HWND window) const;
 
 private:
     void make(const LOGFONTW& description);
@@ -57,6 +58,7 @@ private:
     HFONT Handle_ = nullptr;
     LOGFONTW Description_{};
     double Points_ = 0;
+    mutable std::optional<TEXTMETRICW> Metrics_;  ///< once they have been asked for
 };
 
 /// The device context of a window, or with nullptr of the screen, for measuring.

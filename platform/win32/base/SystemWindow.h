@@ -22,7 +22,8 @@ protected:
     /// nullptr while there is none.
     HWND windowHandle() const { return Handle_; }
 
-    /// In the window of the control, hidden; nothing happens where there is one. Returns whether it has been made.
+    /// In the window of the control, at its place; nothing happens where there is one. Returns whether it has been
+    /// made.
     bool create(const WindowClass& windowClass, DWORD style);
     void destroy();
 

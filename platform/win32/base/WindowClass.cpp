@@ -22,11 +22,10 @@ LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM wide, LPARAM data) 
     return atEdge([&] { return handler->handleMessage(window, message, wide, data); });
 }
 
-constexpr const wchar_t* HandlerProperty = L"KelControls8.Handler";
-
+/// The parts of the system's own widgets leave the place for it to their program, and it is found at once.
 LRESULT CALLBACK frontProcedure(HWND window, UINT message, WPARAM wide, LPARAM data) {
-    auto* const handler = static_cast<WindowHandler*>(GetPropW(window, HandlerProperty));
-    if (message == WM_NCDESTROY) RemovePropW(window, HandlerProperty);
+    auto* const handler = reinterpret_cast<WindowHandler*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (message == WM_NCDESTROY) SetWindowLongPtrW(window, GWLP_USERDATA, 0);
     if (handler == nullptr) return DefWindowProcW(window, message, wide, data);
     return atEdge([&] { return handler->handleMessage(window, message, wide, data); });
 }
@@ -65,12 +64,16 @@ WindowClass::WindowClass(const wchar_t* name, const wchar_t* base) : Name_(name)
 }
 
 WNDPROC putInFront(HWND window, WindowHandler& handler) {
-    SetPropW(window, HandlerProperty, &handler);
+    SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&handler));
     return reinterpret_cast<WNDPROC>(
         SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&frontProcedure)));
 }
 
 void placeWindow(HWND window, const RECT& place) {
+    RECT now{};
+    GetWindowRect(window, &now);
+    MapWindowPoints(nullptr, GetAncestor(window, GA_PARENT), reinterpret_cast<POINT*>(&now), 2);
+    if (EqualRect(&now, &place) != FALSE) return;
     SetWindowPos(window, nullptr, place.left, place.top, place.right - place.left, place.bottom - place.top,
                  SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOOWNERZORDER);
 }

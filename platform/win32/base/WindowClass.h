@@ -41,6 +41,7 @@ private:
 /// Puts `handler`, which outlives it, in front of a window that somebody else has made. Returns what handles the rest.
 WNDPROC putInFront(HWND window, WindowHandler& handler);
 
+/// Moves the window there in its parent, if it stands elsewhere.
 void placeWindow(HWND window, const RECT& place);
 
 /// Lets nothing out into the system's frames; what fails there is lost.

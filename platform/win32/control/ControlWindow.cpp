@@ -121,7 +121,8 @@ void ControlWindow::makeWindow(HWND parent) {
                               WS_CHILD | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, Bounds_.left, Bounds_.top, widthOf(Bounds_),
                               height(), parent, nullptr, thisModule(), static_cast<WindowHandler*>(this));
     if (Window_ == nullptr) return;
-    EnableWindow(Window_, Enabled_);
+    Clipped_ = false;
+    if (!Enabled_) EnableWindow(Window_, FALSE);
     if (Label_ != nullptr) Label_->makeWindow(height());
     for (WindowedView* const widget : Widgets_) widget->makeWindow();
 }
@@ -138,21 +139,25 @@ void ControlWindow::setParent(HWND parent) {
     if (Window_ != nullptr && Visible_) ShowWindow(Window_, SW_SHOWNA);
 }
 
-void ControlWindow::park() {
-    if (Window_ == nullptr || Parking_ != nullptr) return;
+void ControlWindow::abandon() {
+    Visible_ = false;
+    if (Window_ == nullptr) return;
     dropInputOf(Window_);
-    SetParent(Window_, parkingWindow());
+    if (Window_ != nullptr) DestroyWindow(Window_);
 }
 
 void ControlWindow::place(const RECT& bounds, const RECT& clip) {
+    const bool differs = heightOf(bounds) != height();
     Bounds_ = bounds;
     Clip_ = clip;
-    if (handle() == nullptr) return;
+    if (Window_ == nullptr) return;
     placeWindow(Window_, bounds);
-    if (Label_ != nullptr) Label_->place(height());
+    if (Label_ != nullptr && differs) Label_->place(height());
     RECT seen{};
     IntersectRect(&seen, &bounds, &clip);
     const bool whole = EqualRect(&seen, &bounds) != FALSE;
+    if (whole && !Clipped_) return;
+    Clipped_ = !whole;
     OffsetRect(&seen, -static_cast<int>(bounds.left), -static_cast<int>(bounds.top));
     SetWindowRgn(Window_, whole ? nullptr : CreateRectRgnIndirect(&seen), TRUE);
 }

@@ -46,10 +46,12 @@ public:
     /// Moves the window into `parent`, as the last in its order; makes the window if need be. Where it is in there
     /// already it stays as it is.
     void setParent(HWND parent);
-    /// Takes the window, if there is one, to the parent that nobody sees.
-    void park();
+    /// The window, if there is one, goes: the parent is no longer for the control. Whatever shows in it stays as it is,
+    /// for a window that is made later.
+    void abandon();
 
-    /// Place inside the parent; nothing outside `clip`, in the same coordinates, is shown.
+    /// Place inside the parent, also of a window that is made later; nothing outside `clip`, in the same coordinates,
+    /// is shown.
     void place(const RECT& bounds, const RECT& clip);
 
     void setVisible(bool visible);
@@ -148,6 +150,7 @@ private:
     RECT Clip_{};
     bool Enabled_ = true;
     bool Visible_ = false;
+    bool Clipped_ = false;  ///< the window is
     bool Inert_ = false;
     bool Mirrored_ = false;
     Color Ground_ = colors::SystemButtonFace;

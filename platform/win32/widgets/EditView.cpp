@@ -34,12 +34,11 @@ std::u16string displayed(std::u16string_view text, bool multiLine) {
     return shown;
 }
 
-void EditView::create(HWND parent, const RECT& place, WindowHandler& handler) {
+void EditView::create(HWND parent, const RECT& place, DWORD style, WindowHandler& handler) {
     Base_ = editClass().baseProcedure();
     const DepthGuard changing(Changing_);
-    CreateWindowExW(WS_EX_CLIENTEDGE, editClass().name(), L"",
-                    WS_CHILD | WS_TABSTOP | (Entry_.multiLine() ? LinesStyle : LineStyle), place.left, place.top,
-                    widthOf(place), heightOf(place), parent, nullptr, thisModule(), &handler);
+    CreateWindowExW(WS_EX_CLIENTEDGE, editClass().name(), L"", style | (Entry_.multiLine() ? LinesStyle : LineStyle),
+                    place.left, place.top, widthOf(place), heightOf(place), parent, nullptr, thisModule(), &handler);
     if (Window_ != nullptr) showNothingYet();
 }
 

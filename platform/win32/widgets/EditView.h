@@ -23,8 +23,8 @@ public:
 
     HWND window() const { return Window_; }
 
-    /// Hidden, at `place` in `parent`; shows nothing yet. `handler` outlives the window.
-    void create(HWND parent, const RECT& place, WindowHandler& handler);
+    /// At `place` in `parent`; shows nothing yet. `handler` outlives the window.
+    void create(HWND parent, const RECT& place, DWORD style, WindowHandler& handler);
     /// Takes an empty edit window that belongs to another one, such as that of a combo box.
     void attach(HWND edit, WindowHandler& handler);
     /// The window is being made and hears its first messages; nullptr when it has been destroyed.

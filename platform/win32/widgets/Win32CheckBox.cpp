@@ -88,7 +88,9 @@ Win32CheckBox::~Win32CheckBox() {
 // ---- The window
 
 void Win32CheckBox::makeWindow() {
-    if (create(buttonClass(), WS_TABSTOP | BS_3STATE)) show(Changes::all());
+    const DWORD state = (Box_.visible() ? WS_VISIBLE : 0U) | (Box_.enabled() ? 0U : WS_DISABLED);
+    if (create(buttonClass(), WS_TABSTOP | BS_3STATE | state))
+        show(Change::Font | Change::Caption | Change::Value | Change::ToolTip);
 }
 
 void Win32CheckBox::outOfDate() {

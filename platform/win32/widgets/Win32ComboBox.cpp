@@ -38,8 +38,8 @@ COMBOBOXINFO Win32ComboBox::parts() const {
 bool Win32ComboBox::createWindow() {
     ComboBase_ = comboClass().baseProcedure();
     const RECT place = pixels();
-    constexpr DWORD Style = WS_CHILD | WS_TABSTOP | WS_VSCROLL | WS_CLIPSIBLINGS | CBS_DROPDOWN | CBS_AUTOHSCROLL;
-    CreateWindowExW(0, comboClass().name(), L"", Style, place.left, place.top, widthOf(place),
+    constexpr DWORD Style = WS_VSCROLL | WS_CLIPSIBLINGS | CBS_DROPDOWN | CBS_AUTOHSCROLL;
+    CreateWindowExW(0, comboClass().name(), L"", style() | Style, place.left, place.top, widthOf(place),
                     heightOf(place) + listHeight(), frame().window(), nullptr, thisModule(),
                     static_cast<WindowHandler*>(this));
     if (Combo_ != nullptr) List_ = parts().hwndList;

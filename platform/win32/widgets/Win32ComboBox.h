@@ -31,6 +31,7 @@ private:
     bool createWindow() override;
     void showPlace() override;
     void showOwn(Changes changes) override;
+    Changes ownChanges() const override { return Change::Place | Change::ExtendedUi | Change::Frame | Change::List; }
     int listHeight() const;
     POINT textCorner() const override;
 

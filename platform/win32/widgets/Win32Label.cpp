@@ -15,10 +15,10 @@ Win32Label::~Win32Label() {
 
 void Win32Label::makeWindow(int controlHeight) {
     if (Window_ != nullptr) return;
+    const RECT area = Frame_.grid().pixels(Label_.bounds());
     Window_ = CreateWindowExW(0, L"STATIC", wide(Label_.caption()).c_str(),
-                              WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | SS_OWNERDRAW, 0, 0, 0, 0, Frame_.window(),
-                              nullptr, thisModule(), nullptr);
-    place(controlHeight);
+                              WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | SS_OWNERDRAW, area.left, 0, widthOf(area),
+                              controlHeight, Frame_.window(), nullptr, thisModule(), nullptr);
 }
 
 void Win32Label::place(int controlHeight) {

@@ -37,10 +37,7 @@ Win32PictureBox::~Win32PictureBox() {
 // ---- The window
 
 void Win32PictureBox::makeWindow() {
-    if (!create(progressClass(), 0)) return;
-    EnableWindow(window(), Box_.enabled());
-    showToolTip();
-    ShowWindow(window(), SW_SHOWNA);
+    if (create(progressClass(), WS_VISIBLE | (Box_.enabled() ? 0U : WS_DISABLED))) showToolTip();
 }
 
 void Win32PictureBox::outOfDate() {

@@ -11,7 +11,7 @@ Win32TextBox::Win32TextBox(ControlFrame& frame, TextBox& box) : Win32TextEntry(f
 }
 
 bool Win32TextBox::createWindow() {
-    View_.create(frame().window(), pixels(), *this);
+    View_.create(frame().window(), pixels(), style(), *this);
     return window() != nullptr;
 }
 

@@ -9,7 +9,21 @@ namespace kel::win32 {
 // ---- The window
 
 void Win32TextEntry::makeWindow() {
-    if (wholeWindow() == nullptr && createWindow()) show(Changes::all());
+    if (wholeWindow() == nullptr && createWindow()) show(shownAnew());
+}
+
+/// What a window that has just been made shows otherwise by itself.
+Changes Win32TextEntry::shownAnew() const {
+    Changes changes = Change::Font | Change::ToolTip;
+    changes |= ownChanges();
+    if (Entry_.locked()) changes |= Change::Locked;
+    if (Entry_.isPassword()) changes |= Change::Password;
+    if (!Entry_.text().empty()) changes |= Change::Text;
+    return changes;
+}
+
+DWORD Win32TextEntry::style() const {
+    return WS_CHILD | WS_TABSTOP | (Entry_.visible() ? WS_VISIBLE : 0U) | (Entry_.enabled() ? 0U : WS_DISABLED);
 }
 
 void Win32TextEntry::destroy() {
@@ -30,7 +44,8 @@ void Win32TextEntry::outOfDate() {
 
 void Win32TextEntry::show(Changes changes) {
     HWND const whole = wholeWindow();
-    if (changes.has(Change::Font)) SendMessageW(whole, WM_SETFONT, reinterpret_cast<WPARAM>(Font_.handle()), TRUE);
+    if (changes.has(Change::Font))
+        SendMessageW(whole, WM_SETFONT, reinterpret_cast<WPARAM>(Font_.handle()), IsWindowVisible(whole));
     if (changes.has(Change::Font | Change::Place)) showPlace();
     if (changes.has(Change::Locked)) View_.base(EM_SETREADONLY, Entry_.locked());
     if (changes.has(Change::Password) && !Entry_.multiLine()) View_.base(EM_SETPASSWORDCHAR, Entry_.mask());

@@ -37,24 +37,28 @@ protected:
     void destroy();
 
     ControlFrame& frame() const { return Frame_; }
+    /// A child window's, shown and enabled as the widget is.
+    DWORD style() const;
     RECT pixels() const { return Frame_.grid().pixels(Entry_.bounds()); }
-    TEXTMETRICW textMetrics() const { return Font_.metrics(window()); }
+    const TEXTMETRICW& textMetrics() const { return Font_.metrics(window()); }
     /// The area of the picture and what is behind its text; nothing is painted around it from now on.
     RECT drawGround(const Canvas& canvas) const;
     /// It ends with `area`.
     void drawText(const Canvas& canvas, RECT area) const;
 
 private:
-    /// Hidden; shows nothing yet. False when the system gives no window.
+    /// In its place, in `style` and what else it takes; shows nothing yet. False when the system gives no window.
     virtual bool createWindow() = 0;
     virtual void showPlace() = 0;
     /// Of the text in the widget, in the screen's pixels.
     virtual POINT textCorner() const = 0;
     /// What only this kind of widget has.
     virtual void showOwn(Changes /*changes*/) {}
+    virtual Changes ownChanges() const { return {}; }
     virtual LRESULT handle(HWND window, UINT message, WPARAM wide, LPARAM data) = 0;
     LRESULT handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) final;
 
+    Changes shownAnew() const;
     void show(Changes changes);
     void showToolTip();
 

@@ -27,11 +27,9 @@ Win32UpDown::~Win32UpDown() {
 // ---- The window
 
 void Win32UpDown::makeWindow() {
-    if (!create(upDownClass(), 0)) return;
+    if (!create(upDownClass(), (Spinner_.visible() ? WS_VISIBLE : 0U) | (looksEnabled() ? 0U : WS_DISABLED))) return;
     base(UDM_SETRANGE32, UpDown::Down, UpDown::Up);
     base(UDM_SETPOS32, 0, UpDown::Rest);
-    EnableWindow(window(), looksEnabled());
-    if (Spinner_.visible()) ShowWindow(window(), SW_SHOWNA);
 }
 
 void Win32UpDown::outOfDate() {

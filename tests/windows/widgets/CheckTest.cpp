@@ -243,7 +243,7 @@ TEST(check_takes_what_other_programs_send_as_from_code) {
 TEST(check_may_go_in_its_own_click) {
     const NamedDeed<CheckScene> deeds[] = {
         {"parent", [](CheckScene& scene) { DestroyWindow(scene.host().window()); }},
-        {"place", [](CheckScene& scene) { scene.control().park(); }},
+        {"place", [](CheckScene& scene) { scene.control().abandon(); }},
         {"input", [](CheckScene& scene) { scene.control().setEnabled(false); }},
     };
     for (const auto& deed : deeds) {

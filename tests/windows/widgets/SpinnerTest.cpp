@@ -87,7 +87,7 @@ TEST(spinner_stops_when_its_handler_takes_it_away) {
         {"control disabled", [](Stage& stage) { stage.control().setEnabled(false); }},
         {"control hidden", [](Stage& stage) { stage.control().setVisible(false); }},
         {"host hidden", [](Stage& stage) { ShowWindow(stage.host().window(), SW_HIDE); }},
-        {"control without its host", [](Stage& stage) { stage.control().park(); }},
+        {"control without its host", [](Stage& stage) { stage.control().abandon(); }},
         {"destroyed", [](Stage& stage) { stage.dropSpinner(); }},
         {"window destroyed", [](Stage& stage) { DestroyWindow(stage.host().window()); }},
         {"message box in front",

@@ -48,13 +48,14 @@ HRESULT Activation::enterWindow() {
     if (FAILED(result)) return result;
     if (!inPlace()) return E_UNEXPECTED;
     if (parent == nullptr) return E_FAIL;
-    Control_.window().setParent(parent);
-    if (Control_.window().handle() == nullptr) return E_FAIL;
-    setRects(bounds, clip);
-    if (!inPlace()) return E_UNEXPECTED;
-    Control_.window().setVisible(true);
+    // All there is to show stands ready before there is a window: it and those in it are made once, at their places.
     Control_.show();
     if (!inPlace()) return E_UNEXPECTED;
+    setRects(bounds, clip);
+    if (!inPlace()) return E_UNEXPECTED;
+    Control_.window().setParent(parent);
+    if (Control_.window().handle() == nullptr) return E_FAIL;
+    Control_.window().setVisible(true);
     if (IOleClientSite* shown = Control_.site().get()) ComPtr<IOleClientSite>(shown)->ShowObject();
     return inPlace() ? S_OK : E_UNEXPECTED;
 }
@@ -89,7 +90,7 @@ void Activation::deactivateUi() {
     site->OnUIDeactivate(FALSE);
 }
 
-void Activation::deactivate() {
+void Activation::deactivate(Ending ending) {
     if (!inPlace()) return;
     deactivateUi();
     if (!inPlace()) return;
@@ -97,8 +98,11 @@ void Activation::deactivate() {
     const ComPtr<IOleInPlaceSite> site = std::move(Site_);
     Frame_ = {};
     Document_ = {};
-    // In the host's window it keeps its place among its neighbours, for when it is shown again.
-    Control_.window().setVisible(false);
+    // A hidden one keeps its place among its neighbours in the host's window, for when it is shown again.
+    if (ending == Ending::Hidden)
+        Control_.window().setVisible(false);
+    else
+        Control_.window().abandon();
     site->OnInPlaceDeactivate();
 }
 

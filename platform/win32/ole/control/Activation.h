@@ -22,7 +22,9 @@ public:
     HRESULT activate();
     HRESULT activateUi();
     void deactivateUi();
-    void deactivate();
+    /// What becomes of the window.
+    enum class Ending { Hidden, Gone };
+    void deactivate(Ending ending = Ending::Hidden);
 
     HRESULT setRects(const RECT& bounds, const RECT& clip);
 

@@ -126,10 +126,10 @@ void OleControl::close(bool save) {
     leaveHost();
 }
 
-/// The host is free to do away with its window.
+/// The host is free to do away with its window; one for the control is made when it is activated again.
 void OleControl::leaveHost() {
-    Activation_.deactivate();
-    Window_.park();
+    Activation_.deactivate(Activation::Ending::Gone);
+    Window_.abandon();
 }
 
 void OleControl::freezeEvents(bool freeze) { FrozenDepth_ = std::max(0, FrozenDepth_ + (freeze ? 1 : -1)); }
