@@ -20,6 +20,12 @@ constexpr int PointsPerInch = 72;
 /// A measure of the screen.
 int measure(int what) { return GetDeviceCaps(WindowContext(nullptr).get(), what); }
 
+/// The same as long as the process lives.
+int dotsPerInch() {
+    static const int Dots = std::max(1, measure(LOGPIXELSY));
+    return Dots;
+}
+
 SYSTEMTIME now() {
     SYSTEMTIME time{};
     GetLocalTime(&time);
@@ -55,7 +61,7 @@ void Win32System::beep() { MessageBeep(MB_OK); }
 
 bool Win32System::tabKeyDown() const { return GetKeyState(VK_TAB) < 0; }
 
-TwipScale Win32System::scale() const { return TwipScale::ofDotsPerInch(measure(LOGPIXELSX)); }
+TwipScale Win32System::scale() const { return TwipScale::ofDotsPerInch(dotsPerInch()); }
 
 std::int32_t Win32RuntimeServices::colorDepth() const { return measure(BITSPIXEL) * measure(PLANES); }
 
@@ -63,8 +69,7 @@ FontChoice Win32RuntimeServices::messageFont() {
     NONCLIENTMETRICSW metrics{};
     metrics.cbSize = sizeof metrics;
     if (SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0) == FALSE) return {u"Tahoma", 8};
-    const int dotsPerInch = std::max(1, measure(LOGPIXELSY));
-    const double points = std::abs(metrics.lfMessageFont.lfHeight) * static_cast<double>(PointsPerInch) / dotsPerInch;
+    const double points = std::abs(metrics.lfMessageFont.lfHeight) * static_cast<double>(PointsPerInch) / dotsPerInch();
     return {unwiden(metrics.lfMessageFont.lfFaceName), std::round(points * 4) / 4};
 }
 

@@ -56,13 +56,19 @@ private:
 }  // namespace
 
 Apartment::Apartment(void (*ends)()) {
-    Settings_.makeDefaultRuntime = [this] {
-        auto runtime = createRegisteredRuntime();
-        return runtime ? runtime : makeRuntime(Services_);
-    };
+    Settings_.makeDefaultRuntime = [this] { return defaultRuntime(); };
     Settings_.regionalRuntime = [this](const RegionalSettings& region) { return regionalRuntime(region); };
     const ComPtr<IInitializeSpy> watch(new EndWatch(ends));
     CoRegisterInitializeSpy(watch.get(), &Watch_);
+}
+
+/// One for all that ask, until the apartment ends: looking it up takes longer than all that it is asked for.
+std::shared_ptr<Runtime> Apartment::defaultRuntime() {
+    if (Default_) return Default_;
+    auto runtime = createRegisteredRuntime();
+    if (!runtime) runtime = makeRuntime(Services_);
+    if (!ended()) Default_ = runtime;
+    return runtime;
 }
 
 std::shared_ptr<Runtime> Apartment::regionalRuntime(const RegionalSettings& region) {
@@ -74,6 +80,7 @@ std::shared_ptr<Runtime> Apartment::regionalRuntime(const RegionalSettings& regi
 
 void Apartment::end() {
     const std::shared_ptr<Runtime> last = std::move(Settings_.Runtime);
+    const std::shared_ptr<Runtime> lastDefault = std::move(Default_);
     if (Watch_.QuadPart != 0) CoRevokeInitializeSpy(std::exchange(Watch_, {}));
 }
 

@@ -34,7 +34,11 @@ private:
     };
     std::shared_ptr<Runtime> regionalRuntime(const RegionalSettings& region);
 
+    std::shared_ptr<Runtime> defaultRuntime();
+    bool ended() const { return Watch_.QuadPart == 0; }
+
     Win32RuntimeServices Services_;
+    std::shared_ptr<Runtime> Default_;  ///< once one has been made
     std::map<const RegionalSettings*, std::unique_ptr<Regional>> Regional_;
     SharedSettings Settings_;
     ULARGE_INTEGER Watch_{};  ///< for the end of the thread's component system; 0 for none
