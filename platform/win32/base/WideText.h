@@ -11,6 +11,13 @@ inline std::wstring wide(std::u16string_view text) { return {text.begin(), text.
 
 inline std::u16string unwiden(std::wstring_view text) { return {text.begin(), text.end()}; }
 
+/// In decimal digits.
+template <class Number>
+std::wstring wideNumber(Number number) {
+    const std::string digits = std::to_string(number);
+    return {digits.begin(), digits.end()};
+}
+
 /// What a window answers that is asked for its text: as much as fits in `capacity` units with a zero at its end.
 /// Returns how much that is.
 inline std::size_t copyText(std::u16string_view text, std::size_t capacity, wchar_t* out) {

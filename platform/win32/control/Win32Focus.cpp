@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/win32/base/WideText.h"
 #include "platform/win32/widgets/WindowedView.h"
 
 namespace kel::win32 {
@@ -9,7 +10,7 @@ namespace kel::win32 {
 namespace {
 
 /// Other threads, and other programs, may have controls in the same top-level window.
-std::wstring propertyName() { return L"KelControls8.Focus" + std::to_wstring(GetCurrentThreadId()); }
+std::wstring propertyName() { return L"KelControls8.Focus" + wideNumber(GetCurrentThreadId()); }
 
 HWND rootOf(HWND window) { return window != nullptr ? GetAncestor(window, GA_ROOT) : nullptr; }
 

@@ -4,12 +4,13 @@
 #include <cwchar>
 #include <exception>
 
-/// What the standard library's own handler would write to a console, of which a server has none, takes fifty kilobytes
-/// with all that it needs.
-namespace __cxxabiv1 {
-extern std::terminate_handler __terminate_handler;
-std::terminate_handler __terminate_handler = &std::abort;
-}  // namespace __cxxabiv1
+namespace __gnu_cxx {
+
+/// In place of the standard library's own: what that would write to a console, of which a server has none, takes fifty
+/// kilobytes with all that it needs.
+void __verbose_terminate_handler() { std::abort(); }
+
+}  // namespace __gnu_cxx
 
 namespace {
 
