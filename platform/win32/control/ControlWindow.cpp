@@ -317,8 +317,9 @@ void ControlWindow::drawLabelWindow(const DRAWITEMSTRUCT& item) const {
     drawCaption(canvas, height());
 }
 
-void ControlWindow::followScreen() {
-    if (Window_ != nullptr) setGrid(screenScale(Window_));
+void ControlWindow::followScreen(HWND parent) {
+    HWND const window = parent != nullptr ? parent : Window_;
+    if (window != nullptr) setGrid(screenScale(window));
 }
 
 void ControlWindow::setGrid(const TwipGrid& grid) {

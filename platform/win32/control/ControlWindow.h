@@ -86,7 +86,8 @@ public:
     const TwipGrid& grid() const override { return Grid_; }
     void setGrid(const TwipGrid& grid);
     /// Takes it from the system, which tells screens apart for programs that know that they differ.
-    void followScreen();
+    /// Of the screen of `parent`, while there is no window in it yet.
+    void followScreen(HWND parent = nullptr);
 
 private:
     template <class Seen, class Shown>

@@ -48,6 +48,7 @@ HRESULT Activation::enterWindow() {
     if (FAILED(result)) return result;
     if (!inPlace()) return E_UNEXPECTED;
     if (parent == nullptr) return E_FAIL;
+    Control_.window().followScreen(parent);
     // All there is to show stands ready before there is a window: it and those in it are made once, at their places.
     Control_.show();
     if (!inPlace()) return E_UNEXPECTED;

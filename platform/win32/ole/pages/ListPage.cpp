@@ -8,6 +8,7 @@
 #include "controls/combo/ListText.h"
 #include "platform/win32/base/AtEnd.h"
 #include "platform/win32/base/Clipboard.h"
+#include "platform/win32/base/WideText.h"
 #include "platform/win32/base/WindowClass.h"
 #include "values/Text.h"
 
@@ -245,7 +246,7 @@ void ListPage::import(const std::u16string& text) {
         changed();
         select(first);
     }
-    const std::wstring number = std::to_wstring(added.size());
+    const std::wstring number = wideNumber(added.size());
     say(unwiden(cut ? L"The list is full: " + number + L" items were added." : number + L" items were added."), cut);
 }
 
