@@ -157,7 +157,8 @@ QRect QtLine::textArea() const {
 QRect QtLine::areaOfEdit() const {
     constexpr std::size_t Joined = 4;  // letters that a font may draw otherwise because of the one after them
     const QRect area = textArea();
-    const QStringView now(box().text());
+    const std::u16string_view text = box().text();
+    const QStringView now(text);
     if (laidOut().line != this || box().isPassword() || !Composition_.text.isEmpty() || Scrolled_ != 0 || now.isEmpty())
         return area;
     const LineLayout& before = laidOut().layout;
@@ -169,7 +170,7 @@ QRect QtLine::areaOfEdit() const {
     if (!isAtCaret || before.isRightToLeft() || !isPlain(was) || !isPlain(now)) return area;
     const int widest = fontMetrics().maxWidth();
     const int left = before.xOf(kept - std::min(kept, Joined)) - widest;
-    const int right = std::max(before.width(), before.xOf(kept) + toInt(now.size() - kept) * widest) + widest;
+    const int right = std::max(before.width(), before.xOf(kept) + toInt(text.size() - kept) * widest) + widest;
     if (right > area.width()) return area;
     return area & QRect(textCorner().x() + left, area.y(), right - left, area.height());
 }

@@ -241,7 +241,7 @@ TEST(mnemonic_of_the_caption) {
         pressed.lParam = message == WM_SYSCHAR ? AltIsDown : 0;
         return IsAccelerator(info.hAccel, info.cAccel, &pressed, nullptr) != FALSE;
     };
-    for (const UINT message : {WM_SYSCHAR, WM_CHAR}) {
+    for (const UINT message : {UINT{WM_SYSCHAR}, UINT{WM_CHAR}}) {
         EXPECT(isMnemonic(message, L'n') && isMnemonic(message, L'N'));
         EXPECT(!isMnemonic(message, L'a'));
     }

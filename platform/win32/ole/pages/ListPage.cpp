@@ -229,10 +229,11 @@ void ListPage::removeItem() {
 
 void ListPage::moveItem(int by) {
     const int row = selected();
-    if (row < 0 || row + by < 0 || row + by >= count()) return;
-    std::swap(Items_[static_cast<std::size_t>(row)], Items_[static_cast<std::size_t>(row + by)]);
+    const int target = row + by;
+    if (row < 0 || target < 0 || target >= count()) return;
+    std::swap(Items_[static_cast<std::size_t>(row)], Items_[static_cast<std::size_t>(target)]);
     changed();
-    select(row + by);
+    select(target);
 }
 
 void ListPage::import(const std::u16string& text) {
