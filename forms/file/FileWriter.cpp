@@ -2,6 +2,7 @@
 
 #include <array>
 #include <csignal>
+#include <set>
 #include <string_view>
 #include <system_error>
 #include <utility>
@@ -108,10 +109,8 @@ public:
           File_(std::move(other.File_)) {}
     PendingFile& operator=(PendingFile&&) = delete;
 
-    void syncFolder() const {
-        const fs::path folder = Target_.has_parent_path() ? Target_.parent_path() : fs::path(".");
-        named(Target_, [&] { kel::syncFolder(folder); });
-    }
+    const fs::path& target() const { return Target_; }
+    fs::path folder() const { return Target_.has_parent_path() ? Target_.parent_path() : fs::path("."); }
 
     void takePlace() {
 #ifdef _WIN32
@@ -147,10 +146,17 @@ private:
     OutputFile File_;
 };
 
+/// Each once: a form and its resources are neighbours, and to wait for the disk takes long.
+void syncFolders(const std::vector<PendingFile>& pending) {
+    std::set<fs::path> synced;
+    for (const PendingFile& file : pending)
+        if (synced.insert(file.folder()).second) named(file.target(), [&] { syncFolder(file.folder()); });
+}
+
 void putInPlace(std::vector<PendingFile>& pending) {
-    for (const PendingFile& file : pending) file.syncFolder();
+    syncFolders(pending);
     for (PendingFile& file : pending) file.takePlace();
-    for (const PendingFile& file : pending) file.syncFolder();
+    syncFolders(pending);
 }
 
 }  // namespace
