@@ -13,6 +13,10 @@ namespace {
 
 constexpr int FirstToolboxPicture = 101;
 
+// Both stand in every system.
+constexpr Guid ByFunctionTable = guid("00020424-0000-0000-C000-000000000046");
+constexpr Guid ByDispatch = guid("00020420-0000-0000-C000-000000000046");
+
 std::u16string braced(const Guid& guid) { return u'{' + widen(textOf(guid)) + u'}'; }
 
 std::u16string versioned(const RegisteredClass& entry) { return entry.programId + u".1"; }
@@ -57,6 +61,13 @@ RegisteredClass registeredRuntime() {
     entry.programId = u"KelRuntime8.Runtime";
     entry.description = u"KelRuntime8 run-time object";
     return entry;
+}
+
+std::vector<CalledInterface> interfacesOf(const ClassIdentity& identity) {
+    const std::u16string name(identity.name);
+    std::vector<CalledInterface> interfaces{{u"_" + name, identity.dispatch, ByFunctionTable}};
+    if (identity.hasEvents()) interfaces.push_back({u"__" + name, identity.events, ByDispatch});
+    return interfaces;
 }
 
 std::vector<RegistryEntry> programIdEntries(const RegisteredClass& entry) {
@@ -112,18 +123,14 @@ std::vector<RegistryEntry> typeLibraryEntries() {
 
 std::vector<RegistryEntry> typeLibraryEntries(int bits, const std::u16string& file) {
     std::vector<RegistryEntry> entries{{typeLibraryKey() + u"\\0\\win" + widen(std::to_string(bits)), {}, file}};
-    const auto add = [&](const Guid& id, std::u16string name, std::u16string_view marshaler) {
-        const std::u16string key = u"Interface\\" + braced(id);
-        entries.push_back({key, {}, std::move(name)});
-        entries.push_back({key + u"\\ProxyStubClsid32", {}, std::u16string(marshaler)});
-        entries.push_back({key + u"\\TypeLib", {}, braced(identities::TypeLibrary)});
-        entries.push_back({key + u"\\TypeLib", u"Version", typeLibraryVersion()});
-    };
-    for (const ClassIdentity& identity : identities::Classes) {
-        add(identity.dispatch, u"_" + std::u16string(identity.name), u"{00020424-0000-0000-C000-000000000046}");
-        if (!identity.hasEvents()) continue;
-        add(identity.events, u"__" + std::u16string(identity.name), u"{00020420-0000-0000-C000-000000000046}");
-    }
+    for (const ClassIdentity& identity : identities::Classes)
+        for (const CalledInterface& called : interfacesOf(identity)) {
+            const std::u16string key = u"Interface\\" + braced(called.id);
+            entries.push_back({key, {}, called.name});
+            entries.push_back({key + u"\\ProxyStubClsid32", {}, braced(called.proxies)});
+            entries.push_back({key + u"\\TypeLib", {}, braced(identities::TypeLibrary)});
+            entries.push_back({key + u"\\TypeLib", u"Version", typeLibraryVersion()});
+        }
     return entries;
 }
 

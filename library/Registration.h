@@ -33,6 +33,16 @@ RegisteredClass registered(const PageIdentity& page);
 /// The default run-time object, which has a server of its own.
 RegisteredClass registeredRuntime();
 
+/// An interface of a class, as a host may call it from another apartment.
+struct CalledInterface {
+    std::u16string name;
+    Guid id;
+    Guid proxies;  ///< whose proxies the system makes by the type library
+};
+
+/// The class's own, with a function table, and that of its events, if it has any, which are called late only.
+std::vector<CalledInterface> interfacesOf(const ClassIdentity& identity);
+
 struct RegistryEntry {
     std::u16string key;                  ///< under "Software\Classes"
     std::u16string name;                 ///< of the value; empty for the key's own

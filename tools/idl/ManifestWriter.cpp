@@ -3,6 +3,7 @@
 #include <ostream>
 
 #include "library/ControlStatus.h"
+#include "library/Registration.h"
 #include "tools/idl/TypeNames.h"
 
 namespace kel::idl {
@@ -18,24 +19,13 @@ std::string statusWords(const ClassModel& model) {
     return words;
 }
 
-/// Both stand in every system and make proxies by a type library: the one of interfaces with a function table that
-/// automation knows, the other of those that are called late only.
-constexpr Guid ByFunctionTable = guid("00020424-0000-0000-C000-000000000046");
-constexpr Guid ByDispatch = guid("00020420-0000-0000-C000-000000000046");
 constexpr Guid Dispatch = guid("00020400-0000-0000-C000-000000000046");
 
 /// With this a host may call the interface from another apartment, as where a registry says the same.
-void writeInterface(std::ostream& out, const std::string& name, const Guid& iid, const Guid& proxies) {
-    out << "  <comInterfaceExternalProxyStub name=\"" << name << "\" iid=\"" << braced(iid) << "\"\n    tlbid=\""
-        << braced(identities::TypeLibrary) << "\" baseInterface=\"" << braced(Dispatch) << "\" proxyStubClsid32=\""
-        << braced(proxies) << "\"/>\n";
-}
-
-void writeInterfaces(std::ostream& out, const ClassModel& model) {
-    const ClassIdentity& identity = identityOf(model);
-    const std::string name = narrow(model.name);
-    writeInterface(out, '_' + name, identity.dispatch, ByFunctionTable);
-    if (identity.hasEvents()) writeInterface(out, "__" + name, identity.events, ByDispatch);
+void writeInterface(std::ostream& out, const CalledInterface& called) {
+    out << "  <comInterfaceExternalProxyStub name=\"" << narrow(called.name) << "\" iid=\"" << braced(called.id)
+        << "\"\n    tlbid=\"" << braced(identities::TypeLibrary) << "\" baseInterface=\"" << braced(Dispatch)
+        << "\" proxyStubClsid32=\"" << braced(called.proxies) << "\"/>\n";
 }
 
 /// `model` is none for a class that is not in the type library.
@@ -64,7 +54,8 @@ void writeManifest(std::ostream& out, const ClassRegistry& classes) {
     out << "  </file>\n  <file name=\"KelRuntime8.dll\">\n";
     writeClass(out, identities::Runtime, "KelRuntime8.Runtime", nullptr);
     out << "  </file>\n";
-    for (const ClassModel* model : classes.all()) writeInterfaces(out, *model);
+    for (const ClassModel* model : classes.all())
+        for (const CalledInterface& called : interfacesOf(identityOf(*model))) writeInterface(out, called);
     out << "</assembly>\n";
 }
 
