@@ -71,9 +71,7 @@ ControlAccess::~ControlAccess() {
 
 template <class Made, class... Arguments>
 ComPtr<Made> ControlAccess::make(Arguments&&... arguments) const {
-    ComPtr<Made> made(new Made(Module_, Link_, std::forward<Arguments>(arguments)...));
-    made->Release();  // the reference that it is born with
-    return made;
+    return ComPtr<Made>::adopt(new Made(Module_, Link_, std::forward<Arguments>(arguments)...));
 }
 
 LRESULT ControlAccess::answer(HWND window, WPARAM wide, LPARAM data) {

@@ -30,6 +30,13 @@ public:
         if (Object_ != nullptr) Object_->Release();
     }
 
+    /// Takes over the reference that an object is made with.
+    static ComPtr adopt(I* made) {
+        ComPtr owned;
+        owned.Object_ = made;
+        return owned;
+    }
+
     /// The interface `I` of any object; none where it has none.
     static ComPtr of(IUnknown* object) {
         ComPtr found;

@@ -1,7 +1,6 @@
 #include "platform/win32/ole/automation/Apartment.h"
 
-#include <atomic>
-
+#include "platform/win32/ole/com/SoleInterface.h"
 #include "platform/win32/ole/runtime/AutomationRuntime.h"
 
 namespace kel::win32::ole {
@@ -18,25 +17,9 @@ std::shared_ptr<Runtime> createRegisteredRuntime() {
 }
 
 /// Told when the component system leaves the thread.
-class EndWatch final : public IInitializeSpy {
+class EndWatch final : public SoleInterface<IInitializeSpy> {
 public:
     explicit EndWatch(void (*ends)()) : Ends_(ends) {}
-    virtual ~EndWatch() = default;
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) noexcept override {
-        if (out == nullptr) return E_POINTER;
-        const bool known = IsEqualGUID(iid, IID_IUnknown) || IsEqualGUID(iid, __uuidof(IInitializeSpy));
-        *out = known ? this : nullptr;
-        if (!known) return E_NOINTERFACE;
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++References_; }
-    ULONG STDMETHODCALLTYPE Release() noexcept override {
-        const ULONG left = --References_;
-        if (left == 0) delete this;
-        return left;
-    }
 
     HRESULT STDMETHODCALLTYPE PreInitialize(DWORD /*kind*/, DWORD /*entered*/) noexcept override { return S_OK; }
     HRESULT STDMETHODCALLTYPE PostInitialize(HRESULT result, DWORD /*kind*/, DWORD /*entered*/) noexcept override {
@@ -50,7 +33,6 @@ public:
 
 private:
     void (*Ends_)();
-    std::atomic<ULONG> References_ = 0;
 };
 
 }  // namespace
@@ -58,7 +40,7 @@ private:
 Apartment::Apartment(void (*ends)()) {
     Settings_.makeDefaultRuntime = [this] { return defaultRuntime(); };
     Settings_.regionalRuntime = [this](const RegionalSettings& region) { return regionalRuntime(region); };
-    const ComPtr<IInitializeSpy> watch(new EndWatch(ends));
+    const auto watch = ComPtr<IInitializeSpy>::adopt(new EndWatch(ends));
     CoRegisterInitializeSpy(watch.get(), &Watch_);
 }
 

@@ -29,9 +29,7 @@ ULONG ComObject::Inner::Release() noexcept {
 }
 
 HRESULT giveNew(ComObject* made, REFIID iid, void** out) {
-    const HRESULT result = made->inner().QueryInterface(iid, out);
-    made->inner().Release();
-    return result;
+    return ComPtr<IUnknown>::adopt(&made->inner())->QueryInterface(iid, out);
 }
 
 }  // namespace kel::win32::ole

@@ -4,34 +4,18 @@
 #include <memory>
 #include <vector>
 
-#include "platform/win32/ole/com/Com.h"
+#include "platform/win32/ole/com/SoleInterface.h"
 
 namespace kel::win32::ole {
 
 /// Hands out a list that does not change, as the IEnum interfaces have it. `Copy` makes what the caller of
 /// `Next` owns.
 template <class Interface, class Item, class Out, Out (*Copy)(const Item&)>
-class Enumerator final : public Interface {
+class Enumerator final : public SoleInterface<Interface> {
 public:
     using Items = std::shared_ptr<const std::vector<Item>>;
 
     explicit Enumerator(Items items, std::size_t position = 0) : Items_(std::move(items)), Position_(position) {}
-    virtual ~Enumerator() = default;
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** out) noexcept override {
-        if (out == nullptr) return E_POINTER;
-        const bool known = IsEqualGUID(iid, IID_IUnknown) || IsEqualGUID(iid, __uuidof(Interface));
-        *out = known ? this : nullptr;
-        if (!known) return E_NOINTERFACE;
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++References_; }
-    ULONG STDMETHODCALLTYPE Release() noexcept override {
-        const ULONG left = --References_;
-        if (left == 0) delete this;
-        return left;
-    }
 
     HRESULT STDMETHODCALLTYPE Next(ULONG wanted, Out* out, ULONG* fetched) noexcept override {
         if (out == nullptr || (fetched == nullptr && wanted != 1)) return E_POINTER;
@@ -58,7 +42,6 @@ public:
 private:
     Items Items_;
     std::size_t Position_;
-    ULONG References_ = 1;
 };
 
 }  // namespace kel::win32::ole

@@ -12,18 +12,12 @@ OleControl& makeControl(const CreatableClass& type) {
     return static_cast<OleControl&>(*type.make(Library::instance(), type.model, type.identity, nullptr));
 }
 
-ComPtr<IUnknown> takeOver(OleControl& made) {
-    ComPtr<IUnknown> held(&made.outer());
-    held->Release();
-    return held;
-}
-
 }  // namespace
 
 Sample::Sample(const CreatableClass& type) : Sample(makeControl(type)) {}
 
 Sample::Sample(OleControl& made)
-    : Held_(takeOver(made)), Control_(made), Members_(ComPtr<IDispatch>::of(Held_.get())) {}
+    : Held_(ComPtr<IUnknown>::adopt(&made.inner())), Control_(made), Members_(ComPtr<IDispatch>::of(Held_.get())) {}
 
 void Sample::put(const MemberRow& row, const Variant& typed) {
     Members_.put(row.name, typedValue(row, typed, Members_.get(row.name)));
