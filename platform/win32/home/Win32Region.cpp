@@ -6,7 +6,7 @@
 #include <cwchar>
 #include <map>
 
-#include "platform/win32/base/AtEnd.h"
+#include "platform/win32/base/Locked.h"
 #include "platform/win32/base/WideText.h"
 #include "platform/win32/home/SystemPicture.h"
 
@@ -112,8 +112,7 @@ const RegionalSettings& regionOf(std::uint32_t locale) {
     if (locale == LOCALE_NEUTRAL || locale == LOCALE_USER_DEFAULT || locale == UserLocale) return systemRegion();
     static SRWLOCK lock = SRWLOCK_INIT;
     static std::map<std::uint32_t, RegionalSettings> regions;
-    AcquireSRWLockExclusive(&lock);
-    const AtEnd release([] { ReleaseSRWLockExclusive(&lock); });
+    const Locked locked(lock);
     const auto known = regions.find(locale);
     if (known != regions.end()) return known->second;
     std::array<wchar_t, LOCALE_NAME_MAX_LENGTH> name{};

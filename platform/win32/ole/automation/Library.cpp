@@ -2,22 +2,12 @@
 
 #include <new>
 
+#include "platform/win32/base/Locked.h"
 #include "platform/win32/base/WindowClass.h"
 
 namespace kel::win32::ole {
 
 namespace {
-
-class Locked {
-public:
-    explicit Locked(SRWLOCK& lock) : Lock_(lock) { AcquireSRWLockExclusive(&Lock_); }
-    ~Locked() { ReleaseSRWLockExclusive(&Lock_); }
-    Locked(const Locked&) = delete;
-    Locked& operator=(const Locked&) = delete;
-
-private:
-    SRWLOCK& Lock_;
-};
 
 /// As long as the system may call into this code, whoever has loaded its file cannot take it away.
 void holdModule() {
