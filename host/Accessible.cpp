@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "host/Widgets.h"
+#include "values/Text.h"
 
 namespace kel {
 
@@ -37,9 +38,7 @@ void describeEntry(const TextEntry& entry, Accessible& out) {
 
 void describePicture(const PictureBox& picture, Accessible& out) {
     const std::int32_t percent = picture.picture().percent;
-    const std::string digits = std::to_string(percent);
-    out.value.assign(digits.begin(), digits.end());
-    out.value += u'%';
+    out.value = widen(std::to_string(percent)) + u'%';
     out.range = NumberRange{static_cast<double>(percent), 0, 100, 0};
     out.readOnly = true;
     out.help = picture.toolTip();
@@ -71,6 +70,10 @@ std::u16string remarksOn(const Accessible& described) {
     std::u16string remarks = described.required ? u"required" : u"";
     if (described.invalid) remarks += remarks.empty() ? u"not valid" : u", not valid";
     return remarks;
+}
+
+std::u16string shortcutOf(const Accessible& described) {
+    return described.mnemonic != 0 ? u"Alt+" + std::u16string(1, described.mnemonic) : std::u16string();
 }
 
 bool enterText(Control& control, std::u16string_view text) {

@@ -40,6 +40,9 @@ Accessible describe(Control& control);
 /// "required, not valid": for those whose tools have no other way to say it.
 std::u16string remarksOn(const Accessible& described);
 
+/// "Alt+Q", the keys that lead here; empty for none.
+std::u16string shortcutOf(const Accessible& described);
+
 /// Assistive technology writes all of the text, by the control's rules. False where nothing can be written.
 bool enterText(Control& control, std::u16string_view text);
 

@@ -179,9 +179,7 @@ HRESULT AccessibleElement::get_accHelpTopic(BSTR* file, VARIANT, LONG* topic) no
 }
 
 HRESULT AccessibleElement::get_accKeyboardShortcut(VARIANT which, BSTR* shortcut) noexcept {
-    return tell(which, shortcut, [](const Accessible& described) {
-        return described.mnemonic != 0 ? u"Alt+" + std::u16string(1, described.mnemonic) : std::u16string();
-    });
+    return tell(which, shortcut, &shortcutOf);
 }
 
 HRESULT AccessibleElement::get_accDefaultAction(VARIANT which, BSTR* action) noexcept {

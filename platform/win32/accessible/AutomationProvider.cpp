@@ -74,7 +74,7 @@ void putProperty(const Accessible& described, PROPERTYID property, VARIANT& valu
         case UIA_NamePropertyId: return put(value, described.name);
         case UIA_HelpTextPropertyId: return put(value, described.help);
         case UIA_AccessKeyPropertyId:
-            if (described.mnemonic != 0) put(value, u"Alt+" + std::u16string(1, described.mnemonic));
+            if (described.mnemonic != 0) put(value, shortcutOf(described));
             return;
         case UIA_IsEnabledPropertyId: return put(value, described.enabled);
         case UIA_IsKeyboardFocusablePropertyId: return put(value, described.focusable);
@@ -127,7 +127,7 @@ HRESULT AutomationProvider::GetPatternProvider(PATTERNID pattern, IUnknown** pro
     return about([&](AccessibleSource&, Control& control) -> HRESULT {
         if (!hasPattern(describe(control), pattern)) return S_OK;
         if (pattern == UIA_TextPatternId)
-            return ole::giveNew(new AutomationText(countedIn(), Link_, *this), IID_IUnknown,
+            return ole::giveNew(new AutomationText({countedIn(), Link_, this}), IID_IUnknown,
                                 reinterpret_cast<void**>(provider));
         *provider = static_cast<IRawElementProviderSimple*>(this);
         (*provider)->AddRef();

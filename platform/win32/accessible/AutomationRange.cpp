@@ -103,13 +103,12 @@ ReadText readTextOf(const TextEntry& entry, std::u16string& seen) {
     return {seen, lines != nullptr ? *lines : entry.buffer(), entry.multiLine(), entry.isPassword()};
 }
 
-AutomationRange::AutomationRange(ole::Module& module, std::shared_ptr<AccessibleLink> link,
-                                 IRawElementProviderSimple& element, const ReadRange& range)
-    : ComObject(module, nullptr),
-      Part(static_cast<ComObject&>(*this)),
-      Link_(std::move(link)),
-      Element_(&element),
-      Range_(range) {}
+HRESULT TextSource::give(const ReadRange& range, ITextRangeProvider** out) const {
+    return ole::giveNew(new AutomationRange(*this, range), __uuidof(ITextRangeProvider), reinterpret_cast<void**>(out));
+}
+
+AutomationRange::AutomationRange(const TextSource& source, const ReadRange& range)
+    : ComObject(source.module, nullptr), Part(static_cast<ComObject&>(*this)), Source_(source), Range_(range) {}
 
 void* AutomationRange::find(REFIID iid) {
     if (IsEqualGUID(iid, OwnRange)) return static_cast<ITextRangeProvider*>(this);
@@ -118,7 +117,7 @@ void* AutomationRange::find(REFIID iid) {
 
 HRESULT AutomationRange::about(Deed<HRESULT(TextEntry&, const ReadText&, HWND)> act) noexcept {
     return guarded([&] {
-        return Link_->with(NotAvailable, [&](AccessibleSource& source, Control& control) -> HRESULT {
+        return Source_.link->with(NotAvailable, [&](AccessibleSource& source, Control& control) -> HRESULT {
             TextEntry* const entry = control.widgets().entry;
             if (entry == nullptr) return NotAvailable;
             std::u16string seen;
@@ -136,22 +135,17 @@ HRESULT AutomationRange::with(ITextRangeProvider* other, Deed<void(AutomationRan
     ComPtr<ITextRangeProvider> own;
     if (FAILED(other->QueryInterface(OwnRange, own.receiveVoid()))) return E_INVALIDARG;
     auto& range = *static_cast<AutomationRange*>(own.get());
-    if (range.Link_ != Link_) return E_INVALIDARG;
+    if (range.Source_.link != Source_.link) return E_INVALIDARG;
     return about([&](TextEntry&, const ReadText&, HWND) {
         act(range);
         return S_OK;
     });
 }
 
-HRESULT AutomationRange::give(const ReadRange& range, ITextRangeProvider** out) const {
-    return ole::giveNew(new AutomationRange(countedIn(), Link_, *Element_.get(), range), __uuidof(ITextRangeProvider),
-                        reinterpret_cast<void**>(out));
-}
-
 HRESULT AutomationRange::Clone(ITextRangeProvider** copy) noexcept {
     if (copy == nullptr) return E_POINTER;
     *copy = nullptr;
-    return about([&](TextEntry&, const ReadText&, HWND) { return give(Range_, copy); });
+    return about([&](TextEntry&, const ReadText&, HWND) { return Source_.give(Range_, copy); });
 }
 
 // ---- Beside others
@@ -221,7 +215,7 @@ HRESULT AutomationRange::FindAttribute(TEXTATTRIBUTEID attribute, VARIANT value,
     *found = nullptr;
     return about([&](TextEntry& entry, const ReadText&, HWND) -> HRESULT {
         const bool isLocked = value.vt == VT_BOOL && (value.boolVal != VARIANT_FALSE) == entry.locked();
-        return attribute == ReadOnlyAttribute && isLocked ? give(Range_, found) : S_OK;
+        return attribute == ReadOnlyAttribute && isLocked ? Source_.give(Range_, found) : S_OK;
     });
 }
 
@@ -238,7 +232,7 @@ HRESULT AutomationRange::FindText(BSTR text, BOOL backward, BOOL ignoreCase, ITe
         }
         const std::size_t at = backward != FALSE ? where.rfind(what) : where.find(what);
         if (what.empty() || at == std::u16string::npos) return S_OK;
-        return give({Range_.start + at, Range_.start + at + what.size()}, found);
+        return Source_.give({Range_.start + at, Range_.start + at + what.size()}, found);
     });
 }
 
@@ -271,7 +265,7 @@ HRESULT AutomationRange::GetBoundingRectangles(SAFEARRAY** rectangles) noexcept 
 
 HRESULT AutomationRange::GetEnclosingElement(IRawElementProviderSimple** element) noexcept {
     if (element == nullptr) return E_POINTER;
-    *element = ComPtr<IRawElementProviderSimple>(Element_).detach();
+    *element = ComPtr<IRawElementProviderSimple>(Source_.element).detach();
     return S_OK;
 }
 

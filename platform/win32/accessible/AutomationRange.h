@@ -6,12 +6,21 @@
 
 namespace kel::win32 {
 
+/// The field whose text is read, as all objects know it that read it.
+struct TextSource {
+    ole::Module& module;
+    std::shared_ptr<AccessibleLink> link;
+    ComPtr<IRawElementProviderSimple> element;
+
+    /// Hands over a new range of its text.
+    HRESULT give(const ReadRange& range, ITextRangeProvider** out) const;
+};
+
 /// A part of a field's text as UI Automation goes through it. The text may change while it is held: it stays where it
 /// is, as far as there is text.
 class AutomationRange final : public ole::ComObject, public ole::Part<ITextRangeProvider> {
 public:
-    AutomationRange(ole::Module& module, std::shared_ptr<AccessibleLink> link, IRawElementProviderSimple& element,
-                    const ReadRange& range);
+    AutomationRange(const TextSource& source, const ReadRange& range);
 
     HRESULT STDMETHODCALLTYPE Clone(ITextRangeProvider** copy) noexcept override;
     HRESULT STDMETHODCALLTYPE Compare(ITextRangeProvider* other, BOOL* same) noexcept override;
@@ -43,12 +52,10 @@ private:
     /// Runs `act` with the text, in which the range stands.
     HRESULT about(Deed<HRESULT(TextEntry& entry, const ReadText& read, HWND window)> act) noexcept;
     HRESULT with(ITextRangeProvider* other, Deed<void(AutomationRange& other)> act) noexcept;
-    HRESULT give(const ReadRange& range, ITextRangeProvider** out) const;
     std::size_t& placeOf(RangeEnd end) { return end == RangeEnd::Start ? Range_.start : Range_.end; }
     void putEnd(RangeEnd end, std::size_t place);
 
-    std::shared_ptr<AccessibleLink> Link_;
-    ComPtr<IRawElementProviderSimple> Element_;
+    TextSource Source_;
     ReadRange Range_;
 };
 

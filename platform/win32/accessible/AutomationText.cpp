@@ -6,7 +6,6 @@
 #include <algorithm>
 
 #include "host/Widgets.h"
-#include "platform/win32/accessible/AutomationRange.h"
 
 namespace kel::win32 {
 
@@ -20,27 +19,21 @@ std::size_t positionAt(HWND window, POINT place, const TextEntry& entry) {
 
 }  // namespace
 
-AutomationText::AutomationText(ole::Module& module, std::shared_ptr<AccessibleLink> link,
-                               IRawElementProviderSimple& element)
-    : ComObject(module, nullptr), Part(static_cast<ComObject&>(*this)), Link_(std::move(link)), Element_(&element) {}
+AutomationText::AutomationText(TextSource source)
+    : ComObject(source.module, nullptr), Part(static_cast<ComObject&>(*this)), Source_(std::move(source)) {}
 
 HRESULT AutomationText::about(Deed<HRESULT(TextEntry&, HWND)> act) noexcept {
     return guarded([&] {
-        return Link_->with(NotAvailable, [&](AccessibleSource& source, Control& control) -> HRESULT {
+        return Source_.link->with(NotAvailable, [&](AccessibleSource& source, Control& control) -> HRESULT {
             TextEntry* const entry = control.widgets().entry;
             return entry != nullptr ? act(*entry, source.speakingWindow()) : NotAvailable;
         });
     });
 }
 
-HRESULT AutomationText::give(const ReadRange& range, ITextRangeProvider** out) const {
-    return ole::giveNew(new AutomationRange(countedIn(), Link_, *Element_.get(), range), __uuidof(ITextRangeProvider),
-                        reinterpret_cast<void**>(out));
-}
-
 HRESULT AutomationText::giveOne(const ReadRange& range, SAFEARRAY** out) const {
     ComPtr<ITextRangeProvider> made;
-    const HRESULT given = give(range, made.receive());
+    const HRESULT given = Source_.give(range, made.receive());
     if (FAILED(given)) return given;
     *out = SafeArrayCreateVector(VT_UNKNOWN, 0, 1);
     if (*out == nullptr) return E_OUTOFMEMORY;
@@ -82,14 +75,14 @@ HRESULT AutomationText::RangeFromPoint(ScreenPoint point, ITextRangeProvider** r
         POINT place{static_cast<LONG>(point.x), static_cast<LONG>(point.y)};
         ScreenToClient(window, &place);
         const std::size_t position = positionAt(window, place, entry);
-        return give({position, position}, range);
+        return Source_.give({position, position}, range);
     });
 }
 
 HRESULT AutomationText::get_DocumentRange(ITextRangeProvider** range) noexcept {
     if (range == nullptr) return E_POINTER;
     *range = nullptr;
-    return about([&](TextEntry& entry, HWND) { return give({0, entry.text().size()}, range); });
+    return about([&](TextEntry& entry, HWND) { return Source_.give({0, entry.text().size()}, range); });
 }
 
 HRESULT AutomationText::get_SupportedTextSelection(Selectable* selectable) noexcept {

@@ -1,18 +1,13 @@
 #pragma once
 
-#include "host/editing/ReadingUnit.h"
-#include "platform/win32/accessible/AutomationProvider.h"
-
-namespace kel {
-class TextEntry;
-}
+#include "platform/win32/accessible/AutomationRange.h"
 
 namespace kel::win32 {
 
 /// The text of a field as UI Automation reads it, character by character and line by line.
 class AutomationText final : public ole::ComObject, public ole::Part<ITextProvider> {
 public:
-    AutomationText(ole::Module& module, std::shared_ptr<AccessibleLink> link, IRawElementProviderSimple& element);
+    explicit AutomationText(TextSource source);
 
     HRESULT STDMETHODCALLTYPE GetSelection(SAFEARRAY** ranges) noexcept override;
     HRESULT STDMETHODCALLTYPE GetVisibleRanges(SAFEARRAY** ranges) noexcept override;
@@ -27,11 +22,9 @@ protected:
 
 private:
     HRESULT about(Deed<HRESULT(TextEntry& entry, HWND window)> act) noexcept;
-    HRESULT give(const ReadRange& range, ITextRangeProvider** out) const;
     HRESULT giveOne(const ReadRange& range, SAFEARRAY** out) const;
 
-    std::shared_ptr<AccessibleLink> Link_;
-    ComPtr<IRawElementProviderSimple> Element_;
+    TextSource Source_;
 };
 
 }  // namespace kel::win32
