@@ -105,6 +105,17 @@ struct PersistedRow {
     bool (*loadsSame)(std::u16string_view left, std::u16string_view right) = nullptr;
 };
 
+namespace detail {
+
+/// The row with what `change` does to it.
+template <class Row, class Change>
+constexpr Row with(Row row, Change change) {
+    change(row);
+    return row;
+}
+
+}  // namespace detail
+
 struct MemberRow {
     std::u16string_view name;
     std::int32_t id = 0;
@@ -139,25 +150,20 @@ struct MemberRow {
         return row;
     }
     constexpr MemberRow lastOptional() const {
-        MemberRow row = *this;
-        row.parameterRows.at(row.parameterCount - 1U).optional = true;
-        return row;
+        return detail::with(*this,
+                            [](MemberRow& row) { row.parameterRows.at(row.parameterCount - 1U).optional = true; });
     }
     constexpr MemberRow hiddenByReference() const {
-        MemberRow row = *this;
-        row.hidden = true;
-        row.putByReference = true;
-        return row;
+        return detail::with(*this, [](MemberRow& row) {
+            row.hidden = true;
+            row.putByReference = true;
+        });
     }
     constexpr MemberRow forTrusted() const {
-        MemberRow row = *this;
-        row.trusted = true;
-        return row;
+        return detail::with(*this, [](MemberRow& row) { row.trusted = true; });
     }
     constexpr MemberRow byReference() const {
-        MemberRow row = *this;
-        row.putByReference = true;
-        return row;
+        return detail::with(*this, [](MemberRow& row) { row.putByReference = true; });
     }
 };
 
@@ -392,58 +398,38 @@ struct PropertyRow : MemberRow {
 
     /// A text that is another one in writing alone is no change.
     constexpr PropertyRow sameWhere(bool (*loadsSame)(std::u16string_view, std::u16string_view)) const {
-        PropertyRow row = *this;
-        row.persisted.loadsSame = loadsSame;
-        return row;
+        return detail::with(*this, [&](PropertyRow& row) { row.persisted.loadsSame = loadsSame; });
     }
     constexpr PropertyRow readAs(std::u16string_view otherName) const {
-        PropertyRow row = *this;
-        row.persisted.readName = otherName;
-        return row;
+        return detail::with(*this, [&](PropertyRow& row) { row.persisted.readName = otherName; });
     }
     constexpr PropertyRow writtenUnless(PropertyDefault value) const {
-        PropertyRow row = *this;
-        row.persisted.writeDefault = value;
-        return row;
+        return detail::with(*this, [&](PropertyRow& row) { row.persisted.writeDefault = value; });
     }
     constexpr PropertyRow beforeReading(std::u16string_view otherName) const {
-        PropertyRow row = *this;
-        row.readBefore = otherName;
-        return row;
+        return detail::with(*this, [&](PropertyRow& row) { row.readBefore = otherName; });
     }
     constexpr PropertyRow beforeWriting(std::u16string_view otherName) const {
-        PropertyRow row = *this;
-        row.writtenBefore = otherName;
-        return row;
+        return detail::with(*this, [&](PropertyRow& row) { row.writtenBefore = otherName; });
     }
 
     // ---- For designers
 
     constexpr PropertyRow in(Category category) const {
-        PropertyRow row = *this;
-        row.design.category = category;
-        return row;
+        return detail::with(*this, [&](PropertyRow& row) { row.design.category = category; });
     }
     constexpr PropertyRow on(DesignPage page) const {
-        PropertyRow row = *this;
-        row.design.page = page;
-        return row;
+        return detail::with(*this, [&](PropertyRow& row) { row.design.page = page; });
     }
     /// `names` stands for good.
     constexpr PropertyRow choices(std::span<const std::u16string_view> names) const {
-        PropertyRow row = *this;
-        row.design.choices = names;
-        return row;
+        return detail::with(*this, [&](PropertyRow& row) { row.design.choices = names; });
     }
     constexpr PropertyRow linesWhere(std::u16string_view switchName) const {
-        PropertyRow row = *this;
-        row.design.linesWhere = switchName;
-        return row;
+        return detail::with(*this, [&](PropertyRow& row) { row.design.linesWhere = switchName; });
     }
     constexpr PropertyRow bound() const {
-        PropertyRow row = *this;
-        row.design.isBound = true;
-        return row;
+        return detail::with(*this, [](PropertyRow& row) { row.design.isBound = true; });
     }
 };
 
