@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "controls/Classes.h"
+#include "controls/combo/ListText.h"
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/ole/Host.h"
 #include "tests/windows/ole/MessageBoxHand.h"
@@ -522,6 +523,18 @@ TEST(pages_list_imports_files_of_every_encoding) {
         EXPECT_EQ(late(combo.get(), L"List"), std::wstring(c.items));
     }
     DeleteFileW(file.c_str());
+}
+
+TEST(pages_list_takes_no_more_items_than_a_combo_counts) {
+    const auto combo = makeControl(L"KelCombo");
+    const std::wstring full(static_cast<std::size_t>(MostListItems) - 1, L',');
+    EXPECT_CODE(put(combo.get(), L"List", Var(full.c_str()).Value), S_OK);
+    Shown page(DesignPage::List, {combo.get()});
+    HWND const list = descendant(page.window(), L"SysListView32");
+    SetFocus(list);
+    EXPECT(page.press(VK_INSERT));
+    EXPECT_EQ(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0), static_cast<LRESULT>(MostListItems));
+    EXPECT_EQ(page.says(), std::wstring(L"The list is full."));
 }
 
 TEST(pages_list_edits_items_and_tags_side_by_side) {

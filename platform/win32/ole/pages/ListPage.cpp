@@ -210,6 +210,7 @@ LRESULT ListPage::notify(const NMHDR& notice) {
 
 void ListPage::addItem() {
     endEdit(true);
+    if (count() >= MostListItems) return say(u"The list is full.", true);
     const int row = selected() >= 0 ? selected() + 1 : count();
     Items_.insert(Items_.begin() + row, TaggedItem{});
     changed();
