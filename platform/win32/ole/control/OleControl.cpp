@@ -138,7 +138,7 @@ void OleControl::freezeEvents(bool freeze) { FrozenDepth_ = std::max(0, FrozenDe
 
 void OleControl::propertyChanged(const MemberRow& property) {
     Dirty_ = true;
-    Connections_.Notify.changed(property.id);
+    boundChanged(property);
 }
 
 bool OleControl::mayPut(const MemberRow& member) { return !member.isPersisted() || mayChange(member); }

@@ -13,7 +13,6 @@ public:
     RowEditor(const MemberRow& row, const SelectedObjects& objects, DWORD id, wchar_t mnemonic);
 
     const MemberRow& row() const { return Row_; }
-    DWORD id() const { return Id_; }
     bool isSwitch() const { return Row_.type == TypeTag::Boolean; }
     /// In the dialog's units, with what is between it and the next.
     short height() const;
@@ -26,7 +25,6 @@ public:
 
     /// A command of the editor: true where something else has been typed or chosen.
     bool hears(HWND page, UINT code);
-    static bool isFocus(UINT code) { return code == EN_SETFOCUS || code == CBN_SETFOCUS || code == BN_SETFOCUS; }
 
     /// Nothing where it is as it was.
     const std::optional<Variant>& typed() const { return Typed_; }

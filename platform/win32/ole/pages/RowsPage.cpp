@@ -7,7 +7,7 @@
 #include "platform/win32/base/WideText.h"
 #include "platform/win32/home/Win32Services.h"
 #include "platform/win32/ole/pages/Sample.h"
-#include "values/Text.h"
+#include "values/Calendar.h"
 
 namespace kel::win32::ole {
 
@@ -29,12 +29,9 @@ wchar_t takeMnemonic(std::u16string_view name, std::wstring& taken) {
     return 0;
 }
 
-DATE now() {
-    SYSTEMTIME local{};
-    GetLocalTime(&local);
-    DATE serial = 0;
-    SystemTimeToVariantTime(&local, &serial);
-    return serial;
+Date now() {
+    const Win32System system;
+    return Date{system.today().Serial + system.timer() / SecondsPerDay};
 }
 
 }  // namespace
@@ -119,7 +116,7 @@ std::u16string RowsPage::sample() const {
     try {
         for (const RowEditor& editor : Editors_)
             if (editor.current()) made.put(editor.row(), *editor.current());
-        if (kind() == DesignPage::Format) return made.shown(Date{now()});
+        if (kind() == DesignPage::Format) return made.shown(now());
         std::u16string text = made.shown(SampleNumber);
         for (const RowEditor& editor : Editors_)
             if (editor.row().design.category == Category::Data && editor.current())
