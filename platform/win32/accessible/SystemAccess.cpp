@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "platform/win32/base/Procedure.h"
+
 namespace kel::win32 {
 
 namespace {
@@ -15,9 +17,8 @@ HMODULE libraryOf(const wchar_t* name) {
 }
 
 template <class Function>
-void find(HMODULE library, const char* name, Function& function) {
-    if (library != nullptr)
-        function = reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(library, name)));
+void find(HMODULE library, const char* name, Function*& function) {
+    function = procedureOf<Function>(library, name);
 }
 
 }  // namespace

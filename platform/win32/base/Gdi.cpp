@@ -5,12 +5,12 @@
 #include <cstring>
 #include <iterator>
 
+#include "platform/win32/base/Procedure.h"
+
 namespace kel::win32 {
 
 TwipScale screenScale(HWND window) {
-    using DotsPerInchOf = UINT WINAPI(HWND);
-    static auto* const DotsPerInch = reinterpret_cast<DotsPerInchOf*>(
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "GetDpiForWindow")));
+    static auto* const DotsPerInch = procedureOf<UINT WINAPI(HWND)>(L"user32.dll", "GetDpiForWindow");
     const UINT dots = window != nullptr && DotsPerInch != nullptr ? DotsPerInch(window) : 0;
     return TwipScale::ofDotsPerInch(dots > 0 ? static_cast<int>(dots)
                                              : GetDeviceCaps(WindowContext(nullptr).get(), LOGPIXELSX));

@@ -1,10 +1,12 @@
 // A container that is not ours, with two controls in it, worked by keys through the message queue.
 
+#include "platform/win32/base/Procedure.h"
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/ole/Host.h"
 
 using namespace kel;
 using namespace kel::tests;
+using kel::win32::procedureOf;
 
 namespace {
 
@@ -13,21 +15,17 @@ class Atl {
 public:
     Atl() : Library_(LoadLibraryW(L"atl100.dll")) {
         EXPECT(Library_ != nullptr);
-        entry<BOOL STDMETHODCALLTYPE()>("AtlAxWinInit")();
+        procedureOf<BOOL STDMETHODCALLTYPE()>(Library_, "AtlAxWinInit")();
     }
 
     Ref<_KelText> controlIn(HWND holder) const {
         Ref<IUnknown> control;
-        EXPECT_CODE(entry<HRESULT STDMETHODCALLTYPE(HWND, IUnknown**)>("AtlAxGetControl")(holder, control.receive()),
-                    S_OK);
+        auto* const controlOf = procedureOf<HRESULT STDMETHODCALLTYPE(HWND, IUnknown**)>(Library_, "AtlAxGetControl");
+        EXPECT_CODE(controlOf(holder, control.receive()), S_OK);
         return control.as<_KelText>();
     }
 
 private:
-    template <class Function>
-    Function* entry(const char* name) const {
-        return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(Library_, name)));
-    }
     HMODULE Library_;
 };
 

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include "platform/win32/base/Procedure.h"
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/ole/Host.h"
 
@@ -23,8 +24,8 @@ public:
 
 private:
     static INT_PTR set(INT_PTR kind) {
-        auto* const set = reinterpret_cast<INT_PTR WINAPI (*)(INT_PTR)>(
-            reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "SetThreadDpiAwarenessContext")));
+        auto* const set =
+            kel::win32::procedureOf<INT_PTR WINAPI(INT_PTR)>(L"user32.dll", "SetThreadDpiAwarenessContext");
         EXPECT(set != nullptr);
         return set(kind);
     }

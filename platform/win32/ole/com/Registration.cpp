@@ -1,6 +1,7 @@
 #include "platform/win32/ole/com/Registration.h"
 
 #include "library/AutomationError.h"
+#include "platform/win32/base/Procedure.h"
 
 namespace kel::win32::ole {
 
@@ -67,9 +68,9 @@ std::wstring folderOf(const std::wstring& file) { return file.substr(0, file.fin
 /// A function of the automation library that older import libraries do not know.
 template <class Function>
 Function* automationFunction(const char* name) {
-    const FARPROC found = GetProcAddress(GetModuleHandleW(L"oleaut32.dll"), name);
+    auto* const found = procedureOf<Function>(L"oleaut32.dll", name);
     if (found == nullptr) throw AutomationError(E_NOTIMPL, "this system has no type libraries of one user");
-    return reinterpret_cast<Function*>(reinterpret_cast<void*>(found));
+    return found;
 }
 
 void writeTypeLibrary(Scope scope) {
