@@ -1,6 +1,7 @@
 #include "tests/windows/ole/Client.h"
 
 #include <algorithm>
+#include <sstream>
 
 #include "tests/windows/ole/Check.h"
 
@@ -89,6 +90,14 @@ HRESULT invoke(IDispatch* object, const wchar_t* name, WORD flags, std::vector<V
 
 HRESULT put(IDispatch* object, const wchar_t* name, VARIANT value, UINT* argumentError) {
     return invoke(object, name, DISPATCH_PROPERTYPUT, {value}, nullptr, nullptr, argumentError);
+}
+
+void putAll(IDispatch* object, const std::wstring& properties) {
+    std::wistringstream list(properties);
+    for (std::wstring each; std::getline(list, each, L'|');) {
+        const std::size_t name = each.find(L'=');
+        EXPECT_CODE(put(object, each.substr(0, name).c_str(), Var(each.substr(name + 1).c_str()).Value), S_OK);
+    }
 }
 
 std::wstring late(IDispatch* object, const wchar_t* name) {

@@ -132,6 +132,8 @@ Ref<_KelDate> makeDate();
 HRESULT invoke(IDispatch* object, const wchar_t* name, WORD flags, std::vector<VARIANT> arguments,
                VARIANT* result = nullptr, EXCEPINFO* exception = nullptr, UINT* argumentError = nullptr);
 HRESULT put(IDispatch* object, const wchar_t* name, VARIANT value, UINT* argumentError = nullptr);
+/// Puts "Caption=Name|Decimals=0", a text each.
+void putAll(IDispatch* object, const std::wstring& properties);
 /// What a property is, described.
 std::wstring late(IDispatch* object, const wchar_t* name);
 std::wstring text(_KelText* object);

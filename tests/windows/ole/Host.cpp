@@ -1,10 +1,33 @@
 #include "tests/windows/ole/Host.h"
 
 #include <algorithm>
+#include <optional>
 
+#include "platform/win32/base/Procedure.h"
 #include "tests/windows/ole/Check.h"
 
 namespace kel::tests {
+
+namespace {
+
+struct Elsewhere {
+    const std::function<void()>& body;
+    std::optional<Failure> failure;
+
+    static DWORD WINAPI run(void* elsewhere) {
+        auto& self = *static_cast<Elsewhere*>(elsewhere);
+        OleInitialize(nullptr);
+        try {
+            self.body();
+        } catch (const Failure& caught) {
+            self.failure = caught;
+        }
+        OleUninitialize();
+        return 0;
+    }
+};
+
+}  // namespace
 
 HRESULT Bag::Read(LPCOLESTR name, VARIANT* value, IErrorLog* /*log*/) {
     if (OnRead) OnRead();
@@ -157,6 +180,21 @@ HRESULT Host::Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result
 HRESULT Host::OnChanged(DISPID id) {
     Changed.push_back(id);
     return S_OK;
+}
+
+void inAnotherApartment(const std::function<void()>& body) {
+    Elsewhere elsewhere{body, {}};
+    HANDLE thread = CreateThread(nullptr, 0, &Elsewhere::run, &elsewhere, 0, nullptr);
+    EXPECT(thread != nullptr);
+    while (MsgWaitForMultipleObjects(1, &thread, FALSE, INFINITE, QS_ALLINPUT) != WAIT_OBJECT_0) settle();
+    CloseHandle(thread);
+    if (elsewhere.failure) throw *elsewhere.failure;
+}
+
+HRESULT canUnload(const wchar_t* file) {
+    auto* const asked = win32::procedureOf<HRESULT STDMETHODCALLTYPE()>(file, "DllCanUnloadNow");
+    EXPECT(asked != nullptr);
+    return asked();
 }
 
 void pressSpinner(HWND spinner, bool up) {

@@ -177,6 +177,12 @@ private:
     Ref<IOleObject> Object_;
 };
 
+/// Runs `body` on a thread with an apartment of its own, while this one serves its calls. What fails there fails here.
+void inAnotherApartment(const std::function<void()>& body);
+
+/// What a server that is loaded says when it is asked whether it may go.
+HRESULT canUnload(const wchar_t* file);
+
 /// With the mouse.
 void pressSpinner(HWND spinner, bool up);
 

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
-#include <optional>
 
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/ole/Host.h"
@@ -17,21 +16,6 @@ using namespace kel;
 using namespace kel::tests;
 
 namespace {
-
-/// The server's file, loaded beside whatever the system loads of it.
-class Server {
-public:
-    explicit Server(const wchar_t* file) : Module_(GetModuleHandleW(file)) { EXPECT(Module_ != nullptr); }
-
-    template <class Function>
-    Function* entry(const char* name) const {
-        return reinterpret_cast<Function*>(reinterpret_cast<void*>(GetProcAddress(Module_, name)));
-    }
-    HRESULT canUnload() const { return entry<HRESULT STDMETHODCALLTYPE()>("DllCanUnloadNow")(); }
-
-private:
-    HMODULE Module_;
-};
 
 /// The highest of many handles that are made: those that were given back are given out again first, so that each one
 /// that was not raises it. Not every system counts its handles.
@@ -104,34 +88,8 @@ void liveOnce(IStream* stream) {
     EXPECT_CODE(field.as<IPersistStreamInit>()->Save(saved.get(), TRUE), S_OK);
 }
 
-struct Elsewhere {
-    const std::function<void()>& body;
-    std::optional<Failure> failure;
-
-    static DWORD WINAPI run(void* elsewhere) {
-        auto& self = *static_cast<Elsewhere*>(elsewhere);
-        OleInitialize(nullptr);
-        try {
-            self.body();
-        } catch (const Failure& caught) {
-            self.failure = caught;
-        }
-        OleUninitialize();
-        return 0;
-    }
-};
-
-/// Runs `body` on a thread with an apartment of its own, while this one serves its calls. What fails there fails here.
-void inAnotherApartment(const std::function<void()>& body) {
-    Elsewhere elsewhere{body, {}};
-    HANDLE thread = CreateThread(nullptr, 0, &Elsewhere::run, &elsewhere, 0, nullptr);
-    EXPECT(thread != nullptr);
-    while (MsgWaitForMultipleObjects(1, &thread, FALSE, INFINITE, QS_ALLINPUT) != WAIT_OBJECT_0) settle();
-    CloseHandle(thread);
-    if (elsewhere.failure) throw *elsewhere.failure;
-}
-
-void inAnotherApartment(const Ref<_KelText>& field, const std::function<void(_KelText&)>& body) {
+/// Runs `body` in another apartment, with what stands there for the field.
+void asProxy(const Ref<_KelText>& field, const std::function<void(_KelText&)>& body) {
     Ref<IStream> handedOver;
     EXPECT_CODE(CoMarshalInterThreadInterfaceInStream(__uuidof(_KelText), field.get(), handedOver.receive()), S_OK);
     inAnotherApartment([&] {
@@ -293,7 +251,7 @@ TEST(life_cycles_leave_nothing) {
         CreateStreamOnHGlobal(nullptr, TRUE, stream.receive());
         EXPECT_CODE(field.as<IPersistStreamInit>()->Save(stream.get(), TRUE), S_OK);
         for (int i = 0; i < 20; ++i) liveOnce(stream.get());
-        EXPECT_CODE(Server(L"KelControls8.ocx").canUnload(), S_FALSE);
+        EXPECT_CODE(canUnload(L"KelControls8.ocx"), S_FALSE);
     }
     constexpr std::size_t Few = 100;  // what the system keeps for the next time
     const Resources before;
@@ -303,8 +261,8 @@ TEST(life_cycles_leave_nothing) {
     EXPECT(after.drawing <= before.drawing + Few);
     EXPECT(after.windows <= before.windows + Few);
     EXPECT(after.memory <= before.memory + 50'000);
-    EXPECT_CODE(Server(L"KelControls8.ocx").canUnload(), S_OK);
-    EXPECT_CODE(Server(L"KelRuntime8.dll").canUnload(), S_OK);
+    EXPECT_CODE(canUnload(L"KelControls8.ocx"), S_OK);
+    EXPECT_CODE(canUnload(L"KelRuntime8.dll"), S_OK);
 }
 
 TEST(life_of_a_run_time_object_is_that_of_its_apartment) {
@@ -318,13 +276,13 @@ TEST(life_of_a_run_time_object_is_that_of_its_apartment) {
         inAnotherApartment(&liveWithDate);
         EXPECT_EQ(runtime.Asked, asked);
         // With its last form closed a host that tidies up keeps what it has handed over.
-        EXPECT_CODE(Server(L"KelControls8.ocx").canUnload(), S_FALSE);
+        EXPECT_CODE(canUnload(L"KelControls8.ocx"), S_FALSE);
         liveWithDate();
         EXPECT(runtime.Asked > asked);
         runtime.Default.reset();
     });
     EXPECT_EQ(runtime.References, 1L);
-    EXPECT_CODE(Server(L"KelControls8.ocx").canUnload(), S_OK);
+    EXPECT_CODE(canUnload(L"KelControls8.ocx"), S_OK);
 }
 
 TEST(life_embedded_in_a_document) {
@@ -373,8 +331,7 @@ TEST(manifest_makes_objects_without_registration) {
         EXPECT_CODE(verbs->Next(1, &verb, nullptr), S_OK);
         EXPECT_EQ(verb.lVerb, static_cast<LONG>(OLEIVERB_PRIMARY));
         CoTaskMemFree(verb.lpszVerbName);
-        inAnotherApartment(field,
-                           [](_KelText& proxy) { EXPECT_CODE(proxy.put_Caption(Str(L"from elsewhere")), S_OK); });
+        asProxy(field, [](_KelText& proxy) { EXPECT_CODE(proxy.put_Caption(Str(L"from elsewhere")), S_OK); });
         EXPECT_EQ(captionOf(field.get()), std::wstring(L"from elsewhere"));
         EXPECT(create(L"KelRuntime8.Runtime"));
         for (const PageIdentity& page : identities::Pages) {
