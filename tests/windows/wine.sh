@@ -1,32 +1,42 @@
-# What the scripts here share: a display and a Windows of their own under Wine, and how they report. A script starts
-# with `begin SCREEN "$@"`, from the top of the source tree, and ends with `finish`.
+# What the scripts share that run programs under Wine: a display and a Windows of their own, and how tests report. A
+# script starts with `begin SCRIPT SCREEN "$@"`, from the top of the source tree; one of tests ends with `finish`.
 # shellcheck shell=bash disable=SC2034
 
-# The size of its screen, and its argument, a cross build: sets `build`, `work` for files, and `name` of the script.
+limit=120  # seconds, for a program
+
+# The script's own path, the size of its screen, and its arguments, of which the first is a cross build: sets `build`, and
+# `work` for files.
 begin() {
-    build=$(realpath "${2:-build/windows-x64}")
-    local name first
-    name=$(basename "$0")
-    if [ "${KEL_INSIDE_DISPLAY:-}" != "$name $build" ]; then
+    local script=$1 screen=$2 first
+    shift 2
+    build=$(realpath "${1:-build/windows-x64}")
+    if [ "${KEL_INSIDE_DISPLAY:-}" != "$script $build" ]; then
         # Scripts side by side look for a free display from different numbers on, as the search is a race.
-        first=$(cksum <<<"$name $build" | cut -d ' ' -f 1)
-        exec env KEL_INSIDE_DISPLAY="$name $build" xvfb-run -a -n $((first % 800 + 100)) -s "-screen 0 $1x24" \
-            "tests/windows/$name" "$build"
+        first=$(cksum <<<"$script $build" | cut -d ' ' -f 1)
+        exec env KEL_INSIDE_DISPLAY="$script $build" xvfb-run -a -n $((first % 800 + 100)) -s "-screen 0 ${screen}x24" \
+            "$script" "$build" "${@:2}"
     fi
     unset KEL_INSIDE_DISPLAY
-    export WINEPREFIX=$build/wine-$name WINEDEBUG=-all WINEARCH=win64
+    export WINEPREFIX=$build/wine-${script//\//-} WINEDEBUG=-all WINEARCH=win64
     [[ $build != *x86 ]] || WINEARCH=win32
     export WINEDLLOVERRIDES="mscoree=;mshtml=;winedbg.exe=d"
-    work=$build/tests/windows/$name
+    work=$build/$script
     results=$work/results
     rm -rf "$WINEPREFIX" "$work"
     mkdir -p "$work"
     : >"$results"
+    trap leave EXIT
     timeout 120 wineboot -i >"$work/wineboot.log" 2>&1 </dev/null || { failed wine "no prefix could be made"; finish; }
     wineserver -w
     wineserver -p60 >/dev/null 2>&1
     # Without a window manager nobody answers a managed window.
     windows reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null
+}
+
+leave() {
+    wineserver -k 2>/dev/null || :
+    wineserver -w 2>/dev/null || :
+    rm -rf "$WINEPREFIX"
 }
 
 record() {
@@ -37,7 +47,7 @@ ok() { record "ok $1"; }
 failed() { record "FAILED $1: $2"; }
 
 # A Windows program; its background services must not hold on to our output.
-windows() { timeout 120 wine "$@" </dev/null 2>>"$work/wine.log"; }
+windows() { timeout "$limit" wine "$@" </dev/null 2>>"$work/wine.log"; }
 path() {
     local path=Z:$1
     path=${path/#Z:$WINEPREFIX\/drive_c/C:}
@@ -74,9 +84,6 @@ script() {
 }
 
 finish() {
-    wineserver -k 2>/dev/null
-    wineserver -w 2>/dev/null
-    rm -rf "$WINEPREFIX"
     local bad good
     bad=$(grep -c '^FAILED' "$results")
     good=$(grep -c '^ok' "$results")
