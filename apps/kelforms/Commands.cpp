@@ -48,7 +48,7 @@ ExitStatus playScript(const Options& options) {
     const std::string& scriptFile = options.files[1];
     const Script script = readScript(scriptFile == "-" ? "standard input" : scriptFile, readAll(scriptFile));
     if (options.update && scriptFile == "-") throw UsageError("--update: standard input cannot be rewritten");
-    const auto session = openHome(options.on.empty() ? "headless" : options.on, options.home, false);
+    const auto session = openHome(options.on.empty() ? "headless" : options.on, options, false);
     Player player(session->home(), options.files[0], [&](PlaySystem& system) { setClock(system, options); });
 
     bool same = true;
@@ -71,16 +71,18 @@ ExitStatus playScript(const Options& options) {
 
 ExitStatus runForm(const Options& options) {
     if (options.on == "headless") throw UsageError("--on headless: nobody would see the form");
-    const auto session = openHome(options.on.empty() ? WindowHome : options.on, options.home, true);
+    const auto session = openHome(options.on.empty() ? WindowHome : options.on, options, true);
     SilentObserver observer;
     Form form(session->home(), session->home().system(), observer, readFormFile(options.files[0]));
     form.show();
+    // A form starts with the focus nowhere; whoever opens one to fill it in types at once.
+    form.window().press({keys::Tab, 0, NoModifier});
     session->runUntilClosed();
     return Done;
 }
 
 ExitStatus shootForm(const Options& options) {
-    const auto session = openHome(WindowHome, options.home, false);
+    const auto session = openHome(WindowHome, options, false);
     SilentObserver observer;
     Form form(session->home(), session->home().system(), observer, readFormFile(options.files[0]));
     form.show();
@@ -89,7 +91,7 @@ ExitStatus shootForm(const Options& options) {
 }
 
 ExitStatus saveForm(const Options& options) {
-    const auto session = openHome("headless", options.home, false);
+    const auto session = openHome("headless", options, false);
     SilentObserver observer;
     const Form form(session->home(), session->home().system(), observer, readFormFile(options.files[0]));
     form.save(options.files[1]);
@@ -139,7 +141,7 @@ void printDeviations(const Form& form, FormBlockId id) {
 
 ExitStatus checkForm(const Options& options) {
     const FormFile file = readFormFile(options.files[0]);
-    const auto session = openHome("headless", options.home, false);
+    const auto session = openHome("headless", options, false);
     SilentObserver observer;
     // Loading is what finds wrong classes and values.
     const Form form(session->home(), session->home().system(), observer, file);

@@ -34,14 +34,29 @@ private:
 
 class QtSession final : public HomeSession {
 public:
-    explicit QtSession(const HomeOptions& options) : Application_(Count_, Arguments_), Home_(qt::makeHome(options)) {}
+    explicit QtSession(const Options& options)
+        : Words_(options.ofQt),
+          Arguments_(pointersTo(Words_)),
+          Count_(static_cast<int>(Words_.size())),
+          Application_(Count_, Arguments_.data()),
+          Home_(qt::makeHome(options.home)) {}
     Home& home() override { return *Home_; }
     void runUntilClosed() override { QApplication::exec(); }
 
 private:
-    char Name_[9] = "kelforms";
-    char* Arguments_[2] = {Name_, nullptr};
-    int Count_ = 1;
+    /// As the system hands them to a program: its name in front, and nothing behind the last.
+    static std::vector<char*> pointersTo(std::vector<std::string>& words) {
+        words.insert(words.begin(), "kelforms");
+        std::vector<char*> pointers;
+        for (std::string& word : words) pointers.push_back(word.data());
+        pointers.push_back(nullptr);
+        return pointers;
+    }
+
+    // What Qt does not know it leaves, and all of it for as long as the application lives.
+    std::vector<std::string> Words_;
+    std::vector<char*> Arguments_;
+    int Count_;
     QApplication Application_;
     std::unique_ptr<Home> Home_;
 };
@@ -70,9 +85,11 @@ const char* const WindowHome = "win32";
 const char* const WindowHome = "qt";
 #endif
 
-std::unique_ptr<HomeSession> openHome(const std::string& name, const HomeOptions& options,
+std::unique_ptr<HomeSession> openHome(const std::string& name, const Options& options,
                                       [[maybe_unused]] bool withWindow) {
-    if (name == "headless") return std::make_unique<HeadlessSession>(options, std::make_unique<Onlooker>());
+    if (name != "qt" && !options.ofQt.empty())
+        throw UsageError(options.ofQt.front() + ": no window of Qt's is opened here");
+    if (name == "headless") return std::make_unique<HeadlessSession>(options.home, std::make_unique<Onlooker>());
 #ifdef KEL_HAS_QT
     if (name == "qt") {
         if (!withWindow && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -80,10 +97,10 @@ std::unique_ptr<HomeSession> openHome(const std::string& name, const HomeOptions
     }
 #endif
 #ifdef KEL_HAS_TERMINAL
-    if (name == "terminal") return std::make_unique<HeadlessSession>(options, terminal::makeTerminal(withWindow));
+    if (name == "terminal") return std::make_unique<HeadlessSession>(options.home, terminal::makeTerminal(withWindow));
 #endif
 #ifdef KEL_HAS_WIN32
-    if (name == "win32") return std::make_unique<Win32Session>(options);
+    if (name == "win32") return std::make_unique<Win32Session>(options.home);
 #endif
     throw UsageError("this program has no home \"" + name + "\"");
 }

@@ -18,7 +18,7 @@ public:
 
 /// Throws UsageError when this program has no home of that name. `withWindow` asks for one that a person
 /// can see; a scripted one needs no display.
-std::unique_ptr<HomeSession> openHome(const std::string& name, const HomeOptions& options, bool withWindow);
+std::unique_ptr<HomeSession> openHome(const std::string& name, const Options& options, bool withWindow);
 
 /// The home with pictures and windows on this machine.
 extern const char* const WindowHome;

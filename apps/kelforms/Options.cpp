@@ -17,7 +17,8 @@ const char* const Usage =
     "kelforms describe [CLASS] [--json|--markdown]        members, events and saved properties\n"
     "\n"
     "options of play: --on headless|qt|win32|terminal, --locale en-GB, --today 2013-03-15, --now 10:15:30,\n"
-    "  --colour-depth 24, --twips-per-pixel 15, --shot FILE.png, --used FILE, --check, --update\n";
+    "  --colour-depth 24, --twips-per-pixel 15, --shot FILE.png, --used FILE, --check, --update\n"
+    "windows of Qt's take Qt's usual options: -style fusion, -reverse, -platform wayland, -stylesheet FILE ...\n";
 
 namespace {
 
@@ -92,6 +93,30 @@ bool readOption(const std::string& word, Reader& reader, Options& options) {
     return true;
 }
 
+struct QtOption {
+    std::string_view name;
+    bool hasValue;
+};
+constexpr QtOption QtOptions[] = {
+    {"-display", true},      {"-geometry", true},           {"-icon", true},
+    {"-platform", true},     {"-platformpluginpath", true}, {"-platformtheme", true},
+    {"-plugin", true},       {"-qwindowgeometry", true},    {"-qwindowicon", true},
+    {"-qwindowtitle", true}, {"-reverse", false},           {"-session", true},
+    {"-style", true},        {"-stylesheet", true},         {"-title", true},
+    {"-widgetcount", false},
+};
+
+/// One that Qt understands, with its value beside it or behind an equals sign. False when it is none.
+bool readQtOption(const std::string& word, Reader& reader, Options& options) {
+    const std::string_view name = std::string_view(word).substr(0, word.find('='));
+    const auto found = std::find_if(std::begin(QtOptions), std::end(QtOptions),
+                                    [name](const QtOption& option) { return option.name == name; });
+    if (found == std::end(QtOptions)) return false;
+    options.ofQt.push_back(word);
+    if (found->hasValue && name.size() == word.size()) options.ofQt.push_back(reader.value(word));
+    return true;
+}
+
 struct CommandRow {
     const char* name;
     std::size_t leastFiles;
@@ -118,9 +143,9 @@ Options readOptions(const std::vector<std::string>& arguments) {
     Reader reader{arguments, 1};
     while (reader.next < arguments.size()) {
         const std::string& word = arguments[reader.next++];
-        if (!word.starts_with("--"))
+        if (!word.starts_with("-") || word == "-")
             options.files.push_back(word);
-        else if (!readOption(word, reader, options))
+        else if (!readOption(word, reader, options) && !readQtOption(word, reader, options))
             throw UsageError("there is no option " + word);
     }
     checkCommand(options);

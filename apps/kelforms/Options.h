@@ -22,6 +22,7 @@ struct Options {
     std::vector<std::string> files;  ///< what is no option, in order
     std::string on;                  ///< the home; which one where it is empty is up to the command
     HomeOptions home;
+    std::vector<std::string> ofQt;  ///< options that every program on Qt has, values included
     std::optional<Date> today;
     std::optional<Date> now;
     std::string shot;

@@ -29,7 +29,7 @@ QtFormWindow::QtFormWindow(const WindowSpec& description, const ControlServices&
     : Surroundings_(surroundings), Window_(std::make_unique<FormWidget>()) {
     const TwipGrid grid(surroundings.system.scale());
     Window_->setWindowTitle(toQString(description.caption));
-    Window_->setLayoutDirection(description.rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+    if (description.rightToLeft) Window_->setLayoutDirection(Qt::RightToLeft);
     Window_->setFixedSize(grid.pixels({0, 0, description.clientSize.width, description.clientSize.height}).size());
 }
 
