@@ -1,11 +1,13 @@
 #include <gtest/gtest.h>
 #include <KelTextWidget.h>
-#include <cmath>
 #include <QApplication>
+#include <QLineEdit>
 #include <QScreen>
 #include <QTest>
+#include <set>
 
 #include "library/Control.h"
+#include "library/SharedSettings.h"
 #include "platform/qt/base/FieldColors.h"
 #include "platform/qt/home/QtHome.h"
 #include "platform/qt/widgets/QtLine.h"
@@ -15,37 +17,32 @@
 namespace kel::test {
 namespace {
 
-double luminance(const QColor& color) {
-    const auto linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor& one, const QColor& other) {
-    const double first = luminance(one) + 0.05;
-    const double second = luminance(other) + 0.05;
-    return std::max(first, second) / std::min(first, second);
-}
-
 TEST(Looks, FieldsAreReadableOnEveryDesktop) {
-    constexpr Color White = 0x00FFFFFF;
-    constexpr Color PaleGreen = 0x00C0FFC0;
     constexpr Color Yellow = 0x0000FFFF;
     constexpr Color Black = 0x00000000;
-    for (const QPalette& desktop : {QPalette(), darkDesktop()}) {
-        for (const Color back : {White, PaleGreen, colors::SystemWindow, colors::SystemButtonFace}) {
+    const SharedSettings& settings = qt::defaultHome().settings();
+    const Color grounds[] = {settings.FieldBackNormal, settings.FieldBackLocked, settings.FieldBackFocus,
+                             settings.FieldBackFocusLocked};
+    QPalette cream;
+    cream.setColor(QPalette::Base, QColor(255, 250, 235));
+    for (const QPalette& desktop : {QPalette(), cream, darkDesktop()}) {
+        const QColor paper = desktop.color(QPalette::Base);
+        const bool isDark = luminance(paper) < 0.2;
+        std::set<QRgb> seen;
+        for (const Color back : grounds) {
             for (const Color fore : {colors::SystemWindowText, colors::SystemHighlight, Yellow}) {
-                QPalette shown = desktop;
-                const QPalette changes = qt::fieldPalette({back, fore}, desktop);
-                if (changes.resolveMask() != 0) shown = changes.resolve(desktop);
+                const QPalette shown = qt::fieldPalette({back, fore}, desktop);
                 const QColor base = shown.color(QPalette::Active, QPalette::Base);
-                EXPECT_EQ(base, qt::desktopColor(back, desktop));
+                seen.insert(base.rgb());
                 EXPECT_GE(contrast(shown.color(QPalette::Active, QPalette::Text), base), 4.5) << back << ' ' << fore;
+                EXPECT_LT(contrast(base, paper), isDark ? 2.5 : 1.7) << "a tint of the paper, and no lamp: " << back;
             }
         }
+        EXPECT_EQ(seen.size(), std::size(grounds)) << "no two states look alike";
+        EXPECT_EQ(qt::fieldGround(settings.FieldBackNormal, desktop), paper);
+        EXPECT_EQ(qt::fieldGround(colors::SystemButtonFace, desktop), desktop.color(QPalette::Button));
         const QColor plain = qt::fieldPalette({colors::SystemWindow, Black}, desktop).color(QPalette::Text);
-        EXPECT_GE(contrast(plain, desktop.color(QPalette::Base)), 12) << "black is no shade of grey";
+        EXPECT_GE(contrast(plain, paper), 12) << "black is no shade of grey";
         const QColor mandatory = qt::captionColorOn(desktop, colors::SystemHighlight);
         EXPECT_GE(contrast(mandatory, desktop.color(QPalette::Window)), 4.5) << "a mandatory field's caption";
     }
@@ -120,8 +117,9 @@ TEST(Looks, AChangeOfTheDesktopReachesTheFields) {
     window.setPalette(dark);
     EXPECT_EQ(shown.look().color(QPalette::Base), dark.color(QPalette::Button));
     EXPECT_EQ(shown.look().color(QPalette::Text), QColor(Qt::white));
-    box.setBackColor(0x00FFFFFF);
-    EXPECT_EQ(shown.look().color(QPalette::Text), QColor(Qt::black));
+    box.setBackColor(0x00C0FFC0);
+    EXPECT_EQ(shown.look().color(QPalette::Base), qt::fieldGround(0x00C0FFC0, dark));
+    EXPECT_EQ(shown.look().color(QPalette::Text), QColor(Qt::white));
     EXPECT_EQ(shown.look().color(QPalette::Window), dark.color(QPalette::Window));
     window.setPalette(light);
     EXPECT_EQ(shown.look().color(QPalette::Text), light.color(QPalette::Text));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <cmath>
 #include <QColor>
 #include <QImage>
 #include <QPalette>
@@ -15,6 +17,19 @@ inline QPalette darkDesktop() {
     palette.setColor(QPalette::WindowText, Qt::white);
     palette.setColor(QPalette::Highlight, QColor(20, 60, 120));
     return palette;
+}
+
+inline double luminance(const QColor& color) {
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+inline double contrast(const QColor& one, const QColor& other) {
+    const double first = luminance(one) + 0.05;
+    const double second = luminance(other) + 0.05;
+    return std::max(first, second) / std::min(first, second);
 }
 
 /// What surrounds the pixels of a part of the picture that are meant.

@@ -1,5 +1,6 @@
 #include "platform/qt/base/FieldColors.h"
 
+#include <algorithm>
 #include <cmath>
 #include <QHash>
 
@@ -10,6 +11,8 @@ namespace {
 constexpr double ReadableContrast = 4.5;
 constexpr int ShadingSteps = 10;
 constexpr double DisabledShare = 0.5;  ///< of the background in a text that is disabled
+
+constexpr int White = 255;  ///< each of a colour's channels
 
 constexpr double EdgeShare = 0.25;  ///< of the text in a line on the background
 
@@ -69,9 +72,9 @@ QColor mixed(const QColor& color, const QColor& other, double share) {
             channel(color.blue(), other.blue())};
 }
 
-QColor strongestOn(const QColor& background) {
-    return contrast(Qt::black, background) >= contrast(Qt::white, background) ? Qt::black : Qt::white;
-}
+bool isDark(const QColor& color) { return contrast(Qt::black, color) < contrast(Qt::white, color); }
+
+QColor strongestOn(const QColor& background) { return isDark(background) ? Qt::white : Qt::black; }
 
 /// Plain text gives way altogether where it cannot be read, a colour that was meant keeps its hue.
 QColor fieldText(Color fore, const QPalette& desktop, const QColor& back) {
@@ -85,11 +88,11 @@ QColor fieldText(Color fore, const QPalette& desktop, const QColor& back) {
 
 QPalette makePalette(const FieldColors& wanted, const QPalette& desktop) {
     QPalette palette;
-    const QColor back = desktopColor(wanted.back, desktop);
+    const QColor back = fieldGround(wanted.back, desktop);
     const QColor text = fieldText(wanted.fore, desktop, back);
     palette.setColor(QPalette::Base, back);
     palette.setColor(QPalette::Text, text);
-    palette.setColor(QPalette::Disabled, QPalette::Text, mixed(text, back, DisabledShare));
+    palette.setColor(QPalette::Disabled, QPalette::Text, fadedOn(text, back));
     return palette.resolve(desktop);
 }
 
@@ -119,6 +122,20 @@ QColor desktopColor(Color color, const QPalette& desktop) {
     return desktop.color(role.group, role.role);
 }
 
+QColor fieldGround(Color color, const QPalette& desktop) {
+    const QColor chosen = desktopColor(color, desktop);
+    if (isSystemColor(color)) return chosen;
+    const QColor paper = desktop.color(QPalette::Active, QPalette::Base);
+    const bool dark = isDark(paper);
+    // What is no part of a tint: the ink of pale green is all in how green differs from red and blue.
+    const int grey = std::min({chosen.red(), chosen.green(), chosen.blue()});
+    const auto tinted = [&](int channel, int onPaper) {
+        return dark ? std::min(onPaper + channel - grey, White) : onPaper * channel / White;
+    };
+    return {tinted(chosen.red(), paper.red()), tinted(chosen.green(), paper.green()),
+            tinted(chosen.blue(), paper.blue())};
+}
+
 QColor readableOn(const QColor& wanted, const QColor& background) {
     const QColor strongest = strongestOn(background);
     QColor shade = wanted;
@@ -126,6 +143,8 @@ QColor readableOn(const QColor& wanted, const QColor& background) {
         shade = mixed(wanted, strongest, static_cast<double>(step) / ShadingSteps);
     return shade;
 }
+
+QColor fadedOn(const QColor& text, const QColor& background) { return mixed(text, background, DisabledShare); }
 
 QColor edgeColor(const QPalette& desktop) {
     return mixed(desktop.color(QPalette::Window), desktop.color(QPalette::WindowText), EdgeShare);
@@ -140,7 +159,7 @@ QColor captionColorOn(const QPalette& desktop, Color color) {
 QColor disabledCaptionColor(const QPalette& desktop) {
     const QColor disabled = desktop.color(QPalette::Disabled, QPalette::WindowText);
     if (disabled != desktop.color(QPalette::Active, QPalette::WindowText)) return disabled;
-    return mixed(disabled, desktop.color(QPalette::Active, QPalette::Window), DisabledShare);
+    return fadedOn(disabled, desktop.color(QPalette::Active, QPalette::Window));
 }
 
 QPalette fieldPalette(const FieldColors& wanted, const QPalette& desktop) {

@@ -10,8 +10,15 @@ namespace kel::qt {
 /// A color of the library on the desktop that `desktop` describes.
 QColor desktopColor(Color color, const QPalette& desktop);
 
+/// How the ground of a field looks that has this colour. The controls choose theirs for white paper; on the desktop's
+/// own each is as much of a tint, of a dark one a dark tint.
+QColor fieldGround(Color color, const QPalette& desktop);
+
 /// `wanted`, or the nearest shade of it that can be read on `background`.
 QColor readableOn(const QColor& wanted, const QColor& background);
+
+/// How a text is written there that is disabled.
+QColor fadedOn(const QColor& text, const QColor& background);
 
 /// Of thin lines on the desktop's windows.
 QColor edgeColor(const QPalette& desktop);
