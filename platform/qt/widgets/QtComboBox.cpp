@@ -14,39 +14,7 @@ namespace kel::qt {
 
 namespace {
 
-/// As thick as each edge is that the frame draws over the style's own picture of the box.
-constexpr int ComboEdge = 2;
-
-/// What the sunken edge goes around.
-QRect framed(const QRect& box) { return box.adjusted(0, 0, 0, -1); }
-
-/// The light falls from the top left, also where the box is mirrored.
-void paintLines(QPainter& painter, const QRect& rect, const QColor& topLeft, const QColor& bottomRight) {
-    painter.fillRect(QRect(rect.left(), rect.top(), rect.width() - 1, 1), topLeft);
-    painter.fillRect(QRect(rect.left(), rect.top(), 1, rect.height() - 1), topLeft);
-    painter.fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1), bottomRight);
-    painter.fillRect(QRect(rect.right(), rect.top(), 1, rect.height()), bottomRight);
-}
-
-/// The strip of the button, `width` pixels of it, inside the sunken edge of a box; at its right end, `mirrored` at the
-/// left one.
-QRect comboButtonStrip(const QRect& box, int width, bool mirrored) {
-    const QRect inner = framed(box).adjusted(ComboEdge, ComboEdge, -ComboEdge, -ComboEdge);
-    const int left = mirrored ? inner.left() : inner.right() - width + 1;
-    return {left, inner.top(), width, inner.height()};
-}
-
-/// A sunken edge around all of the box but its lowest row of pixels, and a raised one around the strip; an empty strip
-/// has none.
-void paintComboFrame(QPainter& painter, const QRect& box, const QRect& strip, const QPalette& palette) {
-    const QRect outer = framed(box);
-    paintLines(painter, outer, palette.color(QPalette::Dark), palette.color(QPalette::Light));
-    paintLines(painter, outer.adjusted(1, 1, -1, -1), palette.color(QPalette::Shadow),
-               palette.color(QPalette::Midlight));
-    if (strip.isEmpty()) return;
-    paintLines(painter, strip, palette.color(QPalette::Midlight), palette.color(QPalette::Shadow));
-    paintLines(painter, strip.adjusted(1, 1, -1, -1), palette.color(QPalette::Light), palette.color(QPalette::Dark));
-}
+constexpr int LeastEdge = 2;  ///< beside the text, where the style has none
 
 }  // namespace
 
@@ -59,9 +27,6 @@ QtComboBox::~QtComboBox() = default;
 
 void QtComboBox::showMore(Changes changes) {
     if (changes.has(Change::List)) showList();
-    if (!changes.has(Change::Frame)) return;
-    placeButton();
-    placeTextAgain();
 }
 
 // ---- List
@@ -104,16 +69,14 @@ QStyleOptionComboBox QtComboBox::styleOption() const {
 }
 
 QRect QtComboBox::buttonRect() const {
-    const std::int16_t* const width = Combo_.frameButtonWidth();
-    if (width != nullptr && *width > 0) return comboButtonStrip(rect(), *width, isRightToLeft());
     const QStyleOptionComboBox option = styleOption();
     return style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, this);
 }
 
 QRect QtComboBox::findTextArea() const {
     const QRect button = buttonRect();
-    const int left = isRightToLeft() ? button.right() + 1 : ComboEdge;
-    const int right = isRightToLeft() ? width() - ComboEdge : button.left();
+    const int left = isRightToLeft() ? button.right() + 1 : LeastEdge;
+    const int right = isRightToLeft() ? width() - LeastEdge : button.left();
     return {left, 0, right - left, height()};
 }
 
@@ -177,42 +140,14 @@ void QtComboBox::hover(bool onButton) {
 
 // ---- Painting
 
-/// The button's width may be another one by now.
-void QtComboBox::paintEvent(QPaintEvent* event) {
-    placeButton();
-    QtLine::paintEvent(event);
-}
-
+/// The edge and the button are the style's own, as those of the text fields beside it are; the frame of the classic
+/// look stays with the classic desktops.
 void QtComboBox::paintGround(QPainter& painter) const {
-    const QStyleOptionFrame frameless = panel(0);
-    style()->drawPrimitive(QStyle::PE_PanelLineEdit, &frameless, &painter, this);
     const QStyleOptionComboBox option = styleOption();
-    painter.save();
-    if (Combo_.frameButtonWidth() == nullptr)
-        paintAroundText(painter, option);
-    else
-        paintFramed(painter, option);
-    painter.restore();
-}
-
-void QtComboBox::paintAroundText(QPainter& painter, const QStyleOptionComboBox& option) const {
-    const QRect text = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-    painter.setClipRegion(QRegion(rect()).subtracted(text));
     style()->drawComplexControl(QStyle::CC_ComboBox, &option, &painter, this);
-}
-
-/// The frame hides the style's own but for the row that it leaves free, where half of another one would show.
-void QtComboBox::paintFramed(QPainter& painter, const QStyleOptionComboBox& option) const {
-    const QRect strip = comboButtonStrip(rect(), *Combo_.frameButtonWidth(), isRightToLeft());
-    const QRect arrow = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, this);
-    const QRect button = strip.isEmpty() ? arrow : strip;
-    painter.save();
-    painter.setClipRect(button);
-    painter.translate(button.center() - arrow.center());
-    style()->drawComplexControl(QStyle::CC_ComboBox, &option, &painter, this);
-    painter.restore();
-    painter.fillRect(0, height() - 1, width(), 1, option.palette.window());
-    paintComboFrame(painter, rect(), strip, option.palette);
+    QStyleOptionFrame inside = panel(0);
+    inside.rect = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    style()->drawPrimitive(QStyle::PE_PanelLineEdit, &inside, &painter, this);
 }
 
 }  // namespace kel::qt

@@ -32,7 +32,6 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 
 private:
     void showMore(Changes changes) override;
@@ -46,8 +45,6 @@ private:
     QRect buttonRect() const;
     void placeButton();
     void hover(bool onButton);
-    void paintAroundText(QPainter& painter, const QStyleOptionComboBox& option) const;
-    void paintFramed(QPainter& painter, const QStyleOptionComboBox& option) const;
 
     ComboBox& Combo_;
     std::unique_ptr<ComboList> List_;
