@@ -64,6 +64,7 @@ void EntryField::put_Caption(const std::u16string& caption) {
 
 void EntryField::put_CaptionWidth(std::int16_t twips) {
     if (twips < 0) return;
+    CaptionWidthPut_ = true;
     const bool cut = Kind_.captionWithinControl && Host_.container.hasSize();
     setWidth(Label1_, cut ? std::min<std::int32_t>(twips, Host_.container.size().width) : twips);
     report<&EntryField::put_CaptionWidth>();
@@ -171,13 +172,20 @@ LayoutRule EntryField::layout() const {
 bool EntryField::layOut() {
     if (LoadingDepth_ != 0 || !Host_.container.hasSize()) return false;
     const DepthGuard guard(LoadingDepth_);
-    const FieldLayout places = layOutField(layout(), Host_.container.size(), Label1_.bounds().width);
+    const FieldLayout places = layOutField(layout(), Host_.container.size(), wantedCaptionWidth());
     Host_.container.setSize(places.control);
     const Rect caption = Label1_.bounds();
     Label1_.move({caption.left, caption.top, places.captionWidth, places.captionHeight});
     Active_->move(places.field);
     if (UpDown1_) UpDown1_->move(places.spinner);
     return true;
+}
+
+void EntryField::fitCaption(std::int32_t twips) {
+    FittedCaption_ = twips;
+    if (CaptionWidthPut_) return;
+    setWidth(Label1_, twips);
+    Control_.Resize();
 }
 
 void EntryField::show() {

@@ -104,6 +104,14 @@ public:
     void show();
     WidgetSet widgets();
 
+    /// What the caption needs (twips), for a container that measures it: it is so wide until a width is put, or again
+    /// when that is taken back. Nobody is told.
+    void fitCaption(std::int32_t twips);
+    bool isCaptionFitted() const { return FittedCaption_.has_value() && !CaptionWidthPut_; }
+    void takeBackCaptionWidth() { CaptionWidthPut_ = false; }
+    /// Where there is room for it.
+    std::int32_t wantedCaptionWidth() const { return isCaptionFitted() ? *FittedCaption_ : Label1_.bounds().width; }
+
     // ---- State that a control sets without a report
 
     void initInsertMode(bool insert) { InsertMode_ = insert; }
@@ -166,6 +174,8 @@ private:
     bool SelectOnFocus_ = false;
     bool UpDown_ = false;
     bool Shown_ = false;
+    bool CaptionWidthPut_ = false;
+    std::optional<std::int32_t> FittedCaption_;  ///< none where no container measures it
     std::int16_t LoadingDepth_ = 0;
     Color CommonBack_ = colors::SystemWindow;  ///< the last ground that every box was given
 };

@@ -11,7 +11,7 @@ namespace kel {
 
 struct FontChoice {
     std::u16string name;
-    double size = 8;  ///< points
+    double size = 8;  ///< points; 0 for the one that a field has by itself
 };
 
 /// What the default run-time object needs of its platform.

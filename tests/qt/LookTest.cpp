@@ -137,6 +137,7 @@ TEST(Looks, CaptionAndTextStandOnOneLine) {
         QWidget window;
         auto* const field = new KelTextWidget(&window);
         field->setCaption(QStringLiteral("HHH"));
+        field->setCaptionWidth(1200);
         field->setText(QStringLiteral("HHH"));
         field->setMultiLine(multiLine);
         field->setGeometry(0, 0, 240, multiLine ? 60 : 20);
@@ -159,30 +160,18 @@ TEST(Looks, FromRightToLeftTheCaptionStandsAtTheRight) {
     QWidget window;
     auto* const field = new KelTextWidget(&window);
     field->setCaption(QStringLiteral("HHH"));
+    field->setCaptionWidth(1200);
     field->setGeometry(0, 0, 240, 20);
     window.show();
+    const int height = QLineEdit().sizeHint().height();
     QWidget& box = widgetOf(*field->control().widgets().entry);
-    EXPECT_EQ(box.geometry(), QRect(80, 0, 160, 20));
+    EXPECT_EQ(box.geometry(), QRect(80, 0, 160, height));
     window.setLayoutDirection(Qt::RightToLeft);
-    EXPECT_EQ(box.geometry(), QRect(0, 0, 160, 20));
+    EXPECT_EQ(box.geometry(), QRect(0, 0, 160, height));
     EXPECT_EQ(field->control().widgets().entry->bounds(), (Rect{1200, 0, 2400, 300})) << "in twips nothing changes";
     EXPECT_GE(inkBetween(field->grab().toImage(), 162, 240).right(), 236);
     field->resize(300, 20);
-    EXPECT_EQ(box.geometry(), QRect(0, 0, 220, 20));
-}
-
-TEST(Looks, AClippedTextShowsWhole) {
-    KelTextWidget field;
-    field.setCaptionWidth(0);
-    field.setText(QStringLiteral("\u00C5gjpq"));
-    field.resize(200, 20);
-    field.show();
-    const QImage picture = field.grab().toImage();
-    constexpr int Inset = 3;
-    const QImage inside = picture.copy(Inset, Inset, 100, 20 - 2 * Inset);
-    const QRect ink = inkBetween(inside, 0, inside.width());
-    EXPECT_GT(ink.height(), 8);
-    EXPECT_LT(ink.bottom(), inside.height() - 1) << "descenders reach the frame";
+    EXPECT_EQ(box.geometry(), QRect(0, 0, 220, height));
 }
 
 }  // namespace

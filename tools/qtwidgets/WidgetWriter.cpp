@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::string_view Notice = "// Made from the type model by kel-qtwidgets.\n";
 constexpr std::u16string_view ChangeEvent = u"Change";
+constexpr std::u16string_view MeasuredMember = u"CaptionWidth";  ///< by the widget, until it is put
 
 bool isOptional(const ParameterRow& parameter) { return parameter.optional; }
 
@@ -61,6 +62,7 @@ void writeProperty(std::ostream& out, const ClassModel& model, const MemberRow& 
     out << "    Q_PROPERTY(" << qtTypeOf(member.type).name << ' ' << lowerName(member.name) << " READ "
         << lowerName(member.name);
     if (member.put != nullptr) out << " WRITE " << setterName(member.name);
+    if (member.name == MeasuredMember) out << " RESET reset" << toUtf8(member.name);
     const bool isDefault = member.id == DefaultMemberId;
     if (isDefault && hasChangeEvent(model)) out << " NOTIFY change";
     if (member.hidden || member.put == nullptr) out << " DESIGNABLE false";

@@ -24,10 +24,11 @@ QFont fontOf(const QFont& base, const FontFace& face) {
         QFont font;
     };
     static Made Last;
+    if (face == FontFace{}) return base;
     const bool isSameBase = base == Last.base && base.resolveMask() == Last.base.resolveMask();
     if (isSameBase && face == Last.face) return Last.font;
     QFont font = fontLike(base, face.name, face.size);
-    font.setBold(face.bold);
+    if (face.bold) font.setBold(true);
     Last = {base, face, font};
     return font;
 }

@@ -7,7 +7,7 @@
 #include <QPainter>
 #include <QWidget>
 
-#include "common/FieldLayout.h"
+#include "common/EntryField.h"
 #include "library/Dispatch.h"
 #include "library/SharedSettings.h"
 #include "platform/qt/base/TextBridge.h"
@@ -38,7 +38,10 @@ void setSpokenName(QWidget& widget, const QString& before, const QString& now) {
 }  // namespace
 
 ControlSite::ControlSite(KelControlWidget& widget, const ControlServices& surroundings)
-    : Host_(&widget), Widget_(&widget), Surroundings_(surroundings), Grid_(surroundings.system.scale()) {}
+    : Host_(&widget),
+      Widget_(&widget),
+      Surroundings_(surroundings),
+      Grid_(surroundings.followsFont ? gridOf(widget) : TwipGrid(surroundings.system.scale())) {}
 
 ControlSite::~ControlSite() { focus::forget(*this); }
 
@@ -109,14 +112,30 @@ void ControlSite::mirrored() {
     Widget_->update();
 }
 
+void ControlSite::measuresDiffer() {
+    if (!Surroundings_.followsFont) return;
+    forEach<PlacedView>([](PlacedView& child) { child.fontAgain(); });
+    const TwipGrid grid = gridOf(*Widget_);
+    const bool isSame = std::exchange(Grid_, grid) == grid;
+    fitCaption();
+    if (isSame) return;
+    if (Sized_) {
+        Size_ = Grid_.twips(Widget_->size());
+        Control_->Resize();
+        placeChildren();
+    }
+    Widget_->updateGeometry();
+}
+
 QSize ControlSite::sizeHint(int characters) const {
     const bool isTall = Active_ != nullptr && Active_->isTall();
-    const int caption = Label_ != nullptr ? Grid_.pixel(Label_->shown().bounds().width) : 0;
+    const EntryField* const entry = captioned();
+    const int caption = entry != nullptr ? Grid_.across().pixel(entry->wantedCaptionWidth()) : 0;
     const UpDown* const upDown = Control_->widgets().upDown;
-    const int spinner = upDown != nullptr && upDown->visible() ? Grid_.pixel(upDown->bounds().width) : 0;
-    const int field =
-        Active_ != nullptr ? Active_->widthFor(characters) : characters * Widget_->fontMetrics().averageCharWidth();
-    return {caption + field + spinner, Grid_.pixel(isTall ? TallHeight : FieldHeight)};
+    const int spinner = upDown != nullptr && upDown->visible() ? Grid_.across().pixel(upDown->bounds().width) : 0;
+    const int field = Active_ != nullptr ? Active_->widthFor(characters)
+                                         : characters * Widget_->fontMetrics().horizontalAdvance(u'x');
+    return {caption + field + spinner, Grid_.down().pixel(isTall ? TallHeight : FieldHeight)};
 }
 
 // ---- Enabled
@@ -285,6 +304,24 @@ void ControlSite::captionChanged(const QString& spokenBefore) {
     if (Label_->shown().caption().find(u'&') == std::u16string::npos) return;
     const QKeySequence key = QKeySequence::mnemonic(toQString(Label_->shown().caption()));
     if (!key.isEmpty()) Mnemonic_ = Widget_->grabShortcut(key);
+}
+
+EntryField* ControlSite::captioned() const {
+    auto* const control = dynamic_cast<EntryControl*>(Control_.get());
+    return control != nullptr ? &control->entry() : nullptr;
+}
+
+void ControlSite::fitCaption() {
+    EntryField* const entry = Surroundings_.followsFont && Label_ != nullptr ? captioned() : nullptr;
+    if (entry == nullptr) return;
+    const std::int32_t before = entry->wantedCaptionWidth();
+    entry->fitCaption(Grid_.across().twips(Label_->neededWidth()));
+    if (entry->wantedCaptionWidth() != before) Widget_->updateGeometry();
+}
+
+void ControlSite::resetCaptionWidth() {
+    if (EntryField* const entry = captioned()) entry->takeBackCaptionWidth();
+    fitCaption();
 }
 
 bool ControlSite::mnemonicPressed(int shortcutId) {

@@ -11,6 +11,10 @@
 #include "library/Control.h"
 #include "platform/qt/base/TwipGrid.h"
 
+namespace kel {
+class EntryField;
+}
+
 namespace kel::qt {
 
 class CaptionLabel;
@@ -22,6 +26,7 @@ struct ControlServices {
     SharedSettings& settings;
     System& system;
     const RegionalSettings& region;
+    bool followsFont = false;  ///< its twips go by the font of its widget; else by the scale of the system
 };
 
 /// The place of a control in its Qt widget: the container that the control sees, and the maker of its child
@@ -75,6 +80,8 @@ public:
     void resized();
     void mirrored();
     void recolored();
+    /// Its font or its style is another one.
+    void measuresDiffer();
     /// Somebody enabled or disabled the widget past its control.
     void enabledMayDiffer();
     void toolTipChanged();
@@ -96,6 +103,10 @@ public:
     void fieldEnabled(const FieldView& field, bool enabled);
     void setLabel(CaptionLabel* label) { Label_ = label; }
     void captionChanged(const QString& spokenBefore);
+    /// The caption is as wide as it needs, until it is given a width, where nobody has laid the control out in twips.
+    void fitCaption();
+    /// The width that it was given is taken back.
+    void resetCaptionWidth();
     /// Its field takes the focus by a click only.
     void leaveTabOrder();
     /// The Tab key comes here from another one. Both have a field.
@@ -111,6 +122,10 @@ public:
     /// The control's own place in a form that counts in twips; no resize follows.
     void setOrigin(QPoint twips);
     const TwipGrid& grid() const { return Grid_; }
+    /// Of a width that the control has reckoned by the scale of the system.
+    int ownPixels(int pixelsOfSystem) const {
+        return Grid_.across().pixel(Surroundings_.system.scale().twips(pixelsOfSystem));
+    }
 
 private:
     /// The child widgets, or those of them that are fields.
@@ -124,6 +139,7 @@ private:
     QSize pixelSize() const;
     void placeChildren() const;
     bool isFieldEnabled() const;
+    EntryField* captioned() const;
 
     KelControlWidget* Host_;  ///< nullptr once it is gone
     QWidget* Widget_;         ///< the host's, or what is left in its place

@@ -15,7 +15,7 @@ namespace kel::qt {
 
 namespace {
 
-constexpr int UsualCharacters = 20;
+constexpr int UsualCharacters = 17;
 constexpr int FewestCharacters = 5;
 
 Variant run(const ControlSite& site, Thunk accessor, std::span<Variant> arguments) {
@@ -29,6 +29,7 @@ Variant run(const ControlSite& site, Thunk accessor, std::span<Variant> argument
 KelControlWidget::KelControlWidget(const ClassModel& model, QWidget* parent)
     : KelControlWidget(model, defaultSurroundings(), parent) {
     control().InitProperties();
+    Site_->fitCaption();
 }
 
 KelControlWidget::KelControlWidget(const ClassModel& model, const ControlServices& surroundings, QWidget* parent)
@@ -44,12 +45,19 @@ KelControlWidget::~KelControlWidget() { retire(std::move(Site_)); }
 
 Control& KelControlWidget::control() const { return Site_->control(); }
 
-QSize KelControlWidget::sizeHint() const { return Site_->sizeHint(UsualCharacters); }
+/// A style sheet may give it another font.
+QSize KelControlWidget::sizeHint() const {
+    ensurePolished();
+    return Site_->sizeHint(UsualCharacters);
+}
 
 QSize KelControlWidget::minimumSizeHint() const {
+    ensurePolished();
     const QSize hint = Site_->sizeHint(FewestCharacters);
-    return {hint.width(), Site_->grid().pixel(FieldHeight)};
+    return {hint.width(), Site_->grid().down().pixel(FieldHeight)};
 }
+
+void KelControlWidget::resetCaptionWidth() { Site_->resetCaptionWidth(); }
 
 void KelControlWidget::controlEvent(const EventRow& /*event*/, std::span<Variant> /*arguments*/) {}
 
@@ -85,8 +93,12 @@ void KelControlWidget::changeEvent(QEvent* event) {
     switch (event->type()) {
         case QEvent::EnabledChange: Site_->enabledMayDiffer(); break;
         case QEvent::LayoutDirectionChange: Site_->mirrored(); break;
-        case QEvent::PaletteChange:
-        case QEvent::StyleChange: Site_->recolored(); break;
+        case QEvent::PaletteChange: Site_->recolored(); break;
+        case QEvent::FontChange: Site_->measuresDiffer(); break;
+        case QEvent::StyleChange:
+            Site_->measuresDiffer();
+            Site_->recolored();
+            break;
         default: break;
     }
 }

@@ -23,8 +23,8 @@ struct ControlServices;
 /// add its properties, slots and signals. It can be laid out, tabbed to, enabled and given a tooltip like any
 /// other widget; `setEnabled` and `setToolTip` reach the control too.
 ///
-/// The size counts in twips inside the control, 15 to a logical pixel. A control of fixed height takes it
-/// whatever it is given.
+/// The size counts in twips inside the control. They go by the widget's font: 15 to a logical pixel in one of 8 points,
+/// and fewer in a larger one. A control of fixed height is as high as a line edit in that font, whatever it is given.
 class KelControlWidget : public QWidget {
     Q_OBJECT
 
@@ -36,6 +36,9 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+
+    /// The caption is as wide as it needs again. A new widget's is, until it is given a `captionWidth`.
+    void resetCaptionWidth();
 
 protected:
     /// A control newly placed, with the process-wide settings. Needs a QApplication.

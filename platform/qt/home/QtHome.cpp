@@ -11,6 +11,7 @@
 #include "common/FieldLayout.h"
 #include "host/LocalClock.h"
 #include "platform/qt/base/TextBridge.h"
+#include "platform/qt/base/TwipGrid.h"
 #include "platform/qt/control/ControlSite.h"
 #include "platform/qt/control/QtFocus.h"
 #include "platform/qt/control/RetiredControls.h"
@@ -23,7 +24,6 @@ namespace kel::qt {
 
 namespace {
 
-constexpr std::int32_t UsualTwipsPerPixel = 15;
 constexpr std::int32_t TwipsPerPoint = 20;
 constexpr double SmallSize = 8;    ///< points
 constexpr int FieldFrame = 2 * 2;  ///< pixels above and below a field's text
@@ -47,8 +47,7 @@ void bringBack(QWidget& window) {
 /// The desktop's own clock, message boxes and keyboard.
 class QtSystem final : public System {
 public:
-    explicit QtSystem(const HomeOptions& options)
-        : Scale_(options.twipsPerPixel > 0 ? options.twipsPerPixel : UsualTwipsPerPixel) {}
+    explicit QtSystem(const TwipScale& scale) : Scale_(scale) {}
 
     Date today() const override { return Clock_.today(); }
     double timer() const override { return Clock_.secondsSinceMidnight(); }
@@ -72,25 +71,27 @@ private:
     mutable LocalClock Clock_;
 };
 
-/// The application's own font where a line of it fits a field and a caption, else its family in a small size.
-FontChoice fittingFont() {
+double pointsOf(const QFont& font) {
+    if (font.pointSizeF() > 0) return font.pointSizeF();
+    return static_cast<double>(TwipScale(ClassicTwipsPerPixel).twips(font.pixelSize())) / TwipsPerPoint;
+}
+
+/// Of captions and fields alike, so that they look like one line: the application's own font, but for a scale on which
+/// a line of it does not fit, its family in a small size.
+FontChoice fontFitting(const TwipScale& scale) {
     const QFont font = QApplication::font();
-    const QFontMetrics metrics(font);
-    const TwipGrid grid(UsualTwipsPerPixel);
-    const bool fits =
-        metrics.height() <= grid.pixel(FieldHeight) - FieldFrame && metrics.height() <= grid.pixel(CaptionHeight);
-    const double points =
-        font.pointSizeF() > 0 ? font.pointSizeF() : static_cast<double>(grid.twips(font.pixelSize())) / TwipsPerPoint;
-    return {std::u16string(viewOf(font.family())), fits ? points : SmallSize};
+    const int line = QFontMetrics(font).height();
+    const bool fits = line <= scale.pixel(FieldHeight) - FieldFrame && line <= scale.pixel(CaptionHeight);
+    return {std::u16string(viewOf(font.family())), fits ? pointsOf(font) : SmallSize};
 }
 
 /// What the default run-time object takes from the desktop.
 class QtServices final : public RuntimeServices {
 public:
-    explicit QtServices(const HomeOptions& options)
+    QtServices(const HomeOptions& options, FontChoice font)
         : Region_(options.region != nullptr ? *options.region : regionFromLocale(QLocale())),
           ColorDepth_(options.colorDepth),
-          Font_(fittingFont()) {}
+          Font_(std::move(font)) {}
 
     std::int32_t colorDepth() const override {
         return ColorDepth_ > 0 ? ColorDepth_ : QGuiApplication::primaryScreen()->depth();
@@ -103,12 +104,14 @@ public:
 private:
     RegionalSettings Region_;
     std::int32_t ColorDepth_;  ///< 0: the display's
-    FontChoice Font_;          ///< of captions and fields, so that they look like one line
+    FontChoice Font_;
 };
 
 class QtHome final : public Home {
 public:
-    explicit QtHome(const HomeOptions& options) : System_(options), Services_(options) {
+    /// Without a font of its own where widgets have theirs.
+    QtHome(const HomeOptions& options, const TwipScale& scale, FontChoice font)
+        : System_(scale), Services_(options, std::move(font)) {
         Settings_.makeDefaultRuntime = [this] { return makeRuntime(Services_); };
     }
 
@@ -133,12 +136,15 @@ std::unique_ptr<Home>& defaultInstance() {
 
 }  // namespace
 
-std::unique_ptr<Home> makeHome(const HomeOptions& options) { return std::make_unique<QtHome>(options); }
+std::unique_ptr<Home> makeHome(const HomeOptions& options) {
+    const TwipScale scale = options.twipsPerPixel > 0 ? TwipScale(options.twipsPerPixel) : scaleOfForms();
+    return std::make_unique<QtHome>(options, scale, fontFitting(scale));
+}
 
 Home& defaultHome() {
     std::unique_ptr<Home>& home = defaultInstance();
     if (!home) {
-        home = makeHome({});
+        home = std::make_unique<QtHome>(HomeOptions{}, TwipScale(ClassicTwipsPerPixel), FontChoice{{}, 0});
         qAddPostRoutine([] { defaultInstance().reset(); });
     }
     return *home;
@@ -148,7 +154,7 @@ ControlServices defaultSurroundings() {
     Home& home = defaultHome();
     // A control that is newly placed is never loaded, and takes some of the settings as it is made.
     if (!home.settings().Runtime) InitControls(home.settings(), home.system());
-    return {home.settings(), home.system(), home.region()};
+    return {home.settings(), home.system(), home.region(), true};
 }
 
 }  // namespace kel::qt

@@ -21,13 +21,22 @@ void CaptionLabel::outOfDate() {
     const Changes changes = Label_.takeChanges();
     const std::int32_t width = Label_.bounds().width;
     if (std::exchange(Width_, width) != width) Site_.widget().updateGeometry();
-    if (changes.has(Change::Font)) Font_ = fontOf(Font_.value_or(Site_.widget().font()), Label_.font());
     if (changes.has(Change::Caption))
         Site_.captionChanged(std::exchange(Spoken_, toQString(readCaption(Label_.caption()).text)));
+    if (changes.has(Changes(Change::Caption) | Change::Font)) Site_.fitCaption();
     paintAgain();
 }
 
 void CaptionLabel::paintAgain() { Site_.widget().update(); }
+
+QFont CaptionLabel::font() const { return fontOf(Site_.widget().font(), Label_.font()); }
+
+int CaptionLabel::neededWidth() const {
+    if (Label_.caption().empty()) return 0;
+    const QFontMetrics metrics(font());
+    const int text = metrics.size(int{Qt::TextSingleLine} | Qt::TextShowMnemonic, toQString(Label_.caption())).width();
+    return text + metrics.horizontalAdvance(u'x');
+}
 
 QRect CaptionLabel::area() const {
     QRect area = Site_.pixelRect(Label_.bounds());
@@ -48,7 +57,7 @@ void CaptionLabel::paint(QPainter& painter, int baseline) const {
 
     QRect area = this->area();
     painter.setClipRect(area);
-    painter.setFont(Font_.value_or(widget.font()));
+    painter.setFont(font());
     painter.setPen(enabled ? captionColorOn(option.palette, Label_.foreColor()) : disabledCaptionColor(option.palette));
 
     const bool underlines = style.styleHint(QStyle::SH_UnderlineShortcut, &option, &widget) != 0;

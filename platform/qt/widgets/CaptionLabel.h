@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <QFont>
 #include <QString>
 
@@ -26,18 +25,20 @@ public:
     /// Without the mark of the mnemonic, as it is read out.
     const QString& spokenCaption() const { return Spoken_; }
 
-    /// With the baseline of its first line at `baseline` (pixels from the composite's top), in all the height
-    /// of the composite.
-    /// That it may paint in.
+    /// Of the caption in one line and a gap to the field, pixels; 0 without one.
+    int neededWidth() const;
+    /// That it may paint in: all the height of the composite.
     QRect area() const;
+    /// With the baseline of its first line at `baseline` (pixels from the composite's top).
     void paint(QPainter& painter, int baseline) const;
 
 private:
     ControlSite& Site_;
     Label& Label_;
+    QFont font() const;
+
     QString Spoken_;
-    std::optional<QFont> Font_;  ///< none: the composite's
-    std::int32_t Width_ = 0;     ///< twips, as the composite knows it
+    std::int32_t Width_ = 0;  ///< twips, as the composite knows it
 };
 
 }  // namespace kel::qt

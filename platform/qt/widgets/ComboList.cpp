@@ -9,6 +9,7 @@
 
 #include "platform/qt/base/EdgeGuard.h"
 #include "platform/qt/base/TextBridge.h"
+#include "platform/qt/control/ControlSite.h"
 
 namespace kel::qt {
 
@@ -68,9 +69,10 @@ QRect ComboList::place() const {
     const bool opensUp = heightOf(rows) > below && above > below;
     while (rows > 1 && heightOf(rows) > std::max(above, below)) --rows;
 
-    QRect list(box.left(), box.bottom() + 1,
-               std::clamp(int{Combo_.droppedWidth()}, box.width(), std::max(screen.width(), box.width())),
-               heightOf(rows));
+    QRect list(
+        box.left(), box.bottom() + 1,
+        std::clamp(Box_.site().ownPixels(Combo_.droppedWidth()), box.width(), std::max(screen.width(), box.width())),
+        heightOf(rows));
     if (opensUp) list.moveBottom(box.top() - 1);
     if (Box_.isRightToLeft()) list.moveRight(box.right());
     list.moveLeft(std::max(std::min(list.left(), screen.right() - list.width() + 1), screen.left()));

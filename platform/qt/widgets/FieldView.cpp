@@ -47,10 +47,12 @@ void FieldView::showState(Changes changes) {
         widget().setVisible(Shown_.visible());
         if (Shown_.visible()) site().fieldShown(*this);
     }
-    if (changes.has(Change::Font)) setWidgetFont(widget(), fontOf(widget().font(), Shown_.font()));
+    if (changes.has(Change::Font)) fontAgain();
     if (changes.has(Change::ToolTip)) setWidgetToolTip(widget(), Shown_.toolTip());
 }
 
-int FieldView::widthFor(int characters) const { return characters * widget().fontMetrics().averageCharWidth(); }
+void FieldView::fontAgain() { setWidgetFont(widget(), fontOf(site().widget().font(), Shown_.font())); }
+
+int FieldView::widthFor(int characters) const { return characters * widget().fontMetrics().horizontalAdvance(u'x'); }
 
 }  // namespace kel::qt

@@ -23,6 +23,7 @@ public:
     /// say nothing while the window is inactive.
     void giveUpFocus();
 
+    void fontAgain() override;
     /// The desktop's colours are others.
     virtual void colorAgain() = 0;
 

@@ -22,6 +22,8 @@ PlacedView::PlacedView(ControlSite& site, QWidget& widget, Widget& shown)
     static_cast<void>(Installed);
 }
 
-void PlacedView::placeAgain() { Widget_.setGeometry(Site_.pixelRect(Shown_.bounds())); }
+void PlacedView::placeAgain() { Widget_.setGeometry(place()); }
+
+QRect PlacedView::place() const { return Site_.pixelRect(Shown_.bounds()); }
 
 }  // namespace kel::qt

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QRect>
+
 class QAccessibleInterface;
 class QWidget;
 
@@ -25,9 +27,16 @@ public:
 
     /// The composite is mirrored now, or no longer, or its pixels are others.
     void placeAgain();
+    /// The composite's font is another one. Where a style sheet names it for the composite alone, Qt does not hand it
+    /// on.
+    virtual void fontAgain() {}
 
     /// What assistive technology finds; nullptr for what it would find of any such widget.
     virtual QAccessibleInterface* makeAccessible() { return nullptr; }
+
+protected:
+    /// In the composite, pixels.
+    virtual QRect place() const;
 
 private:
     ControlSite& Site_;

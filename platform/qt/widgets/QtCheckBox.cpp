@@ -77,6 +77,13 @@ int QtCheckBox::baseline() const {
 /// The caption is all there is to be seen.
 int QtCheckBox::widthFor(int /*characters*/) const { return QCheckBox::sizeHint().width(); }
 
+/// All the height of the control, where the style wants more for a line than its share.
+QRect QtCheckBox::place() const {
+    const QRect share = FieldView::place();
+    if (share.height() >= QCheckBox::sizeHint().height()) return share;
+    return {share.left(), 0, share.width(), site().widget().height()};
+}
+
 /// The control alone takes no input while it is locked; with something around it that takes none, it is as grey as all
 /// there.
 bool QtCheckBox::looksEnabled() const {

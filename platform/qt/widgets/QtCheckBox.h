@@ -35,6 +35,7 @@ protected:
     void nextCheckState() override;
 
 private:
+    QRect place() const override;
     void stateChangedInWidget();
     bool looksEnabled() const;
     QStyleOptionButton look() const;

@@ -201,6 +201,11 @@ int QtLine::baseline() const {
     return area.y() + (area.height() - metrics.height() + 1) / 2 + metrics.ascent();
 }
 
+/// With the edges, and the button of a combo box.
+int QtLine::widthFor(int characters) const {
+    return FieldView::widthFor(characters) + width() - textArea().width() + 2 * TextMargin;
+}
+
 /// As far as need be, and no further than the text reaches.
 void QtLine::scrollToCaret() {
     const int room = textArea().width() - 2 * TextMargin;

@@ -28,6 +28,7 @@ public:
     void colorAgain() override { recolor(); }
     bool isTall() const override { return false; }
     int baseline() const override;
+    int widthFor(int characters) const override;
 
     QAccessibleInterface* makeAccessible() override;
     /// The colours it has now.

@@ -5,6 +5,7 @@
 #include <QAccessibleWidget>
 #include <QPainter>
 #include <QStyle>
+#include <QStyleOptionProgressBar>
 
 #include "platform/qt/base/FieldColors.h"
 #include "platform/qt/base/TextBridge.h"
@@ -58,13 +59,15 @@ void QtPictureBox::outOfDate() {
     const Changes changes = Box_.takeChanges();
     if (changes.has(Change::Place)) placeAgain();
     if (changes.has(Change::Enabled)) setEnabled(Box_.enabled());
-    if (changes.has(Change::Font)) setWidgetFont(*this, fontOf(font(), Box_.font()));
+    if (changes.has(Change::Font)) fontAgain();
     if (changes.has(Change::ToolTip)) setWidgetToolTip(*this, Box_.toolTip());
     update();
     if (!changes.has(Change::Percent) || !QAccessible::isActive()) return;
     QAccessibleValueChangeEvent event(this, picture().percent);
     QAccessible::updateAccessibility(&event);
 }
+
+void QtPictureBox::fontAgain() { setWidgetFont(*this, fontOf(site().widget().font(), Box_.font())); }
 
 Size QtPictureBox::extentOf(std::u16string_view text) const {
     const QFontMetrics metrics = fontMetrics();
@@ -83,38 +86,80 @@ QRectF QtPictureBox::barArea() const {
     return {isRightToLeft() ? width() - length : 0, 0, length, static_cast<double>(height())};
 }
 
-void QtPictureBox::paintEvent(QPaintEvent* /*event*/) {
-    const QPalette& colors = palette();
-    const QColor ground = colors.color(QPalette::Window);
-    // Readable on the ground, and so the ground on it.
-    const QColor ink = isEnabled() ? captionColorOn(colors, Box_.foreColor()) : disabledCaptionColor(colors);
-    const QRectF bar = barArea();
-    QPainter painter(this);
-    painter.fillRect(rect(), colors.window());
-    if (!bar.isEmpty()) painter.fillRect(bar, ink);
-    if (!picture().text.empty()) paintText(painter, bar, ink, ground);
+QPixmap QtPictureBox::paintedByStyle(bool full) const {
+    QStyleOptionProgressBar option;
+    option.initFrom(this);
+    option.state |= QStyle::State_Horizontal;
+    option.maximum = Whole;
+    option.progress = Whole;
+    QPixmap picture(size() * devicePixelRatio());
+    picture.setDevicePixelRatio(devicePixelRatio());
+    picture.fill(palette().color(QPalette::Window));
+    QPainter painter(&picture);
+    const auto paint = [&](QStyle::SubElement place, QStyle::ControlElement what) {
+        QStyleOptionProgressBar part = option;
+        part.rect = style()->subElementRect(place, &option, this);
+        style()->drawControl(what, &part, &painter, this);
+    };
+    paint(QStyle::SE_ProgressBarGroove, QStyle::CE_ProgressBarGroove);
+    // An empty bar has none, but for a sliver that some styles leave there.
+    if (full) paint(QStyle::SE_ProgressBarContents, QStyle::CE_ProgressBarContents);
+    return picture;
 }
 
-void QtPictureBox::paintText(QPainter& painter, const QRectF& bar, const QColor& ink, const QColor& ground) const {
+QtPictureBox::Side QtPictureBox::makeSide(bool full) const {
+    const QPixmap picture = paintedByStyle(full);
+    const QColor ground = picture.toImage().pixelColor(QRect({}, picture.size()).center());
+    const QPalette::ColorRole usual = full ? QPalette::HighlightedText : QPalette::Text;
+    const QColor readable = readableOn(palette().color(QPalette::Active, usual), ground);
+    return {picture, isEnabled() ? readable : fadedOn(readable, ground)};
+}
+
+/// A bar is drawn with every step of a job, and the style takes ten times as long for it as for copying it.
+void QtPictureBox::prepare() {
+    if (!Empty_.picture.isNull()) return;
+    Empty_ = makeSide(false);
+    Full_ = makeSide(true);
+}
+
+void QtPictureBox::forget() {
+    Empty_ = {};
+    Full_ = {};
+    update();
+}
+
+void QtPictureBox::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    forget();
+}
+
+void QtPictureBox::paintEvent(QPaintEvent* /*event*/) {
+    prepare();
+    const QRectF bar = barArea();
+    const QRectF rest =
+        isRightToLeft() ? QRectF(0, 0, bar.left(), height()) : QRectF(bar.right(), 0, width() - bar.right(), height());
+    QPainter painter(this);
+    paintSide(painter, Full_, bar);
+    paintSide(painter, Empty_, rest);
+}
+
+void QtPictureBox::paintSide(QPainter& painter, const Side& side, const QRectF& part) const {
+    if (part.isEmpty()) return;
+    const qreal ratio = side.picture.devicePixelRatio();
+    painter.drawPixmap(part, side.picture, QRectF(part.topLeft() * ratio, part.size() * ratio));
     const QString text = toQString(picture().text);
     const QFontMetrics metrics = fontMetrics();
     const TwipGrid& grid = site().grid();
-    QRect area(grid.pixel(picture().textLeft), grid.pixel(picture().textTop), metrics.horizontalAdvance(text),
-               metrics.height());
+    QRect area(grid.across().pixel(picture().textLeft), grid.down().pixel(picture().textTop),
+               metrics.horizontalAdvance(text), metrics.height());
     area = QStyle::visualRect(layoutDirection(), rect(), area);
-    const QPointF start(area.left(), area.top() + metrics.ascent());
-    const QRectF rest =
-        isRightToLeft() ? QRectF(0, 0, bar.left(), height()) : QRectF(bar.right(), 0, width() - bar.right(), height());
-    const auto write = [&](const QRectF& part, const QColor& color) {
-        if (!part.intersects(area)) return;
-        painter.setClipRect(part);
-        painter.setPen(color);
-        painter.drawText(start, text);
-    };
+    if (!part.intersects(area)) return;
     // A text runs in its own direction, whichever way the window does.
     painter.setLayoutDirection(Qt::LayoutDirectionAuto);
-    write(bar, ground);
-    write(rest, ink);
+    painter.setClipRect(part);
+    painter.setPen(side.ink);
+    painter.drawText(QPointF(area.left(), area.top() + metrics.ascent()), text);
+    painter.setClipping(false);
 }
 
 }  // namespace kel::qt
