@@ -251,7 +251,11 @@ void EntryField::complain(std::u16string_view prompt, std::u16string_view title)
 void EntryControl::WriteProperties(PropertyBag& bag) const { writePersisted(*this, bag); }
 
 Standing EntryControl::standing() {
-    return {.required = entry().get_Mandatory(), .valid = isValid(), .locked = entry().get_Locked(), .range = range()};
+    return {.required = entry().get_Mandatory(),
+            .valid = isValid(),
+            .locked = entry().get_Locked(),
+            .changed = differsFromOriginal(),
+            .range = range()};
 }
 
 }  // namespace kel

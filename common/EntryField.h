@@ -55,6 +55,7 @@ public:
     template <auto Put>
     void report() {
         Host_.container.propertyChanged(model().rowPutBy<Put>());
+        mayDiffer();
     }
     /// The same for a change of a bound property that comes from the user: asks before it, and tells after it.
     template <auto Put>
@@ -64,6 +65,26 @@ public:
     template <auto Put>
     void tellChanged() const {
         Host_.container.boundChanged(model().rowPutBy<Put>());
+        mayDiffer();
+    }
+
+    /// While it lives the control is on its way from one state to the next; who follows it is told of the last one.
+    class Deed {
+    public:
+        explicit Deed(const EntryField& field) : Field_(field) { ++Field_.DeedDepth_; }
+        ~Deed() {
+            --Field_.DeedDepth_;
+            Field_.mayDiffer();
+        }
+        Deed(const Deed&) = delete;
+        Deed& operator=(const Deed&) = delete;
+
+    private:
+        const EntryField& Field_;
+    };
+    /// Tells who follows the control, but for a deed that is not over.
+    void mayDiffer() const {
+        if (DeedDepth_ == 0) Host_.container.standingMayDiffer();
     }
 
     // ---- Members of the controls
@@ -177,6 +198,7 @@ private:
     bool CaptionWidthPut_ = false;
     std::optional<std::int32_t> FittedCaption_;  ///< none where no container measures it
     std::int16_t LoadingDepth_ = 0;
+    mutable std::int16_t DeedDepth_ = 0;
     Color CommonBack_ = colors::SystemWindow;  ///< the last ground that every box was given
 };
 
@@ -197,6 +219,7 @@ public:
 protected:
     /// The text as it stands.
     virtual bool isValid() = 0;
+    virtual bool differsFromOriginal() const = 0;
     virtual std::optional<NumberRange> range() const { return std::nullopt; }
 };
 

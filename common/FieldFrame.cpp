@@ -32,6 +32,9 @@ std::shared_ptr<Runtime> runtimeFor(const ControlHost& host) {
 
 std::shared_ptr<RuntimeDates> runtimeDates(const ControlHost& host) { return runtimeFor(host)->RuntimeDates(); }
 
-void moveFocusOn(const ControlHost& host) { runtimeFor(host)->SendKey(keys::Tab); }
+void moveFocusOn(const ControlHost& host) {
+    runtimeFor(host)->SendKey(keys::Tab);
+    host.container.finished();
+}
 
 }  // namespace kel

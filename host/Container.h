@@ -42,6 +42,15 @@ public:
     /// Such a property has another value, and `propertyChanged` did not tell of it.
     virtual void boundChanged(const MemberRow& /*property*/) {}
 
+    /// What the control holds, or how it stands (`Control::heldValue`, `Control::standing`), may have become something
+    /// else, by a person or by code. Told once what has been done is done, and needlessly at times: who follows the
+    /// control compares.
+    virtual void standingMayDiffer() {}
+    /// A person has edited the text.
+    virtual void textEdited() {}
+    /// A person is through with the field, by the Enter key: the focus is about to move on, if it can.
+    virtual void finished() {}
+
     /// Runs the host's handlers; by-reference arguments come back in `arguments`.
     virtual void raiseEvent(const EventRow& event, std::span<Variant> arguments) = 0;
 

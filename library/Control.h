@@ -24,6 +24,7 @@ struct Standing {
     bool required = false;  ///< a person must not leave it empty
     bool valid = true;      ///< as it stands, without being committed
     bool locked = false;
+    bool changed = false;  ///< the value as it would be committed now is not the original one
     std::optional<NumberRange> range{};
 };
 
@@ -46,6 +47,11 @@ public:
 
     /// The child widgets as they stand, for whoever draws, drives or describes the control.
     virtual WidgetSet widgets() = 0;
+
+    /// The value of the default property, read without touching the text: as it was last committed, and as committing
+    /// the text that stands would leave it.
+    virtual Variant heldValue() const { return {}; }
+    virtual Variant valueToStore() const { return heldValue(); }
 
     virtual Standing standing() { return {}; }
     /// A person sets the number of a field that has a range, as its spinner would. False where the field does not take

@@ -64,6 +64,7 @@ void KelCheck::put_Value(bool value) {
     }
     ValueOriginal_ = value;
     report<&KelCheck::put_Value>();
+    Host_.container.standingMayDiffer();
 }
 
 // ---- The container
@@ -95,6 +96,7 @@ void KelCheck::Check1_Click() {
     if (EventDepth_ != 0) return;
     Host_.container.boundChanged(model().rowPutBy<&KelCheck::put_Value>());
     Host_.container.raiseEvent(Change, {});
+    Host_.container.standingMayDiffer();
 }
 
 void KelCheck::Check1_KeyPress(char32_t& KeyAscii) {

@@ -34,7 +34,10 @@ public:
     /// Raises no `Change`.
     void put_Value(bool value);
     bool get_ValueOriginal() const { return ValueOriginal_; }
-    void put_ValueOriginal(bool value) { ValueOriginal_ = value; }
+    void put_ValueOriginal(bool value) {
+        ValueOriginal_ = value;
+        Host_.container.standingMayDiffer();
+    }
     bool get_ValueSaved() const { return ValueSaved_; }
     void put_ValueSaved(bool value) { ValueSaved_ = value; }
 
@@ -48,10 +51,11 @@ public:
     void WriteProperties(PropertyBag& bag) const override;
     void Resize() override;
     void Show() override;
-    void EnterFocus() override { ValueOriginal_ = get_Value(); }
+    void EnterFocus() override { put_ValueOriginal(get_Value()); }
     void ExitFocus() override {}
     WidgetSet widgets() override { return {.field = &Check1_, .checkBox = &Check1_}; }
-    Standing standing() override { return {.required = Mandatory_, .locked = Locked_}; }
+    Variant heldValue() const override { return get_Value(); }
+    Standing standing() override { return {.required = Mandatory_, .locked = Locked_, .changed = get_Changed()}; }
 
 private:
     bool Check1_Toggle() override;

@@ -44,6 +44,7 @@ void KelCombo::put_List(const std::u16string& list) { loadItems(listItemsOf(list
 void KelCombo::ListFromArray(const StringArray& strArray) { loadItems(listItemsOf(strArray)); }
 
 void KelCombo::loadItems(ListItems items) {
+    const EntryField::Deed deed(Field_);
     const std::u16string text = Combo1_.text();
     Combo1_.setItems(std::move(items));
     put_Text(text);
@@ -66,6 +67,7 @@ std::int16_t KelCombo::get_ListIndex() const {
 
 void KelCombo::put_ListIndex(std::int16_t item) {
     if (item < 1 || item > get_ListCount() || !Field_.mayChange<&KelCombo::put_Text>()) return;
+    const EntryField::Deed deed(Field_);
     {
         const DepthGuard guard(SelectionDepth_);
         Combo1_.setListIndex(item - 1);
@@ -121,6 +123,7 @@ const std::u16string& KelCombo::get_Text() const {
 }
 
 void KelCombo::put_Text(const std::u16string& text) {
+    const EntryField::Deed deed(Field_);
     {
         const DepthGuard guard(SelectionDepth_);
         Typing_ = false;
@@ -151,6 +154,7 @@ void KelCombo::showText(const std::u16string& text) const {
 /// What the user leaves behind: an item where there is one, no text that is none where only items may stand, and no
 /// mandatory field without a text, as long as there is one that may stand.
 void KelCombo::settleText() const {
+    const EntryField::Deed deed(Field_);
     {
         const DepthGuard guard(SelectionDepth_);
         Typing_ = false;
@@ -164,12 +168,25 @@ void KelCombo::settleText() const {
 }
 
 /// The reference may be a text from before only items could stand; such a one stays away.
-void KelCombo::bringBackOriginal() const {
+std::u16string KelCombo::originalThatMayStand() const {
     const bool mayStand = !LimitToList_ || Combo1_.items().findExact(TextOriginal_) != ListItems::NotFound;
-    Combo1_.setText(mayStand ? TextOriginal_ : std::u16string());
+    return mayStand ? TextOriginal_ : std::u16string();
+}
+
+void KelCombo::bringBackOriginal() const { Combo1_.setText(originalThatMayStand()); }
+
+/// The text that settling would leave.
+std::u16string KelCombo::settledText() const {
+    const std::u16string& text = Combo1_.text();
+    if (!Typing_) return text;
+    if (text.empty()) return Field_.get_Mandatory() ? originalThatMayStand() : std::u16string();
+    const std::int32_t item = Combo1_.items().findExact(text);
+    if (item != ListItems::NotFound) return std::u16string(Combo1_.items().item(item));
+    return LimitToList_ ? std::u16string() : text;
 }
 
 void KelCombo::put_LimitToList(bool limit) {
+    const EntryField::Deed deed(Field_);
     LimitToList_ = limit;
     Field_.report<&KelCombo::put_LimitToList>();
     if (!limit) return;
@@ -189,6 +206,7 @@ bool KelCombo::get_Valid() const {
 
 void KelCombo::Combo1_Change() {
     if (SelectionDepth_ > 0) return;
+    const EntryField::Deed deed(Field_);
     if (Typing_) {
         completeTyping();
     } else if (LimitToList_ && Combo1_.listIndex() == ListItems::NotFound && Combo1_.textLength() != 0) {
@@ -202,6 +220,7 @@ void KelCombo::Combo1_Change() {
 }
 
 void KelCombo::Combo1_Click() {
+    const EntryField::Deed deed(Field_);
     tellText();
     if (SelectionDepth_ > 0 || !get_Changed() || !hostWantsChange()) return;
     Field_.host().container.raiseEvent(Click, {});
@@ -244,6 +263,7 @@ void KelCombo::selectFrom(std::int32_t caret) {
 }
 
 void KelCombo::Combo1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) {
+    const EntryField::Deed deed(Field_);
     Typing_ = true;
     const bool deletes = KeyCode == keys::Delete && Shift == NoModifier;
     if (!deletes || Combo1_.selLength() == 0 || Combo1_.locked()) return;
@@ -305,7 +325,7 @@ void KelCombo::ReadProperties(PropertyBag& bag) {
 // ---- Focus
 
 void KelCombo::EnterFocus() {
-    TextOriginal_ = Combo1_.text();
+    put_TextOriginal(Combo1_.text());
     Combo1_.setExtendedUi(true);
 }
 

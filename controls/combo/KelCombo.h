@@ -39,10 +39,17 @@ public:
     const std::u16string& get_Text() const;
     void put_Text(const std::u16string& text);
     const std::u16string& get_TextOriginal() const { return TextOriginal_; }
-    void put_TextOriginal(const std::u16string& text) { TextOriginal_ = text; }
+    void put_TextOriginal(const std::u16string& text) {
+        TextOriginal_ = text;
+        Field_.mayDiffer();
+    }
     const std::u16string& get_TextSaved() const { return TextSaved_; }
     void put_TextSaved(const std::u16string& text) { TextSaved_ = text; }
     bool get_Valid() const;
+
+    /// The item that the text is, counted from 0, also where it may be any other; `ListItems::NotFound` for none.
+    std::int32_t itemOfText() const { return Combo1_.items().findExact(settledText()); }
+    const ListItems& items() const { return Combo1_.items(); }
 
     /// The width as form files keep it.
     std::int16_t storedDropDownWidth() const { return static_cast<std::int16_t>(DropDownWidth_); }
@@ -57,9 +64,12 @@ public:
     void ExitFocus() override;
     WidgetSet widgets() override;
     EntryField& entry() override { return Field_; }
+    Variant heldValue() const override { return Combo1_.text(); }
+    Variant valueToStore() const override { return settledText(); }
 
 private:
     bool isValid() override { return get_Valid(); }
+    bool differsFromOriginal() const override { return get_Changed(); }
 
     void Combo1_Change() override;
     void Combo1_Click() override;
@@ -74,7 +84,9 @@ private:
     bool selectEqual(const std::u16string& text) const;
     void showText(const std::u16string& text) const;
     void settleText() const;
+    std::u16string settledText() const;
     void bringBackOriginal() const;
+    std::u16string originalThatMayStand() const;
     void completeTyping();
     void selectFrom(std::int32_t caret);
     void expectResult(EditAction action);

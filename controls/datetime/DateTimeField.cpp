@@ -34,6 +34,7 @@ const DateTimeField& DateTimeField::of(const Object& control) {
 void DateTimeField::put_Format(const std::u16string& format) {
     std::optional<std::u16string> accepted = Rules_.acceptedFormat(format);
     if (!accepted) return;
+    const EntryField::Deed deed(Entry_);
     const bool stands = showsValue();
     Format_ = FieldFormat(std::move(*accepted));
     Entry_.report<&DateTimeField::put_Format>();
@@ -60,6 +61,7 @@ const Variant& DateTimeField::get_Value() {
 }
 
 void DateTimeField::put_Value(const Variant& value) {
+    const EntryField::Deed deed(Entry_);
     const std::optional<Date> date = parsed(value);
     Value_ = date ? Variant(Rules_.assigned(*date, host())) : Variant(Null{});
     ValueOriginal_ = Value_;
@@ -72,6 +74,11 @@ std::optional<Date> DateTimeField::valueToStore() const {
     if (!TextDirty_ || Entry_.get_Locked()) return dateIn(Value_);
     const std::optional<Date> date = read();
     return date ? std::optional(Rules_.committed(*date, host(), Bounds_)) : std::nullopt;
+}
+
+bool DateTimeField::differsFromOriginal() const {
+    const std::optional<Date> date = valueToStore();
+    return isChanged(ValueOriginal_, date ? Variant(*date) : Variant(Null{}));
 }
 
 bool DateTimeField::get_Valid(bool ShowMessage) {
@@ -95,6 +102,7 @@ bool DateTimeField::showsValue() const { return Text1_.text() == Format_.show(da
 std::optional<Date> DateTimeField::read() const { return showsValue() ? dateIn(Value_) : parsed(Text1_.text()); }
 
 void DateTimeField::CommitText() {
+    const EntryField::Deed deed(Entry_);
     TextDirty_ = false;
     if (Entry_.get_Locked()) return;
     takeRead(read());
@@ -119,6 +127,7 @@ void DateTimeField::take(const Variant& value) {
 
 void DateTimeField::step(std::int32_t delta) {
     if (Entry_.get_Locked()) return;
+    const EntryField::Deed deed(Entry_);
     const BoxState before{.text = Text1_.text(), .caret = static_cast<std::size_t>(Text1_.selStart()), .value = read()};
     const FieldStep step = Rules_.step(before, delta, host(), textRules());
     if (!mayTake(step.value)) return;
@@ -144,6 +153,7 @@ void DateTimeField::exitFocus() {
 }
 
 void DateTimeField::takeRegion(const RegionalSettings& region) {
+    const EntryField::Deed deed(Entry_);
     if (TextDirty_) CommitText();
     Entry_.takeRegion(region);
     show(dateIn(Value_));
@@ -159,6 +169,7 @@ bool DateTimeField::isValueOutOfRange() const {
 }
 
 void DateTimeField::Text1_GotFocus() {
+    const EntryField::Deed deed(Entry_);
     Entry_.selectByTab();
     Entry_.colorOnGotFocus();
     if (!Entry_.get_Locked() && isValueOutOfRange()) TextDirty_ = true;
@@ -200,6 +211,13 @@ void DateTimeField::UpDown1_Change() {
     if (direction == 0) return;
     step(direction);
     Entry_.restSpinner();
+}
+
+// ---- The control
+
+Variant DateTimeControl::valueToStore() const {
+    const std::optional<Date> date = field().valueToStore();
+    return date ? Variant(*date) : Variant(Null{});
 }
 
 }  // namespace kel

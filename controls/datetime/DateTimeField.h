@@ -63,12 +63,17 @@ public:
     /// Does not heed the bounds.
     void put_Value(const Variant& value);
     const Variant& get_ValueOriginal() const { return ValueOriginal_; }
-    void put_ValueOriginal(const Variant& value) { ValueOriginal_ = value; }
+    void put_ValueOriginal(const Variant& value) {
+        ValueOriginal_ = value;
+        Entry_.mayDiffer();
+    }
     const Variant& get_ValueSaved() const { return ValueSaved_; }
     void put_ValueSaved(const Variant& value) { ValueSaved_ = value; }
 
-    /// The value as it would be committed now.
+    /// The value as it was last committed, and as it would be committed now.
+    const Variant& heldValue() const { return Value_; }
     std::optional<Date> valueToStore() const;
+    bool differsFromOriginal() const;
 
     // ---- What the container tells
 
@@ -77,7 +82,7 @@ public:
     void takeRegion(const RegionalSettings& region);
 
 private:
-    void Text1_Change() override {}
+    void Text1_Change() override { Entry_.mayDiffer(); }
     void Text1_Click() override {}
     void Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) override;
     void Text1_KeyPress(char32_t& KeyAscii) override;
@@ -128,9 +133,12 @@ public:
     void EnterFocus() override {}
     void ExitFocus() override { field().exitFocus(); }
     void RegionChanged(const RegionalSettings& region) override { field().takeRegion(region); }
+    Variant heldValue() const override { return field().heldValue(); }
+    Variant valueToStore() const override;
 
 private:
     bool isValid() override { return field().get_Valid(false); }
+    bool differsFromOriginal() const override { return field().differsFromOriginal(); }
 };
 
 }  // namespace kel

@@ -46,6 +46,7 @@ void KelNumber::put_UpDownChange(double step) {
 
 void KelNumber::put_Decimals(std::int16_t count) {
     if (count < RegionalDecimals || count > MostDecimals) return;
+    const EntryField::Deed deed(Field_);
     Decimals_ = count;
     Field_.report<&KelNumber::put_Decimals>();
     takeDecimals();
@@ -64,6 +65,7 @@ void KelNumber::takeDecimals() {
 }
 
 void KelNumber::RegionChanged(const RegionalSettings& region) {
+    const EntryField::Deed deed(Field_);
     if (TextDirty_) CommitText();
     const bool stands = Text1_.text() == valueText();
     Field_.takeRegion(region);
@@ -72,12 +74,14 @@ void KelNumber::RegionChanged(const RegionalSettings& region) {
 }
 
 void KelNumber::put_MaxValue(double maximum) {
+    const EntryField::Deed deed(Field_);
     MaxValue_ = roundNumber(maximum);
     Field_.report<&KelNumber::put_MaxValue>();
     MinValue_ = std::min(MinValue_, MaxValue_);
 }
 
 void KelNumber::put_MinValue(double minimum) {
+    const EntryField::Deed deed(Field_);
     MinValue_ = roundNumber(minimum);
     Field_.report<&KelNumber::put_MinValue>();
     MaxValue_ = std::max(MaxValue_, MinValue_);
@@ -111,6 +115,7 @@ double KelNumber::storedValue() const {
 
 void KelNumber::put_Value(const Variant& value) {
     if (!isNumeric(value, Field_.region())) return;
+    const EntryField::Deed deed(Field_);
     Value_ = numberFromValue(value);
     ValueOriginal_ = Value_;
     showValue();
@@ -126,6 +131,7 @@ std::u16string KelNumber::valueText() const {
 void KelNumber::showValue() { Text1_.setText(valueText()); }
 
 void KelNumber::CommitText() {
+    const EntryField::Deed deed(Field_);
     TextDirty_ = false;
     if (Field_.get_Locked()) return;
     takeValue(bounded(parseField()));
@@ -157,6 +163,7 @@ std::optional<NumberRange> KelNumber::range() const {
 }
 
 void KelNumber::moveTo(double number) {
+    const EntryField::Deed deed(Field_);
     Text1_.setText(generalNumber(number, Field_.region()));
     CommitText();
     if (Value_ == ValueOriginal_) return;
@@ -189,11 +196,12 @@ void KelNumber::InitProperties() {
 // ---- Focus
 
 void KelNumber::EnterFocus() {
-    ValueOriginal_ = Value_;
+    put_ValueOriginal(Value_);
     Text1_.setForeColor(Black);
 }
 
 void KelNumber::Text1_GotFocus() {
+    const EntryField::Deed deed(Field_);
     TextBox& box = Text1_;
     if (!Field_.get_Locked()) {
         if (!SpinFocus_) box.setText(editText(Value_, DecimalsInUse_, Field_.region()));
@@ -206,6 +214,7 @@ void KelNumber::Text1_GotFocus() {
 }
 
 void KelNumber::ExitFocus() {
+    const EntryField::Deed deed(Field_);
     CommitText();
     Text1_.setForeColor(numberColor(Value_));
     Field_.colorOnExit();

@@ -34,7 +34,10 @@ public:
     /// Ignores what is not numeric, and does not heed the bounds.
     void put_Value(const Variant& value);
     double get_ValueOriginal() const { return ValueOriginal_; }
-    void put_ValueOriginal(double value) { ValueOriginal_ = value; }
+    void put_ValueOriginal(double value) {
+        ValueOriginal_ = value;
+        Field_.mayDiffer();
+    }
     double get_ValueSaved() const { return ValueSaved_; }
     void put_ValueSaved(double value) { ValueSaved_ = value; }
 
@@ -48,14 +51,17 @@ public:
     void EnterFocus() override;
     void ExitFocus() override;
     EntryField& entry() override { return Field_; }
+    Variant heldValue() const override { return Value_; }
+    Variant valueToStore() const override { return storedValue(); }
     /// Within the bounds.
     bool enterNumber(double number) override;
 
 private:
     bool isValid() override { return get_Valid(false); }
+    bool differsFromOriginal() const override { return storedValue() != ValueOriginal_; }
     std::optional<NumberRange> range() const override;
 
-    void Text1_Change() override {}
+    void Text1_Change() override { Field_.mayDiffer(); }
     void Text1_Click() override {}
     void Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) override;
     void Text1_KeyPress(char32_t& KeyAscii) override;

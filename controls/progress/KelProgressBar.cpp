@@ -50,14 +50,18 @@ void KelProgressBar::put_ShowTime(bool show) {
 // ---- The job
 
 void KelProgressBar::Start() {
-    Value_ = Range_.min;
+    holdValue(Range_.min);
     ProgressStartTime_ = clock();
     NextTimeUpdate_ = *ProgressStartTime_ + SecondsToFirstTimeUpdate;
 }
 
+void KelProgressBar::holdValue(std::int32_t value) {
+    if (std::exchange(Value_, value) != value) Host_.container.standingMayDiffer();
+}
+
 /// Asked with every step of a job.
 void KelProgressBar::put_Value(std::int32_t value) {
-    Value_ = Range_.clamp(value);
+    holdValue(Range_.clamp(value));
     Share_ = Range_.share(value);
     const bool moved = barWidth(Share_) != LastBarWidth_;
     if (!ShowTime_ && !moved) return;

@@ -44,6 +44,7 @@ public:
     void ExitFocus() override {}
     void RegionChanged(const RegionalSettings& region) override { Host_.region = region; }
     WidgetSet widgets() override { return {.picture = &Picture1_}; }
+    Variant heldValue() const override { return Value_; }
     Standing standing() override { return {.enabled = get_Enabled()}; }
 
 private:
@@ -52,6 +53,7 @@ private:
     float clock() const { return static_cast<float>(Host_.system.timer()); }
     std::int32_t barWidth(double share) const { return nearestPart(share, Picture1_.bounds().width); }
     bool isDrawn() const { return !Picture1_.picture().text.empty(); }
+    void holdValue(std::int32_t value);
     void drawValue(float now);
     std::u16string timeText(float now);
     void draw(std::u16string text);

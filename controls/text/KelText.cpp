@@ -74,6 +74,7 @@ std::u16string KelText::get_Text() {
 std::u16string KelText::get_TextRaw() const { return activeBox().text(); }
 
 void KelText::put_Text(const std::u16string& text) {
+    const EntryField::Deed deed(Field_);
     // A copy where the host passes TextOriginal itself, or the change event frees what it passed.
     std::u16string original = text;
     activeBox().setText(text);
@@ -81,6 +82,7 @@ void KelText::put_Text(const std::u16string& text) {
 }
 
 void KelText::put_MultiLine(bool multiLine) {
+    const EntryField::Deed deed(Field_);
     const std::u16string text = get_Text();
     if (multiLine && !Text1_[1]) makeMultiLineBox();
     FieldIndex_ = multiLine ? 1 : 0;
@@ -104,7 +106,7 @@ void KelText::InitProperties() {
 
 // ---- Focus, keys and mouse
 
-void KelText::EnterFocus() { TextOriginal_ = activeBox().text(); }
+void KelText::EnterFocus() { put_TextOriginal(activeBox().text()); }
 
 void KelText::ExitFocus() { Field_.colorOnExit(); }
 

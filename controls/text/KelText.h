@@ -23,7 +23,10 @@ public:
     std::u16string get_Text();
     void put_Text(const std::u16string& text);
     std::u16string get_TextOriginal() const { return TextOriginal_; }
-    void put_TextOriginal(const std::u16string& text) { TextOriginal_ = text; }
+    void put_TextOriginal(const std::u16string& text) {
+        TextOriginal_ = text;
+        Field_.mayDiffer();
+    }
     std::u16string get_TextRaw() const;
     std::u16string get_TextSaved() const { return TextSaved_; }
     void put_TextSaved(const std::u16string& text) { TextSaved_ = text; }
@@ -34,11 +37,14 @@ public:
     void EnterFocus() override;
     void ExitFocus() override;
     EntryField& entry() override { return Field_; }
+    Variant heldValue() const override { return get_TextRaw(); }
 
 private:
     bool isValid() override { return get_Valid(); }
+    bool differsFromOriginal() const override { return get_Changed(); }
 
     void Text1_Change() override;
+    void Text1_Edited() override { Field_.host().container.textEdited(); }
     void Text1_Click() override;
     void Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) override;
     void Text1_KeyPress(char32_t& KeyAscii) override;

@@ -45,6 +45,11 @@ void TextEntry::tell(bool differs) {
     if (differs) Listener_.Text1_Change();
 }
 
+void TextEntry::tellEdited(bool differs) {
+    tell(differs);
+    if (differs) Listener_.Text1_Edited();
+}
+
 // ---- Keys
 
 bool TextEntry::strike(const KeyStroke& stroke) {
@@ -112,7 +117,7 @@ bool TextEntry::act(EditAction action, char32_t character, bool extend) {
     if (moves(action)) return moveCaret(action, extend);
     if (edits(action)) {
         if (Locked_ || (action == EditAction::BreakLine && !Buffer_.multiLine())) return false;
-        if (Listener_.Text1_Edit(action)) tell(edit(action, character));
+        if (Listener_.Text1_Edit(action)) tellEdited(edit(action, character));
         return true;
     }
     switch (action) {
@@ -163,11 +168,11 @@ bool TextEntry::edit(EditAction action, char32_t character) {
 
 void TextEntry::paste(std::u16string_view text) {
     if (Locked_ || !takesInput()) return;
-    if (Listener_.Text1_Edit(EditAction::Paste)) tell(insertPasted(text));
+    if (Listener_.Text1_Edit(EditAction::Paste)) tellEdited(insertPasted(text));
 }
 
 void TextEntry::replaceSelection(std::u16string_view text) {
-    if (Listener_.Text1_Edit(EditAction::Paste)) setSelText(text);
+    if (Listener_.Text1_Edit(EditAction::Paste)) tellEdited(Buffer_.insert(text));
 }
 
 void TextEntry::write(std::size_t start, std::size_t end, std::u16string_view text) {

@@ -16,6 +16,8 @@ class TextBoxListener {
 public:
     /// The text differs from before, by the user or by code.
     virtual void Text1_Change() = 0;
+    /// The same by an edit of the user's; comes after `Text1_Change`.
+    virtual void Text1_Edited() {}
     /// The left mouse button was pressed and released in the box.
     virtual void Text1_Click() = 0;
     /// A key goes down; `KeyCode` set to 0 swallows it.
@@ -160,6 +162,7 @@ private:
     void selectClicked(int clicks);
     bool insertPasted(std::u16string_view foreign);
     void tell(bool changed);
+    void tellEdited(bool changed);
 
     TextBoxListener& Listener_;
     EditBuffer Buffer_;
