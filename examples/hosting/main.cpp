@@ -7,7 +7,7 @@ int main(int argc, char** argv) {
     KelTextWidget name;
     name.setCaption("&Name");
     name.setMaxLength(40);
-    QObject::connect(&name, &KelTextWidget::change, [&] { name.setWindowTitle(name.text()); });
+    QObject::connect(&name, &KelTextWidget::textChanged, &name, &QWidget::setWindowTitle);
     name.show();
     return QApplication::exec();
 }

@@ -11,6 +11,7 @@ const QtType& qtTypeOf(TypeTag type) {
     static constexpr QtType Boolean{"bool", "", "toFlag", "fromFlag", true, "false"};
     static constexpr QtType Short{"int", "", "toInteger", "fromShort", true, "0"};
     static constexpr QtType Integer{"int", "", "toInteger", "fromInteger", true, "0"};
+    static constexpr QtType Days{"DaysFlag", "", "toEnum<DaysFlag>", "fromEnum", true, "{}"};
     static constexpr QtType Double{"double", "", "toNumber", "fromNumber", true, "0"};
     static constexpr QtType Date{"QDateTime", "QDateTime", "toDateTime", "fromDateTime", false, "{}"};
     static constexpr QtType Any{"QVariant", "QVariant", "toQVariant", "fromQVariant", false, "{}"};
@@ -19,8 +20,8 @@ const QtType& qtTypeOf(TypeTag type) {
         case TypeTag::String: return String;
         case TypeTag::Boolean: return Boolean;
         case TypeTag::Integer16: return Short;
-        case TypeTag::Integer32:
-        case TypeTag::DaysFlag: return Integer;
+        case TypeTag::Integer32: return Integer;
+        case TypeTag::DaysFlag: return Days;
         case TypeTag::Double: return Double;
         case TypeTag::Date: return Date;
         case TypeTag::Any: return Any;

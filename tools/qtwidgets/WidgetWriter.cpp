@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "tools/qtwidgets/QtType.h"
+#include "tools/qtwidgets/TypedWriter.h"
 #include "values/Text.h"
 
 namespace kel::qtwidgets {
@@ -12,7 +13,6 @@ namespace kel::qtwidgets {
 namespace {
 
 constexpr std::string_view Notice = "// Made from the type model by kel-qtwidgets.\n";
-constexpr std::u16string_view ChangeEvent = u"Change";
 constexpr std::u16string_view MeasuredMember = u"CaptionWidth";  ///< by the widget, until it is put
 
 bool isOptional(const ParameterRow& parameter) { return parameter.optional; }
@@ -22,9 +22,10 @@ bool isQtProperty(const MemberRow& member) {
     return !member.isMethod && std::all_of(member.parameters().begin(), member.parameters().end(), &isOptional);
 }
 
-bool hasChangeEvent(const ClassModel& model) {
-    return std::any_of(model.events.begin(), model.events.end(),
-                       [](const EventRow& event) { return event.name == ChangeEvent; });
+/// In the late-bound part of the class. Where the typed one tells how a field stands, a call with arguments is left.
+bool isLateBound(const ClassModel& model, const MemberRow& member) {
+    if (isLeftOut(member)) return false;
+    return !isReplaced(model, member) || (isStanding(member) && !member.parameters().empty());
 }
 
 std::string returnType(const MemberRow& member) {
@@ -53,34 +54,65 @@ std::set<std::string_view> headersOf(const ClassModel& model) {
     }
     for (const EventRow& event : model.events)
         for (const ParameterRow& parameter : event.parameters) addHeaders(headers, parameter.type);
+    for (const MemberRow& member : model.members)
+        if (const TypedProperty* const typed = typedProperty(model, member);
+            typed != nullptr && !typed->kind.header.empty())
+            headers.insert(typed->kind.header);
+    for (const MadeProperty& made : madeProperties(model))
+        if (!made.header.empty()) headers.insert(made.header);
     return headers;
 }
 
 // ---- Header
 
+/// One that a typed property stands for is for code: tools show and save the typed one.
 void writeProperty(std::ostream& out, const ClassModel& model, const MemberRow& member) {
+    if (isLeftOut(member) || writeStandingProperty(out, member)) return;
+    const bool isTyped = typedProperty(model, member) != nullptr;
+    if (isTyped) writeTypedProperty(out, model, member);
+    if (isReplaced(model, member)) return;
     out << "    Q_PROPERTY(" << qtTypeOf(member.type).name << ' ' << lowerName(member.name) << " READ "
         << lowerName(member.name);
     if (member.put != nullptr) out << " WRITE " << setterName(member.name);
-    if (member.name == MeasuredMember) out << " RESET reset" << toUtf8(member.name);
-    const bool isDefault = member.id == DefaultMemberId;
-    if (isDefault && hasChangeEvent(model)) out << " NOTIFY change";
-    if (member.hidden || member.put == nullptr) out << " DESIGNABLE false";
-    if (!member.isPersisted()) out << " STORED false";
-    if (isDefault) out << " USER true";
+    if (member.name == MeasuredMember || (!isTyped && isResettable(member) && member.isPersisted()))
+        out << " RESET reset" << toUtf8(member.name);
+    if (isTyped || !member.isPersisted()) out << " DESIGNABLE false STORED false";
     out << ")\n";
+}
+
+/// Those that are saved come first, in the order in which a form is loaded: tools set them one after the other.
+void writeProperties(std::ostream& out, const ClassModel& model) {
+    for (const PersistedRow& saved : model.loaded) {
+        const auto member = std::find_if(model.members.begin(), model.members.end(),
+                                         [&](const MemberRow& row) { return &row.persisted == &saved; });
+        writeProperty(out, model, *member);
+    }
+    for (const MemberRow& member : model.members)
+        if (!member.isPersisted() && isQtProperty(member)) writeProperty(out, model, member);
+    writeMadeProperties(out, model);
+}
+
+void writeClassComment(std::ostream& out, const ClassModel& model) {
+    out << "/// " << toUtf8(model.help) << ".\n";
+    const TypedProperty* const held = heldValue(model);
+    if (held == nullptr || !held->isBound()) return;
+    out << "///\n/// Data is bound to `" << held->name << "`, the USER property. In C++ it is a " << held->kind.type
+        << ". To a mapper or a delegate it is a QVariant, so that\n"
+           "/// what is null in a database stays so: it takes nulls, texts as databases write them and values of other "
+           "types, and\n/// until the value is changed it gives back the very one that was written, be it one that the "
+           "field shows cut or rounded.\n";
 }
 
 void writeGetter(std::ostream& out, const MemberRow& member) {
     out << "    /// " << toUtf8(member.help) << ".\n    ";
     if (!member.parameters().empty()) out << "Q_INVOKABLE ";
-    out << returnType(member) << ' ' << lowerName(member.name) << '(' << parameterList(member.parameters(), true)
-        << ") const;\n";
+    out << returnType(member) << ' ' << lowerName(member.name) << '('
+        << parameterList(member.parameters(), !isStanding(member)) << ") const;\n";
 }
 
 void writeSlots(std::ostream& out, const ClassModel& model) {
     for (const MemberRow& member : model.members)
-        if (member.put != nullptr)
+        if (member.put != nullptr && isLateBound(model, member))
             out << "    void " << setterName(member.name) << '(' << valueParameterType(member.type)
                 << lowerName(member.name) << ");\n";
     for (const MemberRow& member : model.members)
@@ -131,8 +163,9 @@ void writeCall(std::ostream& out, const ClassModel& model, const MemberRow& memb
     const ArgumentCode arguments(member.parameters());
     const bool returns = member.type != TypeTag::None;
     out << '\n'
-        << returnType(member) << ' ' << widgetName(model) << "::" << lowerName(member.name) << '('
-        << parameterList(member.parameters(), false) << ')' << (member.isMethod ? "" : " const") << " {\n"
+        << (member.type == TypeTag::DaysFlag ? widgetName(model) + "::" : std::string()) << returnType(member) << ' '
+        << widgetName(model) << "::" << lowerName(member.name) << '(' << parameterList(member.parameters(), false)
+        << ')' << (member.isMethod ? "" : " const") << " {\n"
         << arguments.before() << "    " << (returns ? "const kel::Variant result = " : "") << reader << '(' << index
         << arguments.pass() << ");\n"
         << arguments.after();
@@ -148,7 +181,7 @@ void writeSetter(std::ostream& out, const ClassModel& model, const MemberRow& me
         << "));\n}\n";
 }
 
-void writeEventCase(std::ostream& out, const EventRow& event) {
+void writeEventCase(std::ostream& out, const ClassModel& model, const EventRow& event) {
     out << "        case " << event.id << ": {\n";
     std::string passed;
     for (std::size_t i = 0; i < event.parameters.size(); ++i) {
@@ -159,6 +192,8 @@ void writeEventCase(std::ostream& out, const EventRow& event) {
         passed += (i == 0 ? "" : ", ") + name;
     }
     out << "            Q_EMIT " << lowerName(event.name) << '(' << passed << ");\n";
+    if (const EventSignal* const signal = signalOf(model, event))
+        out << "            Q_EMIT " << signal->signal << '(' << signal->value << ");\n";
     for (std::size_t i = 0; i < event.parameters.size(); ++i)
         if (event.parameters[i].byReference)
             out << "            arguments[" << i << "] = kel::qt::" << qtTypeOf(event.parameters[i].type).toVariant
@@ -171,7 +206,7 @@ void writeEvents(std::ostream& out, const ClassModel& model) {
     out << "\nvoid " << widgetName(model)
         << "::controlEvent(const kel::EventRow& event, [[maybe_unused]] std::span<kel::Variant> arguments) {\n"
            "    switch (event.id) {\n";
-    for (const EventRow& event : model.events) writeEventCase(out, event);
+    for (const EventRow& event : model.events) writeEventCase(out, model, event);
     out << "        default: break;\n    }\n}\n";
 }
 
@@ -183,21 +218,26 @@ std::string widgetHeader(const ClassModel& model) {
     std::ostringstream out;
     out << Notice << "#pragma once\n\n";
     for (const std::string_view header : headersOf(model)) out << "#include <" << header << ">\n";
-    out << "#include \"platform/qt/control/KelControlWidget.h\"\n\n/// " << toUtf8(model.help) << ".\nclass "
-        << widgetName(model) << " : public kel::qt::KelControlWidget {\n    Q_OBJECT\n";
+    out << "#include \"platform/qt/control/KelControlWidget.h\"\n\n";
+    writeClassComment(out, model);
+    out << "class " << widgetName(model) << " : public kel::qt::KelControlWidget {\n    Q_OBJECT\n";
+    writeProperties(out, model);
+    out << "\npublic:\n";
+    writeEnums(out, model);
+    out << "    explicit " << widgetName(model) << "(QWidget* parent = nullptr);\n\n";
+    writeTypedGetters(out, model);
     for (const MemberRow& member : model.members)
-        if (isQtProperty(member)) writeProperty(out, model, member);
-    out << "\npublic:\n    explicit " << widgetName(model) << "(QWidget* parent = nullptr);\n\n";
-    for (const MemberRow& member : model.members)
-        if (!member.isMethod) writeGetter(out, member);
+        if (!member.isMethod && isLateBound(model, member)) writeGetter(out, member);
     out << "\npublic Q_SLOTS:\n";
+    writeTypedSlots(out, model);
     writeSlots(out, model);
-    if (!model.events.empty()) {
-        out << "\nQ_SIGNALS:\n";
-        writeSignals(out, model);
+    out << "\nQ_SIGNALS:\n";
+    writeTypedSignals(out, model);
+    writeSignals(out, model);
+    if (!model.events.empty())
         out << "\nprotected:\n"
                "    void controlEvent(const kel::EventRow& event, std::span<kel::Variant> arguments) override;\n";
-    }
+    writeBoundAccess(out, model);
     out << "};\n";
     return out.str();
 }
@@ -205,20 +245,22 @@ std::string widgetHeader(const ClassModel& model) {
 std::string widgetSource(const ClassModel& model) {
     std::ostringstream out;
     const std::string name = widgetName(model);
-    out << Notice << "#include \"" << name << ".h\"\n\n#include <array>\n\n"
-        << "#include \"controls/Classes.h\"\n#include \"platform/qt/base/VariantBridge.h\"\n\n"
-        << "namespace {\n\nconst kel::ClassModel& classModel() {\n"
+    std::set<std::string_view> headers{"controls/Classes.h", "library/Control.h", "platform/qt/base/BoundValue.h"};
+    for (const MadeProperty& made : madeProperties(model)) headers.insert(made.functionsHeader);
+    out << Notice << "#include \"" << name << ".h\"\n\n#include <array>\n\n";
+    for (const std::string_view header : headers) out << "#include \"" << header << "\"\n";
+    out << "\nnamespace {\n\nconst kel::ClassModel& classModel() {\n"
         << "    static const kel::ClassModel& model = *kel::libraryClasses().find(u\"" << toUtf8(model.name)
         << "\");\n    return model;\n}\n\n}  // namespace\n\n"
         << name << "::" << name << "(QWidget* parent) : KelControlWidget(classModel(), parent) {}\n";
+    writeTypedAccess(out, model);
     for (const MemberRow& member : model.members) {
-        if (member.isMethod)
-            writeCall(out, model, member, "callMember");
-        else
-            writeCall(out, model, member, "readMember");
+        if (!isLateBound(model, member)) continue;
+        writeCall(out, model, member, member.isMethod ? "callMember" : "readMember");
         if (member.put != nullptr) writeSetter(out, model, member);
     }
     writeEvents(out, model);
+    writeTelling(out, model);
     return out.str();
 }
 

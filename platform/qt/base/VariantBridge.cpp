@@ -11,8 +11,6 @@ namespace kel::qt {
 
 namespace {
 
-constexpr double MillisecondsPerDay = 1000.0 * SecondsPerDay;
-
 template <class T>
 T valueOr(const Variant& value, T otherwise) {
     const T* const held = std::get_if<T>(&value);
@@ -25,7 +23,13 @@ QDateTime momentOf(Date date) {
     return {QDate(day.year, day.month, day.day), QTime(time.hour, time.minute, time.second)};
 }
 
-double fractionOf(QTime time) { return time.msecsSinceStartOfDay() / MillisecondsPerDay; }
+/// A control counts in seconds.
+double fractionOf(QTime time) {
+    const int seconds = (time.msecsSinceStartOfDay() + 500) / 1000;
+    return static_cast<double>(std::min(seconds, SecondsPerDay - 1)) / SecondsPerDay;
+}
+
+Date dayOf(QDate date) { return {static_cast<double>(QDate(1899, 12, 30).daysTo(date))}; }
 
 }  // namespace
 
@@ -44,6 +48,18 @@ int toInteger(const Variant& value) {
 double toNumber(const Variant& value) { return valueOr(value, 0.0); }
 
 QDateTime toDateTime(const Variant& value) { return momentOf(valueOr(value, Date{})); }
+
+QDate toDate(const Variant& value) {
+    const Date* const date = std::get_if<Date>(&value);
+    return date != nullptr ? momentOf(*date).date() : QDate();
+}
+
+QTime toTime(const Variant& value) {
+    const Date* const date = std::get_if<Date>(&value);
+    return date != nullptr ? momentOf(*date).time() : QTime();
+}
+
+QString toLines(const Variant& value) { return toText(value).replace(QStringLiteral("\r\n"), QStringLiteral("\n")); }
 
 QStringList toTexts(const Variant& value) {
     QStringList texts;
@@ -82,8 +98,19 @@ Variant fromShort(int number) {
 }
 
 Variant fromDateTime(const QDateTime& moment) {
-    const QDate day = moment.date();
-    return withTime({static_cast<double>(QDate(1899, 12, 30).daysTo(day))}, fractionOf(moment.time()));
+    if (!moment.isValid()) return Null{};
+    return withTime(dayOf(moment.date()), fractionOf(moment.time()));
+}
+
+Variant fromDate(QDate date) { return date.isValid() ? Variant(dayOf(date)) : Variant(Null{}); }
+
+Variant fromTime(QTime time) { return time.isValid() ? Variant(Date{fractionOf(time)}) : Variant(Null{}); }
+
+Variant fromLines(const QString& text, bool multiLine) {
+    if (!multiLine || !text.contains(u'\n')) return fromText(text);
+    QString lines = text;
+    lines.replace(QStringLiteral("\r\n"), QStringLiteral("\n")).replace(u'\n', QStringLiteral("\r\n"));
+    return fromText(lines);
 }
 
 Variant fromTexts(const QStringList& texts) {
@@ -94,15 +121,14 @@ Variant fromTexts(const QStringList& texts) {
 }
 
 Variant fromQVariant(const QVariant& value) {
+    if (value.isNull()) return Null{};
     switch (value.typeId()) {
-        case QMetaType::UnknownType: return Empty{};
-        case QMetaType::Nullptr: return Null{};
         case QMetaType::Bool: return value.toBool();
         case QMetaType::Short: return static_cast<std::int16_t>(value.toInt());
         case QMetaType::Int: return value.toInt();
-        case QMetaType::QDate: return fromDateTime(value.toDate().startOfDay());
+        case QMetaType::QDate: return fromDate(value.toDate());
         case QMetaType::QDateTime: return fromDateTime(value.toDateTime());
-        case QMetaType::QTime: return Date{fractionOf(value.toTime())};
+        case QMetaType::QTime: return fromTime(value.toTime());
         case QMetaType::QStringList: return fromTexts(value.toStringList());
         case QMetaType::QString: return fromText(value.toString());
         default: break;

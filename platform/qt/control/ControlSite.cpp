@@ -41,12 +41,13 @@ ControlSite::ControlSite(KelControlWidget& widget, const ControlServices& surrou
     : Host_(&widget),
       Widget_(&widget),
       Surroundings_(surroundings),
+      Region_(&surroundings.region),
       Grid_(surroundings.followsFont ? gridOf(widget) : TwipGrid(surroundings.system.scale())) {}
 
 ControlSite::~ControlSite() { focus::forget(*this); }
 
 void ControlSite::makeControl(const ClassModel& model) {
-    ControlHost host{*this, *this, Surroundings_.system, Surroundings_.settings, Surroundings_.region};
+    ControlHost host{*this, *this, Surroundings_.system, Surroundings_.settings, region()};
     Control_ = model.makeControl(host);
     Control_->Initialize();
 }
@@ -156,7 +157,7 @@ void ControlSite::enabledMayDiffer() {
     // Not every control lets its widget go along.
     Enabled_ = enabled();
     if (const MemberRow* const row = findMember(Control_->model(), u"Enabled"))
-        putMember(*Control_, *row, enabled(), Surroundings_.region);
+        putMember(*Control_, *row, enabled(), region());
 }
 
 // ---- Host
@@ -173,6 +174,57 @@ void ControlSite::propertyChanged(const MemberRow& property) {
 void ControlSite::raiseEvent(const EventRow& event, std::span<Variant> arguments) {
     const ForeignCode running;
     if (Host_ != nullptr) Host_->controlEvent(event, arguments);
+}
+
+// ---- What listeners are told
+
+void ControlSite::follow(StandingWatch::Aspect aspect) {
+    if (!Watch_) Watch_ = std::make_unique<StandingWatch>();
+    Watch_->follow(aspect, *Control_);
+}
+
+/// A listener may put something else, or destroy the widget: each is told of what is then so.
+void ControlSite::standingMayDiffer() {
+    if (!Watch_) return;
+    using Aspect = StandingWatch::Aspect;
+    using Telling = KelControlWidget::Telling;
+    constexpr std::pair<Aspect, Telling> Aspects[] = {
+        {Aspect::Value, Telling::Value}, {Aspect::Valid, Telling::Valid}, {Aspect::Changed, Telling::Changed}};
+    const ForeignCode running;
+    for (const auto& [aspect, telling] : Aspects)
+        if (Host_ != nullptr && Watch_->hasChanged(aspect, *Control_)) Host_->tell(telling);
+}
+
+void ControlSite::textEdited() {
+    const ForeignCode running;
+    if (Host_ != nullptr) Host_->tell(KelControlWidget::Telling::Edited);
+}
+
+void ControlSite::controlLeft() {
+    Control_->ExitFocus();
+    const ForeignCode running;
+    if (Host_ != nullptr) Host_->tell(KelControlWidget::Telling::Finished);
+}
+
+/// Where the focus does go on, the control is left.
+void ControlSite::finished() {
+    if (Host_ == nullptr) return;
+    QMetaObject::invokeMethod(
+        Host_,
+        [this] {
+            if (Active_ == nullptr || !focus::isHeldBy(*Active_)) return;
+            commit();
+            const ForeignCode running;
+            Host_->tell(KelControlWidget::Telling::Finished);
+        },
+        Qt::QueuedConnection);
+}
+
+/// What is being typed, as reading the value does.
+void ControlSite::commit() {
+    const MemberRow* const value = findMember(Control_->model(), DefaultMemberId);
+    Variant read;
+    if (value != nullptr) getMember(*Control_, *value, {}, read, region());
 }
 
 std::u16string ControlSite::toolTipText() const { return std::u16string(viewOf(Widget_->toolTip())); }
@@ -196,6 +248,10 @@ void ControlSite::shown() {
 
 void ControlSite::hidden() {
     if (Active_ != nullptr && !Active_->takesFocus()) Active_->giveUpFocus();
+}
+
+void ControlSite::setRegion(const RegionalSettings& region) {
+    if (std::exchange(Region_, &region) != &region) Control_->RegionChanged(region);
 }
 
 void ControlSite::recolored() {

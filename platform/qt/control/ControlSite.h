@@ -9,6 +9,7 @@
 #include "host/System.h"
 #include "host/Widgets.h"
 #include "library/Control.h"
+#include "library/StandingWatch.h"
 #include "platform/qt/base/TwipGrid.h"
 
 namespace kel {
@@ -45,7 +46,9 @@ public:
 
     Control& control() const { return *Control_; }
     QWidget& widget() const { return *Widget_; }
-    const RegionalSettings& region() const { return Surroundings_.region; }
+    const RegionalSettings& region() const { return *Region_; }
+    /// Numbers and dates are written by another region from now on, which outlives the control.
+    void setRegion(const RegionalSettings& region);
 
     // ---- The container, as its control sees it
 
@@ -58,6 +61,9 @@ public:
     std::u16string displayName() const override;
     void propertyChanged(const MemberRow& property) override;
     void raiseEvent(const EventRow& event, std::span<Variant> arguments) override;
+    void standingMayDiffer() override;
+    void textEdited() override;
+    void finished() override;
     std::u16string toolTipText() const override;
     void setToolTipText(std::u16string_view text) override;
 
@@ -71,11 +77,14 @@ public:
     void moveFocusTo(FieldWidget& field) override;
     void focusBarred(FieldWidget& field) override;
     void controlEntered() override { Control_->EnterFocus(); }
-    void controlLeft() override { Control_->ExitFocus(); }
+    void controlLeft() override;
     std::u16string clipboardText() override;
     void setClipboardText(std::u16string_view text) override;
 
     // ---- What the widget tells
+
+    /// Somebody wants to be told of changes.
+    void follow(StandingWatch::Aspect aspect);
 
     void resized();
     void mirrored();
@@ -136,6 +145,7 @@ private:
             if (auto* const view = dynamic_cast<Child*>(child)) action(*view);
     }
 
+    void commit();
     QSize pixelSize() const;
     void placeChildren() const;
     bool isFieldEnabled() const;
@@ -145,10 +155,12 @@ private:
     QWidget* Widget_;         ///< the host's, or what is left in its place
     std::unique_ptr<QWidget> Remains_;
     ControlServices Surroundings_;
+    const RegionalSettings* Region_;
     TwipGrid Grid_;
     CaptionLabel* Label_ = nullptr;
     FieldView* Active_ = nullptr;
-    QPoint Origin_;  ///< twips
+    std::unique_ptr<StandingWatch> Watch_;  ///< none while nobody wants to be told
+    QPoint Origin_;                         ///< twips
     Size Size_;
     int Mnemonic_ = 0;  ///< of the widget's shortcuts; 0 for none
     bool Sized_ = false;

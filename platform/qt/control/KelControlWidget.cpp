@@ -1,10 +1,13 @@
 #include "platform/qt/control/KelControlWidget.h"
 
 #include <QEvent>
+#include <QMetaMethod>
+#include <QMetaProperty>
 #include <QPaintEvent>
 #include <QShortcutEvent>
 
 #include "common/FieldLayout.h"
+#include "host/PropertyBag.h"
 #include "library/Control.h"
 #include "platform/qt/base/EdgeGuard.h"
 #include "platform/qt/control/ControlSite.h"
@@ -27,7 +30,8 @@ Variant run(const ControlSite& site, Thunk accessor, std::span<Variant> argument
 }  // namespace
 
 KelControlWidget::KelControlWidget(const ClassModel& model, QWidget* parent)
-    : KelControlWidget(model, defaultSurroundings(), parent) {
+    : KelControlWidget(model, defaultSurroundings(parent != nullptr ? parent->locale() : QLocale()), parent) {
+    FollowsLocale_ = true;
     control().InitProperties();
     Site_->fitCaption();
 }
@@ -70,11 +74,62 @@ Variant KelControlWidget::readMember(std::size_t member, std::span<Variant> argu
 }
 
 void KelControlWidget::writeMember(std::size_t member, Variant value) {
-    run(*Site_, Site_->control().model().members[member].put, {&value, 1});
+    const MemberRow& row = Site_->control().model().members[member];
+    if (row.id == DefaultMemberId) Loaded_.reset();
+    run(*Site_, row.put, {&value, 1});
+}
+
+void KelControlWidget::resetMember(std::size_t member) {
+    const PersistedRow& row = Site_->control().model().members[member].persisted;
+    atEdge([&] {
+        row.load(control(), toVariant(row.readDefault));
+        return true;
+    });
 }
 
 Variant KelControlWidget::callMember(std::size_t member, std::span<Variant> arguments) const {
     return run(*Site_, Site_->control().model().members[member].call, arguments);
+}
+
+Variant KelControlWidget::storedValue() const {
+    Variant value;
+    atEdge([&] {
+        value = control().valueToStore();
+        return true;
+    });
+    return value;
+}
+
+bool KelControlWidget::standsValid() const {
+    return atEdge([&] { return control().standing().valid; });
+}
+
+bool KelControlWidget::standsChanged() const {
+    return atEdge([&] { return control().standing().changed; });
+}
+
+// ---- Bound data
+
+QVariant KelControlWidget::readBound(const QVariant& typed) const {
+    return Loaded_ && Loaded_->held == storedValue() ? Loaded_->written : typed;
+}
+
+void KelControlWidget::writeBound(std::size_t member, const QVariant& value, const Variant& converted) {
+    writeMember(member, converted);
+    if (value.isValid()) Loaded_ = std::make_unique<Loaded>(Loaded{value, storedValue()});
+}
+
+// ---- Signals
+
+/// Only what somebody listens to is looked at with every key.
+void KelControlWidget::connectNotify(const QMetaMethod& signal) {
+    QWidget::connectNotify(signal);
+    if (signal == metaObject()->userProperty().notifySignal())
+        site().follow(StandingWatch::Aspect::Value);
+    else if (signal.name() == "validChanged")
+        site().follow(StandingWatch::Aspect::Valid);
+    else if (signal.name() == "changedChanged")
+        site().follow(StandingWatch::Aspect::Changed);
 }
 
 // ---- Events
@@ -93,6 +148,9 @@ void KelControlWidget::changeEvent(QEvent* event) {
     switch (event->type()) {
         case QEvent::EnabledChange: Site_->enabledMayDiffer(); break;
         case QEvent::LayoutDirectionChange: Site_->mirrored(); break;
+        case QEvent::LocaleChange:
+            if (FollowsLocale_) Site_->setRegion(defaultRegion(locale()));
+            break;
         case QEvent::PaletteChange: Site_->recolored(); break;
         case QEvent::FontChange: Site_->measuresDiffer(); break;
         case QEvent::StyleChange:

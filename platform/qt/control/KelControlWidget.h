@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
+#include <QVariant>
 #include <QWidget>
 #include <span>
 #include <string_view>
@@ -49,16 +51,33 @@ protected:
 
     /// The control raises an event. By-reference arguments may be changed.
     virtual void controlEvent(const EventRow& event, std::span<Variant> arguments);
+    /// What the widget tells by signals beside its events: what it holds and how it stands, and the person's editing.
+    enum class Telling : std::uint8_t { Value, Valid, Changed, Edited, Finished };
+    virtual void tell(Telling /*what*/) {}
     /// A property that is saved has changed.
     virtual void propertyReported(std::u16string_view bagName);
 
     /// Members by their place in the type model. A value that does not fit is ignored.
     Variant readMember(std::size_t member, std::span<Variant> arguments = {}) const;
     void writeMember(std::size_t member, Variant value);
+    /// Puts the default that forms leave out.
+    void resetMember(std::size_t member);
     Variant callMember(std::size_t member, std::span<Variant> arguments = {}) const;
+
+    /// What the control holds, with the text as it stands but without touching it: the person may be typing.
+    Variant storedValue() const;
+    bool standsValid() const;
+    bool standsChanged() const;
+
+    /// The value as data is bound to it, which knows null and keeps what it was given: as long as it is not changed
+    /// here, the very value that was written is what is read, be it one that the field can only show cut or rounded.
+    /// `typed` is the value as the field holds it.
+    QVariant readBound(const QVariant& typed) const;
+    void writeBound(std::size_t member, const QVariant& value, const Variant& converted);
 
     ControlSite& site() const { return *Site_; }
 
+    void connectNotify(const QMetaMethod& signal) override;
     bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -69,6 +88,14 @@ protected:
 private:
     friend class ControlSite;
 
+    /// What was written to the bound value, and what the control made of it.
+    struct Loaded {
+        QVariant written;
+        Variant held;
+    };
+
+    bool FollowsLocale_ = false;  ///< its own, rather than the region of a form
+    std::unique_ptr<Loaded> Loaded_;
     std::unique_ptr<ControlSite> Site_;
 };
 

@@ -6,6 +6,8 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QScreen>
+#include <utility>
+#include <vector>
 
 #include "common/basKelControls.h"
 #include "common/FieldLayout.h"
@@ -85,13 +87,14 @@ FontChoice fontFitting(const TwipScale& scale) {
     return {std::u16string(viewOf(font.family())), fits ? pointsOf(font) : SmallSize};
 }
 
+/// None: each widget has its own.
+FontChoice fontsOfWidgets() { return {{}, 0}; }
+
 /// What the default run-time object takes from the desktop.
 class QtServices final : public RuntimeServices {
 public:
-    QtServices(const HomeOptions& options, FontChoice font)
-        : Region_(options.region != nullptr ? *options.region : regionFromLocale(QLocale())),
-          ColorDepth_(options.colorDepth),
-          Font_(std::move(font)) {}
+    QtServices(RegionalSettings region, std::int32_t colorDepth, FontChoice font)
+        : Region_(std::move(region)), ColorDepth_(colorDepth), Font_(std::move(font)) {}
 
     std::int32_t colorDepth() const override {
         return ColorDepth_ > 0 ? ColorDepth_ : QGuiApplication::primaryScreen()->depth();
@@ -111,27 +114,63 @@ class QtHome final : public Home {
 public:
     /// Without a font of its own where widgets have theirs.
     QtHome(const HomeOptions& options, const TwipScale& scale, FontChoice font)
-        : System_(scale), Services_(options, std::move(font)) {
+        : System_(scale),
+          Services_(options.region != nullptr ? *options.region : regionFromLocale(Locale_), options.colorDepth,
+                    std::move(font)) {
         Settings_.makeDefaultRuntime = [this] { return makeRuntime(Services_); };
+        Settings_.regionalRuntime = [this](const RegionalSettings& region) { return regionalRuntime(region); };
     }
 
     SharedSettings& settings() override { return Settings_; }
     System& system() override { return System_; }
     const RegionalSettings& region() const override { return Services_.region(); }
 
+    /// Of controls that stand where another locale goes than where the first one stood. There are few of them.
+    const RegionalSettings& regionOf(const QLocale& locale) {
+        if (locale == Locale_) return region();
+        for (const auto& regional : Regional_)
+            if (regional->locale == locale) return regional->services.region();
+        return Regional_.emplace_back(std::make_unique<Regional>(locale))->services.region();
+    }
+
     std::unique_ptr<FormWindow> makeWindow(const WindowSpec& description, System& system) override {
         return std::make_unique<QtFormWindow>(description, ControlServices{Settings_, system, Services_.region()});
     }
 
 private:
+    struct Regional {
+        explicit Regional(const QLocale& from)
+            : locale(from), services(regionFromLocale(from), 0, fontsOfWidgets()), runtime(makeRuntime(services)) {}
+        QLocale locale;
+        QtServices services;
+        std::shared_ptr<Runtime> runtime;
+    };
+
+    std::shared_ptr<Runtime> regionalRuntime(const RegionalSettings& region) const {
+        for (const auto& regional : Regional_)
+            if (&regional->services.region() == &region) return regional->runtime;
+        return nullptr;
+    }
+
+    QLocale Locale_;
     QtSystem System_;
     QtServices Services_;
+    std::vector<std::unique_ptr<Regional>> Regional_;
     SharedSettings Settings_;  ///< last: the run-time object in it works on the services
 };
 
-std::unique_ptr<Home>& defaultInstance() {
-    static std::unique_ptr<Home> home;
+std::unique_ptr<QtHome>& defaultInstance() {
+    static std::unique_ptr<QtHome> home;
     return home;
+}
+
+QtHome& defaultQtHome() {
+    std::unique_ptr<QtHome>& home = defaultInstance();
+    if (!home) {
+        home = std::make_unique<QtHome>(HomeOptions{}, TwipScale(ClassicTwipsPerPixel), fontsOfWidgets());
+        qAddPostRoutine([] { defaultInstance().reset(); });
+    }
+    return *home;
 }
 
 }  // namespace
@@ -141,20 +180,15 @@ std::unique_ptr<Home> makeHome(const HomeOptions& options) {
     return std::make_unique<QtHome>(options, scale, fontFitting(scale));
 }
 
-Home& defaultHome() {
-    std::unique_ptr<Home>& home = defaultInstance();
-    if (!home) {
-        home = std::make_unique<QtHome>(HomeOptions{}, TwipScale(ClassicTwipsPerPixel), FontChoice{{}, 0});
-        qAddPostRoutine([] { defaultInstance().reset(); });
-    }
-    return *home;
-}
+Home& defaultHome() { return defaultQtHome(); }
 
-ControlServices defaultSurroundings() {
-    Home& home = defaultHome();
+const RegionalSettings& defaultRegion(const QLocale& locale) { return defaultQtHome().regionOf(locale); }
+
+ControlServices defaultSurroundings(const QLocale& locale) {
+    QtHome& home = defaultQtHome();
     // A control that is newly placed is never loaded, and takes some of the settings as it is made.
     if (!home.settings().Runtime) InitControls(home.settings(), home.system());
-    return {home.settings(), home.system(), home.region(), true};
+    return {home.settings(), home.system(), home.regionOf(locale), true};
 }
 
 }  // namespace kel::qt

@@ -4,6 +4,8 @@
 
 #include "forms/Home.h"
 
+class QLocale;
+
 namespace kel::qt {
 
 struct ControlServices;
@@ -14,6 +16,9 @@ std::unique_ptr<Home> makeHome(const HomeOptions& options);
 /// The home of the widgets that a program makes by itself. Made when first asked for, with the desktop's own
 /// settings; goes with the QApplication.
 Home& defaultHome();
-ControlServices defaultSurroundings();
+/// In a place that has `locale`.
+ControlServices defaultSurroundings(const QLocale& locale);
+/// The region of `locale`, which stands as long as the default home does.
+const RegionalSettings& defaultRegion(const QLocale& locale);
 
 }  // namespace kel::qt

@@ -76,10 +76,11 @@ QString dateField(const Piece& piece) {
     return piece.text.toLower();
 }
 
-/// The text between the first two fields when it is a separator: something, and no word.
+/// The text between the first two fields when it is a separator: more than a blank, and no word.
 QString separatorIn(const std::vector<Piece>& pieces) {
     const auto first = std::find_if(pieces.begin(), pieces.end(), [](const Piece& piece) { return piece.isField(); });
     if (pieces.end() - first < 3 || first[1].isField() || hasLetters(first[1].text)) return {};
+    if (first[1].text.trimmed().isEmpty()) return {};
     return first[1].text;
 }
 
