@@ -243,8 +243,8 @@ int EntryField::answerSpinner() {
     }
 }
 
-void EntryField::complain(std::u16string_view prompt, std::u16string_view title) {
-    Host_.system.messageBox(prompt, InformationIcon, title);
+void EntryField::complain(const MessageRow& message, std::u16string_view words) {
+    Host_.system.messageBox(words, InformationIcon, message.title);
     Active_->setFocus();
 }
 

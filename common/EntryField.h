@@ -166,8 +166,9 @@ public:
     int answerSpinner();
     void restSpinner() { UpDown1_->setValue(UpDown::Rest); }
 
-    /// Tells the user what is wrong with the text and puts the focus back into it.
-    void complain(std::u16string_view prompt, std::u16string_view title);
+    /// Tells the user what is wrong with the text, a message of the control's class in these words, and puts the focus
+    /// back into it.
+    void complain(const MessageRow& message, std::u16string_view words);
 
 private:
     const ClassModel& model() const;

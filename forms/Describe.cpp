@@ -98,6 +98,11 @@ std::string jsonEvent(const EventRow& row) {
            ", \"parameters\": " + jsonParameters(row.parameters) + ", \"help\": " + jsonText(row.help) + "}";
 }
 
+std::string jsonMessage(const MessageRow& row) {
+    return "\n    {\"title\": " + jsonText(row.title) + ", \"text\": " + jsonText(row.text) +
+           ", \"when\": " + jsonText(row.when) + "}";
+}
+
 std::string jsonPersisted(const PersistedRow& row) {
     return "\n    {\"name\": " + jsonText(row.name) + ", \"type\": " + jsonText(nameOf(row.type)) +
            ", \"default\": " + jsonValue(row.readDefault) + "}";
@@ -108,6 +113,7 @@ std::string jsonClass(const ClassModel& model) {
            ", \"control\": " + (model.isControl() ? "true" : "false") +
            ",\n  \"members\": " + jsonArray(model.members, jsonMember) +
            ",\n  \"events\": " + jsonArray(model.events, jsonEvent) +
+           ",\n  \"messages\": " + jsonArray(model.messages, jsonMessage) +
            ",\n  \"properties\": " + jsonArray(model.loaded, jsonPersisted) + "}";
 }
 
@@ -123,6 +129,10 @@ std::string markdownClass(const ClassModel& model) {
     text += "| Member | Access | Type | Arguments | Identifier | Saved, default | What it is |\n";
     text += "|---|---|---|---|---|---|---|\n";
     for (const MemberRow& row : model.members) text += markdownMember(row);
+    if (!model.messages.empty()) text += "\n| Message | Title | Told when |\n|---|---|---|\n";
+    for (const MessageRow& row : model.messages)
+        text += "| `" + toUtf8(row.text) + "` | " + (row.title.empty() ? "-" : toUtf8(row.title)) + " | " +
+                toUtf8(row.when) + " |\n";
     if (model.events.empty()) return text;
     text += "\n| Event | Identifier | Arguments | Raised when |\n|---|---|---|---|\n";
     for (const EventRow& row : model.events) {
@@ -149,6 +159,10 @@ std::string describeClass(const ClassModel& model) {
         text += "  " + padded(toUtf8(row.name), 16) + padded(std::to_string(row.id), 12) + toUtf8(row.help) +
                 (parameters.empty() ? "" : " (" + parameters + ")") + "\n";
     }
+    if (!model.messages.empty()) text += "\nMessages\n";
+    for (const MessageRow& row : model.messages)
+        text += "  " + padded(toUtf8(row.title), 16) + "\"" + toUtf8(row.text) + "\"\n" + std::string(18, ' ') +
+                toUtf8(row.when) + "\n";
     if (!model.loaded.empty()) text += "\nSaved properties and their defaults\n";
     for (const PersistedRow& row : model.loaded)
         text += "  " + padded(toUtf8(row.name), 16) + padded(toUtf8(nameOf(row.type)), 16) + defaultText(row) + "\n";

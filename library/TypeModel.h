@@ -14,6 +14,7 @@
 
 #include "library/DesignFacts.h"
 #include "library/KelDateDaysFlag.h"
+#include "library/Message.h"
 #include "values/Coercion.h"
 #include "values/Variant.h"
 
@@ -556,6 +557,7 @@ struct ClassModel {
     std::u16string_view help;
     std::span<const MemberRow> members;
     std::span<const EventRow> events{};
+    std::span<const MessageRow> messages{};
     PersistedRows loaded{members, &MemberRow::readBefore};
     PersistedRows saved{members, &MemberRow::writtenBefore};
     MemberIndex index{members};

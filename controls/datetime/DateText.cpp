@@ -129,6 +129,4 @@ KeyAnswer answerToDateCharacter(char32_t character) {
     return answerToCommonCharacter(character).value_or(KeyAnswer::Writes);
 }
 
-std::u16string dateComplaint(Validity validity, const FieldRules& rules) { return complaint(validity, u"date", rules); }
-
 }  // namespace kel

@@ -13,7 +13,12 @@ namespace kel {
 
 inline constexpr DateBounds AllDates{{-657434}, {2958465}, BoundsCompare::ByDay};  ///< years 100 to 9999
 inline constexpr std::u16string_view DefaultDateFormat = u"dd/mm/yyyy";
-inline constexpr std::u16string_view InvalidDateTitle = u"Invalid Date";
+
+inline constexpr ValueMessages DateMessages{
+    {u"Invalid Date", u"Please enter a valid date in this field.",
+     u"The field holds no date, and either is mandatory or holds a text that is none"},
+    {u"Invalid Date", u"This field only accepts dates from {1} to {2}.",
+     u"The date is before MinValue or after MaxValue"}};
 
 /// The day of the month that a field keeps to.
 struct DayPin {
@@ -43,8 +48,5 @@ Variant loadedDate(const std::u16string& text);
 
 /// What the character comes to in the text box.
 KeyAnswer answerToDateCharacter(char32_t character);
-
-/// What to tell the user of a date that is not valid.
-std::u16string dateComplaint(Validity validity, const FieldRules& rules);
 
 }  // namespace kel

@@ -86,8 +86,10 @@ bool DateTimeField::get_Valid(bool ShowMessage) {
     if (Entry_.get_Locked()) return true;
     const bool mayBeEmpty = !Entry_.get_Mandatory() && (Rules_.allowsAnyText() || Text1_.textLength() == 0);
     const Validity validity = validityOf(candidate, Bounds_, mayBeEmpty);
-    if (validity != Validity::Valid && ShowMessage)
-        Entry_.complain(Rules_.complaint(validity, textRules()), Rules_.complaintTitle());
+    if (validity != Validity::Valid && ShowMessage) {
+        const MessageRow& message = Rules_.messages().of(validity);
+        Entry_.complain(message, complaint(message, textRules()));
+    }
     return validity == Validity::Valid;
 }
 

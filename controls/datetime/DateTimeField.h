@@ -22,8 +22,7 @@ public:
     virtual KeyAnswer answerToCharacter(char32_t character, const RegionalSettings& region) const = 0;
     /// Whether a field that is not mandatory may hold a text that is no value.
     virtual bool allowsAnyText() const = 0;
-    virtual std::u16string_view complaintTitle() const = 0;
-    virtual std::u16string complaint(Validity validity, const FieldRules& rules) const = 0;
+    virtual const ValueMessages& messages() const = 0;
 
 protected:
     ~DateTimeRules() = default;

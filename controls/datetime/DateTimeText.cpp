@@ -102,16 +102,9 @@ Validity validityOf(std::optional<Date> value, const DateBounds& bounds, bool ma
     return bounds.contain(*value) ? Validity::Valid : Validity::OutOfRange;
 }
 
-std::u16string complaint(Validity validity, std::u16string_view kind, const FieldRules& rules) {
-    std::u16string text;
-    if (validity == Validity::OutOfRange) {
-        (text += u"This field only accepts ") += kind;
-        (text += u"s from ") += rules.format.show(rules.bounds.minimum, rules.region);
-        (text += u" to ") += rules.format.show(rules.bounds.maximum, rules.region);
-        return text += u'.';
-    }
-    (text += u"Please enter a valid ") += kind;
-    return text += u" in this field.";
+std::u16string complaint(const MessageRow& message, const FieldRules& rules) {
+    return worded(message, rules.format.show(rules.bounds.minimum, rules.region),
+                  rules.format.show(rules.bounds.maximum, rules.region));
 }
 
 std::optional<StepPart> PartLetters::partOf(char16_t formatUnit) const {

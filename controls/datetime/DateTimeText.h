@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "common/KeyAnswer.h"
+#include "library/Message.h"
 #include "values/FormatExpression.h"
 #include "values/RegionalSettings.h"
 #include "values/Variant.h"
@@ -87,8 +88,16 @@ struct FieldRules {
     const RegionalSettings& region;
 };
 
-/// What to tell the user of a value that is not valid, in a field of this kind ("date", "time").
-std::u16string complaint(Validity validity, std::u16string_view kind, const FieldRules& rules);
+/// What the user is told of a value that is not valid.
+struct ValueMessages {
+    MessageRow noValue;
+    MessageRow outOfRange;
+
+    const MessageRow& of(Validity validity) const { return validity == Validity::OutOfRange ? outOfRange : noValue; }
+};
+
+/// The message in the words of a field, which may have bounds to tell.
+std::u16string complaint(const MessageRow& message, const FieldRules& rules);
 
 // ---- Steps
 

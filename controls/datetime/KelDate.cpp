@@ -31,10 +31,6 @@ KeyAnswer DateRules::answerToCharacter(char32_t character, const RegionalSetting
     return answerToDateCharacter(character);
 }
 
-std::u16string DateRules::complaint(Validity validity, const FieldRules& rules) const {
-    return dateComplaint(validity, rules);
-}
-
 // ---- The control
 
 KelDate::KelDate(ControlHost& host) : Field_(host, *this, Rules_, Change, DefaultDateFormat, AllDates) {}

@@ -20,8 +20,7 @@ public:
                    const FieldRules& rules) const override;
     KeyAnswer answerToCharacter(char32_t character, const RegionalSettings& region) const override;
     bool allowsAnyText() const override { return false; }
-    std::u16string_view complaintTitle() const override { return InvalidDateTitle; }
-    std::u16string complaint(Validity validity, const FieldRules& rules) const override;
+    const ValueMessages& messages() const override { return DateMessages; }
 
 private:
     DayPin pin(const ControlHost& host) const;

@@ -61,6 +61,8 @@ constexpr EventRow Events[] = {
     {u"Change", 1, u"A step has changed the date"},
 };
 
+constexpr MessageRow Messages[] = {DateMessages.noValue, DateMessages.outOfRange};
+
 std::unique_ptr<Control> make(ControlHost& host) { return std::make_unique<KelDate>(host); }
 
 }  // namespace
@@ -72,6 +74,7 @@ constinit const ClassModel KelDateModel{
     .help = u"Date entry with a caption, free typing, a display format and a spinner",
     .members = Members,
     .events = Events,
+    .messages = Messages,
     .makeControl = &make,
 };
 

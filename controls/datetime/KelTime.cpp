@@ -23,10 +23,6 @@ KeyAnswer TimeRules::answerToCharacter(char32_t character, const RegionalSetting
     return answerToTimeCharacter(character, region.ZeroDigit);
 }
 
-std::u16string TimeRules::complaint(Validity validity, const FieldRules& rules) const {
-    return timeComplaint(validity, rules);
-}
-
 // ---- The control
 
 KelTime::KelTime(ControlHost& host) : Field_(host, *this, Rules_, Change, DefaultTimeFormat, AllTimes) {}

@@ -21,8 +21,7 @@ public:
                    const FieldRules& rules) const override;
     KeyAnswer answerToCharacter(char32_t character, const RegionalSettings& region) const override;
     bool allowsAnyText() const override { return true; }
-    std::u16string_view complaintTitle() const override { return InvalidTimeTitle; }
-    std::u16string complaint(Validity validity, const FieldRules& rules) const override;
+    const ValueMessages& messages() const override { return TimeMessages; }
 };
 
 /// Time entry: a caption, a text field that takes a time of day, and a spinner that steps the part of the time under

@@ -55,6 +55,8 @@ constexpr EventRow Events[] = {
     {u"Change", 1, u"A step has changed the time"},
 };
 
+constexpr MessageRow Messages[] = {TimeMessages.noValue, TimeMessages.outOfRange};
+
 std::unique_ptr<Control> make(ControlHost& host) { return std::make_unique<KelTime>(host); }
 
 }  // namespace
@@ -66,6 +68,7 @@ constinit const ClassModel KelTimeModel{
     .help = u"Time entry with a caption, a display format and a spinner",
     .members = Members,
     .events = Events,
+    .messages = Messages,
     .makeControl = &make,
     .datesAreTimes = true,
 };

@@ -109,6 +109,4 @@ KeyAnswer answerToTimeCharacter(char32_t character, char32_t zeroDigit) {
     return isDigit || Accepted.find(character) != std::u32string_view::npos ? KeyAnswer::Writes : KeyAnswer::Refused;
 }
 
-std::u16string timeComplaint(Validity validity, const FieldRules& rules) { return complaint(validity, u"time", rules); }
-
 }  // namespace kel

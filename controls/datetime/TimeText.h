@@ -12,7 +12,11 @@ namespace kel {
 
 inline constexpr DateBounds AllTimes{{0}, {static_cast<double>(SecondsPerDay - 1) / SecondsPerDay}};
 inline constexpr std::u16string_view DefaultTimeFormat = u"hh:nn am/pm";
-inline constexpr std::u16string_view InvalidTimeTitle = u"Invalid Time";
+
+inline constexpr ValueMessages TimeMessages{
+    {u"Invalid Time", u"Please enter a valid time in this field.", u"The field is mandatory and holds no time"},
+    {u"Invalid Time", u"This field only accepts times from {1} to {2}.",
+     u"The time is before MinValue or after MaxValue"}};
 
 /// `format` with minutes where it writes months after an hour: "hh:mm" becomes "hh:nn", the first time it stands
 /// there.
@@ -35,8 +39,5 @@ std::u16string savedTime(std::optional<Date> value);
 
 /// What the character comes to in the text box; the region's digits, from `zeroDigit` on, are written as the others.
 KeyAnswer answerToTimeCharacter(char32_t character, char32_t zeroDigit);
-
-/// What to tell the user of a time that is not valid.
-std::u16string timeComplaint(Validity validity, const FieldRules& rules);
 
 }  // namespace kel

@@ -174,14 +174,14 @@ void KelNumber::moveTo(double number) {
 bool KelNumber::get_Valid(bool ShowMessage) {
     const double value = TextDirty_ ? parseField() : Value_;
     if (Field_.get_Locked()) return true;
-    constexpr std::u16string_view Title = u"Invalid Value";
     if (Field_.get_Mandatory() && value == 0) {
-        if (ShowMessage) Field_.complain(u"Please enter a non-zero value in this field.", Title);
+        if (ShowMessage) Field_.complain(ValueMissing, worded(ValueMissing));
         return false;
     }
     if (bounded(value) == value) return true;
     if (ShowMessage)
-        Field_.complain(rangeMessage(MinValue_, MaxValue_, DecimalsInUse_, GroupDigits_, Field_.region()), Title);
+        Field_.complain(ValueOutOfRange,
+                        rangeMessage(MinValue_, MaxValue_, DecimalsInUse_, GroupDigits_, Field_.region()));
     return false;
 }
 

@@ -65,6 +65,8 @@ constexpr EventRow Events[] = {
     {u"Change", 1, u"The spinner or the Up or Down key has changed the value"},
 };
 
+constexpr MessageRow Messages[] = {ValueMissing, ValueOutOfRange};
+
 std::unique_ptr<Control> make(ControlHost& host) { return std::make_unique<KelNumber>(host); }
 
 }  // namespace
@@ -76,6 +78,7 @@ constinit const ClassModel KelNumberModel{
     .help = u"Number entry with a caption, decimals, digit grouping and a spinner",
     .members = Members,
     .events = Events,
+    .messages = Messages,
     .makeControl = &make,
 };
 

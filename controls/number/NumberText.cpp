@@ -122,11 +122,8 @@ double steppedNumber(double value, double delta) { return addDecimally(value, de
 
 std::u16string rangeMessage(double minimum, double maximum, std::int16_t decimals, bool groupDigits,
                             const RegionalSettings& region) {
-    std::u16string message = u"This field only accepts values from ";
-    message += displayText(minimum, decimals, true, region);
-    message += u" to ";
-    message += displayText(maximum, decimals, groupDigits, region);
-    return message += u'.';
+    return worded(ValueOutOfRange, displayText(minimum, decimals, true, region),
+                  displayText(maximum, decimals, groupDigits, region));
 }
 
 KeyEffect filterKey(char32_t key, std::u16string_view text, TextSpan selection, const KeyRules& rules) {

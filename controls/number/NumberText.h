@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "common/KeyAnswer.h"
+#include "library/Message.h"
 #include "values/Color.h"
 #include "values/RegionalSettings.h"
 #include "values/Variant.h"
@@ -34,7 +35,12 @@ double clampNumber(double value, double minimum, double maximum);
 /// The number that a step leads to, before the run-time object rounds it and the bounds stop it.
 double steppedNumber(double value, double delta);
 
-/// "This field only accepts values from ... to ...". The lower bound is grouped whatever `groupDigits` says.
+inline constexpr MessageRow ValueMissing{u"Invalid Value", u"Please enter a non-zero value in this field.",
+                                         u"The field is mandatory and its value is 0"};
+inline constexpr MessageRow ValueOutOfRange{u"Invalid Value", u"This field only accepts values from {1} to {2}.",
+                                            u"The value is below MinValue or above MaxValue"};
+
+/// `ValueOutOfRange` in words. The lower bound is grouped whatever `groupDigits` says.
 std::u16string rangeMessage(double minimum, double maximum, std::int16_t decimals, bool groupDigits,
                             const RegionalSettings& region);
 

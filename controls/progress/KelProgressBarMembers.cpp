@@ -26,6 +26,8 @@ constexpr MemberRow Members[] = {
         u"Value", DefaultMemberId, u"How far the job is, within Min and Max; setting it moves the bar"),
 };
 
+constexpr MessageRow Messages[] = {Percentage, SecondsRemaining, MinutesRemaining};
+
 std::unique_ptr<Control> make(ControlHost& host) { return std::make_unique<KelProgressBar>(host); }
 
 }  // namespace
@@ -34,6 +36,7 @@ constinit const ClassModel KelProgressBarModel{
     .name = u"KelProgressBar",
     .help = u"Progress bar with the percentage and an estimate of the time left",
     .members = Members,
+    .messages = Messages,
     .makeControl = &make,
     .takesFocus = false,
 };

@@ -15,7 +15,7 @@ constexpr double OftenEnoughForMinutes = 60;
 
 }  // namespace
 
-std::u16string percentText(double share) { return widen(std::to_string(percentOf(share))) + u'%'; }
+std::u16string percentText(double share) { return worded(Percentage, widen(std::to_string(percentOf(share)))); }
 
 TimeLeft timeLeft(const ProgressRange& range, std::int32_t value, double elapsed, const RegionalSettings& region) {
     static const FormatExpression Minutes(u"#,##0"), Seconds(u"#0");
@@ -24,9 +24,8 @@ TimeLeft timeLeft(const ProgressRange& range, std::int32_t value, double elapsed
     const double remaining = static_cast<double>(range.size()) / value * elapsed - elapsed;
     if (remaining < 1) return nothingToSay;
     if (remaining < SecondsShownAsMinutes)
-        return {u" (" + Seconds.format(remaining, region) + u" seconds remaining)", OftenEnough};
-    return {u" (" + Minutes.format(remaining / SecondsPerMinute, region) + u" minutes remaining)",
-            OftenEnoughForMinutes};
+        return {worded(SecondsRemaining, Seconds.format(remaining, region)), OftenEnough};
+    return {worded(MinutesRemaining, Minutes.format(remaining / SecondsPerMinute, region)), OftenEnoughForMinutes};
 }
 
 }  // namespace kel

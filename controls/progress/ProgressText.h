@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "library/Message.h"
 #include "values/RegionalSettings.h"
 
 /// What the progress bar shows of a job, as pure functions.
@@ -35,6 +36,14 @@ constexpr std::int32_t nearestPart(double share, std::int32_t whole) {
 
 /// Rounded in that way.
 constexpr std::int32_t percentOf(double share) { return nearestPart(share, 100); }
+
+inline constexpr MessageRow Percentage{{}, u"{1}%", u"Always, how much of the job is done"};
+inline constexpr MessageRow SecondsRemaining{
+    {},
+    u" ({1} seconds remaining)",
+    u"ShowTime is on, ten seconds have gone by since Start, and 1 to 90 seconds are left"};
+inline constexpr MessageRow MinutesRemaining{
+    {}, u" ({1} minutes remaining)", u"ShowTime is on, ten seconds have gone by since Start, and more is left"};
 
 /// "42%"
 std::u16string percentText(double share);

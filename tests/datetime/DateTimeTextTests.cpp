@@ -82,14 +82,14 @@ TEST(FieldValidity, IsExplained) {
     EXPECT_EQ(validityOf(std::nullopt, decade, true), Validity::Valid);
 
     const Validity outside = validityOf(day(2011, 5, 5), decade, true);
-    EXPECT_EQ(toUtf8(dateComplaint(outside, dateRules)),
+    EXPECT_EQ(toUtf8(complaint(DateMessages.of(outside), dateRules)),
               "This field only accepts dates from 01/01/2000 to 31/12/2010.");
-    EXPECT_EQ(toUtf8(timeComplaint(outside, {times, {clock(8, 0), clock(17, 30)}, defaultRegion()})),
+    EXPECT_EQ(toUtf8(complaint(TimeMessages.of(outside), {times, {clock(8, 0), clock(17, 30)}, defaultRegion()})),
               "This field only accepts times from 08:00 am to 05:30 pm.");
 
     const Validity none = validityOf(std::nullopt, decade, false);
-    EXPECT_EQ(toUtf8(dateComplaint(none, dateRules)), "Please enter a valid date in this field.");
-    EXPECT_EQ(toUtf8(timeComplaint(none, dateRules)), "Please enter a valid time in this field.");
+    EXPECT_EQ(toUtf8(complaint(DateMessages.of(none), dateRules)), "Please enter a valid date in this field.");
+    EXPECT_EQ(toUtf8(complaint(TimeMessages.of(none), dateRules)), "Please enter a valid time in this field.");
     EXPECT_EQ(dates.show(std::nullopt, defaultRegion()), u"");
 }
 
