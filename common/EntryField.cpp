@@ -1,6 +1,7 @@
 #include "common/EntryField.h"
 
 #include <algorithm>
+#include <cassert>
 
 #include "common/FieldFrame.h"
 #include "common/Persistence.h"
@@ -244,6 +245,8 @@ int EntryField::answerSpinner() {
 }
 
 void EntryField::complain(const MessageRow& message, std::u16string_view words) {
+    assert(std::any_of(model().messages.begin(), model().messages.end(),
+                       [&](const MessageRow& listed) { return listed.text == message.text; }));
     Host_.system.messageBox(words, InformationIcon, message.title);
     Active_->setFocus();
 }

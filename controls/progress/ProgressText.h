@@ -41,7 +41,7 @@ inline constexpr MessageRow Percentage{{}, u"{1}%", u"Always, how much of the jo
 inline constexpr MessageRow SecondsRemaining{
     {},
     u" ({1} seconds remaining)",
-    u"ShowTime is on, ten seconds have gone by since Start, and 1 to 90 seconds are left"};
+    u"ShowTime is on, ten seconds have gone by since Start, and less than 91 seconds are left"};
 inline constexpr MessageRow MinutesRemaining{
     {}, u" ({1} minutes remaining)", u"ShowTime is on, ten seconds have gone by since Start, and more is left"};
 
