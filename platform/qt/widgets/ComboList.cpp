@@ -36,6 +36,13 @@ bool movesFocus(const QKeyEvent& event) {
     return event.type() == QEvent::KeyPress && isTab && !event.modifiers().testFlag(Qt::ControlModifier);
 }
 
+/// Of a letter with Alt, before shortcuts are looked for.
+bool looksForMnemonic(const QKeyEvent& event) {
+    const Qt::KeyboardModifiers held = event.modifiers() & (Qt::AltModifier | Qt::ControlModifier);
+    return event.type() == QEvent::ShortcutOverride && held == Qt::AltModifier && !event.text().isEmpty() &&
+           event.text().front().isPrint();
+}
+
 }  // namespace
 
 ComboList::ComboList(QtComboBox& box, ComboBox& combo) : QListView(&box), Box_(box), Combo_(combo) {
@@ -111,8 +118,8 @@ bool ComboList::viewportEvent(QEvent* event) {
 }
 
 bool ComboList::keyPassed(QKeyEvent& event) {
-    // So that the box has the focus back when it loses it.
-    if (movesFocus(event)) Combo_.showDropDown(false);
+    // So that the box has the focus back when it loses it. Mnemonics are of the window, and no list may lie in front.
+    if (movesFocus(event) || looksForMnemonic(event)) Combo_.showDropDown(false);
     return QCoreApplication::sendEvent(&Box_, &event);
 }
 
