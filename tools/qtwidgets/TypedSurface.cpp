@@ -107,6 +107,8 @@ bool isLeftOut(const MemberRow& member) {
     return member.name == u"hWnd";
 }
 
+bool isWidgetsOwn(const MemberRow& member) { return member.name == u"Enabled"; }
+
 bool isResettable(const MemberRow& member) {
     constexpr std::u16string_view Names[] = {u"MinValue",  u"MaxValue",      u"UpDownChange", u"Decimals", u"Format",
                                              u"MaxLength", u"DropDownWidth", u"Min",          u"Max"};

@@ -63,6 +63,8 @@ const EventSignal* signalOf(const ClassModel& model, const EventRow& event);
 
 /// A member that is no business of a Qt program's.
 bool isLeftOut(const MemberRow& member);
+/// One that every widget has: setting the widget's sets the control's too.
+bool isWidgetsOwn(const MemberRow& member);
 /// A property whose default Qt's tools can put back: it is the value of a new control as well.
 bool isResettable(const MemberRow& member);
 /// Of a control whose texts a person edits, there is a signal for that.

@@ -28,6 +28,10 @@ bool isLateBound(const ClassModel& model, const MemberRow& member) {
     return !isReplaced(model, member) || (isStanding(member) && !member.parameters().empty());
 }
 
+bool isSettable(const ClassModel& model, const MemberRow& member) {
+    return member.put != nullptr && isLateBound(model, member) && !isWidgetsOwn(member);
+}
+
 std::string returnType(const MemberRow& member) {
     return member.type == TypeTag::None ? "void" : std::string(qtTypeOf(member.type).name);
 }
@@ -67,7 +71,7 @@ std::set<std::string_view> headersOf(const ClassModel& model) {
 
 /// One that a typed property stands for is for code: tools show and save the typed one.
 void writeProperty(std::ostream& out, const ClassModel& model, const MemberRow& member) {
-    if (isLeftOut(member) || writeStandingProperty(out, member)) return;
+    if (isLeftOut(member) || isWidgetsOwn(member) || writeStandingProperty(out, member)) return;
     const bool isTyped = typedProperty(model, member) != nullptr;
     if (isTyped) writeTypedProperty(out, model, member);
     if (isReplaced(model, member)) return;
@@ -112,7 +116,7 @@ void writeGetter(std::ostream& out, const MemberRow& member) {
 
 void writeSlots(std::ostream& out, const ClassModel& model) {
     for (const MemberRow& member : model.members)
-        if (member.put != nullptr && isLateBound(model, member))
+        if (isSettable(model, member))
             out << "    void " << setterName(member.name) << '(' << valueParameterType(member.type)
                 << lowerName(member.name) << ");\n";
     for (const MemberRow& member : model.members)
@@ -257,7 +261,7 @@ std::string widgetSource(const ClassModel& model) {
     for (const MemberRow& member : model.members) {
         if (!isLateBound(model, member)) continue;
         writeCall(out, model, member, member.isMethod ? "callMember" : "readMember");
-        if (member.put != nullptr) writeSetter(out, model, member);
+        if (isSettable(model, member)) writeSetter(out, model, member);
     }
     writeEvents(out, model);
     writeTelling(out, model);

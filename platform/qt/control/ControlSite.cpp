@@ -1,10 +1,12 @@
 #include "platform/qt/control/ControlSite.h"
 
 #include <QClipboard>
+#include <QFocusEvent>
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QKeySequence>
 #include <QPainter>
+#include <QPointer>
 #include <QWidget>
 
 #include "common/EntryField.h"
@@ -346,6 +348,28 @@ void ControlSite::tabAfter(ControlSite& before) {
 
 void ControlSite::leaveTabOrder() {
     forEach<FieldView>([](FieldView& field) { field.widget().setFocusPolicy(Qt::ClickFocus); });
+}
+
+// ---- The control as one widget
+
+bool ControlSite::giveToField(QEvent& event) const {
+    if (Active_ == nullptr) return false;
+    const QPointer<QWidget> host = Widget_;
+    Active_->give(event);
+    // Qt would go on to what is around a widget that is no more.
+    if (host.isNull()) event.accept();
+    return true;
+}
+
+const QWidget* ControlSite::fieldAt(const QPoint& place) const {
+    const QWidget* const field = Active_ != nullptr ? &Active_->widget() : nullptr;
+    return field != nullptr && field->geometry().contains(place) ? field : nullptr;
+}
+
+void ControlSite::tellFocus(const QFocusEvent& event) const {
+    if (Host_ == nullptr) return;
+    QFocusEvent copy(event.type(), event.reason());
+    QCoreApplication::sendEvent(Host_, &copy);
 }
 
 // ---- Caption

@@ -12,6 +12,8 @@
 #include "library/StandingWatch.h"
 #include "platform/qt/base/TwipGrid.h"
 
+class QFocusEvent;
+
 namespace kel {
 class EntryField;
 }
@@ -100,6 +102,11 @@ public:
     void hidden();
     /// Somebody pressed the key of a mnemonic. Returns whether it was the caption's.
     bool mnemonicPressed(int shortcutId);
+    /// What is left of an event when the host's program has had its way with it: the field that shows gets it. False
+    /// where there is none.
+    bool giveToField(QEvent& event) const;
+    /// The field that shows, where `place` is in it.
+    const QWidget* fieldAt(const QPoint& place) const;
     /// What is in `area` of it, but for its children.
     void paint(const QRect& area) const;
     QSize sizeHint(int characters) const;
@@ -111,6 +118,8 @@ public:
     void fieldShown(FieldView& field);
     void fieldEnabled(const FieldView& field, bool enabled);
     void setLabel(CaptionLabel* label) { Label_ = label; }
+    /// What Qt has told a field of the focus, and the field its control.
+    void tellFocus(const QFocusEvent& event) const;
     void captionChanged(const QString& spokenBefore);
     /// The caption is as wide as it needs, until it is given a width, where nobody has laid the control out in twips.
     void fitCaption();

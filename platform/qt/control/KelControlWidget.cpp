@@ -1,6 +1,8 @@
 #include "platform/qt/control/KelControlWidget.h"
 
+#include <QContextMenuEvent>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QMetaMethod>
 #include <QMetaProperty>
 #include <QPaintEvent>
@@ -39,6 +41,8 @@ KelControlWidget::KelControlWidget(const ClassModel& model, QWidget* parent)
 KelControlWidget::KelControlWidget(const ClassModel& model, const ControlServices& surroundings, QWidget* parent)
     : QWidget(parent), Site_(std::make_unique<ControlSite>(*this, surroundings)) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    // Style sheets may give it a ground and a border.
+    setAttribute(Qt::WA_StyledBackground);
     // So that buddies find it; the field inside takes clicks as well.
     setFocusPolicy(Qt::TabFocus);
     Site_->makeControl(model);
@@ -138,9 +142,27 @@ bool KelControlWidget::event(QEvent* event) {
     return atEdge([&] {
         if (event->type() == QEvent::Shortcut)
             return Site_->mnemonicPressed(static_cast<QShortcutEvent*>(event)->shortcutId()) || QWidget::event(event);
+        if (event->type() == QEvent::ShortcutOverride && Site_->giveToField(*event)) return event->isAccepted();
         if (event->type() == QEvent::ToolTipChange && Site_) Site_->toolTipChanged();
         return QWidget::event(event);
     });
+}
+
+void KelControlWidget::keyPressEvent(QKeyEvent* event) {
+    if (!Site_->giveToField(*event)) QWidget::keyPressEvent(event);
+}
+
+void KelControlWidget::keyReleaseEvent(QKeyEvent* event) {
+    if (!Site_->giveToField(*event)) QWidget::keyReleaseEvent(event);
+}
+
+void KelControlWidget::contextMenuEvent(QContextMenuEvent* event) {
+    const QWidget* const field = Site_->fieldAt(event->pos());
+    if (field == nullptr) return QWidget::contextMenuEvent(event);
+    QContextMenuEvent inField(event->reason(), field->mapFrom(this, event->pos()), event->globalPos(),
+                              event->modifiers());
+    Site_->giveToField(inField);
+    event->setAccepted(inField.isAccepted());
 }
 
 void KelControlWidget::changeEvent(QEvent* event) {

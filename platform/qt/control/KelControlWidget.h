@@ -80,6 +80,13 @@ protected:
     void connectNotify(const QMetaMethod& signal) override;
     bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
+    /// Keys, menus and the focus are the field's, but come by here: an event filter on the widget and a class that is
+    /// derived from it see and change them as they would a line edit's. The focus is told after the field has heard.
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void focusInEvent(QFocusEvent* /*event*/) override {}
+    void focusOutEvent(QFocusEvent* /*event*/) override {}
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;

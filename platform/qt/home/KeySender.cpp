@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QWidget>
 
 #include "platform/qt/base/KeyMap.h"
@@ -34,13 +35,16 @@ void strikeKey(const KeyStroke& stroke) {
     sendKeyEvent(QEvent::KeyRelease, key);
 }
 
+/// It is for the one who has the focus now. An editor of a table is closed by the Enter key that moves the focus on,
+/// and the table has no use for a Tab.
 void sendKeyLater(const KeyStroke& stroke) {
     ++KeysToSend;
+    QWidget* const focused = QApplication::focusWidget();
     QMetaObject::invokeMethod(
         qApp,
-        [stroke] {
+        [stroke, isMeant = focused != nullptr, meant = QPointer<QWidget>(focused)] {
             --KeysToSend;
-            strikeKey(stroke);
+            if (!isMeant || (!meant.isNull() && meant->isVisible())) strikeKey(stroke);
         },
         Qt::QueuedConnection);
 }

@@ -1,6 +1,7 @@
 #include "platform/qt/widgets/FieldView.h"
 
 #include <QFocusEvent>
+#include <QScopedValueRollback>
 #include <QWidget>
 
 #include "platform/qt/base/WidgetSettings.h"
@@ -26,10 +27,33 @@ void FieldView::giveUpFocus() {
     focus::departed(*this, Qt::OtherFocusReason);
 }
 
+/// Qt hands an event that a widget ignores to the one around it.
+bool FieldView::goesToControl(QEvent& event) const {
+    switch (event.type()) {
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::ShortcutOverride:
+        case QEvent::ContextMenu:
+            if (&event == Given_) return false;
+            event.ignore();
+            return true;
+        default: return false;
+    }
+}
+
+void FieldView::give(QEvent& event) {
+    const QScopedValueRollback<const QEvent*> given(Given_, &event);
+    static_cast<QObject&>(widget()).event(&event);
+}
+
 void FieldView::tellFocus(QEvent& event) {
     switch (event.type()) {
-        case QEvent::FocusIn: return focus::arrived(*this, static_cast<QFocusEvent&>(event).reason());
-        case QEvent::FocusOut: return focus::departed(*this, static_cast<QFocusEvent&>(event).reason());
+        case QEvent::FocusIn:
+            focus::arrived(*this, static_cast<QFocusEvent&>(event).reason());
+            return site().tellFocus(static_cast<QFocusEvent&>(event));
+        case QEvent::FocusOut:
+            focus::departed(*this, static_cast<QFocusEvent&>(event).reason());
+            return site().tellFocus(static_cast<QFocusEvent&>(event));
         case QEvent::EnabledChange:
             if (!widget().isEnabled()) giveUpFocus();
             return;

@@ -31,6 +31,9 @@ public:
     virtual bool isTall() const = 0;
     /// From the widget's top to the baseline of its (first) line of text, in pixels.
     virtual int baseline() const = 0;
+    /// An event that is the field's by way of its control: see `hear`.
+    void give(QEvent& event);
+
     /// Where presses arrive.
     virtual QWidget& mouseArea() { return widget(); }
 
@@ -38,10 +41,13 @@ public:
     virtual int widthFor(int characters) const;
 
 protected:
-    /// An event comes to the widget, whose class has its own `way` with it: what it says of the focus is told after.
+    /// An event comes to the widget, whose class has its own `way` with it: what it says of the focus is told after. To
+    /// the outside the control is one widget: what Qt sends to the field of keys and menus goes on to the control,
+    /// where event filters and overridden handlers find it, and comes back from there.
     template <class Way>
     bool hear(QEvent& event, Way way) {
         return atEdge([&] {
+            if (goesToControl(event)) return false;
             const bool done = way();
             tellFocus(event);
             return done;
@@ -53,9 +59,11 @@ protected:
     FieldColors colors() const { return {Shown_.backColor(), Shown_.foreColor()}; }
 
 private:
+    bool goesToControl(QEvent& event) const;
     void tellFocus(QEvent& event);
 
     FieldWidget& Shown_;
+    const QEvent* Given_ = nullptr;  ///< that the control has let through
 };
 
 }  // namespace kel::qt
