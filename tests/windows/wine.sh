@@ -1,6 +1,7 @@
 # What the scripts share that run programs under Wine: a display and a Windows of their own, and how tests report. A
 # script starts with `begin SCRIPT SCREEN "$@"`, from the top of the source tree; one of tests ends with `finish`.
 # shellcheck shell=bash disable=SC2034
+. tests/results.sh
 
 limit=120  # seconds, for a program
 
@@ -41,13 +42,6 @@ leave() {
     rm -rf "$WINEPREFIX"
 }
 
-record() {
-    echo "$1"
-    echo "$1" >>"$results"
-}
-ok() { record "ok $1"; }
-failed() { record "FAILED $1: $2"; }
-
 # A Windows program; its background services must not hold on to our output.
 windows() { timeout "$limit" wine "$@" </dev/null 2>>"$work/wine.log"; }
 path() {
@@ -55,9 +49,6 @@ path() {
     path=${path/#Z:$WINEPREFIX\/drive_c/C:}
     echo "${path//\//\\}"
 }
-
-# The tests' own lines of a program that runs some.
-reported() { grep -E '^(ok|FAILED) ' <<<"$1" | while read -r line; do record "$line"; done; }
 
 # Everything that registration may touch, one line a value.
 registry() {
@@ -86,10 +77,6 @@ script() {
 }
 
 finish() {
-    local bad good
-    bad=$(grep -c '^FAILED' "$results")
-    good=$(grep -c '^ok' "$results")
-    echo "$good passed, $bad failed"
-    [ "$bad" -eq 0 ]
+    sum_up
     exit
 }
