@@ -115,6 +115,12 @@ void Form::placeControl(FormBlockId block, const ClassModel& model, const Placem
     Entries_.push_back(std::move(entry));
 }
 
+std::vector<PlacedControl*> Form::controls() const {
+    std::vector<PlacedControl*> controls;
+    for (const Entry& entry : Entries_) controls.push_back(entry.control);
+    return controls;
+}
+
 PlacedControl* Form::find(std::u16string_view name) const {
     for (const Entry& entry : Entries_)
         if (equalsIgnoringCase(entry.control->name(), name)) return entry.control;

@@ -24,6 +24,9 @@ public:
 
     FormWindow& window() { return *Window_; }
 
+    /// In the file's order.
+    std::vector<PlacedControl*> controls() const;
+
     /// By its name, case ignored; an element of a control array is "name(index)". nullptr: there is none.
     PlacedControl* find(std::u16string_view name) const;
 

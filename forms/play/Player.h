@@ -5,6 +5,7 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/Form.h"
@@ -26,6 +27,10 @@ public:
     /// Runs one command and gives the lines it printed, in UTF-8. Throws ScriptError (naming `scriptFile`)
     /// when the command asks for what is not there, FormError when a form to be loaded is wrong.
     std::vector<std::string> play(const ScriptCommand& command, const std::string& scriptFile);
+
+    /// What has been written down outside of a command since the last one or since this was asked: events, beeps and
+    /// messages that a program's own calls have brought about.
+    std::vector<std::string> takePrinted() { return std::exchange(Printed_, {}); }
 
     /// What the commands so far have come by, a line each: "KelText get Caption", likewise put, call, event, and load
     /// and save of properties that differ from their default.
