@@ -1,6 +1,6 @@
 #include <QApplication>
 
-#include "KelTextWidget.h"
+#include <KelControls8/KelTextWidget.h>
 
 int main(int argc, char** argv) {
     QApplication application(argc, argv);

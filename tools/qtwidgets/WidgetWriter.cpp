@@ -224,7 +224,7 @@ std::string widgetHeader(const ClassModel& model) {
     for (const std::string_view header : headersOf(model)) out << "#include <" << header << ">\n";
     out << "#include \"platform/qt/control/KelControlWidget.h\"\n\n";
     writeClassComment(out, model);
-    out << "class " << widgetName(model) << " : public kel::qt::KelControlWidget {\n    Q_OBJECT\n";
+    out << "class KELCONTROLS8_EXPORT " << widgetName(model) << " : public kel::qt::KelControlWidget {\n    Q_OBJECT\n";
     writeProperties(out, model);
     out << "\npublic:\n";
     writeEnums(out, model);

@@ -8,6 +8,7 @@
 #include <span>
 #include <string_view>
 
+#include "values/Export.h"
 #include "values/Variant.h"
 
 namespace kel {
@@ -27,7 +28,7 @@ struct ControlServices;
 ///
 /// The size counts in twips inside the control. They go by the widget's font: 15 to a logical pixel in one of 8 points,
 /// and fewer in a larger one. A control of fixed height is as high as a line edit in that font, whatever it is given.
-class KelControlWidget : public QWidget {
+class KELCONTROLS8_EXPORT KelControlWidget : public QWidget {
     Q_OBJECT
 
 public:
