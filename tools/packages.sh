@@ -3,6 +3,7 @@
 
 build_packages=(g++ cmake ninja-build qt6-base-dev libncurses-dev fonts-dejavu-core)
 test_packages=(libgtest-dev libqt6sql6-sqlite clang-14 clang-format-14 clang-tidy-14 python3 xvfb xauth)
+package_packages=(dpkg-dev file desktop-file-utils debootstrap)
 fuzz_packages=(clang-14 libclang-rt-14-dev llvm-14)
 bench_packages=(libbenchmark-dev libicu-dev)
 windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools wine wine64)
