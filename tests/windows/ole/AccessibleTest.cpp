@@ -380,6 +380,24 @@ TEST(accessible_automation_reads_texts) {
     EXPECT_EQ(text(other), L"");
 }
 
+TEST(accessible_long_texts_are_read_where_they_are_seen) {
+    const Read read(L"KelText", L"MultiLine=1");
+    std::wstring lines = L"Text=";
+    while (lines.size() < 70'000) lines += L"some words\r\n";
+    putAll(read.control.get(), lines + L"the end");
+    SendMessageW(read.field(), EM_SETSEL, lines.size(), static_cast<LPARAM>(lines.size()));
+    SendMessageW(read.field(), EM_SCROLLCARET, 0, 0);
+    SAFEARRAY* ranges = nullptr;
+    EXPECT_CODE(read.pattern<ITextProvider>(UIA_TextPatternId)->GetVisibleRanges(&ranges), S_OK);
+    Ref<IUnknown> seen;
+    LONG first = 0;
+    EXPECT_CODE(SafeArrayGetElement(ranges, &first, seen.receive()), S_OK);
+    SafeArrayDestroy(ranges);
+    BSTR text = nullptr;
+    EXPECT_CODE(seen.as<ITextRangeProvider>()->GetText(-1, &text), S_OK);
+    EXPECT_EQ(taken(text), L"the end");
+}
+
 namespace {
 
 std::vector<DWORD> Heard;
