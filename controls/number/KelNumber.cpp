@@ -154,21 +154,23 @@ void KelNumber::StepValue(double delta) {
 bool KelNumber::enterNumber(double number) {
     if (Field_.get_Locked() || !Text1_.takesInput() || !(number >= MinValue_ && number <= MaxValue_)) return false;
     CommitText();
-    moveTo(roundNumber(number));
-    return true;
+    return moveTo(roundNumber(number));
 }
 
 std::optional<NumberRange> KelNumber::range() const {
     return NumberRange{storedValue(), MinValue_, MaxValue_, UpDownChange_};
 }
 
-void KelNumber::moveTo(double number) {
+bool KelNumber::moveTo(double number) {
     const EntryField::Deed deed(Field_);
     Text1_.setText(generalNumber(number, Field_.region()));
     CommitText();
-    if (Value_ == ValueOriginal_) return;
-    Field_.host().container.raiseEvent(Change, {});
-    ValueOriginal_ = Value_;
+    const bool isTaken = Value_ == number;
+    if (Value_ != ValueOriginal_) {
+        Field_.host().container.raiseEvent(Change, {});
+        ValueOriginal_ = Value_;
+    }
+    return isTaken;
 }
 
 bool KelNumber::get_Valid(bool ShowMessage) {

@@ -79,7 +79,8 @@ private:
     void CommitText();
     void takeValue(double value);
     void StepValue(double delta);
-    void moveTo(double number);
+    /// As if a person had entered it. False where the host wants to keep what is there.
+    bool moveTo(double number);
     double numberFromValue(const Variant& value) const;
     double roundNumber(double number) const;
     double bounded(double value) const;

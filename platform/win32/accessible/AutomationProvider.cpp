@@ -176,7 +176,10 @@ HRESULT AutomationProvider::SetValue(double number) noexcept {
     return about([&](AccessibleSource&, Control& control) -> HRESULT {
         if (control.enterNumber(number)) return S_OK;
         const Accessible described = describe(control);
-        return described.readOnly || !described.focusable ? NotEnabled : E_INVALIDARG;
+        if (described.readOnly || !described.focusable) return NotEnabled;
+        // One that it could hold its host refuses.
+        const NumberRange range = described.range.value_or(NumberRange());
+        return number >= range.minimum && number <= range.maximum ? NotPossible : E_INVALIDARG;
     });
 }
 

@@ -305,7 +305,7 @@ TEST(accessible_automation_has_the_same_properties) {
 }
 
 TEST(accessible_automation_sets_numbers_within_their_range) {
-    const Read read(L"KelNumber", L"Decimals=2|MinValue=-1|MaxValue=10|UpDownChange=0.5|Value=5");
+    Read read(L"KelNumber", L"Decimals=2|MinValue=-1|MaxValue=10|UpDownChange=0.5|Value=5");
     const auto range = read.pattern<IRangeValueProvider>(UIA_RangeValuePatternId);
     const auto got = [&](HRESULT (STDMETHODCALLTYPE IRangeValueProvider::*get)(double*)) {
         double value = 99;
@@ -322,6 +322,10 @@ TEST(accessible_automation_sets_numbers_within_their_range) {
     EXPECT_EQ(late(read.control.get(), L"Value"), L"double 7.25");
     for (const double wrong : {10.5, -2.0, static_cast<double>(NAN)}) EXPECT_CODE(range->SetValue(wrong), E_INVALIDARG);
     EXPECT_EQ(got(&IRangeValueProvider::get_Value), 7.25);
+    read.inside.MayEdit = S_FALSE;
+    EXPECT_CODE(range->SetValue(3), NotPossible);
+    EXPECT_EQ(got(&IRangeValueProvider::get_Value), 7.25);
+    read.inside.MayEdit = S_OK;
     putAll(read.control.get(), L"Locked=1");
     EXPECT_CODE(range->SetValue(1), NotEnabled);
     BOOL locked = FALSE;
