@@ -71,6 +71,7 @@ public:
     COLORREF ground() const { return colorOf(Ground_); }
     /// Captions, fields and texts run from right to left.
     void setMirrored(bool mirrored);
+    bool mirrored() const { return Mirrored_; }
 
     /// Gives the focus to the field by code. Nothing happens while the control is disabled or hidden.
     void setFocus();

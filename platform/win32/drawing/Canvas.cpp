@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace kel::win32 {
 
@@ -20,6 +21,11 @@ int Canvas::stretched(int pixels, const TwipScale& scale) const {
     return pixels > 0 ? std::max(length, 1) : length;
 }
 
+RECT Canvas::seen(const RECT& area) const {
+    if (!isMirrored()) return area;
+    return {MirrorWidth_ - area.right, area.top, MirrorWidth_ - area.left, area.bottom};
+}
+
 RECT Canvas::inside(const RECT& area, int pixels) const {
     RECT inner = area;
     InflateRect(&inner, -across(pixels), -down(pixels));
@@ -28,7 +34,10 @@ RECT Canvas::inside(const RECT& area, int pixels) const {
 
 // ---- Painting
 
-void Canvas::clip(const RECT& area) const { IntersectClipRect(Context_, area.left, area.top, area.right, area.bottom); }
+void Canvas::clip(const RECT& area) const {
+    const RECT kept = seen(area);
+    IntersectClipRect(Context_, kept.left, kept.top, kept.right, kept.bottom);
+}
 
 /// The changeable brush has no colour in a metafile.
 void Canvas::fill(const RECT& area, COLORREF color) const {
@@ -37,7 +46,8 @@ void Canvas::fill(const RECT& area, COLORREF color) const {
         return;
     }
     HBRUSH const brush = CreateSolidBrush(color);
-    FillRect(Context_, &area, brush);
+    const RECT filled = seen(area);
+    FillRect(Context_, &filled, brush);
     DeleteObject(brush);
 }
 
@@ -45,7 +55,9 @@ void Canvas::fill(std::initializer_list<POINT> corners, COLORREF color) const {
     HBRUSH const brush = CreateSolidBrush(color);
     HGDIOBJ const brushBefore = SelectObject(Context_, brush);
     HGDIOBJ const penBefore = SelectObject(Context_, GetStockObject(NULL_PEN));
-    Polygon(Context_, corners.begin(), static_cast<int>(corners.size()));
+    std::vector<POINT> points(corners);
+    for (POINT& point : points) point = seen(point);
+    Polygon(Context_, points.data(), static_cast<int>(points.size()));
     SelectObject(Context_, penBefore);
     SelectObject(Context_, brushBefore);
     DeleteObject(brush);
@@ -128,8 +140,8 @@ void countIn(HDC context, const RECT& bounds, const RECT* metafile, SIZE units) 
 }
 
 /// Whatever the host was drawing with.
-void startAfresh(HDC context) {
-    SetTextAlign(context, TA_LEFT | TA_TOP | TA_NOUPDATECP);
+void startAfresh(HDC context, bool mirrored) {
+    SetTextAlign(context, (mirrored ? TA_RIGHT : TA_LEFT) | TA_TOP | TA_NOUPDATECP);
     SetBkMode(context, TRANSPARENT);
     SetROP2(context, R2_COPYPEN);
     SetTextCharacterExtra(context, 0);
@@ -139,7 +151,7 @@ void startAfresh(HDC context) {
 }  // namespace
 
 PictureCanvas::PictureCanvas(HDC context, const RECT& bounds, const RECT* metafile, Size extent, COLORREF ground,
-                             const TwipGrid& screen)
+                             const TwipGrid& screen, bool mirrored)
     : Saved_(context), Canvas_(context, screen, {0, 0}) {
     const Size size{std::max(extent.width, 1), std::max(extent.height, 1)};
     const SIZE units = unitsOf(context, bounds, size, screen);
@@ -148,10 +160,11 @@ PictureCanvas::PictureCanvas(HDC context, const RECT& bounds, const RECT* metafi
     const auto scale = [&](std::int32_t twips, LONG count) {
         return asOnScreen ? TwipScale(screen) : TwipScale(twips, static_cast<std::int32_t>(count));
     };
-    Canvas_ = Canvas::elsewhere(context, screen, scale(size.width, units.cx), scale(size.height, units.cy));
+    Canvas_ = Canvas::elsewhere(context, screen, scale(size.width, units.cx), scale(size.height, units.cy),
+                                mirrored ? units.cx : 0);
     countIn(context, bounds, metafile, units);
     Bottom_ = units.cy;
-    startAfresh(context);
+    startAfresh(context, mirrored);
     Canvas_.clip(whole);
     Canvas_.fill(whole, ground);
 }

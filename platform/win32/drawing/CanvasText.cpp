@@ -13,10 +13,11 @@ namespace {
 
 constexpr std::wstring_view LineBreak = L"\r\n";
 
-/// Text reads as the window goes; a metafile knows of no layout.
-UINT readingOptions(HDC context) {
-    const DWORD layout = GetLayout(context);
-    return layout != GDI_ERROR && (layout & LAYOUT_RTL) != 0 ? ETO_RTLREADING : 0U;
+/// Text reads as the window goes, or the picture; a metafile knows of no layout.
+UINT readingOptions(const Canvas& canvas) {
+    const DWORD layout = GetLayout(canvas.context());
+    const bool isTurned = layout != GDI_ERROR && (layout & LAYOUT_RTL) != 0;
+    return isTurned || canvas.isMirrored() ? ETO_RTLREADING : 0U;
 }
 
 }  // namespace
@@ -48,9 +49,11 @@ int CanvasText::width(std::wstring_view text) const {
 
 void CanvasText::line(POINT place, std::wstring_view text, COLORREF ink, const RECT* clip) const {
     SetTextColor(Canvas_.context(), ink);
-    ExtTextOutW(Canvas_.context(), static_cast<int>(place.x), static_cast<int>(place.y),
-                readingOptions(Canvas_.context()) | (clip != nullptr ? ETO_CLIPPED : 0U), clip, text.data(),
-                static_cast<UINT>(text.size()), nullptr);
+    const POINT start = Canvas_.seen(place);
+    const RECT kept = clip != nullptr ? Canvas_.seen(*clip) : RECT{};
+    ExtTextOutW(Canvas_.context(), static_cast<int>(start.x), static_cast<int>(start.y),
+                readingOptions(Canvas_) | (clip != nullptr ? ETO_CLIPPED : 0U), clip != nullptr ? &kept : nullptr,
+                text.data(), static_cast<UINT>(text.size()), nullptr);
 }
 
 void CanvasText::caption(const RECT& area, std::u16string_view caption, COLORREF ink, bool severalLines,

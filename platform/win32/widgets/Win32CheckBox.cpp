@@ -150,7 +150,7 @@ void Win32CheckBox::draw(const Canvas& canvas) const {
     if (canvas.isWindow())
         paintBox(canvas.context(), box);
     else
-        drawCheck(canvas, box, Box_.value(), Box_.enabled());
+        drawCheck(canvas.upright(), canvas.seen(box), Box_.value(), Box_.enabled());
     drawCaption(canvas, {box.right + canvas.size({CaptionGap, 0}).cx, area.top, area.right, area.bottom});
 }
 

@@ -51,7 +51,7 @@ void Scene::changeHost() {
 void Scene::drawInto(HDC context) {
     const Rect size = whole();
     Window_->draw(win32::PictureCanvas(context, {0, 0, Size_.cx, Size_.cy}, nullptr, {size.width, size.height},
-                                       Window_->ground(), Window_->grid()));
+                                       Window_->ground(), Window_->grid(), Window_->mirrored()));
 }
 
 win32::ole::Module& Scene::readersModule() {

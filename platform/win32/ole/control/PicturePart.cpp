@@ -25,7 +25,8 @@ HRESULT checkFormat(const FORMATETC& format) {
 void draw(OleControl& control, HDC context, const RECT& bounds, const RECT* metafile) {
     if (bounds.left == bounds.right || bounds.top == bounds.bottom) return;
     const ControlWindow& window = control.window();
-    window.draw(PictureCanvas(context, bounds, metafile, control.extent().twips(), window.ground(), window.grid()));
+    window.draw(PictureCanvas(context, bounds, metafile, control.extent().twips(), window.ground(), window.grid(),
+                              window.mirrored()));
 }
 
 /// A host says its corner and its size.
