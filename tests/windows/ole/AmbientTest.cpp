@@ -1,5 +1,7 @@
 // What a container says of the surroundings, at the start and later.
 
+#include <cmath>
+
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/ole/Host.h"
 #include "tests/windows/widgets/Picture.h"
@@ -182,6 +184,82 @@ TEST(ambient_locale_is_how_numbers_and_dates_are_written_and_read) {
             EXPECT_EQ(scene.property(L"Value"), std::wstring(row.stored));
         }
     }
+}
+
+namespace {
+
+Var fontOf(const wchar_t* name, int points) {
+    std::wstring copy = name;
+    FONTDESC wanted{};
+    wanted.cbSizeofstruct = sizeof wanted;
+    wanted.lpstrName = copy.data();
+    wanted.cySize.int64 = points * 10'000;
+    wanted.sWeight = FW_NORMAL;
+    Var font;
+    font.Value.vt = VT_DISPATCH;
+    EXPECT_CODE(OleCreateFontIndirect(&wanted, IID_IFontDisp, reinterpret_cast<void**>(&font.Value.pdispVal)), S_OK);
+    return font;
+}
+
+std::wstring described(const std::wstring& name, double points) {
+    return name + L", " + std::to_wstring(std::lround(points)) + L" points";
+}
+
+/// The system's font object names what it has found, which may be another font than was asked for.
+std::wstring described(const Var& font) {
+    Ref<IFont> object;
+    EXPECT_CODE(font.Value.pdispVal->QueryInterface(IID_IFont, object.receiveVoid()), S_OK);
+    BSTR name = nullptr;
+    CY size{};
+    EXPECT_CODE(object->get_Name(&name), S_OK);
+    EXPECT_CODE(object->get_Size(&size), S_OK);
+    return described(taken(name), static_cast<double>(size.int64) / 1e4);
+}
+
+std::wstring fontIn(HWND window) {
+    LOGFONTW font{};
+    GetObjectW(reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)), sizeof font, &font);
+    HDC const screen = GetDC(nullptr);
+    const double points = std::abs(font.lfHeight) * 72.0 / GetDeviceCaps(screen, LOGPIXELSY);
+    ReleaseDC(nullptr, screen);
+    return described(font.lfFaceName, points);
+}
+
+/// The field's font once the form has said one of so many points, and what was said.
+std::pair<std::wstring, std::wstring> fontsAfter(Scene& scene, int points) {
+    Var font = fontOf(L"Courier New", points);
+    const std::wstring said = described(font);
+    scene.host.say(DISPID_AMBIENT_FONT, std::move(font));
+    return {fontIn(scene.part(L"Edit")), said};
+}
+
+}  // namespace
+
+TEST(ambient_font_serves_where_the_run_time_object_has_none) {
+    HostRuntime runtime;
+    inAnotherApartment([&] {
+        runtime.Default = create(L"KelRuntime8.Runtime");
+        EXPECT_CODE(runtime.handOver(), S_OK);
+        {
+            Scene scene(L"KelControls8.KelText");
+            scene.open();
+            const std::wstring own = fontIn(scene.part(L"Edit"));
+            EXPECT_EQ(fontsAfter(scene, 12).first, own);
+            for (const auto& [member, nothing] :
+                 {std::pair(L"FieldFontName", L""), std::pair(L"FieldFontSize", L"0")}) {
+                std::wstring name = member;
+                wchar_t* names = name.data();
+                DISPID id = DISPID_UNKNOWN;
+                EXPECT_CODE(runtime.GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id), S_OK);
+                runtime.Own.emplace(id, Var(nothing));
+            }
+            for (const int points : {15, 24}) {
+                const auto [shown, said] = fontsAfter(scene, points);
+                EXPECT_EQ(shown, said);
+            }
+        }
+        runtime.Default.reset();
+    });
 }
 
 TEST(ambient_looks_of_the_form) {

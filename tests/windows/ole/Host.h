@@ -177,6 +177,34 @@ private:
     Ref<IOleObject> Object_;
 };
 
+/// A host's run-time object: gives what the default one gives, but for what it has of its own, and counts how often it
+/// is asked.
+class HostRuntime final : public StackObject<IDispatch> {
+public:
+    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID locale,
+                                            DISPID* ids) override {
+        return Default->GetIDsOfNames(iid, names, count, locale, ids);
+    }
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* passed,
+                                     VARIANT* result, EXCEPINFO* exception, UINT* argument) override {
+        ++Asked;
+        if (const auto own = Own.find(id); own != Own.end()) return VariantCopy(result, &own->second.Value);
+        return Default->Invoke(id, iid, locale, flags, passed, result, exception, argument);
+    }
+
+    HRESULT handOver() {
+        VARIANT self = plain(VT_DISPATCH);
+        self.pdispVal = this;
+        return invoke(create(L"KelControls8.KelControlHandler").get(), L"SetRuntime", DISPATCH_METHOD, {self});
+    }
+
+    Ref<IDispatch> Default;
+    std::map<DISPID, Var> Own;
+    int Asked = 0;
+};
+
 /// Runs `body` on a thread with an apartment of its own, while this one serves its calls. What fails there fails here.
 void inAnotherApartment(const std::function<void()>& body);
 

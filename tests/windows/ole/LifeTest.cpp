@@ -99,31 +99,6 @@ void asProxy(const Ref<_KelText>& field, const std::function<void(_KelText&)>& b
     });
 }
 
-/// A host's run-time object: gives what the default one gives, and counts how often it is asked.
-class HostRuntime final : public StackObject<IDispatch> {
-public:
-    HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID locale,
-                                            DISPID* ids) override {
-        return Default->GetIDsOfNames(iid, names, count, locale, ids);
-    }
-    HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* passed,
-                                     VARIANT* result, EXCEPINFO* exception, UINT* argument) override {
-        ++Asked;
-        return Default->Invoke(id, iid, locale, flags, passed, result, exception, argument);
-    }
-
-    HRESULT handOver() {
-        VARIANT self = plain(VT_DISPATCH);
-        self.pdispVal = this;
-        return invoke(create(L"KelControls8.KelControlHandler").get(), L"SetRuntime", DISPATCH_METHOD, {self});
-    }
-
-    Ref<IDispatch> Default;
-    int Asked = 0;
-};
-
 /// A form is opened, a date typed into it, and closed.
 void liveWithDate() {
     const auto day = makeDate();
