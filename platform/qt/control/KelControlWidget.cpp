@@ -3,6 +3,7 @@
 #include <QContextMenuEvent>
 #include <QEvent>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QMetaMethod>
 #include <QMetaProperty>
 #include <QPaintEvent>
