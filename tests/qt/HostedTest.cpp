@@ -165,12 +165,14 @@ TEST(OneWidget, HasTheMenuThatItsProgramWants) {
 }
 
 TEST(OneWidget, TakesGroundAndBorderFromAStyleSheet) {
-    KelTextWidget field;
-    field.setCaption("Name");
+    QWidget window;
+    KelTextWidget field(&window);
     field.setCaptionWidth(1200);
-    field.setStyleSheet("KelTextWidget { background: #00ff00; }");
+    field.setStyleSheet("KelTextWidget { background: #00ff00; border: 2px solid #ff0000; }");
     field.resize(300, 20);
-    EXPECT_EQ(field.grab().toImage().pixelColor(60, 2), QColor(0, 255, 0)) << "beside the caption";
+    const QImage picture = window.grab().toImage();
+    EXPECT_EQ(picture.pixelColor(1, 10), QColor(255, 0, 0));
+    EXPECT_EQ(picture.pixelColor(40, 10), QColor(0, 255, 0)) << "behind the caption";
 }
 
 TEST(OneWidget, IsNamedAndReachedByItsLabel) {

@@ -264,6 +264,20 @@ TEST_F(TypedFields, TellHowTheyStand) {
     }
 }
 
+TEST(TypedField, IsFinishedByEnterWhereThereIsNowhereToGo) {
+    KelDateWidget date;
+    date.show();
+    QApplication::setActiveWindow(&date);
+    date.setFocus();
+    const QSignalSpy changed(&date, &KelDateWidget::dateChanged);
+    const QSignalSpy finished(&date, &KelDateWidget::editingFinished);
+    QTest::keyClicks(&date, "15/03/2013\r");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(changed.count(), 1);
+    EXPECT_EQ(finished.count(), 1);
+    EXPECT_TRUE(date.hasFocus());
+}
+
 /// Whatever is no date is none, not a day in 1899.
 TEST_F(TypedFields, KnowNone) {
     const QDate day(2013, 3, 15);

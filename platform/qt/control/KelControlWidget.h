@@ -24,7 +24,11 @@ struct ControlServices;
 
 /// One control of the library as a Qt widget: base of the widget classes, which are made from the type model and
 /// add its properties, slots and signals. It can be laid out, tabbed to, enabled and given a tooltip like any
-/// other widget; `setEnabled` and `setToolTip` reach the control too.
+/// other widget; `setEnabled`, `setLocale` and `setToolTip` reach the control too. Numbers and dates are written as in
+/// the widget's locale, which is its parent's or the default one when it is made.
+///
+/// It has the focus (`hasFocus`) while the field inside it, its focus proxy, has. `QApplication::focusWidget` is that
+/// field: ask `isAncestorOf`. A QShortcut of the widget alone wants the context Qt::WidgetWithChildrenShortcut.
 ///
 /// The size counts in twips inside the control. They go by the widget's font: 15 to a logical pixel in one of 8 points,
 /// and fewer in a larger one. A control of fixed height is as high as a line edit in that font, whatever it is given.
