@@ -13,7 +13,7 @@ namespace kel {
 
 /// What a form in memory goes by.
 struct HeadlessOptions {
-    std::string locale = "en-GB";     ///< language-REGION, one of some hundred built-in ones
+    std::string locale = "en-GB";     ///< language-REGION of a built-in region
     std::optional<Date> today;        ///< the day it is; left out: the machine's
     std::optional<double> timeOfDay;  ///< seconds since midnight, at which the clock stands; left out: the machine's
     std::int32_t twipsPerPixel = 15;  ///< of the screen that there is not: 15 at 96 dots per inch, 1 to 1440
