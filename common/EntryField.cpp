@@ -258,7 +258,8 @@ Standing EntryControl::standing() {
             .valid = isValid(),
             .locked = entry().get_Locked(),
             .changed = differsFromOriginal(),
-            .range = range()};
+            .range = range(),
+            .moment = moment()};
 }
 
 }  // namespace kel

@@ -222,6 +222,7 @@ protected:
     virtual bool isValid() = 0;
     virtual bool differsFromOriginal() const = 0;
     virtual std::optional<NumberRange> range() const { return std::nullopt; }
+    virtual std::optional<NumberRange> moment() const { return std::nullopt; }
 };
 
 }  // namespace kel

@@ -56,6 +56,7 @@ Accessible describe(Control& control) {
     out.required = standing.required;
     out.invalid = !standing.valid;
     out.range = standing.range;
+    out.moment = standing.moment;
     describeCaption(widgets, out);
     if (widgets.field != nullptr) describeField(*widgets.field, out);
     if (widgets.entry != nullptr) describeEntry(*widgets.entry, out);
@@ -74,6 +75,12 @@ std::u16string remarksOn(const Accessible& described) {
 
 std::u16string shortcutOf(const Accessible& described) {
     return described.mnemonic != 0 ? u"Alt+" + std::u16string(1, described.mnemonic) : std::u16string();
+}
+
+std::u16string helpAndRemarks(const Accessible& described) {
+    const std::u16string remarks = remarksOn(described);
+    if (described.help.empty() || remarks.empty()) return described.help + remarks;
+    return described.help + u", " + remarks;
 }
 
 bool enterText(Control& control, std::u16string_view text) {

@@ -21,6 +21,7 @@ struct Accessible {
     std::u16string help;    ///< the tooltip, where it is not the name
     std::u16string value;   ///< empty where it is hidden, and for a check box
     std::optional<NumberRange> range{};
+    std::optional<NumberRange> moment{};  ///< of a date or a time, for tools that want a number there
 
     bool enabled = true;
     bool focusable = false;
@@ -42,6 +43,9 @@ std::u16string remarksOn(const Accessible& described);
 
 /// "Alt+Q", the keys that lead here; empty for none.
 std::u16string shortcutOf(const Accessible& described);
+
+/// The help, and the remarks behind it, for those who have a description and nothing else.
+std::u16string helpAndRemarks(const Accessible& described);
 
 /// Assistive technology writes all of the text, by the control's rules. False where nothing can be written.
 bool enterText(Control& control, std::u16string_view text);

@@ -26,6 +26,7 @@ struct Standing {
     bool locked = false;
     bool changed = false;  ///< the value as it would be committed now is not the original one
     std::optional<NumberRange> range{};
+    std::optional<NumberRange> moment{};  ///< the same of a date or a time, as day serials
 };
 
 /// One control on a form. Its container drives it, always on the user-interface thread, in this order:
@@ -54,8 +55,8 @@ public:
     virtual Variant valueToStore() const { return heldValue(); }
 
     virtual Standing standing() { return {}; }
-    /// A person sets the number of a field that has a range, as its spinner would. False where the field does not take
-    /// it, and stays as it is.
+    /// A person sets the number of a field that has a range or a moment, as its spinner would. False where the field
+    /// does not take it, and stays as it is.
     virtual bool enterNumber(double /*number*/) { return false; }
 };
 

@@ -131,14 +131,30 @@ void DateTimeField::step(std::int32_t delta) {
     if (Entry_.get_Locked()) return;
     const EntryField::Deed deed(Entry_);
     const BoxState before{.text = Text1_.text(), .caret = static_cast<std::size_t>(Text1_.selStart()), .value = read()};
-    const FieldStep step = Rules_.step(before, delta, host(), textRules());
-    if (!mayTake(step.value)) return;
+    moveTo(Rules_.step(before, delta, host(), textRules()));
+}
+
+bool DateTimeField::moveTo(const FieldStep& step) {
+    if (!mayTake(step.value)) return false;
     Text1_.setText(step.text);
     Text1_.setSelStart(static_cast<std::int32_t>(step.caret));
     take(step.value);  // last: whoever is told of it may read it, which reads the text
-    if (!step.isFirst && !isChangedByStep(ValueOriginal_, step.value)) return;
+    if (!step.isFirst && !isChangedByStep(ValueOriginal_, step.value)) return true;
     host().container.raiseEvent(Change_, {});
     ValueOriginal_ = Value_;
+    return true;
+}
+
+bool DateTimeField::enter(Date value) {
+    if (Entry_.get_Locked() || !Text1_.takesInput() || !Bounds_.contain(value)) return false;
+    CommitText();
+    const Date taken = Rules_.committed(value, host(), Bounds_);
+    return moveTo({.value = taken, .text = Format_.show(taken, Entry_.region())});
+}
+
+NumberRange DateTimeField::moment() const {
+    const Date now = valueToStore().value_or(Date{});
+    return {now.Serial, Bounds_.minimum.Serial, Bounds_.maximum.Serial, Entry_.get_UpDown() ? Rules_.usualStep() : 0};
 }
 
 // ---- The container

@@ -23,6 +23,8 @@ public:
     /// Whether a field that is not mandatory may hold a text that is no value.
     virtual bool allowsAnyText() const = 0;
     virtual const ValueMessages& messages() const = 0;
+    /// Of a press of the spinner, in days, where the caret stands at no part in particular.
+    virtual double usualStep() const = 0;
 
 protected:
     ~DateTimeRules() = default;
@@ -74,6 +76,10 @@ public:
     std::optional<Date> valueToStore() const;
     bool differsFromOriginal() const;
 
+    /// What a person sets without the text: false where it does not go.
+    bool enter(Date value);
+    NumberRange moment() const;
+
     // ---- What the container tells
 
     void initNew();
@@ -98,6 +104,7 @@ private:
     FieldRules textRules() const { return {Format_, Bounds_, Entry_.region()}; }
     void CommitText();
     void step(std::int32_t delta);
+    bool moveTo(const FieldStep& step);
     /// The value that the text stands for. As it was displayed it is not read again: it may leave much of the value
     /// out (the century), or be no text that can be read.
     std::optional<Date> read() const;
@@ -134,8 +141,10 @@ public:
     void RegionChanged(const RegionalSettings& region) override { field().takeRegion(region); }
     Variant heldValue() const override { return field().heldValue(); }
     Variant valueToStore() const override;
+    bool enterNumber(double number) override { return field().enter(Date{number}); }
 
 private:
+    std::optional<NumberRange> moment() const override { return field().moment(); }
     bool isValid() override { return field().get_Valid(false); }
     bool differsFromOriginal() const override { return field().differsFromOriginal(); }
 };

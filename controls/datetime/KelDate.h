@@ -21,6 +21,7 @@ public:
     KeyAnswer answerToCharacter(char32_t character, const RegionalSettings& region) const override;
     bool allowsAnyText() const override { return false; }
     const ValueMessages& messages() const override { return DateMessages; }
+    double usualStep() const override { return 1; }
 
 private:
     DayPin pin(const ControlHost& host) const;

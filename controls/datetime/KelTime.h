@@ -22,6 +22,7 @@ public:
     KeyAnswer answerToCharacter(char32_t character, const RegionalSettings& region) const override;
     bool allowsAnyText() const override { return true; }
     const ValueMessages& messages() const override { return TimeMessages; }
+    double usualStep() const override { return 60.0 / SecondsPerDay; }
 };
 
 /// Time entry: a caption, a text field that takes a time of day, and a spinner that steps the part of the time under

@@ -75,7 +75,8 @@ public:
     void setExtendedUi(bool extended) { change(ExtendedUi_, extended, Change::ExtendedUi); }
 
     /// Draws from now on, over the widget's own painting, a sunken frame and at its right end inside it the raised edge
-    /// of a button, so many pixels wide. `buttonWidthPixels` is read at each painting and outlives the box.
+    /// of a button, so many pixels wide. `buttonWidthPixels` is read at each painting and outlives the box. A desktop
+    /// that draws its text fields and combo boxes alike keeps its own edge.
     void installFrame(const std::int16_t& buttonWidthPixels);
     /// nullptr without a frame.
     const std::int16_t* frameButtonWidth() const { return FrameButtonWidth_; }

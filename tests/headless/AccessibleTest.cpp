@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "controls/datetime/KelDate.h"
+#include "controls/datetime/KelTime.h"
 #include "controls/number/KelNumber.h"
 #include "host/Accessible.h"
 #include "host/editing/ReadingUnit.h"
@@ -36,6 +37,31 @@ TEST(Accessible, ANameIsTheCaptionOrElseTheToolTip) {
     field.put_Caption(u"");
     EXPECT_EQ(describe(form.placed().control()).name, u"How many");
     EXPECT_EQ(describe(form.placed().control()).help, u"");
+}
+
+TEST(Accessible, AMomentIsANumberToThoseWhoWantOne) {
+    struct Case {
+        const ClassModel& model;
+        double value, least, most, step, other, beyond;
+    };
+    for (const Case& row : {Case{KelDateModel, 41348, 41300, 41400, 1, 41350, 41401},
+                            Case{KelTimeModel, 0.5, 0.25, 0.75, 1.0 / 1440, 0.375, 0.76}}) {
+        OneControl form(row.model);
+        auto& field = DateTimeField::of(form.placed().control());
+        form.placed().setBounds({0, 0, 4000, 300});
+        field.entry().put_UpDown(true);
+        field.put_MinValue(Date{row.least});
+        field.put_MaxValue(Date{row.most});
+        field.put_Value(Date{row.value});
+        Control& control = form.placed().control();
+        EXPECT_EQ(describe(control).moment, (NumberRange{row.value, row.least, row.most, row.step}));
+        EXPECT_FALSE(describe(control).range.has_value());
+        EXPECT_FALSE(control.enterNumber(row.beyond));
+        EXPECT_TRUE(control.enterNumber(row.other));
+        EXPECT_EQ(field.get_Value(), Variant(Date{row.other}));
+        field.entry().put_Locked(true);
+        EXPECT_FALSE(control.enterNumber(row.value));
+    }
 }
 
 TEST(Reading, GoesUnitByUnit) {

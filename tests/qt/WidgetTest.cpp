@@ -125,6 +125,9 @@ TEST(Widget, SpeaksItsCaptionAndTooltip) {
 
     field.setToolTip(QStringLiteral("Where you live"));
     field.show();
+    EXPECT_EQ(spoken(boxOf(field), QAccessible::Description), QStringLiteral("Where you live, required, not valid"));
+    field.setMandatory(false);
+    field.setText(QStringLiteral("x"));
     EXPECT_EQ(boxOf(field).toolTip(), QStringLiteral("Where you live"));
     EXPECT_EQ(spoken(boxOf(field), QAccessible::Description), QStringLiteral("Where you live"));
     field.setToolTip(QStringLiteral("Elsewhere"));

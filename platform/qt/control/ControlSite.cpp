@@ -246,6 +246,7 @@ void ControlSite::shown() {
     if (Shown_) return;
     Shown_ = true;
     Control_->Show();
+    forEach<FieldView>([](FieldView& field) { field.prepareSpeech(); });
 }
 
 void ControlSite::hidden() {

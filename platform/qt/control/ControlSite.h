@@ -47,6 +47,7 @@ public:
     void leaveWidget();
 
     Control& control() const { return *Control_; }
+    bool hasControl() const { return Control_ != nullptr; }
     QWidget& widget() const { return *Widget_; }
     const RegionalSettings& region() const { return *Region_; }
     /// Numbers and dates are written by another region from now on, which outlives the control.

@@ -1,9 +1,11 @@
 #include "platform/qt/widgets/FieldView.h"
 
+#include <QAccessible>
 #include <QFocusEvent>
 #include <QScopedValueRollback>
 #include <QWidget>
 
+#include "platform/qt/base/TextBridge.h"
 #include "platform/qt/base/WidgetSettings.h"
 #include "platform/qt/control/ControlSite.h"
 #include "platform/qt/control/QtFocus.h"
@@ -49,6 +51,7 @@ void FieldView::give(QEvent& event) {
 void FieldView::tellFocus(QEvent& event) {
     switch (event.type()) {
         case QEvent::FocusIn:
+            if (QAccessible::isActive()) prepareSpeech();
             focus::arrived(*this, static_cast<QFocusEvent&>(event).reason());
             return site().tellFocus(static_cast<QFocusEvent&>(event));
         case QEvent::FocusOut:
@@ -73,6 +76,21 @@ void FieldView::showState(Changes changes) {
     }
     if (changes.has(Change::Font)) fontAgain();
     if (changes.has(Change::ToolTip)) setWidgetToolTip(widget(), Shown_.toolTip());
+}
+
+Accessible FieldView::described() const {
+    if (!site().hasControl()) return {};
+    Accessible now = describe(site().control());
+    const QString given = site().widget().accessibleDescription();
+    if (!given.isEmpty()) now.help = viewOf(given);
+    return now;
+}
+
+void FieldView::takeNameOfLabel() {
+    const QAccessibleInterface* const composite = QAccessible::queryAccessibleInterface(&site().widget());
+    if (composite == nullptr || !widget().accessibleName().isEmpty()) return;
+    const QString name = composite->text(QAccessible::Name);
+    if (!name.isEmpty()) widget().setAccessibleName(name);
 }
 
 void FieldView::fontAgain() { setWidgetFont(widget(), fontOf(site().widget().font(), Shown_.font())); }

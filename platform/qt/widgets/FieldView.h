@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/Accessible.h"
 #include "host/widgets/Widget.h"
 #include "platform/qt/base/EdgeGuard.h"
 #include "platform/qt/base/FieldColors.h"
@@ -16,6 +17,9 @@ public:
     ~FieldView() override;
 
     FieldWidget& shown() const { return Shown_; }
+    /// For those who cannot see it. While the control is being made there is nothing to tell; a description that the
+    /// program has given the composite stands before the help.
+    Accessible described() const;
 
     /// Enabled and shown, with all around it.
     bool takesFocus() const;
@@ -24,6 +28,8 @@ public:
     void giveUpFocus();
 
     void fontAgain() override;
+    /// It is shown, or gets the focus: where Qt's own widget speaks for itself, what it cannot know is given to it.
+    virtual void prepareSpeech() {}
     /// The desktop's colours are others.
     virtual void colorAgain() = 0;
 
@@ -56,6 +62,8 @@ protected:
 
     /// What Qt does the same for every field: place, state, font and tooltip.
     void showState(Changes changes);
+    /// The label in front of the composite is that of the widget inside, too.
+    void takeNameOfLabel();
     FieldColors colors() const { return {Shown_.backColor(), Shown_.foreColor()}; }
 
 private:

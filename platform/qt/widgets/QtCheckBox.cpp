@@ -112,6 +112,10 @@ void QtCheckBox::paintEvent(QPaintEvent* /*event*/) {
     style()->drawControl(QStyle::CE_CheckBox, &option, &painter, this);
 }
 
+void QtCheckBox::prepareSpeech() {
+    if (Box_.caption().empty()) takeNameOfLabel();
+}
+
 // ---- Events
 
 bool QtCheckBox::event(QEvent* event) {

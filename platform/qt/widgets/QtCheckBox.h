@@ -21,6 +21,7 @@ public:
     void colorAgain() override { update(); }
     bool isTall() const override { return false; }
     int baseline() const override;
+    void prepareSpeech() override;
     int widthFor(int characters) const override;
 
 protected:

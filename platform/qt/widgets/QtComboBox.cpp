@@ -1,5 +1,6 @@
 #include "platform/qt/widgets/QtComboBox.h"
 
+#include <QAccessible>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyle>
@@ -36,11 +37,26 @@ void QtComboBox::showList() {
         closeList();
         return;
     }
-    if (!List_) {
+    const bool opens = !List_;
+    if (opens) {
         List_ = std::make_unique<ComboList>(*this, Combo_);
         update();
     }
     List_->drop();
+    if (opens) tellExpanded();
+}
+
+void QtComboBox::tellExpanded() {
+    if (!QAccessible::isActive()) return;
+    QAccessible::State changed;
+    changed.expanded = true;
+    changed.collapsed = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
+    // A reader has followed the highlight into the list.
+    if (List_ || !hasFocus()) return;
+    QAccessibleEvent back(this, QAccessible::Focus);
+    QAccessible::updateAccessibility(&back);
 }
 
 /// It may be the list that is saying so.
@@ -50,6 +66,7 @@ void QtComboBox::closeList() {
     list->hide();
     list->deleteLater();
     update();
+    tellExpanded();
 }
 
 // ---- Parts

@@ -40,6 +40,7 @@ private:
     bool lendsKeys() const override { return List_ != nullptr; }
     void showList();
     void closeList();
+    void tellExpanded();
 
     QStyleOptionComboBox styleOption() const;
     QRect buttonRect() const;

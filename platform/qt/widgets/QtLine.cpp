@@ -117,10 +117,11 @@ void QtLine::dropLayout() const {
     if (laidOut().line == this) laidOut().line = nullptr;
 }
 
-/// A screen reader is told what a person sees.
+/// A screen reader is told what a person sees, of one that somebody has found.
 void QtLine::tellReaders(bool textDiffers) {
+    QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(this);
     const std::u16string now = box().shownText();
-    if (textDiffers) {
+    if (textDiffers && ToldText_ != now) {
         const TextDifference difference = differenceOf(ToldText_, now, box().selection().caret);
         QAccessibleTextUpdateEvent event(
             this, toInt(difference.start),
@@ -128,9 +129,22 @@ void QtLine::tellReaders(bool textDiffers) {
             toQString(std::u16string_view(now).substr(difference.start, difference.newEnd - difference.start)));
         QAccessible::updateAccessibility(&event);
         ToldText_ = now;
+        tellStanding(*spoken);
     }
     QAccessibleTextSelectionEvent event(this, toInt(box().selection().start()), toInt(box().selection().end()));
     event.setCursorPosition(toInt(box().selection().caret));
+    QAccessible::updateAccessibility(&event);
+}
+
+/// With its text, a field's number may be another one, and what is said of it.
+void QtLine::tellStanding(QAccessibleInterface& spoken) {
+    if (QAccessibleValueInterface* const dial = spoken.valueInterface()) {
+        QAccessibleValueChangeEvent event(this, dial->currentValue());
+        QAccessible::updateAccessibility(&event);
+    }
+    const QString description = spoken.text(QAccessible::Description);
+    if (std::exchange(ToldDescription_, description) == description) return;
+    QAccessibleEvent event(this, QAccessible::DescriptionChanged);
     QAccessible::updateAccessibility(&event);
 }
 

@@ -85,6 +85,7 @@ private:
     int clicksOf(const QMouseEvent& event);
     void startDrag();
     void tellReaders(bool textDiffers);
+    void tellStanding(QAccessibleInterface& spoken);
     void paintGroundIn(QPainter& painter, const QRect& area) const;
 
     static constexpr std::size_t Nowhere = static_cast<std::size_t>(-1);
@@ -98,7 +99,8 @@ private:
     mutable QRect TextArea_;  ///< none while it is to be found
     std::size_t DropPlace_ = Nowhere;
     std::u16string ToldText_;  ///< to screen readers; kept while there are any
-    int Scrolled_ = 0;         ///< pixels of the text in front of what is seen
+    QString ToldDescription_;
+    int Scrolled_ = 0;  ///< pixels of the text in front of what is seen
     bool CaretOn_ = false;
     bool MayDrag_ = false;  ///< the press in hand is in what is selected
 };

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <QAbstractTextDocumentLayout>
+#include <QAccessible>
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QInputMethodEvent>
@@ -12,6 +13,7 @@
 #include <QTextDocument>
 #include <QTextLayout>
 
+#include "host/Accessible.h"
 #include "host/editing/TextDifference.h"
 #include "platform/qt/base/TextBridge.h"
 #include "platform/qt/widgets/PlainText.h"
@@ -48,6 +50,21 @@ void QtTextArea::outOfDate() {
     if (changes.has(Change::Colors)) colorAgain();
     if (changes.has(Change::Locked)) showLocked();
     if (changes.has(Change::Text) || changes.has(Change::Selection)) showText();
+    const bool isRead = QAccessible::isActive() || !accessibleDescription().isEmpty();
+    if (isRead && changes.has(Change::Text | Change::ToolTip)) describeAgain();
+}
+
+/// Qt's own box tells its text; what else there is to be told of a field stands in its description.
+void QtTextArea::prepareSpeech() {
+    takeNameOfLabel();
+    describeAgain();
+}
+
+void QtTextArea::describeAgain() {
+    const Accessible now = described();
+    // Without remarks the tooltip speaks for itself.
+    const QString description = remarksOn(now).empty() ? QString() : toQString(helpAndRemarks(now));
+    if (accessibleDescription() != description) setAccessibleDescription(description);
 }
 
 /// No more than what differs: laying out a text is what Qt's box spends most of its time on.

@@ -25,6 +25,7 @@ public:
     bool isTall() const override { return true; }
     int baseline() const override;
     QWidget& mouseArea() override { return *viewport(); }
+    void prepareSpeech() override;
 
 protected:
     bool event(QEvent* event) override;
@@ -54,6 +55,7 @@ private:
     void showSelection(const Selection& selection);
     Selection shownSelection() const;
     void showLocked();
+    void describeAgain();
     void showComposition(QInputMethodEvent& event) override;
     void textChangedInWidget();
     void selectionChangedInWidget();

@@ -17,6 +17,8 @@ public:
     void outOfDate() override;
     void paintAgain() override { update(); }
 
+    QAccessibleInterface* makeAccessible() override;
+    UpDown& spinner() const { return Spinner_; }
     /// Where the button is.
     QRect half(bool upper) const;
 
