@@ -38,12 +38,14 @@ std::u16string hostName(const FormBlock& block) {
     return block.name + u"(" + widen(std::to_string(*block.index)) + u")";
 }
 
+std::int32_t tabIndexOf(const FormFile& file, FormBlockId id) { return file.integer(id, u"TabIndex", INT32_MAX); }
+
 Placement placementOf(const FormFile& file, FormBlockId id, PlacedPanel* parent) {
     Placement placement;
     placement.name = hostName(file.block(id));
     placement.bounds = file.bounds(id);
     placement.parent = parent;
-    placement.tabIndex = file.integer(id, u"TabIndex", INT32_MAX);
+    placement.tabIndex = tabIndexOf(file, id);
     placement.tabStop = file.boolean(id, u"TabStop", true);
     placement.visible = file.boolean(id, u"Visible", true);
     return placement;
@@ -125,6 +127,20 @@ PlacedControl* Form::find(std::u16string_view name) const {
     for (const Entry& entry : Entries_)
         if (equalsIgnoringCase(entry.control->name(), name)) return entry.control;
     return nullptr;
+}
+
+std::vector<Form::Placed> Form::inTabOrder() const {
+    std::vector<Placed> order;
+    for (const Entry& entry : Entries_) order.push_back({entry.block, entry.control});
+    const auto place = [&](const Placed& placed) { return tabIndexOf(File_, placed.block); };
+    std::stable_sort(order.begin(), order.end(),
+                     [&](const Placed& left, const Placed& right) { return place(left) < place(right); });
+    return order;
+}
+
+void Form::reload(const Placed& placed, const PersistedRow& property) const {
+    ControlBag bag(File_, placed.block);
+    property.load(placed.control->control(), bag.readProperty(property));
 }
 
 void Form::writeExtender(const Entry& entry, FormFile& file) const {

@@ -30,6 +30,19 @@ public:
     /// By its name, case ignored; an element of a control array is "name(index)". nullptr: there is none.
     PlacedControl* find(std::u16string_view name) const;
 
+    /// A control and the block of the file that it was made from.
+    struct Placed {
+        FormBlockId block;
+        PlacedControl* control;
+    };
+    /// In the order of the Tab key.
+    std::vector<Placed> inTabOrder() const;
+    const FormFile& file() const { return File_; }
+
+    /// Gives a saved property of the control what it was loaded with, as if the form was opened now: a date of "Now" is
+    /// today's. One that the block does not have gets its default.
+    void reload(const Placed& placed, const PersistedRow& property) const;
+
     /// What the control of a block gives back otherwise than it stands in the file. A block without a control has none.
     std::vector<ControlBag::Deviation> deviations(FormBlockId block) const;
 

@@ -42,6 +42,9 @@ endif()
 if(TARGET kelforms)
     kel_debian_package(kelforms kelforms misc "opens, plays and checks classic Basic forms"
         "Shows a form (.frm) in a window or on a terminal, plays scripted sessions on it,\nchecks it and writes it back.")
+    # Qt loads its databases as it runs.
+    set(CPACK_DEBIAN_KELFORMS_PACKAGE_DEPENDS libqt6sql6-sqlite)
+    set(CPACK_DEBIAN_KELFORMS_PACKAGE_SUGGESTS libqt6sql6-psql)
 endif()
 # What links the library itself: it is found where it was built, and depended on by name.
 if(TARGET kel_designer)

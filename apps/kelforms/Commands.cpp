@@ -4,12 +4,14 @@
 #include <iostream>
 #include <iterator>
 
+#include "apps/kelforms/Databases.h"
 #include "apps/kelforms/Homes.h"
 #include "controls/Classes.h"
 #include "forms/Describe.h"
 #include "forms/file/FileWriter.h"
 #include "forms/file/FormStore.h"
 #include "forms/play/Player.h"
+#include "records/RecordScript.h"
 #include "values/Calendar.h"
 #include "values/Text.h"
 
@@ -33,6 +35,12 @@ void setClock(PlaySystem& system, const Options& options) {
     if (options.now) system.setTimer(options.now->Serial * SecondsPerDay);
 }
 
+std::u16string tableOf(const Options& options) {
+    const auto name = fromUtf8(options.table);
+    if (!name) throw UsageError("--table: the name is not valid UTF-8");
+    return *name;
+}
+
 /// Says where the printed lines differ from the expected ones; true when they do not.
 bool compare(const Script& script, const ScriptCommand& command, const std::vector<std::string>& printed) {
     const std::vector<std::string> expected = script.expected(command);
@@ -49,7 +57,15 @@ ExitStatus playScript(const Options& options) {
     const Script script = readScript(scriptFile == "-" ? "standard input" : scriptFile, readAll(scriptFile));
     if (options.update && scriptFile == "-") throw UsageError("--update: standard input cannot be rewritten");
     const auto session = openHome(options.on.empty() ? "headless" : options.on, options, false);
-    Player player(session->home(), options.files[0], [&](PlaySystem& system) { setClock(system, options); });
+    std::unique_ptr<Database> database;
+    std::unique_ptr<records::RecordScript> records;
+    if (!options.data.empty()) {
+        database = std::make_unique<Database>(options.data);
+        records = std::make_unique<records::RecordScript>(database->store(), fromUtf8(options.table).value_or(u""),
+                                                          session->home().region());
+    }
+    Player player(
+        session->home(), options.files[0], [&](PlaySystem& system) { setClock(system, options); }, records.get());
 
     bool same = true;
     std::vector<std::vector<std::string>> printed;
@@ -74,6 +90,12 @@ ExitStatus runForm(const Options& options) {
     const auto session = openHome(options.on.empty() ? WindowHome : options.on, options, true);
     SilentObserver observer;
     Form form(session->home(), session->home().system(), observer, readFormFile(options.files[0]));
+    if (!options.data.empty()) {
+        Database database(options.data);
+        const auto window = openRecords(form, session->home(), database.store(), tableOf(options));
+        session->runUntilClosed();
+        return Done;
+    }
     form.show();
     // A form starts with the focus nowhere; whoever opens one to fill it in types at once.
     form.window().press({keys::Tab, 0, NoModifier});
@@ -85,6 +107,12 @@ ExitStatus shootForm(const Options& options) {
     const auto session = openHome(WindowHome, options, false);
     SilentObserver observer;
     Form form(session->home(), session->home().system(), observer, readFormFile(options.files[0]));
+    if (!options.data.empty()) {
+        Database database(options.data);
+        const auto window = openRecords(form, session->home(), database.store(), tableOf(options));
+        writeFile(pathOf(options.files[1]), window->picture());
+        return Done;
+    }
     form.show();
     writePicture(form.window(), options.files[1]);
     return Done;

@@ -10,6 +10,8 @@ namespace kel::app {
 
 const char* const Usage =
     "kelforms run FORM.frm [--on terminal] [--locale L]   show the form in a window\n"
+    "kelforms run FORM.frm --data DATABASE [--table T]    the same with records: a file of SQLite, or\n"
+    "                                                     postgresql://user@host:port/name\n"
     "kelforms play FORM.frm SCRIPT|- [options]            play a script on the form\n"
     "kelforms check FORM.frm                              say what the file holds and what is wrong with it\n"
     "kelforms save FORM.frm OUT.frm                       load every control and write the form back\n"
@@ -17,7 +19,8 @@ const char* const Usage =
     "kelforms describe [CLASS] [--json|--markdown]        members, events and saved properties\n"
     "\n"
     "options of play: --on headless|qt|win32|terminal, --locale en-GB, --today 2013-03-15, --now 10:15:30,\n"
-    "  --colour-depth 24, --twips-per-pixel 15, --shot FILE.png, --used FILE, --check, --update\n"
+    "  --colour-depth 24, --twips-per-pixel 15, --data DATABASE, --table T, --shot FILE.png, --used FILE,\n"
+    "  --check, --update\n"
     "windows of Qt's take Qt's usual options: -style fusion, -reverse, -platform wayland, -stylesheet FILE ...\n";
 
 namespace {
@@ -76,6 +79,10 @@ bool readOption(const std::string& word, Reader& reader, Options& options) {
         options.home.colorDepth = reader.number(word, 1, 64);
     else if (word == "--twips-per-pixel")
         options.home.twipsPerPixel = reader.number(word, 1, 1440);
+    else if (word == "--data")
+        options.data = reader.value(word);
+    else if (word == "--table")
+        options.table = reader.value(word);
     else if (word == "--shot")
         options.shot = reader.value(word);
     else if (word == "--used")

@@ -25,6 +25,8 @@ struct Options {
     std::vector<std::string> ofQt;  ///< options that every program on Qt has, values included
     std::optional<Date> today;
     std::optional<Date> now;
+    std::string data;   ///< a database; empty for none
+    std::string table;  ///< empty: the form's own
     std::string shot;
     std::string used;
     bool check = false;

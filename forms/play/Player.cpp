@@ -75,22 +75,29 @@ DispatchFault access(Verb verb, LibraryObject& object, const MemberRow& member, 
 
 }  // namespace
 
-Player::Player(Home& home, const std::string& formPath, const std::function<void(PlaySystem&)>& prepare)
-    : Home_(home), System_(home.system(), [this](const std::u16string& line) { print(line); }) {
+Player::Player(Home& home, const std::string& formPath, const std::function<void(PlaySystem&)>& prepare,
+               RecordCommands* records)
+    : Home_(home), Records_(records), System_(home.system(), [this](const std::u16string& line) { print(line); }) {
     prepare(System_);
     open(formPath);
 }
 
-Player::~Player() = default;
+Player::~Player() { close(); }
+
+void Player::close() {
+    if (Records_ != nullptr && Form_) Records_->formCloses();
+    Form_.reset();
+}
 
 void Player::open(const std::string& path) {
     FormFile file = readFormFile(path);
-    Form_.reset();
+    close();
     Reported_.clear();
     useLoaded(file);
     ControlObserver& observer = *this;
     Form_ = std::make_unique<Form>(Home_, System_, observer, std::move(file));
     Form_->show();
+    if (Records_ != nullptr) Records_->formOpened(*Form_);
 }
 
 void Player::use(const ClassModel& model, std::string_view how, std::u16string_view name) {
@@ -171,6 +178,7 @@ void Player::execute(const ScriptCommand& command, const std::string& scriptFile
         case Verb::Runtime: handOverRuntime(); break;
         case Verb::Save: Form_->save(toUtf8(command.text)); break;
         case Verb::Load: open(toUtf8(command.text)); break;
+        case Verb::Records: runRecords(command, scriptFile); break;
     }
 }
 
@@ -258,6 +266,15 @@ void Player::handOverRuntime() {
     callMember(static_cast<LibraryObject&>(*handler), *findMember(model, u"SetRuntime"), arguments, result,
                Home_.region());
     use(model, "call", u"SetRuntime");
+}
+
+void Player::runRecords(const ScriptCommand& command, const std::string& scriptFile) {
+    if (Records_ == nullptr) throw ScriptError(scriptFile, command.line, "the form has no database: --data is wanted");
+    try {
+        Records_->run(command.text, [this](const std::u16string& line) { print(line); });
+    } catch (const RecordCommands::Error& error) {
+        throw ScriptError(scriptFile, command.line, error.what());
+    }
 }
 
 void Player::printReported(PlacedControl& control) {

@@ -10,6 +10,7 @@
 
 #include "forms/Form.h"
 #include "forms/play/PlaySystem.h"
+#include "forms/play/RecordCommands.h"
 #include "forms/play/Script.h"
 
 namespace kel {
@@ -18,8 +19,9 @@ namespace kel {
 class Player final : private ControlObserver {
 public:
     /// Opens and shows the form, when `prepare` has set the session's clock. Throws FormError when the file
-    /// is wrong.
-    Player(Home& home, const std::string& formPath, const std::function<void(PlaySystem&)>& prepare);
+    /// is wrong. `records`, which outlives the player, is the form's database, if it has one.
+    Player(Home& home, const std::string& formPath, const std::function<void(PlaySystem&)>& prepare,
+           RecordCommands* records = nullptr);
     ~Player();
 
     Form& form() { return *Form_; }
@@ -54,6 +56,8 @@ private:
     void pick(PlacedControl& control, const ScriptCommand& command, const std::string& scriptFile);
     void spin(PlacedControl& control, const ScriptCommand& command, const std::string& scriptFile);
     void handOverRuntime();
+    void runRecords(const ScriptCommand& command, const std::string& scriptFile);
+    void close();
     void printBag(PlacedControl& control);
     void printReported(PlacedControl& control);
     void printProperties(PlacedControl& control);
@@ -62,6 +66,7 @@ private:
     Variant valueOf(PlacedControl& control, const MemberRow& property);
 
     Home& Home_;
+    RecordCommands* Records_;
     std::vector<std::string> Printed_;
     PlaySystem System_;
     std::map<std::u16string, bool> Answers_;  ///< by "name.event"

@@ -72,6 +72,16 @@ constexpr VerbRow Verbs[] = {
     {u"load", Verb::Load, Shape::File},
 };
 
+/// What a script says of the records behind the form. "save" and "show" are so with these words behind them.
+constexpr std::u16string_view RecordWords[] = {u"new",  u"first",     u"previous", u"next",   u"last",  u"go",
+                                               u"find", u"duplicate", u"undo",     u"delete", u"carry", u"answers"};
+
+bool isOfRecords(std::u16string_view word, std::u16string_view line) {
+    if (word == u"save") return line == u"save" || line == u"save new";
+    if (word == u"show") return line == u"show record";
+    return std::find(std::begin(RecordWords), std::end(RecordWords), word) != std::end(RecordWords);
+}
+
 struct KeyName {
     std::u16string_view name;
     std::int16_t code;
@@ -240,9 +250,23 @@ void readArguments(LineReader& line, ScriptCommand& command, const VerbRow& row)
     if (!line.atEnd()) line.fail("something stands behind the command");
 }
 
+std::u16string_view withoutBlanks(std::u16string_view text) {
+    constexpr std::u16string_view Blanks = u" \t";
+    text.remove_prefix(std::min(text.find_first_not_of(Blanks), text.size()));
+    return text.substr(0, text.find_last_not_of(Blanks) + 1);
+}
+
 ScriptCommand readCommand(const std::string& file, std::size_t lineNumber, std::u16string_view text) {
     LineReader line(file, lineNumber, text);
     const std::u16string word = line.word("the command");
+    const std::u16string_view whole = withoutBlanks(text);
+    if (isOfRecords(word, whole)) {
+        ScriptCommand command;
+        command.verb = Verb::Records;
+        command.line = lineNumber;
+        command.text = whole;
+        return command;
+    }
     for (const VerbRow& row : Verbs) {
         if (row.word != word) continue;
         ScriptCommand command;

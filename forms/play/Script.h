@@ -49,13 +49,14 @@ struct ScriptCommand {
         Advance,
         Runtime,
         Save,
-        Load
+        Load,
+        Records
     };
     Verb verb = Verb::Where;
     std::size_t line = 0;   ///< 1-based
     std::u16string name;    ///< of a control
     std::u16string member;  ///< after the point
-    std::u16string text;    ///< of type and paste; a file of save and load
+    std::u16string text;    ///< of type and paste; a file of save and load; all of a command of the records
     KeyStroke stroke;       ///< of key
     std::vector<std::int32_t> numbers;
     std::vector<Variant> values;

@@ -44,12 +44,12 @@ protected:
     static QRect lineOf(const QImage& picture) { return {0, picture.height() - 4, picture.width(), 1}; }
     /// Where the bar is, which is there where it is not empty.
     QRect barIn(const QImage& picture) {
-        const QImage shown = picture;
         bar().Clear();
         const QImage empty = box().grab().toImage();
         QRect bar;
-        for (int x = 0, y = lineOf(shown).y(); x < shown.width(); ++x)
-            if (contrast(shown.pixelColor(x, y), empty.pixelColor(x, y)) > 1.3) bar |= QRect(x, 0, 1, shown.height());
+        for (int x = 0, y = lineOf(picture).y(); x < picture.width(); ++x)
+            if (contrast(picture.pixelColor(x, y), empty.pixelColor(x, y)) > 1.3)
+                bar |= QRect(x, 0, 1, picture.height());
         return bar;
     }
 

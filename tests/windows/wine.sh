@@ -29,7 +29,7 @@ begin() {
     trap leave EXIT
     # Wine's own programs are in no group that a key ends.
     trap 'exit 130' INT TERM
-    timeout 120 wineboot -i >"$work/wineboot.log" 2>&1 </dev/null || { failed wine "no prefix could be made"; finish; }
+    timeout 300 wineboot -i >"$work/wineboot.log" 2>&1 </dev/null || { failed wine "no prefix could be made"; finish; }
     wineserver -w
     wineserver -p60 >/dev/null 2>&1
     # Without a window manager nobody answers a managed window.

@@ -1,9 +1,12 @@
-// Prints which characters fold to which others when case does not matter, as Qt's Unicode data have it.
-// CaseFolding.cpp includes the result.
+// Prints tables of characters as Qt's Unicode data have them:
+//   kel-folding         which fold to which others when case does not matter; CaseFolding.cpp includes the result
+//   kel-folding plain   which small letters are another one with accents; Finder.cpp includes it
 
 #include <cstdint>
 #include <cstdio>
 #include <QChar>
+#include <QString>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -37,12 +40,28 @@ std::vector<Folding> foldings() {
     return runs;
 }
 
-}  // namespace
+/// The letter without its accents; itself where it has none.
+char32_t plainOf(char32_t point) {
+    const QString parts = QString::fromUcs4(&point, 1).normalized(QString::NormalizationForm_D);
+    if (parts.size() < 2 || parts[0].isSurrogate()) return point;
+    return parts[0].unicode();
+}
 
-int main() {
+void printPlainLetters() {
+    constexpr char32_t LastWithAccents = 0x1FFF;  ///< behind it are scripts that write in other ways
+    constexpr std::size_t PerLine = 6;
+    std::printf("constexpr PlainLetter PlainLetters[] = {");
+    std::size_t count = 0;
+    for (char32_t point = 0xC0; point <= LastWithAccents; ++point) {
+        if (!QChar::isLetter(point) || QChar::toCaseFolded(point) != point || plainOf(point) == point) continue;
+        std::printf("%s{0x%04X, 0x%04X},", count++ % PerLine == 0 ? "\n    " : " ", unsigned{point},
+                    unsigned{plainOf(point)});
+    }
+    std::printf("\n};\n");
+}
+
+void printFoldings() {
     constexpr std::size_t PerLine = 4;
-    std::printf("// Generated from the Unicode data of Qt %s; do not edit. tools/folding/CMakeLists.txt says how.\n\n",
-                qVersion());
     std::printf("constexpr FoldingRange Foldings[] = {");
     std::size_t count = 0;
     for (const Folding& run : foldings()) {
@@ -50,5 +69,16 @@ int main() {
                     unsigned{run.last}, unsigned{run.step}, run.distance);
     }
     std::printf("\n};\n");
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+    std::printf("// Generated from the Unicode data of Qt %s; do not edit. tools/folding/CMakeLists.txt says how.\n\n",
+                qVersion());
+    if (count > 1 && std::string_view(arguments[1]) == "plain")
+        printPlainLetters();
+    else
+        printFoldings();
     return 0;
 }

@@ -34,6 +34,9 @@ public:
     PlacedControl* focused() const override;
     std::string picture() override;
 
+    /// The window itself, which may stand in another one. Owned here.
+    QWidget& widget() const { return *Window_; }
+
 private:
     struct Caption {
         QLabel* label;

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+#include "records/Store.h"
+
+class QSqlError;
+
+namespace kel::qt {
+
+/// In what the databases differ.
+class Dialect {
+public:
+    Dialect() = default;
+    Dialect(const Dialect&) = delete;
+    Dialect& operator=(const Dialect&) = delete;
+    virtual ~Dialect() = default;
+
+    /// A type as a new column is declared with it.
+    virtual QString typeName(const records::Column& column) const = 0;
+    /// Declares the key of a new table, whose values the database gives.
+    virtual QString keyDeclaration(const QString& quotedName) const = 0;
+    /// Behind a query that reads what is to be changed at once.
+    virtual QString forUpdate() const = 0;
+    /// Before that, so that nobody comes between.
+    virtual QString beginToChange() const = 0;
+
+    /// The column in a query's list of what it reads.
+    virtual QString readExpression(const records::Column& column) const { return quoted(column.name); }
+    /// A value as this database keeps it in such a column, and back.
+    virtual QVariant toSql(const records::Cell& cell, const records::Column& column) const = 0;
+    virtual records::Cell fromSql(const QVariant& value, const records::Column& column) const = 0;
+
+    virtual records::StoreError errorOf(const QSqlError& error) const = 0;
+
+    /// A name as it stands in a statement, whatever is in it.
+    static QString quoted(std::u16string_view name);
+};
+
+std::unique_ptr<Dialect> makeSqliteDialect();
+std::unique_ptr<Dialect> makePostgresDialect();
+
+}  // namespace kel::qt

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/qt/sql/SqlConnection.h"
+
+namespace kel::qt {
+
+/// The records of one table of an SQL database.
+class SqlRecords final : public records::RecordStore {
+public:
+    /// The connection outlives it.
+    SqlRecords(SqlConnection& connection, records::Table table);
+
+    const records::Table& table() const override { return Table_; }
+    std::int64_t count() override;
+    std::optional<records::Record> read(const records::Cells& key) override;
+    std::vector<records::Record> walk(const records::Record* from, records::Way way, std::int32_t count,
+                                      const records::Order& order) override;
+    std::vector<records::Record> rows(std::int64_t place, std::int32_t count, const records::Order& order) override;
+    std::int64_t placeOf(const records::Record& record, const records::Order& order) override;
+    records::Record insert(const std::vector<records::Change>& values) override;
+    records::Outcome update(records::Record& read, const std::vector<records::Change>& values) override;
+    records::Outcome remove(const records::Record& read) override;
+    void begin() override { Connection_.begin(); }
+    void commit() override { Connection_.commit(); }
+    void rollBack() override { Connection_.rollBack(); }
+
+private:
+    /// A condition and the values in it.
+    struct Condition {
+        QString text;
+        QVariantList values;
+    };
+
+    const records::Column& column(std::size_t place) const { return Table_.columns[place]; }
+    QString nameOf(std::size_t place) const { return Dialect::quoted(column(place).name); }
+    QVariant valueOf(const records::Record& record, std::size_t place) const;
+    /// By which columns records are put in a row, the key last.
+    std::vector<std::size_t> rowColumns(const records::Order& order) const;
+    /// Such that a record stands behind `from` in the row, or in front of it.
+    Condition beyond(const records::Record& from, bool isBehind, const records::Order& order) const;
+    QString orderBy(const records::Order& order, bool isReversed) const;
+    Condition isKey(const records::Cells& key) const;
+    /// Reads the record, so that nobody changes it before the transaction is over; then whether it is as it was `read`.
+    records::Outcome hold(const records::Record& read);
+    records::Record recordIn(const QSqlQuery& query) const;
+    std::vector<records::Record> all(const QString& rest, const QVariantList& values);
+
+    SqlConnection& Connection_;
+    records::Table Table_;
+    QString Select_;  ///< all columns of it
+};
+
+}  // namespace kel::qt

@@ -1,0 +1,166 @@
+#include "platform/qt/sql/SqlSchema.h"
+
+#include <algorithm>
+#include <QRegularExpression>
+
+#include "platform/qt/base/TextBridge.h"
+#include "records/VersionColumn.h"
+#include "values/CaseFolding.h"
+
+namespace kel::qt {
+
+namespace {
+
+using records::Column;
+using records::ColumnType;
+using records::Table;
+
+std::u16string textAt(const QSqlQuery& query, int place) { return query.value(place).toString().toStdU16String(); }
+
+Column* columnNamed(Table& table, const std::u16string& name) {
+    const auto found = std::find_if(table.columns.begin(), table.columns.end(),
+                                    [&](const Column& column) { return compareFolded(column.name, name) == 0; });
+    return found == table.columns.end() ? nullptr : &*found;
+}
+
+}  // namespace
+
+void setDeclaredType(Column& column, const QString& declared) {
+    struct Rule {
+        const char* word;
+        ColumnType type;
+    };
+    // The first that is found: "TIMESTAMP" before "TIME", "DATETIME" before both.
+    static constexpr Rule Rules[] = {
+        {"BOOL", ColumnType::Truth},    {"TIMESTAMP", ColumnType::Moment}, {"DATETIME", ColumnType::Moment},
+        {"DATE", ColumnType::Date},     {"TIME", ColumnType::Time},        {"INTERVAL", ColumnType::Other},
+        {"POINT", ColumnType::Other},   {"INT", ColumnType::Integer},      {"SERIAL", ColumnType::Integer},
+        {"CHAR", ColumnType::Text},     {"CLOB", ColumnType::Text},        {"TEXT", ColumnType::Text},
+        {"UUID", ColumnType::Text},     {"DOUBLE", ColumnType::Real},      {"REAL", ColumnType::Real},
+        {"FLOA", ColumnType::Real},     {"NUMERIC", ColumnType::Decimal},  {"DECIMAL", ColumnType::Decimal},
+        {"MONEY", ColumnType::Decimal},
+    };
+    const QString upper = declared.toUpper();
+    const auto* const rule = std::find_if(std::begin(Rules), std::end(Rules),
+                                          [&](const Rule& each) { return upper.contains(QLatin1String(each.word)); });
+    column.type = rule == std::end(Rules) ? ColumnType::Other : rule->type;
+    static const QRegularExpression Sizes(QStringLiteral(R"(\((\d+)(?:\s*,\s*(\d+))?\))"));
+    const QRegularExpressionMatch sizes = Sizes.match(declared);
+    if (column.type == ColumnType::Text) column.length = sizes.captured(1).toInt();
+    if (column.type != ColumnType::Decimal) return;
+    column.decimals = sizes.captured(2).toInt();
+    // Without a scale it keeps any number.
+    if (!sizes.hasMatch()) column.type = ColumnType::Real;
+}
+
+std::vector<std::u16string> SqlSchema::tables() {
+    std::vector<std::u16string> names;
+    QSqlQuery& query = Connection_.run(
+        Connection_.isServer()
+            ? QStringLiteral("SELECT table_name FROM information_schema.tables WHERE table_schema = current_schema() "
+                             "AND table_type = 'BASE TABLE' ORDER BY table_name")
+            : QStringLiteral("SELECT name FROM sqlite_schema WHERE type = 'table' AND name NOT LIKE 'sqlite\\_%' "
+                             "ESCAPE '\\' ORDER BY name"));
+    while (query.next()) names.push_back(textAt(query, 0));
+    query.finish();
+    return names;
+}
+
+std::optional<Table> SqlSchema::table(std::u16string_view name) {
+    const std::vector<std::u16string> names = tables();
+    auto found = std::find(names.begin(), names.end(), name);
+    if (found == names.end())
+        found = std::find_if(names.begin(), names.end(),
+                             [&](const std::u16string& each) { return compareFolded(each, name) == 0; });
+    if (found == names.end()) return std::nullopt;
+    Table table;
+    table.name = *found;
+    if (Connection_.isServer())
+        readPostgres(table);
+    else
+        readSqlite(table);
+    for (std::size_t i = 0; i < table.columns.size(); ++i)
+        if (table.columns[i].name == records::VersionColumn) table.version = i;
+    if (table.key.empty())
+        throw records::StoreError(records::StoreError::Kind::Wrong,
+                                  "The table " + toQString(table.name).toStdString() +
+                                      " has no primary key, so that its records cannot be told apart.");
+    return table;
+}
+
+void SqlSchema::readSqlite(Table& table) {
+    const QVariantList name{toQString(table.name)};
+    std::vector<std::pair<int, std::size_t>> key;
+    QSqlQuery& columns = Connection_.run(
+        QStringLiteral("SELECT name, type, \"notnull\", dflt_value, pk, hidden FROM pragma_table_xinfo(?)"), name);
+    while (columns.next()) {
+        Column column;
+        column.name = textAt(columns, 0);
+        setDeclaredType(column, columns.value(1).toString());
+        column.notNull = columns.value(2).toBool();
+        column.hasDefault = !columns.value(3).isNull();
+        column.generated = columns.value(5).toInt() > 1;
+        if (const int place = columns.value(4).toInt(); place > 0) key.emplace_back(place, table.columns.size());
+        table.columns.push_back(std::move(column));
+    }
+    columns.finish();
+    std::sort(key.begin(), key.end());
+    for (const auto& [place, column] : key) table.key.push_back(column);
+    // Such a key is the number of the row, which the database gives.
+    if (key.size() == 1) {
+        Column& column = table.columns[table.key.front()];
+        column.hasDefault = column.hasDefault || column.type == ColumnType::Integer;
+    }
+    QSqlQuery& references =
+        Connection_.run(QStringLiteral("SELECT \"from\", \"table\", \"to\" FROM pragma_foreign_key_list(?)"), name);
+    while (references.next())
+        if (Column* const column = columnNamed(table, textAt(references, 0)))
+            column->reference = records::Reference{textAt(references, 1), textAt(references, 2)};
+    references.finish();
+}
+
+void SqlSchema::readPostgres(Table& table) {
+    const QVariantList name{toQString(table.name)};
+    QSqlQuery& columns = Connection_.run(
+        QStringLiteral("SELECT a.attname, format_type(a.atttypid, a.atttypmod), a.attnotnull, a.atthasdef OR "
+                       "a.attidentity <> '', a.attgenerated <> '' OR a.attidentity = 'a' FROM pg_attribute a JOIN "
+                       "pg_class c ON c.oid = a.attrelid JOIN pg_namespace n ON n.oid = c.relnamespace WHERE "
+                       "c.relname = ? AND n.nspname = current_schema() AND a.attnum > 0 AND NOT a.attisdropped ORDER "
+                       "BY a.attnum"),
+        name);
+    while (columns.next()) {
+        Column column;
+        column.name = textAt(columns, 0);
+        setDeclaredType(column, columns.value(1).toString());
+        column.notNull = columns.value(2).toBool();
+        column.hasDefault = columns.value(3).toBool();
+        column.generated = columns.value(4).toBool();
+        table.columns.push_back(std::move(column));
+    }
+    columns.finish();
+    const auto constraints = [&](const QString& kind, auto found) {
+        QSqlQuery& query = Connection_.run(
+            QStringLiteral("SELECT k.column_name, coalesce(r.table_name, ''), coalesce(r.column_name, '') FROM "
+                           "information_schema.table_constraints t JOIN information_schema.key_column_usage k USING "
+                           "(constraint_schema, constraint_name) LEFT JOIN "
+                           "information_schema.referential_constraints f USING (constraint_schema, constraint_name) "
+                           "LEFT JOIN information_schema.key_column_usage r ON r.constraint_schema = "
+                           "f.unique_constraint_schema AND r.constraint_name = f.unique_constraint_name AND "
+                           "r.ordinal_position = k.position_in_unique_constraint WHERE t.table_name = ? AND "
+                           "t.table_schema = current_schema() AND t.constraint_type = '%1' ORDER BY "
+                           "k.ordinal_position")
+                .arg(kind),
+            name);
+        while (query.next())
+            if (Column* const column = columnNamed(table, textAt(query, 0)))
+                found(static_cast<std::size_t>(column - table.columns.data()), query);
+        query.finish();
+    };
+    constraints(QStringLiteral("PRIMARY KEY"),
+                [&](std::size_t column, const QSqlQuery&) { table.key.push_back(column); });
+    constraints(QStringLiteral("FOREIGN KEY"), [&](std::size_t column, const QSqlQuery& query) {
+        table.columns[column].reference = records::Reference{textAt(query, 1), textAt(query, 2)};
+    });
+}
+
+}  // namespace kel::qt

@@ -1,0 +1,105 @@
+#include <QSqlError>
+
+#include "platform/qt/base/TextBridge.h"
+#include "platform/qt/sql/Dialect.h"
+
+namespace kel::qt {
+
+namespace {
+
+using records::Cell;
+using records::Column;
+using records::ColumnType;
+using records::StoreError;
+using Kind = StoreError::Kind;
+
+constexpr int PrimaryCode = 0xFF;  ///< the rest of an error's number says more
+
+StoreError constraintError(const QString& text) {
+    // "NOT NULL constraint failed: orders.quantity"
+    const QString place = text.section(QLatin1String("failed: "), 1).section(QLatin1Char(' '), 0, 0);
+    const QString column = place.section(QLatin1Char('.'), -1).section(QLatin1Char(','), 0, 0);
+    const std::u16string about = column.toStdU16String();
+    if (text.contains(QLatin1String("NOT NULL"))) return {Kind::Constraint, "a value is needed here.", about};
+    if (text.contains(QLatin1String("UNIQUE")))
+        return {Kind::Constraint, "another record has the same value already.", about};
+    if (text.contains(QLatin1String("FOREIGN KEY")))
+        return {Kind::Constraint, "Another table does not have what this record refers to, or refers to this record."};
+    return {Kind::Constraint, "A rule of the database is not kept: " + text.toStdString()};
+}
+
+class SqliteDialect final : public Dialect {
+public:
+    QString typeName(const Column& column) const override {
+        switch (column.type) {
+            case ColumnType::Integer: return QStringLiteral("INTEGER");
+            case ColumnType::Real: return QStringLiteral("DOUBLE PRECISION");
+            case ColumnType::Decimal: return QStringLiteral("DECIMAL(30,%1)").arg(column.decimals);
+            case ColumnType::Date: return QStringLiteral("DATE");
+            case ColumnType::Time: return QStringLiteral("TIME");
+            case ColumnType::Moment: return QStringLiteral("TIMESTAMP");
+            case ColumnType::Truth: return QStringLiteral("BOOLEAN");
+            default: return QStringLiteral("TEXT");
+        }
+    }
+
+    QString keyDeclaration(const QString& quotedName) const override {
+        return quotedName + QStringLiteral(" INTEGER PRIMARY KEY AUTOINCREMENT");
+    }
+    QString forUpdate() const override { return {}; }
+    QString beginToChange() const override { return QStringLiteral("BEGIN IMMEDIATE"); }
+
+    QVariant toSql(const Cell& cell, const Column& /*column*/) const override {
+        if (const auto* const text = std::get_if<std::u16string>(&cell)) return toQString(*text);
+        if (const auto* const whole = std::get_if<std::int64_t>(&cell)) return static_cast<qlonglong>(*whole);
+        if (const auto* const number = std::get_if<double>(&cell)) return *number;
+        if (const auto* const bytes = std::get_if<records::Bytes>(&cell))
+            return QByteArray(reinterpret_cast<const char*>(bytes->bytes.data()),
+                              static_cast<qsizetype>(bytes->bytes.size()));
+        return {};
+    }
+
+    /// By what stands there: a column of this database takes values of every type.
+    Cell fromSql(const QVariant& value, const Column& /*column*/) const override {
+        if (value.isNull()) return Null{};
+        switch (value.typeId()) {
+            case QMetaType::LongLong:
+            case QMetaType::Int: return static_cast<std::int64_t>(value.toLongLong());
+            case QMetaType::Double: return value.toDouble();
+            case QMetaType::QByteArray: {
+                const QByteArray bytes = value.toByteArray();
+                return records::Bytes{{bytes.begin(), bytes.end()}};
+            }
+            default: break;
+        }
+        return value.toString().toStdU16String();
+    }
+
+    StoreError errorOf(const QSqlError& error) const override {
+        const QString text = error.databaseText().isEmpty() ? error.driverText() : error.databaseText();
+        switch (error.nativeErrorCode().toInt() & PrimaryCode) {
+            case 5:
+            case 6: return {Kind::Busy, "Another program holds the database. Please try again."};
+            case 8:
+                return {Kind::ReadOnly, "The database may not be written. Nothing is lost: it stands on the screen."};
+            case 13: return {Kind::Full, "The disk is full. Please make room and save again."};
+            case 14: return {Kind::Wrong, "The database cannot be opened: the folder is not there or may not be used."};
+            case 19: return constraintError(text);
+            case 26: return {Kind::Wrong, "The file is no database."};
+            case 11: return {Kind::Wrong, "The database is damaged: " + text.toStdString()};
+            default: return {Kind::Wrong, "The database says: " + text.toStdString()};
+        }
+    }
+};
+
+}  // namespace
+
+QString Dialect::quoted(std::u16string_view name) {
+    QString text = toQString(name);
+    text.replace(QLatin1Char('"'), QLatin1String("\"\""));
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+std::unique_ptr<Dialect> makeSqliteDialect() { return std::make_unique<SqliteDialect>(); }
+
+}  // namespace kel::qt

@@ -1,0 +1,245 @@
+#include "records/Binding.h"
+
+#include <array>
+#include <cmath>
+
+#include "host/focus/Mnemonic.h"
+#include "host/Widgets.h"
+#include "host/widgets/TextEntry.h"
+#include "records/Moments.h"
+#include "values/CaseFolding.h"
+#include "values/Coercion.h"
+#include "values/Text.h"
+
+namespace kel::records {
+
+namespace {
+
+constexpr std::u16string_view TagMark = u":tag";
+/// Doubles tell whole numbers apart up to here.
+constexpr double ExactWholeNumbers = 9007199254740992.0;
+
+const std::u16string* textIn(const Variant& value) { return std::get_if<std::u16string>(&value); }
+
+bool isTrue(const Variant& value) {
+    const bool* const truth = std::get_if<bool>(&value);
+    return truth != nullptr && *truth;
+}
+
+std::int16_t shortIn(const Variant& value) {
+    const auto* const number = std::get_if<std::int16_t>(&value);
+    return number != nullptr ? *number : std::int16_t{0};
+}
+
+/// With the time of day that a date field does not show, or the day that a time field does not.
+Cell dateCell(ColumnType type, bool isTime, Date shown, const Cell& before) {
+    if (type != ColumnType::Moment) return isTime ? isoTime(shown) : isoDay(shown);
+    const auto* const moment = std::get_if<std::u16string>(&before);
+    const std::u16string_view text = moment != nullptr ? *moment : std::u16string_view();
+    return isTime ? withIsoTime(text, shown) : withIsoDay(text, shown);
+}
+
+Cell numberCell(ColumnType type, double number) {
+    if (type == ColumnType::Decimal) return shortestNumber(number);
+    if (type == ColumnType::Integer && std::abs(number) <= ExactWholeNumbers)
+        return static_cast<std::int64_t>(std::llround(number));
+    return number;
+}
+
+Cell textCell(const Column& column, const std::u16string& text) {
+    if (text.empty() && !column.notNull) return Null{};
+    double number = 0;
+    if (column.type == ColumnType::Integer && readPlainNumber(text, defaultRegion(), number))
+        return numberCell(column.type, number);
+    return text;
+}
+
+double numberIn(const Cell& cell) {
+    if (const auto* const whole = std::get_if<std::int64_t>(&cell)) return static_cast<double>(*whole);
+    if (const auto* const number = std::get_if<double>(&cell)) return *number;
+    double number = 0;
+    if (const auto* const text = std::get_if<std::u16string>(&cell)) readPlainNumber(*text, defaultRegion(), number);
+    return number;
+}
+
+std::u16string articled(std::u16string_view kind, const Column& column) {
+    return std::u16string(kind) + u", and the column " + column.name + u" is " + std::u16string(nameOf(column.type));
+}
+
+}  // namespace
+
+FieldSource sourceOf(std::u16string_view dataField) {
+    if (dataField.size() > TagMark.size() &&
+        compareFolded(dataField.substr(dataField.size() - TagMark.size()), TagMark) == 0)
+        return {std::u16string(dataField.substr(0, dataField.size() - TagMark.size())), true};
+    return {std::u16string(dataField), false};
+}
+
+// ---- The control
+
+Binding::Kind Binding::kind() const {
+    static constexpr std::pair<std::u16string_view, Kind> Kinds[] = {
+        {u"KelText", Kind::Text}, {u"KelNumber", Kind::Number}, {u"KelDate", Kind::Date},
+        {u"KelTime", Kind::Time}, {u"KelCombo", Kind::Combo},   {u"KelCheck", Kind::Check}};
+    for (const auto& [name, kind] : Kinds)
+        if (Control_->control().model().name == name) return kind;
+    return Kind::None;
+}
+
+const MemberRow& Binding::valueMember() const { return *findMember(Control_->control().model(), DefaultMemberId); }
+
+Variant Binding::get(std::u16string_view member) const {
+    Variant value;
+    const MemberRow* const row = findMember(Control_->control().model(), member);
+    if (row != nullptr) getMember(Control_->control(), *row, {}, value, *Region_);
+    return value;
+}
+
+void Binding::put(std::u16string_view member, const Variant& value) const {
+    const MemberRow* const row = findMember(Control_->control().model(), member);
+    if (row != nullptr) putMember(Control_->control(), *row, value, *Region_);
+}
+
+bool isField(const Control& control) {
+    return control.model().isControl() && findMember(control.model(), u"ChangedSaved") != nullptr;
+}
+
+// ---- Fitting
+
+std::optional<std::u16string> Binding::misfit(const Column& column) const {
+    const ColumnType type = column.type;
+    const bool isWhole = type == ColumnType::Integer;
+    const bool isNumber = isWhole || type == ColumnType::Real || type == ColumnType::Decimal;
+    const std::u16string shows = Control_->name() + u" shows ";
+    switch (kind()) {
+        case Kind::Text:
+            if (type != ColumnType::Text) return articled(shows + u"text", column);
+            break;
+        case Kind::Combo:
+            if (type != ColumnType::Text && !(ByTag_ && isWhole)) return articled(shows + u"text", column);
+            break;
+        case Kind::Number:
+            if (!isNumber) return articled(shows + u"a number", column);
+            if (isWhole && shortIn(get(u"Decimals")) != 0) return articled(shows + u"a number with decimals", column);
+            break;
+        case Kind::Date:
+            if (type != ColumnType::Date && type != ColumnType::Moment) return articled(shows + u"a date", column);
+            break;
+        case Kind::Time:
+            if (type != ColumnType::Time && type != ColumnType::Moment) return articled(shows + u"a time", column);
+            break;
+        case Kind::Check:
+            if (type != ColumnType::Truth && !isWhole) return articled(shows + u"yes or no", column);
+            break;
+        case Kind::None: return Control_->name() + u" keeps no value";
+    }
+    return std::nullopt;
+}
+
+Column Binding::ownColumn() const {
+    Column column;
+    switch (kind()) {
+        case Kind::Number: column.type = ColumnType::Real; break;
+        case Kind::Date: column.type = ColumnType::Date; break;
+        case Kind::Time: column.type = ColumnType::Time; break;
+        case Kind::Check: column.type = ColumnType::Truth; break;
+        default: break;
+    }
+    return column;
+}
+
+// ---- There and back
+
+std::u16string Binding::textWithTag(const std::u16string& tag) const {
+    const MemberRow& itemMember = *findMember(Control_->control().model(), u"ListItem");
+    const MemberRow& tagMember = *findMember(Control_->control().model(), u"ListTagItem");
+    const Variant items = get(u"ListCount");
+    const auto* const count = std::get_if<std::int32_t>(&items);
+    for (std::int32_t item = 1; count != nullptr && item <= *count; ++item) {
+        std::array<Variant, 1> place{static_cast<std::int16_t>(item)};
+        Variant found;
+        getMember(Control_->control(), tagMember, place, found, *Region_);
+        if (textIn(found) == nullptr || *textIn(found) != tag) continue;
+        getMember(Control_->control(), itemMember, place, found, *Region_);
+        return textIn(found) != nullptr ? *textIn(found) : std::u16string();
+    }
+    return {};
+}
+
+void Binding::show(const Cell& cell) {
+    const MemberRow& member = valueMember();
+    Variant value;
+    switch (kind()) {
+        case Kind::Number: value = numberIn(cell); break;
+        case Kind::Check: value = numberIn(cell) != 0; break;
+        case Kind::Date:
+        case Kind::Time: {
+            const std::u16string text = records::textOf(cell);
+            const auto date = kind() == Kind::Date ? readIsoDay(text) : readIsoTime(text);
+            value = date ? Variant(*date) : Variant(Null{});
+            break;
+        }
+        default: value = ByTag_ ? textWithTag(records::textOf(cell)) : records::textOf(cell); break;
+    }
+    putMember(Control_->control(), member, value, *Region_);
+    markStored();
+}
+
+void Binding::markStored() {
+    const std::u16string name(valueMember().name);
+    const Variant now = get(name);
+    put(name + u"Original", now);
+    put(name + u"Saved", now);
+    StoredLook_ = look();
+}
+
+std::u16string Binding::look() const {
+    const WidgetSet widgets = Control_->control().widgets();
+    if (widgets.entry != nullptr) return widgets.entry->text();
+    return isTrue(get(valueMember().name)) ? u"yes" : u"no";
+}
+
+bool Binding::looksChanged() const { return look() != StoredLook_; }
+
+bool Binding::isChanged() const { return isTrue(get(u"ChangedSaved")); }
+
+Cell Binding::cell(const Column& column, const Cell& before) const {
+    const Variant value = get(ByTag_ ? std::u16string_view(u"ListTagItem") : valueMember().name);
+    if (const std::u16string* const text = textIn(value)) return textCell(column, *text);
+    if (const auto* const number = std::get_if<double>(&value)) return numberCell(column.type, *number);
+    if (const bool* const truth = std::get_if<bool>(&value)) return static_cast<std::int64_t>(*truth ? 1 : 0);
+    if (const auto* const date = std::get_if<Date>(&value))
+        return dateCell(column.type, kind() == Kind::Time, *date, before);
+    return Null{};
+}
+
+bool Binding::holds(const Column& column, const Cell& now) const {
+    const Cell own = cell(column, now);
+    return own == now || (kind() == Kind::Number && !isNull(now) && numberIn(own) == numberIn(now));
+}
+
+std::u16string Binding::textOf(const Cell& cell) const {
+    if (ByTag_) return textWithTag(records::textOf(cell));
+    if (kind() == Kind::Check) return numberIn(cell) != 0 ? u"yes" : u"no";
+    return records::textOf(cell);
+}
+
+// ---- The person
+
+bool Binding::saysWhy() const { return !findMember(Control_->control().model(), u"Valid")->parameters().empty(); }
+
+bool Binding::isValid(bool sayWhy) const {
+    const MemberRow& row = *findMember(Control_->control().model(), u"Valid");
+    std::array<Variant, 1> say{sayWhy};
+    Variant valid = true;
+    getMember(Control_->control(), row, std::span(say).first(row.parameters().size()), valid, *Region_);
+    return isTrue(valid);
+}
+
+std::u16string Binding::caption() const {
+    const Variant caption = get(u"Caption");
+    const std::u16string* const text = textIn(caption);
+    return text == nullptr || text->empty() ? Control_->name() : readCaption(*text).text;
+}
+
+}  // namespace kel::records

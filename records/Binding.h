@@ -1,0 +1,81 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "forms/Home.h"
+#include "records/Store.h"
+
+/// Which column a field of a form shows, and how a value goes from one to the other.
+namespace kel::records {
+
+/// What a form's designer has written of a field's column. "customer" is the column, "customer:tag" the column that
+/// keeps the tag of the item that a combo shows, where "customer" keeps its text.
+struct FieldSource {
+    std::u16string column;
+    bool byTag = false;
+};
+FieldSource sourceOf(std::u16string_view dataField);
+
+/// A field that keeps its value in a column. The control outlives it.
+class Binding {
+public:
+    Binding(PlacedControl& control, std::size_t column, bool byTag, const RegionalSettings& region)
+        : Control_(&control), Region_(&region), Column_(column), ByTag_(byTag) {}
+
+    PlacedControl& control() const { return *Control_; }
+    std::size_t column() const { return Column_; }
+
+    /// What is wrong when such a column cannot keep what the field holds, or the field not show what stands there:
+    /// "txtName shows text, and the column is a date". Nothing when all is well.
+    std::optional<std::u16string> misfit(const Column& column) const;
+
+    /// The column, still without a name, that would be made for the field.
+    Column ownColumn() const;
+
+    /// Shows what stands in the column; that is what the field's own change tracking compares with from now on.
+    void show(const Cell& cell);
+    /// The field's value now is what was stored.
+    void markStored();
+    /// Something else than what was shown or stored last. What is half typed is taken as if the field was left.
+    bool isChanged() const;
+    /// The same by its looks, which leaves what is half typed alone.
+    bool looksChanged() const;
+    /// What the column is to keep. Where `before` says more than the field shows, such as the time of a moment whose
+    /// day stands in a date field, that stays.
+    Cell cell(const Column& column, const Cell& before) const;
+    /// Whether `cell` is what the field's own value would be kept as; 12.5 and 12.50 are one number.
+    bool holds(const Column& column, const Cell& cell) const;
+    /// `cell` in words for the person: the text of a tag, yes or no.
+    std::u16string textOf(const Cell& cell) const;
+
+    /// Asked with a message for the person when it is not.
+    bool isValid(bool sayWhy) const;
+    /// Whether the control itself tells the person what is wrong.
+    bool saysWhy() const;
+    /// The caption as it is read: without the mark of its mnemonic. The name where there is none.
+    std::u16string caption() const;
+
+private:
+    enum class Kind : std::uint8_t { Text, Number, Date, Time, Combo, Check, None };
+
+    Kind kind() const;
+    const MemberRow& valueMember() const;
+    Variant get(std::u16string_view member) const;
+    void put(std::u16string_view member, const Variant& value) const;
+    /// What stands in the field, as a person sees it.
+    std::u16string look() const;
+    std::u16string textWithTag(const std::u16string& tag) const;
+
+    PlacedControl* Control_;
+    const RegionalSettings* Region_;
+    std::size_t Column_;
+    bool ByTag_;
+    std::u16string StoredLook_;
+};
+
+/// Whether the control has a value that a column could keep.
+bool isField(const Control& control);
+
+}  // namespace kel::records

@@ -1,0 +1,100 @@
+#include "records/Finder.h"
+
+#include <algorithm>
+
+#include "values/CaseFolding.h"
+#include "values/Text.h"
+
+namespace kel::records {
+
+namespace {
+
+/// As many as are read and looked through in a few milliseconds.
+constexpr std::int32_t AtOnce = 500;
+
+struct PlainLetter {
+    char32_t letter;
+    char32_t plain;
+};
+
+#include "records/PlainLetters.inc"
+
+constexpr char32_t FirstAccented = 0xC0;
+constexpr char32_t FirstMark = 0x300;
+constexpr char32_t LastMark = 0x36F;
+
+/// Letters that Unicode takes for letters of their own, and people for one with something added, or for two.
+struct Spelling {
+    char32_t letter;
+    std::u16string_view plain;
+};
+constexpr Spelling Spellings[] = {{0xDF, u"ss"}, {0xE6, u"ae"},  {0xF0, u"d"},  {0xF8, u"o"},
+                                  {0xFE, u"th"}, {0x111, u"d"},  {0x127, u"h"}, {0x131, u"i"},
+                                  {0x142, u"l"}, {0x153, u"oe"}, {0x167, u"t"}, {0x1E9E, u"ss"}};
+
+char32_t plainLetter(char32_t folded) {
+    if (folded < FirstAccented) return folded;
+    const auto* const found =
+        std::lower_bound(std::begin(PlainLetters), std::end(PlainLetters), folded,
+                         [](const PlainLetter& row, char32_t letter) { return row.letter < letter; });
+    return found != std::end(PlainLetters) && found->letter == folded ? found->plain : folded;
+}
+
+void appendPlain(std::u16string& key, char32_t folded) {
+    if (folded >= FirstMark && folded <= LastMark) return;
+    const auto* const spelled = std::find_if(std::begin(Spellings), std::end(Spellings),
+                                             [&](const Spelling& row) { return row.letter == folded; });
+    if (folded >= FirstAccented && spelled != std::end(Spellings))
+        key += spelled->plain;
+    else
+        appendCodePoint(key, plainLetter(folded));
+}
+
+}  // namespace
+
+std::u16string searchKey(std::u16string_view text) {
+    std::u16string key;
+    key.reserve(text.size());
+    while (!text.empty()) appendPlain(key, foldCase(takeCodePoint(text)));
+    return key;
+}
+
+bool Finder::isHit(const Record& record) const {
+    return std::any_of(record.cells.begin(), record.cells.end(),
+                       [&](const Cell& cell) { return searchKey(textOf(cell)).find(Sought_) != std::u16string::npos; });
+}
+
+/// Hands over each record until `each` says false; false when it was stopped.
+template <class Each>
+bool Finder::forEach(const Record* from, Way way, const GoesOn& goesOn, Each each) const {
+    std::optional<Record> last;
+    if (from != nullptr) last = *from;
+    for (;;) {
+        std::vector<Record> some = Store_->walk(last ? &*last : nullptr, way, AtOnce, Order_);
+        for (Record& record : some)
+            if (!each(record)) return true;
+        if (some.size() < static_cast<std::size_t>(AtOnce)) return true;
+        last = std::move(some.back());
+        if (!goesOn()) return false;
+    }
+}
+
+std::optional<Record> Finder::nearest(const Record* from, Way way, const GoesOn& goesOn) const {
+    std::optional<Record> hit;
+    forEach(from, way, goesOn, [&](Record& record) {
+        if (isHit(record)) hit = record;
+        return !hit;
+    });
+    return hit;
+}
+
+std::optional<std::int64_t> Finder::count(const GoesOn& goesOn) const {
+    std::int64_t hits = 0;
+    const bool isWhole = forEach(nullptr, Way::Forward, goesOn, [&](const Record& record) {
+        hits += isHit(record) ? 1 : 0;
+        return true;
+    });
+    return isWhole ? std::optional(hits) : std::nullopt;
+}
+
+}  // namespace kel::records

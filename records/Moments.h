@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "values/Variant.h"
+
+/// Days and times as databases and files write them, in order as texts: 2013-03-15, 10:15:30, 2013-03-15 10:15:30.
+/// Years are those of the calendar, 0100 to 9999.
+namespace kel::records {
+
+std::u16string isoDay(Date date);
+std::u16string isoTime(Date date);
+
+/// The day at the front of a text, whether a time follows or not. Nothing where none stands there.
+std::optional<Date> readIsoDay(std::u16string_view text);
+/// The time of day of a text, behind a day or alone, to the second; what follows, such as a fraction or a zone, is
+/// passed over. Nothing where there is none.
+std::optional<Date> readIsoTime(std::u16string_view text);
+
+/// `text` with another day in front of its time, or another time behind its day; a part that it does not have is
+/// midnight, or the day of `Date{0}`.
+std::u16string withIsoDay(std::u16string_view text, Date day);
+std::u16string withIsoTime(std::u16string_view text, Date time);
+
+}  // namespace kel::records

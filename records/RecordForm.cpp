@@ -1,0 +1,331 @@
+#include "records/RecordForm.h"
+
+#include <algorithm>
+
+#include "library/Dispatch.h"
+#include "values/Text.h"
+
+namespace kel::records {
+
+namespace {
+
+[[noreturn]] void refuse(const std::u16string& message) { throw StoreError(StoreError::Kind::Wrong, toUtf8(message)); }
+
+}  // namespace
+
+RecordForm::RecordForm(Form& form, RecordStore& store, Questions& questions, const RegionalSettings& region)
+    : Form_(&form), Store_(&store), Questions_(&questions) {
+    bind(region);
+    if (!toEnd(Way::Forward)) showNew();
+}
+
+void RecordForm::bind(const RegionalSettings& region) {
+    for (const Form::Placed& placed : Form_->inTabOrder()) {
+        if (!isField(placed.control->control())) continue;
+        const FieldSource source = sourceOf(Form_->file().text(placed.block, u"DataField"));
+        const std::u16string wanted = source.column.empty() ? placed.control->name() : source.column;
+        auto column = table().find(wanted);
+        if (!column && source.column.empty()) column = table().find(withoutPrefix(wanted));
+        if (!column) refuse(u"The table " + table().name + u" has no column " + wanted + u".");
+        Bindings_.emplace_back(*placed.control, *column, source.byTag, region);
+        Placed_.push_back(placed);
+        if (const auto misfit = Bindings_.back().misfit(columnOf(Bindings_.back()))) refuse(*misfit + u".");
+    }
+}
+
+// ---- From record to record
+
+bool RecordForm::toEnd(Way way) {
+    return attempt([&] {
+        const std::vector<Record> found = Store_->walk(nullptr, way, 1, Order_);
+        if (!found.empty()) show(found.front());
+        return !found.empty();
+    });
+}
+
+bool RecordForm::walk(Way way) {
+    // From a new record, which stands behind all others.
+    if (!Shown_) return way == Way::Backward && toEnd(Way::Backward);
+    return attempt([&] {
+        const std::vector<Record> found = Store_->walk(&*Shown_, way, 1, Order_);
+        if (!found.empty()) show(found.front());
+        return !found.empty();
+    });
+}
+
+bool RecordForm::toFirst() { return mayLeave() && toEnd(Way::Forward); }
+bool RecordForm::toLast() { return mayLeave() && toEnd(Way::Backward); }
+bool RecordForm::toNext() { return mayLeave() && walk(Way::Forward); }
+bool RecordForm::toPrevious() { return mayLeave() && walk(Way::Backward); }
+
+bool RecordForm::toPlace(std::int64_t place) {
+    return mayLeave() && attempt([&] {
+               const std::vector<Record> found = Store_->rows(place - 1, 1, Order_);
+               if (place < 1 || found.empty()) {
+                   Questions_->say(u"There is no record " + widen(std::to_string(place)) + u".");
+                   return false;
+               }
+               show(found.front());
+               return true;
+           });
+}
+
+bool RecordForm::toRecord(const Record& record) {
+    return mayLeave() && attempt([&] {
+               const std::optional<Record> now = Store_->read(keyOf(table(), record));
+               if (now) show(*now);
+               return now.has_value();
+           });
+}
+
+bool RecordForm::mayLeave() {
+    if (!isChanged()) return true;
+    switch (Questions_->aboutUnsaved()) {
+        case Unsaved::Save: return save();
+        case Unsaved::Discard: undo(); return true;
+        default: return false;
+    }
+}
+
+// ---- On the screen
+
+void RecordForm::show(const Record& record) {
+    Shown_ = record;
+    Kept_.clear();
+    Duplicated_ = false;
+    for (Binding& binding : Bindings_) binding.show(record.cells[binding.column()]);
+}
+
+void RecordForm::showNew() {
+    Shown_.reset();
+    Kept_.clear();
+    Duplicated_ = false;
+    for (std::size_t i = 0; i < Bindings_.size(); ++i) {
+        if (!isCarried(Bindings_[i]))
+            Form_->reload(Placed_[i], findMember(Placed_[i].control->control().model(), DefaultMemberId)->persisted);
+        Bindings_[i].markStored();
+    }
+}
+
+bool RecordForm::startNew() {
+    if (!mayLeave()) return false;
+    showNew();
+    focusFirst();
+    return true;
+}
+
+bool RecordForm::duplicate() {
+    if (!mayLeave()) return false;
+    Shown_.reset();
+    Duplicated_ = true;
+    focusFirst();
+    return true;
+}
+
+void RecordForm::undo() {
+    if (Shown_)
+        show(Record(*Shown_));
+    else
+        showNew();
+}
+
+void RecordForm::focusFirst() {
+    for (const Binding& binding : Bindings_) {
+        Form_->window().focus(binding.control());
+        if (Form_->window().focused() == &binding.control()) return;
+    }
+}
+
+bool RecordForm::isChanged() const {
+    return Duplicated_ || !Kept_.empty() ||
+           std::any_of(Bindings_.begin(), Bindings_.end(), [](const Binding& binding) { return binding.isChanged(); });
+}
+
+bool RecordForm::looksChanged() const {
+    return Duplicated_ || !Kept_.empty() || std::any_of(Bindings_.begin(), Bindings_.end(), [](const Binding& binding) {
+               return binding.looksChanged();
+           });
+}
+
+void RecordForm::setCarried(const Binding& binding, bool carried) {
+    if (carried)
+        Carried_.insert(binding.column());
+    else
+        Carried_.erase(binding.column());
+}
+
+std::optional<std::int64_t> RecordForm::place() const {
+    if (!Shown_) return std::nullopt;
+    return Store_->placeOf(*Shown_, Order_) + 1;
+}
+
+// ---- Storing
+
+template <class Action>
+bool RecordForm::attempt(Action action) {
+    try {
+        return action();
+    } catch (const StoreError& error) {
+        complain(error);
+        return false;
+    }
+}
+
+const Binding* RecordForm::fieldOf(const std::u16string& columnName) const {
+    const auto column = table().find(columnName);
+    if (!column) return nullptr;
+    for (const Binding& binding : Bindings_)
+        if (binding.column() == *column) return &binding;
+    return nullptr;
+}
+
+void RecordForm::complain(const StoreError& error) {
+    const Binding* const field = fieldOf(error.column());
+    if (field != nullptr) Form_->window().focus(field->control());
+    const std::u16string words = fromUtf8(error.what()).value_or(u"The database gives no reason.");
+    Questions_->say(field != nullptr ? field->caption() + u": " + words : words);
+}
+
+bool RecordForm::isValid() {
+    for (const Binding& binding : Bindings_) {
+        if (binding.isValid(false)) continue;
+        Form_->window().focus(binding.control());
+        // Where the control has no words of its own.
+        if (!binding.saysWhy())
+            Questions_->say(binding.caption() + u": please fill in this field.");
+        else
+            binding.isValid(true);
+        return false;
+    }
+    return true;
+}
+
+bool RecordForm::save() {
+    if (!isValid()) return false;
+    return attempt([&] { return Shown_ ? update() : insert(); });
+}
+
+bool RecordForm::saveAndStartNew() {
+    if (!save()) return false;
+    showNew();
+    focusFirst();
+    return true;
+}
+
+std::vector<Change> RecordForm::allValues() const {
+    std::vector<Change> values;
+    for (const Binding& binding : Bindings_) {
+        const Column& column = columnOf(binding);
+        Cell value = binding.cell(column, Null{});
+        if (column.generated || (column.hasDefault && isNull(value))) continue;
+        values.push_back({binding.column(), std::move(value)});
+    }
+    return values;
+}
+
+/// Only what the person has changed: what a field shows shorter than it is stays as it is.
+std::vector<Change> RecordForm::changes() const {
+    std::vector<Change> values;
+    for (const Binding& binding : Bindings_) {
+        if (!binding.isChanged() && !Kept_.contains(binding.column())) continue;
+        Cell value = binding.cell(columnOf(binding), Shown_->cells[binding.column()]);
+        if (value != Shown_->cells[binding.column()]) values.push_back({binding.column(), std::move(value)});
+    }
+    return values;
+}
+
+void RecordForm::stored(Record record) {
+    Shown_ = std::move(record);
+    Kept_.clear();
+    Duplicated_ = false;
+    for (Binding& binding : Bindings_) {
+        // What the database has made of it: a default, a text that a trigger has changed.
+        const Cell& now = Shown_->cells[binding.column()];
+        if (binding.holds(columnOf(binding), now))
+            binding.markStored();
+        else
+            binding.show(now);
+    }
+}
+
+bool RecordForm::insert() {
+    stored(Store_->insert(allValues()));
+    return true;
+}
+
+bool RecordForm::update() {
+    for (;;) {
+        Record record = *Shown_;
+        const std::vector<Change> values = changes();
+        const Outcome outcome = values.empty() ? Outcome::Done : Store_->update(record, values);
+        if (outcome == Outcome::Done) {
+            stored(std::move(record));
+            return true;
+        }
+        if (!settle()) return false;
+        if (!Shown_) return insert();
+    }
+}
+
+bool RecordForm::settle() {
+    const std::optional<Record> now = Store_->read(keyOf(table(), *Shown_));
+    if (!now) {
+        if (!Questions_->keepDeleted()) return false;
+        Shown_.reset();
+        Duplicated_ = true;
+        return true;
+    }
+    std::vector<Difference> differences;
+    std::vector<Binding*> fields;
+    for (Binding& binding : Bindings_) {
+        const Cell& loaded = Shown_->cells[binding.column()];
+        const Cell& theirs = now->cells[binding.column()];
+        if (loaded == theirs) continue;
+        fields.push_back(&binding);
+        differences.push_back({binding.caption(), binding.textOf(loaded),
+                               binding.textOf(binding.cell(columnOf(binding), loaded)), binding.textOf(theirs),
+                               binding.isChanged()});
+    }
+    std::optional<std::vector<Choice>> choices{std::in_place};
+    if (!differences.empty()) choices = Questions_->aboutDifferences(differences);
+    if (!choices) return false;
+    // Their record is the one that mine is compared with from now on.
+    Shown_ = now;
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        if (i < choices->size() && (*choices)[i] == Choice::Mine)
+            Kept_.insert(fields[i]->column());
+        else
+            fields[i]->show(now->cells[fields[i]->column()]);
+    }
+    return true;
+}
+
+bool RecordForm::remove() {
+    if (!Shown_) {
+        if (isChanged() && !Questions_->reallyDelete()) return false;
+        return toEnd(Way::Backward) || (showNew(), true);
+    }
+    if (!Questions_->reallyDelete()) return false;
+    return attempt([&] {
+        switch (Store_->remove(*Shown_)) {
+            case Outcome::Changed:
+                Questions_->say(
+                    u"Somebody else has changed this record meanwhile. It is shown as it is now, and stays.");
+                if (const auto now = Store_->read(keyOf(table(), *Shown_))) show(*now);
+                return false;
+            case Outcome::Gone:
+            case Outcome::Done: break;
+        }
+        const Record gone = *Shown_;
+        for (const Way way : {Way::Forward, Way::Backward}) {
+            const std::vector<Record> next = Store_->walk(&gone, way, 1, Order_);
+            if (next.empty()) continue;
+            show(next.front());
+            return true;
+        }
+        showNew();
+        return true;
+    });
+}
+
+}  // namespace kel::records

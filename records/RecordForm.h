@@ -1,0 +1,113 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/Form.h"
+#include "records/Binding.h"
+#include "records/Questions.h"
+#include "records/Store.h"
+
+namespace kel::records {
+
+/// A form with the records of a table behind it, one at a time on the screen. What is typed leaves the screen only when
+/// it is stored, or when the person has said that it may go.
+///
+/// A command that gives a bool says whether it was done; where not, the person has been told why, or has said no.
+class RecordForm {
+public:
+    /// All of it outlives the records. Throws StoreError when a field's column is not there or cannot keep its value,
+    /// and when the database cannot be read. Shows the first record, or a new one where there is none.
+    RecordForm(Form& form, RecordStore& store, Questions& questions, const RegionalSettings& region);
+    RecordForm(const RecordForm&) = delete;
+    RecordForm& operator=(const RecordForm&) = delete;
+
+    // ---- From record to record. What is changed is asked about first.
+
+    bool toFirst();
+    bool toPrevious();
+    bool toNext();
+    bool toLast();
+    /// Counted from 1.
+    bool toPlace(std::int64_t place);
+    bool toRecord(const Record& record);
+    /// Whether the record on the screen may be left: it is not changed, is saved now, or may be lost.
+    bool mayLeave();
+
+    // ---- The record on the screen
+
+    bool startNew();
+    /// A new record with what stands on the screen.
+    bool duplicate();
+    /// Checks every field in the order of the Tab key; the first that is not valid gets the focus. Then stores.
+    bool save();
+    bool saveAndStartNew();
+    bool remove();
+    /// Back to what was stored last.
+    void undo();
+
+    /// Into the first field that takes the focus, as a person begins.
+    void focusFirst();
+
+    bool isNew() const { return !Shown_; }
+    /// What is half typed is taken as if its field was left; `looksChanged` leaves it alone.
+    bool isChanged() const;
+    bool looksChanged() const;
+    /// As it was read or stored last; nothing while it is a new one.
+    const std::optional<Record>& shown() const { return Shown_; }
+
+    // ---- The table
+
+    const Table& table() const { return Store_->table(); }
+    RecordStore& store() const { return *Store_; }
+    const std::vector<Binding>& bindings() const { return Bindings_; }
+    std::int64_t count() const { return Store_->count(); }
+    /// From 1; nothing for a new record.
+    std::optional<std::int64_t> place() const;
+    const Order& order() const { return Order_; }
+    void setOrder(const Order& order) { Order_ = order; }
+
+    // ---- Values that go along into the next new record
+
+    bool isCarried(const Binding& binding) const { return Carried_.contains(binding.column()); }
+    void setCarried(const Binding& binding, bool carried);
+
+private:
+    void bind(const RegionalSettings& region);
+    void show(const Record& record);
+    void showNew();
+    bool toEnd(Way way);
+    bool walk(Way way);
+    /// Runs `action`; what the database says against it is told to the person.
+    template <class Action>
+    bool attempt(Action action);
+    void complain(const StoreError& error);
+    /// nullptr: none shows it.
+    const Binding* fieldOf(const std::u16string& columnName) const;
+    bool isValid();
+    bool insert();
+    bool update();
+    /// Somebody else was first. False when the person goes back to the record.
+    bool settle();
+    std::vector<Change> changes() const;
+    std::vector<Change> allValues() const;
+    void stored(Record record);
+    const Column& columnOf(const Binding& binding) const { return table().columns[binding.column()]; }
+
+    Form* Form_;
+    RecordStore* Store_;
+    Questions* Questions_;
+    std::vector<Form::Placed> Placed_;  ///< of each binding
+    std::vector<Binding> Bindings_;     ///< in the order of the Tab key
+    std::optional<Record> Shown_;
+    std::set<std::size_t> Kept_;     ///< columns that keep what is on the screen against another person's change
+    std::set<std::size_t> Carried_;  ///< columns
+    Order Order_;
+    bool Duplicated_ = false;  ///< a new record that is worth keeping as it stands
+};
+
+}  // namespace kel::records

@@ -1,0 +1,154 @@
+#include "records/RecordScript.h"
+
+#include <algorithm>
+
+#include "forms/ScriptValue.h"
+#include "records/OpenTable.h"
+#include "values/Coercion.h"
+#include "values/Text.h"
+
+namespace kel::records {
+
+namespace {
+
+std::pair<std::u16string_view, std::u16string_view> firstWord(std::u16string_view text) {
+    const std::size_t end = std::min(text.find(u' '), text.size());
+    const std::size_t next = std::min(text.find_first_not_of(u' ', end), text.size());
+    return {text.substr(0, end), text.substr(next)};
+}
+
+std::u16string cellText(const Cell& cell) {
+    if (isNull(cell)) return u"Null";
+    if (const auto* const text = std::get_if<std::u16string>(&cell)) return quoteScriptText(*text);
+    return textOf(cell);
+}
+
+[[noreturn]] void fail(std::u16string_view message) { throw RecordCommands::Error(toUtf8(message)); }
+
+}  // namespace
+
+void RecordScript::formOpened(Form& form) {
+    const Table table = openTable(*Store_, form, TableName_, *Region_, [](const std::vector<Column>&) { return true; });
+    Records_ = Store_->open(table);
+    Questions& questions = *this;
+    Form_ = std::make_unique<RecordForm>(form, *Records_, questions, *Region_);
+}
+
+void RecordScript::formCloses() {
+    Form_.reset();
+    Records_.reset();
+}
+
+void RecordScript::run(std::u16string_view command, const Print& print) {
+    Print_ = print;
+    const auto [verb, rest] = firstWord(command);
+    if (!runMove(verb, rest) && !runChange(verb, rest)) fail(u"there is no command \"" + std::u16string(verb) + u"\"");
+}
+
+// ---- The commands
+
+bool RecordScript::runMove(std::u16string_view verb, std::u16string_view rest) {
+    if (verb == u"first") return Form_->toFirst(), true;
+    if (verb == u"previous") return Form_->toPrevious(), true;
+    if (verb == u"next") return Form_->toNext(), true;
+    if (verb == u"last") return Form_->toLast(), true;
+    if (verb == u"find") return find(rest);
+    if (verb == u"show") return printRecord(), true;
+    if (verb != u"go") return false;
+    double place = 0;
+    if (!readPlainNumber(rest, defaultRegion(), place)) fail(u"go: the number of a record is wanted");
+    Form_->toPlace(static_cast<std::int64_t>(place));
+    return true;
+}
+
+bool RecordScript::runChange(std::u16string_view verb, std::u16string_view rest) {
+    if (verb == u"new") return Form_->startNew(), true;
+    if (verb == u"duplicate") return Form_->duplicate(), true;
+    if (verb == u"undo") return Form_->undo(), true;
+    if (verb == u"delete") return Form_->remove(), true;
+    if (verb == u"answers") return answer(rest), true;
+    if (verb == u"carry") {
+        for (const Binding& binding : Form_->bindings())
+            if (equalsIgnoringCase(binding.control().name(), rest))
+                return Form_->setCarried(binding, !Form_->isCarried(binding)), true;
+        fail(u"no field \"" + std::u16string(rest) + u"\" is kept in the database");
+    }
+    if (verb != u"save") return false;
+    if (rest.empty() ? Form_->save() : rest == u"new" && Form_->saveAndStartNew()) Print_(u"saved");
+    return true;
+}
+
+bool RecordScript::find(std::u16string_view text) {
+    const Way way = text == u"previous" ? Way::Backward : Way::Forward;
+    const bool isAgain = text == u"next" || text == u"previous";
+    if (!isAgain) Sought_ = text;
+    const auto goesOn = [] { return true; };
+    const Finder finder(*Records_, Sought_, Form_->order());
+    const std::optional<Record> from = isAgain ? Form_->shown() : std::nullopt;
+    if (!Form_->mayLeave()) return true;
+    std::optional<Record> hit = finder.nearest(from ? &*from : nullptr, way, goesOn);
+    if (!hit && from) hit = finder.nearest(nullptr, way, goesOn);
+    if (hit) Form_->toRecord(*hit);
+    Print_(hit ? u"found, one of " + widen(std::to_string(finder.count(goesOn).value_or(0)))
+               : std::u16string(u"not found"));
+    return true;
+}
+
+void RecordScript::answer(std::u16string_view rest) {
+    Answers_.clear();
+    while (!rest.empty()) {
+        const auto [word, further] = firstWord(rest);
+        Answers_.emplace_back(word);
+        rest = further;
+    }
+}
+
+void RecordScript::printRecord() {
+    std::u16string line = u"record ";
+    if (const auto place = Form_->place())
+        line += widen(std::to_string(*place)) + u" of " + widen(std::to_string(Form_->count()));
+    else
+        line += u"new";
+    Print_(line + (Form_->isChanged() ? u" changed" : u""));
+    if (!Form_->shown()) return;
+    for (std::size_t i = 0; i < Form_->table().columns.size(); ++i)
+        Print_(u"  " + Form_->table().columns[i].name + u" = " + cellText(Form_->shown()->cells[i]));
+}
+
+// ---- What a person would be asked
+
+std::u16string RecordScript::answered(std::u16string_view question, std::u16string_view byDefault) {
+    std::u16string answer(byDefault);
+    if (!Answers_.empty()) {
+        answer = Answers_.front();
+        Answers_.pop_front();
+    }
+    Print_(u"asked " + std::u16string(question) + u": " + answer);
+    return answer;
+}
+
+Unsaved RecordScript::aboutUnsaved() {
+    const std::u16string answer = answered(u"unsaved", u"stay");
+    return answer == u"save" ? Unsaved::Save : answer == u"discard" ? Unsaved::Discard : Unsaved::Stay;
+}
+
+bool RecordScript::reallyDelete() { return answered(u"delete", u"no") == u"yes"; }
+
+bool RecordScript::keepDeleted() { return answered(u"deleted by somebody else", u"back") == u"keep"; }
+
+std::optional<std::vector<Choice>> RecordScript::aboutDifferences(const std::vector<Difference>& differences) {
+    std::vector<Choice> choices;
+    for (const Difference& each : differences) {
+        const std::u16string answer =
+            answered(u"difference " + quoteScriptText(each.field) + u" loaded " + quoteScriptText(each.loaded) +
+                         u" mine " + quoteScriptText(each.mine) + u" theirs " + quoteScriptText(each.theirs),
+                     u"back");
+        if (answer != u"mine" && answer != u"theirs") return std::nullopt;
+        choices.push_back(answer == u"mine" ? Choice::Mine : Choice::Theirs);
+    }
+    return choices;
+}
+
+void RecordScript::say(std::u16string_view message) { Print_(u"says " + quoteScriptText(message)); }
+
+}  // namespace kel::records

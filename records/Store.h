@@ -1,0 +1,125 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "records/Cell.h"
+#include "records/Table.h"
+
+/// What the records ask of a database. No name and no value that comes through here is ever read as a command of it.
+namespace kel::records {
+
+/// What a database refuses, in words that say what to do.
+class StoreError : public std::runtime_error {
+public:
+    enum class Kind : std::uint8_t {
+        Constraint,  ///< a rule of the table: the record is not good as it stands
+        Busy,        ///< another program holds it, for longer than was waited
+        Full,        ///< there is no room left
+        ReadOnly,
+        Lost,   ///< the connection is gone; asking again makes a new one
+        Wrong,  ///< no database, one of a newer version, or anything else
+    };
+    /// `message` is UTF-8; `column` is the one that it is about, where that is known.
+    StoreError(Kind kind, const std::string& message, std::u16string column = {})
+        : std::runtime_error(message), Kind_(kind), Column_(std::move(column)) {}
+
+    Kind kind() const { return Kind_; }
+    const std::u16string& column() const { return Column_; }
+
+private:
+    Kind Kind_;
+    std::u16string Column_;
+};
+
+/// A record as it stands in the database.
+struct Record {
+    Cells cells;  ///< as many as the table has columns
+
+    friend bool operator==(const Record&, const Record&) = default;
+};
+
+/// By which column records are put in a row; those that have the same there by their key. Without a column by the key.
+struct Order {
+    std::optional<std::size_t> column{};
+    bool descending = false;
+    friend bool operator==(const Order&, const Order&) = default;
+};
+
+/// A value for a column.
+struct Change {
+    std::size_t column = 0;
+    Cell value;
+};
+
+/// Which way to walk from record to record.
+enum class Way : std::uint8_t { Forward, Backward };
+
+/// What came of a change to one record.
+enum class Outcome : std::uint8_t {
+    Done,
+    Changed,  ///< somebody else has changed the record since it was read, and it stays as it is now
+    Gone      ///< somebody else has deleted it
+};
+
+/// The records of one table. All of it throws StoreError. What has returned is stored: it is there after the machine
+/// was switched off at that moment.
+class RecordStore {
+public:
+    RecordStore() = default;
+    RecordStore(const RecordStore&) = delete;
+    RecordStore& operator=(const RecordStore&) = delete;
+    virtual ~RecordStore() = default;
+
+    virtual const Table& table() const = 0;
+
+    virtual std::int64_t count() = 0;
+    /// As it is now; nothing when there is none of this key.
+    virtual std::optional<Record> read(const Cells& key) = 0;
+    /// At most `count` records that come after `from`, which need not be there any more; backward those before it,
+    /// the nearest first. From the end where `from` is nullptr.
+    virtual std::vector<Record> walk(const Record* from, Way way, std::int32_t count, const Order& order) = 0;
+    /// `count` of them from a place on, which counts from 0.
+    virtual std::vector<Record> rows(std::int64_t place, std::int32_t count, const Order& order) = 0;
+    /// How many stand before it.
+    virtual std::int64_t placeOf(const Record& record, const Order& order) = 0;
+
+    /// Returns the record with all that the database has given to it.
+    virtual Record insert(const std::vector<Change>& values) = 0;
+    /// Changes these columns of the record if it still stands as it was `read`; then `read` is what it is now.
+    virtual Outcome update(Record& read, const std::vector<Change>& values) = 0;
+    virtual Outcome remove(const Record& read) = 0;
+
+    /// All between the two is stored together or not at all: many records at once cost little more than one.
+    virtual void begin() = 0;
+    virtual void commit() = 0;
+    virtual void rollBack() = 0;
+};
+
+/// A database.
+class Store {
+public:
+    Store() = default;
+    Store(const Store&) = delete;
+    Store& operator=(const Store&) = delete;
+    virtual ~Store() = default;
+
+    virtual std::vector<std::u16string> tables() = 0;
+    /// Nothing when there is none of this name, in any case.
+    virtual std::optional<Table> table(std::u16string_view name) = 0;
+    /// Makes it with a key and a version, whose columns are added to it, and returns it as it is then.
+    virtual Table makeTable(Table table) = 0;
+    virtual void addColumn(const Table& table, const Column& column) = 0;
+    /// The store outlives it.
+    virtual std::unique_ptr<RecordStore> open(const Table& table) = 0;
+};
+
+/// What tells the record from all others.
+Cells keyOf(const Table& table, const Record& record);
+
+}  // namespace kel::records

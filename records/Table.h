@@ -1,0 +1,65 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kel::records {
+
+enum class ColumnType : std::uint8_t {
+    Text,
+    Integer,
+    Real,     ///< double precision
+    Decimal,  ///< exact, with `decimals` behind the point
+    Date,
+    Time,
+    Moment,  ///< a day with a time of day
+    Truth,   ///< yes or no; 1 and 0 where the database has no such type
+    Other    ///< bytes, and whatever else no field shows
+};
+
+/// "text", "a date": for messages.
+std::u16string_view nameOf(ColumnType type);
+
+/// The column of another table that a column points to.
+struct Reference {
+    std::u16string table;
+    std::u16string column;
+};
+
+struct Column {
+    std::u16string name;
+    ColumnType type = ColumnType::Text;
+    std::int32_t length = 0;    ///< most characters; 0: any number
+    std::int32_t decimals = 0;  ///< of a Decimal
+    bool notNull = false;       ///< a record without a value is refused
+    bool generated = false;     ///< the database gives the value of a new record, or always
+    bool hasDefault = false;    ///< a new record may leave it out
+    std::optional<Reference> reference{};
+};
+
+/// A table of records as the database has it, or as it is to be made.
+struct Table {
+    std::u16string name;
+    std::vector<Column> columns;
+    std::vector<std::size_t> key;          ///< the columns that tell a record from all others, in order
+    std::optional<std::size_t> version{};  ///< counts the changes of a record, in a table that was made from a form
+
+    /// The column that `spelling` means: by its name, else by its name without regard to case, blanks, "_" and "-".
+    /// Nothing where none or more than one is meant.
+    std::optional<std::size_t> find(std::u16string_view spelling) const;
+
+    bool isKey(std::size_t column) const;
+};
+
+/// Whether both mean the same column: "order_date", "Order Date" and "OrderDate" do.
+bool isSameName(std::u16string_view left, std::u16string_view right);
+
+/// The name of a control without the three small letters that tell its kind: "txtOrderDate" is "OrderDate". A name
+/// without them stays.
+std::u16string_view withoutPrefix(std::u16string_view controlName);
+
+}  // namespace kel::records

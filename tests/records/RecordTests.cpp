@@ -1,0 +1,281 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+#include <QCoreApplication>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <random>
+
+#include "library/Dispatch.h"
+#include "platform/headless/HeadlessHome.h"
+#include "platform/qt/sql/SqlConnection.h"
+#include "platform/qt/sql/SqlStore.h"
+#include "records/OpenTable.h"
+#include "records/RecordForm.h"
+#include "values/Text.h"
+
+/// Records on a real database: on the server of KEL_POSTGRES where that is set, else in a file.
+namespace kel::test {
+namespace {
+
+using namespace records;
+
+std::string databaseAddress() {
+    if (const char* const server = std::getenv("KEL_POSTGRES")) return server;
+    return (std::filesystem::temp_directory_path() / ("kel-records-" + std::to_string(getpid()) + ".sqlite")).string();
+}
+
+/// Each test has an empty database, and what a database administrator would run in it.
+class OnDatabase : public ::testing::Test {
+protected:
+    OnDatabase() : Application_(Count_, Arguments_), Direct_(databaseAddress(), {}) { clear(); }
+    ~OnDatabase() override {
+        clear();
+        if (!Direct_.isServer()) std::filesystem::remove(databaseAddress());
+    }
+
+    void execute(const char* statement) { Direct_.execute(QString::fromUtf8(statement)); }
+    std::unique_ptr<Store> open() { return qt::openStore(databaseAddress(), {}); }
+    std::string value(const char* query) {
+        QSqlQuery& result = Direct_.run(QString::fromUtf8(query));
+        const std::string text = result.next() ? result.value(0).toString().toStdString() : "no row";
+        result.finish();
+        return text;
+    }
+
+private:
+    void clear() {
+        for (const char* table : {"member", "line", "parent", "odd"})
+            execute((std::string("DROP TABLE IF EXISTS ") + table).c_str());
+    }
+
+    char Name_[6] = "tests";
+    char* Arguments_[2] = {Name_, nullptr};
+    int Count_ = 1;
+    QCoreApplication Application_;
+    qt::SqlConnection Direct_;
+};
+
+/// A person at a form, who answers as told.
+class Person final : private Questions {
+public:
+    Person(const std::string& form, Store& store, const std::u16string& table)
+        : Home_(headless::makeHome({.region = &defaultRegion()})),
+          Form_(*Home_, Home_->system(), Observer_, FormFile::parse(form, "member.frm")) {
+        Form_.show();
+        Records_ = store.open(openTable(store, Form_, table, Home_->region(), [](const auto&) { return true; }));
+        Questions& questions = *this;
+        form_.emplace(Form_, *Records_, questions, Home_->region());
+    }
+
+    RecordForm& records() { return *form_; }
+    void put(std::u16string_view field, const Variant& value) {
+        Control& control = Form_.find(field)->control();
+        putMember(control, *findMember(control.model(), DefaultMemberId), value, Home_->region());
+    }
+    std::u16string text(std::u16string_view field) { return Form_.find(field)->control().widgets().entry->text(); }
+    std::u16string focused() { return Form_.window().focused() == nullptr ? u"" : Form_.window().focused()->name(); }
+
+    Unsaved unsaved = Unsaved::Stay;
+    std::optional<std::vector<Choice>> choices;
+    bool keeps = false;
+    std::string heard;
+
+private:
+    Unsaved aboutUnsaved() override { return unsaved; }
+    bool reallyDelete() override { return true; }
+    bool keepDeleted() override { return keeps; }
+    void say(std::u16string_view message) override { heard += toUtf8(message) + "\n"; }
+    std::optional<std::vector<Choice>> aboutDifferences(const std::vector<Difference>& differences) override {
+        for (const Difference& each : differences)
+            heard += toUtf8(each.field + u": " + each.loaded + u" / " + each.mine + u" / " + each.theirs) + "\n";
+        return choices;
+    }
+
+    SilentObserver Observer_;
+    std::unique_ptr<Home> Home_;
+    Form Form_;
+    std::unique_ptr<RecordStore> Records_;
+    std::optional<RecordForm> form_;
+};
+
+std::string formOf(const std::vector<std::array<std::string, 3>>& fields) {
+    std::string text = "VERSION 5.00\r\nBegin VB.Form frmMember\r\n";
+    for (const auto& [name, kind, extra] : fields)
+        text += "   Begin KelControls8." + kind + " " + name + "\r\n      Width = 3000\r\n      Mandatory = 0\r\n" +
+                extra + "   End\r\n";
+    return text + "End\r\n";
+}
+
+const std::string UpTo99 = "      MaxValue = 99\r\n";
+const std::string MemberForm =
+    formOf({{"txtName", "KelText", ""}, {"numFee", "KelNumber", UpTo99}, {"datJoined", "KelDate", ""}});
+
+// ---- In a row
+
+/// Records in the order that the rules give, by sorting them in memory.
+TEST_F(OnDatabase, WalksInEveryOrder) {
+    execute("CREATE TABLE line (a INTEGER NOT NULL, b TEXT NOT NULL, n INTEGER, t TEXT, PRIMARY KEY (a, b))");
+    std::mt19937 random(7);
+    const auto pick = [&](int most) { return std::uniform_int_distribution<int>(0, most)(random); };
+    const auto store = open();
+    const Table table = store->table(u"LINE").value();
+    ASSERT_EQ(table.key, (std::vector<std::size_t>{0, 1}));
+    const auto records = store->open(table);
+    std::vector<Record> model;
+    for (int i = 0; i < 60; ++i) {
+        const Cell number = pick(3) == 0 ? Cell(Null{}) : Cell(std::int64_t{pick(4)});
+        const Cell text = pick(3) == 0 ? Cell(Null{}) : Cell(std::u16string(1, static_cast<char16_t>(u'p' + pick(3))));
+        model.push_back({{std::int64_t{i / 7}, widen(std::to_string(10 + i)), number, text}});
+        const Record stored =
+            records->insert({{0, model.back().cells[0]}, {1, model.back().cells[1]}, {2, number}, {3, text}});
+        EXPECT_EQ(stored, model.back());
+    }
+    for (const std::optional<std::size_t> column : {std::optional<std::size_t>{}, {2}, {3}, {1}}) {
+        for (const bool descending : {false, true}) {
+            const Order order{column, descending};
+            std::vector<Record> wanted = model;
+            std::sort(wanted.begin(), wanted.end(), [&](const Record& left, const Record& right) {
+                // Nothing comes first; all values are one digit or letter, or as long as each other.
+                const auto places = [&](const Record& record) {
+                    std::u16string text;
+                    if (column) text = isNull(record.cells[*column]) ? u"0" : u"1" + textOf(record.cells[*column]);
+                    return text + u' ' + textOf(record.cells[0]) + textOf(record.cells[1]);
+                };
+                return descending ? places(right) < places(left) : places(left) < places(right);
+            });
+            std::vector<Record> forward;
+            for (auto some = records->walk(nullptr, Way::Forward, 7, order); !some.empty();
+                 some = records->walk(&forward.back(), Way::Forward, 7, order))
+                forward.insert(forward.end(), some.begin(), some.end());
+            EXPECT_EQ(forward, wanted);
+            std::vector<Record> backward;
+            for (auto some = records->walk(nullptr, Way::Backward, 7, order); !some.empty();
+                 some = records->walk(&backward.back(), Way::Backward, 7, order))
+                backward.insert(backward.end(), some.begin(), some.end());
+            std::reverse(backward.begin(), backward.end());
+            EXPECT_EQ(backward, wanted);
+            EXPECT_EQ(records->rows(20, 5, order), std::vector<Record>(wanted.begin() + 20, wanted.begin() + 25));
+            for (std::size_t i = 0; i < wanted.size(); i += 13)
+                EXPECT_EQ(records->placeOf(wanted[i], order), static_cast<std::int64_t>(i));
+        }
+    }
+}
+
+// ---- Two people
+
+TEST_F(OnDatabase, SecondToSaveIsAsked) {
+    const auto store = open();
+    const auto other = open();
+    Person first(MemberForm, *store, u"member");
+    first.put(u"txtName", std::u16string(u"Anna"));
+    ASSERT_TRUE(first.records().save());
+    Person second(MemberForm, *other, u"member");
+
+    first.put(u"txtName", std::u16string(u"Anne"));
+    first.put(u"numFee", 5.0);
+    ASSERT_TRUE(first.records().save());
+    second.put(u"txtName", std::u16string(u"Hanna"));
+    EXPECT_FALSE(second.records().save()) << "goes back to the record";
+    EXPECT_EQ(second.heard, "txtName: Anna / Hanna / Anne\nnumFee: 0 / 0 / 5\n");
+    EXPECT_EQ(second.text(u"txtName"), u"Hanna");
+    EXPECT_TRUE(second.records().isChanged());
+
+    second.choices = {Choice::Mine, Choice::Theirs};
+    EXPECT_TRUE(second.records().save());
+    EXPECT_EQ(value("SELECT name || ' ' || CAST(CAST(fee AS INTEGER) AS TEXT) FROM member"), "Hanna 5");
+    EXPECT_EQ(second.text(u"numFee"), u"5.00");
+
+    first.put(u"numFee", 6.0);
+    first.choices = {Choice::Theirs};
+    EXPECT_TRUE(first.records().save());
+    EXPECT_EQ(value("SELECT name || ' ' || CAST(CAST(fee AS INTEGER) AS TEXT) FROM member"), "Hanna 6");
+
+    EXPECT_TRUE(first.records().remove());
+    second.put(u"txtName", std::u16string(u"Johanna"));
+    EXPECT_FALSE(second.records().save());
+    EXPECT_EQ(value("SELECT count(*) FROM member"), "0");
+    second.keeps = true;
+    EXPECT_TRUE(second.records().save());
+    EXPECT_EQ(value("SELECT name FROM member"), "Johanna");
+}
+
+/// What another program changes in columns that the form does not show is no question, and is not lost.
+TEST_F(OnDatabase, ForeignColumnsAreLeftAlone) {
+    execute(
+        "CREATE TABLE member (id INTEGER PRIMARY KEY, name VARCHAR(20) NOT NULL, fee NUMERIC(12,4), joined TIMESTAMP, "
+        "note TEXT)");
+    execute("INSERT INTO member VALUES (4, 'Anna', 1.2345, '2013-03-15 10:15:30.125', 'kept')");
+    const auto store = open();
+    Person person(MemberForm, *store, u"Member");
+    EXPECT_EQ(person.text(u"numFee"), u"1.23");
+    EXPECT_FALSE(person.records().isChanged());
+    execute("UPDATE member SET note = 'changed'");
+    person.put(u"txtName", std::u16string(u"Anne"));
+    EXPECT_TRUE(person.records().save()) << person.heard;
+    EXPECT_EQ(
+        value("SELECT name || ' ' || CAST(fee AS TEXT) || ' ' || CAST(joined AS TEXT) || ' ' || note FROM member"),
+        "Anne 1.2345 2013-03-15 10:15:30.125 changed");
+    person.put(u"datJoined", Date{41349});
+    EXPECT_TRUE(person.records().save()) << person.heard;
+    EXPECT_EQ(value("SELECT CAST(joined AS TEXT) FROM member"), "2013-03-16 10:15:30.125") << "the time of day stays";
+    EXPECT_EQ(person.heard, "");
+}
+
+// ---- What a database refuses
+
+TEST_F(OnDatabase, ComplaintsNameTheField) {
+    execute("CREATE TABLE parent (id INTEGER PRIMARY KEY)");
+    execute(
+        "CREATE TABLE member (id INTEGER PRIMARY KEY, name TEXT UNIQUE, fee DOUBLE PRECISION CHECK (fee < 9), joined "
+        "DATE NOT NULL, p INTEGER REFERENCES parent (id))");
+    execute("INSERT INTO member VALUES (1, 'Anna', 1, '2013-03-15', NULL)");
+    execute("INSERT INTO member VALUES (2, 'Bert', 1, '2013-03-15', NULL)");
+    const auto store = open();
+    Person person(formOf({{"txtName", "KelText", ""},
+                          {"numFee", "KelNumber", UpTo99},
+                          {"datJoined", "KelDate", ""},
+                          {"numP", "KelNumber", UpTo99 + "      Decimals = 0\r\n"}}),
+                  *store, u"member");
+    struct {
+        std::u16string_view field;
+        Variant value;
+        const char* said;
+        std::u16string_view focused;
+    } const rows[] = {
+        {u"txtName", std::u16string(u"Bert"), "txtName: another record has the same value already.\n", u"txtName"},
+        {u"datJoined", Null{}, "datJoined: a value is needed here.\n", u"datJoined"},
+        {u"numFee", 10.0, "A rule of the database is not kept", u"datJoined"},
+        {u"numP", 7.0, "Another table does not have what this record refers to", u"datJoined"},
+    };
+    for (const auto& row : rows) {
+        person.heard.clear();
+        person.put(row.field, row.value);
+        EXPECT_FALSE(person.records().save());
+        EXPECT_TRUE(person.heard.starts_with(row.said)) << person.heard;
+        EXPECT_EQ(person.focused(), row.focused);
+        EXPECT_TRUE(person.records().isChanged());
+        person.records().undo();
+    }
+    EXPECT_EQ(value("SELECT count(*) FROM member WHERE name = 'Anna' AND fee = 1"), "1");
+}
+
+TEST_F(OnDatabase, FormMustFitTheTable) {
+    execute("CREATE TABLE member (id INTEGER PRIMARY KEY, txt_name DATE)");
+    const auto store = open();
+    try {
+        const Person person(formOf({{"txtName", "KelText", ""}}), *store, u"member");
+        FAIL() << "taken";
+    } catch (const StoreError& error) {
+        EXPECT_STREQ(error.what(), "txtName shows text, and the column txt_name is a date.");
+    }
+    execute("CREATE TABLE odd (a INTEGER)");
+    EXPECT_THROW(store->table(u"odd"), StoreError) << "records that cannot be told apart";
+}
+
+}  // namespace
+}  // namespace kel::test
