@@ -8,6 +8,7 @@
 #include <QMetaProperty>
 #include <QPaintEvent>
 #include <QShortcutEvent>
+#include <QStyle>
 
 #include "common/FieldLayout.h"
 #include "host/PropertyBag.h"
@@ -30,6 +31,12 @@ Variant run(const ControlSite& site, Thunk accessor, std::span<Variant> argument
     return result;
 }
 
+/// A style sheet may give the widget a ground and a border. Other styles have none for it, and are not asked at every
+/// key.
+void askForGround(QWidget& widget) {
+    widget.setAttribute(Qt::WA_StyledBackground, widget.style()->inherits("QStyleSheetStyle"));
+}
+
 }  // namespace
 
 KelControlWidget::KelControlWidget(const ClassModel& model, QWidget* parent)
@@ -42,8 +49,7 @@ KelControlWidget::KelControlWidget(const ClassModel& model, QWidget* parent)
 KelControlWidget::KelControlWidget(const ClassModel& model, const ControlServices& surroundings, QWidget* parent)
     : QWidget(parent), Site_(std::make_unique<ControlSite>(*this, surroundings)) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    // Style sheets may give it a ground and a border.
-    setAttribute(Qt::WA_StyledBackground);
+    askForGround(*this);
     // So that buddies find it; the field inside takes clicks as well.
     setFocusPolicy(Qt::TabFocus);
     Site_->makeControl(model);
@@ -177,6 +183,7 @@ void KelControlWidget::changeEvent(QEvent* event) {
         case QEvent::PaletteChange: Site_->recolored(); break;
         case QEvent::FontChange: Site_->measuresDiffer(); break;
         case QEvent::StyleChange:
+            askForGround(*this);
             Site_->measuresDiffer();
             Site_->recolored();
             break;
