@@ -1,5 +1,6 @@
 #include "records/Binding.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -68,21 +69,27 @@ std::u16string articled(std::u16string_view kind, const Column& column) {
 
 }  // namespace
 
-FieldSource sourceOf(std::u16string_view dataField) {
-    if (dataField.size() > TagMark.size() &&
-        compareFolded(dataField.substr(dataField.size() - TagMark.size()), TagMark) == 0)
-        return {std::u16string(dataField.substr(0, dataField.size() - TagMark.size())), true};
-    return {std::u16string(dataField), false};
+FieldSource sourceOf(std::u16string_view dataField, std::u16string_view controlName) {
+    if (dataField.empty()) return {databaseName(controlName), std::u16string(controlName)};
+    const std::size_t front = dataField.size() - std::min(dataField.size(), TagMark.size());
+    const bool byTag = front > 0 && compareFolded(dataField.substr(front), TagMark) == 0;
+    return {std::u16string(byTag ? dataField.substr(0, front) : dataField), {}, byTag};
+}
+
+std::optional<std::size_t> FieldSource::in(const Table& table) const {
+    if (!name.empty())
+        if (const auto named = table.find(name)) return named;
+    return table.find(column);
 }
 
 // ---- The control
 
-Binding::Kind Binding::kind() const {
+Binding::Kind Binding::kindOf(PlacedControl& control) {
     static constexpr std::pair<std::u16string_view, Kind> Kinds[] = {
         {u"KelText", Kind::Text}, {u"KelNumber", Kind::Number}, {u"KelDate", Kind::Date},
         {u"KelTime", Kind::Time}, {u"KelCombo", Kind::Combo},   {u"KelCheck", Kind::Check}};
     for (const auto& [name, kind] : Kinds)
-        if (Control_->control().model().name == name) return kind;
+        if (control.control().model().name == name) return kind;
     return Kind::None;
 }
 
@@ -111,7 +118,7 @@ std::optional<std::u16string> Binding::misfit(const Column& column) const {
     const bool isWhole = type == ColumnType::Integer;
     const bool isNumber = isWhole || type == ColumnType::Real || type == ColumnType::Decimal;
     const std::u16string shows = Control_->name() + u" shows ";
-    switch (kind()) {
+    switch (Kind_) {
         case Kind::Text:
             if (type != ColumnType::Text) return articled(shows + u"text", column);
             break;
@@ -138,7 +145,7 @@ std::optional<std::u16string> Binding::misfit(const Column& column) const {
 
 Column Binding::ownColumn() const {
     Column column;
-    switch (kind()) {
+    switch (Kind_) {
         case Kind::Number: column.type = ColumnType::Real; break;
         case Kind::Date: column.type = ColumnType::Date; break;
         case Kind::Time: column.type = ColumnType::Time; break;
@@ -169,13 +176,13 @@ std::u16string Binding::textWithTag(const std::u16string& tag) const {
 void Binding::show(const Cell& cell) {
     const MemberRow& member = valueMember();
     Variant value;
-    switch (kind()) {
+    switch (Kind_) {
         case Kind::Number: value = numberIn(cell); break;
         case Kind::Check: value = numberIn(cell) != 0; break;
         case Kind::Date:
         case Kind::Time: {
             const std::u16string text = records::textOf(cell);
-            const auto date = kind() == Kind::Date ? readIsoDay(text) : readIsoTime(text);
+            const auto date = Kind_ == Kind::Date ? readIsoDay(text) : readIsoTime(text);
             value = date ? Variant(*date) : Variant(Null{});
             break;
         }
@@ -209,18 +216,18 @@ Cell Binding::cell(const Column& column, const Cell& before) const {
     if (const auto* const number = std::get_if<double>(&value)) return numberCell(column.type, *number);
     if (const bool* const truth = std::get_if<bool>(&value)) return static_cast<std::int64_t>(*truth ? 1 : 0);
     if (const auto* const date = std::get_if<Date>(&value))
-        return dateCell(column.type, kind() == Kind::Time, *date, before);
+        return dateCell(column.type, Kind_ == Kind::Time, *date, before);
     return Null{};
 }
 
 bool Binding::holds(const Column& column, const Cell& now) const {
     const Cell own = cell(column, now);
-    return own == now || (kind() == Kind::Number && !isNull(now) && numberIn(own) == numberIn(now));
+    return own == now || (Kind_ == Kind::Number && !isNull(now) && numberIn(own) == numberIn(now));
 }
 
 std::u16string Binding::textOf(const Cell& cell) const {
     if (ByTag_) return textWithTag(records::textOf(cell));
-    if (kind() == Kind::Check) return numberIn(cell) != 0 ? u"yes" : u"no";
+    if (Kind_ == Kind::Check) return numberIn(cell) != 0 ? u"yes" : u"no";
     return records::textOf(cell);
 }
 

@@ -10,19 +10,25 @@
 /// Which column a field of a form shows, and how a value goes from one to the other.
 namespace kel::records {
 
-/// What a form's designer has written of a field's column. "customer" is the column, "customer:tag" the column that
-/// keeps the tag of the item that a combo shows, where "customer" keeps its text.
+/// Where a field wants to be kept, by what its form's designer has written in its `DataField`: "customer" is the
+/// column, "customer:tag" the column that keeps the tag of the item that a combo shows, where "customer" keeps its
+/// text. Where nothing is written it goes by the control's name, with or without the letters in front that tell its
+/// kind.
 struct FieldSource {
-    std::u16string column;
+    std::u16string column;  ///< as it is made where it is not there
+    std::u16string name;    ///< of the control; empty where a column is written
     bool byTag = false;
+
+    /// The column of `table` that it means; nothing where there is none.
+    std::optional<std::size_t> in(const Table& table) const;
 };
-FieldSource sourceOf(std::u16string_view dataField);
+FieldSource sourceOf(std::u16string_view dataField, std::u16string_view controlName);
 
 /// A field that keeps its value in a column. The control outlives it.
 class Binding {
 public:
     Binding(PlacedControl& control, std::size_t column, bool byTag, const RegionalSettings& region)
-        : Control_(&control), Region_(&region), Column_(column), ByTag_(byTag) {}
+        : Control_(&control), Region_(&region), Column_(column), Kind_(kindOf(control)), ByTag_(byTag) {}
 
     PlacedControl& control() const { return *Control_; }
     std::size_t column() const { return Column_; }
@@ -60,7 +66,7 @@ public:
 private:
     enum class Kind : std::uint8_t { Text, Number, Date, Time, Combo, Check, None };
 
-    Kind kind() const;
+    static Kind kindOf(PlacedControl& control);
     const MemberRow& valueMember() const;
     Variant get(std::u16string_view member) const;
     void put(std::u16string_view member, const Variant& value) const;
@@ -71,6 +77,7 @@ private:
     PlacedControl* Control_;
     const RegionalSettings* Region_;
     std::size_t Column_;
+    Kind Kind_;
     bool ByTag_;
     std::u16string StoredLook_;
 };

@@ -22,11 +22,9 @@ RecordForm::RecordForm(Form& form, RecordStore& store, Questions& questions, con
 void RecordForm::bind(const RegionalSettings& region) {
     for (const Form::Placed& placed : Form_->inTabOrder()) {
         if (!isField(placed.control->control())) continue;
-        const FieldSource source = sourceOf(Form_->file().text(placed.block, u"DataField"));
-        const std::u16string wanted = source.column.empty() ? placed.control->name() : source.column;
-        auto column = table().find(wanted);
-        if (!column && source.column.empty()) column = table().find(withoutPrefix(wanted));
-        if (!column) refuse(u"The table " + table().name + u" has no column " + wanted + u".");
+        const FieldSource source = sourceOf(Form_->file().text(placed.block, u"DataField"), placed.control->name());
+        const auto column = source.in(table());
+        if (!column) refuse(u"The table " + table().name + u" has no column " + source.column + u".");
         Bindings_.emplace_back(*placed.control, *column, source.byTag, region);
         Placed_.push_back(placed);
         if (const auto misfit = Bindings_.back().misfit(columnOf(Bindings_.back()))) refuse(*misfit + u".");

@@ -58,8 +58,8 @@ struct Table {
 /// Whether both mean the same column: "order_date", "Order Date" and "OrderDate" do.
 bool isSameName(std::u16string_view left, std::u16string_view right);
 
-/// The name of a control without the three small letters that tell its kind: "txtOrderDate" is "OrderDate". A name
-/// without them stays.
-std::u16string_view withoutPrefix(std::u16string_view controlName);
+/// "txtOrderDate" is order_date, without the three small letters that tell a control's kind, if it has them: a name
+/// that needs no quotes in any database.
+std::u16string databaseName(std::u16string_view controlName);
 
 }  // namespace kel::records

@@ -7,39 +7,45 @@
 
 namespace kel::records {
 
-std::u16string databaseName(std::u16string_view controlName) {
-    std::u16string name;
-    char16_t before = 0;
-    for (const char16_t unit : withoutPrefix(controlName)) {
-        const bool isUpper = unit >= u'A' && unit <= u'Z';
-        const bool follows = (before >= u'a' && before <= u'z') || (before >= u'0' && before <= u'9');
-        if (isUpper && follows) name += u'_';
-        name += unit == u' ' || unit == u'-' ? u'_' : toLowerAscii(unit);
-        before = unit;
+namespace {
+
+struct Wanted {
+    FieldSource source;
+    Column column;
+};
+
+/// In the order of the Tab key.
+std::vector<Wanted> wantedBy(const Form& form, const RegionalSettings& region) {
+    std::vector<Wanted> wanted;
+    for (const Form::Placed& placed : form.inTabOrder()) {
+        if (!isField(placed.control->control())) continue;
+        FieldSource source = sourceOf(form.file().text(placed.block, u"DataField"), placed.control->name());
+        Column column = Binding(*placed.control, 0, source.byTag, region).ownColumn();
+        column.name = source.column;
+        wanted.push_back({std::move(source), std::move(column)});
     }
-    return name;
+    return wanted;
 }
+
+}  // namespace
 
 Table tableFor(const Form& form, std::u16string_view name, const RegionalSettings& region) {
     Table table;
     table.name = name;
-    for (const Form::Placed& placed : form.inTabOrder()) {
-        if (!isField(placed.control->control())) continue;
-        const FieldSource source = sourceOf(form.file().text(placed.block, u"DataField"));
-        Column column = Binding(*placed.control, 0, source.byTag, region).ownColumn();
-        column.name = source.column.empty() ? databaseName(placed.control->name()) : source.column;
-        if (table.find(column.name))
+    for (Wanted& wanted : wantedBy(form, region)) {
+        if (table.find(wanted.column.name))
             throw StoreError(StoreError::Kind::Wrong,
-                             "Two fields of the form are kept in the column " + toUtf8(column.name) + ".");
-        table.columns.push_back(std::move(column));
+                             "Two fields of the form are kept in the column " + toUtf8(wanted.column.name) + ".");
+        table.columns.push_back(std::move(wanted.column));
     }
     return table;
 }
 
 std::vector<Column> missingColumns(const Form& form, const Table& table, const RegionalSettings& region) {
-    std::vector<Column> columns = tableFor(form, table.name, region).columns;
-    std::erase_if(columns, [&](const Column& column) { return table.find(column.name).has_value(); });
-    return columns;
+    std::vector<Column> missing;
+    for (Wanted& wanted : wantedBy(form, region))
+        if (!wanted.source.in(table)) missing.push_back(std::move(wanted.column));
+    return missing;
 }
 
 }  // namespace kel::records

@@ -9,9 +9,6 @@
 /// What table a form wants.
 namespace kel::records {
 
-/// "txtOrderDate" is order_date: a name that needs no quotes in any database.
-std::u16string databaseName(std::u16string_view controlName);
-
 /// Its fields' columns, in the order of the Tab key; key and version are the store's to add. Throws StoreError when two
 /// fields are of one column.
 Table tableFor(const Form& form, std::u16string_view name, const RegionalSettings& region);

@@ -273,6 +273,8 @@ TEST_F(OnDatabase, FormMustFitTheTable) {
     } catch (const StoreError& error) {
         EXPECT_STREQ(error.what(), "txtName shows text, and the column txt_name is a date.");
     }
+    EXPECT_EQ(store->table(u"member").value().columns.size(), 2U)
+        << "the column is there, under the field's whole name";
     execute("CREATE TABLE odd (a INTEGER)");
     EXPECT_THROW(store->table(u"odd"), StoreError) << "records that cannot be told apart";
 }
