@@ -88,6 +88,11 @@ std::optional<Record> Finder::nearest(const Record* from, Way way, const GoesOn&
     return hit;
 }
 
+std::optional<Record> Finder::nearestAround(const Record* from, Way way, const GoesOn& goesOn) const {
+    std::optional<Record> hit = nearest(from, way, goesOn);
+    return hit || from == nullptr || !goesOn() ? hit : nearest(nullptr, way, goesOn);
+}
+
 std::optional<std::int64_t> Finder::count(const GoesOn& goesOn) const {
     std::int64_t hits = 0;
     const bool isWhole = forEach(nullptr, Way::Forward, goesOn, [&](const Record& record) {

@@ -27,6 +27,9 @@ public:
     /// on that side, or where it was stopped.
     std::optional<Record> nearest(const Record* from, Way way, const GoesOn& goesOn) const;
 
+    /// The same, and once around: where there is none on that side, the nearest from the other end.
+    std::optional<Record> nearestAround(const Record* from, Way way, const GoesOn& goesOn) const;
+
     /// How many hits there are; nothing where it was stopped.
     std::optional<std::int64_t> count(const GoesOn& goesOn) const;
 

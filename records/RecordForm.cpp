@@ -33,22 +33,20 @@ void RecordForm::bind(const RegionalSettings& region) {
 
 // ---- From record to record
 
+bool RecordForm::step(const Record* from, Way way) {
+    const std::vector<Record> found = Store_->walk(from, way, 1, Order_);
+    if (!found.empty()) show(found.front());
+    return !found.empty();
+}
+
 bool RecordForm::toEnd(Way way) {
-    return attempt([&] {
-        const std::vector<Record> found = Store_->walk(nullptr, way, 1, Order_);
-        if (!found.empty()) show(found.front());
-        return !found.empty();
-    });
+    return attempt([&] { return step(nullptr, way); });
 }
 
 bool RecordForm::walk(Way way) {
-    // From a new record, which stands behind all others.
-    if (!Shown_) return way == Way::Backward && toEnd(Way::Backward);
-    return attempt([&] {
-        const std::vector<Record> found = Store_->walk(&*Shown_, way, 1, Order_);
-        if (!found.empty()) show(found.front());
-        return !found.empty();
-    });
+    if (Shown_) return attempt([&] { return step(&*Shown_, way); });
+    // A new record stands behind all others.
+    return way == Way::Backward && toEnd(Way::Backward);
 }
 
 bool RecordForm::toFirst() { return mayLeave() && toEnd(Way::Forward); }
@@ -87,17 +85,19 @@ bool RecordForm::mayLeave() {
 
 // ---- On the screen
 
-void RecordForm::show(const Record& record) {
-    Shown_ = record;
+void RecordForm::compareWith(std::optional<Record> record) {
+    Shown_ = std::move(record);
     Kept_.clear();
     Duplicated_ = false;
-    for (Binding& binding : Bindings_) binding.show(record.cells[binding.column()]);
+}
+
+void RecordForm::show(const Record& record) {
+    compareWith(record);
+    for (Binding& binding : Bindings_) binding.show(Shown_->cells[binding.column()]);
 }
 
 void RecordForm::showNew() {
-    Shown_.reset();
-    Kept_.clear();
-    Duplicated_ = false;
+    compareWith({});
     for (std::size_t i = 0; i < Bindings_.size(); ++i) {
         if (!isCarried(Bindings_[i]))
             Form_->reload(Placed_[i], findMember(Placed_[i].control->control().model(), DefaultMemberId)->persisted);
@@ -233,9 +233,7 @@ std::vector<Change> RecordForm::changes() const {
 }
 
 void RecordForm::stored(Record record) {
-    Shown_ = std::move(record);
-    Kept_.clear();
-    Duplicated_ = false;
+    compareWith(std::move(record));
     for (Binding& binding : Bindings_) {
         // What the database has made of it: a default, a text that a trigger has changed.
         const Cell& now = Shown_->cells[binding.column()];
@@ -315,13 +313,7 @@ bool RecordForm::remove() {
             case Outcome::Done: break;
         }
         const Record gone = *Shown_;
-        for (const Way way : {Way::Forward, Way::Backward}) {
-            const std::vector<Record> next = Store_->walk(&gone, way, 1, Order_);
-            if (next.empty()) continue;
-            show(next.front());
-            return true;
-        }
-        showNew();
+        if (!step(&gone, Way::Forward) && !step(&gone, Way::Backward)) showNew();
         return true;
     });
 }

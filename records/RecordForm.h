@@ -82,6 +82,10 @@ private:
     void showNew();
     bool toEnd(Way way);
     bool walk(Way way);
+    /// Shows the next one from there; false where there is none.
+    bool step(const Record* from, Way way);
+    /// From now on this is what the screen is compared with; a new record has nothing to compare with.
+    void compareWith(std::optional<Record> record);
     /// Runs `action`; what the database says against it is told to the person.
     template <class Action>
     bool attempt(Action action);

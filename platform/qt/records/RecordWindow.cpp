@@ -232,9 +232,7 @@ private:
             return Seeking_;
         };
         try {
-            std::optional<records::Record> hit = finder.nearest(from, way, goesOn);
-            // Once around.
-            if (!hit && from != nullptr && Seeking_) hit = finder.nearest(nullptr, way, goesOn);
+            const std::optional<records::Record> hit = finder.nearestAround(from, way, goesOn);
             if (hit) Form_->toRecord(*hit);
             const auto hits = hit ? finder.count(goesOn) : std::nullopt;
             statusBar()->showMessage(!hit   ? QStringLiteral("\"%1\" is in no record.").arg(Sought_)

@@ -36,6 +36,14 @@ public:
 
     /// A name as it stands in a statement, whatever is in it.
     static QString quoted(std::u16string_view name);
+
+protected:
+    // What every database refuses, in the same words.
+    static records::StoreError valueMissing(const QString& column);
+    static records::StoreError valueTaken(const QString& column);
+    static records::StoreError referenceBroken();
+    static records::StoreError ruleBroken(const QString& text);
+    static records::StoreError readOnly();
 };
 
 std::unique_ptr<Dialect> makeSqliteDialect();

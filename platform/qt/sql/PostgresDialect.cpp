@@ -19,17 +19,6 @@ QString between(const QString& text, QLatin1String before, QChar after) {
     return from < 0 ? QString() : text.mid(from + before.size()).section(after, 0, 0);
 }
 
-StoreError constraintError(const QString& state, const QString& text) {
-    if (state == QLatin1String("23502"))
-        return {Kind::Constraint, "a value is needed here.",
-                between(text, QLatin1String("column \""), QLatin1Char('"')).toStdU16String()};
-    const std::u16string key = between(text, QLatin1String("Key ("), QLatin1Char(')')).toStdU16String();
-    if (state == QLatin1String("23505")) return {Kind::Constraint, "another record has the same value already.", key};
-    if (state == QLatin1String("23503"))
-        return {Kind::Constraint, "Another table does not have what this record refers to, or refers to this record."};
-    return {Kind::Constraint, "A rule of the database is not kept: " + text.toStdString()};
-}
-
 /// PostgreSQL, by the text forms of its values, which lose nothing.
 class PostgresDialect final : public Dialect {
 public:
@@ -89,8 +78,7 @@ public:
         if (state.startsWith(QLatin1String("23"))) return constraintError(state, text);
         if (state.startsWith(QLatin1String("55P03")) || state.startsWith(QLatin1String("40")))
             return {Kind::Busy, "Another program holds the record. Please try again."};
-        if (state == QLatin1String("25006"))
-            return {Kind::ReadOnly, "The database may not be written. Nothing is lost: it stands on the screen."};
+        if (state == QLatin1String("25006")) return readOnly();
         if (state.startsWith(QLatin1String("53")))
             return {Kind::Full, "The server has no room left. Please make room and save again."};
         if (state.startsWith(QLatin1String("08")) || state.startsWith(QLatin1String("57P")) ||
@@ -98,6 +86,14 @@ public:
             text.contains(QLatin1String("no connection")))
             return {Kind::Lost, "The connection to the server is gone. Please try again."};
         return {Kind::Wrong, "The database says: " + (text.isEmpty() ? error.driverText() : text).toStdString()};
+    }
+
+private:
+    static StoreError constraintError(const QString& state, const QString& text) {
+        if (state == QLatin1String("23502"))
+            return valueMissing(between(text, QLatin1String("column \""), QLatin1Char('"')));
+        if (state == QLatin1String("23505")) return valueTaken(between(text, QLatin1String("Key ("), QLatin1Char(')')));
+        return state == QLatin1String("23503") ? referenceBroken() : ruleBroken(text);
     }
 };
 

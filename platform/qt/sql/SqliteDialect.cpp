@@ -15,19 +15,6 @@ using Kind = StoreError::Kind;
 
 constexpr int PrimaryCode = 0xFF;  ///< the rest of an error's number says more
 
-StoreError constraintError(const QString& text) {
-    // "NOT NULL constraint failed: orders.quantity"
-    const QString place = text.section(QLatin1String("failed: "), 1).section(QLatin1Char(' '), 0, 0);
-    const QString column = place.section(QLatin1Char('.'), -1).section(QLatin1Char(','), 0, 0);
-    const std::u16string about = column.toStdU16String();
-    if (text.contains(QLatin1String("NOT NULL"))) return {Kind::Constraint, "a value is needed here.", about};
-    if (text.contains(QLatin1String("UNIQUE")))
-        return {Kind::Constraint, "another record has the same value already.", about};
-    if (text.contains(QLatin1String("FOREIGN KEY")))
-        return {Kind::Constraint, "Another table does not have what this record refers to, or refers to this record."};
-    return {Kind::Constraint, "A rule of the database is not kept: " + text.toStdString()};
-}
-
 class SqliteDialect final : public Dialect {
 public:
     QString typeName(const Column& column) const override {
@@ -80,8 +67,7 @@ public:
         switch (error.nativeErrorCode().toInt() & PrimaryCode) {
             case 5:
             case 6: return {Kind::Busy, "Another program holds the database. Please try again."};
-            case 8:
-                return {Kind::ReadOnly, "The database may not be written. Nothing is lost: it stands on the screen."};
+            case 8: return readOnly();
             case 13: return {Kind::Full, "The disk is full. Please make room and save again."};
             case 14: return {Kind::Wrong, "The database cannot be opened: the folder is not there or may not be used."};
             case 19: return constraintError(text);
@@ -90,15 +76,19 @@ public:
             default: return {Kind::Wrong, "The database says: " + text.toStdString()};
         }
     }
+
+private:
+    static StoreError constraintError(const QString& text) {
+        // "NOT NULL constraint failed: orders.quantity"
+        const QString place = text.section(QLatin1String("failed: "), 1).section(QLatin1Char(' '), 0, 0);
+        const QString column = place.section(QLatin1Char('.'), -1).section(QLatin1Char(','), 0, 0);
+        if (text.contains(QLatin1String("NOT NULL"))) return valueMissing(column);
+        if (text.contains(QLatin1String("UNIQUE"))) return valueTaken(column);
+        return text.contains(QLatin1String("FOREIGN KEY")) ? referenceBroken() : ruleBroken(text);
+    }
 };
 
 }  // namespace
-
-QString Dialect::quoted(std::u16string_view name) {
-    QString text = toQString(name);
-    text.replace(QLatin1Char('"'), QLatin1String("\"\""));
-    return QLatin1Char('"') + text + QLatin1Char('"');
-}
 
 std::unique_ptr<Dialect> makeSqliteDialect() { return std::make_unique<SqliteDialect>(); }
 
