@@ -111,6 +111,22 @@ bool isField(const Control& control) {
     return control.model().isControl() && findMember(control.model(), u"ChangedSaved") != nullptr;
 }
 
+std::vector<Binding> bind(const Form& form, const Table& table, const RegionalSettings& region) {
+    const auto refuse = [](const std::u16string& message) {
+        throw StoreError(StoreError::Kind::Wrong, toUtf8(message));
+    };
+    std::vector<Binding> bindings;
+    for (const Form::Placed& placed : form.inTabOrder()) {
+        if (!isField(placed.control->control())) continue;
+        const FieldSource source = sourceOf(form.file().text(placed.block, u"DataField"), placed.control->name());
+        const auto column = source.in(table);
+        if (!column) refuse(u"The table " + table.name + u" has no column " + source.column + u".");
+        bindings.emplace_back(placed, *column, source.byTag, region);
+        if (const auto misfit = bindings.back().misfit(table.columns[*column])) refuse(*misfit + u".");
+    }
+    return bindings;
+}
+
 // ---- Fitting
 
 std::optional<std::u16string> Binding::misfit(const Column& column) const {
@@ -173,6 +189,11 @@ std::u16string Binding::textWithTag(const std::u16string& tag) const {
     return {};
 }
 
+bool Binding::hasTag() const {
+    const Variant tag = get(u"ListTagItem");
+    return textIn(tag) != nullptr && !textIn(tag)->empty();
+}
+
 void Binding::show(const Cell& cell) {
     const MemberRow& member = valueMember();
     Variant value;
@@ -191,6 +212,8 @@ void Binding::show(const Cell& cell) {
     putMember(Control_->control(), member, value, *Region_);
     markStored();
 }
+
+void Binding::showDefault(const Form& form) { form.reload({Block_, Control_}, valueMember().persisted); }
 
 void Binding::markStored() {
     const std::u16string name(valueMember().name);

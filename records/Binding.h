@@ -3,8 +3,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
-#include "forms/Home.h"
+#include "forms/Form.h"
 #include "records/Store.h"
 
 /// Which column a field of a form shows, and how a value goes from one to the other.
@@ -27,8 +28,13 @@ FieldSource sourceOf(std::u16string_view dataField, std::u16string_view controlN
 /// A field that keeps its value in a column. The control outlives it.
 class Binding {
 public:
-    Binding(PlacedControl& control, std::size_t column, bool byTag, const RegionalSettings& region)
-        : Control_(&control), Region_(&region), Column_(column), Kind_(kindOf(control)), ByTag_(byTag) {}
+    Binding(const Form::Placed& placed, std::size_t column, bool byTag, const RegionalSettings& region)
+        : Control_(placed.control),
+          Block_(placed.block),
+          Region_(&region),
+          Column_(column),
+          Kind_(kindOf(*placed.control)),
+          ByTag_(byTag) {}
 
     PlacedControl& control() const { return *Control_; }
     std::size_t column() const { return Column_; }
@@ -42,6 +48,11 @@ public:
 
     /// Shows what stands in the column; that is what the field's own change tracking compares with from now on.
     void show(const Cell& cell);
+    /// Shows what the form gives to a new record.
+    void showDefault(const Form& form);
+    /// Reads a text from elsewhere as the field would read it, numbers in the way of another region, and shows it.
+    /// Says what is wrong with it: "is no date"; nothing when the field holds all of it.
+    std::optional<std::u16string> take(std::u16string_view text, const RegionalSettings& numbers);
     /// The field's value now is what was stored.
     void markStored();
     /// Something else than what was shown or stored last. What is half typed is taken as if the field was left.
@@ -73,8 +84,14 @@ private:
     /// What stands in the field, as a person sees it.
     std::u16string look() const;
     std::u16string textWithTag(const std::u16string& tag) const;
+    bool hasTag() const;
+    std::optional<std::u16string> takeText(std::u16string_view text);
+    std::optional<std::u16string> takeNumber(std::u16string_view text, const RegionalSettings& numbers);
+    std::optional<std::u16string> takeMoment(std::u16string_view text);
+    std::optional<std::u16string> takeTruth(std::u16string_view text);
 
     PlacedControl* Control_;
+    FormBlockId Block_;
     const RegionalSettings* Region_;
     std::size_t Column_;
     Kind Kind_;
@@ -84,5 +101,9 @@ private:
 
 /// Whether the control has a value that a column could keep.
 bool isField(const Control& control);
+
+/// The fields of a form with their columns, in the order of the Tab key. Throws StoreError when a column is not there
+/// or cannot keep what its field holds.
+std::vector<Binding> bind(const Form& form, const Table& table, const RegionalSettings& region);
 
 }  // namespace kel::records

@@ -15,6 +15,8 @@ enum class Command : std::uint8_t {
     Delete,
     Undo,
     Refresh,
+    Import,
+    Export,
     Close,
     First,
     Previous,

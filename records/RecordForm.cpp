@@ -2,33 +2,13 @@
 
 #include <algorithm>
 
-#include "library/Dispatch.h"
 #include "values/Text.h"
 
 namespace kel::records {
 
-namespace {
-
-[[noreturn]] void refuse(const std::u16string& message) { throw StoreError(StoreError::Kind::Wrong, toUtf8(message)); }
-
-}  // namespace
-
 RecordForm::RecordForm(Form& form, RecordStore& store, Questions& questions, const RegionalSettings& region)
-    : Form_(&form), Store_(&store), Questions_(&questions) {
-    bind(region);
+    : Form_(&form), Store_(&store), Questions_(&questions), Bindings_(bind(form, store.table(), region)) {
     if (!toEnd(Way::Forward)) showNew();
-}
-
-void RecordForm::bind(const RegionalSettings& region) {
-    for (const Form::Placed& placed : Form_->inTabOrder()) {
-        if (!isField(placed.control->control())) continue;
-        const FieldSource source = sourceOf(Form_->file().text(placed.block, u"DataField"), placed.control->name());
-        const auto column = source.in(table());
-        if (!column) refuse(u"The table " + table().name + u" has no column " + source.column + u".");
-        Bindings_.emplace_back(*placed.control, *column, source.byTag, region);
-        Placed_.push_back(placed);
-        if (const auto misfit = Bindings_.back().misfit(columnOf(Bindings_.back()))) refuse(*misfit + u".");
-    }
 }
 
 // ---- From record to record
@@ -98,10 +78,9 @@ void RecordForm::show(const Record& record) {
 
 void RecordForm::showNew() {
     compareWith({});
-    for (std::size_t i = 0; i < Bindings_.size(); ++i) {
-        if (!isCarried(Bindings_[i]))
-            Form_->reload(Placed_[i], findMember(Placed_[i].control->control().model(), DefaultMemberId)->persisted);
-        Bindings_[i].markStored();
+    for (Binding& binding : Bindings_) {
+        if (!isCarried(binding)) binding.showDefault(*Form_);
+        binding.markStored();
     }
 }
 
@@ -215,8 +194,7 @@ std::vector<Change> RecordForm::allValues() const {
     for (const Binding& binding : Bindings_) {
         const Column& column = columnOf(binding);
         Cell value = binding.cell(column, Null{});
-        if (column.generated || (column.hasDefault && isNull(value))) continue;
-        values.push_back({binding.column(), std::move(value)});
+        if (!isLeftToDatabase(column, value)) values.push_back({binding.column(), std::move(value)});
     }
     return values;
 }

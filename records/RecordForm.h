@@ -77,7 +77,6 @@ public:
     void setCarried(const Binding& binding, bool carried);
 
 private:
-    void bind(const RegionalSettings& region);
     void show(const Record& record);
     void showNew();
     bool toEnd(Way way);
@@ -105,8 +104,7 @@ private:
     Form* Form_;
     RecordStore* Store_;
     Questions* Questions_;
-    std::vector<Form::Placed> Placed_;  ///< of each binding
-    std::vector<Binding> Bindings_;     ///< in the order of the Tab key
+    std::vector<Binding> Bindings_;  ///< in the order of the Tab key
     std::optional<Record> Shown_;
     std::set<std::size_t> Kept_;     ///< columns that keep what is on the screen against another person's change
     std::set<std::size_t> Carried_;  ///< columns

@@ -2,6 +2,10 @@
 
 namespace kel::records {
 
+bool isLeftToDatabase(const Column& column, const Cell& value) {
+    return column.generated || (column.hasDefault && isNull(value));
+}
+
 Cells keyOf(const Table& table, const Record& record) {
     Cells key;
     key.reserve(table.key.size());

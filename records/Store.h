@@ -91,6 +91,9 @@ public:
 
     /// Returns the record with all that the database has given to it.
     virtual Record insert(const std::vector<Change>& values) = 0;
+    /// The same for whoever does not want it back, the faster the more often it is called for the same columns. What
+    /// came before it in a transaction stays when it fails.
+    virtual void add(const std::vector<Change>& values) = 0;
     /// Changes these columns of the record if it still stands as it was `read`; then `read` is what it is now.
     virtual Outcome update(Record& read, const std::vector<Change>& values) = 0;
     virtual Outcome remove(const Record& read) = 0;
@@ -118,6 +121,9 @@ public:
     /// The store outlives it.
     virtual std::unique_ptr<RecordStore> open(const Table& table) = 0;
 };
+
+/// Whether a new record leaves this to the database, which knows it better.
+bool isLeftToDatabase(const Column& column, const Cell& value);
 
 /// What tells the record from all others.
 Cells keyOf(const Table& table, const Record& record);

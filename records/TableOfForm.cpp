@@ -20,7 +20,7 @@ std::vector<Wanted> wantedBy(const Form& form, const RegionalSettings& region) {
     for (const Form::Placed& placed : form.inTabOrder()) {
         if (!isField(placed.control->control())) continue;
         FieldSource source = sourceOf(form.file().text(placed.block, u"DataField"), placed.control->name());
-        Column column = Binding(*placed.control, 0, source.byTag, region).ownColumn();
+        Column column = Binding(placed, 0, source.byTag, region).ownColumn();
         column.name = source.column;
         wanted.push_back({std::move(source), std::move(column)});
     }

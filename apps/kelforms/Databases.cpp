@@ -4,7 +4,10 @@
 
 #ifdef KEL_HAS_QT
 #include <QCoreApplication>
+#include <QLocale>
 
+#include "platform/headless/HeadlessHome.h"
+#include "platform/qt/home/QtRegion.h"
 #include "platform/qt/records/RecordWindow.h"
 #include "platform/qt/sql/SqlStore.h"
 #include "records/OpenTable.h"
@@ -40,10 +43,11 @@ namespace {
 class QtRecordsWindow final : public RecordsWindow {
 public:
     QtRecordsWindow(Form& form, Home& home, records::Store& store, const records::Table& table)
-        : Window_(form, home, store, table) {}
+        : Unseen_(headless::makeHome({.region = &home.region()})), Window_(form, home, *Unseen_, store, table) {}
     std::string picture() const override { return Window_.picture(); }
 
 private:
+    std::unique_ptr<Home> Unseen_;
     qt::RecordWindow Window_;
 };
 
@@ -55,6 +59,8 @@ bool askToAdd(const std::vector<records::Column>& columns) {
 
 }  // namespace
 
+RegionalSettings systemRegion() { return qt::regionFromLocale(QLocale::system()); }
+
 std::unique_ptr<RecordsWindow> openRecords(Form& form, Home& home, records::Store& store,
                                            const std::u16string& tableName) {
     const records::Table table = records::openTable(store, form, tableName, home.region(), &askToAdd);
@@ -62,6 +68,8 @@ std::unique_ptr<RecordsWindow> openRecords(Form& form, Home& home, records::Stor
 }
 
 #else
+
+RegionalSettings systemRegion() { return defaultRegion(); }
 
 std::unique_ptr<RecordsWindow> openRecords(Form&, Home&, records::Store&, const std::u16string&) {
     throw UsageError("--data: this program was built without databases");

@@ -25,6 +25,9 @@ private:
     std::unique_ptr<records::Store> Store_;
 };
 
+/// How the person's system writes numbers and dates.
+RegionalSettings systemRegion();
+
 /// A window around a form with its records, which shows itself.
 class RecordsWindow {
 public:

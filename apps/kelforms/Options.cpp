@@ -12,6 +12,10 @@ const char* const Usage =
     "kelforms run FORM.frm [--on terminal] [--locale L]   show the form in a window\n"
     "kelforms run FORM.frm --data DATABASE [--table T]    the same with records: a file of SQLite, or\n"
     "                                                     postgresql://user@host:port/name\n"
+    "kelforms import FORM.frm LIST.csv --data DATABASE [--table T] [--all-or-nothing]\n"
+    "                                                     store the records of a list, each checked by the form\n"
+    "kelforms export FORM.frm LIST.csv|- --data DATABASE [--table T]\n"
+    "                                                     write the records to a list\n"
     "kelforms play FORM.frm SCRIPT|- [options]            play a script on the form\n"
     "kelforms check FORM.frm                              say what the file holds and what is wrong with it\n"
     "kelforms save FORM.frm OUT.frm                       load every control and write the form back\n"
@@ -21,6 +25,7 @@ const char* const Usage =
     "options of play: --on headless|qt|win32|terminal, --locale en-GB, --today 2013-03-15, --now 10:15:30,\n"
     "  --colour-depth 24, --twips-per-pixel 15, --data DATABASE, --table T, --shot FILE.png, --used FILE,\n"
     "  --check, --update\n"
+    "options of import and export: --separator \";\", --no-header, --locale L\n"
     "windows of Qt's take Qt's usual options: -style fusion, -reverse, -platform wayland, -stylesheet FILE ...\n";
 
 namespace {
@@ -49,6 +54,14 @@ struct Reader {
             throw UsageError(option + ": a whole number from " + std::to_string(least) + " to " + std::to_string(most) +
                              " is wanted, not \"" + toUtf8(text) + "\"");
         return static_cast<std::int32_t>(number);
+    }
+
+    char separator(const std::string& option) {
+        const std::string text = value(option);
+        if (text == "tab") return '\t';
+        if (text.size() != 1 || text == "\"" || text == "\n" || text == "\r")
+            throw UsageError(option + ": one character is wanted, or tab, not \"" + text + "\"");
+        return text.front();
     }
 
     const RegionalSettings& region(const std::string& option) {
@@ -83,6 +96,12 @@ bool readOption(const std::string& word, Reader& reader, Options& options) {
         options.data = reader.value(word);
     else if (word == "--table")
         options.table = reader.value(word);
+    else if (word == "--separator")
+        options.list.separator = reader.separator(word);
+    else if (word == "--no-header")
+        options.list.hasHeader = false;
+    else if (word == "--all-or-nothing")
+        options.allOrNothing = true;
     else if (word == "--shot")
         options.shot = reader.value(word);
     else if (word == "--used")
@@ -129,8 +148,8 @@ struct CommandRow {
     std::size_t leastFiles;
     std::size_t mostFiles;
 };
-constexpr CommandRow Commands[] = {{"run", 1, 1},  {"play", 2, 2}, {"check", 1, 1},
-                                   {"save", 2, 2}, {"shot", 2, 2}, {"describe", 0, 1}};
+constexpr CommandRow Commands[] = {{"run", 1, 1},    {"play", 2, 2}, {"check", 1, 1},    {"save", 2, 2},
+                                   {"import", 2, 2}, {"shot", 2, 2}, {"describe", 0, 1}, {"export", 2, 2}};
 
 void checkCommand(const Options& options) {
     const auto found = std::find_if(std::begin(Commands), std::end(Commands),

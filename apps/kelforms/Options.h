@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "forms/Home.h"
+#include "records/exchange/ListFormat.h"
 #include "values/Variant.h"
 
 namespace kel::app {
@@ -27,6 +28,8 @@ struct Options {
     std::optional<Date> now;
     std::string data;   ///< a database; empty for none
     std::string table;  ///< empty: the form's own
+    records::ListFormat list;
+    bool allOrNothing = false;  ///< of a list that is taken in
     std::string shot;
     std::string used;
     bool check = false;

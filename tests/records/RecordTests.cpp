@@ -9,11 +9,13 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <random>
+#include <sstream>
 
 #include "library/Dispatch.h"
 #include "platform/headless/HeadlessHome.h"
 #include "platform/qt/sql/SqlConnection.h"
 #include "platform/qt/sql/SqlStore.h"
+#include "records/exchange/Importer.h"
 #include "records/OpenTable.h"
 #include "records/RecordForm.h"
 #include "values/Text.h"
@@ -262,6 +264,48 @@ TEST_F(OnDatabase, ComplaintsNameTheField) {
         person.records().undo();
     }
     EXPECT_EQ(value("SELECT count(*) FROM member WHERE name = 'Anna' AND fee = 1"), "1");
+}
+
+// ---- Lists
+
+TEST_F(OnDatabase, ListsLeaveWholeRecords) {
+    const auto store = open();
+    execute("CREATE TABLE member (name TEXT PRIMARY KEY, fee DOUBLE PRECISION, joined DATE)");
+    const auto records = store->open(store->table(u"member").value());
+    const auto home = headless::makeHome({.region = &defaultRegion()});
+    Importer importer(*home, FormFile::parse(MemberForm, "member.frm"), *records);
+    std::string list;
+    for (int i = 0; i < 100; ++i) list += "Name " + std::to_string(i) + "," + std::to_string(i % 60) + "\n";
+    const struct {
+        std::string list;
+        bool allOrNothing;
+        std::int64_t stopAt;  ///< bytes
+        std::int64_t stored;
+        std::string rejects;
+    } rows[] = {
+        {list, false, 300, 32, ""},
+        {list, true, 300, 0, ""},
+        {"Ann,1\nAnn,2\nBea,3\n", false, 0, 2, "2,txtName: another record has the same value already.,Ann,2\r\n"},
+        {"Ann,1\nAnn,2\nBea,3\n", true, 0, 0, "2,txtName: another record has the same value already.,Ann,2\r\n"},
+        {"Ann,1,2013-03-15,5\nBea,3,,,\n", false, 0, 0, "has 4 values, and the form has 3 fields"},
+    };
+    for (const auto& row : rows) {
+        execute("DELETE FROM member");
+        std::istringstream stream(row.list);
+        std::string rejects;
+        try {
+            const Importer::Result result = importer.run(
+                stream, {.separator = 0, .hasHeader = false}, row.allOrNothing,
+                [&](std::string_view line) { rejects += line; },
+                [&](std::int64_t bytes) { return row.stopAt == 0 || bytes < row.stopAt; });
+            EXPECT_EQ(result.stored, row.stored);
+            EXPECT_EQ(result.isStopped, row.stopAt != 0);
+            EXPECT_EQ(rejects, row.rejects);
+        } catch (const StoreError& error) {
+            EXPECT_NE(std::string(error.what()).find(row.rejects), std::string::npos) << error.what();
+        }
+        EXPECT_EQ(value("SELECT count(*) FROM member"), std::to_string(row.stored));
+    }
 }
 
 TEST_F(OnDatabase, FormMustFitTheTable) {

@@ -1,6 +1,7 @@
 #include "platform/qt/records/RecordWindow.h"
 
 #include <map>
+#include <optional>
 #include <QAction>
 #include <QBuffer>
 #include <QCloseEvent>
@@ -23,6 +24,7 @@
 #include "forms/Form.h"
 #include "platform/qt/base/TextBridge.h"
 #include "platform/qt/home/QtFormWindow.h"
+#include "platform/qt/records/ListDialogs.h"
 #include "platform/qt/records/RecordDialogs.h"
 #include "platform/qt/records/RecordList.h"
 #include "records/Commands.h"
@@ -58,7 +60,7 @@ QIcon iconOf(const QStyle& style, Command command) {
 
 class RecordWindow::Implementation final : public QMainWindow {
 public:
-    Implementation(Form& form, Home& home, records::Store& store, const records::Table& table)
+    Implementation(Form& form, Home& home, Home& unseen, records::Store& store, const records::Table& table)
         : Dialogs_(*this), Store_(store.open(table)), FormWindow_(dynamic_cast<QtFormWindow&>(form.window())) {
         setWindowTitle(FormWindow_.widget().windowTitle());
         setLayoutDirection(FormWindow_.widget().layoutDirection());
@@ -76,6 +78,7 @@ public:
         show();
         form.show();
         Form_ = std::make_unique<records::RecordForm>(form, *Store_, Dialogs_, home.region());
+        Lists_.emplace(*this, form.file(), *Form_, Dialogs_, unseen);
         makeList();
         Form_->focusFirst();
         refreshState();
@@ -93,6 +96,8 @@ public:
             case Command::Delete: refreshListIf(Form_->remove()); break;
             case Command::Undo: Form_->undo(); break;
             case Command::Refresh: readAgain(); break;
+            case Command::Import: refreshListIf(Lists_->importList()); break;
+            case Command::Export: Lists_->exportList(); break;
             case Command::Close: close(); break;
             case Command::First: Form_->toFirst(); break;
             case Command::Previous: Form_->toPrevious(); break;
@@ -290,6 +295,7 @@ private:
     std::unique_ptr<records::RecordStore> Store_;
     QtFormWindow& FormWindow_;
     std::unique_ptr<records::RecordForm> Form_;
+    std::optional<ListDialogs> Lists_;
     QScrollArea* Area_ = nullptr;
     RecordList* List_ = nullptr;
     QTableView* Table_ = nullptr;
@@ -302,8 +308,8 @@ private:
     bool Seeking_ = false;
 };
 
-RecordWindow::RecordWindow(Form& form, Home& home, records::Store& store, const records::Table& table)
-    : Implementation_(std::make_unique<Implementation>(form, home, store, table)) {}
+RecordWindow::RecordWindow(Form& form, Home& home, Home& unseen, records::Store& store, const records::Table& table)
+    : Implementation_(std::make_unique<Implementation>(form, home, unseen, store, table)) {}
 
 RecordWindow::~RecordWindow() = default;
 

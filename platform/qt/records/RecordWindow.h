@@ -18,8 +18,9 @@ namespace kel::qt {
 /// itself and the form.
 class RecordWindow {
 public:
-    /// All of it outlives the window. Throws records::StoreError where the form does not fit the table.
-    RecordWindow(Form& form, Home& home, records::Store& store, const records::Table& table);
+    /// `unseen` is a home that shows nothing, where lists are read. All of it outlives the window. Throws
+    /// records::StoreError where the form does not fit the table.
+    RecordWindow(Form& form, Home& home, Home& unseen, records::Store& store, const records::Table& table);
     RecordWindow(const RecordWindow&) = delete;
     RecordWindow& operator=(const RecordWindow&) = delete;
     ~RecordWindow();

@@ -25,6 +25,8 @@ public:
     virtual QString forUpdate() const = 0;
     /// Before that, so that nobody comes between.
     virtual QString beginToChange() const = 0;
+    /// Whether a statement that fails takes with it what came before it in its transaction.
+    virtual bool failureEndsTransaction() const = 0;
 
     /// The column in a query's list of what it reads.
     virtual QString readExpression(const records::Column& column) const { return quoted(column.name); }

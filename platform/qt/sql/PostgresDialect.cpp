@@ -40,6 +40,7 @@ public:
     }
     QString forUpdate() const override { return QStringLiteral(" FOR UPDATE"); }
     QString beginToChange() const override { return QStringLiteral("BEGIN"); }
+    bool failureEndsTransaction() const override { return true; }
 
     /// Days, times and decimal numbers as texts, which Qt does not round.
     QString readExpression(const Column& column) const override {
@@ -76,6 +77,8 @@ public:
         const QString state = error.nativeErrorCode();
         const QString text = error.databaseText();
         if (state.startsWith(QLatin1String("23"))) return constraintError(state, text);
+        // A text too long, a number too large, a day that the database does not have.
+        if (state.startsWith(QLatin1String("22"))) return ruleBroken(text);
         if (state.startsWith(QLatin1String("55P03")) || state.startsWith(QLatin1String("40")))
             return {Kind::Busy, "Another program holds the record. Please try again."};
         if (state == QLatin1String("25006")) return readOnly();

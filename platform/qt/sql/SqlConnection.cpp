@@ -149,6 +149,18 @@ QSqlQuery& SqlConnection::run(const QString& statement, const QVariantList& valu
     return *done;
 }
 
+void SqlConnection::runAlone(const QString& statement, const QVariantList& values) {
+    if (Depth_ == 0 || !Dialect_->failureEndsTransaction()) return run(statement, values).finish();
+    execute(QStringLiteral("SAVEPOINT alone"));
+    try {
+        run(statement, values).finish();
+    } catch (const StoreError& error) {
+        if (error.kind() != Kind::Lost) execute(QStringLiteral("ROLLBACK TO SAVEPOINT alone"));
+        throw;
+    }
+    execute(QStringLiteral("RELEASE SAVEPOINT alone"));
+}
+
 void SqlConnection::execute(const QString& statement) {
     patiently([&] {
         QSqlQuery query(database());

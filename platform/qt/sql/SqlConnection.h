@@ -39,6 +39,9 @@ public:
     /// same statement is run again.
     QSqlQuery& run(const QString& statement, const QVariantList& values = {});
 
+    /// The same for a statement that reads nothing. When it fails, what came before it in its transaction stays.
+    void runAlone(const QString& statement, const QVariantList& values);
+
     /// A statement that reads nothing and is run seldom, such as one that makes a table.
     void execute(const QString& statement);
 

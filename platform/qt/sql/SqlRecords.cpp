@@ -152,25 +152,44 @@ std::int64_t SqlRecords::placeOf(const Record& record, const Order& order) {
 
 // ---- Changing
 
-Record SqlRecords::insert(const std::vector<Change>& values) {
+QString SqlRecords::insertion(const std::vector<Change>& values) const {
     QStringList names;
     QStringList marks;
-    QVariantList bound;
     for (const Change& change : values) {
         names.append(nameOf(change.column));
         marks.append(QStringLiteral("?"));
-        bound.append(Connection_.dialect().toSql(change.value, column(change.column)));
     }
-    QStringList keys;
-    for (const std::size_t key : Table_.key) keys.append(Connection_.dialect().readExpression(column(key)));
     const QString what =
         names.isEmpty()
             ? QStringLiteral("DEFAULT VALUES")
             : QStringLiteral("(%1) VALUES (%2)").arg(names.join(QLatin1String(", ")), marks.join(QLatin1String(", ")));
+    return QStringLiteral("INSERT INTO %1 %2").arg(Dialect::quoted(Table_.name), what);
+}
+
+QVariantList SqlRecords::bound(const std::vector<Change>& values) const {
+    QVariantList bound;
+    bound.reserve(static_cast<qsizetype>(values.size()));
+    for (const Change& change : values) bound.append(Connection_.dialect().toSql(change.value, column(change.column)));
+    return bound;
+}
+
+void SqlRecords::add(const std::vector<Change>& values) {
+    const auto isSame = [](const Change& change, std::size_t column) { return change.column == column; };
+    if (Added_.isEmpty() ||
+        !std::equal(values.begin(), values.end(), AddedColumns_.begin(), AddedColumns_.end(), isSame)) {
+        Added_ = insertion(values);
+        AddedColumns_.clear();
+        for (const Change& change : values) AddedColumns_.push_back(change.column);
+    }
+    Connection_.runAlone(Added_, bound(values));
+}
+
+Record SqlRecords::insert(const std::vector<Change>& values) {
+    QStringList keys;
+    for (const std::size_t key : Table_.key) keys.append(Connection_.dialect().readExpression(column(key)));
     SqlTransaction transaction(Connection_);
-    QSqlQuery& query = Connection_.run(QStringLiteral("INSERT INTO %1 %2 RETURNING %3")
-                                           .arg(Dialect::quoted(Table_.name), what, keys.join(QLatin1Char(','))),
-                                       bound);
+    QSqlQuery& query =
+        Connection_.run(insertion(values) + QLatin1String(" RETURNING ") + keys.join(QLatin1Char(',')), bound(values));
     Cells key;
     if (query.next())
         for (std::size_t i = 0; i < Table_.key.size(); ++i)

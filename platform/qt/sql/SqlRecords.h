@@ -18,6 +18,7 @@ public:
     std::vector<records::Record> rows(std::int64_t place, std::int32_t count, const records::Order& order) override;
     std::int64_t placeOf(const records::Record& record, const records::Order& order) override;
     records::Record insert(const std::vector<records::Change>& values) override;
+    void add(const std::vector<records::Change>& values) override;
     records::Outcome update(records::Record& read, const std::vector<records::Change>& values) override;
     records::Outcome remove(const records::Record& read) override;
     void begin() override { Connection_.begin(); }
@@ -40,6 +41,8 @@ private:
     Condition beyond(const records::Record& from, bool isBehind, const records::Order& order) const;
     QString orderBy(const records::Order& order, bool isReversed) const;
     Condition isKey(const records::Cells& key) const;
+    QString insertion(const std::vector<records::Change>& values) const;
+    QVariantList bound(const std::vector<records::Change>& values) const;
     /// Reads the record, so that nobody changes it before the transaction is over; then whether it is as it was `read`.
     records::Outcome hold(const records::Record& read);
     records::Record recordIn(const QSqlQuery& query) const;
@@ -48,6 +51,8 @@ private:
     SqlConnection& Connection_;
     records::Table Table_;
     QString Select_;  ///< all columns of it
+    QString Added_;   ///< what `add` ran last, and for which columns
+    std::vector<std::size_t> AddedColumns_;
 };
 
 }  // namespace kel::qt

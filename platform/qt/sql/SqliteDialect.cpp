@@ -35,6 +35,7 @@ public:
     }
     QString forUpdate() const override { return {}; }
     QString beginToChange() const override { return QStringLiteral("BEGIN IMMEDIATE"); }
+    bool failureEndsTransaction() const override { return false; }
 
     QVariant toSql(const Cell& cell, const Column& /*column*/) const override {
         if (const auto* const text = std::get_if<std::u16string>(&cell)) return toQString(*text);

@@ -1,0 +1,140 @@
+#include "apps/kelforms/Lists.h"
+
+#include <csignal>
+#include <cstdio>
+#include <iostream>
+
+#ifdef _WIN32
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+#include "apps/kelforms/Databases.h"
+#include "controls/progress/KelProgressBar.h"
+#include "forms/file/FormStore.h"
+#include "platform/headless/HeadlessHome.h"
+#include "records/exchange/ListFiles.h"
+#include "records/OpenTable.h"
+#include "values/Text.h"
+
+namespace kel::app {
+
+namespace {
+
+bool isTerminal() {
+#ifdef _WIN32
+    return _isatty(_fileno(stderr)) != 0;
+#else
+    return isatty(STDERR_FILENO) != 0;
+#endif
+}
+
+/// A progress bar on a terminal: its text, which says how long it will take. Ctrl+C stops it.
+class TerminalProgress {
+public:
+    explicit TerminalProgress(Home& home)
+        : Window_(home.makeWindow({}, home.system())),
+          Bar_(dynamic_cast<KelProgressBar&>(
+              Window_->place(KelProgressBarModel, {.name = u"bar", .bounds = {0, 0, WidthInTwips, 300}}, Observer_)
+                  .control())),
+          Before_(std::signal(SIGINT, stop)) {
+        Stopped_ = 0;
+        Window_->show();
+        Bar_.put_Min(0);
+        Bar_.put_Max(Whole);
+        Bar_.Start();
+    }
+    ~TerminalProgress() {
+        std::signal(SIGINT, Before_);
+        if (!Shown_.empty()) std::cerr << "\r" << std::string(Shown_.size(), ' ') << "\r" << std::flush;
+    }
+    TerminalProgress(const TerminalProgress&) = delete;
+    TerminalProgress& operator=(const TerminalProgress&) = delete;
+
+    bool operator()(double share) {
+        Bar_.put_Value(static_cast<std::int32_t>(share * Whole));
+        if (IsTerminal_) show(toUtf8(Bar_.widgets().picture->picture().text));
+        return Stopped_ == 0;
+    }
+
+private:
+    static constexpr std::int32_t Whole = 10'000;
+    static constexpr std::int32_t WidthInTwips = 1500;  ///< a hundredth of it is seen to grow
+
+    static void stop(int) { Stopped_ = 1; }
+
+    void show(std::string text) {
+        if (text == Shown_) return;
+        // What was longer before is wiped.
+        std::cerr << "\r" << text << std::string(Shown_.size() > text.size() ? Shown_.size() - text.size() : 0, ' ')
+                  << std::flush;
+        Shown_ = std::move(text);
+    }
+
+    static inline volatile std::sig_atomic_t Stopped_ = 0;
+    const bool IsTerminal_ = isTerminal();
+    SilentObserver Observer_;
+    std::unique_ptr<FormWindow> Window_;
+    KelProgressBar& Bar_;
+    void (*Before_)(int);
+    std::string Shown_;
+};
+
+/// A form on a home that shows nothing, with the records of its table.
+struct ListSession {
+    explicit ListSession(const Options& options)
+        : region(options.home.region != nullptr ? *options.home.region : systemRegion()),
+          home(headless::makeHome({.region = &region})),
+          file(readFormFile(options.files[0])),
+          form(*home, home->system(), observer, file),
+          database(options.data) {
+        const auto table = fromUtf8(options.table);
+        if (!table) throw UsageError("--table: the name is not valid UTF-8");
+        const auto mayAdd = [](const std::vector<records::Column>&) { return true; };
+        records = database.store().open(records::openTable(database.store(), form, *table, home->region(), mayAdd));
+    }
+
+    RegionalSettings region;
+    std::unique_ptr<Home> home;
+    SilentObserver observer;
+    FormFile file;
+    Form form;
+    Database database;
+    std::unique_ptr<records::RecordStore> records;
+};
+
+void wantDatabase(const Options& options) {
+    if (options.data.empty()) throw UsageError(options.command + ": --data DATABASE is missing");
+}
+
+}  // namespace
+
+ExitStatus importList(const Options& options) {
+    wantDatabase(options);
+    ListSession session(options);
+    records::Importer importer(*session.home, session.file, *session.records);
+    records::ImportReport report;
+    {
+        TerminalProgress progress(*session.home);
+        report = records::importFile(importer, pathOf(options.files[1]), options.list, options.allOrNothing,
+                                     std::ref(progress));
+    }
+    std::cout << toUtf8(report.inWords()) << "\n";
+    if (!report.result.failure.empty()) return Wrong;
+    return report.result.rejected > 0 || report.result.isStopped ? Differed : Done;
+}
+
+ExitStatus exportList(const Options& options) {
+    wantDatabase(options);
+    ListSession session(options);
+    const std::vector<records::Binding> fields =
+        records::bind(session.form, session.records->table(), session.home->region());
+    records::Exporter exporter(fields, *session.records, {}, session.home->region());
+    TerminalProgress progress(*session.home);
+    const std::string& name = options.files[1] == "-" ? "/dev/stdout" : options.files[1];
+    records::exportFile(exporter, session.records->count(), pathOf(name), options.list, std::ref(progress));
+    return Done;
+}
+
+}  // namespace kel::app
