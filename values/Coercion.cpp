@@ -1,11 +1,12 @@
 #include "values/Coercion.h"
 
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <limits>
 #include <type_traits>
+#include <utility>
 
+#include "values/Decimal.h"
 #include "values/Text.h"
 
 namespace kel {
@@ -30,62 +31,37 @@ std::u16string_view withoutOuterBlanks(std::u16string_view text) {
     return text;
 }
 
-/// Collects decimal digits, however many, and gives the nearest double.
-class Decimal {
+/// The digits of a number, however many, as they come.
+class WrittenDigits {
 public:
-    void addDigit(int digit, bool isFraction) {
-        hasDigits_ = true;
-        if (count_ == 0 && digit == 0) {
-            exponent_ -= isFraction ? 1 : 0;
+    void add(int digit, bool isFraction) {
+        HasDigits_ = true;
+        if (Count_ == 0 && digit == 0) {
+            Exponent_ -= isFraction ? 1 : 0;
             return;
         }
-        if (count_ < KeptDigits) {
-            text_[Lead + count_++] = static_cast<char>('0' + digit);
-        } else {
-            isCut_ |= digit != 0;
-        }
-        exponent_ += isFraction ? 0 : 1;
+        if (Count_ < Kept)
+            Digits_[Count_++] = static_cast<char>('0' + digit);
+        else if (digit != 0)
+            Digits_[Kept - 1] = '1';
+        Exponent_ += isFraction ? 0 : 1;
     }
 
-    void scale(std::int64_t powerOfTen) { exponent_ += powerOfTen; }
+    void scale(std::int64_t powerOfTen) { Exponent_ += powerOfTen; }
 
-    bool hasDigits() const { return hasDigits_; }
+    bool hasDigits() const { return HasDigits_; }
 
-    /// False when the number is beyond the largest double. One too small for a double is zero.
-    bool toDouble(double& out) {
-        if (count_ == 0 || exponent_ < -FarExponent) {
-            out = 0;
-            return true;
-        }
-        if (exponent_ > FarExponent) return false;
-        const auto [end, error] = std::from_chars(text_.data(), writeTail(), out);
-        if (error == std::errc()) return true;
-        if (exponent_ > 0) return false;
-        out = 0;
-        return true;
-    }
+    /// Infinity beyond the largest double.
+    double value() const { return toDouble({Digits_.data(), Count_}, Exponent_); }
 
 private:
-    /// Rounding to a double looks at no more than 767 digits and at whether something follows them.
-    static constexpr std::size_t KeptDigits = 770;
-    static constexpr std::size_t Lead = 2;  ///< "0."
-    static constexpr std::size_t Tail = 8;  ///< the digit that stands for all that was cut, and "e-1000"
-    static constexpr std::int64_t FarExponent = 1000;
+    /// More than are looked at; of the last one, and all after it, counts whether there is one above 0.
+    static constexpr std::size_t Kept = 800;
 
-    char* writeTail() {
-        text_[0] = '0';
-        text_[1] = '.';
-        char* tail = text_.data() + Lead + count_;
-        if (isCut_) *tail++ = '1';
-        *tail++ = 'e';
-        return std::to_chars(tail, text_.data() + text_.size(), exponent_).ptr;
-    }
-
-    std::array<char, Lead + KeptDigits + Tail> text_;  ///< 0.digits
-    std::size_t count_ = 0;
-    std::int64_t exponent_ = 0;
-    bool hasDigits_ = false;
-    bool isCut_ = false;
+    std::array<char, Kept> Digits_;
+    std::size_t Count_ = 0;
+    std::int64_t Exponent_ = 0;
+    bool HasDigits_ = false;
 };
 
 class NumberReader {
@@ -94,14 +70,12 @@ public:
 
     bool read(double& out) {
         const bool isNegative = takeSign();
-        Decimal decimal;
-        takeDigits([&decimal](int digit) { decimal.addDigit(digit, false); });
-        if (take(region_.DecimalSeparator)) {
-            takeDigits([&decimal](int digit) { decimal.addDigit(digit, true); });
-        }
-        if (!decimal.hasDigits() || !takeExponent(decimal) || !rest_.empty()) return false;
-        double number = 0;
-        if (!decimal.toDouble(number)) return false;
+        WrittenDigits digits;
+        takeDigits([&digits](int digit) { digits.add(digit, false); });
+        if (take(region_.DecimalSeparator)) takeDigits([&digits](int digit) { digits.add(digit, true); });
+        if (!digits.hasDigits() || !takeExponent(digits) || !rest_.empty()) return false;
+        const double number = digits.value();
+        if (std::isinf(number)) return false;
         out = isNegative && number != 0 ? -number : number;
         return true;
     }
@@ -147,7 +121,7 @@ private:
     }
 
     /// False when an exponent begins and no digits follow.
-    bool takeExponent(Decimal& decimal) {
+    bool takeExponent(WrittenDigits& digits) {
         constexpr std::int64_t Enough = std::int64_t{1} << 40;
         if (!take(u"E") && !take(u"e")) return true;
         const bool isNegative = takeSign();
@@ -155,7 +129,7 @@ private:
         const bool hasDigits = takeDigits([&exponent](int digit) {
             if (exponent < Enough) exponent = exponent * 10 + digit;
         });
-        decimal.scale(isNegative ? -exponent : exponent);
+        digits.scale(isNegative ? -exponent : exponent);
         return hasDigits;
     }
 
@@ -305,15 +279,21 @@ std::u16string shortestNumber(double number) {
     constexpr double FirstLong = 1E15;
     constexpr double LastPlain = 1E-5;
     if (number == 0) return u"0";
-    const double size = std::fabs(number);
-    const bool isPlain = size >= LastPlain && size < FirstLong;
-    std::array<char, 40> buffer;
-    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), number,
-                                            isPlain ? std::chars_format::fixed : std::chars_format::scientific);
-    std::u16string text = widen({buffer.data(), static_cast<std::size_t>(end - buffer.data())});
-    const std::size_t exponent = text.find(u'e');
-    if (exponent != std::u16string::npos) text[exponent] = u'E';
-    return text;
+    if (!std::isfinite(number)) return std::isnan(number) ? u"nan" : number < 0 ? u"-inf" : u"inf";
+    const Decimal decimal = shortestDecimal(number);
+    std::u16string text = widen(std::to_string(decimal.Digits));
+    // Of the first digit, when one stands before the point.
+    auto exponent = static_cast<std::int32_t>(text.size()) - 1 + decimal.Exponent;
+    text.erase(text.find_last_not_of(u'0') + 1);
+    const bool isPlain = std::fabs(number) >= LastPlain && std::fabs(number) < FirstLong;
+    if (isPlain && exponent < 0) text.insert(0, static_cast<std::size_t>(-std::exchange(exponent, 0)), u'0');
+    const std::size_t whole = isPlain ? static_cast<std::size_t>(exponent) + 1 : 1;
+    if (text.size() < whole) text.append(whole - text.size(), u'0');
+    if (text.size() > whole) text.insert(whole, 1, u'.');
+    if (decimal.Negative) text.insert(0, 1, u'-');
+    if (isPlain) return text;
+    const std::u16string power = widen(std::to_string(std::abs(exponent)));
+    return text + (exponent < 0 ? u"E-" : u"E+") + (power.size() < 2 ? u"0" : u"") + power;
 }
 
 bool readPlainNumber(std::u16string_view text, const RegionalSettings& region, double& out) {

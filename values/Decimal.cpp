@@ -8,6 +8,8 @@
 #include <limits>
 #include <utility>
 
+#include "values/PrintedDigits.h"
+
 namespace kel {
 
 static_assert(FLT_EVAL_METHOD == 0, "all machines must round alike: no more digits than a double has");
@@ -54,6 +56,7 @@ bool shortDecimal(double size, Decimal& out) {
     return static_cast<double>(digits) / Scale == size;
 }
 
+#ifndef KEL_PRINTED_DIGITS
 /// Reads "d.ddde-xx".
 Decimal fromScientific(std::string_view text) {
     Decimal decimal;
@@ -68,6 +71,7 @@ Decimal fromScientific(std::string_view text) {
     decimal.Exponent -= fraction;
     return decimal;
 }
+#endif
 
 double readScientific(const char* first, const char* last, bool isLarge) {
     double number = 0;
@@ -142,9 +146,13 @@ Decimal shortestDecimal(double number) {
     if (size == 0) return {};
     Decimal decimal;
     if (!shortDecimal(size, decimal)) {
+#ifdef KEL_PRINTED_DIGITS
+        decimal = printedDecimal(size);
+#else
         std::array<char, 40> text;
         const auto end = std::to_chars(text.data(), text.data() + text.size(), size, std::chars_format::scientific).ptr;
         decimal = fromScientific({text.data(), static_cast<std::size_t>(end - text.data())});
+#endif
     }
     decimal.Negative = number < 0;
     return decimal;

@@ -2,8 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <cmath>
 #include <limits>
+#include <random>
+
+#include "values/PrintedDigits.h"
 
 namespace kel {
 namespace {
@@ -46,6 +50,25 @@ TEST(Decimal, RoundsHalfAwayFromZeroOnTheShortestText) {
     }
     EXPECT_FALSE(std::signbit(roundDecimally(-0.001, 2))) << "a field would show a sign before a zero";
     EXPECT_FALSE(std::signbit(roundDecimally(-0.0, 2)));
+}
+
+/// The two ways to the shortest text of a double agree.
+TEST(Decimal, IsTheSamePrintedAsByTables) {
+    const auto check = [](double size) {
+        Decimal printed = printedDecimal(size);
+        Decimal wanted = shortestDecimal(size);
+        for (Decimal* const each : {&printed, &wanted})
+            for (; each->Digits % 10 == 0; ++each->Exponent) each->Digits /= 10;
+        EXPECT_EQ(printed.Digits, wanted.Digits) << size;
+        EXPECT_EQ(printed.Exponent, wanted.Exponent) << size;
+    };
+    for (int power = -1074; power < 1024; ++power)
+        for (const double toward : {0.0, Infinity, std::ldexp(1.0, power)})
+            if (const double size = std::nextafter(std::ldexp(1.0, power), toward); size > 0 && size < Infinity)
+                check(size);
+    std::mt19937_64 random(5);
+    for (int i = 0; i < 20'000; ++i)
+        if (const double size = std::fabs(std::bit_cast<double>(random())); size > 0 && size < Infinity) check(size);
 }
 
 TEST(Decimal, AddsWhatPeopleSee) {
