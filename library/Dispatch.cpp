@@ -47,11 +47,7 @@ const MemberRow* findMember(const ClassModel& model, std::u16string_view name) {
     return model.index.find(model.members, name);
 }
 
-const MemberRow* findMember(const ClassModel& model, std::int32_t id) {
-    const auto found =
-        std::find_if(model.members.begin(), model.members.end(), [id](const MemberRow& row) { return row.id == id; });
-    return found == model.members.end() ? nullptr : &*found;
-}
+const MemberRow* findMember(const ClassModel& model, std::int32_t id) { return model.index.find(model.members, id); }
 
 const EventRow* findEvent(const ClassModel& model, std::u16string_view name) {
     const auto found = std::find_if(model.events.begin(), model.events.end(),
@@ -65,10 +61,14 @@ DispatchFault getMember(Object& object, const MemberRow& member, std::span<Varia
 }
 
 DispatchFault putMember(Object& object, const MemberRow& member, const Variant& value, const RegionalSettings& region) {
+    Variant copy = value;
+    return putOwnValue(object, member, copy, region);
+}
+
+DispatchFault putOwnValue(Object& object, const MemberRow& member, Variant& value, const RegionalSettings& region) {
     if (member.put == nullptr) return {DispatchFault::Kind::NotWritable};
     if (isOmitted(value)) return {DispatchFault::Kind::ArgumentCount};
-    Variant copy = value;
-    return member.put(object, {&copy, 1}, nullptr, region);
+    return member.put(object, {&value, 1}, nullptr, region);
 }
 
 DispatchFault callMember(Object& object, const MemberRow& member, std::span<Variant> arguments, Variant& result,

@@ -26,6 +26,8 @@ DispatchFault getMember(Object& object, const MemberRow& member, std::span<Varia
 
 /// Puts a property. `value` is never changed, also when the put takes its argument by reference.
 DispatchFault putMember(Object& object, const MemberRow& member, const Variant& value, const RegionalSettings& region);
+/// The same with a value that is the member's: it may be another one afterwards, unless there is a fault.
+DispatchFault putOwnValue(Object& object, const MemberRow& member, Variant& value, const RegionalSettings& region);
 
 /// Calls a method; `result` is left alone by methods without one.
 DispatchFault callMember(Object& object, const MemberRow& member, std::span<Variant> arguments, Variant& result,

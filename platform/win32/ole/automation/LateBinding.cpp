@@ -99,7 +99,15 @@ HRESULT invokePut(const MemberAccess& access, const MemberRow& row, LCID locale,
         if (argumentError != nullptr) *argumentError = 0;
         return error.code();
     }
-    return finish(access.put(row, value, locale), 0, argumentError);
+    return finish(access.put(row, std::move(value), locale), 0, argumentError);
+}
+
+/// Most properties, which take no arguments.
+HRESULT invokePlainGet(const MemberAccess& access, const MemberRow& row, LCID locale, VARIANT* result) {
+    Variant value;
+    const Outcome outcome = access.get(row, {}, value, locale);
+    if (SUCCEEDED(outcome.code) && result != nullptr) toAutomation(value, *result);
+    return outcome.code;
 }
 
 HRESULT invokeGetOrCall(const MemberAccess& access, const MemberRow& row, LCID locale, const DISPPARAMS& passed,
@@ -126,6 +134,8 @@ HRESULT dispatch(const MemberAccess& access, DISPID id, LCID locale, WORD flags,
     if ((flags & DISPATCH_PROPERTYPUT) != 0) return invokePut(access, *row, locale, passed, argumentError);
     const WORD wanted = row->isMethod ? DISPATCH_METHOD : DISPATCH_PROPERTYGET;
     if ((flags & wanted) == 0) return DISP_E_MEMBERNOTFOUND;
+    if (!row->isMethod && row->parameterCount == 0 && passed.cArgs == 0 && passed.cNamedArgs == 0)
+        return invokePlainGet(access, *row, locale, result);
     return invokeGetOrCall(access, *row, locale, passed, result, argumentError);
 }
 

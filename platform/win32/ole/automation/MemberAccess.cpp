@@ -43,10 +43,10 @@ Outcome MemberAccess::get(const MemberRow& member, std::span<Variant> arguments,
     return outcome(getMember(Object_, member, arguments, result, regionOf(locale)), member, arguments);
 }
 
-Outcome MemberAccess::put(const MemberRow& member, const Variant& value, LCID locale) const {
+Outcome MemberAccess::put(const MemberRow& member, Variant value, LCID locale) const {
     if (member.put != nullptr && Gate_ != nullptr && !Gate_->mayPut(member))
         return {.code = S_FALSE, .description = {}};
-    return outcome(putMember(Object_, member, value, regionOf(locale)), member, {&value, 1});
+    return outcome(putOwnValue(Object_, member, value, regionOf(locale)), member, {&value, 1});
 }
 
 Outcome MemberAccess::call(const MemberRow& member, std::span<Variant> arguments, Variant& result, LCID locale) const {

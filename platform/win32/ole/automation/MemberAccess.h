@@ -40,7 +40,7 @@ public:
     /// What the caller gives as a text is read by the rules of `locale`.
     Outcome get(const MemberRow& member, std::span<Variant> arguments, Variant& result, LCID locale) const;
     /// S_FALSE when the host did not let it happen.
-    Outcome put(const MemberRow& member, const Variant& value, LCID locale) const;
+    Outcome put(const MemberRow& member, Variant value, LCID locale) const;
     Outcome call(const MemberRow& member, std::span<Variant> arguments, Variant& result, LCID locale) const;
 
 private:

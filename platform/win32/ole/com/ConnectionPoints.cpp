@@ -80,8 +80,8 @@ ComPtr<IUnknown> EventPoint::accept(IUnknown& sink) const {
 }
 
 void EventPoint::raise(const EventRow& event, std::span<Variant> arguments) const {
+    if (nobodyListens()) return;
     const Sinks now = sinks();
-    if (now->empty()) return;
     constexpr std::size_t MostArguments = 4;
     std::array<OwnedVariant, MostArguments> values;
     std::array<VARIANT, MostArguments> passed{};
@@ -107,6 +107,7 @@ ComPtr<IUnknown> PropertyNotifyPoint::accept(IUnknown& sink) const {
 }
 
 bool PropertyNotifyPoint::mayChange(DISPID id) const {
+    if (nobodyListens()) return true;
     const Sinks now = sinks();
     for (const Sink& sink : *now)
         if (static_cast<IPropertyNotifySink*>(sink.object.get())->OnRequestEdit(id) == S_FALSE) return false;
@@ -114,6 +115,7 @@ bool PropertyNotifyPoint::mayChange(DISPID id) const {
 }
 
 void PropertyNotifyPoint::changed(DISPID id) const {
+    if (nobodyListens()) return;
     const Sinks now = sinks();
     for (const Sink& sink : *now) static_cast<IPropertyNotifySink*>(sink.object.get())->OnChanged(id);
 }

@@ -43,6 +43,7 @@ protected:
 
     /// Those who listen now; a sink that comes or goes meanwhile changes nothing for who walks over them.
     Sinks sinks() const { return Sinks_; }
+    bool nobodyListens() const { return Sinks_->empty(); }
 
 private:
     ComObject& Whole_;
