@@ -2,8 +2,6 @@
 
 #include <dispex.h>
 
-#include <vector>
-
 #include "library/AutomationError.h"
 #include "platform/win32/base/AtEnd.h"
 #include "platform/win32/ole/automation/VariantConversion.h"
@@ -59,6 +57,14 @@ private:
 bool DispatchCaller::isScript() const { return static_cast<bool>(ComPtr<IDispatchEx>::of(Object_.get())); }
 
 DISPID DispatchCaller::idOf(std::u16string_view name) const {
+    for (const auto& [known, id] : Ids_)
+        if (known == name) return id;
+    const DISPID id = lookUp(name);
+    Ids_.emplace_back(name, id);
+    return id;
+}
+
+DISPID DispatchCaller::lookUp(std::u16string_view name) const {
     std::wstring text = wide(name);
     wchar_t* names = text.data();
     DISPID id = DISPID_UNKNOWN;

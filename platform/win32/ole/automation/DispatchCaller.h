@@ -1,6 +1,9 @@
 #pragma once
 
 #include <span>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "platform/win32/ole/com/Com.h"
 #include "values/Variant.h"
@@ -34,10 +37,13 @@ public:
 
 private:
     DISPID idOf(std::u16string_view name) const;
+    DISPID lookUp(std::u16string_view name) const;
     HRESULT invoke(DISPID id, WORD flags, DISPPARAMS& arguments, VARIANT* result, std::u16string_view name) const;
     bool isScript() const;
 
     ComPtr<IDispatch> Object_;
+    /// An object keeps the identifiers that it has given, and to ask for one costs more than the call. There are few.
+    mutable std::vector<std::pair<std::u16string, DISPID>> Ids_;
 };
 
 }  // namespace kel::win32::ole

@@ -44,6 +44,8 @@ public:
     Date LastDayOfMonth(Date date) override { return call<Date>(Members_, u"LastDayOfMonth", date); }
     Variant ParseTime(const Variant& text) override { return call<Variant>(Members_, u"ParseTime", text); }
 
+    IDispatch* object() const { return Members_.object(); }
+
 private:
     DispatchCaller Members_;
 };
@@ -65,7 +67,9 @@ public:
     std::shared_ptr<kel::RuntimeDates> RuntimeDates() override {
         const auto object = std::dynamic_pointer_cast<AutomationObject>(call<ObjectPtr>(Members_, u"RuntimeDates"));
         if (!object) throw AutomationError(DISP_E_TYPEMISMATCH, "the run-time object's RuntimeDates is no object");
-        return std::make_shared<AutomationDates>(object->dispatch());
+        ComPtr<IDispatch> dates = object->dispatch();
+        if (!Dates_ || Dates_->object() != dates.get()) Dates_ = std::make_shared<AutomationDates>(std::move(dates));
+        return Dates_;
     }
     std::u16string ListAppend(std::u16string list, std::u16string_view item) override {
         return call<std::u16string>(Members_, u"ListAppend", std::move(list), std::u16string(item));
@@ -79,6 +83,7 @@ public:
 
 private:
     DispatchCaller Members_;
+    std::shared_ptr<AutomationDates> Dates_;  ///< those that were asked for last
 };
 
 }  // namespace
