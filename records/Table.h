@@ -24,21 +24,25 @@ enum class ColumnType : std::uint8_t {
 /// "text", "a date": for messages.
 std::u16string_view nameOf(ColumnType type);
 
-/// The column of another table that a column points to.
+/// The column of another table that a column alone points to.
 struct Reference {
     std::u16string table;
-    std::u16string column;
+    std::u16string column;  ///< empty: the table's key
 };
 
 struct Column {
     std::u16string name;
     ColumnType type = ColumnType::Text;
-    std::int32_t length = 0;    ///< most characters; 0: any number
+    std::int32_t length = 0;    ///< most characters of a text, digits of a Decimal; 0: any number
     std::int32_t decimals = 0;  ///< of a Decimal
+    std::int64_t most = 0;      ///< largest value of an Integer; 0: 64 bits
     bool notNull = false;       ///< a record without a value is refused
     bool generated = false;     ///< the database gives the value of a new record, or always
     bool hasDefault = false;    ///< a new record may leave it out
+    bool unique = false;        ///< no two records have the same value
     std::optional<Reference> reference{};
+    /// What a new record gets that leaves it out, where that is a plain value: "open", "1", "2013-03-15", or "Now".
+    std::u16string initial{};
 };
 
 /// A table of records as the database has it, or as it is to be made.

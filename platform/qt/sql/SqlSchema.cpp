@@ -23,6 +23,20 @@ Column* columnNamed(Table& table, const std::u16string& name) {
     return found == table.columns.end() ? nullptr : &*found;
 }
 
+/// "'open'::text" is open, "CURRENT_DATE" is Now; what takes more to work out is nothing.
+std::u16string initialOf(const QString& expression) {
+    static const QRegularExpression Quoted(QStringLiteral(R"(^'((?:[^']|'')*)'(::[\w\s\(\),"]+)?$)"));
+    static const QRegularExpression Plain(QStringLiteral(R"(^\(?(-?[\d.]+|true|false)\)?(::[\w\s\(\),]+)?$)"),
+                                          QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression Moment(QStringLiteral(R"(CURRENT_|LOCALTIME|^\(?now\(\)|'now')"),
+                                           QRegularExpression::CaseInsensitiveOption);
+    if (expression.contains(Moment)) return u"Now";
+    const QString text = expression.trimmed();
+    if (const auto quoted = Quoted.match(text); quoted.hasMatch())
+        return quoted.captured(1).replace(QLatin1String("''"), QLatin1String("'")).toStdU16String();
+    return Plain.match(text).captured(1).toStdU16String();
+}
+
 }  // namespace
 
 void setDeclaredType(Column& column, const QString& declared) {
@@ -41,12 +55,18 @@ void setDeclaredType(Column& column, const QString& declared) {
         {"MONEY", ColumnType::Decimal},
     };
     const QString upper = declared.toUpper();
+    if (upper.contains(QLatin1String("[]"))) {
+        column.type = ColumnType::Other;
+        return;
+    }
     const auto* const rule = std::find_if(std::begin(Rules), std::end(Rules),
                                           [&](const Rule& each) { return upper.contains(QLatin1String(each.word)); });
     column.type = rule == std::end(Rules) ? ColumnType::Other : rule->type;
     static const QRegularExpression Sizes(QStringLiteral(R"(\((\d+)(?:\s*,\s*(\d+))?\))"));
     const QRegularExpressionMatch sizes = Sizes.match(declared);
-    if (column.type == ColumnType::Text) column.length = sizes.captured(1).toInt();
+    if (column.type == ColumnType::Text || column.type == ColumnType::Decimal)
+        column.length = sizes.captured(1).toInt();
+    if (upper.contains(QLatin1String("SMALLINT"))) column.most = INT16_MAX;
     if (column.type != ColumnType::Decimal) return;
     column.decimals = sizes.captured(2).toInt();
     // Without a scale it keeps any number.
@@ -99,6 +119,7 @@ void SqlSchema::readSqlite(Table& table) {
         setDeclaredType(column, columns.value(1).toString());
         column.notNull = columns.value(2).toBool();
         column.hasDefault = !columns.value(3).isNull();
+        column.initial = initialOf(columns.value(3).toString());
         column.generated = columns.value(5).toInt() > 1;
         if (const int place = columns.value(4).toInt(); place > 0) key.emplace_back(place, table.columns.size());
         table.columns.push_back(std::move(column));
@@ -111,56 +132,67 @@ void SqlSchema::readSqlite(Table& table) {
         Column& column = table.columns[table.key.front()];
         column.hasDefault = column.hasDefault || column.type == ColumnType::Integer;
     }
-    QSqlQuery& references =
-        Connection_.run(QStringLiteral("SELECT \"from\", \"table\", \"to\" FROM pragma_foreign_key_list(?)"), name);
+    QSqlQuery& references = Connection_.run(
+        QStringLiteral("SELECT min(\"from\"), min(\"table\"), min(\"to\") FROM pragma_foreign_key_list(?) GROUP BY id "
+                       "HAVING count(*) = 1"),
+        name);
     while (references.next())
         if (Column* const column = columnNamed(table, textAt(references, 0)))
             column->reference = records::Reference{textAt(references, 1), textAt(references, 2)};
     references.finish();
+    QSqlQuery& unique = Connection_.run(
+        QStringLiteral("SELECT min(i.name) FROM pragma_index_list(?) l JOIN pragma_index_info(l.name) i WHERE "
+                       "l.\"unique\" AND NOT l.partial GROUP BY l.name HAVING count(*) = 1"),
+        name);
+    while (unique.next())
+        if (Column* const column = columnNamed(table, textAt(unique, 0))) column->unique = true;
+    unique.finish();
 }
 
 void SqlSchema::readPostgres(Table& table) {
     const QVariantList name{toQString(table.name)};
+    const QString ofTable = QStringLiteral(
+        " JOIN pg_namespace n ON n.oid = c.relnamespace WHERE c.relname = ? AND n.nspname = current_schema() AND ");
     QSqlQuery& columns = Connection_.run(
         QStringLiteral("SELECT a.attname, format_type(a.atttypid, a.atttypmod), a.attnotnull, a.atthasdef OR "
-                       "a.attidentity <> '', a.attgenerated <> '' OR a.attidentity = 'a' FROM pg_attribute a JOIN "
-                       "pg_class c ON c.oid = a.attrelid JOIN pg_namespace n ON n.oid = c.relnamespace WHERE "
-                       "c.relname = ? AND n.nspname = current_schema() AND a.attnum > 0 AND NOT a.attisdropped ORDER "
-                       "BY a.attnum"),
+                       "a.attidentity <> '', a.attgenerated <> '' OR a.attidentity = 'a', pg_get_expr(d.adbin, "
+                       "d.adrelid) FROM pg_attribute a LEFT JOIN pg_attrdef d ON d.adrelid = a.attrelid AND d.adnum = "
+                       "a.attnum JOIN pg_class c ON c.oid = a.attrelid") +
+            ofTable + QStringLiteral("a.attnum > 0 AND NOT a.attisdropped ORDER BY a.attnum"),
         name);
     while (columns.next()) {
         Column column;
         column.name = textAt(columns, 0);
         setDeclaredType(column, columns.value(1).toString());
+        if (columns.value(1).toString() == QLatin1String("integer")) column.most = INT32_MAX;
         column.notNull = columns.value(2).toBool();
         column.hasDefault = columns.value(3).toBool();
         column.generated = columns.value(4).toBool();
+        column.initial = initialOf(columns.value(5).toString());
         table.columns.push_back(std::move(column));
     }
     columns.finish();
-    const auto constraints = [&](const QString& kind, auto found) {
-        QSqlQuery& query = Connection_.run(
-            QStringLiteral("SELECT k.column_name, coalesce(r.table_name, ''), coalesce(r.column_name, '') FROM "
-                           "information_schema.table_constraints t JOIN information_schema.key_column_usage k USING "
-                           "(constraint_schema, constraint_name) LEFT JOIN "
-                           "information_schema.referential_constraints f USING (constraint_schema, constraint_name) "
-                           "LEFT JOIN information_schema.key_column_usage r ON r.constraint_schema = "
-                           "f.unique_constraint_schema AND r.constraint_name = f.unique_constraint_name AND "
-                           "r.ordinal_position = k.position_in_unique_constraint WHERE t.table_name = ? AND "
-                           "t.table_schema = current_schema() AND t.constraint_type = '%1' ORDER BY "
-                           "k.ordinal_position")
-                .arg(kind),
-            name);
-        while (query.next())
-            if (Column* const column = columnNamed(table, textAt(query, 0)))
-                found(static_cast<std::size_t>(column - table.columns.data()), query);
-        query.finish();
+    const auto each = [&](const QString& query, auto found) {
+        QSqlQuery& rows = Connection_.run(query, name);
+        while (rows.next())
+            if (Column* const column = columnNamed(table, textAt(rows, 0)))
+                found(static_cast<std::size_t>(column - table.columns.data()), rows);
+        rows.finish();
     };
-    constraints(QStringLiteral("PRIMARY KEY"),
-                [&](std::size_t column, const QSqlQuery&) { table.key.push_back(column); });
-    constraints(QStringLiteral("FOREIGN KEY"), [&](std::size_t column, const QSqlQuery& query) {
-        table.columns[column].reference = records::Reference{textAt(query, 1), textAt(query, 2)};
-    });
+    const QString ofConstraint = QStringLiteral(
+        "SELECT a.attname, r.relname, b.attname FROM pg_constraint k JOIN pg_class c ON c.oid = k.conrelid JOIN "
+        "pg_attribute a ON a.attrelid = k.conrelid AND a.attnum = ANY (k.conkey) LEFT JOIN pg_class r ON r.oid = "
+        "k.confrelid LEFT JOIN pg_attribute b ON b.attrelid = k.confrelid AND b.attnum = k.confkey[1]");
+    each(ofConstraint + ofTable + QStringLiteral("k.contype = 'p' ORDER BY array_position(k.conkey, a.attnum)"),
+         [&](std::size_t column, const QSqlQuery&) { table.key.push_back(column); });
+    each(ofConstraint + ofTable + QStringLiteral("k.contype = 'f' AND cardinality(k.conkey) = 1 ORDER BY k.oid"),
+         [&](std::size_t column, const QSqlQuery& row) {
+             table.columns[column].reference = records::Reference{textAt(row, 1), textAt(row, 2)};
+         });
+    each(QStringLiteral("SELECT a.attname FROM pg_index i JOIN pg_class c ON c.oid = i.indrelid JOIN pg_attribute a ON "
+                        "a.attrelid = c.oid AND a.attnum = i.indkey[0]") +
+             ofTable + QStringLiteral("i.indisunique AND i.indnkeyatts = 1 AND i.indpred IS NULL"),
+         [&](std::size_t column, const QSqlQuery&) { table.columns[column].unique = true; });
 }
 
 }  // namespace kel::qt
