@@ -111,7 +111,7 @@ bool isField(const Control& control) {
     return control.model().isControl() && findMember(control.model(), u"ChangedSaved") != nullptr;
 }
 
-std::vector<Binding> bind(const Form& form, const Table& table, const RegionalSettings& region) {
+std::vector<Binding> bind(const Form& form, const Table& table, const RegionalSettings& region, Store* others) {
     const auto refuse = [](const std::u16string& message) {
         throw StoreError(StoreError::Kind::Wrong, toUtf8(message));
     };
@@ -123,6 +123,7 @@ std::vector<Binding> bind(const Form& form, const Table& table, const RegionalSe
         if (!column) refuse(u"The table " + table.name + u" has no column " + source.column + u".");
         bindings.emplace_back(placed, *column, source.byTag, region);
         if (const auto misfit = bindings.back().misfit(table.columns[*column])) refuse(*misfit + u".");
+        if (others != nullptr) bindings.back().offer(*others, table.columns[*column]);
     }
     return bindings;
 }
@@ -173,7 +174,21 @@ Column Binding::ownColumn() const {
 
 // ---- There and back
 
+void Binding::offer(Store& store, const Column& column) {
+    const Variant list = get(u"List");
+    if (!ByTag_ || Kind_ != Kind::Combo || textIn(list) == nullptr || !textIn(list)->empty()) return;
+    if (const std::optional<Table> table = lookupTable(store, column))
+        Lookup_ = std::make_unique<LookupField>(*Control_, Lookup(store, *table), *Region_);
+}
+
+std::u16string Binding::tag() const {
+    if (Lookup_) return Lookup_->key();
+    const Variant tag = get(u"ListTagItem");
+    return textIn(tag) != nullptr ? *textIn(tag) : std::u16string();
+}
+
 std::u16string Binding::textWithTag(const std::u16string& tag) const {
+    if (Lookup_) return Lookup_->textOf(tag);
     const MemberRow& itemMember = *findMember(Control_->control().model(), u"ListItem");
     const MemberRow& tagMember = *findMember(Control_->control().model(), u"ListTagItem");
     const Variant items = get(u"ListCount");
@@ -189,12 +204,11 @@ std::u16string Binding::textWithTag(const std::u16string& tag) const {
     return {};
 }
 
-bool Binding::hasTag() const {
-    const Variant tag = get(u"ListTagItem");
-    return textIn(tag) != nullptr && !textIn(tag)->empty();
-}
-
 void Binding::show(const Cell& cell) {
+    if (Lookup_) {
+        Lookup_->show(records::textOf(cell));
+        return markStored();
+    }
     const MemberRow& member = valueMember();
     Variant value;
     switch (Kind_) {
@@ -220,26 +234,33 @@ void Binding::markStored() {
     const Variant now = get(name);
     put(name + u"Original", now);
     put(name + u"Saved", now);
+    if (Lookup_) Lookup_->markStored();
     StoredLook_ = look();
 }
 
 std::u16string Binding::look() const {
     const WidgetSet widgets = Control_->control().widgets();
     if (widgets.entry != nullptr) return widgets.entry->text();
-    return isTrue(get(valueMember().name)) ? u"yes" : u"no";
+    return isTrue(valueMember().name) ? u"yes" : u"no";
 }
 
 bool Binding::looksChanged() const { return look() != StoredLook_; }
 
-bool Binding::isChanged() const { return isTrue(get(u"ChangedSaved")); }
+bool Binding::isTrue(std::u16string_view member) const { return records::isTrue(get(member)); }
+
+bool Binding::isChanged() const { return isTrue(u"ChangedSaved"); }
 
 Cell Binding::cell(const Column& column, const Cell& before) const {
-    const Variant value = get(ByTag_ ? std::u16string_view(u"ListTagItem") : valueMember().name);
+    if (ByTag_) return textCell(column, tag());
+    const Variant value = get(valueMember().name);
     if (const std::u16string* const text = textIn(value)) return textCell(column, *text);
     if (const auto* const number = std::get_if<double>(&value)) return numberCell(column.type, *number);
     if (const bool* const truth = std::get_if<bool>(&value)) return static_cast<std::int64_t>(*truth ? 1 : 0);
     if (const auto* const date = std::get_if<Date>(&value))
         return dateCell(column.type, Kind_ == Kind::Time, *date, before);
+    // Without a time of day a moment is the beginning of its day.
+    if (Kind_ == Kind::Time && column.type == ColumnType::Moment && !isNull(before))
+        return dateCell(column.type, true, Date{0}, before);
     return Null{};
 }
 
@@ -263,7 +284,7 @@ bool Binding::isValid(bool sayWhy) const {
     std::array<Variant, 1> say{sayWhy};
     Variant valid = true;
     getMember(Control_->control(), row, std::span(say).first(row.parameters().size()), valid, *Region_);
-    return isTrue(valid);
+    return records::isTrue(valid);
 }
 
 std::u16string Binding::caption() const {

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "forms/Form.h"
+#include "records/LookupField.h"
 #include "records/Store.h"
 
 /// Which column a field of a form shows, and how a value goes from one to the other.
@@ -46,6 +48,10 @@ public:
     /// The column, still without a name, that would be made for the field.
     Column ownColumn() const;
 
+    /// From now on the list of the field, which keeps tags, is the records that the column points to. Leaves a list
+    /// alone that the form has given it.
+    void offer(Store& store, const Column& column);
+
     /// Shows what stands in the column; that is what the field's own change tracking compares with from now on.
     void show(const Cell& cell);
     /// Shows what the form gives to a new record.
@@ -69,6 +75,8 @@ public:
 
     /// Asked with a message for the person when it is not.
     bool isValid(bool sayWhy) const;
+    /// The person cannot change it.
+    bool isLocked() const { return isTrue(u"Locked"); }
     /// Whether the control itself tells the person what is wrong.
     bool saysWhy() const;
     /// The caption as it is read: without the mark of its mnemonic. The name where there is none.
@@ -80,11 +88,13 @@ private:
     static Kind kindOf(PlacedControl& control);
     const MemberRow& valueMember() const;
     Variant get(std::u16string_view member) const;
+    bool isTrue(std::u16string_view member) const;
     void put(std::u16string_view member, const Variant& value) const;
     /// What stands in the field, as a person sees it.
     std::u16string look() const;
     std::u16string textWithTag(const std::u16string& tag) const;
-    bool hasTag() const;
+    /// Of the item that stands in the field.
+    std::u16string tag() const;
     std::optional<std::u16string> takeText(std::u16string_view text);
     std::optional<std::u16string> takeNumber(std::u16string_view text, const RegionalSettings& numbers);
     std::optional<std::u16string> takeMoment(std::u16string_view text);
@@ -97,6 +107,7 @@ private:
     Kind Kind_;
     bool ByTag_;
     std::u16string StoredLook_;
+    std::unique_ptr<LookupField> Lookup_;  ///< where another table gives the list
 };
 
 /// Whether the control has a value that a column could keep.
@@ -104,6 +115,7 @@ bool isField(const Control& control);
 
 /// The fields of a form with their columns, in the order of the Tab key. Throws StoreError when a column is not there
 /// or cannot keep what its field holds.
-std::vector<Binding> bind(const Form& form, const Table& table, const RegionalSettings& region);
+/// Fields that keep tags are offered the records of `others`, where there are some.
+std::vector<Binding> bind(const Form& form, const Table& table, const RegionalSettings& region, Store* others);
 
 }  // namespace kel::records

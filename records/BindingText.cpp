@@ -64,10 +64,11 @@ std::optional<std::u16string> Binding::takeText(std::u16string_view text) {
     if (most > 0 && wanted.size() > most)
         return u"has " + count(wanted.size(), u"characters") + u", and the field takes " + widen(std::to_string(most));
     // A tag as a list that this program has written has it, or the text that people see.
-    if (ByTag_)
+    if (Lookup_ && Lookup_->has(wanted)) return Lookup_->show(wanted), std::nullopt;
+    if (ByTag_ && !Lookup_)
         if (std::u16string item = textWithTag(wanted); !item.empty()) wanted = std::move(item);
     put(valueMember().name, wanted);
-    const bool isTaken = compareFolded(entry.text(), wanted) == 0 && (!ByTag_ || wanted.empty() || hasTag());
+    const bool isTaken = compareFolded(entry.text(), wanted) == 0 && (!ByTag_ || wanted.empty() || !tag().empty());
     if (isTaken) return std::nullopt;
     return u"is " + quoted(text) +
            (Kind_ == Kind::Combo ? u", which is not in the list" : u", which the field does not take");
@@ -97,10 +98,10 @@ std::optional<std::u16string> Binding::takeMoment(std::u16string_view text) {
 }
 
 std::optional<std::u16string> Binding::takeTruth(std::u16string_view text) {
-    const bool isTrue = isOneOf(text, {u"1", u"yes", u"true", u"x"});
-    if (!isTrue && !isOneOf(text, {u"", u"0", u"no", u"false"}))
+    const bool yes = isOneOf(text, {u"1", u"yes", u"true", u"x"});
+    if (!yes && !isOneOf(text, {u"", u"0", u"no", u"false"}))
         return u"is " + quoted(text) + u", which is neither yes nor no";
-    put(valueMember().name, isTrue);
+    put(valueMember().name, yes);
     return std::nullopt;
 }
 

@@ -6,8 +6,9 @@
 
 namespace kel::records {
 
-RecordForm::RecordForm(Form& form, RecordStore& store, Questions& questions, const RegionalSettings& region)
-    : Form_(&form), Store_(&store), Questions_(&questions), Bindings_(bind(form, store.table(), region)) {
+RecordForm::RecordForm(Form& form, RecordStore& store, Questions& questions, const RegionalSettings& region,
+                       Store* others)
+    : Form_(&form), Store_(&store), Questions_(&questions), Bindings_(bind(form, store.table(), region, others)) {
     if (!toEnd(Way::Forward)) showNew();
 }
 
@@ -108,6 +109,7 @@ void RecordForm::undo() {
 
 void RecordForm::focusFirst() {
     for (const Binding& binding : Bindings_) {
+        if (binding.isLocked()) continue;
         Form_->window().focus(binding.control());
         if (Form_->window().focused() == &binding.control()) return;
     }
@@ -189,24 +191,36 @@ bool RecordForm::saveAndStartNew() {
     return true;
 }
 
+/// A day and a time may be two fields of one column.
+void RecordForm::addValue(std::vector<Change>& values, const Binding& binding, const Cell& before) const {
+    const auto other = std::find_if(values.begin(), values.end(),
+                                    [&](const Change& change) { return change.column == binding.column(); });
+    if (other != values.end())
+        other->value = binding.cell(columnOf(binding), other->value);
+    else
+        values.push_back({binding.column(), binding.cell(columnOf(binding), before)});
+}
+
 std::vector<Change> RecordForm::allValues() const {
     std::vector<Change> values;
     for (const Binding& binding : Bindings_) {
         const Column& column = columnOf(binding);
-        Cell value = binding.cell(column, Null{});
-        if (!isLeftToDatabase(column, value)) values.push_back({binding.column(), std::move(value)});
+        // What the person cannot give, such as a number that counts the records, the database gives.
+        if (column.hasDefault && binding.isLocked()) continue;
+        addValue(values, binding, Null{});
     }
+    std::erase_if(values,
+                  [&](const Change& change) { return isLeftToDatabase(table().columns[change.column], change.value); });
     return values;
 }
 
 /// Only what the person has changed: what a field shows shorter than it is stays as it is.
 std::vector<Change> RecordForm::changes() const {
     std::vector<Change> values;
-    for (const Binding& binding : Bindings_) {
-        if (!binding.isChanged() && !Kept_.contains(binding.column())) continue;
-        Cell value = binding.cell(columnOf(binding), Shown_->cells[binding.column()]);
-        if (value != Shown_->cells[binding.column()]) values.push_back({binding.column(), std::move(value)});
-    }
+    for (const Binding& binding : Bindings_)
+        if (binding.isChanged() || Kept_.contains(binding.column()))
+            addValue(values, binding, Shown_->cells[binding.column()]);
+    std::erase_if(values, [&](const Change& change) { return change.value == Shown_->cells[change.column]; });
     return values;
 }
 

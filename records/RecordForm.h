@@ -21,8 +21,10 @@ namespace kel::records {
 class RecordForm {
 public:
     /// All of it outlives the records. Throws StoreError when a field's column is not there or cannot keep its value,
-    /// and when the database cannot be read. Shows the first record, or a new one where there is none.
-    RecordForm(Form& form, RecordStore& store, Questions& questions, const RegionalSettings& region);
+    /// and when the database cannot be read. Shows the first record, or a new one where there is none. `others` has the
+    /// tables that give lists to fields; without it these stay empty.
+    RecordForm(Form& form, RecordStore& store, Questions& questions, const RegionalSettings& region,
+               Store* others = nullptr);
     RecordForm(const RecordForm&) = delete;
     RecordForm& operator=(const RecordForm&) = delete;
 
@@ -50,7 +52,7 @@ public:
     /// Back to what was stored last.
     void undo();
 
-    /// Into the first field that takes the focus, as a person begins.
+    /// Into the first field that takes the focus and can be changed, as a person begins.
     void focusFirst();
 
     bool isNew() const { return !Shown_; }
@@ -98,6 +100,8 @@ private:
     bool settle();
     std::vector<Change> changes() const;
     std::vector<Change> allValues() const;
+    /// Adds what the field holds to `values`, on top of what another field says of the same column.
+    void addValue(std::vector<Change>& values, const Binding& binding, const Cell& before) const;
     void stored(Record record);
     const Column& columnOf(const Binding& binding) const { return table().columns[binding.column()]; }
 

@@ -31,7 +31,7 @@ void RecordScript::formOpened(Form& form) {
     const Table table = openTable(*Store_, form, TableName_, *Region_, [](const std::vector<Column>&) { return true; });
     Records_ = Store_->open(table);
     Questions& questions = *this;
-    Form_ = std::make_unique<RecordForm>(form, *Records_, questions, *Region_);
+    Form_ = std::make_unique<RecordForm>(form, *Records_, questions, *Region_, Store_);
 }
 
 void RecordScript::formCloses() {

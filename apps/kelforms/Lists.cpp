@@ -113,7 +113,7 @@ void wantDatabase(const Options& options) {
 ExitStatus importList(const Options& options) {
     wantDatabase(options);
     ListSession session(options);
-    records::Importer importer(*session.home, session.file, *session.records);
+    records::Importer importer(*session.home, session.file, *session.records, &session.database.store());
     records::ImportReport report;
     {
         TerminalProgress progress(*session.home);
@@ -129,7 +129,7 @@ ExitStatus exportList(const Options& options) {
     wantDatabase(options);
     ListSession session(options);
     const std::vector<records::Binding> fields =
-        records::bind(session.form, session.records->table(), session.home->region());
+        records::bind(session.form, session.records->table(), session.home->region(), nullptr);
     records::Exporter exporter(fields, *session.records, {}, session.home->region());
     TerminalProgress progress(*session.home);
     const std::string& name = options.files[1] == "-" ? "/dev/stdout" : options.files[1];

@@ -44,6 +44,7 @@ void ComboBox::setListIndex(std::int32_t index) {
 
 void ComboBox::showDropDown(bool dropped) {
     if (dropped == Dropped_ || (dropped && !takesInput())) return;
+    if (dropped && BeforeDrop_) BeforeDrop_();
     Dropped_ = dropped;
     if (dropped) {
         Highlighted_ = currentItem();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "host/ListItems.h"
 #include "host/widgets/TextEntry.h"
 
@@ -64,6 +66,8 @@ public:
     bool isDropped() const { return Dropped_; }
     /// Closing picks nothing. A box that takes no input does not open.
     void showDropDown(bool dropped);
+    /// Called each time before the list opens, by whomever: its owner may put other items then. Empty for nobody.
+    void beforeDrop(std::function<void()> handler) { BeforeDrop_ = std::move(handler); }
 
     /// Width of the dropped list in screen pixels; 0, as in a new box, is the box's own width.
     std::int32_t droppedWidth() const { return DroppedWidth_; }
@@ -119,6 +123,7 @@ private:
 
     ComboBoxListener& Listener_;
     ListItems Items_;
+    std::function<void()> BeforeDrop_;
     const std::int16_t* FrameButtonWidth_ = nullptr;
     std::int32_t ListIndex_ = ListItems::NotFound;
     std::int32_t Highlighted_ = ListItems::NotFound;

@@ -67,14 +67,14 @@ struct Importer::Field {
     std::string caption() const { return toUtf8(binding.caption()); }
 };
 
-Importer::Importer(Home& unseen, const FormFile& form, RecordStore& records)
+Importer::Importer(Home& unseen, const FormFile& form, RecordStore& records, Store* others)
     : System_(std::make_unique<Listening>(unseen.system())),
       Region_(unseen.region()),
       Numbers_(&Region_),
       Form_(unseen, *System_, Observer_, form),
       Records_(records) {
     Form_.show();
-    for (Binding& binding : bind(Form_, records.table(), Region_)) Fields_.emplace_back(std::move(binding));
+    for (Binding& binding : bind(Form_, records.table(), Region_, others)) Fields_.emplace_back(std::move(binding));
 }
 
 Importer::~Importer() = default;
@@ -189,7 +189,9 @@ bool Importer::take(const CsvReader& line, std::string& reason) {
     for (Field& field : Fields_) {
         const Cell* const cell = field.place ? read(field, line.value(*field.place), reason) : &field.last.cell;
         if (cell == nullptr) return false;
-        if (isLeftToDatabase(columnOf(field), *cell)) continue;
+        const Column& column = columnOf(field);
+        const bool isNotGiven = !field.place && column.hasDefault && field.binding.isLocked();
+        if (isNotGiven || isLeftToDatabase(column, *cell)) continue;
         if (Change* const before = valueFor(field))
             before->value = *cell;
         else

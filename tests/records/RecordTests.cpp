@@ -71,7 +71,7 @@ public:
         Form_.show();
         Records_ = store.open(openTable(store, Form_, table, Home_->region(), [](const auto&) { return true; }));
         Questions& questions = *this;
-        form_.emplace(Form_, *Records_, questions, Home_->region());
+        form_.emplace(Form_, *Records_, questions, Home_->region(), &store);
     }
 
     RecordForm& records() { return *form_; }
@@ -273,7 +273,7 @@ TEST_F(OnDatabase, ListsLeaveWholeRecords) {
     execute("CREATE TABLE member (name TEXT PRIMARY KEY, fee DOUBLE PRECISION, joined DATE)");
     const auto records = store->open(store->table(u"member").value());
     const auto home = headless::makeHome({.region = &defaultRegion()});
-    Importer importer(*home, FormFile::parse(MemberForm, "member.frm"), *records);
+    Importer importer(*home, FormFile::parse(MemberForm, "member.frm"), *records, nullptr);
     std::string list;
     for (int i = 0; i < 100; ++i) list += "Name " + std::to_string(i) + "," + std::to_string(i % 60) + "\n";
     const struct {

@@ -77,8 +77,8 @@ public:
                                      statusBar()->sizeHint().height() + 4));
         show();
         form.show();
-        Form_ = std::make_unique<records::RecordForm>(form, *Store_, Dialogs_, home.region());
-        Lists_.emplace(*this, form.file(), *Form_, Dialogs_, unseen);
+        Form_ = std::make_unique<records::RecordForm>(form, *Store_, Dialogs_, home.region(), &store);
+        Lists_.emplace(*this, form.file(), *Form_, Dialogs_, unseen, store);
         makeList();
         Form_->focusFirst();
         refreshState();

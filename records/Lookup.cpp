@@ -1,0 +1,134 @@
+#include "records/Lookup.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+#include "records/Finder.h"
+#include "values/Coercion.h"
+
+namespace kel::records {
+
+namespace {
+
+constexpr std::size_t KeyPlace = 0;
+constexpr std::size_t TextPlace = 1;
+
+int rankAsText(const Column& column) { return (column.unique ? 2 : 0) + (column.notNull ? 1 : 0); }
+
+std::optional<std::size_t> textColumnOf(const Table& table) {
+    std::optional<std::size_t> best;
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
+        if (table.columns[i].type != ColumnType::Text || table.isKey(i) || table.columns[i].reference) continue;
+        if (!best || rankAsText(table.columns[i]) > rankAsText(table.columns[*best])) best = i;
+    }
+    // A table of codes may have nothing but them.
+    if (!best && table.columns[table.key.front()].type == ColumnType::Text) best = table.key.front();
+    return best;
+}
+
+/// On one line; a blank at an end would not be seen.
+std::u16string lineOf(const Cell& cell) {
+    std::u16string text = textOf(cell);
+    std::replace_if(
+        text.begin(), text.end(), [](char16_t unit) { return unit < u' '; }, u' ');
+    const std::size_t begin = std::min(text.find_first_not_of(u' '), text.size());
+    return text.substr(begin, text.find_last_not_of(u' ') + 1 - begin);
+}
+
+Cell keyCell(const Column& column, const std::u16string& key) {
+    double number = 0;
+    if (column.type != ColumnType::Integer || !readPlainNumber(key, defaultRegion(), number)) return key;
+    return static_cast<std::int64_t>(number);
+}
+
+std::u16string withKey(const std::u16string& text, const std::u16string& key) {
+    return text + (text.empty() ? u"(" : u" (") + key + u')';
+}
+
+}  // namespace
+
+std::optional<Table> lookupTable(Store& store, const Column& column) {
+    if (!column.reference) return std::nullopt;
+    const std::optional<Table> there = store.table(column.reference->table);
+    if (!there || there->key.size() != 1) return std::nullopt;
+    const Column& key = there->columns[there->key.front()];
+    if (!column.reference->column.empty() && !isSameName(column.reference->column, key.name)) return std::nullopt;
+    const std::optional<std::size_t> text = textColumnOf(*there);
+    if (!text) return std::nullopt;
+    Table table;
+    table.name = there->name;
+    table.columns = {key, there->columns[*text]};
+    table.key = {KeyPlace};
+    return table;
+}
+
+Lookup::Lookup(Store& store, const Table& table) : Records_(store.open(table)) { refresh(); }
+
+bool Lookup::refresh() {
+    std::vector<Record> rows = Records_->walk(nullptr, Way::Forward, MostRows, {TextPlace, false});
+    Others_.clear();
+    if (rows == Rows_ && !Places_.empty()) return false;
+    Rows_ = std::move(rows);
+    struct Item {
+        std::u16string sorted;
+        std::u16string text;
+        std::u16string key;
+    };
+    std::vector<Item> items;
+    std::unordered_map<std::u16string, int> counts;
+    for (const Record& row : Rows_) {
+        std::u16string text = lineOf(row.cells[TextPlace]);
+        ++counts[text];
+        items.push_back({searchKey(text), text, records::textOf(row.cells[KeyPlace])});
+    }
+    // Two of the same name are told apart by their keys.
+    std::unordered_set<std::u16string> taken;
+    for (const auto& [text, count] : counts)
+        if (count == 1 && !text.empty()) taken.insert(text);
+    for (Item& item : items) {
+        if (counts[item.text] == 1 && !item.text.empty()) continue;
+        do item.text = withKey(item.text, item.key);
+        while (!taken.insert(item.text).second);
+    }
+    std::stable_sort(items.begin(), items.end(),
+                     [](const Item& left, const Item& right) { return left.sorted < right.sorted; });
+    Texts_.clear();
+    Keys_.clear();
+    Places_.clear();
+    for (Item& item : items) {
+        Places_.emplace(item.key, Texts_.size());
+        Texts_.push_back(std::move(item.text));
+        Keys_.push_back(std::move(item.key));
+    }
+    return true;
+}
+
+std::optional<std::size_t> Lookup::find(const std::u16string& key) const {
+    const auto place = Places_.find(key);
+    return place == Places_.end() ? std::nullopt : std::optional(place->second);
+}
+
+bool Lookup::has(const std::u16string& key) const {
+    return find(key) || (!key.empty() && Records_->read({keyCell(Records_->table().columns[KeyPlace], key)}));
+}
+
+std::u16string Lookup::textOf(const std::u16string& key) const {
+    if (key.empty()) return {};
+    if (const auto place = find(key)) return Texts_[*place];
+    const auto [other, isNew] = Others_.try_emplace(key);
+    if (isNew) {
+        const std::optional<Record> row = Records_->read({keyCell(Records_->table().columns[KeyPlace], key)});
+        // Another record may have the same text.
+        other->second = withKey(row ? lineOf(row->cells[TextPlace]) : std::u16string(), key);
+    }
+    return other->second;
+}
+
+void Lookup::add(const std::u16string& key) {
+    if (key.empty() || find(key)) return;
+    Texts_.push_back(textOf(key));
+    Keys_.push_back(key);
+    Places_.emplace(key, Keys_.size() - 1);
+}
+
+}  // namespace kel::records

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <unordered_map>
+
+#include "records/Store.h"
+
+namespace kel::records {
+
+/// Of the table that `column` points to, its key and the column that tells its records apart for a person: a text that
+/// no two have in common, else one that none leaves out, else the first. Nothing where the column points to none, or
+/// the table has no key of one column, or no text.
+std::optional<Table> lookupTable(Store& store, const Column& column);
+
+/// The records that a column may point to, as a list for a field: a text for each, no two alike, in the order of
+/// letters without regard to case and accents; and their keys.
+class Lookup {
+public:
+    /// As many as a combo field takes. In a larger table the first by their texts stand in the list; the others are
+    /// only told by their keys.
+    static constexpr std::int32_t MostRows = 32767;
+
+    /// `table` as `lookupTable` gives it. Reads the list. Throws StoreError. The store outlives it.
+    Lookup(Store& store, const Table& table);
+
+    /// Reads the list again; whether it is another one now. Throws StoreError.
+    bool refresh();
+
+    const StringArray& texts() const { return Texts_; }
+    const StringArray& keys() const { return Keys_; }
+    /// Counted from 0.
+    std::optional<std::size_t> find(const std::u16string& key) const;
+
+    /// Whether there is such a record, in the list or not.
+    bool has(const std::u16string& key) const;
+
+    /// The text of a record, wherever it stands; the key alone where there is no such record. One that is not in the
+    /// list is read, once until the list is.
+    std::u16string textOf(const std::u16string& key) const;
+    /// Puts a record behind the list that is not in it.
+    void add(const std::u16string& key);
+
+private:
+    std::unique_ptr<RecordStore> Records_;
+    std::vector<Record> Rows_;  ///< as they were read
+    StringArray Texts_;
+    StringArray Keys_;
+    std::unordered_map<std::u16string, std::size_t> Places_;             ///< by key
+    mutable std::unordered_map<std::u16string, std::u16string> Others_;  ///< texts by key, of what is not in the list
+};
+
+}  // namespace kel::records

@@ -1,0 +1,71 @@
+#include "records/LookupField.h"
+
+#include <array>
+
+#include "host/Widgets.h"
+#include "library/Dispatch.h"
+#include "runtime/ListString.h"
+
+namespace kel::records {
+
+namespace {
+
+Variant get(Control& combo, std::u16string_view name, const RegionalSettings& region) {
+    Variant value;
+    getMember(combo, *findMember(combo.model(), name), {}, value, region);
+    return value;
+}
+
+void put(Control& combo, std::u16string_view name, const Variant& value, const RegionalSettings& region) {
+    putMember(combo, *findMember(combo.model(), name), value, region);
+}
+
+}  // namespace
+
+LookupField::LookupField(PlacedControl& combo, Lookup lookup, const RegionalSettings& region)
+    : Combo_(combo), Region_(region), Lookup_(std::move(lookup)) {
+    fill();
+    Combo_.control().widgets().comboBox->beforeDrop([this] { refresh(); });
+}
+
+LookupField::~LookupField() { Combo_.control().widgets().comboBox->beforeDrop({}); }
+
+void LookupField::fill() {
+    std::u16string tags;
+    for (const std::u16string& key : Lookup_.keys()) appendListItem(tags, key);
+    std::array<Variant, 1> texts{Lookup_.texts()};
+    Variant nothing;
+    Control& combo = Combo_.control();
+    callMember(combo, *findMember(combo.model(), u"ListFromArray"), texts, nothing, Region_);
+    put(combo, u"ListTag", tags, Region_);
+}
+
+/// What was chosen stays chosen, also where its text is another one now.
+void LookupField::refresh() {
+    const std::u16string shown = key();
+    try {
+        if (!Lookup_.refresh()) return;
+    } catch (const StoreError&) {
+        return;  // the list stays as it is; what is wrong is said where the person saves
+    }
+    fill();
+    show(shown);
+    put(Combo_.control(), u"TextSaved", Lookup_.textOf(StoredKey_), Region_);
+}
+
+void LookupField::show(const std::u16string& key) {
+    if (!key.empty() && !Lookup_.find(key)) {
+        Lookup_.add(key);
+        fill();
+    }
+    put(Combo_.control(), u"Text", Lookup_.textOf(key), Region_);
+}
+
+std::u16string LookupField::key() const {
+    static_cast<void>(get(Combo_.control(), u"Text", Region_));  // settles what is half typed
+    const ComboBox& box = *Combo_.control().widgets().comboBox;
+    const std::int32_t item = box.items().findExact(box.text());
+    return item == ListItems::NotFound ? std::u16string() : Lookup_.keys()[static_cast<std::size_t>(item)];
+}
+
+}  // namespace kel::records

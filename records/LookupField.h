@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+
+#include "forms/Home.h"
+#include "records/Lookup.h"
+
+namespace kel::records {
+
+/// A combo field whose list is another table's, and which stands for one of its records by that one's key. The list is
+/// brought up to date before it opens.
+class LookupField {
+public:
+    /// The control outlives it.
+    LookupField(PlacedControl& combo, Lookup lookup, const RegionalSettings& region);
+    LookupField(const LookupField&) = delete;
+    LookupField& operator=(const LookupField&) = delete;
+    ~LookupField();
+
+    /// Also a record that is not in the list; the empty key is none.
+    void show(const std::u16string& key);
+    /// Of what stands in the field, taken as if it was left; empty for none.
+    std::u16string key() const;
+    /// The key now is the one that is stored.
+    void markStored() { StoredKey_ = key(); }
+
+    /// Whether there is such a record, in the list or not.
+    bool has(const std::u16string& key) const { return Lookup_.has(key); }
+    std::u16string textOf(const std::u16string& key) const { return Lookup_.textOf(key); }
+
+private:
+    void fill();
+    void refresh();
+
+    PlacedControl& Combo_;
+    const RegionalSettings& Region_;
+    Lookup Lookup_;
+    std::u16string StoredKey_;
+};
+
+}  // namespace kel::records
