@@ -7,6 +7,7 @@
 #include "apps/kelforms/Databases.h"
 #include "apps/kelforms/Homes.h"
 #include "apps/kelforms/Lists.h"
+#include "apps/kelforms/MakeForm.h"
 #include "controls/Classes.h"
 #include "forms/Describe.h"
 #include "forms/file/FileWriter.h"
@@ -202,8 +203,9 @@ ExitStatus describe(const Options& options) {
 constexpr struct {
     const char* name;
     ExitStatus (*run)(const Options& options);
-} Commands[] = {{"run", runForm},       {"play", playScript},   {"check", checkForm}, {"save", saveForm},
-                {"import", importList}, {"export", exportList}, {"shot", shootForm},  {"describe", describe}};
+} Commands[] = {{"run", runForm},       {"make", makeForm},  {"play", playScript},
+                {"check", checkForm},   {"save", saveForm},  {"import", importList},
+                {"export", exportList}, {"shot", shootForm}, {"describe", describe}};
 
 }  // namespace
 

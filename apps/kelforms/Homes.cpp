@@ -4,8 +4,10 @@
 
 #ifdef KEL_HAS_QT
 #include <QApplication>
+#include <QLocale>
 
 #include "platform/qt/home/QtHome.h"
+#include "platform/qt/home/QtRegion.h"
 #endif
 #ifdef KEL_HAS_TERMINAL
 #include "platform/terminal/Terminal.h"
@@ -84,6 +86,15 @@ const char* const WindowHome = "win32";
 #else
 const char* const WindowHome = "qt";
 #endif
+
+RegionalSettings regionOf(const Options& options) {
+    if (options.home.region != nullptr) return *options.home.region;
+#ifdef KEL_HAS_QT
+    return qt::regionFromLocale(QLocale::system());
+#else
+    return defaultRegion();
+#endif
+}
 
 std::unique_ptr<HomeSession> openHome(const std::string& name, const Options& options,
                                       [[maybe_unused]] bool withWindow) {

@@ -20,6 +20,9 @@ public:
 /// can see; a scripted one needs no display.
 std::unique_ptr<HomeSession> openHome(const std::string& name, const Options& options, bool withWindow);
 
+/// The one that was asked for, else that of the person's own system. Opens no home.
+RegionalSettings regionOf(const Options& options);
+
 /// The home with pictures and windows on this machine.
 extern const char* const WindowHome;
 

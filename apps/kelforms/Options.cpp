@@ -12,6 +12,7 @@ const char* const Usage =
     "kelforms run FORM.frm [--on terminal] [--locale L]   show the form in a window\n"
     "kelforms run FORM.frm --data DATABASE [--table T]    the same with records: a file of SQLite, or\n"
     "                                                     postgresql://user@host:port/name\n"
+    "kelforms make DATABASE TABLE FORM.frm [--force]      make a form for a table\n"
     "kelforms import FORM.frm LIST.csv --data DATABASE [--table T] [--all-or-nothing]\n"
     "                                                     store the records of a list, each checked by the form\n"
     "kelforms export FORM.frm LIST.csv|- --data DATABASE [--table T]\n"
@@ -108,6 +109,8 @@ bool readOption(const std::string& word, Reader& reader, Options& options) {
         options.used = reader.value(word);
     else if (word == "--check")
         options.check = true;
+    else if (word == "--force")
+        options.force = true;
     else if (word == "--update")
         options.update = true;
     else if (word == "--json")
@@ -148,8 +151,9 @@ struct CommandRow {
     std::size_t leastFiles;
     std::size_t mostFiles;
 };
-constexpr CommandRow Commands[] = {{"run", 1, 1},    {"play", 2, 2}, {"check", 1, 1},    {"save", 2, 2},
-                                   {"import", 2, 2}, {"shot", 2, 2}, {"describe", 0, 1}, {"export", 2, 2}};
+constexpr CommandRow Commands[] = {{"run", 1, 1},   {"make", 3, 3},     {"play", 2, 2},
+                                   {"check", 1, 1}, {"save", 2, 2},     {"import", 2, 2},
+                                   {"shot", 2, 2},  {"describe", 0, 1}, {"export", 2, 2}};
 
 void checkCommand(const Options& options) {
     const auto found = std::find_if(std::begin(Commands), std::end(Commands),

@@ -33,6 +33,7 @@ struct Options {
     std::string shot;
     std::string used;
     bool check = false;
+    bool force = false;  ///< a file that is there may be replaced
     bool update = false;
     bool json = false;
     bool markdown = false;
