@@ -17,8 +17,16 @@ std::pair<std::u16string_view, std::u16string_view> firstWord(std::u16string_vie
     return {text.substr(0, end), text.substr(next)};
 }
 
-std::u16string cellText(const Cell& cell) {
+/// The same on every database: one gives a decimal number with all its places, 12.50, another none that it can leave
+/// out.
+std::u16string cellText(const Column& column, const Cell& cell) {
     if (isNull(cell)) return u"Null";
+    if (column.type == ColumnType::Decimal) {
+        std::u16string number = textOf(cell);
+        if (number.find(u'.') != std::u16string::npos) number.erase(number.find_last_not_of(u'0') + 1);
+        if (number.ends_with(u'.')) number.pop_back();
+        return number;
+    }
     if (const auto* const text = std::get_if<std::u16string>(&cell)) return quoteScriptText(*text);
     return textOf(cell);
 }
@@ -110,8 +118,10 @@ void RecordScript::printRecord() {
         line += u"new";
     Print_(line + (Form_->isChanged() ? u" changed" : u""));
     if (!Form_->shown()) return;
-    for (std::size_t i = 0; i < Form_->table().columns.size(); ++i)
-        Print_(u"  " + Form_->table().columns[i].name + u" = " + cellText(Form_->shown()->cells[i]));
+    for (std::size_t i = 0; i < Form_->table().columns.size(); ++i) {
+        const Column& column = Form_->table().columns[i];
+        Print_(u"  " + column.name + u" = " + cellText(column, Form_->shown()->cells[i]));
+    }
 }
 
 // ---- What a person would be asked

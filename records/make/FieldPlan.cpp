@@ -170,9 +170,9 @@ FieldPlan FieldPlanner::text(std::size_t column) {
     return field;
 }
 
-/// As many as are used, at least two.
+/// As many as are used, at least two; three where nothing can be seen yet.
 std::int32_t FieldPlanner::decimalsSeen(std::size_t column) const {
-    std::size_t most = 2;
+    std::size_t most = Seen_.empty() ? 3 : 2;
     for (const Record& record : Seen_) {
         const std::u16string text = textOf(record.cells[column]);
         const std::size_t point = text.find(u'.');
