@@ -95,6 +95,7 @@ bool Lookup::refresh() {
     Texts_.clear();
     Keys_.clear();
     Places_.clear();
+    HasAdded_ = false;
     for (Item& item : items) {
         Places_.emplace(item.key, Texts_.size());
         Texts_.push_back(std::move(item.text));
@@ -126,6 +127,12 @@ std::u16string Lookup::textOf(const std::u16string& key) const {
 
 void Lookup::add(const std::u16string& key) {
     if (key.empty() || find(key)) return;
+    if (HasAdded_) {
+        Places_.erase(Keys_.back());
+        Keys_.pop_back();
+        Texts_.pop_back();
+    }
+    HasAdded_ = true;
     Texts_.push_back(textOf(key));
     Keys_.push_back(key);
     Places_.emplace(key, Keys_.size() - 1);

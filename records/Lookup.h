@@ -19,9 +19,9 @@ std::optional<Table> lookupTable(Store& store, const Column& column);
 /// letters without regard to case and accents; and their keys.
 class Lookup {
 public:
-    /// As many as a combo field takes. In a larger table the first by their texts stand in the list; the others are
-    /// only told by their keys.
-    static constexpr std::int32_t MostRows = 32767;
+    /// As many as a combo field takes, and room for another one. In a larger table the first by their texts stand in
+    /// the list; the others are shown, each with its key, and kept.
+    static constexpr std::int32_t MostRows = 32766;
 
     /// `table` as `lookupTable` gives it. Reads the list. Throws StoreError. The store outlives it.
     Lookup(Store& store, const Table& table);
@@ -40,7 +40,7 @@ public:
     /// The text of a record, wherever it stands; the key alone where there is no such record. One that is not in the
     /// list is read, once until the list is.
     std::u16string textOf(const std::u16string& key) const;
-    /// Puts a record behind the list that is not in it.
+    /// Puts a record behind the list that is not in it, in the place of the one before that was put there.
     void add(const std::u16string& key);
 
 private:
@@ -48,6 +48,7 @@ private:
     std::vector<Record> Rows_;  ///< as they were read
     StringArray Texts_;
     StringArray Keys_;
+    bool HasAdded_ = false;                                              ///< as the last
     std::unordered_map<std::u16string, std::size_t> Places_;             ///< by key
     mutable std::unordered_map<std::u16string, std::u16string> Others_;  ///< texts by key, of what is not in the list
 };

@@ -16,6 +16,7 @@
 #include "platform/qt/sql/SqlConnection.h"
 #include "platform/qt/sql/SqlStore.h"
 #include "records/exchange/Importer.h"
+#include "records/make/FormOfTable.h"
 #include "records/OpenTable.h"
 #include "records/RecordForm.h"
 #include "values/Text.h"
@@ -51,7 +52,7 @@ protected:
 
 private:
     void clear() {
-        for (const char* table : {"member", "line", "parent", "odd"})
+        for (const char* table : {"member", "line", "odd", "parent"})
             execute((std::string("DROP TABLE IF EXISTS ") + table).c_str());
     }
 
@@ -80,6 +81,17 @@ public:
         putMember(control, *findMember(control.model(), DefaultMemberId), value, Home_->region());
     }
     std::u16string text(std::u16string_view field) { return Form_.find(field)->control().widgets().entry->text(); }
+    Variant get(std::u16string_view field, std::u16string_view member) {
+        Control& control = Form_.find(field)->control();
+        Variant value;
+        getMember(control, *findMember(control.model(), member), {}, value, Home_->region());
+        return value;
+    }
+    /// Opens the list and closes it again.
+    void drop(std::u16string_view field) {
+        Form_.window().focus(*Form_.find(field));
+        for (int i = 0; i < 2; ++i) Form_.window().press({keys::F4, 0, NoModifier});
+    }
     std::u16string focused() { return Form_.window().focused() == nullptr ? u"" : Form_.window().focused()->name(); }
 
     Unsaved unsaved = Unsaved::Stay;
@@ -226,6 +238,124 @@ TEST_F(OnDatabase, ForeignColumnsAreLeftAlone) {
     EXPECT_TRUE(person.records().save()) << person.heard;
     EXPECT_EQ(value("SELECT CAST(joined AS TEXT) FROM member"), "2013-03-16 10:15:30.125") << "the time of day stays";
     EXPECT_EQ(person.heard, "");
+}
+
+// ---- Lists of other tables
+
+const std::string ListForm =
+    formOf({{"txtName", "KelText", ""}, {"cboP", "KelCombo", "      DataField = \"p:tag\"\r\n"}});
+
+TEST_F(OnDatabase, KeysAreShownAsTheRecordsTheyPointTo) {
+    execute("CREATE TABLE parent (id INTEGER PRIMARY KEY, code VARCHAR(9), name VARCHAR(20) NOT NULL)");
+    execute("CREATE TABLE member (id INTEGER PRIMARY KEY, name TEXT, p INTEGER REFERENCES parent (id))");
+    execute("INSERT INTO parent VALUES (1, 'x', 'Smith'), (2, 'x', 'adams'), (3, 'x', 'Smith'), (4, 'x', 'Smith (3)')");
+    execute("INSERT INTO parent VALUES (5, 'x', 'B, \"C\"'), (6, NULL, ' ')");
+    execute("INSERT INTO member VALUES (1, 'Anna', 3)");
+    const auto store = open();
+    Person person(ListForm, *store, u"member");
+    const auto list = [&] { return toUtf8(std::get<std::u16string>(person.get(u"cboP", u"List"))); };
+    EXPECT_EQ(list(), "(6),adams,\"B, \"\"C\"\"\",Smith (1),Smith (3) (3),Smith (3)");
+    EXPECT_EQ(person.text(u"cboP"), u"Smith (3) (3)") << "two of one name, and one of the name that tells them apart";
+    struct {
+        std::u16string_view picked;
+        const char* stored;
+    } const rows[] = {{u"Smith (1)", "1"}, {u"Smith (3)", "4"}, {u"B, \"C\"", "5"}, {u"(6)", "6"}, {u"", ""}};
+    for (const auto& row : rows) {
+        person.put(u"cboP", std::u16string(row.picked));
+        EXPECT_TRUE(person.records().save()) << person.heard;
+        EXPECT_EQ(value("SELECT coalesce(CAST(p AS TEXT), '') FROM member"), row.stored);
+    }
+    person.put(u"cboP", std::u16string(u"adams"));
+    EXPECT_TRUE(person.records().save());
+
+    // Meanwhile the other table changes.
+    execute("UPDATE parent SET name = 'Adamson' WHERE id = 2");
+    execute("DELETE FROM parent WHERE id = 5");
+    person.drop(u"cboP");
+    EXPECT_EQ(list(), "(6),Adamson,Smith (1),Smith (3) (3),Smith (3)");
+    EXPECT_EQ(person.text(u"cboP"), u"Adamson");
+    EXPECT_FALSE(person.records().isChanged()) << "it is the same record";
+    person.put(u"cboP", std::u16string(u"Smith (1)"));
+    EXPECT_TRUE(person.records().isChanged());
+    execute("UPDATE parent SET name = 'Smythe' WHERE id = 1");
+    person.drop(u"cboP");
+    EXPECT_EQ(person.text(u"cboP"), u"Smythe");
+    EXPECT_TRUE(person.records().isChanged()) << "what was picked is still another one";
+    EXPECT_TRUE(person.records().save());
+    EXPECT_EQ(value("SELECT p FROM member"), "1");
+}
+
+/// A table of any length gives a list that a person can open, and every record that it holds is shown and kept.
+TEST_F(OnDatabase, KeysBeyondTheListAreKept) {
+    execute("CREATE TABLE parent (id INTEGER PRIMARY KEY, name VARCHAR(20) NOT NULL)");
+    execute("CREATE TABLE member (id INTEGER DEFAULT 7 PRIMARY KEY, name TEXT, p INTEGER REFERENCES parent (id))");
+    execute(
+        "INSERT INTO parent WITH RECURSIVE n(i) AS (SELECT 10001 UNION ALL SELECT i + 1 FROM n WHERE i < 43000) SELECT "
+        "i, 'no ' || i FROM n");
+    execute("INSERT INTO member VALUES (1, 'Anna', 42999), (2, 'Bert', 10001)");
+    const auto store = open();
+    Person person(ListForm, *store, u"member");
+    EXPECT_EQ(person.text(u"cboP"), u"no 42999 (42999)");
+    person.put(u"txtName", std::u16string(u"Anne"));
+    EXPECT_TRUE(person.records().save()) << person.heard;
+    EXPECT_TRUE(person.records().duplicate() && person.records().save()) << person.heard;
+    EXPECT_EQ(value("SELECT count(*) FROM member WHERE name = 'Anne' AND p = 42999"), "2");
+    EXPECT_TRUE(person.records().toPlace(2));
+    EXPECT_EQ(person.text(u"cboP"), u"no 10001");
+}
+
+// ---- Forms of tables
+
+/// What of a made form a person would check, a line a field.
+std::string fieldsOf(const FormFile& file) {
+    static constexpr std::u16string_view Told[] = {u"DataField", u"Caption",   u"Decimals",  u"Format",
+                                                   u"Locked",    u"Mandatory", u"MaxLength", u"MaxValue",
+                                                   u"MultiLine", u"Text",      u"Value"};
+    std::string lines;
+    for (FormBlockId id = 1; id < file.blocks().size(); ++id) {
+        lines += toUtf8(file.block(id).name);
+        for (const std::u16string_view name : Told)
+            if (const auto property = file.find(id, name))
+                lines += " " + toUtf8(name) + "=" + toUtf8(writeFormValue(property->value));
+        lines += "\n";
+    }
+    return lines;
+}
+
+TEST_F(OnDatabase, FormIsMadeOfATable) {
+    execute("CREATE TABLE parent (code VARCHAR(4) PRIMARY KEY, name VARCHAR(20))");
+    execute(
+        "CREATE TABLE odd (id BIGINT PRIMARY KEY, \"orderDate\" DATE DEFAULT CURRENT_DATE NOT NULL, parent_code "
+        "VARCHAR(4) NOT NULL REFERENCES parent (code), state VARCHAR(9) DEFAULT 'it''s' NOT NULL, \"VAT % & rest\" "
+        "NUMERIC(5,2) NOT NULL, amount NUMERIC(8,3) DEFAULT 1.5 NOT NULL, size SMALLINT, made_at TIMESTAMP, begins "
+        "TIME "
+        "DEFAULT '09:30:00', is_new BOOLEAN DEFAULT TRUE NOT NULL, long VARCHAR(500), remarks TEXT, plain TEXT, seen "
+        "TEXT, sel BYTEA, record_version INTEGER)");
+    execute("INSERT INTO parent VALUES ('A', NULL)");
+    execute("INSERT INTO odd (id, parent_code, \"VAT % & rest\", seen) VALUES (1, 'A', 1, 'one\ntwo')");
+    const auto store = open();
+    const Table table = store->table(u"odd").value();
+    const MadeForm made = formFor(*store, table, *findRegion(u"en-US"), "odd.frm");
+    EXPECT_EQ(made.leftOut, std::vector<std::u16string>{u"sel"});
+    EXPECT_EQ(fieldsOf(made.file), R"(numId Caption="&ID" Decimals=0 Mandatory=-1 MaxValue=999999999999
+datOrderDate Caption="&Order date" Format="mm/dd/yyyy" Mandatory=-1 Value="Now"
+cboParent DataField="parent_code:tag" Caption="&Parent" Mandatory=-1
+txtState Caption="&State" Mandatory=-1 MaxLength=9 Text="it's"
+numVatRest DataField="VAT % & rest" Caption="VAT % && r&est" Decimals=2 Mandatory=-1 MaxValue=999.99
+numAmount Caption="&Amount" Decimals=3 Mandatory=0 MaxValue=99999.999 Value=1.5
+numSize Caption="Si&ze" Decimals=0 Mandatory=0 MaxValue=32767
+datMadeAt Caption="&Made at" Format="mm/dd/yyyy" Mandatory=0 Value=""
+timMadeAt Caption="&Time" Format="hh:nn" Mandatory=0 Value=""
+timBegins Caption="&Begins" Format="hh:nn" Mandatory=0 Value=.3958333333333333
+chkNew DataField="is_new" Caption="&New" Mandatory=0 Value=-1
+txtLong Caption="&Long" Mandatory=0 MaxLength=500 MultiLine=-1
+txtRemarks Caption="Remar&ks" Mandatory=0 MultiLine=-1
+txtPlain Caption="Plain" Mandatory=0
+txtSeen Caption="Seen" Mandatory=0 MultiLine=-1
+)");
+    // Opened, it is a form for that table.
+    Person person(made.file.output("odd.frm").form, *store, u"");
+    EXPECT_EQ(person.records().table().name, u"odd");
 }
 
 // ---- What a database refuses

@@ -111,6 +111,7 @@ std::optional<Table> SqlSchema::table(std::u16string_view name) {
 void SqlSchema::readSqlite(Table& table) {
     const QVariantList name{toQString(table.name)};
     std::vector<std::pair<int, std::size_t>> key;
+    bool isRowNumber = false;
     QSqlQuery& columns = Connection_.run(
         QStringLiteral("SELECT name, type, \"notnull\", dflt_value, pk, hidden FROM pragma_table_xinfo(?)"), name);
     while (columns.next()) {
@@ -121,17 +122,17 @@ void SqlSchema::readSqlite(Table& table) {
         column.hasDefault = !columns.value(3).isNull();
         column.initial = initialOf(columns.value(3).toString());
         column.generated = columns.value(5).toInt() > 1;
-        if (const int place = columns.value(4).toInt(); place > 0) key.emplace_back(place, table.columns.size());
+        if (const int place = columns.value(4).toInt(); place > 0) {
+            key.emplace_back(place, table.columns.size());
+            isRowNumber = columns.value(1).toString().compare(QLatin1String("INTEGER"), Qt::CaseInsensitive) == 0;
+        }
         table.columns.push_back(std::move(column));
     }
     columns.finish();
     std::sort(key.begin(), key.end());
     for (const auto& [place, column] : key) table.key.push_back(column);
-    // Such a key is the number of the row, which the database gives.
-    if (key.size() == 1) {
-        Column& column = table.columns[table.key.front()];
-        column.hasDefault = column.hasDefault || column.type == ColumnType::Integer;
-    }
+    // A key of this very type, and of no other that is a whole number, is the number of the row.
+    if (key.size() == 1 && isRowNumber) table.columns[table.key.front()].hasDefault = true;
     QSqlQuery& references = Connection_.run(
         QStringLiteral("SELECT min(\"from\"), min(\"table\"), min(\"to\") FROM pragma_foreign_key_list(?) GROUP BY id "
                        "HAVING count(*) = 1"),
