@@ -30,7 +30,8 @@ StoreError Dialect::ruleBroken(const QString& text) {
 }
 
 StoreError Dialect::readOnly() {
-    return {Kind::ReadOnly, "The database may not be written. Nothing is lost: it stands on the screen."};
+    return {Kind::ReadOnly,
+            "The database may not be written. Please have it allowed and save again; what is on the screen stays."};
 }
 
 }  // namespace kel::qt

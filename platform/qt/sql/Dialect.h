@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
 #include "records/Store.h"
@@ -16,6 +17,11 @@ public:
     Dialect(const Dialect&) = delete;
     Dialect& operator=(const Dialect&) = delete;
     virtual ~Dialect() = default;
+
+    /// What is said to a connection before anything else.
+    virtual QStringList setUp() const = 0;
+    /// What is said to a database that this program has just made, so that it is known for that.
+    virtual QStringList mark() const = 0;
 
     /// A type as a new column is declared with it.
     virtual QString typeName(const records::Column& column) const = 0;

@@ -22,6 +22,12 @@ QString between(const QString& text, QLatin1String before, QChar after) {
 /// PostgreSQL, by the text forms of its values, which lose nothing.
 class PostgresDialect final : public Dialect {
 public:
+    /// A lock is waited for here, where the window stays alive, and not in the server.
+    QStringList setUp() const override {
+        return {QStringLiteral("SET lock_timeout = 50"), QStringLiteral("SET client_min_messages = warning")};
+    }
+    QStringList mark() const override { return {}; }
+
     QString typeName(const Column& column) const override {
         switch (column.type) {
             case ColumnType::Integer: return QStringLiteral("bigint");
@@ -80,14 +86,18 @@ public:
         // A text too long, a number too large, a day that the database does not have.
         if (state.startsWith(QLatin1String("22"))) return ruleBroken(text);
         if (state.startsWith(QLatin1String("55P03")) || state.startsWith(QLatin1String("40")))
-            return {Kind::Busy, "Another program holds the record. Please try again."};
+            return {Kind::Busy,
+                    "Another program holds the record. Please save again in a moment; what is on the screen stays."};
         if (state == QLatin1String("25006")) return readOnly();
         if (state.startsWith(QLatin1String("53")))
-            return {Kind::Full, "The server has no room left. Please make room and save again."};
+            return {Kind::Full,
+                    "The server has no room left. Please make room and save again; what is on the screen stays."};
         if (state.startsWith(QLatin1String("08")) || state.startsWith(QLatin1String("57P")) ||
             error.type() == QSqlError::ConnectionError || text.contains(QLatin1String("server closed")) ||
             text.contains(QLatin1String("no connection")))
-            return {Kind::Lost, "The connection to the server is gone. Please try again."};
+            return {Kind::Lost,
+                    "No connection to the server. Please try again in a moment; what is on the screen stays. " +
+                        text.section(QLatin1Char('\n'), 0, 0).toStdString()};
         return {Kind::Wrong, "The database says: " + (text.isEmpty() ? error.driverText() : text).toStdString()};
     }
 

@@ -1,12 +1,13 @@
 #include "platform/qt/sql/SqlConnection.h"
 
+#include <algorithm>
 #include <chrono>
-#include <QFileInfo>
 #include <QSqlError>
 #include <QUrl>
 #include <thread>
 
 #include "platform/qt/base/TextBridge.h"
+#include "platform/qt/sql/SqliteFile.h"
 
 namespace kel::qt {
 
@@ -17,7 +18,8 @@ using records::StoreError;
 using Kind = StoreError::Kind;
 
 constexpr auto Patience = 5s;
-constexpr auto Pause = 20ms;
+constexpr auto ShortestPause = 1ms;  ///< most locks are held for the time of a save
+constexpr auto LongestPause = 20ms;
 
 /// Connections of Qt have names, which are the process's.
 QString nextName() {
@@ -58,47 +60,49 @@ SqlConnection::SqlConnection(const std::string& database, Waiting waiting)
     const QString driver = QLatin1String(Address_.isServer ? "QPSQL" : "QSQLITE");
     if (!QSqlDatabase::isDriverAvailable(driver))
         throw StoreError(Kind::Wrong, "Qt's driver " + driver.toStdString() + " is not installed on this machine.");
-    QSqlDatabase base = QSqlDatabase::addDatabase(driver, Name_);
-    if (Address_.isServer) {
-        base.setHostName(Address_.host);
-        if (Address_.port != 0) base.setPort(Address_.port);
-        base.setUserName(Address_.user);
-        base.setPassword(Address_.password);
-        base.setDatabaseName(Address_.name);
-    } else {
-        base.setDatabaseName(Address_.file);
-        // Waiting is done here, where the window stays alive.
-        base.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=0"));
-    }
+    QSqlDatabase::addDatabase(driver, Name_);
     try {
+        if (!Address_.isServer) checkFile(Address_.file);
+        setUp();
         open();
-    } catch (...) {
-        base = QSqlDatabase();
+    } catch (const StoreError& error) {
         QSqlDatabase::removeDatabase(Name_);
-        throw;
+        const QString name = Address_.isServer ? Address_.name : Address_.file;
+        throw StoreError(error.kind(), name.toStdString() + ": " + error.what());
     }
 }
 
 SqlConnection::~SqlConnection() {
-    qDeleteAll(Queries_);
-    database().close();
+    close();
     QSqlDatabase::removeDatabase(Name_);
+}
+
+void SqlConnection::setUp() {
+    QSqlDatabase base = database();
+    if (!Address_.isServer) {
+        base.setDatabaseName(Address_.file);
+        // Waiting is done here, where the window stays alive.
+        base.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=0"));
+        return;
+    }
+    base.setHostName(Address_.host);
+    if (Address_.port != 0) base.setPort(Address_.port);
+    base.setUserName(Address_.user);
+    base.setPassword(Address_.password);
+    base.setDatabaseName(Address_.name);
+    base.setConnectOptions(QStringLiteral("connect_timeout=5;tcp_user_timeout=10000"));
 }
 
 void SqlConnection::open() {
     QSqlDatabase base = database();
     if (!base.open()) throw Dialect_->errorOf(base.lastError());
-    if (Address_.isServer) return;
-    execute(QStringLiteral("PRAGMA foreign_keys = ON"));
-    execute(QStringLiteral("PRAGMA synchronous = FULL"));
+    for (const QString& statement : Dialect_->setUp()) runOnce(statement);
 }
 
-void SqlConnection::reopen() {
+void SqlConnection::close() {
     qDeleteAll(Queries_);
     Queries_.clear();
-    Depth_ = 0;
     database().close();
-    open();
 }
 
 QSqlQuery& SqlConnection::prepared(const QString& statement) {
@@ -114,23 +118,30 @@ QSqlQuery& SqlConnection::prepared(const QString& statement) {
     return *query;
 }
 
+bool SqlConnection::isWorthAnotherTry(const StoreError& error) const {
+    if (!IsPatient_ || IsRepeated_) return false;
+    if (Depth_ == 0) return error.kind() == Kind::Busy || error.kind() == Kind::Lost;
+    // A server has given up the whole transaction, and with a connection goes what came before.
+    return error.kind() == Kind::Busy && !Address_.isServer;
+}
+
 template <class Action>
 void SqlConnection::patiently(Action action) {
-    const auto end = std::chrono::steady_clock::now() + Patience;
-    for (bool isSecond = false;;) {
+    if (IsWaiting_) throw StoreError(Kind::Busy, "The database is still being waited for.");
+    const auto start = std::chrono::steady_clock::now();
+    for (;;) {
         try {
+            if (!database().isOpen() && Depth_ == 0) open();
             return action();
         } catch (const StoreError& error) {
-            // Inside of a transaction what came before is gone with the connection.
-            if (error.kind() == Kind::Lost && Depth_ == 0 && !isSecond) {
-                isSecond = true;
-                reopen();
-                continue;
-            }
-            if (error.kind() != Kind::Busy || std::chrono::steady_clock::now() > end) throw;
+            if (error.kind() == Kind::Lost && Depth_ == 0) close();
+            if (!isWorthAnotherTry(error) || std::chrono::steady_clock::now() > start + Patience) throw;
         }
+        IsWaiting_ = true;
         if (Waiting_) Waiting_();
-        std::this_thread::sleep_for(Pause);
+        IsWaiting_ = false;
+        const auto waited = std::chrono::steady_clock::now() - start;
+        std::this_thread::sleep_for(std::clamp<std::chrono::nanoseconds>(waited / 8, ShortestPause, LongestPause));
     }
 }
 
@@ -161,10 +172,35 @@ void SqlConnection::runAlone(const QString& statement, const QVariantList& value
     execute(QStringLiteral("RELEASE SAVEPOINT alone"));
 }
 
+void SqlConnection::runOnce(const QString& statement) {
+    QSqlQuery query(database());
+    if (!query.exec(statement)) throw Dialect_->errorOf(query.lastError());
+}
+
 void SqlConnection::execute(const QString& statement) {
+    patiently([&] { runOnce(statement); });
+}
+
+void SqlConnection::transact(const std::function<void()>& work, const std::function<bool()>& isStored) {
+    if (Depth_ > 0) return work();
+    bool isInDoubt = false;
     patiently([&] {
-        QSqlQuery query(database());
-        if (!query.exec(statement)) throw Dialect_->errorOf(query.lastError());
+        if (isInDoubt && isStored()) return;
+        isInDoubt = false;
+        runOnce(Dialect_->beginToChange());
+        Depth_ = 1;
+        IsRepeated_ = true;
+        try {
+            work();
+            IsRepeated_ = false;
+            isInDoubt = true;
+            commit();
+        } catch (const StoreError& error) {
+            isInDoubt = isInDoubt && error.kind() == Kind::Lost;
+            IsRepeated_ = false;
+            rollBack();
+            throw;
+        }
     });
 }
 
@@ -181,17 +217,9 @@ void SqlConnection::commit() {
 void SqlConnection::rollBack() {
     if (Depth_ == 0) return;
     Depth_ = 0;
+    if (!database().isOpen()) return;
     QSqlQuery query(database());
     query.exec(QStringLiteral("ROLLBACK"));
-}
-
-SqlTransaction::~SqlTransaction() {
-    if (!Done_) Connection_.rollBack();
-}
-
-void SqlTransaction::commit() {
-    Connection_.commit();
-    Done_ = true;
 }
 
 }  // namespace kel::qt

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <QHash>
 #include <QSqlDatabase>
@@ -23,7 +24,9 @@ struct SqlAddress {
 
 SqlAddress addressOf(const std::string& database);
 
-/// One connection, whose statements are prepared once each. Throws StoreError.
+/// One connection, whose statements are prepared once each. Waits for other programs, and for a server that is started
+/// anew, up to five seconds each time; who asks it for something meanwhile, from the window that is kept alive, hears
+/// that it is busy. Throws StoreError.
 class SqlConnection {
 public:
     SqlConnection(const std::string& database, Waiting waiting);
@@ -35,8 +38,7 @@ public:
     bool isServer() const { return Address_.isServer; }
     QSqlDatabase database() const { return QSqlDatabase::database(Name_, false); }
 
-    /// Runs a statement with its values; waits for other programs. The query is the connection's, and good until the
-    /// same statement is run again.
+    /// Runs a statement with its values. The query is the connection's, and good until the same statement is run again.
     QSqlQuery& run(const QString& statement, const QVariantList& values = {});
 
     /// The same for a statement that reads nothing. When it fails, what came before it in its transaction stays.
@@ -45,18 +47,30 @@ public:
     /// A statement that reads nothing and is run seldom, such as one that makes a table.
     void execute(const QString& statement);
 
+    /// Runs `work` as one transaction: all of it is stored when this returns, or nothing. It is run again from its
+    /// start where another program was in the way, or the connection was gone. Where the connection goes at the moment
+    /// of storing, nobody is told whether that was done: `isStored` looks it up on the next one.
+    void transact(const std::function<void()>& work, const std::function<bool()>& isStored);
+
     /// All between is stored together. Inside of another one it is that one's part.
     void begin();
     void commit();
     void rollBack();
 
+    /// Whether it waits at all. What can as well be done later is not waited for.
+    void setPatient(bool patient) { IsPatient_ = patient; }
+
 private:
+    void setUp();
     void open();
-    void reopen();
+    void close();
     QSqlQuery& prepared(const QString& statement);
-    /// Runs `action` again and again while another program holds the database, and once more on a new connection.
+    void runOnce(const QString& statement);
+    /// Runs `action` again and again while another program holds the database or the connection is gone.
     template <class Action>
     void patiently(Action action);
+    /// Whether what has failed may be tried again by itself.
+    bool isWorthAnotherTry(const records::StoreError& error) const;
 
     SqlAddress Address_;
     Waiting Waiting_;
@@ -64,20 +78,9 @@ private:
     QString Name_;  ///< of Qt's connection
     QHash<QString, QSqlQuery*> Queries_;
     int Depth_ = 0;  ///< of transactions
-};
-
-/// A transaction that is given up unless it is committed.
-class SqlTransaction {
-public:
-    explicit SqlTransaction(SqlConnection& connection) : Connection_(connection) { Connection_.begin(); }
-    SqlTransaction(const SqlTransaction&) = delete;
-    SqlTransaction& operator=(const SqlTransaction&) = delete;
-    ~SqlTransaction();
-    void commit();
-
-private:
-    SqlConnection& Connection_;
-    bool Done_ = false;
+    bool IsPatient_ = true;
+    bool IsWaiting_ = false;   ///< the window is being served
+    bool IsRepeated_ = false;  ///< what is being run is tried again as a whole
 };
 
 }  // namespace kel::qt

@@ -187,21 +187,32 @@ void SqlRecords::add(const std::vector<Change>& values) {
 Record SqlRecords::insert(const std::vector<Change>& values) {
     QStringList keys;
     for (const std::size_t key : Table_.key) keys.append(Connection_.dialect().readExpression(column(key)));
-    SqlTransaction transaction(Connection_);
-    QSqlQuery& query =
-        Connection_.run(insertion(values) + QLatin1String(" RETURNING ") + keys.join(QLatin1Char(',')), bound(values));
-    Cells key;
-    if (query.next())
-        for (std::size_t i = 0; i < Table_.key.size(); ++i)
-            key.push_back(Connection_.dialect().fromSql(query.value(static_cast<int>(i)), column(Table_.key[i])));
-    query.finish();
+    const QString statement = insertion(values) + QLatin1String(" RETURNING ") + keys.join(QLatin1Char(','));
     std::optional<Record> stored;
-    if (!key.empty()) stored = read(key);
-    if (!stored)
-        throw records::StoreError(records::StoreError::Kind::Wrong, "The database did not keep the new record.");
-    transaction.commit();
+    Connection_.transact(
+        [&] {
+            QSqlQuery& query = Connection_.run(statement, bound(values));
+            Cells key;
+            if (query.next())
+                for (std::size_t i = 0; i < Table_.key.size(); ++i)
+                    key.push_back(
+                        Connection_.dialect().fromSql(query.value(static_cast<int>(i)), column(Table_.key[i])));
+            query.finish();
+            stored = key.empty() ? std::nullopt : read(key);
+            if (!stored)
+                throw records::StoreError(records::StoreError::Kind::Wrong,
+                                          "The database did not keep the new record.");
+        },
+        [&] {
+            // A key that the database has given is nobody else's; meanwhile the record may have been changed.
+            const bool isKeyGiven = std::none_of(values.begin(), values.end(),
+                                                 [&](const Change& change) { return Table_.isKey(change.column); });
+            return isKeyGiven ? read(keyOf(Table_, *stored)).has_value() : isThere(*stored);
+        });
     return std::move(*stored);
 }
+
+bool SqlRecords::isThere(const Record& record) { return read(keyOf(Table_, record)) == record; }
 
 Outcome SqlRecords::hold(const Record& read) {
     const Condition condition = isKey(keyOf(Table_, read));
@@ -212,9 +223,6 @@ Outcome SqlRecords::hold(const Record& read) {
 }
 
 Outcome SqlRecords::update(Record& read, const std::vector<Change>& values) {
-    SqlTransaction transaction(Connection_);
-    const Outcome outcome = hold(read);
-    if (outcome != Outcome::Done) return outcome;
     QStringList sets;
     QVariantList bound;
     Record after = read;
@@ -225,28 +233,34 @@ Outcome SqlRecords::update(Record& read, const std::vector<Change>& values) {
     }
     if (Table_.version) sets.append(QStringLiteral("%1 = %1 + 1").arg(nameOf(*Table_.version)));
     const Condition condition = isKey(keyOf(Table_, read));
-    Connection_
-        .run(QStringLiteral("UPDATE %1 SET %2 WHERE %3")
-                 .arg(Dialect::quoted(Table_.name), sets.join(QLatin1String(", ")), condition.text),
-             bound + condition.values)
-        .finish();
-    const std::optional<Record> stored = this->read(keyOf(Table_, after));
-    transaction.commit();
+    const QString statement = QStringLiteral("UPDATE %1 SET %2 WHERE %3")
+                                  .arg(Dialect::quoted(Table_.name), sets.join(QLatin1String(", ")), condition.text);
+    Outcome outcome = Outcome::Done;
+    std::optional<Record> stored;
+    Connection_.transact(
+        [&] {
+            outcome = hold(read);
+            if (outcome != Outcome::Done) return;
+            Connection_.run(statement, bound + condition.values).finish();
+            stored = this->read(keyOf(Table_, after));
+        },
+        [&] { return stored && isThere(*stored); });
     if (stored) read = *stored;
-    return Outcome::Done;
+    return outcome;
 }
 
 Outcome SqlRecords::remove(const Record& read) {
-    SqlTransaction transaction(Connection_);
-    const Outcome outcome = hold(read);
-    if (outcome != Outcome::Done) return outcome;
     const Condition condition = isKey(keyOf(Table_, read));
-    Connection_
-        .run(QStringLiteral("DELETE FROM %1 WHERE %2").arg(Dialect::quoted(Table_.name), condition.text),
-             condition.values)
-        .finish();
-    transaction.commit();
-    return Outcome::Done;
+    const QString statement =
+        QStringLiteral("DELETE FROM %1 WHERE %2").arg(Dialect::quoted(Table_.name), condition.text);
+    Outcome outcome = Outcome::Done;
+    Connection_.transact(
+        [&] {
+            outcome = hold(read);
+            if (outcome == Outcome::Done) Connection_.run(statement, condition.values).finish();
+        },
+        [&] { return outcome == Outcome::Done && !this->read(keyOf(Table_, read)); });
+    return outcome;
 }
 
 }  // namespace kel::qt

@@ -45,6 +45,8 @@ private:
     QVariantList bound(const std::vector<records::Change>& values) const;
     /// Reads the record, so that nobody changes it before the transaction is over; then whether it is as it was `read`.
     records::Outcome hold(const records::Record& read);
+    /// Whether it stands there just so.
+    bool isThere(const records::Record& record);
     records::Record recordIn(const QSqlQuery& query) const;
     std::vector<records::Record> all(const QString& rest, const QVariantList& values);
 

@@ -25,6 +25,8 @@ public:
     std::optional<Table> table(std::u16string_view name) override { return Schema_.table(name); }
 
     Table makeTable(Table table) override {
+        if (Schema_.tables().empty())
+            for (const QString& statement : Connection_.dialect().mark()) Connection_.execute(statement);
         QStringList columns{Connection_.dialect().keyDeclaration(Dialect::quoted(records::KeyColumn))};
         for (const Column& column : table.columns) columns.append(declared(column));
         columns.append(Dialect::quoted(records::VersionColumn) + QLatin1Char(' ') +

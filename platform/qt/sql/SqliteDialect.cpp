@@ -2,6 +2,7 @@
 
 #include "platform/qt/base/TextBridge.h"
 #include "platform/qt/sql/Dialect.h"
+#include "platform/qt/sql/SqliteFile.h"
 
 namespace kel::qt {
 
@@ -17,6 +18,14 @@ constexpr int PrimaryCode = 0xFF;  ///< the rest of an error's number says more
 
 class SqliteDialect final : public Dialect {
 public:
+    QStringList setUp() const override {
+        return {QStringLiteral("PRAGMA foreign_keys = ON"), QStringLiteral("PRAGMA synchronous = FULL")};
+    }
+    QStringList mark() const override {
+        return {QStringLiteral("PRAGMA application_id = %1").arg(FileMark),
+                QStringLiteral("PRAGMA user_version = %1").arg(FileVersion)};
+    }
+
     QString typeName(const Column& column) const override {
         switch (column.type) {
             case ColumnType::Integer: return QStringLiteral("INTEGER");
@@ -67,12 +76,24 @@ public:
         const QString text = error.databaseText().isEmpty() ? error.driverText() : error.databaseText();
         switch (error.nativeErrorCode().toInt() & PrimaryCode) {
             case 5:
-            case 6: return {Kind::Busy, "Another program holds the database. Please try again."};
+            case 6:
+                return {
+                    Kind::Busy,
+                    "Another program holds the database. Please save again in a moment; what is on the screen stays."};
             case 8: return readOnly();
-            case 13: return {Kind::Full, "The disk is full. Please make room and save again."};
-            case 14: return {Kind::Wrong, "The database cannot be opened: the folder is not there or may not be used."};
+            case 10:
+                return {Kind::Full,
+                        "The disk takes no more, or does not answer. Please look after it and save again; what is on "
+                        "the screen stays."};
+            case 13:
+                return {Kind::Full, "The disk is full. Please make room and save again; what is on the screen stays."};
+            case 14:
+                return {
+                    Kind::Wrong,
+                    "The file cannot be opened. Please look whether its folder is still there and may be used; what "
+                    "is on the screen stays."};
             case 19: return constraintError(text);
-            case 26: return {Kind::Wrong, "The file is no database."};
+            case 26: return notADatabase();
             case 11: return {Kind::Wrong, "The database is damaged: " + text.toStdString()};
             default: return {Kind::Wrong, "The database says: " + text.toStdString()};
         }
