@@ -6,52 +6,13 @@
 
 #include "library/Registration.h"
 #include "tools/idl/TypeNames.h"
+#include "tools/toolbox/ToolboxPictures.h"
 
 namespace kel::idl {
 
 namespace {
 
-constexpr std::size_t Columns = 16;
-constexpr std::size_t Rows = 15;
 constexpr std::size_t Palette = 16;
-
-using Sketch = std::array<std::string_view, Rows>;
-
-struct Picture {
-    std::u16string_view className;
-    Sketch sketch;  ///< a colour a character, see `colorOf`
-};
-
-constexpr Picture Pictures[] = {
-    {u"KelText",
-     {"................", "................", "................", "kkkkkkkkkkkkkkkk", "kwwwwwwwwwwwwwwk",
-      "kwwwwwwkwwwwwwwk", "kwkkwwwkwwwwwwwk", "kwwwkwwkkkwwwwbk", "kwkkkwwkwwkwwwbk", "kwkwkwwkwwkwwwbk",
-      "kwkkkwwkkkwwwwbk", "kwwwwwwwwwwwwwwk", "kkkkkkkkkkkkkkkk", "................", "................"}},
-    {u"KelNumber",
-     {"................", "................", "................", "kkkkkkkkkkkkkkkk", "kwwwwwwwwwkggggk",
-      "kwwkwwkkkwkggkgk", "kwkkwwwwkwkgkkkk", "kwwkwwkkkwkggggk", "kwwkwwkwwwkkkkkk", "kwkkkwkkkwkkkkgk",
-      "kwwwwwwwwwkgkggk", "kwwwwwwwwwkggggk", "kkkkkkkkkkkkkkkk", "................", "................"}},
-    {u"KelDate",
-     {"................", "................", "kkkkkkkkkkkkkkkk", "kbbbbbbbbbbbbbbk", "kbbbbbbbbbbbbbbk",
-      "kkkkkkkkkkkkkkkk", "kwwkwwkwwkwwkwwk", "kwwkwwkwwkwwkwwk", "kkkkkkkkkkkkkkkk", "kwwkrrkwwkwwkwwk",
-      "kwwkrrkwwkwwkwwk", "kkkkkkkkkkkkkkkk", "kwwkwwkwwkwwkwwk", "kkkkkkkkkkkkkkkk", "................"}},
-    {u"KelTime",
-     {".....kkkkkk.....", "...kkwwwwwwkk...", "..kwwwwkkwwwwk..", "..kwwwwwkwwwwk..", ".kwwwwwwkwwwwwk.",
-      ".kwwwwwwkwwwwwk.", ".kwwwwwwkwwwwwk.", ".kwwwwwwkkkkwwk.", ".kwwwwwwwwwwwwk.", ".kwwwwwwwwwwwwk.",
-      "..kwwwwwwwwwwk..", "..kwwwwwwwwwwk..", "...kkwwwwwwkk...", ".....kkkkkk.....", "................"}},
-    {u"KelCombo",
-     {"................", "kkkkkkkkkkkkkkkk", "kwwwwwwwwwwkgggk", "kwkkwkkwkwwkkkkk", "kwwwwwwwwwwkgkgk",
-      "kkkkkkkkkkkkkkkk", "kwwwwwwwwwwwwwwk", "kwkkkwkkwwwwwwwk", "kwwwwwwwwwwwwwwk", "kbbbbbbbbbbbbbbk",
-      "kbwwwbwwbbbbbbbk", "kbbbbbbbbbbbbbbk", "kwkkwkkkkwwwwwwk", "kkkkkkkkkkkkkkkk", "................"}},
-    {u"KelCheck",
-     {"................", "................", "kkkkkkkkkkk.....", "kwwwwwwwwwk.....", "kwwwwwwwwkk.....",
-      "kwwwwwwwkkk.....", "kwkwwwwkkwk.kkk.", "kwkkwwkkwwk...k.", "kwwkkkkwwwk.kkk.", "kwwwkkwwwwk.k.k.",
-      "kwwwwwwwwwk.kkk.", "kwwwwwwwwwk.....", "kkkkkkkkkkk.....", "................", "................"}},
-    {u"KelProgressBar",
-     {"................", "................", "................", "................", "kkkkkkkkkkkkkkkk",
-      "kwwwwwwwwwwwwwwk", "kwbbbwbbbwwwwwwk", "kwbbbwbbbwwwwwwk", "kwbbbwbbbwwwwwwk", "kwbbbwbbbwwwwwwk",
-      "kwwwwwwwwwwwwwwk", "kkkkkkkkkkkkkkkk", "................", "................", "................"}},
-};
 
 /// Index into the usual sixteen colours.
 std::uint8_t colorOf(char mark) {
@@ -73,17 +34,18 @@ class BitmapFile {
 public:
     explicit BitmapFile(const std::filesystem::path& path) : Out_(path, std::ios::binary) {}
 
-    void write(const Sketch& sketch) {
+    void write(const toolbox::Sketch& sketch) {
         constexpr std::uint32_t Bits = 14 + 40 + Palette * 4;
-        constexpr std::uint32_t Size = Bits + Rows * Columns / 2;
+        constexpr std::uint32_t Size = Bits + toolbox::Rows * toolbox::Columns / 2;
         Out_ << "BM";
-        for (const std::uint32_t word : {Size, 0U, Bits, 40U, std::uint32_t{Columns}, std::uint32_t{Rows}})
+        for (const std::uint32_t word :
+             {Size, 0U, Bits, 40U, std::uint32_t{toolbox::Columns}, std::uint32_t{toolbox::Rows}})
             number(word, 4);
         number(1, 2);  // planes
         number(4, 2);  // bits a pixel
         for (const std::uint32_t word : {0U, 0U, 0U, 0U, 0U, 0U}) number(word, 4);
         for (const std::uint32_t color : SystemColors) number(color, 4);
-        for (std::size_t row = Rows; row-- > 0;) writeRow(sketch[row]);
+        for (std::size_t row = toolbox::Rows; row-- > 0;) writeRow(sketch[row]);
     }
 
 private:
@@ -92,18 +54,12 @@ private:
     }
 
     void writeRow(std::string_view marks) {
-        for (std::size_t column = 0; column < Columns; column += 2)
+        for (std::size_t column = 0; column < toolbox::Columns; column += 2)
             Out_.put(static_cast<char>(colorOf(marks.at(column)) << 4U | colorOf(marks.at(column + 1))));
     }
 
     std::ofstream Out_;
 };
-
-const Sketch& sketchOf(const ClassModel& model) {
-    for (const Picture& picture : Pictures)
-        if (picture.className == model.name) return picture.sketch;
-    throw std::runtime_error("no toolbox picture for class " + narrow(model.name));
-}
 
 }  // namespace
 
@@ -113,7 +69,7 @@ void writeResources(const std::filesystem::path& script, const ClassRegistry& cl
     for (const ClassModel* model : classes.all()) {
         if (!model->isControl()) continue;
         const std::string file = narrow(model->name) + ".bmp";
-        BitmapFile(script.parent_path() / file).write(sketchOf(*model));
+        BitmapFile(script.parent_path() / file).write(toolbox::sketchOf(*model));
         out << registered(*model).toolboxPicture << " BITMAP \"" << file << "\"\n";
     }
     if (!out.flush()) throw std::runtime_error("cannot write " + script.string());

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <iterator>
 
+#include "tools/qtwidgets/QtType.h"
+#include "values/Text.h"
+
 namespace kel::qtwidgets {
 
 namespace {
@@ -17,16 +20,17 @@ constexpr TypedKind Flag{"bool", "", "toFlag", "fromFlag", "", "flagFromBound"};
 
 constexpr TypedProperty TypedProperties[] = {
     {u"KelText", u"Text", "text", Lines, "textChanged",
-     "Lines end in a line feed, as in Qt's own boxes; `textRaw` has them as the control does, in CR LF."},
+     "Lines end in a line feed, as in Qt's own boxes; `textRaw` has them as the control does, in CR LF.",
+     "The text; one of several lines without the empty ones at its end"},
     {u"KelNumber", u"Value", "value", Number, "valueChanged", "A null is 0."},
     {u"KelNumber", u"MinValue", "minimum", Number},
     {u"KelNumber", u"MaxValue", "maximum", Number},
     {u"KelNumber", u"UpDownChange", "singleStep", Number},
-    {u"KelDate", u"Value", "date", Day, "dateChanged", "No date is an invalid QDate."},
+    {u"KelDate", u"Value", "date", Day, "dateChanged", "No date is an invalid QDate.", "The date"},
     {u"KelDate", u"MinValue", "minimumDate", Day},
     {u"KelDate", u"MaxValue", "maximumDate", Day},
     {u"KelTime", u"Value", "time", Time, "timeChanged",
-     "No time is an invalid QTime. Milliseconds are rounded to the nearest second of the day."},
+     "No time is an invalid QTime. Milliseconds are rounded to the nearest second of the day.", "The time"},
     {u"KelTime", u"MinValue", "minimumTime", Time},
     {u"KelTime", u"MaxValue", "maximumTime", Time},
     {u"KelCombo", u"Text", "text", Text, "textChanged"},
@@ -100,6 +104,16 @@ const EventSignal* signalOf(const ClassModel& model, const EventRow& event) {
         std::begin(EventSignals), std::end(EventSignals),
         [&](const EventSignal& signal) { return signal.model == model.name && signal.event == event.name; });
     return found != std::end(EventSignals) ? found : nullptr;
+}
+
+std::string qtNameOf(const ClassModel& model, const MemberRow& member) {
+    const TypedProperty* const typed = typedProperty(model, member);
+    return typed != nullptr ? std::string(typed->name) : lowerName(member.name);
+}
+
+std::string helpOf(const ClassModel& model, const MemberRow& member) {
+    const TypedProperty* const typed = typedProperty(model, member);
+    return typed != nullptr && !typed->help.empty() ? std::string(typed->help) : toUtf8(member.help);
 }
 
 bool isLeftOut(const MemberRow& member) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -28,6 +29,7 @@ struct TypedProperty {
     const TypedKind& kind;
     std::string_view notify{};  ///< the signal of the value that the control holds; empty for other properties
     std::string_view note{};    ///< that whoever reads the class is told as well
+    std::string_view help{};    ///< in Qt's terms, where the member's own words are of another type's
 
     bool isHeldValue() const { return !notify.empty(); }
     bool isBound() const { return isHeldValue() && !kind.fromBound.empty(); }
@@ -60,6 +62,10 @@ const TypedProperty* typedProperty(const ClassModel& model, const MemberRow& mem
 const TypedProperty* heldValue(const ClassModel& model);
 std::vector<MadeProperty> madeProperties(const ClassModel& model);
 const EventSignal* signalOf(const ClassModel& model, const EventRow& event);
+
+/// The property that a tool shows for the member, and what it says of it.
+std::string qtNameOf(const ClassModel& model, const MemberRow& member);
+std::string helpOf(const ClassModel& model, const MemberRow& member);
 
 /// A member that is no business of a Qt program's.
 bool isLeftOut(const MemberRow& member);

@@ -49,8 +49,7 @@ template <class Action>
 void forEachReset(const ClassModel& model, Action action) {
     for (const MemberRow& member : model.members) {
         if (!isResettable(member) || !member.isPersisted()) continue;
-        const TypedProperty* const typed = typedProperty(model, member);
-        action(member, typed != nullptr ? std::string(typed->name) : lowerName(member.name));
+        action(member, qtNameOf(model, member));
     }
 }
 
@@ -110,8 +109,9 @@ bool writeStandingProperty(std::ostream& out, const MemberRow& member) {
 
 void writeTypedGetters(std::ostream& out, const ClassModel& model) {
     forEachTyped(model, [&](const MemberRow& member, const TypedProperty& typed) {
-        out << "    /// " << toUtf8(member.help) << ".\n";
-        if (typed.isHeldValue()) out << "    /// What is being typed counts, and stays as it is typed.\n";
+        out << "    /// " << helpOf(model, member) << ".\n";
+        if (typed.isHeldValue() && isCleared(model))
+            out << "    /// What is being typed counts, and stays as it is typed.\n";
         if (!typed.note.empty()) out << "    /// " << typed.note << '\n';
         out << "    " << typed.kind.type << ' ' << typed.name << "() const;\n";
     });
@@ -138,8 +138,9 @@ void writeTypedSlots(std::ostream& out, const ClassModel& model) {
 
 void writeTypedSignals(std::ostream& out, const ClassModel& model) {
     if (const TypedProperty* const held = heldValue(model))
-        out << "    /// The value is another one, whoever changed it; what is typed is one when it is committed.\n"
-            << "    void " << held->notify << '(' << parameter(held->kind.type, held->name) << ");\n";
+        out << "    /// The value is another one, whoever changed it"
+            << (isCleared(model) ? "; what is typed is one when it is committed" : "") << ".\n    void " << held->notify
+            << '(' << parameter(held->kind.type, held->name) << ");\n";
     if (tellsEdits(model)) out << "    /// A person has edited the text.\n    void textEdited(const QString& text);\n";
     for (const EventRow& event : model.events)
         if (const EventSignal* const signal = signalOf(model, event))

@@ -12,7 +12,6 @@ namespace kel::qtwidgets {
 
 namespace {
 
-constexpr std::string_view Notice = "// Made from the type model by kel-qtwidgets.\n";
 constexpr std::u16string_view MeasuredMember = u"CaptionWidth";  ///< by the widget, until it is put
 
 bool isOptional(const ParameterRow& parameter) { return parameter.optional; }
