@@ -218,7 +218,8 @@ void Binding::show(const Cell& cell) {
         case Kind::Time: {
             const std::u16string text = records::textOf(cell);
             const auto date = Kind_ == Kind::Date ? readIsoDay(text) : readIsoTime(text);
-            value = date ? Variant(*date) : Variant(Null{});
+            value = Null{};
+            if (date) value = *date;
             break;
         }
         default: value = ByTag_ ? textWithTag(records::textOf(cell)) : records::textOf(cell); break;
