@@ -152,6 +152,7 @@ void ControlSite::setEnabled(bool enabled) {
     if (!enabled && Active_ != nullptr) Active_->giveUpFocus();
     if (enabled != Enabled_) return;  // a handler has put it again
     Widget_->setEnabled(enabled);
+    if (Active_ != nullptr) fieldEnabled(*Active_, isFieldEnabled());
 }
 
 void ControlSite::enabledMayDiffer() {
@@ -327,9 +328,11 @@ void ControlSite::fieldShown(FieldView& field) {
     Widget_->update();
 }
 
-/// Qt gives the focus to whom a widget names in its place, disabled or not.
+/// Qt gives the focus to whom a widget names in its place, disabled or not; but none to a widget that is disabled
+/// itself, which keeps its place in the order of the Tab key.
 void ControlSite::fieldEnabled(const FieldView& field, bool enabled) {
     if (&field != Active_) return;
+    enabled = enabled || Widget_->testAttribute(Qt::WA_ForceDisabled);
     // A policy that is set goes to the one in the widget's place as well, who has its own.
     Widget_->setFocusProxy(nullptr);
     Widget_->setFocusPolicy(enabled ? Qt::TabFocus : Qt::NoFocus);
