@@ -22,11 +22,6 @@ constexpr struct {
     {u"VB.Line", ForeignBlock::Kind::Line},
 };
 
-/// Blocks that a form has without showing them.
-bool isUnseen(const FormBlock& block) {
-    return equalsIgnoringCase(block.className, u"VB.Menu") || equalsIgnoringCase(block.className, u"VB.Timer");
-}
-
 ForeignBlock::Kind foreignKind(const FormBlock& block) {
     for (const auto& row : ForeignKinds)
         if (equalsIgnoringCase(block.className, row.className)) return row.kind;
@@ -73,19 +68,28 @@ WindowSpec windowOf(const FormFile& file) {
     return {file.text(0, u"Caption"), file.clientSize(0), file.boolean(0, u"RightToLeft", false)};
 }
 
-const ClassModel& modelOf(const FormFile& file, const FormBlock& block) {
-    const ClassModel* model = libraryClasses().find(block.className);
-    if (model == nullptr || !model->isControl())
-        throw FormError(file.path(), block.line, "the library has no control " + toUtf8(block.className));
-    return *model;
-}
-
 void setIfDifferent(FormFile& file, FormBlockId block, std::u16string_view name, std::int32_t before,
                     std::int32_t now) {
     if (now != before) file.set(block, name, now);
 }
 
 }  // namespace
+
+const ClassModel& controlModelOf(const FormFile& file, const FormBlock& block) {
+    const ClassModel* model = libraryClasses().find(block.className);
+    if (model == nullptr || !model->isControl())
+        throw FormError(file.path(), block.line, "the library has no control " + toUtf8(block.className));
+    return *model;
+}
+
+bool isPropertyOf(const ClassModel& model, std::u16string_view name) {
+    constexpr std::u16string_view OfObject = u"Object.";
+    const bool qualified = equalsIgnoringCase(name.substr(0, OfObject.size()), OfObject);
+    if (name.starts_with(u'_') || isHostProperty(qualified ? name.substr(OfObject.size()) : name)) return true;
+    return std::any_of(model.loaded.begin(), model.loaded.end(), [name](const PersistedRow& row) {
+        return equalsIgnoringCase(row.name, name) || equalsIgnoringCase(row.readName, name);
+    });
+}
 
 Form::Form(Home& home, System& system, ControlObserver& observer, FormFile file)
     : File_(std::move(file)), Window_(home.makeWindow(windowOf(File_), system)) {
@@ -97,7 +101,7 @@ Form::Form(Home& home, System& system, ControlObserver& observer, FormFile file)
         panels[id] = parent;
         if (isUnseen(block)) continue;
         if (isLibraryClass(block)) {
-            placeControl(id, modelOf(File_, block), placementOf(File_, id, parent), observer);
+            placeControl(id, controlModelOf(File_, block), placementOf(File_, id, parent), observer);
         } else if (PlacedPanel* panel = Window_->placeForeign(foreignBlock(File_, id, parent))) {
             panels[id] = panel;
         }

@@ -11,6 +11,13 @@
 
 namespace kel {
 
+/// The class of a block of this library's. Throws FormError where there is none of that name.
+const ClassModel& controlModelOf(const FormFile& file, const FormBlock& block);
+
+/// Whether the control reads a property of that name, or the form gives it to the control. "Object." stands before one
+/// whose name the control has, too.
+bool isPropertyOf(const ClassModel& model, std::u16string_view name);
+
 /// A form in a window of some home: its controls loaded from the blocks of a form file.
 class Form {
 public:

@@ -4,6 +4,7 @@
 #include <iostream>
 #include <iterator>
 
+#include "apps/kelforms/Convert.h"
 #include "apps/kelforms/Databases.h"
 #include "apps/kelforms/Homes.h"
 #include "apps/kelforms/Lists.h"
@@ -128,19 +129,6 @@ ExitStatus saveForm(const Options& options) {
     return Done;
 }
 
-/// A property that the form gives to the control. "Object." stands before one whose name the control has, too.
-bool isOfForm(std::u16string_view name) {
-    constexpr std::u16string_view OfObject = u"Object.";
-    const bool qualified = equalsIgnoringCase(name.substr(0, OfObject.size()), OfObject);
-    return name.starts_with(u'_') || isHostProperty(qualified ? name.substr(OfObject.size()) : name);
-}
-
-bool isPersisted(const ClassModel& model, std::u16string_view name) {
-    return std::any_of(model.loaded.begin(), model.loaded.end(), [name](const PersistedRow& row) {
-        return equalsIgnoringCase(row.name, name) || equalsIgnoringCase(row.readName, name);
-    });
-}
-
 void printBlock(const FormFile& file, FormBlockId id) {
     const FormBlock& block = file.block(id);
     std::size_t depth = 0;
@@ -152,7 +140,7 @@ void printBlock(const FormFile& file, FormBlockId id) {
     const ClassModel* model = isLibraryClass(block) ? libraryClasses().find(block.className) : nullptr;
     if (model == nullptr) return;
     for (const FormProperty& property : file.properties(id))
-        if (!isOfForm(property.name) && !isPersisted(*model, property.name))
+        if (!isPropertyOf(*model, property.name))
             std::cout << property.line << ": " << std::string(2 * depth + 2, ' ') << toUtf8(property.name)
                       << " is no property of " << toUtf8(model->name) << "; it is kept as it is\n";
 }
@@ -203,9 +191,9 @@ ExitStatus describe(const Options& options) {
 constexpr struct {
     const char* name;
     ExitStatus (*run)(const Options& options);
-} Commands[] = {{"run", runForm},       {"make", makeForm},  {"play", playScript},
-                {"check", checkForm},   {"save", saveForm},  {"import", importList},
-                {"export", exportList}, {"shot", shootForm}, {"describe", describe}};
+} Commands[] = {{"run", runForm},    {"make", makeForm},       {"play", playScript},   {"check", checkForm},
+                {"save", saveForm},  {"convert", convertForm}, {"import", importList}, {"export", exportList},
+                {"shot", shootForm}, {"describe", describe}};
 
 }  // namespace
 

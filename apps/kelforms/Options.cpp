@@ -20,6 +20,7 @@ const char* const Usage =
     "kelforms play FORM.frm SCRIPT|- [options]            play a script on the form\n"
     "kelforms check FORM.frm                              say what the file holds and what is wrong with it\n"
     "kelforms save FORM.frm OUT.frm                       load every control and write the form back\n"
+    "kelforms convert FORM.frm OUT.ui                     carry the form over to Qt's designer\n"
     "kelforms shot FORM.frm OUT.png [--locale L]          take a picture of the form\n"
     "kelforms describe [CLASS] [--json|--markdown]        members, events and saved properties\n"
     "\n"
@@ -151,9 +152,9 @@ struct CommandRow {
     std::size_t leastFiles;
     std::size_t mostFiles;
 };
-constexpr CommandRow Commands[] = {{"run", 1, 1},   {"make", 3, 3},     {"play", 2, 2},
-                                   {"check", 1, 1}, {"save", 2, 2},     {"import", 2, 2},
-                                   {"shot", 2, 2},  {"describe", 0, 1}, {"export", 2, 2}};
+constexpr CommandRow Commands[] = {{"run", 1, 1},      {"make", 3, 3},    {"play", 2, 2},   {"check", 1, 1},
+                                   {"save", 2, 2},     {"convert", 2, 2}, {"import", 2, 2}, {"shot", 2, 2},
+                                   {"describe", 0, 1}, {"export", 2, 2}};
 
 void checkCommand(const Options& options) {
     const auto found = std::find_if(std::begin(Commands), std::end(Commands),

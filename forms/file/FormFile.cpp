@@ -1,5 +1,7 @@
 #include "forms/file/FormFile.h"
 
+#include <algorithm>
+
 #include "forms/file/FormEdit.h"
 #include "forms/file/FormParser.h"
 #include "forms/file/FormReading.h"
@@ -25,6 +27,33 @@ std::optional<FormProperty> FormFile::find(FormBlockId block, std::u16string_vie
     const auto entry = findEntry(Model_, block, name);
     if (!entry || entry->isGroup()) return std::nullopt;
     return propertyAt(Model_, entry->first());
+}
+
+std::vector<FormGroup> FormFile::groups(FormBlockId block) const {
+    std::vector<FormGroup> groups;
+    for (FormEntries entries(Model_, block); entries.next();) {
+        if (!entries.isGroup()) continue;
+        FormGroup& group = groups.emplace_back();
+        group.name = Model_.nameOf(entries.first());
+        group.line = Model_.lines[entries.first()].number;
+        for (auto line = Model_.lines[entries.first()].next; line != entries.last(); line = Model_.lines[line].next)
+            if (Model_.lines[line].kind == FormLine::Kind::Property)
+                group.properties.push_back(propertyAt(Model_, line));
+    }
+    return groups;
+}
+
+std::size_t FormFile::codeLine() const {
+    const std::string_view bytes = *Model_.bytes;
+    auto number = static_cast<std::size_t>(
+        std::count(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(Model_.codeStart), '\n') + 1);
+    for (std::string_view code = bytes.substr(Model_.codeStart); !code.empty(); ++number) {
+        const std::string_view line = code.substr(0, code.find('\n'));
+        const bool isBlank = line.find_first_not_of(" \t\r") == std::string_view::npos;
+        if (!isBlank && !line.starts_with("Attribute ")) return number;
+        code.remove_prefix(std::min(line.size() + 1, code.size()));
+    }
+    return 0;
 }
 
 Variant FormFile::valueAs(const FormProperty& property, TypeTag type) const {

@@ -31,6 +31,10 @@ public:
     /// The properties of a block itself, those in its groups and in nested blocks left out, as in the file.
     std::vector<FormProperty> properties(FormBlockId block) const;
     std::optional<FormProperty> find(FormBlockId block, std::u16string_view name) const;
+    /// `BeginProperty` ... `EndProperty` in a block itself.
+    std::vector<FormGroup> groups(FormBlockId block) const;
+    /// The line on which the code behind the form begins, its attributes left out; 0 where there is none.
+    std::size_t codeLine() const;
 
     /// The value as exactly `type`, a text read from its resource file if it stands in one. Throws FormError
     /// when it is no such value or cannot be read.

@@ -13,6 +13,10 @@ bool isLibraryClass(const FormBlock& block) {
     return point != std::u16string_view::npos && equalsIgnoringCase(name.substr(0, point), LibraryName);
 }
 
+bool isUnseen(const FormBlock& block) {
+    return equalsIgnoringCase(block.className, u"VB.Menu") || equalsIgnoringCase(block.className, u"VB.Timer");
+}
+
 bool isHostProperty(std::u16string_view name) {
     static constexpr std::u16string_view Names[] = {
         u"Align",      u"Cancel",     u"CausesValidation", u"DataBindings", u"DataField",

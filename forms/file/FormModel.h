@@ -34,6 +34,9 @@ struct FormBlock {
 /// True for the controls of this library: "KelControls8.KelText", case ignored.
 bool isLibraryClass(const FormBlock& block);
 
+/// One that a form has without showing it: a menu, a timer.
+bool isUnseen(const FormBlock& block);
+
 /// A property that the form keeps for every control, whatever its class.
 bool isHostProperty(std::u16string_view name);
 
@@ -49,6 +52,13 @@ struct FormProperty {
     std::u16string name;
     FormValue value;
     std::size_t line = 0;  ///< 1-based; of an added property the line it stands after
+};
+
+/// Properties that belong together, such as those of a font, a copy. Those of groups inside are among them.
+struct FormGroup {
+    std::u16string name;
+    std::vector<FormProperty> properties;
+    std::size_t line = 0;  ///< of its BeginProperty, 1-based
 };
 
 /// A form file as its lines, which the file's own bytes back until they are changed. Everything up to the

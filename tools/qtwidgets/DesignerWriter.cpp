@@ -110,8 +110,8 @@ void writeWidget(std::ostream& out, const ClassModel& model) {
 std::string designerFacts(const std::vector<const ClassModel*>& controls) {
     std::ostringstream out;
     out << Notice;
-    for (const ClassModel* const model : controls) out << "#include <KelControls8/" << widgetName(*model) << ".h>\n";
-    out << "\n#include \"platform/qt/designer/WidgetFacts.h\"\n\nnamespace kel::qt::designer {\n\nnamespace {\n";
+    for (const ClassModel* const model : controls) out << "#include \"" << widgetName(*model) << ".h\"\n";
+    out << "#include \"platform/qt/designer/WidgetFacts.h\"\n\nnamespace kel::qt::designer {\n\nnamespace {\n";
     for (const ClassModel* const model : controls) {
         writeProperties(out, *model);
         writePicture(out, *model);
