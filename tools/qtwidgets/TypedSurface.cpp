@@ -13,7 +13,7 @@ namespace {
 constexpr TypedKind Lines{"QString", "QString", "toLines", "fromLines", ", multiLine()", "linesFromBound"};
 constexpr TypedKind Text{"QString", "QString", "toText", "fromText", "", "textFromBound"};
 constexpr TypedKind Number{"double", "", "toNumber", "fromNumber", "", "numberFromBound"};
-constexpr TypedKind Count{"int", "", "toInteger", "fromInteger", "", ""};
+constexpr TypedKind Count{"int", "", "toInteger", "fromInteger", "", "countFromBound"};
 constexpr TypedKind Day{"QDate", "QDate", "toDate", "fromDate", "", "dateFromBound"};
 constexpr TypedKind Time{"QTime", "QTime", "toTime", "fromTime", "", "timeFromBound"};
 constexpr TypedKind Flag{"bool", "", "toFlag", "fromFlag", "", "flagFromBound"};

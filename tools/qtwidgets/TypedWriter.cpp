@@ -35,7 +35,7 @@ bool hasMember(const ClassModel& model, std::u16string_view name) {
 /// A field that can be empty.
 bool isCleared(const ClassModel& model) {
     const TypedProperty* const held = heldValue(model);
-    return held != nullptr && held->isBound() && held->kind.type != "bool";
+    return held != nullptr && isField(model) && held->isBound() && held->kind.type != "bool";
 }
 
 template <class Action>

@@ -22,6 +22,7 @@ Variant dateFromBound(const QVariant& value);
 Variant timeFromBound(const QVariant& value);
 /// A text has a decimal point; what is no number is 0.
 Variant numberFromBound(const QVariant& value);
+inline Variant countFromBound(const QVariant& value) { return fromInteger(value.toInt()); }
 inline Variant flagFromBound(const QVariant& value) { return value.toBool(); }
 inline Variant textFromBound(const QVariant& value) { return fromText(value.toString()); }
 inline Variant linesFromBound(const QVariant& value, bool multiLine) { return fromLines(value.toString(), multiLine); }
