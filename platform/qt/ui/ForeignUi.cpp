@@ -11,6 +11,7 @@ namespace kel::qt {
 namespace {
 
 constexpr std::u16string_view LabelClass = u"VB.Label";
+constexpr std::u16string_view FrameClass = u"VB.Frame";
 
 QString name(const char* text) { return QString::fromLatin1(text); }
 
@@ -41,9 +42,7 @@ void writeBorder(BlockReader& block, UiWriter& ui, std::int32_t byDefault) {
 
 // ---- Classes
 
-const char* frameClass(BlockReader& block) {
-    return block.file().integer(block.id(), u"BorderStyle", 1) != 0 ? "QGroupBox" : "QFrame";
-}
+const char* frameClass(BlockReader& block) { return isTitledFrame(block.file(), block.id()) ? "QGroupBox" : "QFrame"; }
 
 void writeFrame(BlockReader& block, UiWriter& ui) {
     if (block.integer(u"BorderStyle").value_or(1) == 0)
@@ -141,7 +140,7 @@ constexpr ForeignUi Unknown{.formClass = {}, .qtClass = always<Frame>, .write = 
 
 constexpr ForeignUi Known[] = {
     {.formClass = LabelClass, .qtClass = always<Label>, .write = writeNothing},
-    {.formClass = u"VB.Frame", .qtClass = frameClass, .write = writeFrame},
+    {.formClass = FrameClass, .qtClass = frameClass, .write = writeFrame},
     {.formClass = u"VB.PictureBox", .qtClass = always<Frame>, .write = writePicture},
     {.formClass = u"VB.Line", .qtClass = always<Line>, .write = writeLine},
     {.formClass = u"VB.CommandButton",
@@ -194,6 +193,10 @@ const ForeignUi& foreignUi(const FormBlock& block) {
 }
 
 bool isLabel(const FormBlock& block) { return equalsIgnoringCase(block.className, LabelClass); }
+
+bool isTitledFrame(const FormFile& file, FormBlockId id) {
+    return equalsIgnoringCase(file.block(id).className, FrameClass) && file.integer(id, u"BorderStyle", 1) != 0;
+}
 
 /// Without something to lead to, a label shows the mark of a mnemonic as it stands.
 void writeLabel(BlockReader& block, UiWriter& ui, const QString& buddy) {

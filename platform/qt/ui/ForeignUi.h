@@ -26,5 +26,7 @@ const ForeignUi& foreignUi(const FormBlock& block);
 /// How a label is written depends on whether there is something that its mnemonic leads to: `buddy`, or empty.
 void writeLabel(BlockReader& block, UiWriter& ui, const QString& buddy);
 bool isLabel(const FormBlock& block);
+/// A frame with a line around it.
+bool isTitledFrame(const FormFile& file, FormBlockId id);
 
 }  // namespace kel::qt

@@ -55,6 +55,10 @@ QString enumText(const QMetaProperty& property, const QVariant& value) {
            QString::fromLatin1(type.valueToKey(value.toInt()));
 }
 
+/// A new field makes its caption as wide as that needs, and marks it as mandatory only when it is told that it is: both
+/// are written though they are a new one's.
+bool isTold(const QString& property) { return property == u"captionWidth" || property == u"mandatory"; }
+
 /// Colours that the desktop chooses for such a thing anyway.
 bool isUsual(std::string_view role, std::uint32_t color) {
     constexpr std::uint32_t WindowGround = 0x80000005;
@@ -92,6 +96,8 @@ private:
     void control(FormBlockId id, UiWriter& ui);
     void foreign(FormBlockId id, UiWriter& ui);
 
+    std::int32_t liftOf(FormBlockId id) const;
+    Rect boundsOf(FormBlockId id) const;
     void place(BlockReader& block, UiWriter& ui);
     void controlValues(BlockReader& block, const ClassModel& model, UiWriter& ui);
     bool leaveToday(const Control& control, BlockReader& block);
@@ -234,17 +240,32 @@ void Conversion::foreign(FormBlockId id, UiWriter& ui) {
     keep(block);
 }
 
-/// What every widget has that stands on a form.
-void Conversion::place(BlockReader& block, UiWriter& ui) {
-    Rect bounds = File_.bounds(block.id());
-    if (const auto right = block.file().find(block.id(), u"X2")) {
-        const auto edge = [&](std::u16string_view name) { return withinReach(File_.integer(block.id(), name)); };
+/// Of a frame that has a title. Qt's stands above the line around the rest and not in it, so that the box begins
+/// higher, while all that is in it stays where it was.
+std::int32_t Conversion::liftOf(FormBlockId id) const {
+    constexpr std::int32_t MostTwips = 120;
+    if (!isTitledFrame(File_, id)) return 0;
+    return std::clamp(File_.bounds(id).top, 0, MostTwips);
+}
+
+/// Twips, inside the widget around it.
+Rect Conversion::boundsOf(FormBlockId id) const {
+    Rect bounds = File_.bounds(id);
+    if (File_.find(id, u"X2")) {
+        const auto edge = [&](std::u16string_view name) { return withinReach(File_.integer(id, name)); };
         constexpr std::int32_t Thickness = 45;
         bounds = {std::min(edge(u"X1"), edge(u"X2")), std::min(edge(u"Y1"), edge(u"Y2")),
                   std::max(std::abs(edge(u"X2") - edge(u"X1")), Thickness),
                   std::max(std::abs(edge(u"Y2") - edge(u"Y1")), Thickness)};
     }
-    ui.property(QStringLiteral("geometry"), Grid_.pixels(bounds));
+    bounds.top += liftOf(File_.block(id).parent) - liftOf(id);
+    bounds.height += liftOf(id);
+    return bounds;
+}
+
+/// What every widget has that stands on a form.
+void Conversion::place(BlockReader& block, UiWriter& ui) {
+    ui.property(QStringLiteral("geometry"), Grid_.pixels(boundsOf(block.id())));
     if (const auto tip = block.text(u"ToolTipText")) ui.property(QStringLiteral("toolTip"), toQString(*tip));
     if (!block.boolean(u"Visible").value_or(true)) ui.property(QStringLiteral("visible"), false);
     if (!block.boolean(u"TabStop").value_or(true))
@@ -272,9 +293,7 @@ void Conversion::controlValues(BlockReader& block, const ClassModel& model, UiWr
         if (known == nullptr || qstrcmp(property.name(), today) == 0) continue;
         const QVariant value = property.read(loaded.get());
         const QString name = QString::fromLatin1(property.name());
-        // A new field makes its caption as wide as that needs, which is another width than any form's.
-        const bool isMeasured = name == u"captionWidth";
-        if (!isMeasured && value == property.read(fresh.get())) continue;
+        if (!isTold(name) && value == property.read(fresh.get())) continue;
         if (property.isEnumType())
             ui.enumeration(name, enumText(property, value));
         else
