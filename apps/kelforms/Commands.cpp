@@ -188,19 +188,32 @@ ExitStatus describe(const Options& options) {
     return Done;
 }
 
-constexpr struct {
+struct CommandRow {
     const char* name;
+    std::size_t leastFiles;
+    std::size_t mostFiles;
     ExitStatus (*run)(const Options& options);
-} Commands[] = {{"run", runForm},    {"make", makeForm},       {"play", playScript},   {"check", checkForm},
-                {"save", saveForm},  {"convert", convertForm}, {"import", importList}, {"export", exportList},
-                {"shot", shootForm}, {"describe", describe}};
+};
+constexpr CommandRow Commands[] = {
+    {"run", 1, 1, runForm},       {"make", 3, 3, makeForm},       {"import", 2, 2, importList},
+    {"export", 2, 2, exportList}, {"play", 2, 2, playScript},     {"check", 1, 1, checkForm},
+    {"save", 2, 2, saveForm},     {"convert", 2, 2, convertForm}, {"shot", 2, 2, shootForm},
+    {"describe", 0, 1, describe},
+};
+
+/// Throws UsageError where there is no such command, or not with so many files.
+const CommandRow& commandOf(const Options& options) {
+    const auto* const found = std::find_if(std::begin(Commands), std::end(Commands),
+                                           [&](const CommandRow& row) { return options.command == row.name; });
+    if (found == std::end(Commands)) throw UsageError("there is no command \"" + options.command + "\"");
+    if (options.files.size() < found->leastFiles) throw UsageError(options.command + ": a file is missing");
+    if (options.files.size() > found->mostFiles)
+        throw UsageError(options.command + ": \"" + options.files[found->mostFiles] + "\" is too much");
+    return *found;
+}
 
 }  // namespace
 
-ExitStatus runCommand(const Options& options) {
-    const auto found = std::find_if(std::begin(Commands), std::end(Commands),
-                                    [&](const auto& row) { return options.command == row.name; });
-    return found->run(options);
-}
+ExitStatus runCommand(const Options& options) { return commandOf(options).run(options); }
 
 }  // namespace kel::app

@@ -147,24 +147,6 @@ bool readQtOption(const std::string& word, Reader& reader, Options& options) {
     return true;
 }
 
-struct CommandRow {
-    const char* name;
-    std::size_t leastFiles;
-    std::size_t mostFiles;
-};
-constexpr CommandRow Commands[] = {{"run", 1, 1},      {"make", 3, 3},    {"play", 2, 2},   {"check", 1, 1},
-                                   {"save", 2, 2},     {"convert", 2, 2}, {"import", 2, 2}, {"shot", 2, 2},
-                                   {"describe", 0, 1}, {"export", 2, 2}};
-
-void checkCommand(const Options& options) {
-    const auto found = std::find_if(std::begin(Commands), std::end(Commands),
-                                    [&](const CommandRow& row) { return options.command == row.name; });
-    if (found == std::end(Commands)) throw UsageError("there is no command \"" + options.command + "\"");
-    if (options.files.size() < found->leastFiles) throw UsageError(options.command + ": a file is missing");
-    if (options.files.size() > found->mostFiles)
-        throw UsageError(options.command + ": \"" + options.files[found->mostFiles] + "\" is too much");
-}
-
 }  // namespace
 
 Options readOptions(const std::vector<std::string>& arguments) {
@@ -179,7 +161,6 @@ Options readOptions(const std::vector<std::string>& arguments) {
         else if (!readOption(word, reader, options) && !readQtOption(word, reader, options))
             throw UsageError("there is no option " + word);
     }
-    checkCommand(options);
     // A script prints the same on every machine.
     if (options.command == "play" && options.home.region == nullptr) options.home.region = &defaultRegion();
     return options;
