@@ -8,7 +8,6 @@
 
 #include "forms/Form.h"
 #include "records/LookupField.h"
-#include "records/Store.h"
 
 /// Which column a field of a form shows, and how a value goes from one to the other.
 namespace kel::records {
@@ -75,6 +74,8 @@ public:
 
     /// Asked with a message for the person when it is not.
     bool isValid(bool sayWhy) const;
+    /// The database alone gives the value to a new record, such as a number that counts them.
+    bool isGiven(const Column& column) const { return column.hasDefault && isLocked(); }
     /// The person cannot change it.
     bool isLocked() const { return isTrue(u"Locked"); }
     /// Whether the control itself tells the person what is wrong.
@@ -114,8 +115,8 @@ private:
 bool isField(const Control& control);
 
 /// The fields of a form with their columns, in the order of the Tab key. Throws StoreError when a column is not there
-/// or cannot keep what its field holds.
-/// Fields that keep tags are offered the records of `others`, where there are some.
-std::vector<Binding> bind(const Form& form, const Table& table, const RegionalSettings& region, Store* others);
+/// or cannot keep what its field holds. `others` has the tables that give lists to fields; without it these stay empty.
+std::vector<Binding> bind(const Form& form, const Table& table, const RegionalSettings& region,
+                          Store* others = nullptr);
 
 }  // namespace kel::records

@@ -56,6 +56,7 @@ std::optional<std::u16string> Binding::take(std::u16string_view text, const Regi
 }
 
 std::optional<std::u16string> Binding::takeText(std::u16string_view text) {
+    if (Lookup_ && Lookup_->showIfThere(std::u16string(text))) return std::nullopt;
     const TextEntry& entry = *Control_->control().widgets().entry;
     std::u16string wanted = withFieldBreaks(text);
     if (!entry.multiLine() && wanted.find(u'\r') != std::u16string::npos)
@@ -64,7 +65,6 @@ std::optional<std::u16string> Binding::takeText(std::u16string_view text) {
     if (most > 0 && wanted.size() > most)
         return u"has " + count(wanted.size(), u"characters") + u", and the field takes " + widen(std::to_string(most));
     // A tag as a list that this program has written has it, or the text that people see.
-    if (Lookup_ && Lookup_->has(wanted)) return Lookup_->show(wanted), std::nullopt;
     if (ByTag_ && !Lookup_)
         if (std::u16string item = textWithTag(wanted); !item.empty()) wanted = std::move(item);
     put(valueMember().name, wanted);

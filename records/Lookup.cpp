@@ -109,20 +109,19 @@ std::optional<std::size_t> Lookup::find(const std::u16string& key) const {
     return place == Places_.end() ? std::nullopt : std::optional(place->second);
 }
 
-bool Lookup::has(const std::u16string& key) const {
-    return find(key) || (!key.empty() && Records_->read({keyCell(Records_->table().columns[KeyPlace], key)}));
+const std::optional<std::u16string>& Lookup::other(const std::u16string& key) const {
+    const auto [text, isNew] = Others_.try_emplace(key);
+    if (isNew)
+        if (const std::optional<Record> row = Records_->read({keyCell(Records_->table().columns[KeyPlace], key)}))
+            text->second = lineOf(row->cells[TextPlace]);
+    return text->second;
 }
 
 std::u16string Lookup::textOf(const std::u16string& key) const {
     if (key.empty()) return {};
     if (const auto place = find(key)) return Texts_[*place];
-    const auto [other, isNew] = Others_.try_emplace(key);
-    if (isNew) {
-        const std::optional<Record> row = Records_->read({keyCell(Records_->table().columns[KeyPlace], key)});
-        // Another record may have the same text.
-        other->second = withKey(row ? lineOf(row->cells[TextPlace]) : std::u16string(), key);
-    }
-    return other->second;
+    // Another record may have the same text.
+    return withKey(other(key).value_or(u""), key);
 }
 
 void Lookup::add(const std::u16string& key) {

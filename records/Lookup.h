@@ -34,9 +34,8 @@ public:
     /// Counted from 0.
     std::optional<std::size_t> find(const std::u16string& key) const;
 
-    /// Whether there is such a record, in the list or not.
-    bool has(const std::u16string& key) const;
-
+    /// Whether the table has such a record.
+    bool isThere(const std::u16string& key) const { return find(key) || other(key); }
     /// The text of a record, wherever it stands; the key alone where there is no such record. One that is not in the
     /// list is read, once until the list is.
     std::u16string textOf(const std::u16string& key) const;
@@ -44,13 +43,17 @@ public:
     void add(const std::u16string& key);
 
 private:
+    /// The text of a record that is not in the list; nothing where there is none.
+    const std::optional<std::u16string>& other(const std::u16string& key) const;
+
     std::unique_ptr<RecordStore> Records_;
     std::vector<Record> Rows_;  ///< as they were read
     StringArray Texts_;
     StringArray Keys_;
-    bool HasAdded_ = false;                                              ///< as the last
-    std::unordered_map<std::u16string, std::size_t> Places_;             ///< by key
-    mutable std::unordered_map<std::u16string, std::u16string> Others_;  ///< texts by key, of what is not in the list
+    bool HasAdded_ = false;                                   ///< as the last
+    std::unordered_map<std::u16string, std::size_t> Places_;  ///< by key
+    /// Texts by key, of what is not in the list; nothing of what is not there at all.
+    mutable std::unordered_map<std::u16string, std::optional<std::u16string>> Others_;
 };
 
 }  // namespace kel::records

@@ -61,6 +61,12 @@ void LookupField::show(const std::u16string& key) {
     put(Combo_.control(), u"Text", Lookup_.textOf(key), Region_);
 }
 
+bool LookupField::showIfThere(const std::u16string& key) {
+    const bool isThere = !key.empty() && Lookup_.isThere(key);
+    if (isThere) show(key);
+    return isThere;
+}
+
 std::u16string LookupField::key() const {
     static_cast<void>(get(Combo_.control(), u"Text", Region_));  // settles what is half typed
     const ComboBox& box = *Combo_.control().widgets().comboBox;

@@ -19,13 +19,13 @@ public:
 
     /// Also a record that is not in the list; the empty key is none.
     void show(const std::u16string& key);
+    /// Where there is such a record; false when there is none.
+    bool showIfThere(const std::u16string& key);
     /// Of what stands in the field, taken as if it was left; empty for none.
     std::u16string key() const;
     /// The key now is the one that is stored.
     void markStored() { StoredKey_ = key(); }
 
-    /// Whether there is such a record, in the list or not.
-    bool has(const std::u16string& key) const { return Lookup_.has(key); }
     std::u16string textOf(const std::u16string& key) const { return Lookup_.textOf(key); }
 
 private:

@@ -8,7 +8,11 @@ namespace kel::records {
 
 RecordForm::RecordForm(Form& form, RecordStore& store, Questions& questions, const RegionalSettings& region,
                        Store* others)
-    : Form_(&form), Store_(&store), Questions_(&questions), Bindings_(bind(form, store.table(), region, others)) {
+    : Form_(&form),
+      Store_(&store),
+      Others_(others),
+      Questions_(&questions),
+      Bindings_(bind(form, store.table(), region, others)) {
     if (!toEnd(Way::Forward)) showNew();
 }
 
@@ -205,9 +209,7 @@ std::vector<Change> RecordForm::allValues() const {
     std::vector<Change> values;
     for (const Binding& binding : Bindings_) {
         const Column& column = columnOf(binding);
-        // What the person cannot give, such as a number that counts the records, the database gives.
-        if (column.hasDefault && binding.isLocked()) continue;
-        addValue(values, binding, Null{});
+        if (!binding.isGiven(column)) addValue(values, binding, Null{});
     }
     std::erase_if(values,
                   [&](const Change& change) { return isLeftToDatabase(table().columns[change.column], change.value); });

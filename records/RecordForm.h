@@ -66,6 +66,7 @@ public:
 
     const Table& table() const { return Store_->table(); }
     RecordStore& store() const { return *Store_; }
+    Store* others() const { return Others_; }
     const std::vector<Binding>& bindings() const { return Bindings_; }
     std::int64_t count() const { return Store_->count(); }
     /// From 1; nothing for a new record.
@@ -107,6 +108,7 @@ private:
 
     Form* Form_;
     RecordStore* Store_;
+    Store* Others_;
     Questions* Questions_;
     std::vector<Binding> Bindings_;  ///< in the order of the Tab key
     std::optional<Record> Shown_;

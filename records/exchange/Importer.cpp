@@ -131,7 +131,8 @@ void Importer::settleFields() {
             throw StoreError(StoreError::Kind::Wrong,
                              "The list has no column for a field that a new record needs. " + reason,
                              columnOf(field).name);
-        field.last.cell = field.binding.cell(columnOf(field), Null{});
+        field.last.cell =
+            field.binding.isGiven(columnOf(field)) ? Cell(Null{}) : field.binding.cell(columnOf(field), Null{});
     }
 }
 
@@ -189,9 +190,7 @@ bool Importer::take(const CsvReader& line, std::string& reason) {
     for (Field& field : Fields_) {
         const Cell* const cell = field.place ? read(field, line.value(*field.place), reason) : &field.last.cell;
         if (cell == nullptr) return false;
-        const Column& column = columnOf(field);
-        const bool isNotGiven = !field.place && column.hasDefault && field.binding.isLocked();
-        if (isNotGiven || isLeftToDatabase(column, *cell)) continue;
+        if (isLeftToDatabase(columnOf(field), *cell)) continue;
         if (Change* const before = valueFor(field))
             before->value = *cell;
         else

@@ -20,9 +20,9 @@ class CsvReader;
 /// says whether it is valid; a record of which the fields or the database do not take something is left out.
 class Importer {
 public:
-    /// `unseen` is a home that shows nothing; the form is opened there once more. Fields that keep tags take the
-    /// records of `others`, where there are some. All outlives it. Throws StoreError, FormError.
-    Importer(Home& unseen, const FormFile& form, RecordStore& records, Store* others);
+    /// `unseen` is a home that shows nothing; the form is opened there once more. `others` has the tables that give
+    /// lists to fields. All outlives it. Throws StoreError, FormError.
+    Importer(Home& unseen, const FormFile& form, RecordStore& records, Store* others = nullptr);
     ~Importer();
 
     struct Result {

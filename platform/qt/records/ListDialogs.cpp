@@ -136,7 +136,7 @@ bool ListDialogs::importList() {
     if (dialog.exec() != QDialog::Accepted) return false;
     const ListChoices choices = dialog.choices();
     attempt([&] {
-        records::Importer importer(Unseen_, File_, Records_.store(), &Others_);
+        records::Importer importer(Unseen_, File_, Records_.store(), Records_.others());
         records::ImportReport report;
         {
             WorkDialog work(Window_, title,

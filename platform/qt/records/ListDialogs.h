@@ -11,11 +11,10 @@ namespace kel::qt {
 /// Records from and to lists in files, as a person has them taken in and written.
 class ListDialogs {
 public:
-    /// `unseen` is a home that shows nothing, where lists are read; `others` has the tables that fields take their
-    /// lists from. All of it outlives the dialogs.
+    /// `unseen` is a home that shows nothing, where lists are read. All of it outlives the dialogs.
     ListDialogs(QWidget& window, const FormFile& form, records::RecordForm& records, records::Questions& questions,
-                Home& unseen, records::Store& others)
-        : Window_(window), File_(form), Records_(records), Questions_(questions), Unseen_(unseen), Others_(others) {}
+                Home& unseen)
+        : Window_(window), File_(form), Records_(records), Questions_(questions), Unseen_(unseen) {}
 
     /// Whether records may have come.
     bool importList();
@@ -30,7 +29,6 @@ private:
     records::RecordForm& Records_;
     records::Questions& Questions_;
     Home& Unseen_;
-    records::Store& Others_;
 };
 
 }  // namespace kel::qt

@@ -78,7 +78,7 @@ public:
         show();
         form.show();
         Form_ = std::make_unique<records::RecordForm>(form, *Store_, Dialogs_, home.region(), &store);
-        Lists_.emplace(*this, form.file(), *Form_, Dialogs_, unseen, store);
+        Lists_.emplace(*this, form.file(), *Form_, Dialogs_, unseen);
         makeList();
         Form_->focusFirst();
         refreshState();
