@@ -14,6 +14,8 @@
 #include "forms/file/FileWriter.h"
 #include "forms/file/FormStore.h"
 #include "forms/play/Player.h"
+#include "host/focus/Mnemonic.h"
+#include "records/Commands.h"
 #include "records/RecordScript.h"
 #include "values/Calendar.h"
 #include "values/Text.h"
@@ -170,7 +172,18 @@ ExitStatus checkForm(const Options& options) {
     return Done;
 }
 
+void describeCommands() {
+    std::cout << "| key | menu | command | what it does |\n|---|---|---|---|\n";
+    for (const records::CommandRow& row : records::commandRows())
+        std::cout << "| " << toUtf8(row.key) << " | " << toUtf8(readCaption(row.menu).text) << " | "
+                  << toUtf8(readCaption(row.caption).text) << " | " << toUtf8(row.help) << " |\n";
+}
+
 ExitStatus describe(const Options& options) {
+    if (options.commands) {
+        describeCommands();
+        return Done;
+    }
     std::vector<const ClassModel*> models = libraryClasses().all();
     if (!options.files.empty()) {
         const auto name = fromUtf8(options.files[0]);

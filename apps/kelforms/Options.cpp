@@ -23,6 +23,7 @@ const char* const Usage =
     "kelforms convert FORM.frm OUT.ui                     carry the form over to Qt's designer\n"
     "kelforms shot FORM.frm OUT.png [--locale L]          take a picture of the form\n"
     "kelforms describe [CLASS] [--json|--markdown]        members, events and saved properties\n"
+    "kelforms describe --commands                         the keys of a window with records\n"
     "\n"
     "options of play: --on headless|qt|win32|terminal, --locale en-GB, --today 2013-03-15, --now 10:15:30,\n"
     "  --colour-depth 24, --twips-per-pixel 15, --data DATABASE, --table T, --shot FILE.png, --used FILE,\n"
@@ -118,6 +119,8 @@ bool readOption(const std::string& word, Reader& reader, Options& options) {
         options.json = true;
     else if (word == "--markdown")
         options.markdown = true;
+    else if (word == "--commands")
+        options.commands = true;
     else
         return false;
     return true;

@@ -37,6 +37,7 @@ struct Options {
     bool update = false;
     bool json = false;
     bool markdown = false;
+    bool commands = false;
 };
 
 /// Throws UsageError.
