@@ -21,7 +21,7 @@ constexpr TypedKind Flag{"bool", "", "toFlag", "fromFlag", "", "flagFromBound"};
 constexpr TypedProperty TypedProperties[] = {
     {u"KelText", u"Text", "text", Lines, "textChanged",
      "Lines end in a line feed, as in Qt's own boxes; `textRaw` has them as the control does, in CR LF.",
-     "The text; one of several lines without the empty ones at its end"},
+     "The text, with every line"},
     {u"KelNumber", u"Value", "value", Number, "valueChanged", "A null is 0."},
     {u"KelNumber", u"MinValue", "minimum", Number},
     {u"KelNumber", u"MaxValue", "maximum", Number},
