@@ -59,6 +59,9 @@ std::u16string searchKey(std::u16string_view text) {
     return key;
 }
 
+Finder::Finder(RecordStore& store, std::u16string_view text, const Order& order, const SearchTexts* texts)
+    : Store_(&store), Texts_(texts), Sought_(searchKey(text)), Order_(order) {}
+
 bool Finder::isHit(const Record& record) const {
     return std::any_of(record.cells.begin(), record.cells.end(),
                        [&](const Cell& cell) { return searchKey(textOf(cell)).find(Sought_) != std::u16string::npos; });
@@ -88,9 +91,51 @@ std::optional<Record> Finder::nearest(const Record* from, Way way, const GoesOn&
     return hit;
 }
 
-std::optional<Record> Finder::nearestAround(const Record* from, Way way, const GoesOn& goesOn) const {
+// ---- By the texts
+
+std::optional<Record> Finder::nearestOf(const std::vector<Cells>& keys, const Record* from, Way way) const {
+    const auto isFurther = [&](const Record& record, const Record& than) {
+        const Cells key = keyOf(Store_->table(), record);
+        if (way == Way::Forward) return Store_->isBehind(key, than, Order_);
+        return key != keyOf(Store_->table(), than) && !Store_->isBehind(key, than, Order_);
+    };
+    std::optional<Record> nearest;
+    for (const Cells& key : keys) {
+        std::optional<Record> record = Store_->read(key);
+        if (!record || !isHit(*record) || (from != nullptr && !isFurther(*record, *from))) continue;
+        if (!nearest || isFurther(*nearest, *record)) nearest = std::move(record);
+    }
+    return nearest;
+}
+
+std::optional<Finder::Found> Finder::byTexts(const Record* from, Way way, const GoesOn& goesOn) const {
+    if (Texts_ == nullptr) return std::nullopt;
+    const Cells key = from == nullptr ? Cells{} : keyOf(Store_->table(), *from);
+    const auto hits = Texts_->find(toUtf8(Sought_, HalfPairs::Kept), from == nullptr ? nullptr : &key, goesOn);
+    if (!hits) return std::nullopt;
+    Found found{{}, hits->count};
+    std::vector<Cells> keys = hits->keys;
+    if (Order_.column || Order_.descending) {
+        // Which of many is the nearest in another order, the records themselves tell: it is not far.
+        if (keys.size() == SearchTexts::Few) return Found{byRecords(from, way, goesOn), hits->count};
+    } else {
+        keys = hits->later;
+        for (const std::optional<Cells>* const each : {&hits->first, &hits->last, &hits->before, &hits->behind})
+            if (*each) keys.push_back(**each);
+    }
+    found.record = nearestOf(keys, from, way);
+    if (!found.record && from != nullptr) found.record = nearestOf(keys, nullptr, way);
+    return found;
+}
+
+std::optional<Record> Finder::byRecords(const Record* from, Way way, const GoesOn& goesOn) const {
     std::optional<Record> hit = nearest(from, way, goesOn);
     return hit || from == nullptr || !goesOn() ? hit : nearest(nullptr, way, goesOn);
+}
+
+Finder::Found Finder::nearestAround(const Record* from, Way way, const GoesOn& goesOn) const {
+    if (auto found = byTexts(from, way, goesOn)) return std::move(*found);
+    return {byRecords(from, way, goesOn), std::nullopt};
 }
 
 std::optional<std::int64_t> Finder::count(const GoesOn& goesOn) const {

@@ -5,12 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "records/Store.h"
+#include "records/SearchTexts.h"
 
 namespace kel::records {
-
-/// A text as it is looked for: without regard to case and accents. "Düren" is "duren", "Straße" is "strasse".
-std::u16string searchKey(std::u16string_view text);
 
 /// Looks for records in which some column has a text in it. A long search is interrupted often: `goesOn` is asked after
 /// every few hundred records, and ends it with false.
@@ -18,8 +15,8 @@ class Finder {
 public:
     using GoesOn = std::function<bool()>;
 
-    Finder(RecordStore& store, std::u16string_view text, const Order& order)
-        : Store_(&store), Sought_(searchKey(text)), Order_(order) {}
+    /// By the `texts` of all records, where these are given and are up to date; nullptr is by the records themselves.
+    Finder(RecordStore& store, std::u16string_view text, const Order& order, const SearchTexts* texts = nullptr);
 
     bool isHit(const Record& record) const;
 
@@ -27,8 +24,12 @@ public:
     /// on that side, or where it was stopped.
     std::optional<Record> nearest(const Record* from, Way way, const GoesOn& goesOn) const;
 
+    struct Found {
+        std::optional<Record> record;
+        std::optional<std::int64_t> hits;  ///< in all records, where that is known already
+    };
     /// The same, and once around: where there is none on that side, the nearest from the other end.
-    std::optional<Record> nearestAround(const Record* from, Way way, const GoesOn& goesOn) const;
+    Found nearestAround(const Record* from, Way way, const GoesOn& goesOn) const;
 
     /// How many hits there are; nothing where it was stopped.
     std::optional<std::int64_t> count(const GoesOn& goesOn) const;
@@ -37,7 +38,14 @@ private:
     template <class Each>
     bool forEach(const Record* from, Way way, const GoesOn& goesOn, Each each) const;
 
+    /// By reading them, once around.
+    std::optional<Record> byRecords(const Record* from, Way way, const GoesOn& goesOn) const;
+    /// Nothing where it cannot be told by the texts alone.
+    std::optional<Found> byTexts(const Record* from, Way way, const GoesOn& goesOn) const;
+    std::optional<Record> nearestOf(const std::vector<Cells>& keys, const Record* from, Way way) const;
+
     RecordStore* Store_;
+    const SearchTexts* Texts_;
     std::u16string Sought_;
     Order Order_;
 };

@@ -11,6 +11,7 @@ RecordForm::RecordForm(Form& form, RecordStore& store, Questions& questions, con
     : Form_(&form),
       Store_(&store),
       Others_(others),
+      Overview_(std::make_unique<Overview>(store)),
       Questions_(&questions),
       Bindings_(bind(form, store.table(), region, others)) {
     if (!toEnd(Way::Forward)) showNew();
@@ -41,8 +42,10 @@ bool RecordForm::toPrevious() { return mayLeave() && walk(Way::Backward); }
 
 bool RecordForm::toPlace(std::int64_t place) {
     return mayLeave() && attempt([&] {
-               const std::vector<Record> found = Store_->rows(place - 1, 1, Order_);
-               if (place < 1 || found.empty()) {
+               places().refresh();
+               places().finish();
+               const std::vector<Record> found = places().rows(place - 1, 1);
+               if (found.empty()) {
                    Questions_->say(u"There is no record " + widen(std::to_string(place)) + u".");
                    return false;
                }
@@ -137,9 +140,17 @@ void RecordForm::setCarried(const Binding& binding, bool carried) {
         Carried_.erase(binding.column());
 }
 
+std::int64_t RecordForm::count() const {
+    places().refresh();
+    places().finish();
+    return places().count().value();
+}
+
 std::optional<std::int64_t> RecordForm::place() const {
     if (!Shown_) return std::nullopt;
-    return Store_->placeOf(*Shown_, Order_) + 1;
+    places().refresh();
+    places().finish();
+    return places().placeOf(*Shown_).value() + 1;
 }
 
 // ---- Storing
@@ -239,7 +250,9 @@ void RecordForm::stored(Record record) {
 }
 
 bool RecordForm::insert() {
-    stored(Store_->insert(allValues()));
+    Record record = Store_->insert(allValues());
+    Overview_->changed(nullptr, &record);
+    stored(std::move(record));
     return true;
 }
 
@@ -249,6 +262,7 @@ bool RecordForm::update() {
         const std::vector<Change> values = changes();
         const Outcome outcome = values.empty() ? Outcome::Done : Store_->update(record, values);
         if (outcome == Outcome::Done) {
+            if (!values.empty()) Overview_->changed(&*Shown_, &record);
             stored(std::move(record));
             return true;
         }
@@ -303,8 +317,8 @@ bool RecordForm::remove() {
                     u"Somebody else has changed this record meanwhile. It is shown as it is now, and stays.");
                 if (const auto now = Store_->read(keyOf(table(), *Shown_))) show(*now);
                 return false;
-            case Outcome::Gone:
-            case Outcome::Done: break;
+            case Outcome::Done: Overview_->changed(&*Shown_, nullptr); break;
+            case Outcome::Gone: break;
         }
         const Record gone = *Shown_;
         if (!step(&gone, Way::Forward) && !step(&gone, Way::Backward)) showNew();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
@@ -9,6 +10,7 @@
 
 #include "forms/Form.h"
 #include "records/Binding.h"
+#include "records/Overview.h"
 #include "records/Questions.h"
 #include "records/Store.h"
 
@@ -68,8 +70,11 @@ public:
     RecordStore& store() const { return *Store_; }
     Store* others() const { return Others_; }
     const std::vector<Binding>& bindings() const { return Bindings_; }
-    std::int64_t count() const { return Store_->count(); }
-    /// From 1; nothing for a new record.
+    /// What is known of all records; keeps up with what is stored and deleted here.
+    Overview& overview() const { return *Overview_; }
+    /// Of all records; takes its time where that is not known yet.
+    std::int64_t count() const;
+    /// From 1; nothing for a new record. Takes its time like that.
     std::optional<std::int64_t> place() const;
     const Order& order() const { return Order_; }
     void setOrder(const Order& order) { Order_ = order; }
@@ -104,11 +109,13 @@ private:
     /// Adds what the field holds to `values`, on top of what another field says of the same column.
     void addValue(std::vector<Change>& values, const Binding& binding, const Cell& before) const;
     void stored(Record record);
+    Places& places() const { return Overview_->places(Order_); }
     const Column& columnOf(const Binding& binding) const { return table().columns[binding.column()]; }
 
     Form* Form_;
     RecordStore* Store_;
     Store* Others_;
+    std::unique_ptr<Overview> Overview_;
     Questions* Questions_;
     std::vector<Binding> Bindings_;  ///< in the order of the Tab key
     std::optional<Record> Shown_;

@@ -94,7 +94,7 @@ bool RecordScript::find(std::u16string_view text) {
     const Finder finder(*Records_, Sought_, Form_->order());
     const std::optional<Record> from = isAgain ? Form_->shown() : std::nullopt;
     if (!Form_->mayLeave()) return true;
-    const std::optional<Record> hit = finder.nearestAround(from ? &*from : nullptr, way, goesOn);
+    const std::optional<Record> hit = finder.nearestAround(from ? &*from : nullptr, way, goesOn).record;
     if (hit) Form_->toRecord(*hit);
     Print_(hit ? u"found, one of " + widen(std::to_string(finder.count(goesOn).value_or(0)))
                : std::u16string(u"not found"));

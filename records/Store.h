@@ -67,6 +67,13 @@ enum class Outcome : std::uint8_t {
     Gone      ///< somebody else has deleted it
 };
 
+/// By which it is seen that a table has changed. Which numbers these are means nothing.
+struct Version {
+    std::int64_t others = 0;  ///< is another one after another program has changed something
+    std::int64_t own = 0;     ///< counts the records that this one has stored or deleted, by whichever way
+    friend bool operator==(const Version&, const Version&) = default;
+};
+
 /// The records of one table. All of it throws StoreError. What has returned is stored: it is there after the machine
 /// was switched off at that moment.
 class RecordStore {
@@ -78,16 +85,27 @@ public:
 
     virtual const Table& table() const = 0;
 
-    virtual std::int64_t count() = 0;
     /// As it is now; nothing when there is none of this key.
     virtual std::optional<Record> read(const Cells& key) = 0;
     /// At most `count` records that come after `from`, which need not be there any more; backward those before it,
     /// the nearest first. From the end where `from` is nullptr.
     virtual std::vector<Record> walk(const Record* from, Way way, std::int32_t count, const Order& order) = 0;
-    /// `count` of them from a place on, which counts from 0.
-    virtual std::vector<Record> rows(std::int64_t place, std::int32_t count, const Order& order) = 0;
-    /// How many stand before it.
-    virtual std::int64_t placeOf(const Record& record, const Order& order) = 0;
+    /// The record so many steps behind `from`, where 1 is the next; behind the first where `from` is nullptr.
+    virtual std::optional<Record> skip(const Record* from, std::int64_t steps, const Order& order) = 0;
+    /// How many stand behind `from` and before `to`; nullptr is the end on that side. It takes as long as there are
+    /// many.
+    virtual std::int64_t countBetween(const Record* from, const Record* to, const Order& order) = 0;
+    std::int64_t count() { return countBetween(nullptr, nullptr, {}); }
+    /// Whether there is a record of this key, and it stands behind `from`.
+    virtual bool isBehind(const Cells& key, const Record& from, const Order& order) = 0;
+    /// Whether it stands on this machine, where reading all of it disturbs nobody else.
+    virtual bool isNear() = 0;
+    /// How it stands now. What reads nothing but this is quick.
+    virtual Version version() = 0;
+    /// Whether records are as quick to find in this order as by their key.
+    virtual bool isQuick(const Order& order) = 0;
+    /// Makes them so, for everybody who uses the database.
+    virtual void makeQuick(const Order& order) = 0;
 
     /// Returns the record with all that the database has given to it.
     virtual Record insert(const std::vector<Change>& values) = 0;
@@ -102,6 +120,9 @@ public:
     virtual void begin() = 0;
     virtual void commit() = 0;
     virtual void rollBack() = 0;
+
+    /// Whether another program is waited for. What can as well be done later need not wait.
+    virtual void setPatient(bool patient) = 0;
 };
 
 /// A database.

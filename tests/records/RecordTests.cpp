@@ -53,9 +53,16 @@ TEST_F(OnDatabase, WalksInEveryOrder) {
                 backward.insert(backward.end(), some.begin(), some.end());
             std::reverse(backward.begin(), backward.end());
             EXPECT_EQ(backward, wanted);
-            EXPECT_EQ(records->rows(20, 5, order), std::vector<Record>(wanted.begin() + 20, wanted.begin() + 25));
-            for (std::size_t i = 0; i < wanted.size(); i += 13)
-                EXPECT_EQ(records->placeOf(wanted[i], order), static_cast<std::int64_t>(i));
+            for (std::size_t from = 0; from < wanted.size(); from += 13) {
+                EXPECT_EQ(records->countBetween(nullptr, &wanted[from], order), static_cast<std::int64_t>(from));
+                for (std::size_t to = from + 1; to < wanted.size(); to += 11) {
+                    const auto steps = static_cast<std::int64_t>(to - from);
+                    EXPECT_EQ(records->skip(&wanted[from], steps, order), wanted[to]);
+                    EXPECT_EQ(records->countBetween(&wanted[from], &wanted[to], order), steps - 1);
+                    EXPECT_TRUE(records->isBehind(keyOf(table, wanted[to]), wanted[from], order));
+                    EXPECT_FALSE(records->isBehind(keyOf(table, wanted[from]), wanted[to], order));
+                }
+            }
         }
     }
 }

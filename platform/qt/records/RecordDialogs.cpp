@@ -130,6 +130,15 @@ std::optional<std::vector<Choice>> RecordDialogs::aboutDifferences(const std::ve
     return choices;
 }
 
+bool mayMakeIndex(QWidget& window, const QString& column) {
+    return ask(window, QMessageBox::Question,
+               QStringLiteral(
+                   "To sort so many records by %1 the database needs an index, which takes a moment and stays "
+                   "in it. Make it?")
+                   .arg(column),
+               {QStringLiteral("&Make it"), QStringLiteral("&Cancel")}) == 0;
+}
+
 void showKeys(QWidget& window) {
     QDialog dialog(&window);
     dialog.setWindowTitle(QStringLiteral("Keys"));

@@ -23,6 +23,9 @@ private:
     QWidget& Window_;
 };
 
+/// Whether an index may be added to a table that others have made, to sort it by a column.
+bool mayMakeIndex(QWidget& window, const QString& column);
+
 /// The page of all keys.
 void showKeys(QWidget& window);
 

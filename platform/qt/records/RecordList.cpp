@@ -7,9 +7,7 @@
 namespace kel::qt {
 
 RecordList::RecordList(const records::RecordForm& form, QObject* parent)
-    : QAbstractTableModel(parent), Form_(form), Order_(form.order()) {
-    refresh();
-}
+    : QAbstractTableModel(parent), Form_(form), Order_(form.order()) {}
 
 int RecordList::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : Count_; }
 
@@ -23,7 +21,10 @@ const records::Record* RecordList::recordAt(int row) const {
     if (found == Pages_.end()) {
         if (Pages_.size() >= MostPages) Pages_.clear();
         try {
-            found = Pages_.emplace(page, Form_.store().rows(std::int64_t{page} * PageSize, PageSize, Order_)).first;
+            std::vector<records::Record> rows =
+                Form_.overview().places(Order_).rows(std::int64_t{page} * PageSize, PageSize);
+            if (rows.empty()) return nullptr;  // known in a moment
+            found = Pages_.emplace(page, std::move(rows)).first;
         } catch (const records::StoreError&) {
             return nullptr;  // what is wrong is said where the person does something
         }
@@ -50,22 +51,30 @@ QVariant RecordList::headerData(int section, Qt::Orientation orientation, int ro
     return toQString(Form_.bindings()[static_cast<std::size_t>(section)].caption());
 }
 
-void RecordList::sort(int column, Qt::SortOrder order) {
-    Order_.column =
-        column < 0 ? std::nullopt : std::optional(Form_.bindings()[static_cast<std::size_t>(column)].column());
-    Order_.descending = order == Qt::DescendingOrder;
+void RecordList::setOrder(const records::Order& order) {
+    Order_ = order;
     refresh();
 }
 
 void RecordList::refresh() {
-    beginResetModel();
     Pages_.clear();
+    std::optional<std::int64_t> known;
     try {
-        Count_ = static_cast<int>(std::min<std::int64_t>(Form_.count(), INT32_MAX));
+        known = Form_.overview().places(Order_).count();
     } catch (const records::StoreError&) {
-        Count_ = 0;
+        known.reset();  // what is wrong is said where the person does something
     }
-    endResetModel();
+    const int count = known ? static_cast<int>(std::min<std::int64_t>(*known, INT32_MAX)) : Count_;
+    if (count > Count_) {
+        beginInsertRows({}, Count_, count - 1);
+        Count_ = count;
+        endInsertRows();
+    } else if (count < Count_) {
+        beginRemoveRows({}, count, Count_ - 1);
+        Count_ = count;
+        endRemoveRows();
+    }
+    if (Count_ > 0) emit dataChanged(index(0, 0), index(Count_ - 1, columnCount() - 1));
 }
 
 }  // namespace kel::qt

@@ -20,9 +20,8 @@ public:
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
     /// Changes nothing but what the list shows; the records follow the form's own order.
-    void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
-
-    /// Something in the table may have changed.
+    void setOrder(const records::Order& order);
+    /// Something in the table may have changed, or is known now.
     void refresh();
     const records::Record* recordAt(int row) const;
     const records::Order& order() const { return Order_; }

@@ -14,6 +14,7 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QScrollArea>
+#include <QSignalBlocker>
 #include <QStatusBar>
 #include <QStyle>
 #include <QTableView>
@@ -37,9 +38,11 @@ namespace {
 
 using records::Command;
 
-constexpr int StateEvery = 250;     ///< milliseconds between two looks at whether something has been typed
-constexpr int ListWidth = 380;      ///< pixels, until the person has drawn it wider
-constexpr int LongestSilence = 40;  ///< milliseconds for which a search leaves the window alone
+constexpr int StateEvery = 250;        ///< milliseconds between two looks at whether something has been typed
+constexpr int ListWidth = 380;         ///< pixels, until the person has drawn it wider
+constexpr int LongestSilence = 40;     ///< milliseconds for which a search leaves the window alone
+constexpr int Later = 1000;            ///< milliseconds until what could not be done beside is tried again
+constexpr std::int64_t Many = 10'000;  ///< records that are not sorted and searched in a moment without an index
 
 QIcon iconOf(const QStyle& style, Command command) {
     switch (command) {
@@ -88,6 +91,10 @@ public:
     ~Implementation() override { Area_->takeWidget()->setParent(nullptr); }
 
     void run(Command command) {
+        if (IsSeeking_) {
+            IsSeeking_ = false;
+            return;
+        }
         switch (command) {
             case Command::New: Form_->startNew(); break;
             case Command::Save: noteSaved(Form_->save()); break;
@@ -115,7 +122,11 @@ public:
     }
 
 protected:
-    void closeEvent(QCloseEvent* event) override { event->setAccepted(Form_->mayLeave()); }
+    void closeEvent(QCloseEvent* event) override {
+        if (IsSeeking_) QTimer::singleShot(0, this, [this] { close(); });
+        event->setAccepted(!IsSeeking_ && Form_->mayLeave());
+        IsSeeking_ = false;
+    }
 
 private:
     // ---- Parts of the window
@@ -146,8 +157,12 @@ private:
         Table_->setModel(List_);
         Table_->setSelectionBehavior(QAbstractItemView::SelectRows);
         Table_->setSelectionMode(QAbstractItemView::SingleSelection);
-        Table_->setSortingEnabled(true);
-        Table_->sortByColumn(-1, Qt::AscendingOrder);
+        QHeaderView* const header = Table_->horizontalHeader();
+        header->setSectionsClickable(true);
+        header->setSortIndicatorShown(true);
+        header->setSortIndicatorClearable(true);
+        header->setSortIndicator(-1, Qt::AscendingOrder);
+        QObject::connect(header, &QHeaderView::sortIndicatorChanged, this, &Implementation::sortList);
         Table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
         Table_->verticalHeader()->setDefaultSectionSize(Table_->fontMetrics().height() + 6);
         Table_->setWordWrap(false);
@@ -168,8 +183,19 @@ private:
         statusBar()->addWidget(Place_);
         statusBar()->addPermanentWidget(State_);
         auto* const timer = new QTimer(this);
-        QObject::connect(timer, &QTimer::timeout, this, [this] { showChanged(); });
+        QObject::connect(timer, &QTimer::timeout, this, [this] {
+            showChanged();
+            noticeOthers();
+        });
         timer->start(StateEvery);
+        Idle_ = new QTimer(this);
+        Idle_->setSingleShot(true);
+        QObject::connect(Idle_, &QTimer::timeout, this, [this] { lookOn(); });
+        Escape_ = new QAction(this);
+        Escape_->setShortcut(QKeySequence(Qt::Key_Escape));
+        Escape_->setEnabled(false);
+        QObject::connect(Escape_, &QAction::triggered, this, [this] { IsSeeking_ = false; });
+        addAction(Escape_);
     }
 
     // ---- What the person wants
@@ -200,11 +226,43 @@ private:
 
     void goTo() {
         bool wanted = false;
-        const auto count = static_cast<int>(std::min<std::int64_t>(Form_->count(), INT32_MAX));
-        const int now = static_cast<int>(Form_->place().value_or(1));
+        const records::Places& places = Form_->overview().places(Form_->order());
+        const auto count = std::min<std::int64_t>(places.count().value_or(INT32_MAX), INT32_MAX);
+        const std::int64_t now = knownPlace().value_or(0) + 1;
         const int place = QInputDialog::getInt(this, QStringLiteral("Go to"), QStringLiteral("&Number of the record:"),
-                                               now, 1, std::max(count, 1), 1, &wanted);
+                                               static_cast<int>(std::min(now, count)), 1,
+                                               static_cast<int>(std::max<std::int64_t>(count, 1)), 1, &wanted);
         if (wanted) Form_->toPlace(place);
+    }
+
+    /// A table of many records is sorted by an index. In one that others have made it is not made without asking.
+    void sortList(int section, Qt::SortOrder direction) {
+        records::Order order{std::nullopt, direction == Qt::DescendingOrder};
+        if (section >= 0) order.column = Form_->bindings()[static_cast<std::size_t>(section)].column();
+        try {
+            if (Form_->overview().places({}).count().value_or(Many) >= Many && !Store_->isQuick(order)) {
+                const QString name = toQString(Form_->bindings()[static_cast<std::size_t>(section)].caption());
+                if (!Form_->table().version && !mayMakeIndex(*this, name)) return showOrder();
+                statusBar()->showMessage(QStringLiteral("Sorting by %1 for the first time\u2026").arg(name));
+                Store_->makeQuick(order);
+                statusBar()->clearMessage();
+            }
+            Form_->overview().places(order);
+        } catch (const records::StoreError& error) {
+            statusBar()->clearMessage();
+            Dialogs_.say(QString::fromUtf8(error.what()).toStdU16String());
+            return showOrder();
+        }
+        List_->setOrder(order);
+        Section_ = section;
+        refreshState();
+    }
+
+    /// By which column the list is sorted, once more.
+    void showOrder() {
+        const QSignalBlocker blocker(Table_->horizontalHeader());
+        Table_->horizontalHeader()->setSortIndicator(
+            Section_, List_->order().descending ? Qt::DescendingOrder : Qt::AscendingOrder);
     }
 
     void find() {
@@ -222,31 +280,37 @@ private:
         seek(from ? &*from : nullptr, way);
     }
 
-    /// The window stays alive, and Escape ends it.
+    /// The window stays alive, and Escape ends it, as any other command does.
     void seek(const records::Record* from, records::Way way) {
         if (!Form_->mayLeave()) return;
-        const records::Finder finder(*Store_, viewOf(Sought_), Form_->order());
-        Seeking_ = true;
+        IsSeeking_ = true;
+        Escape_->setEnabled(true);
         QElapsedTimer silence;
         silence.start();
         const auto goesOn = [&] {
             if (silence.elapsed() < LongestSilence) return true;
-            silence.restart();
-            statusBar()->showMessage(QStringLiteral("Looking for \"%1\"\u2026").arg(Sought_));
+            statusBar()->showMessage(QStringLiteral("Looking for \"%1\"\u2026 Escape ends it.").arg(Sought_));
             QCoreApplication::processEvents();
-            return Seeking_;
+            silence.restart();
+            return IsSeeking_;
         };
         try {
-            const std::optional<records::Record> hit = finder.nearestAround(from, way, goesOn);
+            Form_->overview().wantTexts();
+            static_cast<void>(Form_->overview().refresh());
+            const records::Finder finder(*Store_, viewOf(Sought_), Form_->order(), Form_->overview().texts());
+            auto [hit, hits] = finder.nearestAround(from, way, goesOn);
             if (hit) Form_->toRecord(*hit);
-            const auto hits = hit ? finder.count(goesOn) : std::nullopt;
-            statusBar()->showMessage(!hit   ? QStringLiteral("\"%1\" is in no record.").arg(Sought_)
-                                     : hits ? QStringLiteral("\"%1\" is in %2 records.").arg(Sought_).arg(*hits)
-                                            : QStringLiteral("\"%1\" was found.").arg(Sought_));
+            refreshState();
+            if (hit && !hits && IsSeeking_) hits = finder.count(goesOn);
+            statusBar()->showMessage(hits          ? QStringLiteral("\"%1\" is in %2 records.").arg(Sought_).arg(*hits)
+                                     : hit         ? QStringLiteral("\"%1\" was found.").arg(Sought_)
+                                     : !IsSeeking_ ? QStringLiteral("Not looked for any further.")
+                                                   : QStringLiteral("\"%1\" is in no record.").arg(Sought_));
         } catch (const records::StoreError& error) {
             Dialogs_.say(QString::fromUtf8(error.what()).toStdU16String());
         }
-        Seeking_ = false;
+        IsSeeking_ = false;
+        Escape_->setEnabled(false);
     }
 
     /// The window grows and shrinks with it, so that the form stays as wide as it is.
@@ -274,17 +338,72 @@ private:
 
     // ---- What it shows of them
 
+    /// From 0; nothing where it is not known yet.
+    std::optional<std::int64_t> knownPlace() {
+        return Form_->shown() ? Form_->overview().places(Form_->order()).placeOf(*Form_->shown()) : std::nullopt;
+    }
+
     void refreshState() {
         try {
-            const auto place = Form_->place();
-            Place_->setText(place ? QStringLiteral("Record %1 of %2").arg(*place).arg(Form_->count())
-                                  : QStringLiteral("New record, %1 so far").arg(Form_->count()));
-            if (place && ListDock_->isVisible() && List_->order() == Form_->order())
-                Table_->selectRow(static_cast<int>(*place - 1));
+            static_cast<void>(Form_->overview().refresh());
+            const auto count = Form_->overview().places(Form_->order()).count();
+            const auto place = knownPlace();
+            const QString all = count ? QString::number(*count) : QStringLiteral("\u2026");
+            const QString its = place ? QString::number(*place + 1) : QStringLiteral("\u2026");
+            Place_->setText(Form_->shown() ? QStringLiteral("Record %1 of %2").arg(its, all)
+                                           : QStringLiteral("New record, %1 so far").arg(all));
+            if (List_ != nullptr && ListDock_->isVisible()) showInList(place);
         } catch (const records::StoreError& error) {
             Place_->setText(QString::fromUtf8(error.what()));
         }
+        if (!Idle_->isActive()) Idle_->start(0);
         showChanged();
+    }
+
+    void showInList(const std::optional<std::int64_t>& place) {
+        if (place && List_->order() == Form_->order() && *place < List_->rowCount())
+            Table_->selectRow(static_cast<int>(*place));
+        else
+            Table_->clearSelection();
+    }
+
+    // ---- What is done while nobody waits
+
+    /// Runs `action` on the database if that is free, and says whether it was.
+    template <class Action>
+    bool beside(Action action) {
+        if (!Form_ || IsSeeking_) return false;
+        Store_->setPatient(false);
+        bool isDone = true;
+        try {
+            action();
+        } catch (const records::StoreError&) {
+            isDone = false;  // it is tried again
+        }
+        Store_->setPatient(true);
+        return isDone;
+    }
+
+    void noticeOthers() {
+        bool isAnew = false;
+        if (beside([&] { isAnew = Form_->overview().refresh(); }) && isAnew) refreshState();
+    }
+
+    void lookOn() {
+        bool isMore = true;
+        const bool isFree = beside([&] {
+            records::Overview& overview = Form_->overview();
+            const records::Places& places = overview.places(Form_->order());
+            const records::Places& listed = overview.places(List_->order());
+            const bool wasWhole = places.isWhole() && listed.isWhole();
+            isMore = overview.lookOn();
+            if (wasWhole || !places.isWhole() || !listed.isWhole()) return;
+            List_->refresh();
+            if (*places.count() >= Many && Store_->isNear()) overview.wantTexts();
+            isMore = true;
+            refreshState();
+        });
+        if (isMore) Idle_->start(isFree ? 0 : Later);
     }
 
     void showChanged() {
@@ -305,7 +424,10 @@ private:
     QLabel* State_ = nullptr;
     QString Saved_;
     QString Sought_;
-    bool Seeking_ = false;
+    QTimer* Idle_ = nullptr;     ///< while something is still to be found out
+    QAction* Escape_ = nullptr;  ///< ends a search
+    int Section_ = -1;           ///< by which the list is sorted
+    bool IsSeeking_ = false;
 };
 
 RecordWindow::RecordWindow(Form& form, Home& home, Home& unseen, records::Store& store, const records::Table& table)

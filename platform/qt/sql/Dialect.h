@@ -34,6 +34,14 @@ public:
     /// Whether a statement that fails takes with it what came before it in its transaction.
     virtual bool failureEndsTransaction() const = 0;
 
+    /// Reads what changes when another program changes a table, and counts the changes of this one.
+    /// It is given the table's quoted name.
+    virtual QString versionQuery() const = 0;
+    /// Finds an index by which a table is read in the order of a column; is given both names.
+    virtual QString indexQuery() const = 0;
+    /// What stands behind a column in an index, so that a record without a value is in front.
+    virtual QString indexSuffix() const = 0;
+
     /// The column in a query's list of what it reads.
     virtual QString readExpression(const records::Column& column) const { return quoted(column.name); }
     /// A value as this database keeps it in such a column, and back.

@@ -48,6 +48,21 @@ public:
     QString beginToChange() const override { return QStringLiteral("BEGIN"); }
     bool failureEndsTransaction() const override { return true; }
 
+    QString versionQuery() const override {
+        return QStringLiteral(
+            "SELECT pg_stat_get_tuples_inserted(t) + pg_stat_get_tuples_updated(t) + pg_stat_get_tuples_deleted(t) "
+            "FROM "
+            "CAST(to_regclass(?) AS oid) AS t");
+    }
+    QString indexQuery() const override {
+        return QStringLiteral(
+            "SELECT 1 FROM pg_index i JOIN pg_attribute a ON a.attrelid = i.indrelid AND a.attnum = i.indkey[0] JOIN "
+            "pg_class c ON c.oid = i.indrelid JOIN pg_namespace n ON n.oid = c.relnamespace WHERE c.relname = ? AND "
+            "n.nspname = current_schema() AND a.attname = ? AND i.indpred IS NULL AND i.indisvalid AND "
+            "(a.attnotnull OR i.indoption[0] = 2)");
+    }
+    QString indexSuffix() const override { return QStringLiteral(" NULLS FIRST"); }
+
     /// Days, times and decimal numbers as texts, which Qt does not round.
     QString readExpression(const Column& column) const override {
         switch (column.type) {

@@ -1,7 +1,9 @@
 #include "platform/qt/sql/SqlConnection.h"
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
+#include <exception>
 #include <QSqlError>
 #include <QUrl>
 #include <thread>
@@ -23,7 +25,7 @@ constexpr auto LongestPause = 20ms;
 
 /// Connections of Qt have names, which are the process's.
 QString nextName() {
-    static int count = 0;
+    static std::atomic<int> count = 0;
     return QStringLiteral("kelforms-%1").arg(++count);
 }
 
@@ -53,7 +55,8 @@ SqlAddress addressOf(const std::string& database) {
 }
 
 SqlConnection::SqlConnection(const std::string& database, Waiting waiting)
-    : Address_(addressOf(database)),
+    : Database_(database),
+      Address_(addressOf(database)),
       Waiting_(std::move(waiting)),
       Dialect_(Address_.isServer ? makePostgresDialect() : makeSqliteDialect()),
       Name_(nextName()) {
@@ -179,6 +182,27 @@ void SqlConnection::runOnce(const QString& statement) {
 
 void SqlConnection::execute(const QString& statement) {
     patiently([&] { runOnce(statement); });
+}
+
+void SqlConnection::executeBeside(const QString& statement) {
+    std::exception_ptr fault;
+    std::atomic<bool> isDone = false;
+    std::thread worker([&] {
+        try {
+            SqlConnection(Database_, {}).execute(statement);
+        } catch (const StoreError&) {
+            fault = std::current_exception();
+        }
+        isDone = true;
+    });
+    IsWaiting_ = true;
+    while (!isDone) {
+        if (Waiting_) Waiting_();
+        std::this_thread::sleep_for(LongestPause);
+    }
+    IsWaiting_ = false;
+    worker.join();
+    if (fault) std::rethrow_exception(fault);
 }
 
 void SqlConnection::transact(const std::function<void()>& work, const std::function<bool()>& isStored) {

@@ -46,6 +46,8 @@ public:
 
     /// A statement that reads nothing and is run seldom, such as one that makes a table.
     void execute(const QString& statement);
+    /// One that takes long: on a connection and a thread of its own, while the window is served.
+    void executeBeside(const QString& statement);
 
     /// Runs `work` as one transaction: all of it is stored when this returns, or nothing. It is run again from its
     /// start where another program was in the way, or the connection was gone. Where the connection goes at the moment
@@ -72,6 +74,7 @@ private:
     /// Whether what has failed may be tried again by itself.
     bool isWorthAnotherTry(const records::StoreError& error) const;
 
+    std::string Database_;
     SqlAddress Address_;
     Waiting Waiting_;
     std::unique_ptr<Dialect> Dialect_;

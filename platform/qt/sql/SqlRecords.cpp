@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <QStringList>
 
+#include "platform/qt/base/TextBridge.h"
+
 namespace kel::qt {
 
 namespace {
@@ -62,13 +64,6 @@ std::optional<Record> SqlRecords::read(const Cells& key) {
     return std::move(found.front());
 }
 
-std::int64_t SqlRecords::count() {
-    QSqlQuery& query = Connection_.run(QStringLiteral("SELECT count(*) FROM ") + Dialect::quoted(Table_.name));
-    const std::int64_t number = query.next() ? query.value(0).toLongLong() : 0;
-    query.finish();
-    return number;
-}
-
 // ---- In a row
 
 std::vector<std::size_t> SqlRecords::rowColumns(const Order& order) const {
@@ -85,69 +80,122 @@ QString SqlRecords::orderBy(const Order& order, bool isReversed) const {
     for (const std::size_t each : rowColumns(order)) {
         QString term = nameOf(each) + QLatin1String(isDown ? " DESC" : " ASC");
         // A record without a value stands in front of all others, in every database.
-        if (!column(each).notNull && !Table_.isKey(each))
-            term += QLatin1String(isDown ? " NULLS LAST" : " NULLS FIRST");
+        if (mayBeNothing(each)) term += QLatin1String(isDown ? " NULLS LAST" : " NULLS FIRST");
         terms.append(term);
     }
     return QLatin1String(" ORDER BY ") + terms.join(QLatin1String(", "));
 }
 
-SqlRecords::Condition SqlRecords::beyond(const Record& from, bool isBehind, const Order& order) const {
+std::vector<SqlRecords::Condition> SqlRecords::beyond(const Record* from, bool isBehind, const Order& order) const {
+    if (from == nullptr) return {{QStringLiteral("1 = 1"), {}}};
     const bool isAbove = isBehind != order.descending;
-    const std::vector<std::size_t> columns = rowColumns(order);
-    // From the last column forward: beyond in this one, or the same here and beyond in those that follow.
-    Condition condition;
-    for (auto each = columns.rbegin(); each != columns.rend(); ++each) {
-        const QString name = nameOf(*each);
-        const bool isNothing = records::isNull(from.cells[*each]);
-        const QVariant value = valueOf(from, *each);
-        QString further;
-        QString same = name + QLatin1String(isNothing ? " IS NULL" : " = ?");
-        QVariantList values;
-        if (isNothing) {
-            further = isAbove ? name + QLatin1String(" IS NOT NULL") : QString();
-        } else {
-            further = name + QLatin1String(isAbove ? " > ?" : " < ?");
-            values.append(value);
-            if (!isAbove && !column(*each).notNull && !Table_.isKey(*each))
-                further += QLatin1String(" OR ") + name + QLatin1String(" IS NULL");
-        }
-        if (condition.text.isEmpty()) {
-            condition.text = further.isEmpty() ? QStringLiteral("1 = 0") : further;
-        } else {
-            if (!further.isEmpty()) further += QLatin1String(" OR ");
-            condition.text =
-                further + QLatin1Char('(') + same + QLatin1String(" AND (") + condition.text + QLatin1String("))");
-            if (!isNothing) values.append(value);
-        }
-        condition.values = values + condition.values;
+    std::vector<std::size_t> columns = rowColumns(order);
+    const QString first = nameOf(columns.front());
+    const bool isNothing = records::isNull(from->cells[columns.front()]);
+    Condition same;  // among the records that have nothing there, or by the value
+    if (isNothing) {
+        same.text = first + QLatin1String(" IS NULL AND ");
+        columns.erase(columns.begin());
     }
-    return condition;
+    QStringList names;
+    QStringList marks;
+    for (const std::size_t each : columns) {
+        names.append(nameOf(each));
+        marks.append(QStringLiteral("?"));
+        same.values.append(valueOf(*from, each));
+    }
+    same.text +=
+        QStringLiteral("(%1) %2 (%3)")
+            .arg(names.join(QLatin1String(", ")), QLatin1String(isAbove ? ">" : "<"), marks.join(QLatin1String(", ")));
+    if (isNothing && isAbove) return {same, {first + QLatin1String(" IS NOT NULL"), {}}};
+    if (!isNothing && !isAbove && mayBeNothing(rowColumns(order).front()))
+        return {same, {first + QLatin1String(" IS NULL"), {}}};
+    return {same};
 }
 
 std::vector<Record> SqlRecords::walk(const Record* from, Way way, std::int32_t count, const Order& order) {
     const bool isForward = way == Way::Forward;
-    Condition condition;
-    if (from != nullptr) condition = beyond(*from, isForward, order);
-    const QString where = condition.text.isEmpty() ? QString() : QLatin1String(" WHERE ") + condition.text;
-    return all(where + orderBy(order, !isForward) + QLatin1String(" LIMIT ") + QString::number(count),
-               condition.values);
+    std::vector<Record> found;
+    for (const Condition& stretch : beyond(from, isForward, order)) {
+        const auto missing = count - static_cast<std::int32_t>(found.size());
+        if (missing <= 0) break;
+        std::vector<Record> more =
+            all(QLatin1String(" WHERE ") + stretch.text + orderBy(order, !isForward) + QLatin1String(" LIMIT ?"),
+                stretch.values + QVariantList{missing});
+        found.insert(found.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
+    }
+    return found;
 }
 
-std::vector<Record> SqlRecords::rows(std::int64_t place, std::int32_t count, const Order& order) {
-    if (place < 0) return {};
-    return all(orderBy(order, false) + QLatin1String(" LIMIT ? OFFSET ?"),
-               {QVariant(count), QVariant(static_cast<qlonglong>(place))});
+std::optional<Record> SqlRecords::skip(const Record* from, std::int64_t steps, const Order& order) {
+    std::int64_t further = from == nullptr ? steps : steps - 1;
+    for (const Condition& stretch : beyond(from, true, order)) {
+        std::vector<Record> found =
+            all(QLatin1String(" WHERE ") + stretch.text + orderBy(order, false) + QLatin1String(" LIMIT 1 OFFSET ?"),
+                stretch.values + QVariantList{static_cast<qlonglong>(further)});
+        if (!found.empty()) return std::move(found.front());
+        if (from == nullptr) break;
+        further -=
+            number(QStringLiteral("SELECT count(*) FROM %1 WHERE %2").arg(Dialect::quoted(Table_.name), stretch.text),
+                   stretch.values);
+    }
+    return std::nullopt;
 }
 
-std::int64_t SqlRecords::placeOf(const Record& record, const Order& order) {
-    const Condition before = beyond(record, false, order);
-    QSqlQuery& query = Connection_.run(
-        QStringLiteral("SELECT count(*) FROM %1 WHERE %2").arg(Dialect::quoted(Table_.name), before.text),
-        before.values);
+std::int64_t SqlRecords::number(const QString& statement, const QVariantList& values) {
+    QSqlQuery& query = Connection_.run(statement, values);
     const std::int64_t number = query.next() ? query.value(0).toLongLong() : 0;
     query.finish();
     return number;
+}
+
+std::int64_t SqlRecords::countBetween(const Record* from, const Record* to, const Order& order) {
+    const QString count = QStringLiteral("SELECT count(*) FROM ") + Dialect::quoted(Table_.name);
+    if (from == nullptr && to == nullptr) return number(count, {});
+    std::int64_t sum = 0;
+    for (const Condition& behind : beyond(from, true, order))
+        for (const Condition& before : beyond(to, false, order))
+            sum += number(QStringLiteral("%1 WHERE %2 AND %3").arg(count, behind.text, before.text),
+                          behind.values + before.values);
+    return sum;
+}
+
+bool SqlRecords::isBehind(const Cells& key, const Record& from, const Order& order) {
+    const Condition its = isKey(key);
+    const std::vector<Condition> stretches = beyond(&from, true, order);
+    return std::any_of(stretches.begin(), stretches.end(), [&](const Condition& stretch) {
+        return number(QStringLiteral("SELECT count(*) FROM %1 WHERE %2 AND %3")
+                          .arg(Dialect::quoted(Table_.name), its.text, stretch.text),
+                      its.values + stretch.values) > 0;
+    });
+}
+
+records::Version SqlRecords::version() {
+    QSqlQuery& query = Connection_.run(Connection_.dialect().versionQuery(), {Dialect::quoted(Table_.name)});
+    records::Version version;
+    if (query.next()) version = {query.value(0).toLongLong(), query.value(1).toLongLong()};
+    query.finish();
+    if (Connection_.isServer()) version.own = Changes_;
+    return version;
+}
+
+bool SqlRecords::isQuick(const Order& order) {
+    if (!order.column || Table_.key.front() == *order.column) return true;
+    QSqlQuery& query = Connection_.run(Connection_.dialect().indexQuery(),
+                                       {toQString(Table_.name), toQString(column(*order.column).name)});
+    const bool isThere = query.next();
+    query.finish();
+    return isThere;
+}
+
+void SqlRecords::makeQuick(const Order& order) {
+    if (!order.column) return;
+    QStringList columns;
+    for (const std::size_t each : rowColumns(order))
+        columns.append(nameOf(each) + (mayBeNothing(each) ? Connection_.dialect().indexSuffix() : QString()));
+    Connection_.executeBeside(QStringLiteral("CREATE INDEX %1 ON %2 (%3)")
+                                  .arg(Dialect::quoted(Table_.name + u"_by_" + column(*order.column).name),
+                                       Dialect::quoted(Table_.name), columns.join(QLatin1String(", "))));
 }
 
 // ---- Changing
@@ -182,6 +230,7 @@ void SqlRecords::add(const std::vector<Change>& values) {
         for (const Change& change : values) AddedColumns_.push_back(change.column);
     }
     Connection_.runAlone(Added_, bound(values));
+    ++Changes_;
 }
 
 Record SqlRecords::insert(const std::vector<Change>& values) {
@@ -209,6 +258,7 @@ Record SqlRecords::insert(const std::vector<Change>& values) {
                                                  [&](const Change& change) { return Table_.isKey(change.column); });
             return isKeyGiven ? read(keyOf(Table_, *stored)).has_value() : isThere(*stored);
         });
+    ++Changes_;
     return std::move(*stored);
 }
 
@@ -224,11 +274,9 @@ Outcome SqlRecords::hold(const Record& read) {
 
 Outcome SqlRecords::update(Record& read, const std::vector<Change>& values) {
     QStringList sets;
-    QVariantList bound;
     Record after = read;
     for (const Change& change : values) {
         sets.append(nameOf(change.column) + QLatin1String(" = ?"));
-        bound.append(Connection_.dialect().toSql(change.value, column(change.column)));
         after.cells[change.column] = change.value;
     }
     if (Table_.version) sets.append(QStringLiteral("%1 = %1 + 1").arg(nameOf(*Table_.version)));
@@ -241,10 +289,11 @@ Outcome SqlRecords::update(Record& read, const std::vector<Change>& values) {
         [&] {
             outcome = hold(read);
             if (outcome != Outcome::Done) return;
-            Connection_.run(statement, bound + condition.values).finish();
+            Connection_.run(statement, bound(values) + condition.values).finish();
             stored = this->read(keyOf(Table_, after));
         },
         [&] { return stored && isThere(*stored); });
+    if (outcome == Outcome::Done) ++Changes_;
     if (stored) read = *stored;
     return outcome;
 }
@@ -260,6 +309,7 @@ Outcome SqlRecords::remove(const Record& read) {
             if (outcome == Outcome::Done) Connection_.run(statement, condition.values).finish();
         },
         [&] { return outcome == Outcome::Done && !this->read(keyOf(Table_, read)); });
+    if (outcome == Outcome::Done) ++Changes_;
     return outcome;
 }
 

@@ -46,6 +46,16 @@ public:
     QString beginToChange() const override { return QStringLiteral("BEGIN IMMEDIATE"); }
     bool failureEndsTransaction() const override { return false; }
 
+    QString versionQuery() const override {
+        return QStringLiteral("SELECT data_version, total_changes() FROM pragma_data_version WHERE ? IS NOT NULL");
+    }
+    QString indexQuery() const override {
+        return QStringLiteral(
+            "SELECT 1 FROM pragma_index_list(?) AS list WHERE list.partial = 0 AND "
+            "(SELECT name FROM pragma_index_info(list.name) WHERE seqno = 0) = ?");
+    }
+    QString indexSuffix() const override { return {}; }
+
     QVariant toSql(const Cell& cell, const Column& /*column*/) const override {
         if (const auto* const text = std::get_if<std::u16string>(&cell)) return toQString(*text);
         if (const auto* const whole = std::get_if<std::int64_t>(&cell)) return static_cast<qlonglong>(*whole);

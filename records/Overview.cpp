@@ -1,0 +1,47 @@
+#include "records/Overview.h"
+
+#include <algorithm>
+
+namespace kel::records {
+
+namespace {
+
+constexpr std::size_t MostOrders = 2;  ///< that of the form and that of the list
+
+}  // namespace
+
+Places& Overview::places(const Order& order) {
+    const auto found = std::find_if(Places_.begin(), Places_.end(),
+                                    [&](const std::unique_ptr<Places>& each) { return each->order() == order; });
+    if (found != Places_.end()) {
+        std::rotate(Places_.begin(), found, found + 1);
+    } else {
+        if (Places_.size() == MostOrders) Places_.pop_back();
+        Places_.insert(Places_.begin(), std::make_unique<Places>(*Store_, order));
+    }
+    return *Places_.front();
+}
+
+void Overview::wantTexts() {
+    if (!Texts_) Texts_ = std::make_unique<SearchTexts>(*Store_);
+}
+
+bool Overview::lookOn() {
+    for (const auto& each : Places_)
+        if (!each->isWhole()) return each->lookOn() || Places_.size() > 1 || Texts_ != nullptr;
+    return Texts_ != nullptr && Texts_->writeOn();
+}
+
+void Overview::changed(const Record* before, const Record* after) {
+    for (const auto& each : Places_) each->changed(before, after);
+    if (Texts_) Texts_->changed(before, after);
+}
+
+bool Overview::refresh() {
+    bool isAnew = false;
+    for (const auto& each : Places_) isAnew = each->refresh() || isAnew;
+    if (Texts_) isAnew = Texts_->refresh() || isAnew;
+    return isAnew;
+}
+
+}  // namespace kel::records

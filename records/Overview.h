@@ -1,0 +1,38 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "records/Places.h"
+#include "records/SearchTexts.h"
+
+namespace kel::records {
+
+/// What is known of a whole table: the places of its records in the orders that they are looked at, and the texts that
+/// they are found by. It is found out while nobody waits.
+class Overview {
+public:
+    /// The store outlives it.
+    explicit Overview(RecordStore& store) : Store_(&store) {}
+
+    /// The places in an order, which are kept until two others have been asked for.
+    Places& places(const Order& order);
+    /// From now on records are found by their texts, as soon as these are written.
+    void wantTexts();
+    /// nullptr until they are wanted.
+    const SearchTexts* texts() const { return Texts_.get(); }
+
+    /// Goes on for a few milliseconds with what is missing. False when nothing is.
+    bool lookOn();
+
+    /// As `Places` are told.
+    void changed(const Record* before, const Record* after);
+    bool refresh();
+
+private:
+    RecordStore* Store_;
+    std::vector<std::unique_ptr<Places>> Places_;  ///< the last that was asked for in front
+    std::unique_ptr<SearchTexts> Texts_;
+};
+
+}  // namespace kel::records
