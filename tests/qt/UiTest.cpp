@@ -2,7 +2,11 @@
 
 #include <filesystem>
 #include <map>
+#include <QAction>
 #include <QBuffer>
+#include <QClipboard>
+#include <QComboBox>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QUiLoader>
 
@@ -10,6 +14,8 @@
 #include "forms/Form.h"
 #include "library/Control.h"
 #include "platform/qt/control/KelControlWidget.h"
+#include "platform/qt/designer/FormatDialog.h"
+#include "platform/qt/designer/ListDialog.h"
 #include "platform/qt/designer/WidgetFacts.h"
 #include "platform/qt/ui/FormToUi.h"
 #include "platform/qt/ui/UiNames.h"
@@ -219,6 +225,49 @@ TEST(ConvertedForms, KeepAColor) {
     const auto window = load(converted(formOf(block("VB.Label lbl", "BackColor = &H000080FF&\n"))).xml);
     const auto* const label = window->findChild<QLabel*>(QStringLiteral("lbl"));
     EXPECT_EQ(label->palette().color(QPalette::Window), QColor(0xFF, 0x80, 0));
+}
+
+// ---- The windows in which Qt's designer edits what has no line
+
+QAction* actionOf(const QWidget& dialog, const char* title) {
+    for (QAction* const action : dialog.findChildren<QAction*>())
+        if (action->text().remove(u'&') == QString::fromUtf8(title)) return action;
+    return nullptr;
+}
+
+TEST(ListDialog, KeepsItemsAndTagsTogether) {
+    struct {
+        const char* action;
+        const char* items;
+        const char* tags;
+    } const steps[] = {
+        {"Move Down", "\"Road, express\",Post", "X,P"},         {"Paste", "\"Road, express\",Post,Air,Sea", "X,P,A"},
+        {"Move Up", "Post,\"Road, express\",Air,Sea", "P,X,A"}, {"Remove", "\"Road, express\",Air,Sea", "X,A"},
+        {"Add", "\"Road, express\",,Air,Sea", "X,,A"},
+    };
+    QGuiApplication::clipboard()->setText(QStringLiteral("Air\tA\nSea\n"));
+    qt::designer::ListDialog dialog(QStringLiteral("Post,\"Road, express\""), QStringLiteral("P,X"), nullptr);
+    for (const auto& step : steps) {
+        actionOf(dialog, step.action)->trigger();
+        EXPECT_EQ(dialog.items(), QString::fromUtf8(step.items)) << step.action;
+        EXPECT_EQ(dialog.tags(), QString::fromUtf8(step.tags)) << step.action;
+    }
+}
+
+TEST(FormatDialog, ShowsWhatAFormatMakesOfAValue) {
+    for (const qt::designer::WidgetFacts& facts : qt::designer::widgetFacts()) {
+        const auto format = std::find_if(facts.properties.begin(), facts.properties.end(),
+                                         [](const auto& property) { return !property.usual.empty(); });
+        if (format == facts.properties.end()) continue;
+        const bool isDate = std::string_view(facts.className) == "KelDateWidget";
+        qt::designer::FormatDialog dialog(facts, *format, isDate ? "dd.mm.yy" : "hh:nn", nullptr);
+        const auto* const sample = dialog.findChild<qt::KelControlWidget*>();
+        const auto shown = [sample] { return toUtf8(sample->control().widgets().entry->text()); };
+        EXPECT_EQ(shown(), isDate ? "25.04.99" : "18:07");
+        dialog.findChild<QComboBox*>()->setEditText(isDate ? "yyyy" : "h am/pm");
+        EXPECT_EQ(shown(), isDate ? "1999" : "6 pm");
+        EXPECT_EQ(dialog.format(), isDate ? "yyyy" : "h am/pm");
+    }
 }
 
 }  // namespace
