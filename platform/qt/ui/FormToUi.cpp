@@ -13,6 +13,7 @@
 #include "platform/qt/control/KelControlWidget.h"
 #include "platform/qt/designer/WidgetFacts.h"
 #include "platform/qt/ui/ForeignUi.h"
+#include "platform/qt/ui/UiLooks.h"
 #include "platform/qt/ui/UiNames.h"
 #include "platform/qt/ui/UiWriter.h"
 #include "values/Text.h"
@@ -24,7 +25,6 @@ namespace {
 using designer::PropertyFacts;
 using designer::WidgetFacts;
 
-constexpr double ClassicPoints = 8.25;
 constexpr std::int32_t TwipsOfFont = 120;  ///< 8 pixels on the classic scale, whose font has 8 points
 
 const WidgetFacts& factsOf(const ClassModel& model) {
@@ -59,22 +59,6 @@ QString enumText(const QMetaProperty& property, const QVariant& value) {
 /// are written though they are a new one's.
 bool isTold(const QString& property) { return property == u"captionWidth" || property == u"mandatory"; }
 
-/// Colours that the desktop chooses for such a thing anyway.
-bool isUsual(std::string_view role, std::uint32_t color) {
-    constexpr std::uint32_t WindowGround = 0x80000005;
-    constexpr std::uint32_t WindowText = 0x80000008;
-    constexpr std::uint32_t ButtonFace = 0x8000000F;
-    constexpr std::uint32_t ButtonText = 0x80000012;
-    if (role == "Base") return color == WindowGround;
-    if (role == "Text") return color == WindowText;
-    return color == (role.ends_with("Text") ? ButtonText : ButtonFace);
-}
-
-/// The form's is 0x00BBGGRR, or with the highest bit one of the desktop's.
-std::uint32_t rgbOf(std::uint32_t color) { return (color & 0xFFU) << 16U | (color & 0xFF00U) | (color >> 16U & 0xFFU); }
-
-bool isDesktops(std::uint32_t color) { return (color & 0x80000000U) != 0; }
-
 class Conversion {
 public:
     Conversion(const FormFile& file, const TwipScale& scale)
@@ -102,8 +86,6 @@ private:
     void controlValues(BlockReader& block, const ClassModel& model, UiWriter& ui);
     bool leaveToday(const Control& control, BlockReader& block);
     void tellDeviations(const Control& control, BlockReader& block);
-    void font(BlockReader& block, UiWriter& ui, int points);
-    void colors(BlockReader& block, UiWriter& ui, const char* textRole, const char* groundRole, bool mustFill);
     QString buddyOf(FormBlockId label);
     QStringList tabStops();
     void keep(const BlockReader& block);
@@ -191,8 +173,8 @@ void Conversion::window(UiWriter& ui) {
     if (form.boolean(u"RightToLeft").value_or(false))
         ui.enumeration(QStringLiteral("layoutDirection"), QStringLiteral("Qt::RightToLeft"));
     if (!form.boolean(u"Enabled").value_or(true)) ui.property(QStringLiteral("enabled"), false);
-    font(form, ui, BasePoints_);
-    colors(form, ui, "WindowText", "Window", false);
+    writeFont(form, ui, BasePoints_, true);
+    writeColors(form, ui, "WindowText", "Window", false);
     for (const std::u16string_view passed : {u"ClientWidth", u"ClientHeight", u"Left", u"Top", u"Width", u"Height"})
         form.pass(passed);
     for (const FormBlockId child : File_.block(0).children) block(child, ui);
@@ -228,9 +210,9 @@ void Conversion::foreign(FormBlockId id, UiWriter& ui) {
     ui.beginWidget(QString::fromLatin1(kind.qtClass(block)), nameOf(id));
     place(block, ui);
     if (!block.boolean(u"Enabled").value_or(true)) ui.property(QStringLiteral("enabled"), false);
-    font(block, ui, 0);
+    writeFont(block, ui, BasePoints_, false);
     const bool isClear = block.integer(u"BackStyle").value_or(1) == 0;
-    colors(block, ui, kind.textRole, kind.groundRole, kind.mustFill && !isClear);
+    writeColors(block, ui, kind.textRole, kind.groundRole, kind.mustFill && !isClear);
     if (isLabel(block.block()))
         writeLabel(block, ui, buddyOf(id));
     else
@@ -323,57 +305,6 @@ void Conversion::tellDeviations(const Control& control, BlockReader& block) {
         block.pass(row.name);
         block.pass(row.readName);
     }
-}
-
-// ---- Looks
-
-void Conversion::font(BlockReader& block, UiWriter& ui, int points) {
-    UiWriter::Font font;
-    font.points = points;
-    const auto group = block.group(u"Font");
-    if (!group && points == 0) return;
-    for (const FormProperty& property : group ? group->properties : std::vector<FormProperty>()) {
-        const auto is = [&](std::u16string_view name) { return equalsIgnoringCase(property.name, name); };
-        const auto isOn = [&] { return std::get<bool>(File_.valueAs(property, TypeTag::Boolean)); };
-        constexpr double BoldWeight = 600;
-        if (is(u"Name")) {
-            const QString family = toQString(File_.stringValue(property));
-            // Of a screen of 1995: those of today's desktop stand in for it.
-            if (family != u"MS Sans Serif" && !family.startsWith(u"MS Shell Dlg")) font.family = family;
-        } else if (is(u"Size")) {
-            const double size = std::get<double>(File_.valueAs(property, TypeTag::Double));
-            const int scaled = static_cast<int>(std::lround(size * BasePoints_ / ClassicPoints));
-            if (scaled != BasePoints_ || points != 0) font.points = scaled;
-        } else if (is(u"Weight")) {
-            font.bold = std::get<double>(File_.valueAs(property, TypeTag::Double)) >= BoldWeight;
-        } else if (is(u"Italic")) {
-            font.italic = isOn();
-        } else if (is(u"Underline")) {
-            font.underline = isOn();
-        } else if (is(u"Strikethrough")) {
-            font.strikeOut = isOn();
-        }
-    }
-    ui.font(font);
-}
-
-void Conversion::colors(BlockReader& block, UiWriter& ui, const char* textRole, const char* groundRole, bool mustFill) {
-    QList<UiWriter::Color> colors;
-    for (const auto& [name, role] : {std::pair(u"ForeColor", textRole), std::pair(u"BackColor", groundRole)}) {
-        const auto property = File_.find(block.id(), name);
-        const auto value = block.integer(name);
-        if (!value) continue;
-        const auto color = static_cast<std::uint32_t>(*value);
-        if (!isDesktops(color))
-            colors.append({role, rgbOf(color)});
-        else if (!isUsual(role, color))
-            block.leave(name, property->line, "it is another colour of the desktop");
-    }
-    const bool hasGround = std::any_of(colors.begin(), colors.end(), [groundRole](const UiWriter::Color& color) {
-        return std::string_view(color.role) == groundRole;
-    });
-    if (hasGround && mustFill) ui.property(QStringLiteral("autoFillBackground"), true);
-    if (!colors.isEmpty()) ui.palette(colors);
 }
 
 }  // namespace
