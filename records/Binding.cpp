@@ -4,6 +4,8 @@
 #include <array>
 #include <cmath>
 
+#include "controls/datetime/DateTimeText.h"
+#include "controls/number/NumberText.h"
 #include "host/focus/Mnemonic.h"
 #include "host/Widgets.h"
 #include "host/widgets/TextEntry.h"
@@ -274,6 +276,25 @@ std::u16string Binding::textOf(const Cell& cell) const {
     if (ByTag_) return textWithTag(records::textOf(cell));
     if (Kind_ == Kind::Check) return numberIn(cell) != 0 ? u"yes" : u"no";
     return records::textOf(cell);
+}
+
+std::u16string Binding::shownTextOf(const Cell& cell) const {
+    const Variant format = get(u"Format");
+    const Variant decimals = get(u"Decimals");
+    switch (isNull(cell) ? Kind::None : Kind_) {
+        case Kind::Number: {
+            const auto* const count = std::get_if<std::int16_t>(&decimals);
+            const std::int16_t places = count == nullptr || *count < 0 ? Region_->DecimalDigits : *count;
+            return displayText(numberIn(cell), places, isTrue(u"GroupDigits"), *Region_);
+        }
+        case Kind::Date:
+        case Kind::Time: {
+            const std::u16string text = records::textOf(cell);
+            const auto date = Kind_ == Kind::Date ? readIsoDay(text) : readIsoTime(text);
+            return date && textIn(format) != nullptr ? FieldFormat(*textIn(format)).show(date, *Region_) : text;
+        }
+        default: return textOf(cell);
+    }
 }
 
 // ---- The person

@@ -71,6 +71,10 @@ public:
     bool holds(const Column& column, const Cell& cell) const;
     /// `cell` in words for the person: the text of a tag, yes or no.
     std::u16string textOf(const Cell& cell) const;
+    /// `cell` as the field shows it, by its format and its decimals: for lists, where one that is cut short does no
+    /// harm.
+    std::u16string shownTextOf(const Cell& cell) const;
+    bool showsNumber() const { return Kind_ == Kind::Number; }
 
     /// Asked with a message for the person when it is not.
     bool isValid(bool sayWhy) const;

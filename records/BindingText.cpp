@@ -56,7 +56,7 @@ std::optional<std::u16string> Binding::take(std::u16string_view text, const Regi
 }
 
 std::optional<std::u16string> Binding::takeText(std::u16string_view text) {
-    if (Lookup_ && Lookup_->showIfThere(std::u16string(text))) return std::nullopt;
+    if (Lookup_ && Lookup_->take(std::u16string(text))) return std::nullopt;
     const TextEntry& entry = *Control_->control().widgets().entry;
     std::u16string wanted = withFieldBreaks(text);
     if (!entry.multiLine() && wanted.find(u'\r') != std::u16string::npos)

@@ -1,6 +1,7 @@
 #include "records/Lookup.h"
 
 #include <algorithm>
+#include <cmath>
 #include <unordered_set>
 
 #include "records/Finder.h"
@@ -12,6 +13,8 @@ namespace {
 
 constexpr std::size_t KeyPlace = 0;
 constexpr std::size_t TextPlace = 1;
+/// Doubles tell whole numbers apart up to here.
+constexpr double LargestExact = 9007199254740992.0;
 
 int rankAsText(const Column& column) { return (column.unique ? 2 : 0) + (column.notNull ? 1 : 0); }
 
@@ -35,9 +38,11 @@ std::u16string lineOf(const Cell& cell) {
     return text.substr(begin, text.find_last_not_of(u' ') + 1 - begin);
 }
 
-Cell keyCell(const Column& column, const std::u16string& key) {
+/// As the column has it; nothing where it can have no such value.
+std::optional<Cell> keyCell(const Column& column, const std::u16string& key) {
+    if (column.type != ColumnType::Integer) return key;
     double number = 0;
-    if (column.type != ColumnType::Integer || !readPlainNumber(key, defaultRegion(), number)) return key;
+    if (!readPlainNumber(key, defaultRegion(), number) || std::abs(number) > LargestExact) return std::nullopt;
     return static_cast<std::int64_t>(number);
 }
 
@@ -111,9 +116,9 @@ std::optional<std::size_t> Lookup::find(const std::u16string& key) const {
 
 const std::optional<std::u16string>& Lookup::other(const std::u16string& key) const {
     const auto [text, isNew] = Others_.try_emplace(key);
-    if (isNew)
-        if (const std::optional<Record> row = Records_->read({keyCell(Records_->table().columns[KeyPlace], key)}))
-            text->second = lineOf(row->cells[TextPlace]);
+    const std::optional<Cell> cell = isNew ? keyCell(Records_->table().columns[KeyPlace], key) : std::nullopt;
+    if (!cell) return text->second;
+    if (const std::optional<Record> row = Records_->read({*cell})) text->second = lineOf(row->cells[TextPlace]);
     return text->second;
 }
 

@@ -61,10 +61,18 @@ void LookupField::show(const std::u16string& key) {
     put(Combo_.control(), u"Text", Lookup_.textOf(key), Region_);
 }
 
-bool LookupField::showIfThere(const std::u16string& key) {
-    const bool isThere = !key.empty() && Lookup_.isThere(key);
-    if (isThere) show(key);
-    return isThere;
+bool LookupField::take(const std::u16string& text) {
+    if (text.empty()) return false;
+    // The database is asked last: a text is no key that it could look for.
+    const ComboBox& box = *Combo_.control().widgets().comboBox;
+    const bool isText = !Lookup_.find(text) && box.items().findExact(text) != ListItems::NotFound;
+    if (isText)
+        put(Combo_.control(), u"Text", text, Region_);
+    else if (Lookup_.isThere(text))
+        show(text);
+    else
+        return false;
+    return true;
 }
 
 std::u16string LookupField::key() const {

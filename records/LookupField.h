@@ -19,8 +19,8 @@ public:
 
     /// Also a record that is not in the list; the empty key is none.
     void show(const std::u16string& key);
-    /// Where there is such a record; false when there is none.
-    bool showIfThere(const std::u16string& key);
+    /// A record by its key, or by its text as it stands in the list; false when there is none.
+    bool take(const std::u16string& text);
     /// Of what stands in the field, taken as if it was left; empty for none.
     std::u16string key() const;
     /// The key now is the one that is stored.

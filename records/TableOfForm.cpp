@@ -14,6 +14,12 @@ struct Wanted {
     Column column;
 };
 
+/// A day and a time in two fields are a moment in one column.
+bool areDayAndTime(ColumnType left, ColumnType right) {
+    return (left == ColumnType::Date && right == ColumnType::Time) ||
+           (left == ColumnType::Time && right == ColumnType::Date);
+}
+
 /// In the order of the Tab key.
 std::vector<Wanted> wantedBy(const Form& form, const RegionalSettings& region) {
     std::vector<Wanted> wanted;
@@ -22,6 +28,13 @@ std::vector<Wanted> wantedBy(const Form& form, const RegionalSettings& region) {
         FieldSource source = sourceOf(form.file().text(placed.block, u"DataField"), placed.control->name());
         Column column = Binding(placed, 0, source.byTag, region).ownColumn();
         column.name = source.column;
+        const auto same = std::find_if(wanted.begin(), wanted.end(), [&](const Wanted& each) {
+            return isSameName(each.column.name, column.name) && areDayAndTime(each.column.type, column.type);
+        });
+        if (same != wanted.end()) {
+            same->column.type = ColumnType::Moment;
+            continue;
+        }
         wanted.push_back({std::move(source), std::move(column)});
     }
     return wanted;

@@ -172,6 +172,29 @@ TEST_F(OnDatabase, KeysAreShownAsTheRecordsTheyPointTo) {
     EXPECT_EQ(value("SELECT p FROM member"), "1");
 }
 
+/// In a list of records each may be meant by its key or by its text.
+TEST_F(OnDatabase, ListsMayHaveKeysOrTexts) {
+    execute("CREATE TABLE parent (id INTEGER PRIMARY KEY, name VARCHAR(20) NOT NULL)");
+    execute("CREATE TABLE member (id INTEGER DEFAULT 9 PRIMARY KEY, name TEXT, p INTEGER REFERENCES parent (id))");
+    execute("INSERT INTO parent VALUES (1, 'Smith'), (2, 'adams')");
+    const auto store = open();
+    const auto records = store->open(store->table(u"member").value());
+    const auto home = headless::makeHome({.region = &defaultRegion()});
+    Importer importer(*home, FormFile::parse(ListForm, "member.frm"), *records, store.get());
+    const struct {
+        std::string line;
+        const char* stored;
+    } rows[] = {{"Ann,2", "2"}, {"Bea,Smith", "1"}, {"Cid,", "none"}, {"Dan,3", "no row"}};
+    for (const auto& row : rows) {
+        execute("DELETE FROM member");
+        std::istringstream stream(row.line + "\n");
+        importer.run(
+            stream, {.separator = 0, .hasHeader = false}, false, [](std::string_view) {},
+            [](std::int64_t) { return true; });
+        EXPECT_EQ(value("SELECT coalesce(CAST(p AS TEXT), 'none') FROM member"), row.stored);
+    }
+}
+
 /// A table of any length gives a list that a person can open, and every record that it holds is shown and kept.
 TEST_F(OnDatabase, KeysBeyondTheListAreKept) {
     execute("CREATE TABLE parent (id INTEGER PRIMARY KEY, name VARCHAR(20) NOT NULL)");

@@ -35,17 +35,17 @@ const records::Record* RecordList::recordAt(int row) const {
 
 QVariant RecordList::data(const QModelIndex& index, int role) const {
     const records::Binding& binding = Form_.bindings()[static_cast<std::size_t>(index.column())];
-    const records::ColumnType type = Form_.table().columns[binding.column()].type;
-    const bool isNumber = type == records::ColumnType::Integer || type == records::ColumnType::Real ||
-                          type == records::ColumnType::Decimal;
     if (role == Qt::TextAlignmentRole)
-        return static_cast<int>((isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+        return static_cast<int>((binding.showsNumber() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     if (role != Qt::DisplayRole) return {};
     const records::Record* const record = recordAt(index.row());
-    return record == nullptr ? QVariant() : toQString(binding.textOf(record->cells[binding.column()]));
+    return record == nullptr ? QVariant() : toQString(binding.shownTextOf(record->cells[binding.column()]));
 }
 
 QVariant RecordList::headerData(int section, Qt::Orientation orientation, int role) const {
+    // The headings stand where their texts do.
+    if (role == Qt::TextAlignmentRole && orientation == Qt::Horizontal)
+        return data(createIndex(0, section), Qt::TextAlignmentRole);
     if (role != Qt::DisplayRole) return {};
     if (orientation == Qt::Vertical) return section + 1;
     return toQString(Form_.bindings()[static_cast<std::size_t>(section)].caption());

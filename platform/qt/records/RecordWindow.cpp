@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QPainter>
 #include <QScrollArea>
 #include <QSignalBlocker>
 #include <QStatusBar>
@@ -43,20 +44,47 @@ constexpr int ListWidth = 380;         ///< pixels, until the person has drawn i
 constexpr int LongestSilence = 40;     ///< milliseconds for which a search leaves the window alone
 constexpr int Later = 1000;            ///< milliseconds until what could not be done beside is tried again
 constexpr std::int64_t Many = 10'000;  ///< records that are not sorted and searched in a moment without an index
+constexpr int ArrowPixels = 64;        ///< of the picture; smaller ones are made of it
+constexpr int WidestColumn = 220;      ///< pixels
+constexpr int RowsMeasured = 50;       ///< that a column is made wide enough for
 
-QIcon iconOf(const QStyle& style, Command command) {
-    switch (command) {
-        case Command::New: return style.standardIcon(QStyle::SP_FileIcon);
-        case Command::Save: return style.standardIcon(QStyle::SP_DialogSaveButton);
-        case Command::SaveAndNew: return style.standardIcon(QStyle::SP_DialogYesButton);
-        case Command::Undo: return style.standardIcon(QStyle::SP_DialogResetButton);
-        case Command::First: return style.standardIcon(QStyle::SP_MediaSkipBackward);
-        case Command::Previous: return style.standardIcon(QStyle::SP_MediaSeekBackward);
-        case Command::Next: return style.standardIcon(QStyle::SP_MediaSeekForward);
-        case Command::Last: return style.standardIcon(QStyle::SP_MediaSkipForward);
-        case Command::Find: return style.standardIcon(QStyle::SP_FileDialogContentsView);
-        default: return {};
+/// Arrows in the colour of the window's texts: those of the styles are black, on a dark ground too.
+QIcon arrowsOf(const QPalette& palette, Command command, bool isMirrored) {
+    const bool isForward = command == Command::Next || command == Command::Last;
+    const bool isToEnd = command == Command::First || command == Command::Last;
+    QPixmap pixmap(QSize(ArrowPixels, ArrowPixels));
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette.color(QPalette::ButtonText));
+    painter.scale(ArrowPixels / 16.0, ArrowPixels / 16.0);
+    if (isForward == isMirrored) {
+        painter.translate(16, 0);
+        painter.scale(-1, 1);
     }
+    painter.drawPolygon(QPolygonF({{4, 3}, {11, 8}, {4, 13}}));
+    if (isToEnd) painter.drawRect(QRectF(11, 3, 2, 10));
+    return pixmap;
+}
+
+/// The desktop's own picture, or where it has none one of the style.
+QIcon iconOf(const QStyle& style, Command command) {
+    struct Row {
+        Command command;
+        const char* name;
+        QStyle::StandardPixmap otherwise;
+    };
+    static constexpr Row Rows[] = {
+        {Command::New, "document-new", QStyle::SP_FileIcon},
+        {Command::Save, "document-save", QStyle::SP_DialogSaveButton},
+        {Command::SaveAndNew, "document-save-as", QStyle::SP_DialogApplyButton},
+        {Command::Undo, "edit-undo", QStyle::SP_ArrowBack},
+        {Command::Find, "edit-find", QStyle::SP_FileDialogContentsView},
+    };
+    for (const Row& row : Rows)
+        if (row.command == command) return QIcon::fromTheme(QLatin1String(row.name), style.standardIcon(row.otherwise));
+    return {};
 }
 
 }  // namespace
@@ -140,7 +168,10 @@ private:
             QMenu*& menu = menus[row.menu];
             if (menu == nullptr) menu = menuBar()->addMenu(toQString(row.menu));
             if (row.startsGroup) menu->addSeparator();
-            QAction* const action = menu->addAction(iconOf(*style(), row.command), toQString(row.caption));
+            const bool isArrow = row.command >= Command::First && row.command <= Command::Last;
+            QAction* const action = menu->addAction(
+                isArrow ? arrowsOf(palette(), row.command, isRightToLeft()) : iconOf(*style(), row.command),
+                toQString(row.caption));
             action->setShortcut(QKeySequence(toQString(row.key)));
             action->setStatusTip(toQString(row.help));
             action->setToolTip(toQString(row.help) + QLatin1String(" (") + toQString(row.key) + QLatin1Char(')'));
@@ -167,6 +198,8 @@ private:
         Table_->verticalHeader()->setDefaultSectionSize(Table_->fontMetrics().height() + 6);
         Table_->setWordWrap(false);
         Table_->setTabKeyNavigation(false);
+        Table_->horizontalHeader()->setMaximumSectionSize(WidestColumn);
+        Table_->horizontalHeader()->setResizeContentsPrecision(RowsMeasured);
         QObject::connect(Table_, &QTableView::activated, this,
                          [this](const QModelIndex& index) { showRow(index.row()); });
         QObject::connect(Table_, &QTableView::clicked, this,
@@ -321,6 +354,8 @@ private:
         if (!isMaximized())
             resize(width() + (shown ? ListWidth + separator : -(ListDock_->width() + separator)), height());
         ListDock_->setVisible(shown);
+        if (shown && !IsListMeasured_) Table_->resizeColumnsToContents();
+        IsListMeasured_ = true;
         if (shown) resizeDocks({ListDock_}, {ListWidth}, Qt::Horizontal);
     }
 
@@ -428,6 +463,7 @@ private:
     QAction* Escape_ = nullptr;  ///< ends a search
     int Section_ = -1;           ///< by which the list is sorted
     bool IsSeeking_ = false;
+    bool IsListMeasured_ = false;  ///< from then on columns are as wide as the person makes them
 };
 
 RecordWindow::RecordWindow(Form& form, Home& home, Home& unseen, records::Store& store, const records::Table& table)
