@@ -70,6 +70,8 @@ std::optional<Table> lookupTable(Store& store, const Column& column) {
 Lookup::Lookup(Store& store, const Table& table) : Records_(store.open(table)) { refresh(); }
 
 bool Lookup::refresh() {
+    // To read the beginning of a large table anew may take a while, and a person waits for the list.
+    if (Rows_.size() == static_cast<std::size_t>(MostRows)) return false;
     std::vector<Record> rows = Records_->walk(nullptr, Way::Forward, MostRows, {TextPlace, false});
     Others_.clear();
     if (rows == Rows_ && !Places_.empty()) return false;

@@ -26,7 +26,7 @@ public:
     /// `table` as `lookupTable` gives it. Reads the list. Throws StoreError. The store outlives it.
     Lookup(Store& store, const Table& table);
 
-    /// Reads the list again; whether it is another one now. Throws StoreError.
+    /// Reads the list again, unless it is as long as may be; whether it is another one now. Throws StoreError.
     bool refresh();
 
     const StringArray& texts() const { return Texts_; }
