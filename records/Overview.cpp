@@ -40,8 +40,10 @@ void Overview::changed(const Record* before, const Record* after) {
 bool Overview::refresh() {
     bool isAnew = false;
     for (const auto& each : Places_) isAnew = each->refresh() || isAnew;
-    if (Texts_) isAnew = Texts_->refresh() || isAnew;
-    return isAnew;
+    if (!Texts_ || !Texts_->refresh()) return isAnew;
+    // Through a network all records are read for the next search, and not after each change of somebody's.
+    if (!Store_->isNear()) Texts_.reset();
+    return true;
 }
 
 }  // namespace kel::records

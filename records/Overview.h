@@ -17,9 +17,9 @@ public:
 
     /// The places in an order, which are kept until two others have been asked for.
     Places& places(const Order& order);
-    /// From now on records are found by their texts, as soon as these are written.
+    /// Records are to be found by their texts, as soon as these are written.
     void wantTexts();
-    /// nullptr until they are wanted.
+    /// nullptr while they are not wanted; on a server they are no more after somebody has changed something.
     const SearchTexts* texts() const { return Texts_.get(); }
 
     /// Goes on for a few milliseconds with what is missing. False when nothing is.

@@ -15,7 +15,7 @@ constexpr auto Slice = std::chrono::milliseconds(5);
 constexpr std::int64_t FirstSpacing = 500;
 constexpr std::size_t MostLandmarks = 4096;
 constexpr std::size_t MostLater = 1000;
-constexpr std::size_t Chunk = std::size_t{1} << 20U;
+constexpr std::size_t Chunk = std::size_t{256} << 10U;  ///< what a processor has at hand
 
 // An entry is the texts of a record's columns, its key, and an end; between them stand bytes that no text has.
 constexpr char AfterPart = '\xFB';
@@ -187,8 +187,7 @@ void SearchTexts::settle(const Cells& key) {
 
 void SearchTexts::blank(const Cells& key) {
     const auto blankOut = [&](std::int64_t begin, std::int64_t end) {
-        const std::size_t length =
-            std::min(read(begin, end - begin).find(BeforeKey), static_cast<std::size_t>(end - begin));
+        const std::size_t length = std::min(read(begin, end).find(BeforeKey), static_cast<std::size_t>(end - begin));
         write(begin, std::string(length, Blank));
         --Written_;
     };
@@ -199,11 +198,15 @@ void SearchTexts::blank(const Cells& key) {
 
 // ---- Finding
 
-std::string SearchTexts::read(std::int64_t offset, std::int64_t length) const {
-    std::string bytes(static_cast<std::size_t>(length), '\0');
+void SearchTexts::read(std::int64_t offset, std::span<char> bytes) const {
     if (std::fseek(File_.get(), static_cast<long>(offset), SEEK_SET) != 0 ||
         std::fread(bytes.data(), 1, bytes.size(), File_.get()) != bytes.size())
         throw StoreError(StoreError::Kind::Wrong, "The texts of the search cannot be read.");
+}
+
+std::string SearchTexts::read(std::int64_t begin, std::int64_t end) const {
+    std::string bytes(static_cast<std::size_t>(end - begin), '\0');
+    read(begin, std::span(bytes));
     return bytes;
 }
 
@@ -220,7 +223,7 @@ std::optional<std::pair<std::int64_t, std::int64_t>> SearchTexts::entryOf(const 
     if (behind == 0) return std::nullopt;
     const std::int64_t begin = Landmarks_[behind - 1].offset;
     const std::int64_t end = behind < Landmarks_.size() ? Landmarks_[behind].offset : RowsEnd_;
-    const std::string entries = read(begin, end - begin);
+    const std::string entries = read(begin, end);
     const std::size_t found = entries.find(BeforeKey + wordsOf(key) + AfterEntry);
     if (found == std::string::npos) return std::nullopt;
     const std::size_t before = entries.rfind(AfterEntry, found);
@@ -241,24 +244,30 @@ std::optional<std::pair<std::int64_t, std::int64_t>> SearchTexts::placeOf(Cells 
     return std::nullopt;
 }
 
-std::size_t SearchTexts::rarest(std::string_view sought) const {
-    const auto found = std::min_element(sought.begin(), sought.end(), [&](char left, char right) {
-        return Frequency_[static_cast<unsigned char>(left)] < Frequency_[static_cast<unsigned char>(right)];
-    });
-    return static_cast<std::size_t>(found - sought.begin());
+std::size_t SearchTexts::rarest(std::string_view sought, std::size_t but) const {
+    std::size_t found = but == 0 && sought.size() > 1 ? 1 : 0;
+    const auto frequency = [&](std::size_t i) { return Frequency_[static_cast<unsigned char>(sought[i])]; };
+    for (std::size_t i = 0; i < sought.size(); ++i)
+        if (i != but && frequency(i) < frequency(found)) found = i;
+    return found;
 }
 
 /// Hands over where each hit is, and the words of its record's key; false when it was stopped.
 template <class Each>
 bool SearchTexts::forEachHit(std::string_view sought, const GoesOn& goesOn, Each each) const {
-    const std::size_t rare = rarest(sought);
+    // Most places are told apart by its two rarest bytes alone.
+    const std::size_t rare = rarest(sought, sought.size());
+    const std::size_t second = rarest(sought, rare);
     const auto search = [&](std::string_view entries, std::int64_t offset) {
         std::size_t from = rare;
         while (from < entries.size()) {
             const std::size_t at = entries.find(sought[rare], from);
             if (at == std::string_view::npos) return;
             from = at + 1;
-            if (entries.compare(at - rare, sought.size(), sought) != 0) continue;
+            const std::size_t begin = at - rare;
+            if (begin + sought.size() > entries.size()) return;
+            if (entries[begin + second] != sought[second] || entries.compare(begin, sought.size(), sought) != 0)
+                continue;
             const std::size_t end = entries.find(AfterEntry, at);
             const std::string_view rest = entries.substr(at, end - at);
             const std::size_t key = rest.find(BeforeKey);
@@ -266,14 +275,21 @@ bool SearchTexts::forEachHit(std::string_view sought, const GoesOn& goesOn, Each
             from = end + 1 + rare;  // one hit is enough
         }
     };
-    std::string buffer;
+    std::string buffer(Chunk, '\0');
     std::int64_t offset = 0;
-    while (offset + static_cast<std::int64_t>(buffer.size()) < End_) {
-        const std::int64_t next = offset + static_cast<std::int64_t>(buffer.size());
-        buffer += read(next, std::min(static_cast<std::int64_t>(Chunk), End_ - next));
-        const std::size_t end = buffer.rfind(AfterEntry) + 1;  // 0 where an entry is longer than all that
-        search(std::string_view(buffer).substr(0, end), offset);
-        buffer.erase(0, end);
+    std::size_t held = 0;  // in the buffer, from the offset on
+    while (offset + static_cast<std::int64_t>(held) < End_) {
+        if (held == buffer.size()) buffer.resize(2 * buffer.size());  // an entry is longer than all that
+        const std::int64_t next = offset + static_cast<std::int64_t>(held);
+        const auto more = std::min(buffer.size() - held, static_cast<std::size_t>(End_ - next));
+        read(next, std::span(buffer).subspan(held, more));
+        held += more;
+        const std::string_view entries = std::string_view(buffer).substr(0, held);
+        const std::size_t end = entries.rfind(AfterEntry) + 1;  // 0 where there is none
+        search(entries.substr(0, end), offset);
+        std::copy(buffer.begin() + static_cast<std::ptrdiff_t>(end), buffer.begin() + static_cast<std::ptrdiff_t>(held),
+                  buffer.begin());
+        held -= end;
         offset += static_cast<std::int64_t>(end);
         if (!goesOn()) return false;
     }

@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -76,11 +77,12 @@ private:
     std::size_t landmarksUpTo(const Cells& key) const;
     void blank(const Cells& key);
     void write(std::int64_t offset, std::string_view bytes);
-    std::string read(std::int64_t offset, std::int64_t length) const;
+    void read(std::int64_t offset, std::span<char> bytes) const;
+    std::string read(std::int64_t begin, std::int64_t end) const;
     template <class Each>
     bool forEachHit(std::string_view sought, const GoesOn& goesOn, Each each) const;
-    /// Of the bytes of a text the one that is written least often.
-    std::size_t rarest(std::string_view sought) const;
+    /// Of the bytes of a text, but one, that which is written least often.
+    std::size_t rarest(std::string_view sought, std::size_t but) const;
 
     RecordStore* Store_;
     std::unique_ptr<std::FILE, Closer> File_;

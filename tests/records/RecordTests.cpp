@@ -1,7 +1,10 @@
 #include <algorithm>
 #include <random>
+#include <set>
 #include <sstream>
 
+#include "forms/play/Script.h"
+#include "records/Commands.h"
 #include "records/exchange/Importer.h"
 #include "records/make/FormOfTable.h"
 #include "tests/records/OnDatabase.h"
@@ -63,6 +66,49 @@ TEST_F(OnDatabase, WalksInEveryOrder) {
                     EXPECT_FALSE(records->isBehind(keyOf(table, wanted[from]), wanted[to], order));
                 }
             }
+        }
+    }
+}
+
+// ---- Keys
+
+/// A key that a field uses itself would do two things at once.
+TEST_F(OnDatabase, NoFieldUsesTheKeyOfACommand) {
+    const auto store = open();
+    Person person(formOf({{"txtName", "KelText", ""},
+                          {"numFee", "KelNumber", UpTo99},
+                          {"datJoined", "KelDate", ""},
+                          {"timMeets", "KelTime", ""},
+                          {"cboBranch", "KelCombo", "      List = \"North,South\"\r\n"}}),
+                  *store, u"member");
+    person.put(u"txtName", std::u16string(u"Anna Bell"));
+    person.put(u"numFee", 12.0);
+    person.put(u"datJoined", Date{41348});
+    person.put(u"timMeets", Date{0.5});
+    person.put(u"cboBranch", std::u16string(u"North"));
+    std::set<std::u16string> taken;
+    for (const FieldKeyRow& row : fieldKeyRows())
+        for (std::u16string_view rest = row.key; !rest.empty();) {
+            const std::size_t end = std::min(rest.find(u", "), rest.size());
+            taken.emplace(rest.substr(0, end));
+            rest.remove_prefix(std::min(end + 2, rest.size()));
+        }
+    for (const CommandRow& row : commandRows()) {
+        EXPECT_TRUE(taken.emplace(row.key).second) << toUtf8(row.key) << " is used twice, or not there";
+        std::string key = toUtf8(row.key);
+        if (const auto page = key.find("Pg"); page != std::string::npos) key.replace(page, 2, "Page");
+        KeyStroke stroke;
+        try {
+            stroke = readScript("keys", "key " + key + "\n").commands.front().stroke;
+        } catch (const std::exception&) {
+            continue;  // no field knows such a key at all
+        }
+        for (const char16_t* const field : {u"txtName", u"numFee", u"datJoined", u"timMeets", u"cboBranch"}) {
+            const std::u16string before = person.text(field);
+            person.press(field, stroke);
+            EXPECT_EQ(person.text(field), before) << key;
+            EXPECT_EQ(person.entry(field).selStart(), 1) << key << " in " << toUtf8(field);
+            EXPECT_EQ(person.entry(field).selLength(), 0) << key << " in " << toUtf8(field);
         }
     }
 }

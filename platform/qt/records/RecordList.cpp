@@ -9,27 +9,28 @@ namespace kel::qt {
 RecordList::RecordList(const records::RecordForm& form, QObject* parent)
     : QAbstractTableModel(parent), Form_(form), Order_(form.order()) {}
 
-int RecordList::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : Count_; }
+int RecordList::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(std::clamp<std::int64_t>(Count_ - Top_, 0, Rows_));
+}
 
 int RecordList::columnCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(Form_.bindings().size());
 }
 
 const records::Record* RecordList::recordAt(int row) const {
-    const int page = row / PageSize;
+    const std::int64_t page = (Top_ + row) / PageSize;
     auto found = Pages_.find(page);
     if (found == Pages_.end()) {
         if (Pages_.size() >= MostPages) Pages_.clear();
         try {
-            std::vector<records::Record> rows =
-                Form_.overview().places(Order_).rows(std::int64_t{page} * PageSize, PageSize);
+            std::vector<records::Record> rows = Form_.overview().places(Order_).rows(page * PageSize, PageSize);
             if (rows.empty()) return nullptr;  // known in a moment
             found = Pages_.emplace(page, std::move(rows)).first;
         } catch (const records::StoreError&) {
             return nullptr;  // what is wrong is said where the person does something
         }
     }
-    const auto place = static_cast<std::size_t>(row % PageSize);
+    const auto place = static_cast<std::size_t>((Top_ + row) % PageSize);
     return place < found->second.size() ? &found->second[place] : nullptr;
 }
 
@@ -47,7 +48,7 @@ QVariant RecordList::headerData(int section, Qt::Orientation orientation, int ro
     if (role == Qt::TextAlignmentRole && orientation == Qt::Horizontal)
         return data(createIndex(0, section), Qt::TextAlignmentRole);
     if (role != Qt::DisplayRole) return {};
-    if (orientation == Qt::Vertical) return section + 1;
+    if (orientation == Qt::Vertical) return QVariant::fromValue(Top_ + section + 1);
     return toQString(Form_.bindings()[static_cast<std::size_t>(section)].caption());
 }
 
@@ -64,17 +65,27 @@ void RecordList::refresh() {
     } catch (const records::StoreError&) {
         known.reset();  // what is wrong is said where the person does something
     }
-    const int count = known ? static_cast<int>(std::min<std::int64_t>(*known, INT32_MAX)) : Count_;
-    if (count > Count_) {
-        beginInsertRows({}, Count_, count - 1);
-        Count_ = count;
-        endInsertRows();
-    } else if (count < Count_) {
-        beginRemoveRows({}, count, Count_ - 1);
-        Count_ = count;
-        endRemoveRows();
-    }
-    if (Count_ > 0) emit dataChanged(index(0, 0), index(Count_ - 1, columnCount() - 1));
+    // The scroll bar counts in whole numbers of this size.
+    show(std::min<std::int64_t>(known.value_or(Count_), INT32_MAX), Top_, Rows_);
+}
+
+void RecordList::look(std::int64_t top, int rows) {
+    if (top != Top_ || rows != Rows_) show(Count_, top, rows);
+}
+
+void RecordList::show(std::int64_t count, std::int64_t top, int rows) {
+    const int before = rowCount();
+    const int after = static_cast<int>(std::clamp<std::int64_t>(count - top, 0, rows));
+    if (after > before) beginInsertRows({}, before, after - 1);
+    if (after < before) beginRemoveRows({}, after, before - 1);
+    Count_ = count;
+    Top_ = top;
+    Rows_ = rows;
+    if (after > before) endInsertRows();
+    if (after < before) endRemoveRows();
+    if (after == 0) return;
+    emit dataChanged(index(0, 0), index(after - 1, columnCount() - 1));
+    emit headerDataChanged(Qt::Vertical, 0, after - 1);
 }
 
 }  // namespace kel::qt

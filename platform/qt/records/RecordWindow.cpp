@@ -29,6 +29,7 @@
 #include "platform/qt/records/ListDialogs.h"
 #include "platform/qt/records/RecordDialogs.h"
 #include "platform/qt/records/RecordList.h"
+#include "platform/qt/records/RecordTable.h"
 #include "records/Commands.h"
 #include "records/Finder.h"
 #include "records/RecordForm.h"
@@ -45,8 +46,6 @@ constexpr int LongestSilence = 40;     ///< milliseconds for which a search leav
 constexpr int Later = 1000;            ///< milliseconds until what could not be done beside is tried again
 constexpr std::int64_t Many = 10'000;  ///< records that are not sorted and searched in a moment without an index
 constexpr int ArrowPixels = 64;        ///< of the picture; smaller ones are made of it
-constexpr int WidestColumn = 220;      ///< pixels
-constexpr int RowsMeasured = 50;       ///< that a column is made wide enough for
 
 /// Arrows in the colour of the window's texts: those of the styles are black, on a dark ground too.
 QIcon arrowsOf(const QPalette& palette, Command command, bool isMirrored) {
@@ -184,22 +183,13 @@ private:
 
     void makeList() {
         List_ = new RecordList(*Form_, this);
-        Table_ = new QTableView(this);
-        Table_->setModel(List_);
-        Table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-        Table_->setSelectionMode(QAbstractItemView::SingleSelection);
+        Table_ = new RecordTable(*List_, this);
         QHeaderView* const header = Table_->horizontalHeader();
         header->setSectionsClickable(true);
         header->setSortIndicatorShown(true);
         header->setSortIndicatorClearable(true);
         header->setSortIndicator(-1, Qt::AscendingOrder);
         QObject::connect(header, &QHeaderView::sortIndicatorChanged, this, &Implementation::sortList);
-        Table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-        Table_->verticalHeader()->setDefaultSectionSize(Table_->fontMetrics().height() + 6);
-        Table_->setWordWrap(false);
-        Table_->setTabKeyNavigation(false);
-        Table_->horizontalHeader()->setMaximumSectionSize(WidestColumn);
-        Table_->horizontalHeader()->setResizeContentsPrecision(RowsMeasured);
         QObject::connect(Table_, &QTableView::activated, this,
                          [this](const QModelIndex& index) { showRow(index.row()); });
         QObject::connect(Table_, &QTableView::clicked, this,
@@ -239,14 +229,14 @@ private:
     }
 
     void refreshListIf(bool changed) {
-        if (changed) List_->refresh();
+        if (changed && ListDock_->isVisible()) Table_->refresh();
     }
 
     void readAgain() {
         if (!Form_->shown()) return;
         const records::Record record = *Form_->shown();
         if (!Form_->toRecord(record)) Form_->toFirst();
-        List_->refresh();
+        refreshListIf(true);
     }
 
     void showRow(int row) {
@@ -273,7 +263,7 @@ private:
         records::Order order{std::nullopt, direction == Qt::DescendingOrder};
         if (section >= 0) order.column = Form_->bindings()[static_cast<std::size_t>(section)].column();
         try {
-            if (Form_->overview().places({}).count().value_or(Many) >= Many && !Store_->isQuick(order)) {
+            if (Form_->overview().places(Form_->order()).count().value_or(Many) >= Many && !Store_->isQuick(order)) {
                 const QString name = toQString(Form_->bindings()[static_cast<std::size_t>(section)].caption());
                 if (!Form_->table().version && !mayMakeIndex(*this, name)) return showOrder();
                 statusBar()->showMessage(QStringLiteral("Sorting by %1 for the first time\u2026").arg(name));
@@ -287,6 +277,7 @@ private:
             return showOrder();
         }
         List_->setOrder(order);
+        refreshListIf(true);
         Section_ = section;
         refreshState();
     }
@@ -328,8 +319,8 @@ private:
             return IsSeeking_;
         };
         try {
-            Form_->overview().wantTexts();
             static_cast<void>(Form_->overview().refresh());
+            Form_->overview().wantTexts();
             const records::Finder finder(*Store_, viewOf(Sought_), Form_->order(), Form_->overview().texts());
             auto [hit, hits] = finder.nearestAround(from, way, goesOn);
             if (hit) Form_->toRecord(*hit);
@@ -349,11 +340,11 @@ private:
     /// The window grows and shrinks with it, so that the form stays as wide as it is.
     void showList(bool shown) {
         if (shown == ListDock_->isVisible()) return;
-        if (shown) List_->refresh();
         const int separator = style()->pixelMetric(QStyle::PM_DockWidgetSeparatorExtent);
         if (!isMaximized())
             resize(width() + (shown ? ListWidth + separator : -(ListDock_->width() + separator)), height());
         ListDock_->setVisible(shown);
+        refreshListIf(true);
         if (shown && !IsListMeasured_) Table_->resizeColumnsToContents();
         IsListMeasured_ = true;
         if (shown) resizeDocks({ListDock_}, {ListWidth}, Qt::Horizontal);
@@ -396,10 +387,7 @@ private:
     }
 
     void showInList(const std::optional<std::int64_t>& place) {
-        if (place && List_->order() == Form_->order() && *place < List_->rowCount())
-            Table_->selectRow(static_cast<int>(*place));
-        else
-            Table_->clearSelection();
+        Table_->mark(List_->order() == Form_->order() ? place : std::nullopt);
     }
 
     // ---- What is done while nobody waits
@@ -433,7 +421,7 @@ private:
             const bool wasWhole = places.isWhole() && listed.isWhole();
             isMore = overview.lookOn();
             if (wasWhole || !places.isWhole() || !listed.isWhole()) return;
-            List_->refresh();
+            refreshListIf(true);
             if (*places.count() >= Many && Store_->isNear()) overview.wantTexts();
             isMore = true;
             refreshState();
@@ -452,7 +440,7 @@ private:
     std::optional<ListDialogs> Lists_;
     QScrollArea* Area_ = nullptr;
     RecordList* List_ = nullptr;
-    QTableView* Table_ = nullptr;
+    RecordTable* Table_ = nullptr;
     QDockWidget* ListDock_ = nullptr;
     QToolBar* Tools_ = nullptr;
     QLabel* Place_ = nullptr;

@@ -134,7 +134,11 @@ void SqlConnection::patiently(Action action) {
     const auto start = std::chrono::steady_clock::now();
     for (;;) {
         try {
-            if (!database().isOpen() && Depth_ == 0) open();
+            if (!database().isOpen() && Depth_ == 0) {
+                // Connecting itself may take long.
+                if (!IsPatient_) throw StoreError(Kind::Lost, "There is no connection just now.");
+                open();
+            }
             return action();
         } catch (const StoreError& error) {
             if (error.kind() == Kind::Lost && Depth_ == 0) close();

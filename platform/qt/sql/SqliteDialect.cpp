@@ -19,7 +19,8 @@ constexpr int PrimaryCode = 0xFF;  ///< the rest of an error's number says more
 class SqliteDialect final : public Dialect {
 public:
     QStringList setUp() const override {
-        return {QStringLiteral("PRAGMA foreign_keys = ON"), QStringLiteral("PRAGMA synchronous = FULL")};
+        return {QStringLiteral("PRAGMA foreign_keys = ON"), QStringLiteral("PRAGMA synchronous = FULL"),
+                QStringLiteral("PRAGMA cache_size = -16000")};
     }
     QStringList mark() const override {
         return {QStringLiteral("PRAGMA application_id = %1").arg(FileMark),
