@@ -89,10 +89,8 @@ public:
         Control& control = Form_.find(field)->control();
         putMember(control, *findMember(control.model(), DefaultMemberId), value, Home_->region());
     }
-    void press(std::u16string_view field, const KeyStroke& stroke) {
-        Form_.window().click(*Form_.find(field), 1);
-        Form_.window().press(stroke);
-    }
+    void click(std::u16string_view field) { Form_.window().click(*Form_.find(field), 1); }
+    void press(const KeyStroke& stroke) { Form_.window().press(stroke); }
     const TextEntry& entry(std::u16string_view field) { return *Form_.find(field)->control().widgets().entry; }
     std::u16string text(std::u16string_view field) { return Form_.find(field)->control().widgets().entry->text(); }
     Variant get(std::u16string_view field, std::u16string_view member) {
