@@ -67,8 +67,9 @@ SqlConnection::SqlConnection(const std::string& database, Waiting waiting)
     try {
         if (!Address_.isServer) checkFile(Address_.file);
         setUp();
-        open();
+        patiently([] {});  // which opens it
     } catch (const StoreError& error) {
+        close();
         QSqlDatabase::removeDatabase(Name_);
         const QString name = Address_.isServer ? Address_.name : Address_.file;
         throw StoreError(error.kind(), name.toStdString() + ": " + error.what());
@@ -99,7 +100,12 @@ void SqlConnection::setUp() {
 void SqlConnection::open() {
     QSqlDatabase base = database();
     if (!base.open()) throw Dialect_->errorOf(base.lastError());
-    for (const QString& statement : Dialect_->setUp()) runOnce(statement);
+    try {
+        for (const QString& statement : Dialect_->setUp()) runOnce(statement);
+    } catch (const StoreError&) {
+        close();  // one that is half set up is none
+        throw;
+    }
 }
 
 void SqlConnection::close() {
