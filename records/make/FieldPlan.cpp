@@ -36,9 +36,9 @@ std::int32_t widthOf(std::int32_t characters, std::int32_t beside = 0) {
 
 /// By a word that such columns have everywhere.
 bool soundsLong(const Words& words) {
-    static constexpr std::u16string_view Long[] = {u"note",        u"notes",    u"remark", u"remarks",
-                                                   u"comment",     u"comments", u"memo",   u"description",
-                                                   u"description", u"details",  u"body",   u"message"};
+    static constexpr std::u16string_view Long[] = {u"note",    u"notes",    u"remark", u"remarks",
+                                                   u"comment", u"comments", u"memo",   u"description",
+                                                   u"details", u"body",     u"message"};
     return !words.empty() && std::find(std::begin(Long), std::end(Long), words.back()) != std::end(Long);
 }
 

@@ -2,16 +2,18 @@
 
 #include <algorithm>
 
+#include "common/FieldLayout.h"
+
 namespace kel::records {
 
 namespace {
 
 constexpr std::int32_t Margin = 240;
-constexpr std::int32_t FieldHeight = 300;
 constexpr std::int32_t RowHeight = 390;
 constexpr std::int32_t ColumnGap = 360;
 constexpr std::int32_t BesideGap = 150;
 constexpr std::int32_t RowsOfColumn = 14;  ///< more make a further column
+constexpr std::int32_t MostRows = 20;      ///< where there would be more than two
 constexpr std::int32_t CaptionCharacter = 105;
 constexpr std::int32_t CaptionGap = 150;
 constexpr std::int32_t NarrowestCaption = 900;
@@ -56,7 +58,8 @@ std::int32_t arrangeColumn(const std::vector<FieldPlan>& fields, std::size_t fir
 Grid arrange(const std::vector<FieldPlan>& fields) {
     std::int32_t rows = 0;
     for (const FieldPlan& field : fields) rows += field.isBesideBefore ? 0 : field.rows;
-    const std::int32_t columns = std::max((rows + RowsOfColumn - 1) / RowsOfColumn, 1);
+    const std::int32_t most = rows <= 2 * RowsOfColumn ? RowsOfColumn : MostRows;
+    const std::int32_t columns = std::max((rows + most - 1) / most, 1);
     const std::int32_t rowsOfEach = (rows + columns - 1) / columns;
     Grid grid;
     std::int32_t left = Margin;
