@@ -50,6 +50,35 @@ std::u16string withKey(const std::u16string& text, const std::u16string& key) {
     return text + (text.empty() ? u"(" : u" (") + key + u')';
 }
 
+struct Item {
+    std::u16string sorted;  ///< without case and accents
+    std::u16string text;
+    std::u16string key;
+};
+
+/// In order. Records of the same text, or of none, are told apart by their keys.
+std::vector<Item> itemsOf(const std::vector<Record>& rows) {
+    std::vector<Item> items;
+    std::unordered_map<std::u16string, int> counts;
+    for (const Record& row : rows) {
+        std::u16string text = lineOf(row.cells[TextPlace]);
+        ++counts[text];
+        items.push_back({searchKey(text), std::move(text), textOf(row.cells[KeyPlace])});
+    }
+    const auto isClear = [&](const std::u16string& text) { return !text.empty() && counts[text] == 1; };
+    std::unordered_set<std::u16string> taken;
+    for (const Item& item : items)
+        if (isClear(item.text)) taken.insert(item.text);
+    for (Item& item : items) {
+        if (isClear(item.text)) continue;
+        do item.text = withKey(item.text, item.key);
+        while (!taken.insert(item.text).second);
+    }
+    std::stable_sort(items.begin(), items.end(),
+                     [](const Item& left, const Item& right) { return left.sorted < right.sorted; });
+    return items;
+}
+
 }  // namespace
 
 std::optional<Table> lookupTable(Store& store, const Column& column) {
@@ -76,29 +105,7 @@ bool Lookup::refresh() {
     Others_.clear();
     if (rows == Rows_ && !Places_.empty()) return false;
     Rows_ = std::move(rows);
-    struct Item {
-        std::u16string sorted;
-        std::u16string text;
-        std::u16string key;
-    };
-    std::vector<Item> items;
-    std::unordered_map<std::u16string, int> counts;
-    for (const Record& row : Rows_) {
-        std::u16string text = lineOf(row.cells[TextPlace]);
-        ++counts[text];
-        items.push_back({searchKey(text), text, records::textOf(row.cells[KeyPlace])});
-    }
-    // Two of the same name are told apart by their keys.
-    std::unordered_set<std::u16string> taken;
-    for (const auto& [text, count] : counts)
-        if (count == 1 && !text.empty()) taken.insert(text);
-    for (Item& item : items) {
-        if (counts[item.text] == 1 && !item.text.empty()) continue;
-        do item.text = withKey(item.text, item.key);
-        while (!taken.insert(item.text).second);
-    }
-    std::stable_sort(items.begin(), items.end(),
-                     [](const Item& left, const Item& right) { return left.sorted < right.sorted; });
+    std::vector<Item> items = itemsOf(Rows_);
     Texts_.clear();
     Keys_.clear();
     Places_.clear();

@@ -78,7 +78,7 @@ std::unique_ptr<RecordsWindow> openRecords(Form&, Home&, records::Store&, const 
 struct Database::Driver {};
 
 Database::Database(const std::string& address) {
-    throw UsageError("--data " + address + ": this program was built without databases");
+    throw UsageError(address + ": this program was built without databases");
 }
 
 #endif
