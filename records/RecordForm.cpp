@@ -238,6 +238,7 @@ std::vector<Change> RecordForm::changes() const {
 }
 
 void RecordForm::stored(Record record) {
+    ++Saves_;
     compareWith(std::move(record));
     for (Binding& binding : Bindings_) {
         // What the database has made of it: a default, a text that a trigger has changed.

@@ -58,6 +58,8 @@ public:
     void focusFirst();
 
     bool isNew() const { return !Shown_; }
+    /// How many records have been stored, by whichever command.
+    std::int64_t saves() const { return Saves_; }
     /// What is half typed is taken as if its field was left; `looksChanged` leaves it alone.
     bool isChanged() const;
     bool looksChanged() const;
@@ -122,6 +124,7 @@ private:
     std::set<std::size_t> Kept_;     ///< columns that keep what is on the screen against another person's change
     std::set<std::size_t> Carried_;  ///< columns
     Order Order_;
+    std::int64_t Saves_ = 0;
     bool Duplicated_ = false;  ///< a new record that is worth keeping as it stands
 };
 

@@ -13,7 +13,6 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
-#include <QPainter>
 #include <QScrollArea>
 #include <QSignalBlocker>
 #include <QStatusBar>
@@ -26,6 +25,7 @@
 #include "forms/Form.h"
 #include "platform/qt/base/TextBridge.h"
 #include "platform/qt/home/QtFormWindow.h"
+#include "platform/qt/records/CommandIcons.h"
 #include "platform/qt/records/ListDialogs.h"
 #include "platform/qt/records/RecordDialogs.h"
 #include "platform/qt/records/RecordList.h"
@@ -45,46 +45,6 @@ constexpr int ListWidth = 380;         ///< pixels, until the person has drawn i
 constexpr int LongestSilence = 40;     ///< milliseconds for which a search leaves the window alone
 constexpr int Later = 1000;            ///< milliseconds until what could not be done beside is tried again
 constexpr std::int64_t Many = 10'000;  ///< records that are not sorted and searched in a moment without an index
-constexpr int ArrowPixels = 64;        ///< of the picture; smaller ones are made of it
-
-/// Arrows in the colour of the window's texts: those of the styles are black, on a dark ground too.
-QIcon arrowsOf(const QPalette& palette, Command command, bool isMirrored) {
-    const bool isForward = command == Command::Next || command == Command::Last;
-    const bool isToEnd = command == Command::First || command == Command::Last;
-    QPixmap pixmap(QSize(ArrowPixels, ArrowPixels));
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(palette.color(QPalette::ButtonText));
-    painter.scale(ArrowPixels / 16.0, ArrowPixels / 16.0);
-    if (isForward == isMirrored) {
-        painter.translate(16, 0);
-        painter.scale(-1, 1);
-    }
-    painter.drawPolygon(QPolygonF({{4, 3}, {11, 8}, {4, 13}}));
-    if (isToEnd) painter.drawRect(QRectF(11, 3, 2, 10));
-    return pixmap;
-}
-
-/// The desktop's own picture, or where it has none one of the style.
-QIcon iconOf(const QStyle& style, Command command) {
-    struct Row {
-        Command command;
-        const char* name;
-        QStyle::StandardPixmap otherwise;
-    };
-    static constexpr Row Rows[] = {
-        {Command::New, "document-new", QStyle::SP_FileIcon},
-        {Command::Save, "document-save", QStyle::SP_DialogSaveButton},
-        {Command::SaveAndNew, "document-save-as", QStyle::SP_DialogApplyButton},
-        {Command::Undo, "edit-undo", QStyle::SP_ArrowBack},
-        {Command::Find, "edit-find", QStyle::SP_FileDialogContentsView},
-    };
-    for (const Row& row : Rows)
-        if (row.command == command) return QIcon::fromTheme(QLatin1String(row.name), style.standardIcon(row.otherwise));
-    return {};
-}
 
 }  // namespace
 
@@ -124,8 +84,8 @@ public:
         }
         switch (command) {
             case Command::New: Form_->startNew(); break;
-            case Command::Save: noteSaved(Form_->save()); break;
-            case Command::SaveAndNew: noteSaved(Form_->saveAndStartNew()); break;
+            case Command::Save: Form_->save(); break;
+            case Command::SaveAndNew: Form_->saveAndStartNew(); break;
             case Command::Duplicate: Form_->duplicate(); break;
             case Command::Delete: refreshListIf(Form_->remove()); break;
             case Command::Undo: Form_->undo(); break;
@@ -167,10 +127,7 @@ private:
             QMenu*& menu = menus[row.menu];
             if (menu == nullptr) menu = menuBar()->addMenu(toQString(row.menu));
             if (row.startsGroup) menu->addSeparator();
-            const bool isArrow = row.command >= Command::First && row.command <= Command::Last;
-            QAction* const action = menu->addAction(
-                isArrow ? arrowsOf(palette(), row.command, isRightToLeft()) : iconOf(*style(), row.command),
-                toQString(row.caption));
+            QAction* const action = menu->addAction(iconOf(*this, row.command), toQString(row.caption));
             action->setShortcut(QKeySequence(toQString(row.key)));
             action->setStatusTip(toQString(row.help));
             action->setToolTip(toQString(row.help) + QLatin1String(" (") + toQString(row.key) + QLatin1Char(')'));
@@ -223,9 +180,11 @@ private:
 
     // ---- What the person wants
 
-    void noteSaved(bool saved) {
-        if (saved) Saved_ = QStringLiteral("saved ") + QTime::currentTime().toString(QStringLiteral("HH:mm"));
-        refreshListIf(saved);
+    /// Also what was saved because the record was left.
+    void noteSaves() {
+        if (std::exchange(Saves_, Form_->saves()) == Form_->saves()) return;
+        Saved_ = QStringLiteral("saved ") + QTime::currentTime().toString(QStringLiteral("HH:mm"));
+        refreshListIf(true);
     }
 
     void refreshListIf(bool changed) {
@@ -370,6 +329,7 @@ private:
     }
 
     void refreshState() {
+        noteSaves();
         try {
             static_cast<void>(Form_->overview().refresh());
             const auto count = Form_->overview().places(Form_->order()).count();
@@ -446,6 +406,7 @@ private:
     QLabel* Place_ = nullptr;
     QLabel* State_ = nullptr;
     QString Saved_;
+    std::int64_t Saves_ = 0;  ///< that are told of
     QString Sought_;
     QTimer* Idle_ = nullptr;     ///< while something is still to be found out
     QAction* Escape_ = nullptr;  ///< ends a search
