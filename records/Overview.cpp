@@ -33,8 +33,14 @@ bool Overview::lookOn() {
 }
 
 void Overview::changed(const Record* before, const Record* after) {
-    for (const auto& each : Places_) each->changed(before, after);
-    if (Texts_) Texts_->changed(before, after);
+    try {
+        for (const auto& each : Places_) each->changed(before, after);
+        if (Texts_) Texts_->changed(before, after);
+    } catch (const StoreError&) {
+        // What was stored is stored, whether it can be found out just now where it stands or not.
+        Places_.clear();
+        Texts_.reset();
+    }
 }
 
 bool Overview::refresh() {

@@ -108,6 +108,13 @@ public:
         refreshState();
     }
 
+    /// All that is found out while nobody waits is known when this returns.
+    void awaitPlaces() {
+        Form_->place();
+        Form_->count();
+        refreshState();
+    }
+
 protected:
     void closeEvent(QCloseEvent* event) override {
         if (IsSeeking_) QTimer::singleShot(0, this, [this] { close(); });
@@ -421,7 +428,9 @@ RecordWindow::RecordWindow(Form& form, Home& home, Home& unseen, records::Store&
 RecordWindow::~RecordWindow() = default;
 
 std::string RecordWindow::picture() const {
-    QCoreApplication::processEvents();  // what has changed is laid out
+    Implementation_->awaitPlaces();
+    // What has changed is laid out, and what is laid out otherwise then is drawn.
+    for (int i = 0; i < 2; ++i) QCoreApplication::processEvents();
     QByteArray bytes;
     QBuffer buffer(&bytes);
     Implementation_->grab().save(&buffer, "PNG");

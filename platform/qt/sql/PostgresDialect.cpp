@@ -50,7 +50,7 @@ public:
 
     QString versionQuery() const override {
         return QStringLiteral(
-            "SELECT pg_stat_get_tuples_inserted(t) + pg_stat_get_tuples_updated(t) + pg_stat_get_tuples_deleted(t) "
+            "SELECT pg_stat_get_tuples_inserted(t) + pg_stat_get_tuples_updated(t) + pg_stat_get_tuples_deleted(t), 0 "
             "FROM "
             "CAST(to_regclass(?) AS oid) AS t");
     }
