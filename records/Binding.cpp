@@ -297,6 +297,13 @@ std::u16string Binding::shownTextOf(const Cell& cell) const {
     }
 }
 
+std::optional<std::u16string> Binding::searchedTextOf(const Cell& cell) const {
+    if (isNull(cell) || Kind_ == Kind::Check) return std::nullopt;
+    if (Lookup_) return Lookup_->listedTextOf(records::textOf(cell));
+    std::u16string shown = shownTextOf(cell);
+    return shown.empty() || shown == records::textOf(cell) ? std::nullopt : std::optional(std::move(shown));
+}
+
 // ---- The person
 
 bool Binding::saysWhy() const { return !findMember(Control_->control().model(), u"Valid")->parameters().empty(); }

@@ -74,6 +74,9 @@ public:
     /// `cell` as the field shows it, by its format and its decimals: for lists, where one that is cut short does no
     /// harm.
     std::u16string shownTextOf(const Cell& cell) const;
+    /// What a person looks for who sees that, where it is another text than `cell` itself: the text of a tag, a day as
+    /// the field writes it.
+    std::optional<std::u16string> searchedTextOf(const Cell& cell) const;
     bool showsNumber() const { return Kind_ == Kind::Number; }
 
     /// Asked with a message for the person when it is not.

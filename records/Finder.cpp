@@ -59,12 +59,15 @@ std::u16string searchKey(std::u16string_view text) {
     return key;
 }
 
-Finder::Finder(RecordStore& store, std::u16string_view text, const Order& order, const SearchTexts* texts)
-    : Store_(&store), Texts_(texts), Sought_(searchKey(text)), Order_(order) {}
+Finder::Finder(RecordStore& store, std::u16string_view text, const Order& order, const SearchTexts* texts,
+               TextsOf textsOf)
+    : Store_(&store), Texts_(texts), TextsOf_(std::move(textsOf)), Sought_(searchKey(text)), Order_(order) {}
 
 bool Finder::isHit(const Record& record) const {
-    return std::any_of(record.cells.begin(), record.cells.end(),
-                       [&](const Cell& cell) { return searchKey(textOf(cell)).find(Sought_) != std::u16string::npos; });
+    const std::vector<std::u16string> found = TextsOf_(record);
+    return std::any_of(found.begin(), found.end(), [&](const std::u16string& text) {
+        return searchKey(text).find(Sought_) != std::u16string::npos;
+    });
 }
 
 /// Hands over each record until `each` says false; false when it was stopped.

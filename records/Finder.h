@@ -9,14 +9,15 @@
 
 namespace kel::records {
 
-/// Looks for records in which some column has a text in it. A long search is interrupted often: `goesOn` is asked after
-/// every few hundred records, and ends it with false.
+/// Looks for records that have a text in one of those by which they are found. A long search is interrupted often:
+/// `goesOn` is asked after every few hundred records, and ends it with false.
 class Finder {
 public:
     using GoesOn = std::function<bool()>;
 
     /// By the `texts` of all records, where these are given and are up to date; nullptr is by the records themselves.
-    Finder(RecordStore& store, std::u16string_view text, const Order& order, const SearchTexts* texts = nullptr);
+    Finder(RecordStore& store, std::u16string_view text, const Order& order, const SearchTexts* texts = nullptr,
+           TextsOf textsOf = textsOfColumns);
 
     bool isHit(const Record& record) const;
 
@@ -46,6 +47,7 @@ private:
 
     RecordStore* Store_;
     const SearchTexts* Texts_;
+    TextsOf TextsOf_;
     std::u16string Sought_;
     Order Order_;
 };

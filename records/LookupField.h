@@ -27,6 +27,11 @@ public:
     void markStored() { StoredKey_ = key(); }
 
     std::u16string textOf(const std::u16string& key) const { return Lookup_.textOf(key); }
+    /// Only of what is in the list, which needs no reading.
+    std::optional<std::u16string> listedTextOf(const std::u16string& key) const {
+        const auto place = Lookup_.find(key);
+        return place ? std::optional(Lookup_.texts()[*place]) : std::nullopt;
+    }
 
 private:
     void fill();

@@ -23,7 +23,7 @@ Places& Overview::places(const Order& order) {
 }
 
 void Overview::wantTexts() {
-    if (!Texts_) Texts_ = std::make_unique<SearchTexts>(*Store_);
+    if (!Texts_) Texts_ = std::make_unique<SearchTexts>(*Store_, TextsOf_);
 }
 
 bool Overview::lookOn() {

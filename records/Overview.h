@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "records/Places.h"
@@ -13,7 +14,7 @@ namespace kel::records {
 class Overview {
 public:
     /// The store outlives it.
-    explicit Overview(RecordStore& store) : Store_(&store) {}
+    Overview(RecordStore& store, TextsOf textsOf) : Store_(&store), TextsOf_(std::move(textsOf)) {}
 
     /// The places in an order, which are kept until two others have been asked for.
     Places& places(const Order& order);
@@ -31,6 +32,7 @@ public:
 
 private:
     RecordStore* Store_;
+    TextsOf TextsOf_;
     std::vector<std::unique_ptr<Places>> Places_;  ///< the last that was asked for in front
     std::unique_ptr<SearchTexts> Texts_;
 };

@@ -11,10 +11,17 @@ RecordForm::RecordForm(Form& form, RecordStore& store, Questions& questions, con
     : Form_(&form),
       Store_(&store),
       Others_(others),
-      Overview_(std::make_unique<Overview>(store)),
+      Overview_(std::make_unique<Overview>(store, [this](const Record& record) { return textsOf(record); })),
       Questions_(&questions),
       Bindings_(bind(form, store.table(), region, others)) {
     if (!toEnd(Way::Forward)) showNew();
+}
+
+std::vector<std::u16string> RecordForm::textsOf(const Record& record) const {
+    std::vector<std::u16string> texts = textsOfColumns(record);
+    for (const Binding& binding : Bindings_)
+        if (auto shown = binding.searchedTextOf(record.cells[binding.column()])) texts.push_back(std::move(*shown));
+    return texts;
 }
 
 // ---- From record to record

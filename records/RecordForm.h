@@ -74,6 +74,8 @@ public:
     const std::vector<Binding>& bindings() const { return Bindings_; }
     /// What is known of all records; keeps up with what is stored and deleted here.
     Overview& overview() const { return *Overview_; }
+    /// By which a search finds the record.
+    std::vector<std::u16string> textsOf(const Record& record) const;
     /// Of all records; takes its time where that is not known yet.
     std::int64_t count() const;
     /// From 1; nothing for a new record. Takes its time like that.

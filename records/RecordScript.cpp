@@ -91,7 +91,8 @@ bool RecordScript::find(std::u16string_view text) {
     const bool isAgain = text == u"next" || text == u"previous";
     if (!isAgain) Sought_ = text;
     const auto goesOn = [] { return true; };
-    const Finder finder(*Records_, Sought_, Form_->order());
+    const Finder finder(*Records_, Sought_, Form_->order(), nullptr,
+                        [this](const Record& record) { return Form_->textsOf(record); });
     const std::optional<Record> from = isAgain ? Form_->shown() : std::nullopt;
     if (!Form_->mayLeave()) return true;
     const std::optional<Record> hit = finder.nearestAround(from ? &*from : nullptr, way, goesOn).record;

@@ -79,16 +79,6 @@ Cells keyIn(std::string_view words) {
     return key;
 }
 
-std::string entryOfRecord(const Table& table, const Record& record) {
-    std::string entry;
-    for (const Cell& cell : record.cells) {
-        if (isNull(cell)) continue;
-        entry += toUtf8(searchKey(textOf(cell)), HalfPairs::Kept);
-        entry += AfterColumn;
-    }
-    return entry + BeforeKey + wordsOf(keyOf(table, record)) + AfterEntry;
-}
-
 /// A record of which nothing is known but its key, which is all that its place among the others wants.
 Record recordOfKey(const Table& table, const Cells& key) {
     Record record;
@@ -99,7 +89,26 @@ Record recordOfKey(const Table& table, const Cells& key) {
 
 }  // namespace
 
-SearchTexts::SearchTexts(RecordStore& store) : Store_(&store) { beginAnew(store.version()); }
+std::vector<std::u16string> textsOfColumns(const Record& record) {
+    std::vector<std::u16string> texts;
+    texts.reserve(record.cells.size());
+    for (const Cell& cell : record.cells)
+        if (!isNull(cell)) texts.push_back(textOf(cell));
+    return texts;
+}
+
+SearchTexts::SearchTexts(RecordStore& store, TextsOf textsOf) : Store_(&store), TextsOf_(std::move(textsOf)) {
+    beginAnew(store.version());
+}
+
+std::string SearchTexts::entryOfRecord(const Record& record) const {
+    std::string entry;
+    for (const std::u16string& text : TextsOf_(record)) {
+        entry += toUtf8(searchKey(text), HalfPairs::Kept);
+        entry += AfterColumn;
+    }
+    return entry + BeforeKey + wordsOf(keyOf(Store_->table(), record)) + AfterEntry;
+}
 
 void SearchTexts::beginAnew(const Version& version) {
     Version_ = version;
@@ -123,7 +132,7 @@ void SearchTexts::write(std::int64_t offset, std::string_view bytes) {
 }
 
 void SearchTexts::append(const Record& record, std::vector<Landmark>& noted) {
-    const std::string entry = entryOfRecord(Store_->table(), record);
+    const std::string entry = entryOfRecord(record);
     for (const char each : entry) ++Frequency_[static_cast<unsigned char>(each)];
     write(End_, entry);
     if (&noted == &Later_ || Written_ % Spacing_ == 0) noted.push_back({End_, keyOf(Store_->table(), record)});

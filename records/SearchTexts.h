@@ -18,6 +18,11 @@ namespace kel::records {
 /// A text as it is looked for: without regard to case and accents. "Düren" is "duren", "Straße" is "strasse".
 std::u16string searchKey(std::u16string_view text);
 
+/// The texts by which a record is found: what stands in its columns, and what a person sees of that.
+using TextsOf = std::function<std::vector<std::u16string>(const Record& record)>;
+/// What stands in the columns alone.
+std::vector<std::u16string> textsOfColumns(const Record& record);
+
 /// What all records of a table have to be found by, written down once behind one another, as looking a text through is
 /// a hundred times as fast as reading records. It stands in a temporary file, which is gone with the program, and is
 /// written a little at a time, while nobody waits. A record that is stored or deleted here is kept up with; where
@@ -25,7 +30,7 @@ std::u16string searchKey(std::u16string_view text);
 class SearchTexts {
 public:
     /// The store outlives it. Throws StoreError where no file can be made.
-    explicit SearchTexts(RecordStore& store);
+    SearchTexts(RecordStore& store, TextsOf textsOf);
     SearchTexts(const SearchTexts&) = delete;
     SearchTexts& operator=(const SearchTexts&) = delete;
 
@@ -53,7 +58,7 @@ public:
     static constexpr std::size_t Few = 1000;
 
     using GoesOn = std::function<bool()>;
-    /// The records in which some column has the text, which is a `searchKey` as UTF-8, in it; around `from` where that
+    /// The records that are found by the text, which is a `searchKey` as UTF-8; around `from` where that
     /// is not nullptr. Nothing where it was stopped, or where nobody knows where `from` stands.
     std::optional<Hits> find(std::string_view sought, const Cells* from, const GoesOn& goesOn) const;
 
@@ -67,6 +72,7 @@ private:
     };
 
     void beginAnew(const Version& version);
+    std::string entryOfRecord(const Record& record) const;
     void append(const Record& record, std::vector<Landmark>& noted);
     /// Writes down how the record of this key stands now.
     void settle(const Cells& key);
@@ -85,6 +91,7 @@ private:
     std::size_t rarest(std::string_view sought, std::size_t but) const;
 
     RecordStore* Store_;
+    TextsOf TextsOf_;
     std::unique_ptr<std::FILE, Closer> File_;
     Version Version_;
     bool IsWhole_ = false;

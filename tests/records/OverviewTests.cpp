@@ -18,7 +18,7 @@ protected:
         Records_->begin();
         for (int i = 0; i < Many; ++i) static_cast<void>(Records_->insert(values()));
         Records_->commit();
-        Overview_.emplace(*Records_);
+        Overview_.emplace(*Records_, textsOfColumns);
         Overview_->wantTexts();
     }
 
@@ -118,7 +118,7 @@ TEST_F(Crowd, OverviewIsTrueWhateverIsChanged) {
         expectHits();
     }
     // While the texts are still being written, too.
-    Overview_.emplace(*Records_);
+    Overview_.emplace(*Records_, textsOfColumns);
     Overview_->wantTexts();
     Overview_->places({}).finish();
     Overview_->lookOn();

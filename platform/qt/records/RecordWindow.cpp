@@ -287,7 +287,8 @@ private:
         try {
             static_cast<void>(Form_->overview().refresh());
             Form_->overview().wantTexts();
-            const records::Finder finder(*Store_, viewOf(Sought_), Form_->order(), Form_->overview().texts());
+            const records::Finder finder(*Store_, viewOf(Sought_), Form_->order(), Form_->overview().texts(),
+                                         [this](const records::Record& record) { return Form_->textsOf(record); });
             auto [hit, hits] = finder.nearestAround(from, way, goesOn);
             if (hit) Form_->toRecord(*hit);
             refreshState();
