@@ -24,7 +24,7 @@ void writeAt(const fs::path& file, std::streamoff place, const std::string& byte
 }
 
 TEST_F(OnDatabase, SaysWhyItIsNotOpened) {
-    const std::string there = databaseAddress();
+    const std::string& there = databaseAddress();
     const std::string folder = fs::temp_directory_path().string();
     const std::string newer = "was written by a newer version";
     const struct {
