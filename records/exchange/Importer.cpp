@@ -13,7 +13,7 @@ namespace kel::records {
 namespace {
 
 /// That are stored together. Each time the disk has to turn; meanwhile nobody else can write.
-constexpr std::int64_t MostTogether = 5000;
+constexpr std::int64_t MostTogether = 50'000;
 constexpr std::int64_t BetweenQuestions = 32;
 /// Different values of a column that are remembered: a town, a day or a yes comes again and again.
 constexpr std::size_t MostKnown = 512;
