@@ -23,13 +23,14 @@ begin() {
     export WINEDLLOVERRIDES="mscoree=;mshtml=;winedbg.exe=d"
     work=$build/$script
     results=$work/results
-    rm -rf "$WINEPREFIX" "$work"
+    rm -rf "$work"
     mkdir -p "$work"
     : >"$results"
     trap leave EXIT
     # Wine's own programs are in no group that a key ends.
     trap 'exit 130' INT TERM
-    timeout 300 wineboot -i >"$work/wineboot.log" 2>&1 </dev/null || { failed wine "no prefix could be made"; finish; }
+    # Wine that has just been ended elsewhere may be in the way of one that begins.
+    make_prefix || make_prefix || { failed wine "no prefix could be made"; finish; }
     wineserver -w
     wineserver -p60 >/dev/null 2>&1
     # Without a window manager nobody answers a managed window.
@@ -58,6 +59,12 @@ registry() {
         iconv -f utf-16 -t utf-8 "$work/branch.reg" 2>/dev/null
         rm -f "$work/branch.reg"
     done
+}
+
+# A system for the programs to run in, without anything of theirs.
+make_prefix() {
+    rm -rf "$WINEPREFIX"
+    timeout 300 wineboot -i >>"$work/wineboot.log" 2>&1 </dev/null
 }
 
 # Registers the servers of a folder, or with /u takes it back.
