@@ -206,6 +206,10 @@ std::u16string Binding::textWithTag(const std::u16string& tag) const {
     return {};
 }
 
+std::optional<Date> Binding::dayOrTimeIn(std::u16string_view text) const {
+    return Kind_ == Kind::Time ? readIsoTime(text) : readIsoDay(text);
+}
+
 void Binding::show(const Cell& cell) {
     if (Lookup_) {
         Lookup_->show(records::textOf(cell));
@@ -218,8 +222,7 @@ void Binding::show(const Cell& cell) {
         case Kind::Check: value = numberIn(cell) != 0; break;
         case Kind::Date:
         case Kind::Time: {
-            const std::u16string text = records::textOf(cell);
-            const auto date = Kind_ == Kind::Date ? readIsoDay(text) : readIsoTime(text);
+            const auto date = dayOrTimeIn(records::textOf(cell));
             value = Null{};
             if (date) value = *date;
             break;
@@ -279,10 +282,9 @@ std::u16string Binding::textOf(const Cell& cell) const {
 }
 
 std::u16string Binding::shownTextOf(const Cell& cell) const {
-    const Variant format = get(u"Format");
-    const Variant decimals = get(u"Decimals");
     switch (isNull(cell) ? Kind::None : Kind_) {
         case Kind::Number: {
+            const Variant decimals = get(u"Decimals");
             const auto* const count = std::get_if<std::int16_t>(&decimals);
             const std::int16_t places = count == nullptr || *count < 0 ? Region_->DecimalDigits : *count;
             return displayText(numberIn(cell), places, isTrue(u"GroupDigits"), *Region_);
@@ -290,7 +292,8 @@ std::u16string Binding::shownTextOf(const Cell& cell) const {
         case Kind::Date:
         case Kind::Time: {
             const std::u16string text = records::textOf(cell);
-            const auto date = Kind_ == Kind::Date ? readIsoDay(text) : readIsoTime(text);
+            const auto date = dayOrTimeIn(text);
+            const Variant format = get(u"Format");
             return date && textIn(format) != nullptr ? FieldFormat(*textIn(format)).show(date, *Region_) : text;
         }
         default: return textOf(cell);

@@ -100,6 +100,8 @@ private:
     void put(std::u16string_view member, const Variant& value) const;
     /// What stands in the field, as a person sees it.
     std::u16string look() const;
+    /// The part of a moment that a date or a time field shows; nothing where it has none.
+    std::optional<Date> dayOrTimeIn(std::u16string_view text) const;
     std::u16string textWithTag(const std::u16string& tag) const;
     /// Of the item that stands in the field.
     std::u16string tag() const;

@@ -88,7 +88,7 @@ std::optional<std::u16string> Binding::takeNumber(std::u16string_view text, cons
 
 std::optional<std::u16string> Binding::takeMoment(std::u16string_view text) {
     const bool isTime = Kind_ == Kind::Time;
-    const auto iso = isTime ? readIsoTime(text) : readIsoDay(text);
+    const auto iso = dayOrTimeIn(text);
     Variant value = iso ? Variant(*iso) : Variant(std::u16string(text));
     if (text.empty()) value = Null{};
     put(valueMember().name, value);

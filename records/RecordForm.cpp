@@ -183,7 +183,7 @@ const Binding* RecordForm::fieldOf(const std::u16string& columnName) const {
 void RecordForm::complain(const StoreError& error) {
     const Binding* const field = fieldOf(error.column());
     if (field != nullptr) Form_->window().focus(field->control());
-    const std::u16string words = fromUtf8(error.what()).value_or(u"The database gives no reason.");
+    const std::u16string words = error.words();
     Questions_->say(field != nullptr ? field->caption() + u": " + words : words);
 }
 
@@ -215,9 +215,7 @@ bool RecordForm::saveAndStartNew() {
 
 /// A day and a time may be two fields of one column.
 void RecordForm::addValue(std::vector<Change>& values, const Binding& binding, const Cell& before) const {
-    const auto other = std::find_if(values.begin(), values.end(),
-                                    [&](const Change& change) { return change.column == binding.column(); });
-    if (other != values.end())
+    if (Change* const other = changeOf(values, binding.column()))
         other->value = binding.cell(columnOf(binding), other->value);
     else
         values.push_back({binding.column(), binding.cell(columnOf(binding), before)});

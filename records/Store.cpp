@@ -1,6 +1,18 @@
 #include "records/Store.h"
 
+#include <algorithm>
+
+#include "values/Text.h"
+
 namespace kel::records {
+
+std::u16string StoreError::words() const { return fromUtf8(what()).value_or(u"The database gives no reason."); }
+
+Change* changeOf(std::vector<Change>& values, std::size_t column) {
+    const auto found =
+        std::find_if(values.begin(), values.end(), [=](const Change& change) { return change.column == column; });
+    return found == values.end() ? nullptr : &*found;
+}
 
 bool isLeftToDatabase(const Column& column, const Cell& value) {
     return column.generated || (column.hasDefault && isNull(value));

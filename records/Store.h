@@ -31,6 +31,8 @@ public:
 
     Kind kind() const { return Kind_; }
     const std::u16string& column() const { return Column_; }
+    /// For the person.
+    std::u16string words() const;
 
 private:
     Kind Kind_;
@@ -56,6 +58,9 @@ struct Change {
     std::size_t column = 0;
     Cell value;
 };
+
+/// The one for this column, which another field may have made; nullptr where there is none yet.
+Change* changeOf(std::vector<Change>& values, std::size_t column);
 
 /// Which way to walk from record to record.
 enum class Way : std::uint8_t { Forward, Backward };

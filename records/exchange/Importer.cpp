@@ -138,13 +138,6 @@ void Importer::settleFields() {
 
 // ---- The values of a line
 
-/// What a field before this one has made of the same column.
-Change* Importer::valueFor(const Field& field) {
-    const auto found = std::find_if(Values_.begin(), Values_.end(),
-                                    [&](const Change& change) { return change.column == field.binding.column(); });
-    return found == Values_.end() ? nullptr : &*found;
-}
-
 std::string Importer::whyNotValid(Field& field) {
     if (field.binding.isValid(false)) return {};
     System_->takeHeard();
@@ -167,7 +160,7 @@ Cell Importer::readAnew(Field& field, std::string_view value, std::string& reaso
     reason = whyNotValid(field);
     if (text->empty() && !column.notNull) return Null{};
     // A moment has more to it than one field shows: day and time stand in two.
-    const Change* const shared = valueFor(field);
+    const Change* const shared = changeOf(Values_, field.binding.column());
     return field.binding.cell(column, shared != nullptr ? shared->value : Cell(*text));
 }
 
@@ -191,7 +184,7 @@ bool Importer::take(const CsvReader& line, std::string& reason) {
         const Cell* const cell = field.place ? read(field, line.value(*field.place), reason) : &field.last.cell;
         if (cell == nullptr) return false;
         if (isLeftToDatabase(columnOf(field), *cell)) continue;
-        if (Change* const before = valueFor(field))
+        if (Change* const before = changeOf(Values_, field.binding.column()))
             before->value = *cell;
         else
             Values_.push_back({field.binding.column(), *cell});

@@ -57,7 +57,6 @@ private:
     Cell readAnew(Field& field, std::string_view value, std::string& reason);
     std::string whyNotValid(Field& field);
     const Column& columnOf(const Field& field) const;
-    Change* valueFor(const Field& field);
     void store(std::string& reason);
     std::string takeRecord(const CsvReader& line, std::size_t columns);
 

@@ -239,7 +239,7 @@ private:
             Form_->overview().places(order);
         } catch (const records::StoreError& error) {
             statusBar()->clearMessage();
-            Dialogs_.say(QString::fromUtf8(error.what()).toStdU16String());
+            Dialogs_.say(error.words());
             return showOrder();
         }
         List_->setOrder(order);
@@ -298,7 +298,7 @@ private:
                                      : !IsSeeking_ ? QStringLiteral("Not looked for any further.")
                                                    : QStringLiteral("\"%1\" is in no record.").arg(Sought_));
         } catch (const records::StoreError& error) {
-            Dialogs_.say(QString::fromUtf8(error.what()).toStdU16String());
+            Dialogs_.say(error.words());
         }
         IsSeeking_ = false;
         Escape_->setEnabled(false);
@@ -348,7 +348,7 @@ private:
                                            : QStringLiteral("New record, %1 so far").arg(all));
             if (List_ != nullptr && ListDock_->isVisible()) showInList(place);
         } catch (const records::StoreError& error) {
-            Place_->setText(QString::fromUtf8(error.what()));
+            Place_->setText(toQString(error.words()));
         }
         if (!Idle_->isActive()) Idle_->start(0);
         showChanged();

@@ -13,6 +13,20 @@ QString Dialect::quoted(std::u16string_view name) {
     return QLatin1Char('"') + text + QLatin1Char('"');
 }
 
+QString Dialect::typeName(const records::Column& column) const {
+    using records::ColumnType;
+    switch (column.type) {
+        case ColumnType::Integer: return wholeNumberType();
+        case ColumnType::Real: return QStringLiteral("DOUBLE PRECISION");
+        case ColumnType::Decimal: return QStringLiteral("DECIMAL(30,%1)").arg(column.decimals);
+        case ColumnType::Date: return QStringLiteral("DATE");
+        case ColumnType::Time: return QStringLiteral("TIME");
+        case ColumnType::Moment: return QStringLiteral("TIMESTAMP");
+        case ColumnType::Truth: return QStringLiteral("BOOLEAN");
+        default: return QStringLiteral("TEXT");
+    }
+}
+
 StoreError Dialect::valueMissing(const QString& column) {
     return {Kind::Constraint, "a value is needed here.", column.toStdU16String()};
 }

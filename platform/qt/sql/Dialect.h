@@ -24,7 +24,7 @@ public:
     virtual QStringList mark() const = 0;
 
     /// A type as a new column is declared with it.
-    virtual QString typeName(const records::Column& column) const = 0;
+    QString typeName(const records::Column& column) const;
     /// Declares the key of a new table, whose values the database gives.
     virtual QString keyDeclaration(const QString& quotedName) const = 0;
     /// Behind a query that reads what is to be changed at once.
@@ -54,6 +54,9 @@ public:
     static QString quoted(std::u16string_view name);
 
 protected:
+    /// One of 64 bits: the databases give their names for it different sizes.
+    virtual QString wholeNumberType() const = 0;
+
     // What every database refuses, in the same words.
     static records::StoreError valueMissing(const QString& column);
     static records::StoreError valueTaken(const QString& column);

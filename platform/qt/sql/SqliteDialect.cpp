@@ -10,7 +10,6 @@ namespace {
 
 using records::Cell;
 using records::Column;
-using records::ColumnType;
 using records::StoreError;
 using Kind = StoreError::Kind;
 
@@ -27,19 +26,7 @@ public:
                 QStringLiteral("PRAGMA user_version = %1").arg(FileVersion)};
     }
 
-    QString typeName(const Column& column) const override {
-        switch (column.type) {
-            case ColumnType::Integer: return QStringLiteral("INTEGER");
-            case ColumnType::Real: return QStringLiteral("DOUBLE PRECISION");
-            case ColumnType::Decimal: return QStringLiteral("DECIMAL(30,%1)").arg(column.decimals);
-            case ColumnType::Date: return QStringLiteral("DATE");
-            case ColumnType::Time: return QStringLiteral("TIME");
-            case ColumnType::Moment: return QStringLiteral("TIMESTAMP");
-            case ColumnType::Truth: return QStringLiteral("BOOLEAN");
-            default: return QStringLiteral("TEXT");
-        }
-    }
-
+    QString wholeNumberType() const override { return QStringLiteral("INTEGER"); }
     QString keyDeclaration(const QString& quotedName) const override {
         return quotedName + QStringLiteral(" INTEGER PRIMARY KEY AUTOINCREMENT");
     }
