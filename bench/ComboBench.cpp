@@ -38,7 +38,7 @@ void typeNames(benchmark::State& state, const Edit& edit, Clear clear) {
     if (target == nullptr || !(target == &edit || edit.isAncestorOf(target)))
         return state.SkipWithError("the field did not take the focus");
     const auto press = [target](char16_t character) {
-        QKeyEvent key = eventOf(typed(QChar(character).toUpper().unicode(), character));
+        QKeyEvent key = typed(character);
         strike(*target, key);
     };
     // Both prepare themselves at the first key, which has a line of its own.

@@ -14,14 +14,15 @@ BENCHMARK(makeLabelAndEdit<QDateEdit>)->Name("LabelAndDateEdit");
 
 const QDate Day(2013, 3, 15);
 
-void pressKeyInDateWidget(benchmark::State& state, const KeyPress& key) {
+void pressKeysInDateWidget(benchmark::State& state, Strokes keys) {
     const FocusedEdit<KelDateWidget> shown;
-    pressKey(
-        state, *shown.edit, key, [field = shown.edit] { field->setValue(Day); },
-        [field = shown.edit] { return shownText(*field); });
+    pressKeys(state, *shown.edit, std::move(keys), [field = shown.edit] {
+        field->setValue(Day);
+        selectAll();
+    });
 }
 
-void pressKeyInDateEdit(benchmark::State& state, const KeyPress& key) {
+void pressKeysInDateEdit(benchmark::State& state, Strokes keys) {
     const FocusedEdit<QDateEdit> shown;
     QDateEdit& edit = *shown.edit;
     edit.setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
@@ -29,19 +30,18 @@ void pressKeyInDateEdit(benchmark::State& state, const KeyPress& key) {
         edit.setDate(Day);
         edit.setSelectedSection(QDateTimeEdit::DaySection);
     };
-    pressKey(state, edit, key, restart, [&edit] { return edit.text(); });
+    pressKeys(state, edit, std::move(keys), restart);
 }
 
-const KeyPress Digit = typed(Qt::Key_2, u'2');
-const KeyPress Up{Qt::Key_Up};
+const QString AnotherDay = QStringLiteral("16042014");
 
-void KeyIntoDateWidget(benchmark::State& state) { pressKeyInDateWidget(state, Digit); }
+void KeyIntoDateWidget(benchmark::State& state) { pressKeysInDateWidget(state, Strokes(AnotherDay)); }
 BENCHMARK(KeyIntoDateWidget);
-void KeyIntoDateEdit(benchmark::State& state) { pressKeyInDateEdit(state, Digit); }
+void KeyIntoDateEdit(benchmark::State& state) { pressKeysInDateEdit(state, Strokes(AnotherDay)); }
 BENCHMARK(KeyIntoDateEdit);
-void StepOfDateWidget(benchmark::State& state) { pressKeyInDateWidget(state, Up); }
+void StepOfDateWidget(benchmark::State& state) { pressKeysInDateWidget(state, Strokes(Qt::Key_Up, 12)); }
 BENCHMARK(StepOfDateWidget);
-void StepOfDateEdit(benchmark::State& state) { pressKeyInDateEdit(state, Up); }
+void StepOfDateEdit(benchmark::State& state) { pressKeysInDateEdit(state, Strokes(Qt::Key_Up, 12)); }
 BENCHMARK(StepOfDateEdit);
 
 }  // namespace

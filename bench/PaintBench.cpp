@@ -51,31 +51,26 @@ int roundsUntilPainted(const PaintCounter& counter, int paintsBefore) {
     return 0;
 }
 
-/// A key goes down and the field shows what has come of it. The counter "rounds" says how often the event loop was
-/// turned for it.
+/// Each of `keys` goes down and the field shows what has come of it. The counter "rounds" says how often the event loop
+/// was turned for it.
 template <class Edit, class Clear>
-void paintKey(benchmark::State& state, Edit& edit, const KeyPress& pressed, Clear clear) {
-    constexpr int PressesBetween = 12;
+void paintKeys(benchmark::State& state, Edit& edit, Strokes keys, Clear clear) {
     QWidget* const target = QApplication::focusWidget();
-    if (target == nullptr || !(target == &edit || edit.isAncestorOf(target)))
-        return state.SkipWithError("the field did not take the focus");
-    const PaintCounter counter(edit);
-    QKeyEvent key = eventOf(pressed);
-    int presses = 0;
-    std::int64_t rounds = 0;
+    const auto press = [&keys, target] { QCoreApplication::sendEvent(target, &keys.next()); };
     const auto start = [&] {
         clear();
         for (int settle = 0; settle < 5; ++settle) QCoreApplication::processEvents();
     };
-    start();
+    if (const char* const why = whyNotTimed(edit, keys, press, start)) return state.SkipWithError(why);
+    const PaintCounter counter(edit);
+    std::int64_t rounds = 0;
     for (auto _ : state) {
         const int before = counter.paints;
-        key.accept();
-        QCoreApplication::sendEvent(target, &key);
+        press();
         const int taken = roundsUntilPainted(counter, before);
         if (taken == 0) return state.SkipWithError("the key was not painted");
         rounds += taken;
-        if (++presses % PressesBetween != 0) continue;
+        if (!keys.isAtStart()) continue;
         state.PauseTiming();
         start();
         state.ResumeTiming();
@@ -83,41 +78,51 @@ void paintKey(benchmark::State& state, Edit& edit, const KeyPress& pressed, Clea
     state.counters["rounds"] = benchmark::Counter(static_cast<double>(rounds), benchmark::Counter::kAvgIterations);
 }
 
-const KeyPress Letter = typed(Qt::Key_A, u'a');
-const KeyPress Digit = typed(Qt::Key_2, u'2');
+const QString Words = QStringLiteral("good morning");
+const QString Digits = QStringLiteral("123456789012");
+const QString AnotherDay = QStringLiteral("16042014");
 
 template <class Edit>
-void paintLetter(benchmark::State& state) {
+void paintWords(benchmark::State& state) {
     const FocusedEdit<Edit> shown;
-    paintKey(state, *shown.edit, Letter, [edit = shown.edit] { edit->setText(QString()); });
+    paintKeys(state, *shown.edit, Strokes(Words), [edit = shown.edit] { edit->setText(QString()); });
 }
-BENCHMARK(paintLetter<KelTextWidget>)->Name("PaintKeyOfTextWidget");
-BENCHMARK(paintLetter<QLineEdit>)->Name("PaintKeyOfLineEdit");
+BENCHMARK(paintWords<KelTextWidget>)->Name("PaintKeyOfTextWidget");
+BENCHMARK(paintWords<QLineEdit>)->Name("PaintKeyOfLineEdit");
 
 template <class Edit>
-void paintDigit(benchmark::State& state) {
+void paintAmount(benchmark::State& state) {
     const FocusedEdit<Edit> shown;
-    paintKey(state, *shown.edit, Digit, [edit = shown.edit] { edit->setValue(0); });
+    paintKeys(state, *shown.edit, Strokes(Digits), [edit = shown.edit] {
+        edit->setValue(0);
+        selectAll();
+    });
 }
-BENCHMARK(paintDigit<KelNumberWidget>)->Name("PaintKeyOfNumberWidget");
+BENCHMARK(paintAmount<KelNumberWidget>)->Name("PaintKeyOfNumberWidget");
 
 void PaintKeyOfDoubleSpinBox(benchmark::State& state) {
     const FocusedEdit<QDoubleSpinBox> shown;
     shown.edit->setRange(-1e12, 1e12);
-    paintKey(state, *shown.edit, Digit, [edit = shown.edit] { edit->setValue(0); });
+    paintKeys(state, *shown.edit, Strokes(Digits), [edit = shown.edit] {
+        edit->setValue(0);
+        selectAll();
+    });
 }
 BENCHMARK(PaintKeyOfDoubleSpinBox);
 
 void PaintKeyOfDateWidget(benchmark::State& state) {
     const FocusedEdit<KelDateWidget> shown;
-    paintKey(state, *shown.edit, Digit, [edit = shown.edit] { edit->setValue(QDate(2013, 3, 15)); });
+    paintKeys(state, *shown.edit, Strokes(AnotherDay), [edit = shown.edit] {
+        edit->setValue(QDate(2013, 3, 15));
+        selectAll();
+    });
 }
 BENCHMARK(PaintKeyOfDateWidget);
 
 void PaintKeyOfDateEdit(benchmark::State& state) {
     const FocusedEdit<QDateEdit> shown;
     shown.edit->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
-    paintKey(state, *shown.edit, Digit, [edit = shown.edit] {
+    paintKeys(state, *shown.edit, Strokes(AnotherDay), [edit = shown.edit] {
         edit->setDate(QDate(2013, 3, 15));
         edit->setSelectedSection(QDateTimeEdit::DaySection);
     });
@@ -130,7 +135,7 @@ void PaintKeyOfComboWidget(benchmark::State& state) {
     const FocusedEdit<KelComboWidget> shown;
     shown.edit->setLimitToList(false);
     shown.edit->setList(qtNames(Choices).join(u','));
-    paintKey(state, *shown.edit, Letter, [edit = shown.edit] { edit->setText(QString()); });
+    paintKeys(state, *shown.edit, Strokes(qtNames(Choices).last()), [edit = shown.edit] { edit->setText(QString()); });
 }
 BENCHMARK(PaintKeyOfComboWidget);
 
@@ -139,7 +144,8 @@ void PaintKeyOfComboBox(benchmark::State& state) {
     shown.edit->setEditable(true);
     shown.edit->addItems(qtNames(Choices));
     shown.edit->setFocus();
-    paintKey(state, *shown.edit, Letter, [edit = shown.edit] { edit->setEditText(QString()); });
+    paintKeys(state, *shown.edit, Strokes(qtNames(Choices).last()),
+              [edit = shown.edit] { edit->setEditText(QString()); });
 }
 BENCHMARK(PaintKeyOfComboBox);
 

@@ -20,8 +20,7 @@ template <class Edit>
 void typeLetters(benchmark::State& state) {
     const FocusedEdit<Edit> shown;
     Edit& edit = *shown.edit;
-    pressKey(
-        state, edit, typed(Qt::Key_A, u'a'), [&edit] { edit.setText(QString()); }, [&edit] { return edit.text(); });
+    pressKeys(state, edit, Strokes(QStringLiteral("good morning")), [&edit] { edit.setText(QString()); });
 }
 BENCHMARK(typeLetters<KelTextWidget>)->Name("KeyIntoTextWidget");
 BENCHMARK(typeLetters<QLineEdit>)->Name("KeyIntoLineEdit");

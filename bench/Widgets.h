@@ -2,6 +2,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <deque>
 #include <memory>
 #include <QApplication>
 #include <QInputMethodQueryEvent>
@@ -49,48 +50,84 @@ struct FocusedEdit {
     Edit* edit;
 };
 
-/// Of one of our fields, as it stands while it is being typed.
-inline QString shownText(const qt::KelControlWidget& field) {
-    return QString::fromStdU16String(field.control().widgets().entry->text());
+inline QKeyEvent typed(QChar character) {
+    return QKeyEvent(QEvent::KeyPress, character.toUpper().unicode(), Qt::NoModifier, QString(character));
 }
 
-struct KeyPress {
-    int key;
-    QString text{};
+/// Keys that are pressed one after the other in a field, which is cleared after the last, outside the clock.
+class Strokes {
+public:
+    explicit Strokes(const QString& letters) {
+        for (const QChar letter : letters)
+            Keys_.emplace_back(QEvent::KeyPress, letter.toUpper().unicode(), Qt::NoModifier, QString(letter));
+    }
+    Strokes(Qt::Key key, std::size_t times) {
+        while (Keys_.size() < times) Keys_.emplace_back(QEvent::KeyPress, key, Qt::NoModifier);
+    }
+
+    QKeyEvent& next() {
+        QKeyEvent& key = Keys_[Next_];
+        Next_ = (Next_ + 1) % Keys_.size();
+        key.accept();
+        return key;
+    }
+    bool isAtStart() const { return Next_ == 0; }
+
+private:
+    std::deque<QKeyEvent> Keys_;
+    std::size_t Next_ = 0;
 };
-
-inline KeyPress typed(int key, char16_t character) { return {key, QString(QChar(character))}; }
-
-inline QKeyEvent eventOf(const KeyPress& pressed) {
-    return QKeyEvent(QEvent::KeyPress, pressed.key, Qt::NoModifier, pressed.text);
-}
 
 /// A field may leave until later what it has to do to show the new text, but not once an input method asks for it: so
 /// that its cost is the key's in every field.
 inline void strike(QWidget& target, QKeyEvent& key) {
-    key.accept();
     QCoreApplication::sendEvent(&target, &key);
     QInputMethodQueryEvent asked(Qt::ImCursorPosition);
     QCoreApplication::sendEvent(&target, &asked);
 }
 
-/// Presses `pressed` again and again in `edit`; now and then, outside the clock, `clear` empties it.
-template <class Edit, class Clear, class Text>
-void pressKey(benchmark::State& state, Edit& edit, const KeyPress& pressed, Clear clear, Text text) {
-    constexpr int PressesBetween = 12;
+/// What a key has altered of the field with the focus, or not: its text, caret and selection.
+inline QString lookOf(QWidget& target) {
+    QInputMethodQueryEvent asked(Qt::ImSurroundingText | Qt::ImCursorPosition | Qt::ImAnchorPosition);
+    QCoreApplication::sendEvent(&target, &asked);
+    return QStringLiteral("%1 %2 %3")
+        .arg(asked.value(Qt::ImCursorPosition).toInt())
+        .arg(asked.value(Qt::ImAnchorPosition).toInt())
+        .arg(asked.value(Qt::ImSurroundingText).toString());
+}
+
+/// Two rounds of what is to be timed, to see that each key does something: a field is quick at keys that it refuses.
+/// Says what is wrong, or nothing.
+template <class Edit, class Press, class Clear>
+const char* whyNotTimed(Edit& edit, const Strokes& keys, Press press, Clear clear) {
     QWidget* const target = QApplication::focusWidget();
-    if (target == nullptr || !(target == &edit || edit.isAncestorOf(target)))
-        return state.SkipWithError("the field did not take the focus");
-    QKeyEvent key = eventOf(pressed);
-    const auto press = [&] { strike(*target, key); };
+    if (target == nullptr || !(target == &edit || edit.isAncestorOf(target))) return "the field did not take the focus";
+    for (int round = 0; round < 2; ++round) {
+        clear();
+        do {
+            const QString before = lookOf(*target);
+            press();
+            if (lookOf(*target) == before) return "the field took no notice of a key";
+        } while (!keys.isAtStart());
+    }
     clear();
-    const QString before = text();
-    press();
-    if (text() == before) return state.SkipWithError("the keys did not arrive");
-    int presses = 0;
+    return nullptr;
+}
+
+/// As a field stands that has been entered by Tab: the next key replaces all of it.
+inline void selectAll() {
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::ControlModifier);
+    QCoreApplication::sendEvent(QApplication::focusWidget(), &key);
+}
+
+/// Presses `keys` again and again in `edit`; after the last, outside the clock, `clear` empties it.
+template <class Edit, class Clear>
+void pressKeys(benchmark::State& state, Edit& edit, Strokes keys, Clear clear) {
+    const auto press = [&keys, target = QApplication::focusWidget()] { strike(*target, keys.next()); };
+    if (const char* const why = whyNotTimed(edit, keys, press, clear)) return state.SkipWithError(why);
     for (auto _ : state) {
         press();
-        if (++presses % PressesBetween != 0) continue;
+        if (!keys.isAtStart()) continue;
         state.PauseTiming();
         clear();
         state.ResumeTiming();
