@@ -6,6 +6,7 @@
 #include <type_traits>
 #include <utility>
 
+#include "values/Calendar.h"
 #include "values/Decimal.h"
 #include "values/Text.h"
 
@@ -16,10 +17,6 @@ namespace {
 constexpr char16_t MinusSign = 0x2212;
 constexpr std::u16string_view TrueText = u"True";
 constexpr std::u16string_view FalseText = u"False";
-
-/// Serials of the days of the years 100 to 9999; a time may follow the last day and precede none.
-constexpr double FirstSerial = -657434;
-constexpr double LastSerial = 2958465;
 
 constexpr bool isOuterBlank(char16_t unit) {
     return unit == u' ' || (unit >= 0x09 && unit <= 0x0D) || unit == 0x00A0 || unit == 0x202F;
@@ -230,8 +227,7 @@ CoercionFault coerce(const Variant& value, const RegionalSettings& region, Date&
     double serial = 0;
     const CoercionFault fault = toNumber(value, region, serial);
     if (fault != CoercionFault::None) return fault;
-    const bool isInCalendar = serial > FirstSerial - 1 && serial < LastSerial + 1;
-    if (!isInCalendar) return CoercionFault::Overflow;
+    if (!isInCalendar(Date{serial})) return CoercionFault::Overflow;
     out.Serial = serial;
     return CoercionFault::None;
 }

@@ -11,7 +11,7 @@ namespace kel {
 
 namespace {
 
-constexpr PartLetters Parts{u"dmy", StepPart::Day};
+constexpr PartLetters DateLetters{u"dmy", StepPart::Day};
 constexpr std::size_t SavedDigits = 8;
 
 bool keepsDay(KelDateDaysFlag flag) { return flag == KelDateDaysFlag::FirstDay || flag == KelDateDaysFlag::LastDay; }
@@ -87,14 +87,14 @@ FieldStep stepDate(const BoxState& box, Date today, std::int32_t delta, const Fi
     const Date base = pinnedByCalendar(box.value.value_or(today), pin.flag);
     const bool isAsShown = box.text == rules.format.show(base, rules.region);
     const StepPlace place =
-        isAsShown ? placeFrom(wordStart(box.text, box.caret), base, rules, Parts, usual) : StepPlace{usual};
+        isAsShown ? placeFrom(wordStart(box.text, box.caret), base, rules, DateLetters, usual) : StepPlace{usual};
     const StepPart part = place.part == StepPart::Day ? usual : place.part;
     const Date next = box.value ? moved(base, part, delta).value_or(base) : base;
 
     FieldStep step{.value = committed(next, rules.bounds, pin), .isFirst = !box.value};
     step.text = rules.format.show(step.value, rules.region);
-    const std::optional<ShownField> field = fieldOf(place, step.value, rules, Parts);
-    if (!Parts.writeAllOf(rules.format.text(), rules.region)) {
+    const std::optional<ShownField> field = fieldOf(place, step.value, rules, DateLetters);
+    if (!DateLetters.writeAllOf(rules.format.text(), rules.region)) {
         step.caret = field ? field->end : box.caret;
         return step;
     }

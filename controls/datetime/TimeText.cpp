@@ -10,7 +10,7 @@ namespace kel {
 
 namespace {
 
-constexpr PartLetters Parts{u"hns", StepPart::Hour};
+constexpr PartLetters TimeLetters{u"hns", StepPart::Hour};
 
 constexpr std::int64_t secondsIn(StepPart part) {
     if (part == StepPart::Second) return 1;
@@ -21,7 +21,7 @@ constexpr std::int64_t secondsIn(StepPart part) {
 StepPart partAtCaret(std::size_t caret, std::u16string_view format) {
     const std::size_t position = std::max<std::size_t>(caret, 1) - 1;
     for (std::size_t at = position; at < format.size(); ++at) {
-        if (const auto part = Parts.partOf(format[at])) return *part;
+        if (const auto part = TimeLetters.partOf(format[at])) return *part;
     }
     return StepPart::Minute;
 }
@@ -29,7 +29,7 @@ StepPart partAtCaret(std::size_t caret, std::u16string_view format) {
 /// Behind the part's last letter in the format; past the end where that is the end.
 std::size_t caretBehind(StepPart part, std::u16string_view format) {
     std::size_t position = format.size();
-    while (position > 0 && Parts.partOf(format[position - 1]) != part) --position;
+    while (position > 0 && TimeLetters.partOf(format[position - 1]) != part) --position;
     return position == format.size() ? position + 1 : position;
 }
 
@@ -68,19 +68,19 @@ FieldStep stepTime(const BoxState& box, Date now, std::int32_t delta, const Fiel
     const std::u16string& format = rules.format.text();
     const Date base = box.value.value_or(now);
     const bool isAsShown = box.text == rules.format.show(base, rules.region);
-    const bool isWrittenInLetters = Parts.writeAllOf(format, rules.region);
+    const bool isWrittenInLetters = TimeLetters.writeAllOf(format, rules.region);
     StepPlace place{StepPart::Minute};
     if (isAsShown && isWrittenInLetters)
         place.part = partAtCaret(box.caret, format);
     else if (isAsShown)
-        place = placeFrom(box.caret, base, rules, Parts, StepPart::Minute);
+        place = placeFrom(box.caret, base, rules, TimeLetters, StepPart::Minute);
     const Date next = box.value ? addSeconds(base, delta * secondsIn(place.part)).value_or(base) : base;
 
     FieldStep step{.value = rules.bounds.clamp(next), .isFirst = !box.value};
     step.text = rules.format.show(step.value, rules.region);
     if (isWrittenInLetters)
         step.caret = caretBehind(place.part, format);
-    else if (const auto field = fieldOf(place, step.value, rules, Parts))
+    else if (const auto field = fieldOf(place, step.value, rules, TimeLetters))
         step.caret = field->end;
     else
         step.caret = box.caret;

@@ -12,7 +12,6 @@ namespace kel {
 
 namespace {
 
-constexpr Color Black = 0x00000000;
 constexpr std::int16_t RegionalDecimals = -1;
 constexpr EntryKind Kind{.hasCaptionFont = false, .captionWithinControl = true};
 
@@ -199,7 +198,7 @@ void KelNumber::InitProperties() {
 
 void KelNumber::EnterFocus() {
     put_ValueOriginal(Value_);
-    Text1_.setForeColor(Black);
+    Text1_.setForeColor(PlainNumberColor);
 }
 
 void KelNumber::Text1_GotFocus() {

@@ -13,7 +13,6 @@ namespace kel {
 namespace {
 
 constexpr Color Red = 0x000000FF;
-constexpr Color Black = 0x00000000;
 constexpr char16_t Minus = u'-';
 
 constexpr bool isAsciiDigit(char32_t unit) { return unit >= U'0' && unit <= U'9'; }
@@ -111,7 +110,7 @@ std::u16string editText(double value, std::int16_t decimals, const RegionalSetti
         value, {.decimals = decimals, .leadingZero = false, .trailingZeros = false, .typedSymbols = true}, region);
 }
 
-Color numberColor(double value) { return value < 0 ? Red : Black; }
+Color numberColor(double value) { return value < 0 ? Red : PlainNumberColor; }
 
 double clampNumber(double value, double minimum, double maximum) {
     if (value < minimum) return minimum;

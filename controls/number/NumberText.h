@@ -24,7 +24,10 @@ std::u16string displayText(double value, std::int16_t decimals, bool groupDigits
 /// the empty text, 0.5 is ".5".
 std::u16string editText(double value, std::int16_t decimals, const RegionalSettings& region);
 
-/// Red below zero, else black.
+/// Of a number that is not below zero, and of each while it is edited.
+inline constexpr Color PlainNumberColor = 0x00000000;
+
+/// Red below zero.
 Color numberColor(double value);
 
 // ---- Ranges and steps

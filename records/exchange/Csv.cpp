@@ -7,7 +7,7 @@ namespace kel::records {
 
 namespace {
 
-constexpr std::size_t AtOnce = std::size_t{1} << 18U;
+constexpr std::size_t BytesAtOnce = std::size_t{1} << 18U;
 constexpr std::string_view EncodingMark = "\xEF\xBB\xBF";
 constexpr std::string_view Separators = ",;\t";
 
@@ -37,8 +37,8 @@ void CsvReader::findSeparator() {
 
 bool CsvReader::fill() {
     Before_ += static_cast<std::int64_t>(Buffer_.size());
-    Buffer_.resize(AtOnce);
-    List_.read(Buffer_.data(), static_cast<std::streamsize>(AtOnce));
+    Buffer_.resize(BytesAtOnce);
+    List_.read(Buffer_.data(), static_cast<std::streamsize>(BytesAtOnce));
     if (List_.bad()) throw std::runtime_error("The list cannot be read on.");
     Buffer_.resize(static_cast<std::size_t>(List_.gcount()));
     Next_ = 0;

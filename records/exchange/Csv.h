@@ -54,6 +54,9 @@ private:
     bool IsOpen_ = false;
 };
 
+/// Ends a record that is written.
+inline constexpr std::string_view CsvLineEnd = "\r\n";
+
 /// Puts a value behind those that the line has already.
 void appendCsv(std::string& line, std::string_view value, char separator, bool isFirst);
 

@@ -10,7 +10,6 @@ namespace kel::records {
 namespace {
 
 constexpr std::int32_t AtOnce = 500;
-constexpr std::string_view LineEnd = "\r\n";
 
 bool isNumber(ColumnType type) { return type == ColumnType::Real || type == ColumnType::Decimal; }
 
@@ -28,7 +27,7 @@ void Exporter::appendLine(std::string& lines, const std::vector<std::string>& va
     // A line with nothing on it would be none.
     if (values.size() == 1 && values.front().empty()) lines += "\"\"";
     for (const std::string& value : values) appendCsv(lines, value, separator, &value == &values.front());
-    lines += LineEnd;
+    lines += CsvLineEnd;
 }
 
 std::string Exporter::valueOf(const Record& record, std::size_t column, const RegionalSettings& numbers) const {

@@ -17,7 +17,6 @@ constexpr std::int64_t MostTogether = 50'000;
 constexpr std::int64_t BetweenQuestions = 32;
 /// Different values of a column that are remembered: a town, a day or a yes comes again and again.
 constexpr std::size_t MostKnown = 512;
-constexpr std::string_view LineEnd = "\r\n";
 
 /// A message of a control or of a database on one line.
 std::string onOneLine(std::string text) {
@@ -272,7 +271,7 @@ private:
         appendCsv(text, number, values.separator(), true);
         appendCsv(text, reason, values.separator(), false);
         for (std::size_t i = 0; i < values.size(); ++i) appendCsv(text, values.value(i), values.separator(), false);
-        return text.append(LineEnd);
+        return text.append(CsvLineEnd);
     }
 
     const Importer::Reject& Put_;
