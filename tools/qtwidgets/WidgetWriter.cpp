@@ -248,14 +248,15 @@ std::string widgetHeader(const ClassModel& model) {
 std::string widgetSource(const ClassModel& model) {
     std::ostringstream out;
     const std::string name = widgetName(model);
+    const std::string modelOf = "modelOf" + toUtf8(model.name);
     std::set<std::string_view> headers{"controls/Classes.h", "library/Control.h", "platform/qt/base/BoundValue.h"};
     for (const MadeProperty& made : madeProperties(model)) headers.insert(made.functionsHeader);
     out << Notice << "#include \"" << name << ".h\"\n\n#include <array>\n\n";
     for (const std::string_view header : headers) out << "#include \"" << header << "\"\n";
-    out << "\nnamespace {\n\nconst kel::ClassModel& classModel() {\n"
+    out << "\nnamespace {\n\nconst kel::ClassModel& " << modelOf << "() {\n"
         << "    static const kel::ClassModel& model = *kel::libraryClasses().find(u\"" << toUtf8(model.name)
         << "\");\n    return model;\n}\n\n}  // namespace\n\n"
-        << name << "::" << name << "(QWidget* parent) : KelControlWidget(classModel(), parent) {}\n";
+        << name << "::" << name << "(QWidget* parent) : KelControlWidget(" << modelOf << "(), parent) {}\n";
     writeTypedAccess(out, model);
     for (const MemberRow& member : model.members) {
         if (!isLateBound(model, member)) continue;
