@@ -19,6 +19,7 @@ int main(int argc, char** argv) {
              "PaintKeyOfComboWidget",
              {"PaintKeyOfComboBox"},
              0.6},
+            {"a key that moves a single pixel, painted", "PaintKeyOfPixel", {}, 1e6},
             {"opening a form of 30 fields, painted / plain Qt", "OpenForm/30", {"OpenPlainForm/30"}, 0.6},
             {"opening a form of 300 fields, painted / plain Qt", "OpenForm/300", {"OpenPlainForm/300"}, 0.45},
             {"opening a form of 1,200 fields, painted / plain Qt", "OpenForm/1200", {"OpenPlainForm/1200"}, 0.4},

@@ -6,7 +6,9 @@
 #include <QDateEdit>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
+#include <QPainter>
 #include <QTimeEdit>
+#include <utility>
 #include <vector>
 
 #include "bench/Names.h"
@@ -148,6 +150,32 @@ void PaintKeyOfComboBox(benchmark::State& state) {
               [edit = shown.edit] { edit->setEditText(QString()); });
 }
 BENCHMARK(PaintKeyOfComboBox);
+
+/// What a key costs that alters a single pixel: the way of a window to its screen, which no field is spared.
+class Pixel final : public QWidget {
+public:
+    using QWidget::QWidget;
+    void clear() { setPlace({}); }
+
+private:
+    void setPlace(QPoint place) {
+        update(QRect(std::exchange(Place_, place), QSize(1, 1)));
+        update(QRect(Place_, QSize(1, 1)));
+    }
+    void keyPressEvent(QKeyEvent* /*event*/) override { setPlace(Place_ + QPoint(1, 0)); }
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override {
+        return query == Qt::ImCursorPosition ? QVariant(Place_.x()) : QVariant();
+    }
+    void paintEvent(QPaintEvent* /*event*/) override { QPainter(this).fillRect(QRect(Place_, QSize(1, 1)), Qt::black); }
+
+    QPoint Place_;
+};
+
+void PaintKeyOfPixel(benchmark::State& state) {
+    const FocusedEdit<Pixel> shown;
+    paintKeys(state, *shown.edit, Strokes(Words), [pixel = shown.edit] { pixel->clear(); });
+}
+BENCHMARK(PaintKeyOfPixel);
 
 // ---- Opening a form
 

@@ -9,6 +9,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QWidget>
+#include <QWindow>
 
 #include "host/Widgets.h"
 #include "library/Control.h"
@@ -43,6 +44,8 @@ struct FocusedEdit {
         window.show();
         QApplication::setActiveWindow(&window);
         edit->setFocus();
+        // Nothing is painted before.
+        while (!window.windowHandle()->isExposed()) QCoreApplication::processEvents();
         QCoreApplication::processEvents();
     }
 
