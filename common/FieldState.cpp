@@ -29,7 +29,8 @@ void selectOnFocus(TextEntry& box, bool tabKeyDown) {
 }
 
 void selectOverwritten(TextEntry& box) {
-    if (box.selLength() != 0) return;
+    const bool isAtEnd = box.selStart() == box.textLength();
+    if (box.selLength() != 0 || isAtEnd) return;
     box.setSelLength(1);
     if (box.selLength() != 0) return;
     // A box selects no half characters: either a pair stands there, which goes whole, or a line break, which

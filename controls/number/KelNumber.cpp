@@ -239,6 +239,7 @@ TextSpan KelNumber::selection() const {
 }
 
 void KelNumber::select(TextSpan span) {
+    if (span == selection()) return;
     Text1_.setSelStart(unitsOf(span.start));
     Text1_.setSelLength(unitsOf(span.length));
 }

@@ -1,10 +1,17 @@
 #include <gtest/gtest.h>
+#include <KelComboWidget.h>
+#include <KelDateWidget.h>
+#include <KelNumberWidget.h>
 #include <KelTextWidget.h>
+#include <array>
 #include <QApplication>
 #include <QLineEdit>
 #include <QScreen>
 #include <QTest>
+#include <random>
 #include <set>
+#include <string>
+#include <string_view>
 
 #include "library/Control.h"
 #include "library/SharedSettings.h"
@@ -56,19 +63,27 @@ TEST(Looks, ColorsNameRedInTheLowByteAndTheSystemsByIndex) {
     EXPECT_EQ(qt::desktopColor(0x800000FF, dark), dark.color(QPalette::WindowText)) << "no such index";
 }
 
-/// A letter types itself; "<" is Left, "{" Home, "#" Backspace, "_" Shift+Left, and "z" undoes.
+/// A letter types itself; "<" is Left, "{" Home, "#" Backspace, "_" Shift+Left, "}" Shift+Home, "*" Ctrl+A, and
+/// "z" undoes.
 void typeInto(QWidget& line, char key) {
     switch (key) {
         case '<': return QTest::keyClick(&line, Qt::Key_Left);
         case '{': return QTest::keyClick(&line, Qt::Key_Home);
         case '#': return QTest::keyClick(&line, Qt::Key_Backspace);
         case '_': return QTest::keyClick(&line, Qt::Key_Left, Qt::ShiftModifier);
+        case '}': return QTest::keyClick(&line, Qt::Key_Home, Qt::ShiftModifier);
+        case '*': return QTest::keyClick(&line, Qt::Key_A, Qt::ControlModifier);
         case 'z': return QTest::keyClick(&line, Qt::Key_Z, Qt::ControlModifier);
         default: return QTest::keyClick(&line, key);
     }
 }
 
-/// What is on the screen, where only a part was painted anew, and what a painting of all shows.
+/// Whether what is on the screen, where only a part was painted anew, is what a painting of all shows.
+bool isPaintedWhole(QWidget& window) {
+    const QImage seen = window.screen()->grabWindow(window.winId()).toImage();
+    return seen.convertToFormat(QImage::Format_RGB32) == window.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
 TEST(Looks, WhatAKeyPaintsIsWhatIsThere) {
     struct Typing {
         const char* what;
@@ -79,7 +94,7 @@ TEST(Looks, WhatAKeyPaintsIsWhatIsThere) {
     for (const Typing& typing :
          {Typing{"at the end", u"", {}, "affiWWjf1"}, Typing{"in the middle", u"fifi fl", {4, 4}, "Wi##f"},
           Typing{"from the front", u"AVAVA", {0, 0}, "Tjz<W"}, Typing{"over a selection", u"one two", {2, 5}, "#x_y_#"},
-          Typing{"to nothing and on", u"ab", {2, 2}, "##cd{#e"},
+          Typing{"over much", u"one two", {5, 5}, "}#z}x"}, Typing{"to nothing and on", u"ab", {2, 2}, "##cd{#e"},
           Typing{"out of the field", u"WWWWWWWWWWWW", {12, 12}, "WWWW####{i"},
           Typing{"the other way", u"אב", {2, 2}, "1a#<b"}}) {
         for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
@@ -96,11 +111,41 @@ TEST(Looks, WhatAKeyPaintsIsWhatIsThere) {
                 QApplication::processEvents();
                 typeInto(line, *key);
                 QApplication::processEvents();
-                const QImage seen = window.screen()->grabWindow(window.winId()).toImage();
-                EXPECT_EQ(seen.convertToFormat(QImage::Format_RGB32),
-                          window.grab().toImage().convertToFormat(QImage::Format_RGB32))
-                    << typing.what << ", key " << (key - typing.keys);
+                EXPECT_TRUE(isPaintedWhole(window)) << typing.what << ", key " << (key - typing.keys);
             }
+        }
+    }
+}
+
+/// A field that overwrites, completes or shows a number alters text and selection several times at one key.
+TEST(Looks, WhatAFieldMakesOfAKeyIsPaintedToo) {
+    QWidget window;
+    auto* const combo = new KelComboWidget(&window);
+    combo->setLimitToList(false);
+    combo->setList(QStringLiteral("Ash,Ashford,Brook,Brookfield,Fair"));
+    auto* const text = new KelTextWidget(&window);
+    text->setInsertMode(false);
+    text->setText(QStringLiteral("Wife fi"));
+    auto* const date = new KelDateWidget(&window);
+    date->setValue(QDate(2013, 3, 15));
+    const std::array<qt::KelControlWidget*, 4> fields{combo, text, date, new KelNumberWidget(&window)};
+    for (std::size_t place = 0; place < fields.size(); ++place)
+        fields[place]->setGeometry(0, static_cast<int>(place) * 30, 140, 24);
+    window.resize(140, 120);
+    window.show();
+    constexpr std::string_view Keys = "12.5fFbBaAhor/<<<___{}###z*";
+    std::minstd_rand random(7);
+    for (qt::KelControlWidget* const field : fields) {
+        QWidget& line = widgetOf(*field->control().widgets().entry);
+        line.setFocus();
+        std::string keys;
+        while (keys.size() < 150) keys += Keys[random() % Keys.size()];
+        for (std::size_t at = 0; at < keys.size(); ++at) {
+            QApplication::processEvents();
+            typeInto(line, keys[at]);
+            QApplication::processEvents();
+            ASSERT_TRUE(isPaintedWhole(window))
+                << field->metaObject()->className() << " after " << keys.substr(0, at + 1);
         }
     }
 }

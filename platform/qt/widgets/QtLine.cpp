@@ -30,6 +30,7 @@ constexpr int TextMargin = 2;  ///< between the frame and the text, pixels
 /// One line is edited at a time: its layout stands until another one wants it, and a thousand fields keep none.
 struct LaidOut {
     const QtLine* line = nullptr;
+    bool isCurrent = false;  ///< else the text is another one meanwhile, and what stands here was shown
     LineLayout layout;
 };
 
@@ -81,8 +82,9 @@ void QtLine::outOfDate() {
     if (changes.has(Change::Password)) setInputMethodHints(box().isPassword() ? PasswordHints : Qt::ImhNone);
     if (changes.has(Change::Colors)) recolor();
     if (changes.has(Change::Locked)) update();
-    const QRect altered = changes.has(Change::Text) && isVisible() ? areaOfEdit() : textArea();
-    if (changes.has(Change::Text) || changes.has(Change::Password)) dropLayout();
+    const QRect altered = isVisible() ? areaOfEdit() : textArea();
+    if (changes.has(Change::Password)) dropLayout();
+    if (changes.has(Change::Text)) laidOut().isCurrent = false;
     showMore(changes);
     if (!changes.has(Change::Text) && !changes.has(Change::Selection)) return;
     // Whatever moves text or caret ends a composition.
@@ -106,9 +108,10 @@ void QtLine::recolor() {
 
 const LineLayout& QtLine::layout() const {
     LaidOut& current = laidOut();
-    if (current.line != this) {
+    if (current.line != this || !current.isCurrent) {
         current.layout.lay(box().shownText(), font(), layoutDirection(), Composition_, box().selection().start());
         current.line = this;
+        current.isCurrent = true;
     }
     return current.layout;
 }
@@ -166,8 +169,8 @@ QRect QtLine::textArea() const {
     return TextArea_;
 }
 
-/// What a key alters of the text, at most, as far as the text that was painted tells it: a key costs by what goes to
-/// the screen. All of the text where more is going on than plain letters that come and go in front of the caret.
+/// What a key alters of the text, caret and selection, at most, as far as what was painted tells it: a key costs by
+/// what goes to the screen. All of the text where more is going on than plain letters that come and go.
 QRect QtLine::areaOfEdit() const {
     constexpr std::size_t Joined = 4;  // letters that a font may draw otherwise because of the one after them
     const QRect area = textArea();
@@ -177,16 +180,20 @@ QRect QtLine::areaOfEdit() const {
         return area;
     const LineLayout& before = laidOut().layout;
     const QString was = before.text();
+    if (before.isRightToLeft() || !isPlain(was) || !isPlain(now)) return area;
     const auto kept =
         static_cast<std::size_t>(std::mismatch(was.begin(), was.end(), now.begin(), now.end()).first - was.begin());
     const Selection& selection = box().selection();
-    const bool isAtCaret = Painted_.empty() && selection.empty() && std::min(Painted_.caret, selection.caret) >= kept;
-    if (!isAtCaret || before.isRightToLeft() || !isPlain(was) || !isPlain(now)) return area;
-    const int widest = fontMetrics().maxWidth();
-    const int left = before.xOf(kept - std::min(kept, Joined)) - widest;
-    const int right = std::max(before.width(), before.xOf(kept) + toInt(text.size() - kept) * widest) + widest;
+    const std::size_t first = std::min({kept, Painted_.start(), selection.start()});
+    const QFontMetrics metrics = fontMetrics();
+    const int widest = metrics.maxWidth();
+    const int left = before.xOf(first - std::min(first, Joined)) - widest;
+    int right = before.xOf(kept);
+    for (const QChar letter : now.sliced(toInt(kept))) right += metrics.horizontalAdvance(letter);
+    right =
+        widest + (was == now ? before.xOf(std::max(Painted_.end(), selection.end())) : std::max(before.width(), right));
     if (right > area.width()) return area;
-    return area & QRect(textCorner().x() + left, area.y(), right - left, area.height());
+    return area & QRect(area.x() + TextMargin + left, area.y(), right - left, area.height());
 }
 
 void QtLine::placeTextAgain() {
