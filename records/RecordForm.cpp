@@ -285,6 +285,9 @@ bool RecordForm::settle() {
         Duplicated_ = true;
         return true;
     }
+    // It was to be held for the change, and is there as it was: only reading it is allowed.
+    if (*now == *Shown_)
+        throw StoreError(StoreError::Kind::ReadOnly, "The database lets this record be read, and not be changed.");
     std::vector<Difference> differences;
     std::vector<Binding*> fields;
     for (Binding& binding : Bindings_) {

@@ -1,3 +1,4 @@
+#include <cmath>
 #include <QSqlError>
 
 #include "platform/qt/base/TextBridge.h"
@@ -75,7 +76,10 @@ public:
         if (value.isNull()) return Null{};
         switch (column.type) {
             case ColumnType::Integer: return static_cast<std::int64_t>(value.toLongLong());
-            case ColumnType::Real: return value.toDouble();
+            // One that is no number is not even itself; as a text it is.
+            case ColumnType::Real:
+                if (std::isnan(value.toDouble())) return std::u16string(u"NaN");
+                return value.toDouble();
             case ColumnType::Truth: return static_cast<std::int64_t>(value.toBool() ? 1 : 0);
             default: break;
         }

@@ -173,16 +173,24 @@ QSqlQuery& SqlConnection::run(const QString& statement, const QVariantList& valu
     return *done;
 }
 
-void SqlConnection::runAlone(const QString& statement, const QVariantList& values) {
-    if (Depth_ == 0 || !Dialect_->failureEndsTransaction()) return run(statement, values).finish();
+int SqlConnection::runAlone(const QString& statement, const QVariantList& values) {
+    const auto changed = [&] {
+        QSqlQuery& query = run(statement, values);
+        const int count = query.numRowsAffected();
+        query.finish();
+        return count;
+    };
+    if (Depth_ == 0 || !Dialect_->failureEndsTransaction()) return changed();
     execute(QStringLiteral("SAVEPOINT alone"));
+    int count = 0;
     try {
-        run(statement, values).finish();
+        count = changed();
     } catch (const StoreError& error) {
         if (error.kind() != Kind::Lost) execute(QStringLiteral("ROLLBACK TO SAVEPOINT alone"));
         throw;
     }
     execute(QStringLiteral("RELEASE SAVEPOINT alone"));
+    return count;
 }
 
 void SqlConnection::runOnce(const QString& statement) {

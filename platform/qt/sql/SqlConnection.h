@@ -41,8 +41,9 @@ public:
     /// Runs a statement with its values. The query is the connection's, and good until the same statement is run again.
     QSqlQuery& run(const QString& statement, const QVariantList& values = {});
 
-    /// The same for a statement that reads nothing. When it fails, what came before it in its transaction stays.
-    void runAlone(const QString& statement, const QVariantList& values);
+    /// The same for a statement that reads nothing; returns how many records it has changed. When it fails, what came
+    /// before it in its transaction stays.
+    int runAlone(const QString& statement, const QVariantList& values);
 
     /// A statement that reads nothing and is run seldom, such as one that makes a table.
     void execute(const QString& statement);

@@ -17,6 +17,12 @@ using records::Outcome;
 using records::Record;
 using records::Way;
 
+/// A trigger or a policy may leave a record out without a word.
+records::StoreError notTaken(const char* what) {
+    return {records::StoreError::Kind::Constraint,
+            std::string("The database did not ") + what + ", and gives no reason."};
+}
+
 }  // namespace
 
 SqlRecords::SqlRecords(SqlConnection& connection, records::Table table)
@@ -229,28 +235,30 @@ void SqlRecords::add(const std::vector<Change>& values) {
         AddedColumns_.clear();
         for (const Change& change : values) AddedColumns_.push_back(change.column);
     }
-    Connection_.runAlone(Added_, bound(values));
+    if (Connection_.runAlone(Added_, bound(values)) == 0) throw notTaken("keep the new record");
     ++Changes_;
 }
 
-Record SqlRecords::insert(const std::vector<Change>& values) {
+Cells SqlRecords::changedKey(const QString& statement, const QVariantList& values) {
     QStringList keys;
     for (const std::size_t key : Table_.key) keys.append(Connection_.dialect().readExpression(column(key)));
-    const QString statement = insertion(values) + QLatin1String(" RETURNING ") + keys.join(QLatin1Char(','));
+    QSqlQuery& query = Connection_.run(statement + QLatin1String(" RETURNING ") + keys.join(QLatin1Char(',')), values);
+    Cells key;
+    if (query.next())
+        for (std::size_t i = 0; i < Table_.key.size(); ++i)
+            key.push_back(Connection_.dialect().fromSql(query.value(static_cast<int>(i)), column(Table_.key[i])));
+    query.finish();
+    return key;
+}
+
+Record SqlRecords::insert(const std::vector<Change>& values) {
+    const QString statement = insertion(values);
     std::optional<Record> stored;
     Connection_.transact(
         [&] {
-            QSqlQuery& query = Connection_.run(statement, bound(values));
-            Cells key;
-            if (query.next())
-                for (std::size_t i = 0; i < Table_.key.size(); ++i)
-                    key.push_back(
-                        Connection_.dialect().fromSql(query.value(static_cast<int>(i)), column(Table_.key[i])));
-            query.finish();
+            const Cells key = changedKey(statement, bound(values));
             stored = key.empty() ? std::nullopt : read(key);
-            if (!stored)
-                throw records::StoreError(records::StoreError::Kind::Wrong,
-                                          "The database did not keep the new record.");
+            if (!stored) throw notTaken("keep the new record");
         },
         [&] {
             // A key that the database has given is nobody else's; meanwhile the record may have been changed.
@@ -274,11 +282,7 @@ Outcome SqlRecords::hold(const Record& read) {
 
 Outcome SqlRecords::update(Record& read, const std::vector<Change>& values) {
     QStringList sets;
-    Record after = read;
-    for (const Change& change : values) {
-        sets.append(nameOf(change.column) + QLatin1String(" = ?"));
-        after.cells[change.column] = change.value;
-    }
+    for (const Change& change : values) sets.append(nameOf(change.column) + QLatin1String(" = ?"));
     if (Table_.version) sets.append(QStringLiteral("%1 = %1 + 1").arg(nameOf(*Table_.version)));
     const Condition condition = isKey(keyOf(Table_, read));
     const QString statement = QStringLiteral("UPDATE %1 SET %2 WHERE %3")
@@ -289,8 +293,9 @@ Outcome SqlRecords::update(Record& read, const std::vector<Change>& values) {
         [&] {
             outcome = hold(read);
             if (outcome != Outcome::Done) return;
-            Connection_.run(statement, bound(values) + condition.values).finish();
-            stored = this->read(keyOf(Table_, after));
+            const Cells key = changedKey(statement, bound(values) + condition.values);
+            stored = key.empty() ? std::nullopt : this->read(key);
+            if (!stored) throw notTaken("keep the change");
         },
         [&] { return stored && isThere(*stored); });
     if (outcome == Outcome::Done) ++Changes_;
@@ -306,7 +311,8 @@ Outcome SqlRecords::remove(const Record& read) {
     Connection_.transact(
         [&] {
             outcome = hold(read);
-            if (outcome == Outcome::Done) Connection_.run(statement, condition.values).finish();
+            if (outcome == Outcome::Done && changedKey(statement, condition.values).empty())
+                throw notTaken("delete the record");
         },
         [&] { return outcome == Outcome::Done && !this->read(keyOf(Table_, read)); });
     if (outcome == Outcome::Done) ++Changes_;

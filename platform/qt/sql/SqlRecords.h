@@ -53,6 +53,9 @@ private:
     Condition isKey(const records::Cells& key) const;
     QString insertion(const std::vector<records::Change>& values) const;
     QVariantList bound(const std::vector<records::Change>& values) const;
+    /// Runs a statement that changes one record, and returns the key that this has now; nothing where the database has
+    /// left it out.
+    records::Cells changedKey(const QString& statement, const QVariantList& values);
     /// Reads the record, so that nobody changes it before the transaction is over; then whether it is as it was `read`.
     records::Outcome hold(const records::Record& read);
     /// Whether it stands there just so.

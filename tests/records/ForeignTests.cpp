@@ -1,0 +1,109 @@
+#include <sstream>
+
+#include "records/exchange/Importer.h"
+#include "tests/records/OnDatabase.h"
+
+/// Tables that others have made, with rules of their own.
+namespace kel::test {
+namespace {
+
+const std::string NameForm = formOf({{"txtName", "KelText", ""}});
+
+/// How often this is in the database.
+std::string countOf(const char* name) { return "SELECT count(*) FROM member WHERE name = '" + std::string(name) + "'"; }
+
+/// A trigger may leave a record out without an error. Nobody is told then that it is saved, or gone.
+TEST_F(OnDatabase, WhatIsLeftOutSilentlyIsSaid) {
+    execute("CREATE TABLE member (id INTEGER PRIMARY KEY, name TEXT)");
+    execute("INSERT INTO member VALUES (1, 'Anna')");
+    const auto store = open();
+    const auto ignore = [&](const char* what) {
+        if (isServer())
+            execute(
+                "CREATE OR REPLACE FUNCTION nothing() RETURNS trigger LANGUAGE plpgsql AS 'BEGIN RETURN NULL; END'");
+        execute((std::string("CREATE TRIGGER t BEFORE ") + what + " ON member FOR EACH ROW " +
+                 (isServer() ? "EXECUTE FUNCTION nothing()" : "BEGIN SELECT RAISE(IGNORE); END"))
+                    .c_str());
+    };
+    const auto allow = [&] { execute(isServer() ? "DROP TRIGGER t ON member" : "DROP TRIGGER t"); };
+    Person person(NameForm, *store, u"member");
+
+    ignore("UPDATE");
+    person.put(u"txtName", std::u16string(u"Berta"));
+    EXPECT_FALSE(person.records().save());
+    EXPECT_EQ(person.heard, "The database did not keep the change, and gives no reason.\n");
+    EXPECT_EQ(person.text(u"txtName"), u"Berta");
+    EXPECT_TRUE(person.records().isChanged());
+    allow();
+    EXPECT_TRUE(person.records().save());
+
+    ignore("DELETE");
+    person.heard.clear();
+    EXPECT_FALSE(person.records().remove());
+    EXPECT_EQ(person.heard, "The database did not delete the record, and gives no reason.\n");
+    EXPECT_FALSE(person.records().isNew());
+    allow();
+
+    ignore("INSERT");
+    std::istringstream list("Carla\n");
+    const auto home = headless::makeHome({.region = &defaultRegion()});
+    Importer importer(*home, FormFile::parse(NameForm, "member.frm"), person.records().store(), nullptr);
+    std::string rejects;
+    const auto result = importer.run(
+        list, {.separator = ',', .hasHeader = false}, false, [&](std::string_view line) { rejects += line; },
+        [](std::int64_t) { return true; });
+    EXPECT_EQ(result.stored, 0);
+    EXPECT_NE(rejects.find("did not keep the new record"), std::string::npos) << rejects;
+    allow();
+    EXPECT_EQ(value(countOf("Berta").c_str()), "1");
+}
+
+/// A database may write a key otherwise than it was typed.
+TEST_F(OnDatabase, KeyThatTheDatabaseChangesIsFollowed) {
+    if (!isServer()) GTEST_SKIP() << "triggers of a file change no value on its way";
+    execute("CREATE TABLE member (name TEXT PRIMARY KEY)");
+    execute(
+        "CREATE OR REPLACE FUNCTION nothing() RETURNS trigger LANGUAGE plpgsql AS 'BEGIN new.name = upper(new.name); "
+        "RETURN new; END'");
+    execute("CREATE TRIGGER t BEFORE INSERT OR UPDATE ON member FOR EACH ROW EXECUTE FUNCTION nothing()");
+    const auto store = open();
+    Person person(NameForm, *store, u"member");
+    for (const char16_t* const name : {u"anna", u"berta", u"carla"}) {
+        person.put(u"txtName", std::u16string(name));
+        EXPECT_TRUE(person.records().save()) << person.heard;
+    }
+    EXPECT_EQ(person.text(u"txtName"), u"CARLA");
+    EXPECT_EQ(value("SELECT string_agg(name, ',') FROM member"), "CARLA");
+}
+
+/// One column holds what equals nothing, not even itself; a policy lets another record be read alone.
+TEST_F(OnDatabase, SavingComesToAnEnd) {
+    if (!isServer()) GTEST_SKIP() << "files have neither";
+    execute("CREATE TABLE member (id INTEGER PRIMARY KEY, name TEXT, weight DOUBLE PRECISION)");
+    execute("INSERT INTO member VALUES (1, 'Anna', 'NaN'), (2, 'Berta', 0)");
+    execute("ALTER TABLE member ENABLE ROW LEVEL SECURITY");
+    execute("ALTER TABLE member FORCE ROW LEVEL SECURITY");
+    execute("CREATE POLICY seen ON member FOR SELECT USING (true)");
+    execute("CREATE POLICY own ON member FOR UPDATE USING (id = 1)");
+    execute("DROP ROLE IF EXISTS colleague");
+    execute("CREATE ROLE colleague LOGIN");
+    execute("GRANT ALL ON member TO colleague");
+    {
+        std::string address = databaseAddress();
+        address.replace(address.find("//") + 2, address.find('@') - address.find("//") - 2, "colleague");
+        const auto store = qt::openStore(address, {});
+        Person person(NameForm, *store, u"member");
+        person.put(u"txtName", std::u16string(u"Anne"));
+        EXPECT_TRUE(person.records().save()) << person.heard;
+        EXPECT_TRUE(person.records().toLast());
+        person.put(u"txtName", std::u16string(u"Bert"));
+        EXPECT_FALSE(person.records().save());
+        EXPECT_EQ(person.heard, "The database lets this record be read, and not be changed.\n");
+    }
+    EXPECT_EQ(value("SELECT string_agg(name || weight, ',' ORDER BY id) FROM member"), "AnneNaN,Berta0");
+    execute("DROP TABLE member");
+    execute("DROP ROLE colleague");
+}
+
+}  // namespace
+}  // namespace kel::test
