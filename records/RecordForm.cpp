@@ -189,7 +189,8 @@ void RecordForm::complain(const StoreError& error) {
 
 bool RecordForm::isValid() {
     for (const Binding& binding : Bindings_) {
-        if (binding.isValid(false)) continue;
+        // What the database alone gives, nobody here could put right.
+        if (binding.isGiven(columnOf(binding)) || binding.isValid(false)) continue;
         Form_->window().focus(binding.control());
         // Where the control has no words of its own.
         if (!binding.saysWhy())

@@ -20,7 +20,8 @@ constexpr std::size_t LongestLine = 80;     ///< characters; a longer text has s
 constexpr std::int32_t LongestShort = 120;  ///< of a column that says how long its texts may be
 constexpr std::int32_t MostMaxLength = INT16_MAX;
 constexpr std::int32_t MostDecimals = 6;  ///< of a number that may have any
-constexpr double MostNumber = 999999999999.0;
+/// A field shows every digit of such a number.
+constexpr double MostNumber = 999999999999999.0;
 constexpr std::size_t LongestName = 36;
 
 // Twips.
@@ -66,7 +67,7 @@ std::u16string dateFormatOf(const RegionalSettings& region) {
 double largestOf(const Column& column) {
     if (column.type == ColumnType::Integer) return column.most > 0 ? static_cast<double>(column.most) : MostNumber;
     const std::int32_t places = column.length - column.decimals;
-    if (column.type != ColumnType::Decimal || places > 12) return MostNumber;
+    if (column.type != ColumnType::Decimal || column.length == 0 || places > 15) return MostNumber;
     return std::pow(10.0, places) - std::pow(10.0, -column.decimals);
 }
 
@@ -185,9 +186,9 @@ FieldPlan FieldPlanner::number(std::size_t column) {
     const Column& kept = at(column);
     FieldPlan field = plan(column, u"KelNumber", wordsOf(kept.name));
     const bool isWhole = kept.type == ColumnType::Integer;
-    const std::int32_t decimals = isWhole                            ? 0
-                                  : kept.type == ColumnType::Decimal ? std::min(kept.decimals, 16)
-                                                                     : decimalsSeen(column);
+    const std::int32_t decimals = isWhole                                               ? 0
+                                  : kept.type == ColumnType::Decimal && kept.length > 0 ? std::min(kept.decimals, 16)
+                                                                                        : decimalsSeen(column);
     const double most = largestOf(kept);
     field.properties.emplace_back(u"Decimals", static_cast<std::int16_t>(decimals));
     field.properties.emplace_back(u"MaxValue", most);

@@ -1,6 +1,7 @@
 #include <sstream>
 
 #include "records/exchange/Importer.h"
+#include "records/make/FormOfTable.h"
 #include "tests/records/OnDatabase.h"
 
 /// Tables that others have made, with rules of their own.
@@ -103,6 +104,53 @@ TEST_F(OnDatabase, SavingComesToAnEnd) {
     EXPECT_EQ(value("SELECT string_agg(name || weight, ',' ORDER BY id) FROM member"), "AnneNaN,Berta0");
     execute("DROP TABLE member");
     execute("DROP ROLE colleague");
+}
+
+/// A column is what it is made of, not what its type is called.
+TEST_F(OnDatabase, TypesOfOthersAreToldByWhatTheyAre) {
+    if (!isServer()) GTEST_SKIP() << "files have no types but their own";
+    execute("DROP TYPE IF EXISTS footprint, pointer CASCADE");
+    execute("DROP DOMAIN IF EXISTS dated, code CASCADE");
+    execute("CREATE TYPE footprint AS ENUM ('small', 'large')");
+    execute("CREATE TYPE pointer AS (x INTEGER)");
+    execute("CREATE DOMAIN code AS VARCHAR(8)");
+    execute("CREATE DOMAIN dated AS code NOT NULL CHECK (value <> 'x')");
+    execute(
+        "CREATE TABLE member (id NUMERIC PRIMARY KEY, size footprint, place pointer, name dated, years INT4RANGE, fee "
+        "MONEY, amount NUMERIC(9,2), day DATE)");
+    execute("INSERT INTO member VALUES (12345678901234567891, 'small', NULL, 'Anna', NULL, 1, 12345.6, NULL)");
+    const auto store = open();
+    const Table table = store->table(u"member").value();
+    std::u16string types;
+    for (const Column& column : table.columns) types += std::u16string(nameOf(column.type)) + u"; ";
+    EXPECT_EQ(types,
+              u"a decimal number; text; something that no field shows; text; something that no field shows; something "
+              u"that no field shows; a decimal number; a date; ");
+    EXPECT_EQ(table.columns[3].length, 8);
+    EXPECT_TRUE(table.columns[3].notNull);
+    Person person(formOf({{"txtName", "KelText", ""}, {"cboSize", "KelCombo", "      LimitToList = 0\r\n"}}), *store,
+                  u"member");
+    EXPECT_EQ(person.text(u"cboSize"), u"small");
+    person.put(u"txtName", std::u16string(u"Anne"));
+    person.put(u"cboSize", std::u16string(u"large"));
+    EXPECT_TRUE(person.records().save()) << person.heard;
+    EXPECT_EQ(value("SELECT id || ' ' || name || ' ' || size FROM member"), "12345678901234567891 Anne large");
+    person.put(u"cboSize", std::u16string(u"huge"));
+    EXPECT_FALSE(person.records().save());
+    execute("DROP TABLE member");
+}
+
+/// Databases number their records as they like; what they give is not held against the bounds of a field.
+TEST_F(OnDatabase, LargeKeysAreNoHindrance) {
+    execute("CREATE TABLE member (id BIGINT DEFAULT 1234567890123456789 PRIMARY KEY, name TEXT)");
+    const auto store = open();
+    const Table table = store->table(u"member").value();
+    Person person(formFor(*store, table, defaultRegion(), "m.frm").file.output("m.frm").form, *store, u"member");
+    for (const char16_t* const name : {u"Anna", u"Berta"}) {
+        person.put(u"txtName", std::u16string(name));
+        EXPECT_TRUE(person.records().save()) << person.heard;
+    }
+    EXPECT_EQ(value("SELECT id || name FROM member"), "1234567890123456789Berta");
 }
 
 }  // namespace

@@ -296,7 +296,7 @@ TEST_F(OnDatabase, FormIsMadeOfATable) {
     const Table table = store->table(u"odd").value();
     const MadeForm made = formFor(*store, table, *findRegion(u"en-US"), "odd.frm");
     EXPECT_EQ(made.leftOut, std::vector<std::u16string>{u"sel"});
-    EXPECT_EQ(fieldsOf(made.file), R"(numId Caption="&ID" Decimals=0 Mandatory=-1 MaxValue=999999999999
+    EXPECT_EQ(fieldsOf(made.file), R"(numId Caption="&ID" Decimals=0 Mandatory=-1 MaxValue=999999999999999
 datOrderDate Caption="&Order date" Format="mm/dd/yyyy" Mandatory=-1 Value="Now"
 cboParent DataField="parent_code:tag" Caption="&Parent" Mandatory=-1
 txtState Caption="&State" Mandatory=-1 MaxLength=9 Text="it's"

@@ -69,7 +69,7 @@ void setDeclaredType(Column& column, const QString& declared) {
     if (upper.contains(QLatin1String("SMALLINT"))) column.most = INT16_MAX;
     if (column.type != ColumnType::Decimal) return;
     column.decimals = sizes.captured(2).toInt();
-    // Without a scale it keeps any number.
+    // Without a scale a file keeps any number, in double precision.
     if (!sizes.hasMatch()) column.type = ColumnType::Real;
 }
 
@@ -154,11 +154,20 @@ void SqlSchema::readPostgres(Table& table) {
     const QVariantList name{toQString(table.name)};
     const QString ofTable = QStringLiteral(
         " JOIN pg_namespace n ON n.oid = c.relnamespace WHERE c.relname = ? AND n.nspname = current_schema() AND ");
+    // A domain is what it is made of, and the words of an enumeration are texts. Whatever else somebody has made is
+    // not to be told by its name: "footprint" is no whole number, nor is a range of them.
+    const QString type = QStringLiteral(
+        "(WITH RECURSIVE base (type, modifier) AS (SELECT a.atttypid, a.atttypmod UNION ALL SELECT t.typbasetype, "
+        "t.typtypmod FROM base JOIN pg_type t ON t.oid = base.type WHERE t.typtype = 'd') SELECT CASE WHEN t.typtype = "
+        "'e' THEN 'text' WHEN t.typtype = 'b' AND t.oid <> 'money'::regtype THEN format_type(base.type, base.modifier) "
+        "ELSE '' END FROM base JOIN pg_type t ON t.oid = base.type WHERE t.typtype <> 'd')");
     QSqlQuery& columns = Connection_.run(
-        QStringLiteral("SELECT a.attname, format_type(a.atttypid, a.atttypmod), a.attnotnull, a.atthasdef OR "
-                       "a.attidentity <> '', a.attgenerated <> '' OR a.attidentity = 'a', pg_get_expr(d.adbin, "
-                       "d.adrelid) FROM pg_attribute a LEFT JOIN pg_attrdef d ON d.adrelid = a.attrelid AND d.adnum = "
-                       "a.attnum JOIN pg_class c ON c.oid = a.attrelid") +
+        QStringLiteral("SELECT a.attname, ") + type +
+            QStringLiteral(
+                ", a.attnotnull OR (SELECT typnotnull FROM pg_type WHERE oid = a.atttypid), a.atthasdef OR "
+                "a.attidentity <> '', a.attgenerated <> '' OR a.attidentity = 'a', pg_get_expr(d.adbin, "
+                "d.adrelid) FROM pg_attribute a LEFT JOIN pg_attrdef d ON d.adrelid = a.attrelid AND d.adnum = "
+                "a.attnum JOIN pg_class c ON c.oid = a.attrelid") +
             ofTable + QStringLiteral("a.attnum > 0 AND NOT a.attisdropped ORDER BY a.attnum"),
         name);
     while (columns.next()) {
@@ -166,6 +175,8 @@ void SqlSchema::readPostgres(Table& table) {
         column.name = textAt(columns, 0);
         setDeclaredType(column, columns.value(1).toString());
         if (columns.value(1).toString() == QLatin1String("integer")) column.most = INT32_MAX;
+        // Without a scale it keeps any number, and every digit of it.
+        if (columns.value(1).toString() == QLatin1String("numeric")) column.type = ColumnType::Decimal;
         column.notNull = columns.value(2).toBool();
         column.hasDefault = columns.value(3).toBool();
         column.generated = columns.value(4).toBool();
