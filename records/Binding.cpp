@@ -123,6 +123,12 @@ std::vector<Binding> bind(const Form& form, const Table& table, const RegionalSe
         const FieldSource source = sourceOf(form.file().text(placed.block, u"DataField"), placed.control->name());
         const auto column = source.in(table);
         if (!column) refuse(u"The table " + table.name + u" has no column " + source.column + u".");
+        // What is typed in the one would be overwritten by the other; but a day and a time go together.
+        for (const Binding& other : bindings)
+            if (other.column() == *column && (table.columns[*column].type != ColumnType::Moment ||
+                                              &other.control().control().model() == &placed.control->control().model()))
+                refuse(other.control().name() + u" and " + placed.control->name() + u" are both kept in the column " +
+                       table.columns[*column].name + u".");
         bindings.emplace_back(placed, *column, source.byTag, region);
         if (const auto misfit = bindings.back().misfit(table.columns[*column])) refuse(*misfit + u".");
         if (others != nullptr) bindings.back().offer(*others, table.columns[*column]);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "records/Binding.h"
+#include "records/VersionColumn.h"
 #include "values/Text.h"
 
 namespace kel::records {
@@ -37,6 +38,7 @@ std::vector<Wanted> wantedBy(const Form& form, const RegionalSettings& region) {
         }
         wanted.push_back({std::move(source), std::move(column)});
     }
+    if (wanted.empty()) throw StoreError(StoreError::Kind::Wrong, "The form has no field that keeps a value.");
     return wanted;
 }
 
@@ -49,6 +51,10 @@ Table tableFor(const Form& form, std::u16string_view name, const RegionalSetting
         if (table.find(wanted.column.name))
             throw StoreError(StoreError::Kind::Wrong,
                              "Two fields of the form are kept in the column " + toUtf8(wanted.column.name) + ".");
+        if (isSameName(wanted.column.name, KeyColumn) || isSameName(wanted.column.name, VersionColumn))
+            throw StoreError(StoreError::Kind::Wrong,
+                             "Every table that is made for a form has a column " + toUtf8(wanted.column.name) +
+                                 " of its own. Please write another one into the DataField of the field.");
         table.columns.push_back(std::move(wanted.column));
     }
     return table;

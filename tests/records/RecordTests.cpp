@@ -398,15 +398,40 @@ TEST_F(OnDatabase, ListsLeaveWholeRecords) {
 }
 
 TEST_F(OnDatabase, FormMustFitTheTable) {
-    execute("CREATE TABLE member (id INTEGER PRIMARY KEY, txt_name DATE)");
+    execute("CREATE TABLE member (id INTEGER PRIMARY KEY, txt_name DATE, note TEXT, at TIMESTAMP)");
     const auto store = open();
-    try {
-        const Person person(formOf({{"txtName", "KelText", ""}}), *store, u"member");
-        FAIL() << "taken";
-    } catch (const StoreError& error) {
-        EXPECT_STREQ(error.what(), "txtName shows text, and the column txt_name is a date.");
+    const auto at = [](const char* column) { return std::string("      DataField = \"") + column + "\"\r\n"; };
+    const struct {
+        std::vector<std::array<std::string, 3>> fields;
+        const char16_t* table;
+        const char* said;
+    } rows[] = {
+        {{{"txtName", "KelText", ""}}, u"member", "txtName shows text, and the column txt_name is a date."},
+        {{{"txtNote", "KelText", ""}, {"cboNote", "KelCombo", ""}},
+         u"member",
+         "txtNote and cboNote are both kept in the column note."},
+        {{{"datAt", "KelDate", ""}, {"timAt", "KelTime", ""}, {"datOther", "KelDate", at("AT")}},
+         u"member",
+         "datAt and datOther are both kept in the column at."},
+        {{{"prgAll", "KelProgressBar", ""}}, u"member", "The form has no field that keeps a value."},
+        {{{"txtA", "KelText", at("b")}, {"txtB", "KelText", ""}},
+         u"line",
+         "Two fields of the form are kept in the column b."},
+        {{{"txtRecordID", "KelText", ""}},
+         u"line",
+         "Every table that is made for a form has a column record_id of its own. Please write another one into the "
+         "DataField of the field."},
+    };
+    for (const auto& row : rows) {
+        try {
+            const Person person(formOf(row.fields), *store, row.table);
+            ADD_FAILURE() << "taken, and not said: " << row.said;
+        } catch (const StoreError& error) {
+            EXPECT_STREQ(error.what(), row.said);
+        }
     }
-    EXPECT_EQ(store->table(u"member").value().columns.size(), 2U)
+    EXPECT_FALSE(store->table(u"line"));
+    EXPECT_EQ(store->table(u"member").value().columns.size(), 4U)
         << "the column is there, under the field's whole name";
     execute("CREATE TABLE odd (a INTEGER)");
     EXPECT_THROW(store->table(u"odd"), StoreError) << "records that cannot be told apart";
