@@ -153,5 +153,30 @@ TEST_F(OnDatabase, LargeKeysAreNoHindrance) {
     EXPECT_EQ(value("SELECT id || name FROM member"), "1234567890123456789Berta");
 }
 
+/// In a file most keys may be nothing, and not every whole number is given by the database.
+TEST_F(OnDatabase, KeysOfFilesAreTakenAsTheyAre) {
+    if (isServer()) GTEST_SKIP() << "keys of a server have values";
+    execute("CREATE TABLE member (code TEXT PRIMARY KEY, name TEXT)");
+    execute("INSERT INTO member VALUES (NULL, 'Anna'), (NULL, 'Berta'), ('c', 'Carla'), ('d', 'Dora')");
+    execute("CREATE TABLE line (id INTEGER PRIMARY KEY, name TEXT) WITHOUT ROWID");
+    const auto store = open();
+    Person person(NameForm, *store, u"member");
+    EXPECT_EQ(person.text(u"txtName"), u"Anna");
+    EXPECT_TRUE(person.records().toNext());
+    EXPECT_EQ(person.text(u"txtName"), u"Carla");
+    EXPECT_TRUE(person.records().toPrevious());
+    person.put(u"txtName", std::u16string(u"Anne"));
+    EXPECT_FALSE(person.records().save());
+    EXPECT_EQ(person.heard, "This record has no key that tells it from others, so that it cannot be changed here.\n");
+    person.records().undo();
+    EXPECT_FALSE(person.records().remove());
+    EXPECT_TRUE(person.records().toLast() && person.records().place() == 4);
+    EXPECT_EQ(value("SELECT group_concat(name) FROM member"), "Anna,Berta,Carla,Dora");
+
+    const Table line = store->table(u"line").value();
+    EXPECT_FALSE(line.columns[0].hasDefault);
+    EXPECT_TRUE(line.columns[0].notNull);
+}
+
 }  // namespace
 }  // namespace kel::test

@@ -57,8 +57,10 @@ std::vector<Record> SqlRecords::all(const QString& rest, const QVariantList& val
 SqlRecords::Condition SqlRecords::isKey(const Cells& key) const {
     Condition condition;
     for (std::size_t i = 0; i < Table_.key.size(); ++i) {
-        condition.text += QLatin1String(i == 0 ? "" : " AND ") + nameOf(Table_.key[i]) + QLatin1String(" = ?");
-        condition.values.append(Connection_.dialect().toSql(key[i], column(Table_.key[i])));
+        const bool isNothing = records::isNull(key[i]);
+        condition.text += QLatin1String(i == 0 ? "" : " AND ") + nameOf(Table_.key[i]) +
+                          QLatin1String(isNothing ? " IS NULL" : " = ?");
+        if (!isNothing) condition.values.append(Connection_.dialect().toSql(key[i], column(Table_.key[i])));
     }
     return condition;
 }
@@ -110,9 +112,11 @@ std::vector<SqlRecords::Condition> SqlRecords::beyond(const Record* from, bool i
         marks.append(QStringLiteral("?"));
         same.values.append(valueOf(*from, each));
     }
-    same.text +=
-        QStringLiteral("(%1) %2 (%3)")
-            .arg(names.join(QLatin1String(", ")), QLatin1String(isAbove ? ">" : "<"), marks.join(QLatin1String(", ")));
+    // Records that have nothing at all to tell them apart stand at one place.
+    same.text += names.isEmpty() ? QStringLiteral("1 = 0")
+                                 : QStringLiteral("(%1) %2 (%3)")
+                                       .arg(names.join(QLatin1String(", ")), QLatin1String(isAbove ? ">" : "<"),
+                                            marks.join(QLatin1String(", ")));
     if (isNothing && isAbove) return {same, {first + QLatin1String(" IS NOT NULL"), {}}};
     if (!isNothing && !isAbove && mayBeNothing(rowColumns(order).front()))
         return {same, {first + QLatin1String(" IS NULL"), {}}};
@@ -273,7 +277,12 @@ Record SqlRecords::insert(const std::vector<Change>& values) {
 bool SqlRecords::isThere(const Record& record) { return read(keyOf(Table_, record)) == record; }
 
 Outcome SqlRecords::hold(const Record& read) {
-    const Condition condition = isKey(keyOf(Table_, read));
+    const Cells key = keyOf(Table_, read);
+    if (std::any_of(key.begin(), key.end(), &records::isNull))
+        throw records::StoreError(
+            records::StoreError::Kind::Constraint,
+            "This record has no key that tells it from others, so that it cannot be changed here.");
+    const Condition condition = isKey(key);
     const std::vector<Record> now =
         all(QLatin1String(" WHERE ") + condition.text + Connection_.dialect().forUpdate(), condition.values);
     if (now.empty()) return Outcome::Gone;

@@ -47,7 +47,7 @@ private:
     /// All that stands behind `from` in the row, or in front of it: in one stretch or two, in the row's order, each of
     /// which an index finds. All of it where `from` is nullptr.
     std::vector<Condition> beyond(const records::Record* from, bool isBehind, const records::Order& order) const;
-    bool mayBeNothing(std::size_t place) const { return !column(place).notNull && !Table_.isKey(place); }
+    bool mayBeNothing(std::size_t place) const { return !column(place).notNull; }
     std::int64_t number(const QString& statement, const QVariantList& values);
     QString orderBy(const records::Order& order, bool isReversed) const;
     Condition isKey(const records::Cells& key) const;

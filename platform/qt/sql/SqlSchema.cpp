@@ -131,8 +131,13 @@ void SqlSchema::readSqlite(Table& table) {
     columns.finish();
     std::sort(key.begin(), key.end());
     for (const auto& [place, column] : key) table.key.push_back(column);
-    // A key of this very type, and of no other that is a whole number, is the number of the row.
-    if (key.size() == 1 && isRowNumber) table.columns[table.key.front()].hasDefault = true;
+    QSqlQuery& kind = Connection_.run(QStringLiteral("SELECT wr FROM pragma_table_list(?)"), name);
+    const bool hasRowNumbers = kind.next() && !kind.value(0).toBool();
+    kind.finish();
+    // A key of this very type, and of no other that is a whole number, is the number of the row. Other keys are refused
+    // without a value only where there are no such numbers.
+    if (hasRowNumbers && key.size() == 1 && isRowNumber) table.columns[table.key.front()].hasDefault = true;
+    for (const std::size_t column : table.key) table.columns[column].notNull |= !hasRowNumbers;
     QSqlQuery& references = Connection_.run(
         QStringLiteral("SELECT min(\"from\"), min(\"table\"), min(\"to\") FROM pragma_foreign_key_list(?) GROUP BY id "
                        "HAVING count(*) = 1"),
