@@ -153,6 +153,45 @@ TEST_F(OnDatabase, LargeKeysAreNoHindrance) {
     EXPECT_EQ(value("SELECT id || name FROM member"), "1234567890123456789Berta");
 }
 
+/// What a server says has more to it than a person wants to read; a list goes on behind a record that is refused.
+TEST_F(OnDatabase, RefusalsOfAServerAreWords) {
+    if (!isServer()) GTEST_SKIP() << "files say less";
+    execute("CREATE TABLE member (name VARCHAR(9) PRIMARY KEY CONSTRAINT \"No blanks\" CHECK (name NOT LIKE '% %'))");
+    execute(
+        "CREATE OR REPLACE FUNCTION nothing() RETURNS trigger LANGUAGE plpgsql AS 'BEGIN IF new.name = ''Nobody'' THEN "
+        "RAISE EXCEPTION ''Nobody: is no member'' USING HINT = ''Ask''; END IF; RETURN new; END'");
+    execute("CREATE TRIGGER t BEFORE INSERT ON member FOR EACH ROW EXECUTE FUNCTION nothing()");
+    const auto store = open();
+    Person person(NameForm, *store, u"member");
+    const std::string rule = "A rule of the database is not kept: ";
+    const struct {
+        std::u16string_view name;
+        std::string said;
+    } rows[] = {
+        {u"A B", rule + "new row for relation \"member\" violates check constraint \"No blanks\""},
+        {u"Wilhelmina", rule + "value too long for type character varying(9)"},
+        {u"Nobody", rule + "Nobody: is no member"},
+        {std::u16string_view(u"A\0b", 3),
+         "txtName: the text has a character 0 in it, which the database does not keep."},
+    };
+    std::string list;
+    for (const auto& row : rows) {
+        person.heard.clear();
+        person.put(u"txtName", std::u16string(row.name));
+        EXPECT_FALSE(person.records().save());
+        EXPECT_EQ(person.heard, row.said + "\n");
+        list += toUtf8(row.name) + "\n";
+    }
+    std::istringstream stream(list + "Anna\n");
+    const auto home = headless::makeHome({.region = &defaultRegion()});
+    Importer importer(*home, FormFile::parse(NameForm, "member.frm"), person.records().store(), nullptr);
+    const auto result = importer.run(
+        stream, {.separator = ',', .hasHeader = false}, false, [](std::string_view) {},
+        [](std::int64_t) { return true; });
+    EXPECT_EQ(result.rejected, 4);
+    EXPECT_EQ(result.stored, 1) << result.failure;
+}
+
 /// In a file most keys may be nothing, and not every whole number is given by the database.
 TEST_F(OnDatabase, KeysOfFilesAreTakenAsTheyAre) {
     if (isServer()) GTEST_SKIP() << "keys of a server have values";

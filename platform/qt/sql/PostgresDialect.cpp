@@ -1,4 +1,5 @@
 #include <cmath>
+#include <QRegularExpression>
 #include <QSqlError>
 
 #include "platform/qt/base/TextBridge.h"
@@ -18,6 +19,14 @@ using Kind = StoreError::Kind;
 QString between(const QString& text, QLatin1String before, QChar after) {
     const qsizetype from = text.indexOf(before);
     return from < 0 ? QString() : text.mid(from + before.size()).section(after, 0, 0);
+}
+
+/// What has happened, of all that a server says: without the severity in front, the place in a function and the code.
+QString happened(const QString& text) {
+    static const QRegularExpression Severity(QStringLiteral(R"(^\p{Lu}+:  )"));
+    static const QRegularExpression Rest(QStringLiteral(R"(\n(\p{Lu}+:  |LINE \d|\([0-9A-Z]{5}\)).*$)"),
+                                         QRegularExpression::DotMatchesEverythingOption);
+    return QString(text).remove(Rest).remove(Severity).trimmed();
 }
 
 /// PostgreSQL, by the text forms of its values, which lose nothing.
@@ -63,7 +72,12 @@ public:
     }
 
     QVariant toSql(const Cell& cell, const Column& column) const override {
-        if (const auto* const text = std::get_if<std::u16string>(&cell)) return toQString(*text);
+        if (const auto* const text = std::get_if<std::u16string>(&cell)) {
+            if (text->find(u'\0') != text->npos)
+                throw StoreError(Kind::Constraint,
+                                 "the text has a character 0 in it, which the database does not keep.", column.name);
+            return toQString(*text);
+        }
         if (const auto* const whole = std::get_if<std::int64_t>(&cell)) {
             if (column.type == ColumnType::Truth) return *whole != 0;
             return static_cast<qlonglong>(*whole);
@@ -89,9 +103,17 @@ public:
     StoreError errorOf(const QSqlError& error) const override {
         const QString state = error.nativeErrorCode();
         const QString text = error.databaseText();
+        const QString words = happened(text);
         if (state.startsWith(QLatin1String("23"))) return constraintError(state, text);
-        // A text too long, a number too large, a day that the database does not have.
-        if (state.startsWith(QLatin1String("22"))) return ruleBroken(text);
+        // A text too long, a number too large, a day that the database does not have; what a trigger or the policy of
+        // a table refuses.
+        const bool isPolicy = state == QLatin1String("42501") && text.contains(QLatin1String("row-level security"));
+        if (state.startsWith(QLatin1String("22")) || state.startsWith(QLatin1String("P0")) ||
+            state == QLatin1String("44000") || isPolicy)
+            return ruleBroken(words);
+        if (state == QLatin1String("42501"))
+            return {Kind::ReadOnly, "The database does not allow this: " + words.toStdString() +
+                                        ". Please have it allowed; what is on the screen stays."};
         if (state.startsWith(QLatin1String("55P03")) || state.startsWith(QLatin1String("40")))
             return {Kind::Busy,
                     "Another program holds the record. Please save again in a moment; what is on the screen stays."};
@@ -105,7 +127,7 @@ public:
             return {Kind::Lost,
                     "No connection to the server. Please try again in a moment; what is on the screen stays. " +
                         text.section(QLatin1Char('\n'), 0, 0).toStdString()};
-        return {Kind::Wrong, "The database says: " + (text.isEmpty() ? error.driverText() : text).toStdString()};
+        return {Kind::Wrong, "The database says: " + (words.isEmpty() ? error.driverText() : words).toStdString()};
     }
 
 private:
@@ -113,7 +135,7 @@ private:
         if (state == QLatin1String("23502"))
             return valueMissing(between(text, QLatin1String("column \""), QLatin1Char('"')));
         if (state == QLatin1String("23505")) return valueTaken(between(text, QLatin1String("Key ("), QLatin1Char(')')));
-        return state == QLatin1String("23503") ? referenceBroken() : ruleBroken(text);
+        return state == QLatin1String("23503") ? referenceBroken() : ruleBroken(happened(text));
     }
 };
 
