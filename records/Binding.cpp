@@ -42,7 +42,10 @@ Cell dateCell(ColumnType type, bool isTime, Date shown, const Cell& before) {
     return isTime ? withIsoTime(text, shown) : withIsoDay(text, shown);
 }
 
-Cell numberCell(ColumnType type, double number) {
+/// A number field is never empty: where the column points to another record, zero is none, if there may be none.
+Cell numberCell(const Column& column, double number) {
+    const ColumnType type = column.type;
+    if (number == 0 && column.reference && !column.notNull) return Null{};
     if (type == ColumnType::Decimal) return shortestNumber(number);
     if (type == ColumnType::Integer && std::abs(number) <= ExactWholeNumbers)
         return static_cast<std::int64_t>(std::llround(number));
@@ -53,7 +56,7 @@ Cell textCell(const Column& column, const std::u16string& text) {
     if (text.empty() && !column.notNull) return Null{};
     double number = 0;
     if (column.type == ColumnType::Integer && readPlainNumber(text, defaultRegion(), number))
-        return numberCell(column.type, number);
+        return numberCell(column, number);
     return text;
 }
 
@@ -266,7 +269,7 @@ Cell Binding::cell(const Column& column, const Cell& before) const {
     if (ByTag_) return textCell(column, tag());
     const Variant value = get(valueMember().name);
     if (const std::u16string* const text = textIn(value)) return textCell(column, *text);
-    if (const auto* const number = std::get_if<double>(&value)) return numberCell(column.type, *number);
+    if (const auto* const number = std::get_if<double>(&value)) return numberCell(column, *number);
     if (const bool* const truth = std::get_if<bool>(&value)) return static_cast<std::int64_t>(*truth ? 1 : 0);
     if (const auto* const date = std::get_if<Date>(&value))
         return dateCell(column.type, Kind_ == Kind::Time, *date, before);

@@ -110,6 +110,9 @@ bool RecordForm::duplicate() {
     if (!mayLeave()) return false;
     Shown_.reset();
     Duplicated_ = true;
+    // The number of the other record is not the new one's.
+    for (Binding& binding : Bindings_)
+        if (binding.isGiven(columnOf(binding))) binding.showDefault(*Form_);
     focusFirst();
     return true;
 }

@@ -153,6 +153,27 @@ TEST_F(OnDatabase, LargeKeysAreNoHindrance) {
     EXPECT_EQ(value("SELECT id || name FROM member"), "1234567890123456789Berta");
 }
 
+/// A field for numbers is never empty; a table of dates and numbers alone gives no list to pick a record from.
+TEST_F(OnDatabase, NoRecordIsPointedToByZero) {
+    execute("CREATE TABLE parent (id INTEGER PRIMARY KEY, day DATE)");
+    execute("INSERT INTO parent VALUES (5, NULL)");
+    execute(
+        "CREATE TABLE member (id INTEGER DEFAULT 7 PRIMARY KEY, name TEXT, parent_id INTEGER REFERENCES parent (id), "
+        "age INTEGER)");
+    const auto store = open();
+    const Table table = store->table(u"member").value();
+    Person person(formFor(*store, table, defaultRegion(), "m.frm").file.output("m.frm").form, *store, u"member");
+    const char* const kept = "SELECT coalesce(parent_id, -1) || ' ' || coalesce(age, -1) FROM member";
+    for (const auto& [parent, stored] : {std::pair{0.0, "-1 0"}, {5.0, "5 0"}, {0.0, "-1 0"}}) {
+        person.put(u"numParentId", parent);
+        EXPECT_TRUE(person.records().save()) << person.heard;
+        EXPECT_EQ(value(kept), stored);
+    }
+    execute("INSERT INTO member (id) VALUES (9)");
+    EXPECT_TRUE(person.records().toLast() && person.records().duplicate());
+    EXPECT_EQ(person.text(u"numId"), u"7") << "the number of another record";
+}
+
 /// What a server says has more to it than a person wants to read; a list goes on behind a record that is refused.
 TEST_F(OnDatabase, RefusalsOfAServerAreWords) {
     if (!isServer()) GTEST_SKIP() << "files say less";
