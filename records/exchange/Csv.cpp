@@ -18,6 +18,8 @@ bool endsLine(int character) { return character == '\n' || character == '\r'; }
 CsvReader::CsvReader(std::istream& list, char separator) : List_(list), Separator_(separator) {
     fill();
     if (std::string_view(Buffer_).starts_with(EncodingMark)) Next_ = EncodingMark.size();
+    if (std::string_view(Buffer_).starts_with("\xFF\xFE") || std::string_view(Buffer_).starts_with("\xFE\xFF"))
+        throw std::runtime_error("The list is written in UTF-16. Please have it written in UTF-8.");
     if (Separator_ == 0) findSeparator();
 }
 
@@ -53,7 +55,9 @@ int CsvReader::peek() {
 int CsvReader::take() {
     const int character = peek();
     if (character >= 0) ++Next_;
-    if (character == '\n') ++NextLine_;
+    // The two together are one line's end, and so is either alone.
+    if (character == '\r' || (character == '\n' && !IsBehindReturn_)) ++NextLine_;
+    IsBehindReturn_ = character == '\r';
     return character;
 }
 
@@ -81,6 +85,7 @@ void CsvReader::takePlain() {
         const auto from = Buffer_.begin() + static_cast<std::ptrdiff_t>(Next_);
         const auto end = std::find_if(from, Buffer_.end(), ends);
         Text_.append(from, end);
+        if (from != end) IsBehindReturn_ = false;
         Next_ += static_cast<std::size_t>(end - from);
         if (end != Buffer_.end()) return;
     }

@@ -50,6 +50,7 @@ private:
     std::vector<std::size_t> Ends_;
     std::int64_t Line_ = 0;
     std::int64_t NextLine_ = 1;
+    bool IsBehindReturn_ = false;
     char Separator_;
     bool IsOpen_ = false;
 };

@@ -17,6 +17,9 @@ constexpr std::int64_t MostTogether = 50'000;
 constexpr std::int64_t BetweenQuestions = 32;
 /// Different values of a column that are remembered: a town, a day or a yes comes again and again.
 constexpr std::size_t MostKnown = 512;
+// In front of what is rejected.
+constexpr std::string_view NumberHeading = "line";
+constexpr std::string_view ReasonHeading = "reason";
 
 /// A message of a control or of a database on one line.
 std::string onOneLine(std::string text) {
@@ -118,6 +121,14 @@ void Importer::takeFieldsInOrder(std::size_t columns) {
         throw StoreError(StoreError::Kind::Wrong, "The first line of the list has " + std::to_string(columns) +
                                                       " values, and the form has " + std::to_string(places.size()) +
                                                       " fields.");
+}
+
+/// For a list of `count` columns that has no headings.
+std::vector<std::string> Importer::columnNames(std::size_t count) const {
+    std::vector<std::string> names(count);
+    for (const Field& field : Fields_)
+        if (field.place) names[*field.place] = toUtf8(columnOf(field).name);
+    return names;
 }
 
 /// What the list says nothing of stays as it is in a new record.
@@ -252,15 +263,25 @@ private:
     bool IsOpen_ = true;
 };
 
+std::vector<std::string> valuesOf(const CsvReader& line) {
+    std::vector<std::string> values;
+    for (std::size_t i = 0; i < line.size(); ++i) values.emplace_back(line.value(i));
+    return values;
+}
+
 /// The list of what was left out.
 class Rejects {
 public:
-    Rejects(const Importer::Reject& put, const CsvReader& first, bool hasHeader) : Put_(put) {
-        if (hasHeader) Headings_ = lineOf("line", "reason", first);
+    /// `headings` name the columns of the list.
+    Rejects(const Importer::Reject& put, const std::vector<std::string>& headings, char separator) : Put_(put) {
+        appendCsv(Headings_, NumberHeading, separator, true);
+        appendCsv(Headings_, ReasonHeading, separator, false);
+        for (const std::string& heading : headings) appendCsv(Headings_, heading, separator, false);
+        Headings_ += CsvLineEnd;
     }
 
     void put(const CsvReader& line, const std::string& reason) {
-        if (Count_++ == 0 && !Headings_.empty()) Put_(Headings_);
+        if (Count_++ == 0) Put_(Headings_);
         Put_(lineOf(std::to_string(line.line()), onOneLine(reason), line));
     }
     std::int64_t count() const { return Count_; }
@@ -288,16 +309,19 @@ Importer::Result Importer::run(std::istream& list, const ListFormat& format, boo
     Numbers_ = &numbersIn(line.separator(), Region_);
     if (!line.next()) return result;
     for (Field& field : Fields_) field.place.reset();
-    if (format.hasHeader)
+    // A list of rejects is taken in again, also where the list itself had no headings.
+    const bool hasHeader =
+        format.hasHeader || (line.size() > 2 && line.value(0) == NumberHeading && line.value(1) == ReasonHeading);
+    if (hasHeader)
         findColumns(line, result);
     else
         takeFieldsInOrder(line.size());
     settleFields();
-    Rejects rejects(reject, line, format.hasHeader);
+    Rejects rejects(reject, hasHeader ? valuesOf(line) : columnNames(line.size()), line.separator());
     const std::size_t columns = line.size();
     try {
         Batch batch(Records_, allOrNothing, result.stored);
-        bool isThere = !format.hasHeader || line.next();
+        bool isThere = !hasHeader || line.next();
         for (std::int64_t count = 1; isThere; ++count, isThere = line.next()) {
             const std::string reason = takeRecord(line, columns);
             if (reason.empty())

@@ -49,6 +49,7 @@ private:
     struct Field;
     class Listening;
 
+    std::vector<std::string> columnNames(std::size_t count) const;
     void findColumns(const CsvReader& header, Result& result);
     void takeFieldsInOrder(std::size_t columns);
     void settleFields();

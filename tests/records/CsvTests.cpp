@@ -31,8 +31,9 @@ TEST(CsvTests, ReadsWhatProgramsWrite) {
         {"", ""},
         {"a,b\r\n1,2\r\n", "1:[a][b] 2:[1][2] "},
         {"a,b\n1,2", "1:[a][b] 2:[1][2] "},
-        {"a,b\r1,2\r", "1:[a][b] 1:[1][2] "},
+        {"a,b\r1,2\r", "1:[a][b] 2:[1][2] "},
         {"\xEF\xBB\xBF\"a\",b\n", "1:[a][b] "},
+        {"a\r\nb\rc\n\rd\n\ne\r\"f\r\ng\"\rh", "1:[a] 2:[b] 3:[c] 5:[d] 7:[e] 8:[f\r\ng] 10:[h] "},
         {"a,,\n,,\n", "1:[a][][] 2:[][][] "},
         {"\n\na\n\n\"\"\n", "3:[a] 5:[] "},
         {"a;b,c;d\n1;2;3\n", "1:[a][b,c][d] 2:[1][2][3] "},
@@ -45,6 +46,11 @@ TEST(CsvTests, ReadsWhatProgramsWrite) {
     };
     for (const auto& row : rows) EXPECT_EQ(readAll(row.list), row.wanted) << row.list;
     EXPECT_EQ(readAll("a,b|c\n", '|'), "1:[a,b][c] ");
+    EXPECT_THROW(readAll(std::string("\xFF\xFE"
+                                     "a\0",
+                                     4)),
+                 std::runtime_error)
+        << "two bytes a letter";
 }
 
 /// Long enough to be read in several pieces, which begin and end anywhere.
