@@ -1,6 +1,7 @@
 #include "records/RecordScript.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "forms/ScriptValue.h"
 #include "records/OpenTable.h"
@@ -10,6 +11,10 @@
 namespace kel::records {
 
 namespace {
+
+constexpr double FarthestPlace = 1e15;
+constexpr std::u16string_view Answers[] = {u"save", u"discard", u"stay", u"yes", u"no",
+                                           u"mine", u"theirs",  u"keep", u"back"};
 
 std::pair<std::u16string_view, std::u16string_view> firstWord(std::u16string_view text) {
     const std::size_t end = std::min(text.find(u' '), text.size());
@@ -36,7 +41,7 @@ std::u16string cellText(const Column& column, const Cell& cell) {
 }  // namespace
 
 void RecordScript::formOpened(Form& form) {
-    const Table table = openTable(*Store_, form, TableName_, *Region_, [](const std::vector<Column>&) { return true; });
+    const Table table = openTable(*Store_, form, TableName_, *Region_, {});
     Records_ = Store_->open(table);
     Questions& questions = *this;
     Form_ = std::make_unique<RecordForm>(form, *Records_, questions, *Region_, Store_);
@@ -50,30 +55,46 @@ void RecordScript::formCloses() {
 void RecordScript::run(std::u16string_view command, const Print& print) {
     Print_ = print;
     const auto [verb, rest] = firstWord(command);
-    if (!runMove(verb, rest) && !runChange(verb, rest)) fail(u"there is no command \"" + std::u16string(verb) + u"\"");
+    if (!runAlone(verb, rest) && !runMove(verb, rest) && !runChange(verb, rest))
+        fail(u"there is no command \"" + std::u16string(verb) + u"\"");
 }
 
 // ---- The commands
 
+bool RecordScript::runAlone(std::u16string_view verb, std::u16string_view rest) {
+    struct Row {
+        std::u16string_view verb;
+        bool (RecordForm::*action)();
+    };
+    static constexpr Row Rows[] = {{u"first", &RecordForm::toFirst}, {u"previous", &RecordForm::toPrevious},
+                                   {u"next", &RecordForm::toNext},   {u"last", &RecordForm::toLast},
+                                   {u"new", &RecordForm::startNew},  {u"duplicate", &RecordForm::duplicate},
+                                   {u"delete", &RecordForm::remove}};
+    const auto* const row =
+        std::find_if(std::begin(Rows), std::end(Rows), [&](const Row& each) { return each.verb == verb; });
+    const bool isUndo = verb == u"undo";
+    if (row == std::end(Rows) && !isUndo) return false;
+    // A command with something behind it may mean another one, and none of these is taken back.
+    if (!rest.empty()) fail(std::u16string(verb) + u": \"" + std::u16string(rest) + u"\" is too much");
+    if (isUndo)
+        Form_->undo();
+    else
+        (*Form_.*row->action)();
+    return true;
+}
+
 bool RecordScript::runMove(std::u16string_view verb, std::u16string_view rest) {
-    if (verb == u"first") return Form_->toFirst(), true;
-    if (verb == u"previous") return Form_->toPrevious(), true;
-    if (verb == u"next") return Form_->toNext(), true;
-    if (verb == u"last") return Form_->toLast(), true;
     if (verb == u"find") return find(rest);
     if (verb == u"show") return printRecord(), true;
     if (verb != u"go") return false;
     double place = 0;
-    if (!readPlainNumber(rest, defaultRegion(), place)) fail(u"go: the number of a record is wanted");
+    if (!readPlainNumber(rest, defaultRegion(), place) || place != std::trunc(place) || std::abs(place) > FarthestPlace)
+        fail(u"go: the number of a record is wanted");
     Form_->toPlace(static_cast<std::int64_t>(place));
     return true;
 }
 
 bool RecordScript::runChange(std::u16string_view verb, std::u16string_view rest) {
-    if (verb == u"new") return Form_->startNew(), true;
-    if (verb == u"duplicate") return Form_->duplicate(), true;
-    if (verb == u"undo") return Form_->undo(), true;
-    if (verb == u"delete") return Form_->remove(), true;
     if (verb == u"answers") return answer(rest), true;
     if (verb == u"carry") {
         for (const Binding& binding : Form_->bindings())
@@ -106,6 +127,8 @@ void RecordScript::answer(std::u16string_view rest) {
     Answers_.clear();
     while (!rest.empty()) {
         const auto [word, further] = firstWord(rest);
+        if (std::find(std::begin(Answers), std::end(Answers), word) == std::end(Answers))
+            fail(u"answers: nobody answers \"" + std::u16string(word) + u"\"");
         Answers_.emplace_back(word);
         rest = further;
     }

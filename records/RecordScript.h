@@ -28,6 +28,8 @@ private:
     bool keepDeleted() override;
     void say(std::u16string_view message) override;
 
+    /// One that is a single word.
+    bool runAlone(std::u16string_view verb, std::u16string_view rest);
     bool runMove(std::u16string_view verb, std::u16string_view rest);
     bool runChange(std::u16string_view verb, std::u16string_view rest);
     bool find(std::u16string_view text);

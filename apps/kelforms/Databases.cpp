@@ -1,6 +1,9 @@
 #include "apps/kelforms/Databases.h"
 
+#include <filesystem>
+
 #include "apps/kelforms/Options.h"
+#include "forms/file/FormStore.h"
 
 #ifdef KEL_HAS_QT
 #include <QCoreApplication>
@@ -84,5 +87,11 @@ Database::Database(const std::string& address) {
 #endif
 
 Database::~Database() = default;
+
+void mustBeThere(const std::string& address) {
+    const bool isServer = address.find("://") != std::string::npos;
+    if (!isServer && !std::filesystem::exists(pathOf(address)))
+        throw records::StoreError(records::StoreError::Kind::Wrong, "There is no database " + address + ".");
+}
 
 }  // namespace kel::app

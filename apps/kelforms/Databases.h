@@ -25,6 +25,9 @@ private:
     std::unique_ptr<records::Store> Store_;
 };
 
+/// For what only reads: opening a file that is not there would make one. Throws records::StoreError.
+void mustBeThere(const std::string& address);
+
 /// How the person's system writes numbers and dates.
 RegionalSettings systemRegion();
 

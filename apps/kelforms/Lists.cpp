@@ -83,7 +83,7 @@ private:
 
 /// A form on a home that shows nothing, with the records of its table.
 struct ListSession {
-    explicit ListSession(const Options& options)
+    ListSession(const Options& options, bool mayMake)
         : region(options.home.region != nullptr ? *options.home.region : systemRegion()),
           home(headless::makeHome({.region = &region})),
           file(readFormFile(options.files[0])),
@@ -91,8 +91,12 @@ struct ListSession {
           database(options.data) {
         const auto table = fromUtf8(options.table);
         if (!table) throw UsageError("--table: the name is not valid UTF-8");
-        const auto mayAdd = [](const std::vector<records::Column>&) { return true; };
-        records = database.store().open(records::openTable(database.store(), form, *table, home->region(), mayAdd));
+        records::Store& store = database.store();
+        if (!mayMake && !(table->empty() ? records::tableOfForm(store, file.block(0).name) : store.table(*table)))
+            throw records::StoreError(
+                records::StoreError::Kind::Wrong,
+                "The database has no table " + (table->empty() ? "for the form" : options.table) + ".");
+        records = store.open(records::openTable(store, form, *table, home->region(), {}));
     }
 
     RegionalSettings region;
@@ -112,7 +116,7 @@ void wantDatabase(const Options& options) {
 
 ExitStatus importList(const Options& options) {
     wantDatabase(options);
-    ListSession session(options);
+    ListSession session(options, true);
     records::Importer importer(*session.home, session.file, *session.records, &session.database.store());
     records::ImportReport report;
     {
@@ -127,7 +131,8 @@ ExitStatus importList(const Options& options) {
 
 ExitStatus exportList(const Options& options) {
     wantDatabase(options);
-    ListSession session(options);
+    mustBeThere(options.data);
+    ListSession session(options, false);
     const std::vector<records::Binding> fields =
         records::bind(session.form, session.records->table(), session.home->region(), nullptr);
     records::Exporter exporter(fields, *session.records, {}, session.home->region());

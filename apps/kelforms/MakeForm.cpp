@@ -13,12 +13,8 @@ namespace kel::app {
 
 namespace {
 
-bool isServer(const std::string& address) { return address.find("://") != std::string::npos; }
-
-/// Opening a file that is not there would make one.
-void mustBeThere(const std::string& address) {
-    if (!isServer(address) && !std::filesystem::exists(pathOf(address)))
-        throw UsageError("make: there is no database " + address);
+[[noreturn]] void refuse(const std::string& message) {
+    throw records::StoreError(records::StoreError::Kind::Wrong, message);
 }
 
 records::Table tableNamed(records::Store& store, const std::string& name) {
@@ -27,7 +23,7 @@ records::Table tableNamed(records::Store& store, const std::string& name) {
     if (const auto table = store.table(*wanted)) return *table;
     std::u16string names;
     for (const std::u16string& each : store.tables()) names += (names.empty() ? u"" : u", ") + each;
-    throw UsageError("make: the database has no table " + name + ", but " + (names.empty() ? "none" : toUtf8(names)));
+    refuse("The database has no table " + name + ", but " + (names.empty() ? "none" : toUtf8(names)) + ".");
 }
 
 }  // namespace
@@ -37,7 +33,7 @@ ExitStatus makeForm(const Options& options) {
     const std::string& path = options.files[2];
     mustBeThere(address);
     if (!options.force && std::filesystem::exists(pathOf(path)))
-        throw UsageError("make: " + path + " is there already; --force replaces it");
+        refuse(path + " is there already; --force replaces it.");
     Database database(address);
     const records::Table table = tableNamed(database.store(), options.files[1]);
     const records::MadeForm made = records::formFor(database.store(), table, regionOf(options), path);

@@ -4,6 +4,7 @@
 #include "records/make/FieldPlan.h"
 #include "records/make/Grid.h"
 #include "records/make/Words.h"
+#include "records/OpenTable.h"
 #include "values/Text.h"
 
 namespace kel::records {
@@ -74,7 +75,9 @@ MadeForm formFor(Store& store, const Table& table, const RegionalSettings& regio
     for (const FieldPlan& field : fields) captions.push_back(field.caption);
     captions = withMnemonics(std::move(captions));
     for (std::size_t i = 0; i < fields.size(); ++i) setField(file, i + 1, fields[i], grid.places[i], captions[i]);
-    return {std::move(file), fields.size(), std::move(leftOut), isSameName(databaseName(formName), table.name)};
+    // There may be another one of nearly this name.
+    const std::optional<Table> meant = tableOfForm(store, formName);
+    return {std::move(file), fields.size(), std::move(leftOut), meant && meant->name == table.name};
 }
 
 }  // namespace kel::records
