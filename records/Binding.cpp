@@ -12,6 +12,7 @@
 #include "records/Moments.h"
 #include "values/CaseFolding.h"
 #include "values/Coercion.h"
+#include "values/NumberReader.h"
 #include "values/Text.h"
 
 namespace kel::records {
@@ -259,7 +260,15 @@ std::u16string Binding::look() const {
     return isTrue(valueMember().name) ? u"yes" : u"no";
 }
 
-bool Binding::looksChanged() const { return look() != StoredLook_; }
+bool Binding::looksChanged() const {
+    const std::u16string now = look();
+    if (now == StoredLook_ || Kind_ != Kind::Number) return now != StoredLook_;
+    // A field that is being edited shows the same number otherwise: 12.5 in place of 12.50.
+    double number = 0;
+    double stored = 0;
+    return readNumber(now, *Region_, number) != NumberReading::Number ||
+           readNumber(StoredLook_, *Region_, stored) != NumberReading::Number || number != stored;
+}
 
 bool Binding::isTrue(std::u16string_view member) const { return records::isTrue(get(member)); }
 

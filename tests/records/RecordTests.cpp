@@ -159,17 +159,24 @@ TEST_F(OnDatabase, ForeignColumnsAreLeftAlone) {
     execute(
         "CREATE TABLE member (id INTEGER PRIMARY KEY, name VARCHAR(20) NOT NULL, fee NUMERIC(12,4), joined TIMESTAMP, "
         "note TEXT)");
-    execute("INSERT INTO member VALUES (4, 'Anna', 1.2345, '2013-03-15 10:15:30.125', 'kept')");
+    execute("INSERT INTO member VALUES (4, 'Anna', 1.2045, '2013-03-15 10:15:30.125', 'kept')");
     const auto store = open();
     Person person(MemberForm, *store, u"Member");
-    EXPECT_EQ(person.text(u"numFee"), u"1.23");
+    EXPECT_EQ(person.text(u"numFee"), u"1.20");
     EXPECT_FALSE(person.records().isChanged());
+    // The field shows 1.2045 while it is edited.
+    person.click(u"numFee");
+    EXPECT_NE(person.text(u"numFee"), u"1.20");
+    EXPECT_FALSE(person.records().looksChanged());
+    person.press({u'5', u'5', NoModifier});
+    EXPECT_TRUE(person.records().looksChanged());
+    person.records().undo();
     execute("UPDATE member SET note = 'changed'");
     person.put(u"txtName", std::u16string(u"Anne"));
     EXPECT_TRUE(person.records().save()) << person.heard;
     EXPECT_EQ(
         value("SELECT name || ' ' || CAST(fee AS TEXT) || ' ' || CAST(joined AS TEXT) || ' ' || note FROM member"),
-        "Anne 1.2345 2013-03-15 10:15:30.125 changed");
+        "Anne 1.2045 2013-03-15 10:15:30.125 changed");
     person.put(u"datJoined", Date{41349});
     EXPECT_TRUE(person.records().save()) << person.heard;
     EXPECT_EQ(value("SELECT CAST(joined AS TEXT) FROM member"), "2013-03-16 10:15:30.125") << "the time of day stays";
