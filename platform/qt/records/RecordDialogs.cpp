@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -18,12 +19,15 @@ namespace kel::qt {
 
 namespace {
 
+constexpr int LongestMessage = 2000;  ///< characters
+constexpr int LongestShown = 300;     ///< characters
+
 using records::Choice;
 using records::Difference;
 
 /// The number of the button that was pressed; the last one stands for Escape and the window's own close button.
 int ask(QWidget& window, QMessageBox::Icon icon, const QString& text, const QStringList& buttons) {
-    QMessageBox box(icon, window.windowTitle(), text, QMessageBox::NoButton, &window);
+    QMessageBox box(icon, window.windowTitle(), text.left(LongestMessage), QMessageBox::NoButton, &window);
     box.setTextFormat(Qt::PlainText);
     QList<QAbstractButton*> made;
     for (const QString& caption : buttons)
@@ -47,15 +51,32 @@ QTableWidget* textTable(QWidget* parent, const QStringList& headers, int rows) {
 }
 
 void setText(QTableWidget& table, int row, int column, std::u16string_view text) {
-    table.setItem(row, column, new QTableWidgetItem(toQString(text)));
+    const QString whole = toQString(text);
+    const bool isLong = whole.size() > LongestShown;
+    auto* const item = new QTableWidgetItem(isLong ? whole.left(LongestShown) + QChar(0x2026) : whole);
+    if (isLong) item->setToolTip(whole.left(LongestMessage));
+    table.setItem(row, column, item);
 }
 
+/// No wider and no higher than the screen, whatever stands in the table.
 void fit(QDialog& dialog, QTableWidget& table) {
+    const QSize screen = dialog.screen()->availableSize();
     table.resizeColumnsToContents();
-    table.horizontalHeader()->setStretchLastSection(true);
+    const int widest = screen.width() / (table.columnCount() + 1);
     int width = 2 * table.frameWidth() + table.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    for (int column = 0; column < table.columnCount(); ++column) width += table.columnWidth(column);
-    dialog.resize(width + 60, dialog.sizeHint().height() + table.rowCount() * table.rowHeight(0) / 2);
+    bool isWrapped = false;
+    for (int column = 0; column < table.columnCount(); ++column) {
+        const bool isWide = table.columnWidth(column) > widest && column + 1 < table.columnCount();
+        if (isWide) table.setColumnWidth(column, widest);
+        isWrapped = isWrapped || isWide;
+        width += table.columnWidth(column);
+    }
+    if (isWrapped) table.resizeRowsToContents();
+    table.horizontalHeader()->setStretchLastSection(true);
+    int height = 0;
+    for (int row = 0; row < table.rowCount(); ++row) height += table.rowHeight(row);
+    const QSize wanted(width + 60, dialog.sizeHint().height() + height / 2);
+    dialog.resize(wanted.boundedTo(screen * 9 / 10));
 }
 
 QString rowsCaption() {

@@ -13,7 +13,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
-#include <QScrollArea>
+#include <QScreen>
 #include <QSignalBlocker>
 #include <QStatusBar>
 #include <QStyle>
@@ -26,6 +26,7 @@
 #include "platform/qt/base/TextBridge.h"
 #include "platform/qt/home/QtFormWindow.h"
 #include "platform/qt/records/CommandIcons.h"
+#include "platform/qt/records/FormArea.h"
 #include "platform/qt/records/ListDialogs.h"
 #include "platform/qt/records/RecordDialogs.h"
 #include "platform/qt/records/RecordList.h"
@@ -54,17 +55,16 @@ public:
         : Dialogs_(*this), Store_(store.open(table)), FormWindow_(dynamic_cast<QtFormWindow&>(form.window())) {
         setWindowTitle(FormWindow_.widget().windowTitle());
         setLayoutDirection(FormWindow_.widget().layoutDirection());
-        Area_ = new QScrollArea(this);
-        Area_->setFrameShape(QFrame::NoFrame);
-        Area_->setFocusPolicy(Qt::NoFocus);
+        Area_ = new FormArea(this);
         Area_->setWidget(&FormWindow_.widget());
         setCentralWidget(Area_);
         makeCommands();
         makeStatusBar();
         const QSize wanted = FormWindow_.widget().size();
         Area_->setMinimumSize(wanted.boundedTo(QSize(400, 200)));
-        resize(wanted + QSize(4, menuBar()->sizeHint().height() + Tools_->sizeHint().height() +
-                                     statusBar()->sizeHint().height() + 4));
+        const QSize whole = wanted + QSize(4, menuBar()->sizeHint().height() + Tools_->sizeHint().height() +
+                                                  statusBar()->sizeHint().height() + 4);
+        resize(whole.boundedTo(screen()->availableSize()));
         show();
         form.show();
         Form_ = std::make_unique<records::RecordForm>(form, *Store_, Dialogs_, home.region(), &store);
@@ -82,6 +82,7 @@ public:
             IsSeeking_ = false;
             return;
         }
+        statusBar()->clearMessage();
         switch (command) {
             case Command::New: Form_->startNew(); break;
             case Command::Save: Form_->save(); break;
@@ -167,7 +168,8 @@ private:
     void makeStatusBar() {
         Place_ = new QLabel(this);
         State_ = new QLabel(this);
-        statusBar()->addWidget(Place_);
+        Place_->setMargin(fontMetrics().averageCharWidth());
+        statusBar()->addPermanentWidget(Place_);  // where no message hides it
         statusBar()->addPermanentWidget(State_);
         auto* const timer = new QTimer(this);
         QObject::connect(timer, &QTimer::timeout, this, [this] {
@@ -406,7 +408,7 @@ private:
     QtFormWindow& FormWindow_;
     std::unique_ptr<records::RecordForm> Form_;
     std::optional<ListDialogs> Lists_;
-    QScrollArea* Area_ = nullptr;
+    FormArea* Area_ = nullptr;
     RecordList* List_ = nullptr;
     RecordTable* Table_ = nullptr;
     QDockWidget* ListDock_ = nullptr;
