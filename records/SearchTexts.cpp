@@ -112,7 +112,8 @@ std::string SearchTexts::entryOfRecord(const Record& record) const {
 
 void SearchTexts::beginAnew(const Version& version) {
     Version_ = version;
-    File_.reset(std::tmpfile());
+    // One that is there is written over: to give a large one back to the disk takes its time.
+    if (!File_) File_.reset(std::tmpfile());
     IsWhole_ = false;
     Last_.reset();
     Written_ = End_ = RowsEnd_ = 0;

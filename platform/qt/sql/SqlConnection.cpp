@@ -22,6 +22,7 @@ using Kind = StoreError::Kind;
 constexpr auto Patience = 5s;
 constexpr auto ShortestPause = 1ms;  ///< most locks are held for the time of a save
 constexpr auto LongestPause = 20ms;
+constexpr auto Beside = 4ms;  ///< between two looks at the window while another thread works
 
 /// Connections of Qt have names, which are the process's.
 QString nextName() {
@@ -216,7 +217,7 @@ void SqlConnection::executeBeside(const QString& statement) {
     IsWaiting_ = true;
     while (!isDone) {
         if (Waiting_) Waiting_();
-        std::this_thread::sleep_for(LongestPause);
+        std::this_thread::sleep_for(Beside);
     }
     IsWaiting_ = false;
     worker.join();
