@@ -9,6 +9,9 @@
 
 namespace kel::records {
 
+/// Records that are not sorted and searched in a moment without an index.
+constexpr std::int64_t Many = 10'000;
+
 /// What is known of a whole table: the places of its records in the orders that they are looked at, and the texts that
 /// they are found by. It is found out while nobody waits.
 class Overview {

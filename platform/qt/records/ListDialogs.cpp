@@ -2,9 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QDialogButtonBox>
-#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFormLayout>
@@ -16,6 +14,7 @@
 #include "forms/file/FormStore.h"
 #include "KelProgressBarWidget.h"
 #include "platform/qt/base/TextBridge.h"
+#include "platform/qt/records/Breath.h"
 #include "records/exchange/ListFiles.h"
 #include "values/Text.h"
 
@@ -23,8 +22,7 @@ namespace kel::qt {
 
 namespace {
 
-constexpr int LongestSilence = 40;  ///< milliseconds for which the work leaves the window alone
-constexpr int BarWidth = 360;       ///< pixels
+constexpr int BarWidth = 360;  ///< pixels
 
 QString filters() { return QStringLiteral("Lists (*.csv *.tsv *.txt);;All files (*)"); }
 
@@ -96,16 +94,12 @@ public:
         layout->addWidget(buttons);
         show();
         Bar_->start();
-        Silence_.start();
     }
 
     /// False when the person has stopped it.
     bool goesOn(double share) {
         Bar_->setValue(static_cast<int>(share * Whole));
-        if (Silence_.elapsed() >= LongestSilence) {
-            QCoreApplication::processEvents();
-            Silence_.restart();
-        }
+        if (Breath_.isDue()) Breath_.take();
         return isVisible();
     }
 
@@ -113,7 +107,7 @@ private:
     static constexpr int Whole = 10'000;
 
     KelProgressBarWidget* Bar_;
-    QElapsedTimer Silence_;
+    Breath Breath_;
 };
 
 }  // namespace

@@ -6,18 +6,13 @@
 #include <QBuffer>
 #include <QCloseEvent>
 #include <QCoreApplication>
-#include <QDockWidget>
-#include <QElapsedTimer>
-#include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QScreen>
-#include <QSignalBlocker>
 #include <QStatusBar>
 #include <QStyle>
-#include <QTableView>
 #include <QTime>
 #include <QTimer>
 #include <QToolBar>
@@ -25,12 +20,12 @@
 #include "forms/Form.h"
 #include "platform/qt/base/TextBridge.h"
 #include "platform/qt/home/QtFormWindow.h"
+#include "platform/qt/records/Breath.h"
 #include "platform/qt/records/CommandIcons.h"
 #include "platform/qt/records/FormArea.h"
 #include "platform/qt/records/ListDialogs.h"
 #include "platform/qt/records/RecordDialogs.h"
-#include "platform/qt/records/RecordList.h"
-#include "platform/qt/records/RecordTable.h"
+#include "platform/qt/records/RecordListDock.h"
 #include "records/Commands.h"
 #include "records/Finder.h"
 #include "records/RecordForm.h"
@@ -41,11 +36,9 @@ namespace {
 
 using records::Command;
 
-constexpr int StateEvery = 250;        ///< milliseconds between two looks at whether something has been typed
-constexpr int ListWidth = 380;         ///< pixels, until the person has drawn it wider
-constexpr int LongestSilence = 40;     ///< milliseconds for which a search leaves the window alone
-constexpr int Later = 1000;            ///< milliseconds until what could not be done beside is tried again
-constexpr std::int64_t Many = 10'000;  ///< records that are not sorted and searched in a moment without an index
+constexpr int StateEvery = 250;  ///< milliseconds between two looks at whether something has been typed
+constexpr int ListWidth = 380;   ///< pixels, until the person has drawn it wider
+constexpr int Later = 1000;      ///< milliseconds until what could not be done beside is tried again
 
 }  // namespace
 
@@ -53,6 +46,7 @@ class RecordWindow::Implementation final : public QMainWindow {
 public:
     Implementation(Form& form, Home& home, Home& unseen, records::Store& store, const records::Table& table)
         : Dialogs_(*this), Store_(store.open(table)), FormWindow_(dynamic_cast<QtFormWindow&>(form.window())) {
+        setUpdatesEnabled(false);  // it is painted once, with its record
         setWindowTitle(FormWindow_.widget().windowTitle());
         setLayoutDirection(FormWindow_.widget().layoutDirection());
         Area_ = new FormArea(this);
@@ -69,9 +63,9 @@ public:
         form.show();
         Form_ = std::make_unique<records::RecordForm>(form, *Store_, Dialogs_, home.region(), &store);
         Lists_.emplace(*this, form.file(), *Form_, Dialogs_, unseen);
-        makeList();
         Form_->focusFirst();
         refreshState();
+        setUpdatesEnabled(true);
     }
 
     /// The form's window is the form's again.
@@ -102,7 +96,7 @@ public:
             case Command::Find: find(); break;
             case Command::FindNext: findFurther(records::Way::Forward); break;
             case Command::FindPrevious: findFurther(records::Way::Backward); break;
-            case Command::ShowList: showList(!ListDock_->isVisible()); break;
+            case Command::ShowList: showList(!isListShown()); break;
             case Command::CarryOver: carryOver(); break;
             case Command::Keys: showKeys(*this); break;
         }
@@ -147,22 +141,11 @@ private:
     }
 
     void makeList() {
-        List_ = new RecordList(*Form_, this);
-        Table_ = new RecordTable(*List_, this);
-        QHeaderView* const header = Table_->horizontalHeader();
-        header->setSectionsClickable(true);
-        header->setSortIndicatorShown(true);
-        header->setSortIndicatorClearable(true);
-        header->setSortIndicator(-1, Qt::AscendingOrder);
-        QObject::connect(header, &QHeaderView::sortIndicatorChanged, this, &Implementation::sortList);
-        QObject::connect(Table_, &QTableView::activated, this,
-                         [this](const QModelIndex& index) { showRow(index.row()); });
-        QObject::connect(Table_, &QTableView::clicked, this,
-                         [this](const QModelIndex& index) { showRow(index.row()); });
-        ListDock_ = new QDockWidget(QStringLiteral("Records"), this);
-        ListDock_->setWidget(Table_);
-        ListDock_->hide();
-        addDockWidget(Qt::RightDockWidgetArea, ListDock_);
+        List_ = new RecordListDock(*Form_, Dialogs_, *this);
+        List_->hide();
+        addDockWidget(Qt::RightDockWidgetArea, List_);
+        QObject::connect(List_, &RecordListDock::chosen, this, &Implementation::showRecord);
+        QObject::connect(List_, &RecordListDock::sorted, this, &Implementation::refreshState);
     }
 
     void makeStatusBar() {
@@ -196,8 +179,10 @@ private:
         refreshListIf(true);
     }
 
+    bool isListShown() const { return List_ != nullptr && List_->isVisible(); }
+
     void refreshListIf(bool changed) {
-        if (changed && ListDock_->isVisible()) Table_->refresh();
+        if (changed && isListShown()) List_->refresh();
     }
 
     void readAgain() {
@@ -207,11 +192,9 @@ private:
         refreshListIf(true);
     }
 
-    void showRow(int row) {
-        const records::Record* const record = List_->recordAt(row);
-        if (record == nullptr) return;
+    void showRecord(const records::Record& record) {
         Form_->setOrder(List_->order());
-        Form_->toRecord(records::Record(*record));
+        Form_->toRecord(record);
         refreshState();
     }
 
@@ -224,37 +207,6 @@ private:
                                                static_cast<int>(std::min(now, count)), 1,
                                                static_cast<int>(std::max<std::int64_t>(count, 1)), 1, &wanted);
         if (wanted) Form_->toPlace(place);
-    }
-
-    /// A table of many records is sorted by an index. In one that others have made it is not made without asking.
-    void sortList(int section, Qt::SortOrder direction) {
-        records::Order order{std::nullopt, direction == Qt::DescendingOrder};
-        if (section >= 0) order.column = Form_->bindings()[static_cast<std::size_t>(section)].column();
-        try {
-            if (Form_->overview().places(Form_->order()).count().value_or(Many) >= Many && !Store_->isQuick(order)) {
-                const QString name = toQString(Form_->bindings()[static_cast<std::size_t>(section)].caption());
-                if (!Form_->table().version && !mayMakeIndex(*this, name)) return showOrder();
-                statusBar()->showMessage(QStringLiteral("Sorting by %1 for the first time\u2026").arg(name));
-                Store_->makeQuick(order);
-                statusBar()->clearMessage();
-            }
-            Form_->overview().places(order);
-        } catch (const records::StoreError& error) {
-            statusBar()->clearMessage();
-            Dialogs_.say(error.words());
-            return showOrder();
-        }
-        List_->setOrder(order);
-        refreshListIf(true);
-        Section_ = section;
-        refreshState();
-    }
-
-    /// By which column the list is sorted, once more.
-    void showOrder() {
-        const QSignalBlocker blocker(Table_->horizontalHeader());
-        Table_->horizontalHeader()->setSortIndicator(
-            Section_, List_->order().descending ? Qt::DescendingOrder : Qt::AscendingOrder);
     }
 
     void find() {
@@ -277,13 +229,11 @@ private:
         if (!Form_->mayLeave()) return;
         IsSeeking_ = true;
         Escape_->setEnabled(true);
-        QElapsedTimer silence;
-        silence.start();
+        Breath breath;
         const auto goesOn = [&] {
-            if (silence.elapsed() < LongestSilence) return true;
+            if (!breath.isDue()) return true;
             statusBar()->showMessage(QStringLiteral("Looking for \"%1\"\u2026 Escape ends it.").arg(Sought_));
-            QCoreApplication::processEvents();
-            silence.restart();
+            breath.take();
             return IsSeeking_;
         };
         try {
@@ -308,15 +258,14 @@ private:
 
     /// The window grows and shrinks with it, so that the form stays as wide as it is.
     void showList(bool shown) {
-        if (shown == ListDock_->isVisible()) return;
+        if (List_ == nullptr) makeList();
         const int separator = style()->pixelMetric(QStyle::PM_DockWidgetSeparatorExtent);
-        if (!isMaximized())
-            resize(width() + (shown ? ListWidth + separator : -(ListDock_->width() + separator)), height());
-        ListDock_->setVisible(shown);
-        refreshListIf(true);
-        if (shown && !IsListMeasured_) Table_->resizeColumnsToContents();
-        IsListMeasured_ = true;
-        if (shown) resizeDocks({ListDock_}, {ListWidth}, Qt::Horizontal);
+        if (!isMaximized()) resize(width() + (shown ? ListWidth + separator : -(List_->width() + separator)), height());
+        List_->setVisible(shown);
+        if (!shown) return;
+        List_->refresh();
+        List_->measure();
+        resizeDocks({List_}, {ListWidth}, Qt::Horizontal);
     }
 
     void carryOver() {
@@ -348,16 +297,12 @@ private:
             const QString its = place ? QString::number(*place + 1) : QStringLiteral("\u2026");
             Place_->setText(Form_->shown() ? QStringLiteral("Record %1 of %2").arg(its, all)
                                            : QStringLiteral("New record, %1 so far").arg(all));
-            if (List_ != nullptr && ListDock_->isVisible()) showInList(place);
+            if (isListShown()) List_->mark(place);
         } catch (const records::StoreError& error) {
             Place_->setText(toQString(error.words()));
         }
         if (!Idle_->isActive()) Idle_->start(0);
         showChanged();
-    }
-
-    void showInList(const std::optional<std::int64_t>& place) {
-        Table_->mark(List_->order() == Form_->order() ? place : std::nullopt);
     }
 
     // ---- What is done while nobody waits
@@ -387,12 +332,12 @@ private:
         const bool isFree = beside([&] {
             records::Overview& overview = Form_->overview();
             const records::Places& places = overview.places(Form_->order());
-            const records::Places& listed = overview.places(List_->order());
+            const records::Places& listed = overview.places(List_ == nullptr ? Form_->order() : List_->order());
             const bool wasWhole = places.isWhole() && listed.isWhole();
             isMore = overview.lookOn();
             if (wasWhole || !places.isWhole() || !listed.isWhole()) return;
             refreshListIf(true);
-            if (*places.count() >= Many && Store_->isNear()) overview.wantTexts();
+            if (*places.count() >= records::Many && Store_->isNear()) overview.wantTexts();
             isMore = true;
             refreshState();
         });
@@ -409,9 +354,7 @@ private:
     std::unique_ptr<records::RecordForm> Form_;
     std::optional<ListDialogs> Lists_;
     FormArea* Area_ = nullptr;
-    RecordList* List_ = nullptr;
-    RecordTable* Table_ = nullptr;
-    QDockWidget* ListDock_ = nullptr;
+    RecordListDock* List_ = nullptr;  ///< made when it is first shown
     QToolBar* Tools_ = nullptr;
     QLabel* Place_ = nullptr;
     QLabel* State_ = nullptr;
@@ -420,9 +363,7 @@ private:
     QString Sought_;
     QTimer* Idle_ = nullptr;     ///< while something is still to be found out
     QAction* Escape_ = nullptr;  ///< ends a search
-    int Section_ = -1;           ///< by which the list is sorted
     bool IsSeeking_ = false;
-    bool IsListMeasured_ = false;  ///< from then on columns are as wide as the person makes them
 };
 
 RecordWindow::RecordWindow(Form& form, Home& home, Home& unseen, records::Store& store, const records::Table& table)
