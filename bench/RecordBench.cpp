@@ -39,12 +39,17 @@ namespace {
 const char* const Table =
     "CREATE TABLE customer (record_id INTEGER PRIMARY KEY, name TEXT, first_name TEXT, street TEXT, city TEXT, phone "
     "TEXT, "
-    "joined DATE, credit DOUBLE PRECISION, rate DOUBLE PRECISION, visits DOUBLE PRECISION, note TEXT, record_version "
-    "INTEGER NOT NULL DEFAULT 1)";
+    "joined DATE, credit DOUBLE PRECISION, rate DOUBLE PRECISION, branch INTEGER REFERENCES branch (id), note TEXT, "
+    "record_version INTEGER NOT NULL DEFAULT 1)";
+const char* const Branches = "CREATE TABLE branch (id INTEGER PRIMARY KEY, name VARCHAR(20) NOT NULL)";
+const char* const BranchRows =
+    "INSERT INTO branch SELECT i, 'Branch ' || (i * 31 % 997) FROM (WITH RECURSIVE n (i) AS (SELECT 1 UNION ALL SELECT "
+    "i + 1 FROM n WHERE i < 300) SELECT i FROM n) AS rows";
 const char* const Rows =
     "INSERT INTO customer SELECT i, 'Name' || (i * 7919 % 999983), 'First' || (i % 5003), 'Street ' || (i % 777) || ' "
     "number ' || (i % 99), 'City of ' || (i * 31 % 9973), '0' || (i * 104729 % 9999999), CAST('20' || (10 + i % 15) || "
-    "'-0' || (1 + i % 9) || '-1' || (i % 10) AS %1), i % 10000 / 10.0, i % 100 / 8.0, i % 31, 'some note about record "
+    "'-0' || (1 + i % 9) || '-1' || (i % 10) AS %1), i % 10000 / 10.0, i % 100 / 8.0, 1 + i % 300, 'some note about "
+    "record "
     "' "
     "|| i || ' of many', 1 FROM (WITH RECURSIVE n (i) AS (SELECT CAST(1 AS BIGINT) UNION ALL SELECT i + 1 FROM n WHERE "
     "i < %2) SELECT i FROM n) AS rows";
@@ -52,7 +57,8 @@ const char* const Rows =
 void fill(const std::string& database, int records) {
     qt::SqlConnection connection(database, {});
     connection.begin();
-    connection.execute(QString::fromLatin1(Table));
+    for (const char* const statement : {Branches, BranchRows, Table})
+        connection.execute(QString::fromLatin1(statement));
     connection.execute(
         QString::fromLatin1(Rows).arg(QLatin1String(connection.isServer() ? "date" : "text")).arg(records));
     connection.commit();
@@ -65,15 +71,17 @@ std::string form() {
         "ClientWidth = 6000\r\n";
     int top = 100;
     for (const char* const field : {"txtName", "txtFirstName", "txtStreet", "txtCity", "txtPhone", "datJoined",
-                                    "numCredit", "numRate", "numVisits", "txtNote"}) {
+                                    "numCredit", "numRate", "cboBranch", "txtNote"}) {
         const std::string name = field;
         const std::string kind = name.starts_with("txt")   ? "KelText"
                                  : name.starts_with("num") ? "KelNumber"
+                                 : name.starts_with("cbo") ? "KelCombo"
                                                            : "KelDate";
         text += "   Begin KelControls8." + kind + " " + name + "\r\n      Caption = \"" + name.substr(3) +
                 "\"\r\n      Left = 100\r\n      Height = 300\r\n      Width = 5000\r\n      Mandatory = 0\r\n      "
                 "Top = " +
-                std::to_string(top) + "\r\n" + (kind == "KelNumber" ? "      MaxValue = 99999\r\n" : "") + "   End\r\n";
+                std::to_string(top) + "\r\n" + (kind == "KelNumber" ? "      MaxValue = 99999\r\n" : "") +
+                (kind == "KelCombo" ? "      DataField = \"branch:tag\"\r\n" : "") + "   End\r\n";
         top += 400;
     }
     return text + "End\r\n";
@@ -135,34 +143,27 @@ public:
     }
 
     void run(int records) {
-        std::mt19937 random(3);
-        const auto some = [&](const std::function<void()>& action) { return [&, action] { action(); }; };
         seekNever("a find without an index, a word that is nowhere");
         waitFor("the texts of the search written", [&] { return isQuiet(); });
         measure("showing the list for the first time", 0, [&] { press(QStringLiteral("F9")); });
         Table_ = Main_->findChild<QTableView*>();
-        repeat("last", 20, some([&] { press(QStringLiteral("Alt+End")); }));
-        repeat("previous", 20, some([&] { press(QStringLiteral("Alt+PgUp")); }));
-        repeat("first", 20, some([&] { press(QStringLiteral("Alt+Home")); }));
-        repeat("next", 20, some([&] { press(QStringLiteral("Alt+PgDown")); }));
-        repeat("go to", 20, [&] {
-            answer(1 + static_cast<int>(random() % static_cast<unsigned>(records)));
-            press(QStringLiteral("Ctrl+G"));
-        });
+        repeat("last", 20, [&] { press(QStringLiteral("Alt+End")); });
+        repeat("previous", 20, [&] { press(QStringLiteral("Alt+PgUp")); });
+        repeat("first", 20, [&] { press(QStringLiteral("Alt+Home")); });
+        repeat("next", 20, [&] { press(QStringLiteral("Alt+PgDown")); });
+        goTo("go to", records);
         repeat("a save", 20, [&] {
-            type(QStringLiteral("Changed ") + QString::number(random() % 1000));
+            type(QStringLiteral("Changed ") + QString::number(Random_() % 1000));
             start();
             press(QStringLiteral("Ctrl+S"));
         });
         repeat("a new record saved", 20, [&] {
             press(QStringLiteral("Ctrl+N"));
-            type(QStringLiteral("New ") + QString::number(random() % 1000));
+            type(QStringLiteral("New ") + QString::number(Random_() % 1000));
             start();
             press(QStringLiteral("Ctrl+S"));
         });
-        repeat("the list to its middle", 20, [&] {
-            Table_->verticalScrollBar()->setValue(static_cast<int>(random() % static_cast<unsigned>(records)));
-        });
+        scroll("the list to its middle", records);
         const std::pair<const char*, const char*> sought[] = {
             {"of one record, by its number", "about record 777123 of"},
             {"a part of a name", "me99998"},
@@ -177,21 +178,37 @@ public:
                 start();
                 press(QStringLiteral("Ctrl+F"));
             });
-        start();
-        Table_->horizontalHeader()->setSortIndicator(3, Qt::AscendingOrder);
-        while (!Table_->model()->index(0, 0).data().isValid()) QCoreApplication::processEvents();
-        report("sorted by the city for the first time", elapsed(), 0);
-        report("   the longest that the window did not answer", Silence_.longest(), 50);
+        sortBy("the city", 3, records);
+        sortBy("another table's texts", 8, records);
+        emit Table_->clicked(Table_->model()->index(0, 0));
         settle();
-        repeat("the list to its middle, sorted", 20, [&] {
-            Table_->verticalScrollBar()->setValue(static_cast<int>(random() % static_cast<unsigned>(records)));
-        });
+        goTo("go to, in the order of another table's texts", records);
         std::printf("%-58s %8ld MB\n", "memory", residentKilobytes() / 1024);
     }
 
     std::string picture() const { return Window_->picture(); }
 
 private:
+    int some(int records) { return 1 + static_cast<int>(Random_() % static_cast<unsigned>(records)); }
+    void goTo(const std::string& what, int records) {
+        repeat(what, 20, [&] {
+            answer(some(records));
+            press(QStringLiteral("Ctrl+G"));
+        });
+    }
+    void scroll(const std::string& what, int records) {
+        repeat(what, 20, [&] { Table_->verticalScrollBar()->setValue(some(records)); });
+    }
+    void sortBy(const std::string& what, int column, int records) {
+        start();
+        Table_->horizontalHeader()->setSortIndicator(column, Qt::AscendingOrder);
+        while (!Table_->model()->index(0, 0).data().isValid()) QCoreApplication::processEvents();
+        report("sorted by " + what + " for the first time", elapsed(), 0);
+        report("   the longest that the window did not answer", Silence_.longest(), 50);
+        waitFor("   its places known", [&] { return isQuiet(); });
+        scroll("the list to its middle, so sorted", records);
+    }
+
     void find() {
         for (QWidget* const widget : QApplication::topLevelWidgets())
             if (auto* const window = qobject_cast<QMainWindow*>(widget)) Main_ = window;
@@ -297,6 +314,7 @@ private:
         report("   the longest that the window did not answer", Silence_.longest(), 50);
     }
 
+    std::mt19937 Random_{3};
     Silence Silence_;
     SilentObserver Observer_;
     std::unique_ptr<Home> Home_;

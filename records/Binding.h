@@ -50,6 +50,8 @@ public:
     /// From now on the list of the field, which keeps tags, is the records that the column points to. Leaves a list
     /// alone that the form has given it.
     void offer(Store& store, const Column& column);
+    /// That table, with its key and its text; nullptr where there is none.
+    const Table* offered() const { return Lookup_ ? &Lookup_->table() : nullptr; }
 
     /// Shows what stands in the column; that is what the field's own change tracking compares with from now on.
     void show(const Cell& cell);

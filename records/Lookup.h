@@ -29,6 +29,8 @@ public:
     /// Reads the list again, unless it is as long as may be; whether it is another one now. Throws StoreError.
     bool refresh();
 
+    /// Key and text.
+    const Table& table() const { return Records_->table(); }
     const StringArray& texts() const { return Texts_; }
     const StringArray& keys() const { return Keys_; }
     /// Counted from 0.

@@ -26,6 +26,7 @@ public:
     /// The key now is the one that is stored.
     void markStored() { StoredKey_ = key(); }
 
+    const Table& table() const { return Lookup_.table(); }
     std::u16string textOf(const std::u16string& key) const { return Lookup_.textOf(key); }
     /// Only of what is in the list, which needs no reading.
     std::optional<std::u16string> listedTextOf(const std::u16string& key) const {

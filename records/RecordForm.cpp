@@ -14,6 +14,8 @@ RecordForm::RecordForm(Form& form, RecordStore& store, Questions& questions, con
       Overview_(std::make_unique<Overview>(store, [this](const Record& record) { return textsOf(record); })),
       Questions_(&questions),
       Bindings_(bind(form, store.table(), region, others)) {
+    for (const Binding& binding : Bindings_)
+        if (const Table* const other = binding.offered()) store.orderByText(binding.column(), *other);
     if (!toEnd(Way::Forward)) showNew();
 }
 

@@ -47,6 +47,7 @@ struct Record {
 };
 
 /// By which column records are put in a row; those that have the same there by their key. Without a column by the key.
+/// A record without a value stands in front of all others.
 struct Order {
     std::optional<std::size_t> column{};
     bool descending = false;
@@ -89,6 +90,9 @@ public:
     virtual ~RecordStore() = default;
 
     virtual const Table& table() const = 0;
+    /// From now on an order by `column`, which points to records of `other`, is that of their texts, and of their keys
+    /// where these are the same; who points to no record stands in front. `other` has two columns, key and text.
+    virtual void orderByText(std::size_t column, const Table& other) = 0;
 
     /// As it is now; nothing when there is none of this key.
     virtual std::optional<Record> read(const Cells& key) = 0;

@@ -17,6 +17,10 @@ namespace {
 /// Records in the order that the rules give, by sorting them in memory.
 TEST_F(OnDatabase, WalksInEveryOrder) {
     execute("CREATE TABLE line (a INTEGER NOT NULL, b TEXT NOT NULL, n INTEGER, t TEXT, PRIMARY KEY (a, b))");
+    execute("CREATE TABLE parent (b INTEGER PRIMARY KEY, t TEXT)");
+    execute("INSERT INTO parent VALUES (0, 'd'), (1, NULL), (2, 'b'), (3, 'b'), (5, 'a'), (6, NULL)");
+    // One that is pointed to is not there; a server does not allow it.
+    if (isServer()) execute("INSERT INTO parent VALUES (4, 'a')");
     std::mt19937 random(7);
     const auto pick = [&](int most) { return std::uniform_int_distribution<int>(0, most)(random); };
     const auto store = open();
@@ -32,7 +36,16 @@ TEST_F(OnDatabase, WalksInEveryOrder) {
             records->insert({{0, model.back().cells[0]}, {1, model.back().cells[1]}, {2, number}, {3, text}});
         EXPECT_EQ(stored, model.back());
     }
-    for (const std::optional<std::size_t> column : {std::optional<std::size_t>{}, {2}, {3}, {1}}) {
+    enum class By : std::uint8_t { Value, Text, TextByIndex };
+    struct Row {
+        std::optional<std::size_t> column;
+        By by = By::Value;
+    };
+    const std::u16string texts[] = {u"2d0", u"11", u"2b2", u"2b3", isServer() ? u"2a4" : u"04"};
+    for (const Row row : {Row{}, Row{2}, Row{3}, Row{1}, Row{2, By::Text}, Row{2, By::TextByIndex}}) {
+        const auto column = row.column;
+        if (row.by == By::Text) records->orderByText(2, store->table(u"parent").value());
+        if (row.by == By::TextByIndex) records->makeQuick({2, false});
         for (const bool descending : {false, true}) {
             const Order order{column, descending};
             std::vector<Record> wanted = model;
@@ -41,6 +54,8 @@ TEST_F(OnDatabase, WalksInEveryOrder) {
                 const auto places = [&](const Record& record) {
                     std::u16string text;
                     if (column) text = isNull(record.cells[*column]) ? u"0" : u"1" + textOf(record.cells[*column]);
+                    if (row.by != By::Value && text != u"0")
+                        text = texts[static_cast<std::size_t>(std::get<std::int64_t>(record.cells[2]))];
                     return text + u' ' + textOf(record.cells[0]) + textOf(record.cells[1]);
                 };
                 return descending ? places(right) < places(left) : places(left) < places(right);
@@ -58,6 +73,9 @@ TEST_F(OnDatabase, WalksInEveryOrder) {
             EXPECT_EQ(backward, wanted);
             for (std::size_t from = 0; from < wanted.size(); from += 13) {
                 EXPECT_EQ(records->countBetween(nullptr, &wanted[from], order), static_cast<std::int64_t>(from));
+                EXPECT_EQ(records->countBetween(&wanted[from], nullptr, order),
+                          static_cast<std::int64_t>(wanted.size() - from) - 1);
+                EXPECT_EQ(records->skip(nullptr, static_cast<std::int64_t>(from), order), wanted[from]);
                 for (std::size_t to = from + 1; to < wanted.size(); to += 11) {
                     const auto steps = static_cast<std::int64_t>(to - from);
                     EXPECT_EQ(records->skip(&wanted[from], steps, order), wanted[to]);

@@ -68,8 +68,11 @@ public:
         setUpdatesEnabled(true);
     }
 
-    /// The form's window is the form's again.
-    ~Implementation() override { Area_->takeWidget()->setParent(nullptr); }
+    /// The form's window is the form's again, and the list goes before the records that it shows.
+    ~Implementation() override {
+        delete List_;
+        Area_->takeWidget()->setParent(nullptr);
+    }
 
     void run(Command command) {
         if (IsSeeking_) {

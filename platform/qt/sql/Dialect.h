@@ -34,13 +34,17 @@ public:
     /// Whether a statement that fails takes with it what came before it in its transaction.
     virtual bool failureEndsTransaction() const = 0;
 
-    /// Reads what changes when another program changes a table, and counts the changes of this one.
-    /// It is given the table's quoted name.
+    /// Reads what changes when another program changes one of some tables, and counts the changes of this one.
+    /// It is given the tables' quoted names, with the character 1 between them.
     virtual QString versionQuery() const = 0;
     /// Finds an index by which a table is read in the order of a column; is given both names.
     virtual QString indexQuery() const = 0;
     /// What stands behind a column in an index, so that a record without a value is in front.
     virtual QString indexSuffix() const = 0;
+
+    /// What stands behind some records of another table, to read for each of them in turn, by an index, the rows of a
+    /// table that meet a condition. Where it has a place for a value, that is how many of each are wanted at most.
+    virtual QString rowsForEach(const QString& table, const QString& condition, const QString& orderBy) const = 0;
 
     /// The column in a query's list of what it reads.
     virtual QString readExpression(const records::Column& column) const { return quoted(column.name); }

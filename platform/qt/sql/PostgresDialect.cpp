@@ -34,7 +34,9 @@ class PostgresDialect final : public Dialect {
 public:
     /// A lock is waited for here, where the window stays alive, and not in the server.
     QStringList setUp() const override {
-        return {QStringLiteral("SET lock_timeout = 50"), QStringLiteral("SET client_min_messages = warning")};
+        // Statements are compiled for as long as they would take; those here are done before.
+        return {QStringLiteral("SET lock_timeout = 50"), QStringLiteral("SET client_min_messages = warning"),
+                QStringLiteral("SELECT set_config('jit', 'off', false) FROM pg_settings WHERE name = 'jit'")};
     }
     QStringList mark() const override { return {}; }
 
@@ -48,9 +50,9 @@ public:
 
     QString versionQuery() const override {
         return QStringLiteral(
-            "SELECT pg_stat_get_tuples_inserted(t) + pg_stat_get_tuples_updated(t) + pg_stat_get_tuples_deleted(t), 0 "
-            "FROM "
-            "CAST(to_regclass(?) AS oid) AS t");
+            "SELECT CAST(sum(pg_stat_get_tuples_inserted(t) + pg_stat_get_tuples_updated(t) + "
+            "pg_stat_get_tuples_deleted(t)) AS bigint), 0 FROM (SELECT CAST(to_regclass(name) AS oid) AS t FROM "
+            "unnest(string_to_array(?, chr(1))) AS names (name)) AS tables");
     }
     QString indexQuery() const override {
         return QStringLiteral(
@@ -60,6 +62,10 @@ public:
             "(a.attnotnull OR i.indoption[0] = 2)");
     }
     QString indexSuffix() const override { return QStringLiteral(" NULLS FIRST"); }
+    QString rowsForEach(const QString& table, const QString& condition, const QString& orderBy) const override {
+        return QStringLiteral(" CROSS JOIN LATERAL (SELECT * FROM %1 WHERE %2%3 LIMIT ?) AS kel_own")
+            .arg(table, condition, orderBy);
+    }
 
     /// Days, times and decimal numbers as texts, which Qt does not round.
     QString readExpression(const Column& column) const override {

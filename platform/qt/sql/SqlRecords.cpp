@@ -17,6 +17,8 @@ using records::Outcome;
 using records::Record;
 using records::Way;
 
+const QLatin1String Window(" LIMIT ? OFFSET ?");
+
 /// A trigger or a policy may leave a record out without a word.
 records::StoreError notTaken(const char* what) {
     return {records::StoreError::Kind::Constraint,
@@ -26,10 +28,10 @@ records::StoreError notTaken(const char* what) {
 }  // namespace
 
 SqlRecords::SqlRecords(SqlConnection& connection, records::Table table)
-    : Connection_(connection), Table_(std::move(table)) {
+    : Connection_(connection), Table_(std::move(table)), Name_(Dialect::quoted(Table_.name)), Watched_(Name_) {
     QStringList columns;
     for (const Column& each : Table_.columns) columns.append(Connection_.dialect().readExpression(each));
-    Select_ = QStringLiteral("SELECT %1 FROM %2").arg(columns.join(QLatin1String(", ")), Dialect::quoted(Table_.name));
+    Select_ = QStringLiteral("SELECT %1 FROM ").arg(columns.join(QLatin1String(", ")));
 }
 
 // ---- Reading
@@ -47,7 +49,11 @@ Record SqlRecords::recordIn(const QSqlQuery& query) const {
 }
 
 std::vector<Record> SqlRecords::all(const QString& rest, const QVariantList& values) {
-    QSqlQuery& query = Connection_.run(Select_ + rest, values);
+    return allOf(Name_ + rest, values);
+}
+
+std::vector<Record> SqlRecords::allOf(const QString& from, const QVariantList& values) {
+    QSqlQuery& query = Connection_.run(Select_ + from, values);
     std::vector<Record> found;
     while (query.next()) found.push_back(recordIn(query));
     query.finish();
@@ -82,15 +88,16 @@ std::vector<std::size_t> SqlRecords::rowColumns(const Order& order) const {
     return columns;
 }
 
+/// A record without a value stands in front of all others, in every database.
+QString SqlRecords::rowTerm(const QString& name, bool mayBeNothing, bool isDown) {
+    const QString nothing = mayBeNothing ? QLatin1String(isDown ? " NULLS LAST" : " NULLS FIRST") : QLatin1String();
+    return name + QLatin1String(isDown ? " DESC" : " ASC") + nothing;
+}
+
 QString SqlRecords::orderBy(const Order& order, bool isReversed) const {
-    const bool isDown = order.descending != isReversed;
     QStringList terms;
-    for (const std::size_t each : rowColumns(order)) {
-        QString term = nameOf(each) + QLatin1String(isDown ? " DESC" : " ASC");
-        // A record without a value stands in front of all others, in every database.
-        if (mayBeNothing(each)) term += QLatin1String(isDown ? " NULLS LAST" : " NULLS FIRST");
-        terms.append(term);
-    }
+    for (const std::size_t each : rowColumns(order))
+        terms.append(rowTerm(nameOf(each), mayBeNothing(each), order.descending != isReversed));
     return QLatin1String(" ORDER BY ") + terms.join(QLatin1String(", "));
 }
 
@@ -123,15 +130,47 @@ std::vector<SqlRecords::Condition> SqlRecords::beyond(const Record* from, bool i
     return {same};
 }
 
+std::vector<SqlRecords::Stretch> SqlRecords::stretches(const Record* from, bool isBehind, const Order& order) {
+    SqlRecords* const texts = textsOf(order);
+    std::vector<Stretch> found;
+    if (texts == nullptr) {
+        for (Condition& each : beyond(from, isBehind, order)) found.push_back({std::move(each)});
+        return found;
+    }
+    const bool isUp = isBehind != order.descending;
+    const std::optional<Record> pointed = from == nullptr ? std::nullopt : pointedTo(*from, order);
+    const bool isPointless = from != nullptr && !pointed;
+    const auto addPointless = [&] {
+        for (const Condition& each : beyond(isPointless ? from : nullptr, isBehind, order))
+            found.push_back({pointless(order) + each});
+    };
+    if (isUp && !pointed) addPointless();
+    if (pointed) found.push_back({beside(*from, isBehind, order)});
+    if (isUp || !isPointless)
+        for (Condition& each : texts->beyond(pointed ? &*pointed : nullptr, isBehind, textOrder(order)))
+            found.push_back({{}, std::move(each)});
+    if (!isUp) addPointless();
+    return found;
+}
+
+std::vector<Record> SqlRecords::rowsOf(const Stretch& stretch, bool isReversed, std::int64_t skipped,
+                                       std::int64_t count, const Order& order) {
+    if (stretch.others) return rowsOfOthers(*stretch.others, isReversed, skipped, count, order);
+    return all(QLatin1String(" WHERE ") + stretch.own.text + orderBy(order, isReversed) + Window,
+               stretch.own.values + QVariantList{static_cast<qlonglong>(count), static_cast<qlonglong>(skipped)});
+}
+
+std::int64_t SqlRecords::countOf(const Stretch& stretch, const Order& order) {
+    return stretch.others ? countOfOthers(*stretch.others, order) : countOwn(stretch.own);
+}
+
 std::vector<Record> SqlRecords::walk(const Record* from, Way way, std::int32_t count, const Order& order) {
     const bool isForward = way == Way::Forward;
     std::vector<Record> found;
-    for (const Condition& stretch : beyond(from, isForward, order)) {
+    for (const Stretch& stretch : stretches(from, isForward, order)) {
         const auto missing = count - static_cast<std::int32_t>(found.size());
         if (missing <= 0) break;
-        std::vector<Record> more =
-            all(QLatin1String(" WHERE ") + stretch.text + orderBy(order, !isForward) + QLatin1String(" LIMIT ?"),
-                stretch.values + QVariantList{missing});
+        std::vector<Record> more = rowsOf(stretch, !isForward, 0, missing, order);
         found.insert(found.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
     }
     return found;
@@ -139,15 +178,11 @@ std::vector<Record> SqlRecords::walk(const Record* from, Way way, std::int32_t c
 
 std::optional<Record> SqlRecords::skip(const Record* from, std::int64_t steps, const Order& order) {
     std::int64_t further = from == nullptr ? steps : steps - 1;
-    for (const Condition& stretch : beyond(from, true, order)) {
-        std::vector<Record> found =
-            all(QLatin1String(" WHERE ") + stretch.text + orderBy(order, false) + QLatin1String(" LIMIT 1 OFFSET ?"),
-                stretch.values + QVariantList{static_cast<qlonglong>(further)});
+    const std::vector<Stretch> all = stretches(from, true, order);
+    for (const Stretch& stretch : all) {
+        std::vector<Record> found = rowsOf(stretch, false, further, 1, order);
         if (!found.empty()) return std::move(found.front());
-        if (from == nullptr) break;
-        further -=
-            number(QStringLiteral("SELECT count(*) FROM %1 WHERE %2").arg(Dialect::quoted(Table_.name), stretch.text),
-                   stretch.values);
+        if (&stretch != &all.back()) further -= countOf(stretch, order);
     }
     return std::nullopt;
 }
@@ -159,29 +194,32 @@ std::int64_t SqlRecords::number(const QString& statement, const QVariantList& va
     return number;
 }
 
+std::int64_t SqlRecords::countOwn(const Condition& condition) {
+    return number(QStringLiteral("SELECT count(*) FROM %1 WHERE %2").arg(Name_, condition.text), condition.values);
+}
+
 std::int64_t SqlRecords::countBetween(const Record* from, const Record* to, const Order& order) {
-    const QString count = QStringLiteral("SELECT count(*) FROM ") + Dialect::quoted(Table_.name);
-    if (from == nullptr && to == nullptr) return number(count, {});
+    if (from == nullptr && to == nullptr) return number(QLatin1String("SELECT count(*) FROM ") + Name_, {});
+    if (textsOf(order) != nullptr) return countByTexts(from, to, order);
     std::int64_t sum = 0;
     for (const Condition& behind : beyond(from, true, order))
-        for (const Condition& before : beyond(to, false, order))
-            sum += number(QStringLiteral("%1 WHERE %2 AND %3").arg(count, behind.text, before.text),
-                          behind.values + before.values);
+        for (const Condition& before : beyond(to, false, order)) sum += countOwn(behind + before);
     return sum;
 }
 
 bool SqlRecords::isBehind(const Cells& key, const Record& from, const Order& order) {
     const Condition its = isKey(key);
-    const std::vector<Condition> stretches = beyond(&from, true, order);
-    return std::any_of(stretches.begin(), stretches.end(), [&](const Condition& stretch) {
-        return number(QStringLiteral("SELECT count(*) FROM %1 WHERE %2 AND %3")
-                          .arg(Dialect::quoted(Table_.name), its.text, stretch.text),
-                      its.values + stretch.values) > 0;
+    const std::vector<Stretch> behind = stretches(&from, true, order);
+    return std::any_of(behind.begin(), behind.end(), [&](const Stretch& stretch) {
+        if (!stretch.others) return countOwn(its + stretch.own) > 0;
+        const QString pairs = textsOf(order)->others(*stretch.others) + QLatin1String(" JOIN ") + Name_;
+        return number(QStringLiteral("SELECT count(*) FROM %1 ON %2 WHERE %3").arg(pairs, isPointing(order), its.text),
+                      stretch.others->values + its.values) > 0;
     });
 }
 
 records::Version SqlRecords::version() {
-    QSqlQuery& query = Connection_.run(Connection_.dialect().versionQuery(), {Dialect::quoted(Table_.name)});
+    QSqlQuery& query = Connection_.run(Connection_.dialect().versionQuery(), {Watched_.join(QChar(1))});
     records::Version version;
     if (query.next()) version = {query.value(0).toLongLong(), query.value(1).toLongLong()};
     query.finish();
@@ -190,7 +228,15 @@ records::Version SqlRecords::version() {
 }
 
 bool SqlRecords::isQuick(const Order& order) {
-    if (!order.column || Table_.key.front() == *order.column) return true;
+    if (!order.column) return true;
+    SqlRecords* const texts = textsOf(order);
+    const bool isQuick = hasIndex(order) && (texts == nullptr || texts->hasIndex(textOrder(order)));
+    Quick_[*order.column] = isQuick;
+    return isQuick;
+}
+
+bool SqlRecords::hasIndex(const Order& order) {
+    if (Table_.key.front() == *order.column) return true;
     QSqlQuery& query = Connection_.run(Connection_.dialect().indexQuery(),
                                        {toQString(Table_.name), toQString(column(*order.column).name)});
     const bool isThere = query.next();
@@ -200,12 +246,16 @@ bool SqlRecords::isQuick(const Order& order) {
 
 void SqlRecords::makeQuick(const Order& order) {
     if (!order.column) return;
-    QStringList columns;
-    for (const std::size_t each : rowColumns(order))
-        columns.append(nameOf(each) + (mayBeNothing(each) ? Connection_.dialect().indexSuffix() : QString()));
-    Connection_.executeBeside(QStringLiteral("CREATE INDEX %1 ON %2 (%3)")
-                                  .arg(Dialect::quoted(Table_.name + u"_by_" + column(*order.column).name),
-                                       Dialect::quoted(Table_.name), columns.join(QLatin1String(", "))));
+    if (!hasIndex(order)) {
+        QStringList columns;
+        for (const std::size_t each : rowColumns(order))
+            columns.append(nameOf(each) + (mayBeNothing(each) ? Connection_.dialect().indexSuffix() : QString()));
+        Connection_.executeBeside(QStringLiteral("CREATE INDEX %1 ON %2 (%3)")
+                                      .arg(Dialect::quoted(Table_.name + u"_by_" + column(*order.column).name), Name_,
+                                           columns.join(QLatin1String(", "))));
+    }
+    if (SqlRecords* const texts = textsOf(order)) texts->makeQuick(textOrder(order));
+    Quick_.erase(*order.column);
 }
 
 // ---- Changing
@@ -221,7 +271,7 @@ QString SqlRecords::insertion(const std::vector<Change>& values) const {
         names.isEmpty()
             ? QStringLiteral("DEFAULT VALUES")
             : QStringLiteral("(%1) VALUES (%2)").arg(names.join(QLatin1String(", ")), marks.join(QLatin1String(", ")));
-    return QStringLiteral("INSERT INTO %1 %2").arg(Dialect::quoted(Table_.name), what);
+    return QStringLiteral("INSERT INTO %1 %2").arg(Name_, what);
 }
 
 QVariantList SqlRecords::bound(const std::vector<Change>& values) const {
@@ -294,8 +344,8 @@ Outcome SqlRecords::update(Record& read, const std::vector<Change>& values) {
     for (const Change& change : values) sets.append(nameOf(change.column) + QLatin1String(" = ?"));
     if (Table_.version) sets.append(QStringLiteral("%1 = %1 + 1").arg(nameOf(*Table_.version)));
     const Condition condition = isKey(keyOf(Table_, read));
-    const QString statement = QStringLiteral("UPDATE %1 SET %2 WHERE %3")
-                                  .arg(Dialect::quoted(Table_.name), sets.join(QLatin1String(", ")), condition.text);
+    const QString statement =
+        QStringLiteral("UPDATE %1 SET %2 WHERE %3").arg(Name_, sets.join(QLatin1String(", ")), condition.text);
     Outcome outcome = Outcome::Done;
     std::optional<Record> stored;
     Connection_.transact(
@@ -314,8 +364,7 @@ Outcome SqlRecords::update(Record& read, const std::vector<Change>& values) {
 
 Outcome SqlRecords::remove(const Record& read) {
     const Condition condition = isKey(keyOf(Table_, read));
-    const QString statement =
-        QStringLiteral("DELETE FROM %1 WHERE %2").arg(Dialect::quoted(Table_.name), condition.text);
+    const QString statement = QStringLiteral("DELETE FROM %1 WHERE %2").arg(Name_, condition.text);
     Outcome outcome = Outcome::Done;
     Connection_.transact(
         [&] {

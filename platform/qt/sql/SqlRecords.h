@@ -1,5 +1,7 @@
 #pragma once
 
+#include <map>
+
 #include "platform/qt/sql/SqlConnection.h"
 
 namespace kel::qt {
@@ -11,6 +13,7 @@ public:
     SqlRecords(SqlConnection& connection, records::Table table);
 
     const records::Table& table() const override { return Table_; }
+    void orderByText(std::size_t column, const records::Table& other) override;
     std::optional<records::Record> read(const records::Cells& key) override;
     std::vector<records::Record> walk(const records::Record* from, records::Way way, std::int32_t count,
                                       const records::Order& order) override;
@@ -37,6 +40,15 @@ private:
     struct Condition {
         QString text;
         QVariantList values;
+        Condition operator+(const Condition& further) const {
+            return {text + QLatin1String(" AND ") + further.text, values + further.values};
+        }
+    };
+
+    /// Some records of this table; or, where there are `others`, those that point to one of these.
+    struct Stretch {
+        Condition own;
+        std::optional<Condition> others{};
     };
 
     const records::Column& column(std::size_t place) const { return Table_.columns[place]; }
@@ -47,9 +59,48 @@ private:
     /// All that stands behind `from` in the row, or in front of it: in one stretch or two, in the row's order, each of
     /// which an index finds. All of it where `from` is nullptr.
     std::vector<Condition> beyond(const records::Record* from, bool isBehind, const records::Order& order) const;
+
+    /// As `beyond`, in any order.
+    std::vector<Stretch> stretches(const records::Record* from, bool isBehind, const records::Order& order);
+    std::vector<records::Record> rowsOf(const Stretch& stretch, bool isReversed, std::int64_t skipped,
+                                        std::int64_t count, const records::Order& order);
+    std::int64_t countOf(const Stretch& stretch, const records::Order& order);
+
+    // ---- In a row by the texts of another table's records
+
+    /// The other table; nullptr where the order is by what stands in the column itself.
+    SqlRecords* textsOf(const records::Order& order) const;
+    /// Nothing where the record points to none, or to one that is not there.
+    std::optional<records::Record> pointedTo(const records::Record& record, const records::Order& order);
+    /// The records that point to none, in front of all others.
+    Condition pointless(const records::Order& order);
+    /// Whether some point to one that is not there, which only a file allows.
+    bool hasStrays(const records::Order& order);
+    /// Those behind `from`, or in front of it, that point to the same one.
+    Condition beside(const records::Record& from, bool isBehind, const records::Order& order) const;
+    /// Each with its text and its key as "kel_text" and "kel_key", which no column of this table is called.
+    QString others(const Condition& condition) const;
+    QString isPointing(const records::Order& order) const {
+        return nameOf(*order.column) + QLatin1String(" = kel_key");
+    }
+    std::vector<records::Record> rowsOfOthers(const Condition& others, bool isReversed, std::int64_t skipped,
+                                              std::int64_t count, const records::Order& order);
+    std::int64_t countOfOthers(const Condition& others, const records::Order& order);
+    std::int64_t countByTexts(const records::Record* from, const records::Record* to, const records::Order& order);
+    bool isKnownQuick(const records::Order& order);
+    /// That of the other table's records.
+    static records::Order textOrder(const records::Order& order) { return {TextPlace, order.descending}; }
+    static constexpr std::size_t KeyPlace = 0;  ///< in the other table
+    static constexpr std::size_t TextPlace = 1;
+
     bool mayBeNothing(std::size_t place) const { return !column(place).notNull; }
     std::int64_t number(const QString& statement, const QVariantList& values);
+    std::int64_t countOwn(const Condition& condition);
+    /// `from` begins with the name of a table.
+    std::vector<records::Record> allOf(const QString& from, const QVariantList& values);
+    bool hasIndex(const records::Order& order);
     QString orderBy(const records::Order& order, bool isReversed) const;
+    static QString rowTerm(const QString& name, bool mayBeNothing, bool isDown);
     Condition isKey(const records::Cells& key) const;
     QString insertion(const std::vector<records::Change>& values) const;
     QVariantList bound(const std::vector<records::Change>& values) const;
@@ -61,13 +112,20 @@ private:
     /// Whether it stands there just so.
     bool isThere(const records::Record& record);
     records::Record recordIn(const QSqlQuery& query) const;
+    /// `rest` begins with " WHERE".
     std::vector<records::Record> all(const QString& rest, const QVariantList& values);
 
     SqlConnection& Connection_;
     records::Table Table_;
-    QString Select_;            ///< all columns of it
-    std::int64_t Changes_ = 0;  ///< that were made here
-    QString Added_;             ///< what `add` ran last, and for which columns
+    QString Name_;
+    QString Select_;                                            ///< all columns from
+    std::int64_t Changes_ = 0;                                  ///< that were made here
+    std::map<std::size_t, std::unique_ptr<SqlRecords>> Texts_;  ///< by column
+    QStringList Watched_;                                       ///< tables whose changes count
+    std::map<std::size_t, bool> Quick_;                         ///< what is known of it, by column
+    /// By column, with the version of the database in which it was found out.
+    std::map<std::size_t, std::pair<std::int64_t, bool>> Strays_;
+    QString Added_;  ///< what `add` ran last, and for which columns
     std::vector<std::size_t> AddedColumns_;
 };
 

@@ -43,6 +43,9 @@ public:
             "(SELECT name FROM pragma_index_info(list.name) WHERE seqno = 0) = ?");
     }
     QString indexSuffix() const override { return {}; }
+    QString rowsForEach(const QString& table, const QString& condition, const QString& /*orderBy*/) const override {
+        return QStringLiteral(" CROSS JOIN %1 ON %2").arg(table, condition);
+    }
 
     QVariant toSql(const Cell& cell, const Column& /*column*/) const override {
         if (const auto* const text = std::get_if<std::u16string>(&cell)) return toQString(*text);
