@@ -3,6 +3,7 @@
 #include <set>
 
 #include "controls/Classes.h"
+#include "platform/win32/base/WideText.h"
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/ole/Host.h"
 
@@ -15,7 +16,7 @@ constexpr DISPID ChangeId = 1;
 constexpr DISPID ClickId = 2;
 constexpr DISPID ChangeExId = 3;
 
-std::wstring wide(std::u16string_view text) { return {text.begin(), text.end()}; }
+using win32::wide;
 
 std::vector<const ClassModel*> controls() {
     std::vector<const ClassModel*> found;

@@ -8,6 +8,7 @@
 
 #include "controls/Classes.h"
 #include "controls/combo/ListText.h"
+#include "platform/win32/base/WideText.h"
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/ole/Host.h"
 #include "tests/windows/ole/MessageBoxHand.h"
@@ -25,7 +26,7 @@ using namespace kel::tests;
 
 namespace {
 
-std::wstring wide(std::u16string_view text) { return {text.begin(), text.end()}; }
+using win32::wide;
 
 Ref<IDispatch> makeControl(const std::wstring& className) { return create((L"KelControls8." + className).c_str()); }
 

@@ -1,5 +1,6 @@
 // Regional settings as the system gives them, in the library's own terms.
 
+#include "platform/win32/base/WideText.h"
 #include "platform/win32/home/Win32Region.h"
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/ole/Client.h"
@@ -9,7 +10,7 @@ using namespace kel::tests;
 
 namespace {
 
-std::wstring wide(const std::u16string& text) { return {text.begin(), text.end()}; }
+using win32::wide;
 
 /// What every edition of the system's regional data agrees on.
 struct Expected {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "controls/Classes.h"
+#include "platform/win32/base/WideText.h"
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/ole/Client.h"
 
@@ -11,7 +12,7 @@ using namespace kel::tests;
 
 namespace {
 
-std::wstring wide(std::u16string_view text) { return {text.begin(), text.end()}; }
+using win32::wide;
 
 /// The type library that the registry names for a class's library.
 Ref<ITypeLib> loadRegistered() {
