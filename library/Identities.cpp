@@ -1,16 +1,24 @@
 #include "library/Identities.h"
 
-#include <cstdio>
+#include <string_view>
 
 namespace kel {
 
+/// By hand: a component server holds a copy of whatever the standard library prints with.
 std::string textOf(const Guid& guid) {
-    std::array<char, 37> text{};
-    const auto& tail = guid.data4;
-    std::snprintf(text.data(), text.size(), "%08X-%04X-%04X-%02X%02X-%02X%02X%02X%02X%02X%02X",
-                  static_cast<unsigned>(guid.data1), guid.data2, guid.data3, tail[0], tail[1], tail[2], tail[3],
-                  tail[4], tail[5], tail[6], tail[7]);
-    return text.data();
+    constexpr std::string_view Digits = "0123456789ABCDEF";
+    constexpr int HighestDigit = 60;
+    std::uint64_t head = std::uint64_t{guid.data1} << 32 | std::uint64_t{guid.data2} << 16 | guid.data3;
+    std::uint64_t tail = 0;
+    for (const std::uint8_t byte : guid.data4) tail = tail << 8 | byte;
+    std::string text = "xxxxxxxx-xxxx-xxxx-xxxx-xxxxxxxxxxxx";
+    for (char& each : text) {
+        if (each == '-') continue;
+        each = Digits[head >> HighestDigit];
+        head = head << 4 | tail >> HighestDigit;
+        tail <<= 4;
+    }
+    return text;
 }
 
 }  // namespace kel

@@ -8,7 +8,7 @@
 #include <limits>
 #include <utility>
 
-#include "values/PrintedDigits.h"
+#include "values/LongDivision.h"
 
 namespace kel {
 
@@ -56,7 +56,7 @@ bool shortDecimal(double size, Decimal& out) {
     return static_cast<double>(digits) / Scale == size;
 }
 
-#ifndef KEL_PRINTED_DIGITS
+#ifndef KEL_LONG_DIVISION
 /// Reads "d.ddde-xx".
 Decimal fromScientific(std::string_view text) {
     Decimal decimal;
@@ -73,10 +73,21 @@ Decimal fromScientific(std::string_view text) {
 }
 #endif
 
-double readScientific(const char* first, const char* last, bool isLarge) {
+/// The nearest to "0.`digits`" times ten to the power of `exponent`.
+double nearest(std::string_view digits, std::int64_t exponent) {
+#ifdef KEL_LONG_DIVISION
+    return nearestByDivision(digits, static_cast<std::int32_t>(exponent));
+#else
+    constexpr std::string_view Lead = "0.";
+    std::array<char, Lead.size() + MostDividedDigits + 8> text;
+    char* at = std::copy(Lead.begin(), Lead.end(), text.data());
+    at = std::copy(digits.begin(), digits.end(), at);
+    *at++ = 'e';
+    at = std::to_chars(at, text.data() + text.size(), exponent).ptr;
     double number = 0;
-    if (std::from_chars(first, last, number).ec == std::errc()) return number;
-    return isLarge ? std::numeric_limits<double>::infinity() : 0;
+    if (std::from_chars(text.data(), at, number).ec == std::errc()) return number;
+    return exponent > 0 ? std::numeric_limits<double>::infinity() : 0;
+#endif
 }
 
 double sizeOf(const Decimal& decimal) {
@@ -88,11 +99,10 @@ double sizeOf(const Decimal& decimal) {
         return decimal.Exponent < 0 ? digits / ExactPowers[power] : digits * ExactPowers[power];
     }
     constexpr std::size_t MostDigits = 20;
-    std::array<char, MostDigits + 12> text;
-    char* at = std::to_chars(text.data(), text.data() + MostDigits, decimal.Digits).ptr;
-    *at++ = 'e';
-    at = std::to_chars(at, text.data() + text.size(), decimal.Exponent).ptr;
-    return readScientific(text.data(), at, decimal.Exponent > 0);
+    std::array<char, MostDigits> text;
+    char* const end = std::to_chars(text.data(), text.data() + text.size(), decimal.Digits).ptr;
+    const auto count = static_cast<std::size_t>(end - text.data());
+    return toDouble({text.data(), count}, decimal.Exponent + static_cast<std::int64_t>(count));
 }
 
 /// A sum of decimals digit by digit, wide enough for any two doubles.
@@ -146,8 +156,8 @@ Decimal shortestDecimal(double number) {
     if (size == 0) return {};
     Decimal decimal;
     if (!shortDecimal(size, decimal)) {
-#ifdef KEL_PRINTED_DIGITS
-        decimal = printedDecimal(size);
+#ifdef KEL_LONG_DIVISION
+        decimal = shortestByDivision(size);
 #else
         std::array<char, 40> text;
         const auto end = std::to_chars(text.data(), text.data() + text.size(), size, std::chars_format::scientific).ptr;
@@ -183,15 +193,11 @@ double toDouble(std::string_view digits, std::int64_t exponent) {
 
     // Rounding to a double looks at no more than 767 digits and at whether something follows them.
     constexpr std::size_t KeptDigits = 770;
-    constexpr std::string_view Lead = "0.";
-    std::array<char, Lead.size() + KeptDigits + 8> text;
     const std::string_view kept = digits.substr(0, KeptDigits);
-    char* at = std::copy(Lead.begin(), Lead.end(), text.data());
-    at = std::copy(kept.begin(), kept.end(), at);
-    if (digits.find_first_not_of('0', kept.size()) != std::string_view::npos) *at++ = '1';
-    *at++ = 'e';
-    at = std::to_chars(at, text.data() + text.size(), exponent).ptr;
-    return readScientific(text.data(), at, exponent > 0);
+    if (digits.find_first_not_of('0', kept.size()) == std::string_view::npos) return nearest(kept, exponent);
+    std::array<char, KeptDigits + 1> text;
+    *std::copy(kept.begin(), kept.end(), text.data()) = '1';
+    return nearest({text.data(), text.size()}, exponent);
 }
 
 double roundDecimally(double number, std::int32_t places) {

@@ -4,10 +4,12 @@
 
 #include <bit>
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <limits>
 #include <random>
 
-#include "values/PrintedDigits.h"
+#include "values/LongDivision.h"
 
 namespace kel {
 namespace {
@@ -53,14 +55,14 @@ TEST(Decimal, RoundsHalfAwayFromZeroOnTheShortestText) {
 }
 
 /// The two ways to the shortest text of a double agree.
-TEST(Decimal, IsTheSamePrintedAsByTables) {
+TEST(Decimal, IsTheSameByDivisionAsByTables) {
     const auto check = [](double size) {
-        Decimal printed = printedDecimal(size);
+        Decimal divided = shortestByDivision(size);
         Decimal wanted = shortestDecimal(size);
-        for (Decimal* const each : {&printed, &wanted})
+        for (Decimal* const each : {&divided, &wanted})
             for (; each->Digits % 10 == 0; ++each->Exponent) each->Digits /= 10;
-        EXPECT_EQ(printed.Digits, wanted.Digits) << size;
-        EXPECT_EQ(printed.Exponent, wanted.Exponent) << size;
+        EXPECT_EQ(divided.Digits, wanted.Digits) << size;
+        EXPECT_EQ(divided.Exponent, wanted.Exponent) << size;
     };
     for (int power = -1074; power < 1024; ++power)
         for (const double toward : {0.0, Infinity, std::ldexp(1.0, power)})
@@ -69,6 +71,24 @@ TEST(Decimal, IsTheSamePrintedAsByTables) {
     std::mt19937_64 random(5);
     for (int i = 0; i < 20'000; ++i)
         if (const double size = std::fabs(std::bit_cast<double>(random())); size > 0 && size < Infinity) check(size);
+}
+
+/// Where it is hardest to say which of two doubles a text is nearer to: at, and a little beside, the middle of both.
+TEST(Decimal, ReadsTheSameByDivisionAsByTables) {
+    const auto check = [](double size) {
+        const long double middle = (static_cast<long double>(size) + std::nextafter(size, Infinity)) / 2;
+        for (const int digits : {17, 20, 770}) {
+            std::string text(800, '\0');
+            text.resize(static_cast<std::size_t>(std::snprintf(text.data(), text.size(), "%.*Le", digits - 1, middle)));
+            const std::string row = text[0] + text.substr(2, static_cast<std::size_t>(digits - 1));
+            const int exponent = std::atoi(text.c_str() + text.find('e') + 1) + 1;
+            EXPECT_EQ(nearestByDivision(row, exponent), std::strtod(text.c_str(), nullptr)) << text;
+        }
+    };
+    for (int power = -1074; power < 1024; power += 3) check(std::ldexp(1.0, power));
+    std::mt19937_64 random(6);
+    for (int i = 0; i < 500; ++i)
+        if (const double size = std::fabs(std::bit_cast<double>(random())); size < Largest) check(size);
 }
 
 TEST(Decimal, AddsWhatPeopleSee) {
