@@ -14,7 +14,7 @@ std::string textOf(const Guid& guid) {
     std::string text = "xxxxxxxx-xxxx-xxxx-xxxx-xxxxxxxxxxxx";
     for (char& each : text) {
         if (each == '-') continue;
-        each = Digits[head >> HighestDigit];
+        each = Digits[static_cast<std::size_t>(head >> HighestDigit)];
         head = head << 4 | tail >> HighestDigit;
         tail <<= 4;
     }

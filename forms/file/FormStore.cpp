@@ -1,8 +1,8 @@
 #include "forms/file/FormStore.h"
 
 #include <algorithm>
-#include <array>
 #include <fstream>
+#include <vector>
 
 #include "forms/file/FormError.h"
 
@@ -34,10 +34,11 @@ std::string readWholeFile(const fs::path& path) {
     std::ifstream stream(path, std::ios::binary);
     if (!stream) throw FormError(utf8Of(path), 0, "cannot be opened");
     std::string bytes;
-    std::array<char, 1 << 16> chunk;
+    std::vector<char> chunk(1 << 16);
     const std::uintmax_t size = fs::file_size(path, fault);
     if (!fault) bytes.reserve(static_cast<std::size_t>(std::min<std::uintmax_t>(size, LargestFile)));
-    while (bytes.size() <= LargestFile && stream.read(chunk.data(), chunk.size()).gcount() > 0)
+    while (bytes.size() <= LargestFile &&
+           stream.read(chunk.data(), static_cast<std::streamsize>(chunk.size())).gcount() > 0)
         bytes.append(chunk.data(), static_cast<std::size_t>(stream.gcount()));
     if (stream.bad()) throw FormError(utf8Of(path), 0, "cannot be read");
     if (bytes.size() > LargestFile) throw FormError(utf8Of(path), 0, "is larger than 2 GB");
