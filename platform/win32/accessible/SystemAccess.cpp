@@ -1,20 +1,10 @@
 #include "platform/win32/accessible/SystemAccess.h"
 
-#include <string>
-
 #include "platform/win32/base/Procedure.h"
 
 namespace kel::win32 {
 
 namespace {
-
-/// The system's own, whatever lies beside the program.
-HMODULE libraryOf(const wchar_t* name) {
-    wchar_t folder[MAX_PATH] = L"";
-    const UINT length = GetSystemDirectoryW(folder, MAX_PATH);
-    if (length == 0 || length >= MAX_PATH) return nullptr;
-    return LoadLibraryW((std::wstring(folder) + name).c_str());
-}
 
 template <class Function>
 void find(HMODULE library, const char* name, Function*& function) {
@@ -30,10 +20,10 @@ const SystemAccess& SystemAccess::instance() {
 
 /// The libraries stay: what has come out of them may be held for as long as the process lives.
 SystemAccess::SystemAccess() {
-    HMODULE const older = libraryOf(L"\\oleacc.dll");
+    HMODULE const older = systemLibrary(L"oleacc.dll");
     find(older, "LresultFromObject", ResultOf_);
     find(older, "CreateStdAccessibleObject", StandardObject_);
-    HMODULE const newer = libraryOf(L"\\uiautomationcore.dll");
+    HMODULE const newer = systemLibrary(L"uiautomationcore.dll");
     find(newer, "UiaReturnRawElementProvider", ReturnProvider_);
     find(newer, "UiaHostProviderFromHwnd", HostOf_);
     find(newer, "UiaGetReservedNotSupportedValue", NotSupported_);

@@ -1,10 +1,16 @@
-#include "platform/win32/drawing/CanvasText.h"
+#include <windows.h>
+// The header of the system's typesetter stands on the system's.
+#include <usp10.h>
 
 #include <algorithm>
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "host/focus/Mnemonic.h"
+#include "platform/win32/base/Procedure.h"
 #include "platform/win32/base/WideText.h"
+#include "platform/win32/drawing/CanvasText.h"
 #include "values/Text.h"
 
 namespace kel::win32 {
@@ -18,6 +24,38 @@ UINT readingOptions(const Canvas& canvas) {
     const DWORD layout = GetLayout(canvas.context());
     const bool isTurned = layout != GDI_ERROR && (layout & LAYOUT_RTL) != 0;
     return isTurned || canvas.isMirrored() ? ETO_RTLREADING : 0U;
+}
+
+/// Whether anything in it may be read from right to left.
+bool mayTurnBack(std::wstring_view line) {
+    constexpr wchar_t FirstHebrew = 0x590;
+    return std::any_of(line.begin(), line.end(), [](wchar_t unit) { return unit >= FirstHebrew; });
+}
+
+struct Stretch {
+    int from = 0;
+    int to = 0;
+};
+
+/// Where the system's typesetter puts a character, from the left end of its line. None without it.
+std::optional<Stretch> placed(HDC context, std::wstring_view line, std::size_t at, bool fromRight) {
+    static HMODULE const Library = systemLibrary(L"usp10.dll");
+    static auto* const Analyse = procedureOf<decltype(ScriptStringAnalyse)>(Library, "ScriptStringAnalyse");
+    static auto* const PlaceOf = procedureOf<decltype(ScriptStringCPtoX)>(Library, "ScriptStringCPtoX");
+    static auto* const Free = procedureOf<decltype(ScriptStringFree)>(Library, "ScriptStringFree");
+    if (Analyse == nullptr || PlaceOf == nullptr || Free == nullptr) return std::nullopt;
+    const auto length = static_cast<int>(line.size());
+    const int glyphs = length * 3 / 2 + 16;  // as many as it asks for at least
+    SCRIPT_STRING_ANALYSIS analysis = nullptr;
+    if (FAILED(Analyse(context, line.data(), length, glyphs, -1, SSA_GLYPHS | (fromRight ? SSA_RTL : 0U), 0, nullptr,
+                       nullptr, nullptr, nullptr, nullptr, &analysis)))
+        return std::nullopt;
+    Stretch found;
+    PlaceOf(analysis, static_cast<int>(at), FALSE, &found.from);
+    PlaceOf(analysis, static_cast<int>(at), TRUE, &found.to);
+    Free(&analysis);
+    if (found.from > found.to) std::swap(found.from, found.to);
+    return found;
 }
 
 }  // namespace
@@ -78,12 +116,19 @@ void CanvasText::caption(const RECT& area, std::u16string_view caption, COLORREF
     });
 }
 
-/// Where the system puts it.
+/// Where the system puts it. A Latin word stands as ever in a line that begins at the right, and its first letter is
+/// the last from there.
 void CanvasText::underline(POINT place, std::wstring_view line, std::size_t at, COLORREF ink) const {
-    const int left = static_cast<int>(place.x) + width(line.substr(0, at));
-    const int right = static_cast<int>(place.x) + width(line.substr(0, at + 1));
+    Stretch letter{width(line.substr(0, at)), width(line.substr(0, at + 1))};
+    const bool fromRight = readingOptions(Canvas_) != 0;
+    if (fromRight || mayTurnBack(line)) {
+        letter = placed(Measure_, line, at, fromRight).value_or(letter);
+        const int whole = width(line);
+        if (fromRight) letter = {whole - letter.to, whole - letter.from};
+    }
+    const int left = static_cast<int>(place.x);
     const int top = static_cast<int>(place.y) + ascent() + Canvas_.down(1);
-    Canvas_.fill({left, top, right, top + Canvas_.down(1)}, ink);
+    Canvas_.fill({left + letter.from, top, left + letter.to, top + Canvas_.down(1)}, ink);
 }
 
 void CanvasText::lines(const RECT& area, std::wstring_view text, COLORREF ink) const {

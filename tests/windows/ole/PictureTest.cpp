@@ -371,6 +371,59 @@ TEST(picture_is_what_the_window_shows) {
     if (!wrong.empty()) fail(__FILE__, __LINE__, wrong);
 }
 
+/// The letter that stands first in a line that begins at the right is the last of a Latin word, and the first of a
+/// Hebrew one.
+TEST(picture_underlines_the_letter_of_the_mnemonic) {
+    constexpr RECT Area{10, 10, 250, 30};
+    const struct {
+        const wchar_t* caption;
+        bool mirrored;
+        double from, to;  // of the width of the caption
+    } rows[] = {{L"&Wiiiii", false, 0, 0.5},
+                {L"&Wiiiii", true, 0, 0.5},
+                {L"iiiii&W", true, 0.5, 1},
+                {L"&\u05E9\u05D5\u05D5\u05D5\u05D5", true, 0.5, 1},
+                {L"&\u05E9\u05D5\u05D5\u05D5\u05D5", false, 0.5, 1},
+                {L"\u05D5\u05D5\u05D5\u05D5&\u05E9", true, 0, 0.5}};
+    std::string wrong;
+    for (const auto& row : rows) {
+        Picture unmarked, marked;
+        for (Picture* const each : {&unmarked, &marked}) {
+            std::wstring caption = row.caption;
+            if (each == &unmarked) std::erase(caption, L'&');
+            Host host;
+            const auto control = host.place(create(L"KelControls8.KelText"));
+            Var fromRight;
+            fromRight.Value.vt = VT_BOOL;
+            fromRight.Value.boolVal = row.mirrored ? VARIANT_TRUE : VARIANT_FALSE;
+            host.say(DISPID_AMBIENT_RIGHTTOLEFT, std::move(fromRight));
+            SIZEL size = Size;
+            EXPECT_CODE(host.object()->SetExtent(DVASPECT_CONTENT, &size), S_OK);
+            Bag bag;
+            bag.Texts = {{L"Caption", caption}, {L"CaptionWidth", L"1200"}};
+            EXPECT_CODE(load(control.get(), bag), S_OK);
+            EXPECT_CODE(draw(control.get(), each->context(), {Area.left, Area.top, Area.right, Area.bottom}), S_OK);
+        }
+        const int from = row.mirrored ? 172 : 10;
+        const int to = from + 78;
+        const DWORD ground = unmarked.at(row.mirrored ? from : to, Area.top);
+        int left = to, right = from, lineFrom = to, lineTo = from;
+        for (int y = Area.top; y < Area.bottom; ++y)
+            for (int x = from; x < to; ++x) {
+                if (unmarked.at(x, y) != ground) left = std::min(left, x), right = std::max(right, x + 1);
+                if (marked.at(x, y) != unmarked.at(x, y))
+                    lineFrom = std::min(lineFrom, x), lineTo = std::max(lineTo, x + 1);
+            }
+        const int title = static_cast<int>(&row - rows);
+        keep(marked, "mnemonic " + std::to_string(title));
+        const double width = right - left;
+        if (lineFrom >= lineTo || lineFrom < left + width * row.from - 2 || lineTo > left + width * row.to + 2)
+            wrong += std::to_string(title) + ": text " + std::to_string(left) + " to " + std::to_string(right) +
+                     ", line " + std::to_string(lineFrom) + " to " + std::to_string(lineTo) + "; ";
+    }
+    if (!wrong.empty()) fail(__FILE__, __LINE__, wrong);
+}
+
 /// The changeable brush of a context has no colour in a metafile: all its fills came out white there.
 TEST(picture_keeps_every_colour_in_a_metafile) {
     constexpr RECT Area{10, 10, 250, 30};
