@@ -28,12 +28,19 @@ struct Spelling {
     char32_t letter;
     std::u16string_view plain;
 };
-constexpr Spelling Spellings[] = {{0xDF, u"ss"}, {0xE6, u"ae"},  {0xF0, u"d"},  {0xF8, u"o"},
-                                  {0xFE, u"th"}, {0x111, u"d"},  {0x127, u"h"}, {0x131, u"i"},
-                                  {0x142, u"l"}, {0x153, u"oe"}, {0x167, u"t"}, {0x1E9E, u"ss"}};
+constexpr Spelling Spellings[] = {{0xDF, u"ss"},   {0xE6, u"ae"},    {0xF0, u"d"},    {0xF8, u"o"},    {0xFE, u"th"},
+                                  {0x111, u"d"},   {0x127, u"h"},    {0x131, u"i"},   {0x142, u"l"},   {0x153, u"oe"},
+                                  {0x167, u"t"},   {0x1E9E, u"ss"},  {0x130, u"i"},   {0xFB00, u"ff"}, {0xFB01, u"fi"},
+                                  {0xFB02, u"fl"}, {0xFB03, u"ffi"}, {0xFB04, u"ffl"}};
+
+/// Letters and digits as wide as those of Chinese and Japanese, in the order of the usual ones.
+constexpr char32_t FirstWide = 0xFF01;
+constexpr char32_t LastWide = 0xFF5E;
+constexpr char32_t FromWide = FirstWide - U'!';
 
 char32_t plainLetter(char32_t folded) {
     if (folded < FirstAccented) return folded;
+    if (folded >= FirstWide && folded <= LastWide) return folded - FromWide;
     const auto* const found =
         std::lower_bound(std::begin(PlainLetters), std::end(PlainLetters), folded,
                          [](const PlainLetter& row, char32_t letter) { return row.letter < letter; });

@@ -149,5 +149,22 @@ TEST_F(Crowd, IndexMakesAnOrderQuick) {
     expectPlaces();
 }
 
+/// What people type for what is written, and the other way round.
+TEST(SearchKeyTests, IsTheSameForWhatPeopleTakeForTheSame) {
+    const struct {
+        std::u16string_view written;
+        std::u16string_view typed;
+    } rows[] = {
+        {u"Stra\u00DFe", u"STRASSE"},
+        {u"Cafe\u0301", u"caf\u00E9"},
+        {u"\u0130stanbul", u"istanbul"},
+        {u"D\u0131yarbak\u0131r", u"DIYARBAKIR"},
+        {u"o\uFB03ce \uFB01n", u"OFFICE FIN"},
+        {u"\uFF26\uFF35\uFF2C\uFF2C\uFF11", u"full1"},
+        {u"\u03A3\u038A\u03A3\u03A5\u03A6\u039F\u03A3", u"\u03C3\u03B9\u03C3\u03C5\u03C6\u03BF\u03C2"},
+    };
+    for (const auto& row : rows) EXPECT_EQ(searchKey(row.written), searchKey(row.typed)) << toUtf8(row.written);
+}
+
 }  // namespace
 }  // namespace kel::test
