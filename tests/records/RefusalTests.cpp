@@ -42,7 +42,13 @@ TEST_F(OnDatabase, SaysWhyItIsNotOpened) {
         {"a later version of this program", there, [&] { writeAt(there, 60, std::string("\0\0\0\2", 4)); }, newer},
         {"no folder", folder + "/kel-no-folder/a.sqlite", [] {}, "There is no folder"},
         {"a folder", folder, [] {}, "is a folder", folder},
-        {"no server", "postgresql://nobody@/nothing?host=" + folder, [] {}, "No connection to the server", "nothing"},
+        {"another kind of address", "mysql://a@b/c", [] {}, "a database is a file, or is written postgresql://",
+         "mysql"},
+        {"nothing that is passed over", "postgresql://nobody@/nothing?sslmod=require", [] {},
+         "\"sslmod=require\" is not", "nothing"},
+        {"no server of that safety", "postgresql://nobody@/nothing?host=" + folder + "&sslmode=never", [] {},
+         "No connection to the server. Please try again in a moment; what is on the screen stays. invalid sslmode",
+         "nothing"},
     };
     if (isServer()) GTEST_SKIP() << "this is about files";
     for (const auto& row : rows) {

@@ -24,6 +24,14 @@ constexpr auto ShortestPause = 1ms;  ///< most locks are held for the time of a 
 constexpr auto LongestPause = 20ms;
 constexpr auto Beside = 4ms;  ///< between two looks at the window while another thread works
 
+/// What the server's own library takes from an address.
+const QStringList& passedOn() {
+    static const QStringList Names{QStringLiteral("sslmode"), QStringLiteral("sslrootcert"),
+                                   QStringLiteral("sslcert"), QStringLiteral("sslkey"),
+                                   QStringLiteral("options"), QStringLiteral("application_name")};
+    return Names;
+}
+
 /// Connections of Qt have names, which are the process's.
 QString nextName() {
     static std::atomic<int> count = 0;
@@ -36,6 +44,9 @@ SqlAddress addressOf(const std::string& database) {
     SqlAddress address;
     const QString text = QString::fromUtf8(database.c_str());
     if (!text.startsWith(QLatin1String("postgresql://")) && !text.startsWith(QLatin1String("postgres://"))) {
+        if (text.contains(QLatin1String("://")))
+            throw StoreError(Kind::Wrong,
+                             database + ": a database is a file, or is written postgresql://user@host:port/name");
         address.file = text;
         return address;
     }
@@ -44,10 +55,20 @@ SqlAddress addressOf(const std::string& database) {
         throw StoreError(Kind::Wrong, database + ": a database is written postgresql://user@host:port/name");
     address.isServer = true;
     address.host = url.host();
-    // A folder stands for a local socket: postgresql://user@/name?host=/run/postgresql
-    constexpr QLatin1String Host("host=");
-    for (const QString& part : url.query(QUrl::FullyDecoded).split(QLatin1Char('&')))
-        if (part.startsWith(Host)) address.host = part.mid(Host.size());
+    // A folder stands for a local socket: postgresql://user@/name?host=/run/postgresql. What else is said there, such
+    // as sslmode=require, the driver must hear or the person: a connection is not to be less safe than it was asked
+    // for.
+    const QStringList query = url.query().split(QLatin1Char('&'), Qt::SkipEmptyParts);
+    for (const QString& part : query) {
+        const QString name = part.section(QLatin1Char('='), 0, 0);
+        const QString value = QUrl::fromPercentEncoding(part.section(QLatin1Char('='), 1).toUtf8());
+        if (name == QLatin1String("host"))
+            address.host = value;
+        else if (value.contains(QLatin1Char(';')) || !passedOn().contains(name))
+            throw StoreError(Kind::Wrong, database + ": \"" + part.toStdString() + "\" is not understood.");
+        else
+            address.options += QLatin1Char(';') + name + QLatin1Char('=') + value;
+    }
     address.port = url.port(0);
     address.user = url.userName();
     address.password = url.password();
@@ -95,7 +116,7 @@ void SqlConnection::setUp() {
     base.setUserName(Address_.user);
     base.setPassword(Address_.password);
     base.setDatabaseName(Address_.name);
-    base.setConnectOptions(QStringLiteral("connect_timeout=5;tcp_user_timeout=10000"));
+    base.setConnectOptions(QStringLiteral("connect_timeout=5;tcp_user_timeout=10000") + Address_.options);
 }
 
 void SqlConnection::open() {

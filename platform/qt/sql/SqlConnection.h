@@ -20,6 +20,7 @@ struct SqlAddress {
     QString user;
     QString password;
     QString name;
+    QString options;  ///< ";sslmode=require": whatever else the address says
 };
 
 SqlAddress addressOf(const std::string& database);
