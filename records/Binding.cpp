@@ -274,11 +274,20 @@ bool Binding::isTrue(std::u16string_view member) const { return records::isTrue(
 
 bool Binding::isChanged() const { return isTrue(u"ChangedSaved"); }
 
+bool Binding::isDrawn(double number, const Cell& before) const {
+    if (isNull(before)) return false;
+    const Variant least = get(u"MinValue");
+    const Variant most = get(u"MaxValue");
+    const double there = numberIn(before);
+    return there != number && number == std::clamp(there, std::get<double>(least), std::get<double>(most));
+}
+
 Cell Binding::cell(const Column& column, const Cell& before) const {
     if (ByTag_) return textCell(column, tag());
     const Variant value = get(valueMember().name);
     if (const std::u16string* const text = textIn(value)) return textCell(column, *text);
-    if (const auto* const number = std::get_if<double>(&value)) return numberCell(column, *number);
+    if (const auto* const number = std::get_if<double>(&value))
+        return isDrawn(*number, before) ? before : numberCell(column, *number);
     if (const bool* const truth = std::get_if<bool>(&value)) return static_cast<std::int64_t>(*truth ? 1 : 0);
     if (const auto* const date = std::get_if<Date>(&value))
         return dateCell(column.type, Kind_ == Kind::Time, *date, before);
@@ -289,6 +298,7 @@ Cell Binding::cell(const Column& column, const Cell& before) const {
 }
 
 bool Binding::holds(const Column& column, const Cell& now) const {
+    if (Kind_ == Kind::Number && isDrawn(std::get<double>(get(valueMember().name)), now)) return false;
     const Cell own = cell(column, now);
     return own == now || (Kind_ == Kind::Number && !isNull(now) && numberIn(own) == numberIn(now));
 }

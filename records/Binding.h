@@ -102,6 +102,8 @@ private:
     void put(std::u16string_view member, const Variant& value) const;
     /// What stands in the field, as a person sees it.
     std::u16string look() const;
+    /// A number field draws what is beyond its bounds to the nearest of them when it is left. Nobody has typed that.
+    bool isDrawn(double number, const Cell& before) const;
     /// The part of a moment that a date or a time field shows; nothing where it has none.
     std::optional<Date> dayOrTimeIn(std::u16string_view text) const;
     std::u16string textWithTag(const std::u16string& tag) const;

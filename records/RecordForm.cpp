@@ -1,6 +1,7 @@
 #include "records/RecordForm.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "values/Text.h"
 
@@ -86,6 +87,12 @@ void RecordForm::compareWith(std::optional<Record> record) {
     Shown_ = std::move(record);
     Kept_.clear();
     Duplicated_ = false;
+    Copied_.reset();
+}
+
+void RecordForm::becomeNew() {
+    Copied_ = std::exchange(Shown_, std::nullopt);
+    Duplicated_ = true;
 }
 
 void RecordForm::show(const Record& record) {
@@ -110,8 +117,7 @@ bool RecordForm::startNew() {
 
 bool RecordForm::duplicate() {
     if (!mayLeave()) return false;
-    Shown_.reset();
-    Duplicated_ = true;
+    becomeNew();
     // The number of the other record is not the new one's.
     for (Binding& binding : Bindings_)
         if (binding.isGiven(columnOf(binding))) binding.showDefault(*Form_);
@@ -231,7 +237,13 @@ std::vector<Change> RecordForm::allValues() const {
     std::vector<Change> values;
     for (const Binding& binding : Bindings_) {
         const Column& column = columnOf(binding);
-        if (!binding.isGiven(column)) addValue(values, binding, Null{});
+        if (binding.isGiven(column)) continue;
+        if (!Copied_)
+            addValue(values, binding, Null{});
+        else if (binding.isChanged())
+            addValue(values, binding, Copied_->cells[binding.column()]);
+        else if (changeOf(values, binding.column()) == nullptr)
+            values.push_back({binding.column(), Copied_->cells[binding.column()]});
     }
     std::erase_if(values,
                   [&](const Change& change) { return isLeftToDatabase(table().columns[change.column], change.value); });
@@ -287,8 +299,7 @@ bool RecordForm::settle() {
     const std::optional<Record> now = Store_->read(keyOf(table(), *Shown_));
     if (!now) {
         if (!Questions_->keepDeleted()) return false;
-        Shown_.reset();
-        Duplicated_ = true;
+        becomeNew();
         return true;
     }
     // It was to be held for the change, and is there as it was: only reading it is allowed.

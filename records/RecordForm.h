@@ -95,6 +95,8 @@ private:
     bool walk(Way way);
     /// Shows the next one from there; false where there is none.
     bool step(const Record* from, Way way);
+    /// What stands on the screen is another record from now on.
+    void becomeNew();
     /// From now on this is what the screen is compared with; a new record has nothing to compare with.
     void compareWith(std::optional<Record> record);
     /// Runs `action`; what the database says against it is told to the person.
@@ -127,7 +129,8 @@ private:
     std::set<std::size_t> Carried_;  ///< columns
     Order Order_;
     std::int64_t Saves_ = 0;
-    bool Duplicated_ = false;  ///< a new record that is worth keeping as it stands
+    bool Duplicated_ = false;       ///< a new record that is worth keeping as it stands
+    std::optional<Record> Copied_;  ///< of which it was made: fields may show less than there is
 };
 
 }  // namespace kel::records

@@ -174,6 +174,39 @@ TEST_F(OnDatabase, NoRecordIsPointedToByZero) {
     EXPECT_EQ(person.text(u"numId"), u"7") << "the number of another record";
 }
 
+/// What stands in a database may be more than a field shows. It stays, and goes along into a duplicate.
+TEST_F(OnDatabase, WhatAFieldCannotShowIsKept) {
+    execute(
+        "CREATE TABLE member (id INTEGER DEFAULT 7 PRIMARY KEY, name TEXT, fee NUMERIC(9,2), meets TIMESTAMP, town "
+        "TEXT)");
+    execute("INSERT INTO member VALUES (1, 'Anna', 1234.50, '2013-03-15 10:15:30', 'East')");
+    const auto store = open();
+    Person person(formOf({{"numFee", "KelNumber", UpTo99 + "      MinValue = 1\r\n"},
+                          {"txtName", "KelText", ""},
+                          {"datMeets", "KelDate", ""},
+                          {"cboTown", "KelCombo", "      List = \"North,South\"\r\n"}}),
+                  *store, u"member");
+    person.put(u"txtName", std::u16string(u"Anne"));
+    person.click(u"numFee");
+    person.click(u"txtName");
+    EXPECT_EQ(person.text(u"numFee"), u"99.00") << "the field draws it to its bound";
+    EXPECT_TRUE(person.records().save()) << person.heard;
+    EXPECT_EQ(person.text(u"numFee"), u"1,234.50");
+    person.put(u"numFee", 5.0);
+    EXPECT_TRUE(person.records().duplicate() == false) << "it is changed, and stays";
+    EXPECT_TRUE(person.records().save());
+    EXPECT_TRUE(person.records().duplicate() && person.records().save()) << person.heard;
+    EXPECT_EQ(
+        value("SELECT count(*) FROM member WHERE name = 'Anne' AND CAST(fee AS INTEGER) = 5 AND town = 'East' AND "
+              "CAST(meets AS TEXT) = '2013-03-15 10:15:30'"),
+        "2");
+    execute("DELETE FROM member");
+    EXPECT_TRUE(person.records().startNew());
+    person.put(u"numFee", 1.0);
+    EXPECT_TRUE(person.records().save()) << person.heard;
+    EXPECT_EQ(value("SELECT CAST(fee AS INTEGER) FROM member"), "1") << "a bound may be typed";
+}
+
 /// What a server says has more to it than a person wants to read; a list goes on behind a record that is refused.
 TEST_F(OnDatabase, RefusalsOfAServerAreWords) {
     if (!isServer()) GTEST_SKIP() << "files say less";
