@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::size_t KeyPlace = 0;
 constexpr std::size_t TextPlace = 1;
+constexpr std::int32_t FewAlike = 100;  ///< texts that differ in case, or in what follows
 /// Doubles tell whole numbers apart up to here.
 constexpr double LargestExact = 9007199254740992.0;
 
@@ -98,10 +99,28 @@ std::optional<Table> lookupTable(Store& store, const Column& column) {
 
 Lookup::Lookup(Store& store, const Table& table) : Records_(store.open(table)) { refresh(); }
 
-bool Lookup::refresh() {
-    // To read the beginning of a large table anew may take a while, and a person waits for the list.
-    if (Rows_.size() == static_cast<std::size_t>(MostRows)) return false;
-    std::vector<Record> rows = Records_->walk(nullptr, Way::Forward, MostRows, {TextPlace, false});
+std::vector<Record> Lookup::rowsAround(const std::u16string& key) {
+    constexpr Order ByText{TextPlace, false};
+    const std::optional<Cell> cell = key.empty() ? std::nullopt : keyCell(Records_->table().columns[KeyPlace], key);
+    const std::optional<Record> middle = cell && IsPart_ ? Records_->read({*cell}) : std::nullopt;
+    std::vector<Record> rows;
+    if (middle) {
+        rows = Records_->walk(&*middle, Way::Backward, MostRows / 2, ByText);
+        std::reverse(rows.begin(), rows.end());
+        rows.push_back(*middle);
+    }
+    IsFromFirst_ = !middle;
+    const auto missing = MostRows - static_cast<std::int32_t>(rows.size());
+    std::vector<Record> more = Records_->walk(middle ? &*middle : nullptr, Way::Forward, missing, ByText);
+    if (!middle) IsPart_ = more.size() == static_cast<std::size_t>(MostRows);
+    rows.insert(rows.end(), std::make_move_iterator(more.begin()), std::make_move_iterator(more.end()));
+    return rows;
+}
+
+bool Lookup::refresh(const std::u16string& key) {
+    // To read so much anew may take a while, and a person waits for the list.
+    if (IsPart_ && (key.empty() ? IsFromFirst_ : find(key) && !isAdded(key))) return false;
+    std::vector<Record> rows = rowsAround(key);
     Others_.clear();
     if (rows == Rows_ && !Places_.empty()) return false;
     Rows_ = std::move(rows);
@@ -136,6 +155,25 @@ std::u16string Lookup::textOf(const std::u16string& key) const {
     if (const auto place = find(key)) return Texts_[*place];
     // Another record may have the same text.
     return withKey(other(key).value_or(u""), key);
+}
+
+bool Lookup::addBeginningWith(const std::u16string& text) {
+    if (!IsPart_ || text.empty()) return false;
+    const std::vector<Record> found = Records_->startingWith(TextPlace, text, 1);
+    if (found.empty() || find(records::textOf(found.front().cells[KeyPlace]))) return false;
+    add(records::textOf(found.front().cells[KeyPlace]));
+    return true;
+}
+
+std::optional<std::u16string> Lookup::keyOfText(const std::u16string& text) const {
+    std::optional<std::u16string> key;
+    if (!IsPart_) return key;
+    for (const Record& record : Records_->startingWith(TextPlace, text, FewAlike)) {
+        if (records::textOf(record.cells[TextPlace]) != text) continue;
+        if (key) return std::nullopt;
+        key = records::textOf(record.cells[KeyPlace]);
+    }
+    return key;
 }
 
 void Lookup::add(const std::u16string& key) {

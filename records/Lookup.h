@@ -19,15 +19,16 @@ std::optional<Table> lookupTable(Store& store, const Column& column);
 /// letters without regard to case and accents; and their keys.
 class Lookup {
 public:
-    /// As many as a combo field takes, and room for another one. In a larger table the first by their texts stand in
-    /// the list; the others are shown, each with its key, and kept.
+    /// As many as a combo field takes, and room for another one. Of a larger table those stand in the list that are
+    /// around one by their texts, at first the first; of the others each is found by how its text begins.
     static constexpr std::int32_t MostRows = 32766;
 
     /// `table` as `lookupTable` gives it. Reads the list. Throws StoreError. The store outlives it.
     Lookup(Store& store, const Table& table);
 
-    /// Reads the list again, unless it is as long as may be; whether it is another one now. Throws StoreError.
-    bool refresh();
+    /// Reads the list again, of a larger table that around the record of this key, unless it is in the list; whether it
+    /// is another one now. Throws StoreError.
+    bool refresh(const std::u16string& key = {});
 
     /// Key and text.
     const Table& table() const { return Records_->table(); }
@@ -43,8 +44,14 @@ public:
     std::u16string textOf(const std::u16string& key) const;
     /// Puts a record behind the list that is not in it, in the place of the one before that was put there.
     void add(const std::u16string& key);
+    /// Adds the first record whose text begins so. False when there is none that is not in the list. Throws StoreError.
+    bool addBeginningWith(const std::u16string& text);
+    /// The key of the only record whose text this is, wherever it stands. Throws StoreError.
+    std::optional<std::u16string> keyOfText(const std::u16string& text) const;
 
 private:
+    std::vector<Record> rowsAround(const std::u16string& key);
+    bool isAdded(const std::u16string& key) const { return HasAdded_ && Keys_.back() == key; }
     /// The text of a record that is not in the list; nothing where there is none.
     const std::optional<std::u16string>& other(const std::u16string& key) const;
 
@@ -52,7 +59,9 @@ private:
     std::vector<Record> Rows_;  ///< as they were read
     StringArray Texts_;
     StringArray Keys_;
-    bool HasAdded_ = false;                                   ///< as the last
+    bool HasAdded_ = false;  ///< as the last
+    bool IsPart_ = false;    ///< the table has more than are in the list
+    bool IsFromFirst_ = true;
     std::unordered_map<std::u16string, std::size_t> Places_;  ///< by key
     /// Texts by key, of what is not in the list; nothing of what is not there at all.
     mutable std::unordered_map<std::u16string, std::optional<std::u16string>> Others_;

@@ -25,10 +25,16 @@ void put(Control& combo, std::u16string_view name, const Variant& value, const R
 LookupField::LookupField(PlacedControl& combo, Lookup lookup, const RegionalSettings& region)
     : Combo_(combo), Region_(region), Lookup_(std::move(lookup)) {
     fill();
-    Combo_.control().widgets().comboBox->beforeDrop([this] { refresh(); });
+    ComboBox& box = *Combo_.control().widgets().comboBox;
+    box.beforeDrop([this] { refresh(); });
+    box.whenMissing([this](std::u16string_view typed) { return addBeginningWith(typed); });
 }
 
-LookupField::~LookupField() { Combo_.control().widgets().comboBox->beforeDrop({}); }
+LookupField::~LookupField() {
+    ComboBox& box = *Combo_.control().widgets().comboBox;
+    box.beforeDrop({});
+    box.whenMissing({});
+}
 
 void LookupField::fill() {
     std::u16string tags;
@@ -44,13 +50,26 @@ void LookupField::fill() {
 void LookupField::refresh() {
     const std::u16string shown = key();
     try {
-        if (!Lookup_.refresh()) return;
+        if (!Lookup_.refresh(shown)) return;
     } catch (const StoreError&) {
         return;  // the list stays as it is; what is wrong is said where the person saves
     }
     fill();
     show(shown);
     put(Combo_.control(), u"TextSaved", Lookup_.textOf(StoredKey_), Region_);
+}
+
+/// What the field falls back to stays what it was.
+bool LookupField::addBeginningWith(std::u16string_view typed) {
+    const Variant original = get(Combo_.control(), u"TextOriginal", Region_);
+    try {
+        if (!Lookup_.addBeginningWith(std::u16string(typed))) return false;
+    } catch (const StoreError&) {
+        return false;  // what is wrong is said where the person saves
+    }
+    fill();
+    put(Combo_.control(), u"TextOriginal", original, Region_);
+    return true;
 }
 
 void LookupField::show(const std::u16string& key) {
@@ -70,6 +89,8 @@ bool LookupField::take(const std::u16string& text) {
         put(Combo_.control(), u"Text", text, Region_);
     else if (Lookup_.isThere(text))
         show(text);
+    else if (const auto key = Lookup_.keyOfText(text))
+        show(*key);
     else
         return false;
     return true;

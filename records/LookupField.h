@@ -8,7 +8,8 @@
 namespace kel::records {
 
 /// A combo field whose list is another table's, and which stands for one of its records by that one's key. The list is
-/// brought up to date before it opens.
+/// brought up to date before it opens; what is typed is looked for in the other table, too, where that has more records
+/// than a list.
 class LookupField {
 public:
     /// The control outlives it.
@@ -37,6 +38,7 @@ public:
 private:
     void fill();
     void refresh();
+    bool addBeginningWith(std::u16string_view typed);
 
     PlacedControl& Combo_;
     const RegionalSettings& Region_;

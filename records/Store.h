@@ -99,6 +99,10 @@ public:
     /// At most `count` records that come after `from`, which need not be there any more; backward those before it,
     /// the nearest first. From the end where `from` is nullptr.
     virtual std::vector<Record> walk(const Record* from, Way way, std::int32_t count, const Order& order) = 0;
+    /// At most `count` records whose text in `column` begins so, without regard to case as far as the database knows
+    /// letters; in the order of these texts.
+    virtual std::vector<Record> startingWith(std::size_t column, const std::u16string& beginning,
+                                             std::int32_t count) = 0;
     /// The record so many steps behind `from`, where 1 is the next; behind the first where `from` is nullptr.
     virtual std::optional<Record> skip(const Record* from, std::int64_t steps, const Order& order) = 0;
     /// How many stand behind `from` and before `to`; nullptr is the end on that side. It takes as long as there are

@@ -53,6 +53,12 @@ void ComboBox::showDropDown(bool dropped) {
     changed(Change::List);
 }
 
+std::int32_t ComboBox::itemFor(const std::u16string& typed) {
+    const std::int32_t item = Items_.findPrefix(typed);
+    const bool isAsked = item == ListItems::NotFound && !typed.empty() && WhenMissing_;
+    return isAsked && WhenMissing_(typed) ? Items_.findPrefix(typed) : item;
+}
+
 void ComboBox::setDroppedWidth(std::int32_t pixels) { change(DroppedWidth_, std::max(pixels, 0), Change::List); }
 
 void ComboBox::installFrame(const std::int16_t& buttonWidthPixels) {

@@ -69,6 +69,11 @@ public:
     /// Called each time before the list opens, by whomever: its owner may put other items then. Empty for nobody.
     void beforeDrop(std::function<void()> handler) { BeforeDrop_ = std::move(handler); }
 
+    /// The first item that begins with what was typed; where none does, its owner is asked.
+    std::int32_t itemFor(const std::u16string& typed);
+    /// Called where no item begins so: its owner may put other items then, and says whether it has. Empty for nobody.
+    void whenMissing(std::function<bool(std::u16string_view typed)> handler) { WhenMissing_ = std::move(handler); }
+
     /// Width of the dropped list in screen pixels; 0, as in a new box, is the box's own width.
     std::int32_t droppedWidth() const { return DroppedWidth_; }
     void setDroppedWidth(std::int32_t pixels);
@@ -124,6 +129,7 @@ private:
     ComboBoxListener& Listener_;
     ListItems Items_;
     std::function<void()> BeforeDrop_;
+    std::function<bool(std::u16string_view)> WhenMissing_;
     const std::int16_t* FrameButtonWidth_ = nullptr;
     std::int32_t ListIndex_ = ListItems::NotFound;
     std::int32_t Highlighted_ = ListItems::NotFound;

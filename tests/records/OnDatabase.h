@@ -31,16 +31,19 @@ inline const std::string& databaseAddress() {
     return Address;
 }
 
-/// Databases want an application object. Between two of them a test may split into processes.
+/// Databases want an application object; where there is none yet it is made. Between two of them a test may split into
+/// processes.
 class Application {
 public:
-    Application() : Core_(Count_, Arguments_) {}
+    Application() {
+        if (QCoreApplication::instance() == nullptr) Core_.emplace(Count_, Arguments_);
+    }
 
 private:
     char Name_[6] = "tests";
     char* Arguments_[2] = {Name_, nullptr};
     int Count_ = 1;
-    QCoreApplication Core_;
+    std::optional<QCoreApplication> Core_;
 };
 
 /// Each test has an empty database, and what a database administrator would run in it.
@@ -98,6 +101,13 @@ public:
         Variant value;
         getMember(control, *findMember(control.model(), member), {}, value, Home_->region());
         return value;
+    }
+    /// In place of what stands there.
+    void type(std::u16string_view field, std::u16string_view text) {
+        Form_.window().focus(*Form_.find(field));
+        Form_.window().press({keys::Home, 0, NoModifier});
+        Form_.window().press({keys::End, 0, ShiftKey});
+        for (const char16_t unit : text) Form_.window().press({0, unit, NoModifier});
     }
     /// Opens the list and closes it again.
     void drop(std::u16string_view field) {

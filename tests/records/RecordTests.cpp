@@ -286,6 +286,31 @@ TEST_F(OnDatabase, KeysBeyondTheListAreKept) {
     EXPECT_EQ(value("SELECT count(*) FROM member WHERE name = 'Anne' AND p = 42999"), "2");
     EXPECT_TRUE(person.records().toPlace(2));
     EXPECT_EQ(person.text(u"cboP"), u"no 10001");
+
+    // One that is not in the list is found by how it begins, and then the list is of those around it.
+    execute("INSERT INTO parent VALUES (50000, '\u00D6st 7%_a')");
+    struct {
+        std::u16string_view typed;
+        std::u16string_view shown;
+        const char* stored;
+        std::u16string_view listed;  ///< once the list has been open
+    } const rows[] = {
+        {u"NO 4277", u"no 42770 (42770)", "42770", u"no 42770"},
+        {u"no 42999", u"no 42999", "42999", u"no 42999"},
+        {u"no 10001", u"no 10001 (10001)", "10001", u"no 10001"},
+        {u"\u00F6st 7%_", u"\u00D6st 7%_a (50000)", "50000", u"\u00D6st 7%_a"},
+    };
+    for (const auto& row : rows) {
+        person.type(u"cboP", row.typed);
+        EXPECT_EQ(person.text(u"cboP"), row.shown);
+        EXPECT_TRUE(person.records().save()) << person.heard;
+        EXPECT_EQ(value("SELECT p FROM member WHERE name = 'Bert'"), row.stored);
+        person.drop(u"cboP");
+        EXPECT_EQ(person.text(u"cboP"), row.listed);
+        EXPECT_FALSE(person.records().isChanged());
+    }
+    person.type(u"cboP", u"zz");
+    EXPECT_EQ(person.text(u"cboP"), rows[3].listed) << "what leads to no record is not taken";
 }
 
 // ---- Forms of tables

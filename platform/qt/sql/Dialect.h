@@ -42,6 +42,8 @@ public:
     /// What stands behind a column in an index, so that a record without a value is in front.
     virtual QString indexSuffix() const = 0;
 
+    /// Compares with a pattern without regard to case: "%" is anything, and "\\" comes before what means itself.
+    virtual QString like() const = 0;
     /// What stands behind some records of another table, to read for each of them in turn, by an index, the rows of a
     /// table that meet a condition. Where it has a place for a value, that is how many of each are wanted at most.
     virtual QString rowsForEach(const QString& table, const QString& condition, const QString& orderBy) const = 0;

@@ -62,6 +62,7 @@ public:
             "(a.attnotnull OR i.indoption[0] = 2)");
     }
     QString indexSuffix() const override { return QStringLiteral(" NULLS FIRST"); }
+    QString like() const override { return QStringLiteral(" ILIKE ? ESCAPE '\\'"); }
     QString rowsForEach(const QString& table, const QString& condition, const QString& orderBy) const override {
         return QStringLiteral(" CROSS JOIN LATERAL (SELECT * FROM %1 WHERE %2%3 LIMIT ?) AS kel_own")
             .arg(table, condition, orderBy);

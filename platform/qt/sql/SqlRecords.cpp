@@ -176,6 +176,17 @@ std::vector<Record> SqlRecords::walk(const Record* from, Way way, std::int32_t c
     return found;
 }
 
+/// A file knows the case of no letters but those of ASCII; the first of a name is a capital mostly.
+std::vector<Record> SqlRecords::startingWith(std::size_t column, const std::u16string& beginning, std::int32_t count) {
+    QString typed = toQString(beginning);
+    for (const char special : {'\\', '%', '_'})
+        typed.replace(QLatin1Char(special), QLatin1Char('\\') + QString(QLatin1Char(special)));
+    const QString capital = typed.left(1).toUpper() + typed.mid(1);
+    const QString isLike = nameOf(column) + Connection_.dialect().like();
+    return all(QStringLiteral(" WHERE (%1 OR %1)%2 LIMIT ?").arg(isLike, orderBy({column, false}, false)),
+               {typed + QLatin1Char('%'), capital + QLatin1Char('%'), count});
+}
+
 std::optional<Record> SqlRecords::skip(const Record* from, std::int64_t steps, const Order& order) {
     std::int64_t further = from == nullptr ? steps : steps - 1;
     const std::vector<Stretch> all = stretches(from, true, order);

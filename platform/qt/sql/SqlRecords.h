@@ -17,6 +17,8 @@ public:
     std::optional<records::Record> read(const records::Cells& key) override;
     std::vector<records::Record> walk(const records::Record* from, records::Way way, std::int32_t count,
                                       const records::Order& order) override;
+    std::vector<records::Record> startingWith(std::size_t column, const std::u16string& beginning,
+                                              std::int32_t count) override;
     std::optional<records::Record> skip(const records::Record* from, std::int64_t steps,
                                         const records::Order& order) override;
     std::int64_t countBetween(const records::Record* from, const records::Record* to,

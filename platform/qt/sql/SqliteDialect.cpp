@@ -43,6 +43,7 @@ public:
             "(SELECT name FROM pragma_index_info(list.name) WHERE seqno = 0) = ?");
     }
     QString indexSuffix() const override { return {}; }
+    QString like() const override { return QStringLiteral(" LIKE ? ESCAPE '\\'"); }
     QString rowsForEach(const QString& table, const QString& condition, const QString& /*orderBy*/) const override {
         return QStringLiteral(" CROSS JOIN %1 ON %2").arg(table, condition);
     }
