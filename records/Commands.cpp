@@ -1,13 +1,20 @@
 #include "records/Commands.h"
 
+#include <algorithm>
+#include <set>
+
+#include "host/focus/Mnemonic.h"
+#include "records/make/Words.h"
+#include "values/Text.h"
+
 namespace kel::records {
 
 namespace {
 
-constexpr std::u16string_view RecordMenu = u"&Record";
-constexpr std::u16string_view GoMenu = u"&Go";
-constexpr std::u16string_view ViewMenu = u"&View";
-constexpr std::u16string_view HelpMenu = u"&Help";
+constexpr std::u16string_view RecordMenu = u"Record";
+constexpr std::u16string_view GoMenu = u"Go";
+constexpr std::u16string_view ViewMenu = u"View";
+constexpr std::u16string_view HelpMenu = u"Help";
 
 constexpr CommandRow Rows[] = {
     {Command::New, RecordMenu, u"&New", u"Ctrl+N", u"Begins a new record.", true},
@@ -56,6 +63,21 @@ constexpr FieldKeyRow FieldKeys[] = {
 }  // namespace
 
 std::span<const CommandRow> commandRows() { return Rows; }
+
+std::map<std::u16string_view, std::u16string> menuCaptions(const FormFile& form) {
+    std::set<char16_t> taken;
+    for (FormBlockId id = 1; id < form.blocks().size(); ++id)
+        if (form.boolean(id, u"UseMnemonic", true)) taken.insert(toLowerAscii(mnemonicIn(form.text(id, u"Caption"))));
+    std::vector<std::u16string> captions;
+    for (const CommandRow& row : Rows)
+        if (captions.empty() || captions.back() != row.menu) captions.emplace_back(row.menu);
+    const std::vector<std::u16string> marked = withMnemonics(captions, std::move(taken));
+    std::map<std::u16string_view, std::u16string> byName;
+    for (const CommandRow& row : Rows)
+        byName[row.menu] =
+            marked[static_cast<std::size_t>(std::find(captions.begin(), captions.end(), row.menu) - captions.begin())];
+    return byName;
+}
 
 std::span<const FieldKeyRow> fieldKeyRows() { return FieldKeys; }
 

@@ -1,6 +1,7 @@
 #include "records/make/FormOfTable.h"
 
 #include "library/Identities.h"
+#include "records/Commands.h"
 #include "records/make/FieldPlan.h"
 #include "records/make/Grid.h"
 #include "records/make/Words.h"
@@ -73,7 +74,9 @@ MadeForm formFor(Store& store, const Table& table, const RegionalSettings& regio
     setForm(file, table, grid.size);
     std::vector<std::u16string> captions;
     for (const FieldPlan& field : fields) captions.push_back(field.caption);
-    captions = withMnemonics(std::move(captions));
+    std::set<char16_t> taken;
+    for (const CommandRow& row : commandRows()) taken.insert(toLowerAscii(row.menu.front()));
+    captions = withMnemonics(std::move(captions), std::move(taken));
     for (std::size_t i = 0; i < fields.size(); ++i) setField(file, i + 1, fields[i], grid.places[i], captions[i]);
     // There may be another one of nearly this name.
     const std::optional<Table> meant = tableOfForm(store, formName);

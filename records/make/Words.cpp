@@ -1,10 +1,7 @@
 #include "records/make/Words.h"
 
 #include <algorithm>
-#include <set>
 
-#include "host/focus/Mnemonic.h"
-#include "records/Commands.h"
 #include "values/Text.h"
 
 namespace kel::records {
@@ -75,9 +72,7 @@ std::u16string nameOf(const std::vector<std::u16string>& words) {
     return name;
 }
 
-std::vector<std::u16string> withMnemonics(std::vector<std::u16string> captions) {
-    std::set<char16_t> taken;
-    for (const CommandRow& row : commandRows()) taken.insert(toLowerAscii(mnemonicIn(row.menu)));
+std::vector<std::u16string> withMnemonics(std::vector<std::u16string> captions, std::set<char16_t> taken) {
     const auto isFirst = [](std::u16string_view, std::size_t i) { return i == 0; };
     const auto isFirstOfWord = [](std::u16string_view text, std::size_t i) { return i > 0 && text[i - 1] == u' '; };
     const auto isConsonant = [](std::u16string_view text, std::size_t i) {

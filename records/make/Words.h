@@ -1,5 +1,6 @@
 #pragma once
 
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,8 +17,8 @@ std::u16string captionOf(const std::vector<std::u16string>& words);
 /// "OrderDate", of what a name in a program may hold; empty where there is none of it.
 std::u16string nameOf(const std::vector<std::u16string>& words);
 
-/// Captions with "&" before the letter that leads to the field by Alt, which no other and no menu of the window has.
-/// Where the letters are used up, without.
-std::vector<std::u16string> withMnemonics(std::vector<std::u16string> captions);
+/// Captions with "&" before the letter that leads there by Alt, which no other has and none of the `taken`, in small
+/// letters. Where the letters are used up, without.
+std::vector<std::u16string> withMnemonics(std::vector<std::u16string> captions, std::set<char16_t> taken);
 
 }  // namespace kel::records

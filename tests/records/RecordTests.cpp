@@ -134,6 +134,30 @@ TEST_F(OnDatabase, NoFieldUsesTheKeyOfACommand) {
     }
 }
 
+/// The letters of a form are those that its keeper knows by heart.
+TEST(Commands, MenusGiveWay) {
+    const struct {
+        std::string captions;  ///< of a field and of a label
+        std::vector<std::u16string> menus;
+    } rows[] = {
+        {"N&ame|&Fee", {u"&Go", u"&Help", u"&Record", u"&View"}},
+        {"&Rate|&Go on", {u"G&o", u"&Help", u"Re&cord", u"&View"}},
+        {"&view|&hours", {u"&Go", u"He&lp", u"&Record", u"Vie&w"}},
+    };
+    for (const auto& row : rows) {
+        const std::size_t middle = row.captions.find('|');
+        const FormFile form = FormFile::parse(
+            "VERSION 5.00\r\nBegin VB.Form frmA\r\n   Caption = \"A &Log\"\r\n   Begin KelControls8.KelText txtA\r\n"
+            "      Caption = \"" +
+                row.captions.substr(0, middle) + "\"\r\n   End\r\n   Begin VB.Label lblA\r\n      Caption = \"" +
+                row.captions.substr(middle + 1) + "\"\r\n   End\r\nEnd\r\n",
+            "a.frm");
+        std::vector<std::u16string> menus;
+        for (const auto& [name, caption] : menuCaptions(form)) menus.push_back(caption);
+        EXPECT_EQ(menus, row.menus) << row.captions;
+    }
+}
+
 // ---- Two people
 
 TEST_F(OnDatabase, SecondToSaveIsAsked) {

@@ -52,7 +52,7 @@ public:
         Area_ = new FormArea(this);
         Area_->setWidget(&FormWindow_.widget());
         setCentralWidget(Area_);
-        makeCommands();
+        makeCommands(form.file());
         makeStatusBar();
         const QSize wanted = FormWindow_.widget().size();
         Area_->setMinimumSize(wanted.boundedTo(QSize(400, 200)));
@@ -123,14 +123,15 @@ protected:
 private:
     // ---- Parts of the window
 
-    void makeCommands() {
+    void makeCommands(const FormFile& form) {
         Tools_ = addToolBar(QStringLiteral("Records"));
         Tools_->setMovable(false);
         Tools_->setContextMenuPolicy(Qt::PreventContextMenu);
         std::map<std::u16string_view, QMenu*> menus;
+        const auto captions = records::menuCaptions(form);
         for (const records::CommandRow& row : records::commandRows()) {
             QMenu*& menu = menus[row.menu];
-            if (menu == nullptr) menu = menuBar()->addMenu(toQString(row.menu));
+            if (menu == nullptr) menu = menuBar()->addMenu(toQString(captions.at(row.menu)));
             if (row.startsGroup) menu->addSeparator();
             QAction* const action = menu->addAction(iconOf(*this, row.command), toQString(row.caption));
             action->setShortcut(QKeySequence(toQString(row.key)));
