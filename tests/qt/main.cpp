@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <QApplication>
+#include <QFont>
 
 int main(int count, char** arguments) {
     testing::InitGoogleTest(&count, arguments);

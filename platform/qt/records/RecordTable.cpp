@@ -91,6 +91,13 @@ void RecordTable::resizeEvent(QResizeEvent* event) {
     fill();
 }
 
+/// One row is marked, whichever key is held: Qt would take the mark away from the one that Ctrl+End leads to.
+QItemSelectionModel::SelectionFlags RecordTable::selectionCommand(const QModelIndex& index,
+                                                                  const QEvent* /*event*/) const {
+    return index.isValid() ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+                           : QItemSelectionModel::NoUpdate;
+}
+
 QModelIndex RecordTable::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
     const std::int64_t last = List_.count() - 1;
     const bool isFar = modifiers.testFlag(Qt::ControlModifier);
