@@ -5,12 +5,13 @@
 
 namespace kel::win32 {
 
-bool SystemWindow::create(const WindowClass& windowClass, DWORD style) {
+bool SystemWindow::create(const WindowClass& windowClass, DWORD style, const wchar_t* title) {
     if (Handle_ != nullptr) return false;
     Base_ = windowClass.baseProcedure();
     const RECT area = pixels();
-    CreateWindowExW(0, windowClass.name(), L"", WS_CHILD | WS_CLIPSIBLINGS | style, area.left, area.top, widthOf(area),
-                    heightOf(area), Frame_.window(), nullptr, thisModule(), static_cast<WindowHandler*>(this));
+    CreateWindowExW(0, windowClass.name(), title, WS_CHILD | WS_CLIPSIBLINGS | style, area.left, area.top,
+                    widthOf(area), heightOf(area), Frame_.window(), nullptr, thisModule(),
+                    static_cast<WindowHandler*>(this));
     return Handle_ != nullptr;
 }
 

@@ -23,8 +23,8 @@ protected:
     HWND windowHandle() const { return Handle_; }
 
     /// In the window of the control, at its place; nothing happens where there is one. Returns whether it has been
-    /// made.
-    bool create(const WindowClass& windowClass, DWORD style);
+    /// made. None has a title unless it is given here.
+    bool create(const WindowClass& windowClass, DWORD style, const wchar_t* title = L"");
     void destroy();
 
     ControlFrame& frame() const { return Frame_; }

@@ -68,7 +68,7 @@ std::unique_ptr<TextView> ControlWindow::makeView(ComboBox& box) { return make<W
 
 void ControlWindow::setLabel(Win32Label* label) {
     Label_ = label;
-    if (Label_ != nullptr && Window_ != nullptr) Label_->makeWindow(height());
+    if (Label_ != nullptr) Label_->makeWindow(height());
 }
 
 void ControlWindow::add(WindowedView& widget) {

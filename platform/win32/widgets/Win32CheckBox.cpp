@@ -89,8 +89,8 @@ Win32CheckBox::~Win32CheckBox() {
 
 void Win32CheckBox::makeWindow() {
     const DWORD state = (Box_.visible() ? WS_VISIBLE : 0U) | (Box_.enabled() ? 0U : WS_DISABLED);
-    if (create(buttonClass(), WS_TABSTOP | BS_3STATE | state))
-        show(Change::Font | Change::Caption | Change::Value | Change::ToolTip);
+    if (create(buttonClass(), WS_TABSTOP | BS_3STATE | state, wide(Box_.caption()).c_str()))
+        show(Change::Font | Change::Value | Change::ToolTip);
 }
 
 void Win32CheckBox::outOfDate() {

@@ -1,5 +1,7 @@
 #include "platform/win32/widgets/Win32Label.h"
 
+#include <utility>
+
 #include "common/FieldLayout.h"
 #include "platform/win32/base/TwipGrid.h"
 #include "platform/win32/base/WideText.h"
@@ -14,7 +16,7 @@ Win32Label::~Win32Label() {
 }
 
 void Win32Label::makeWindow(int controlHeight) {
-    if (Window_ != nullptr) return;
+    if (Window_ != nullptr || Label_.caption().empty() || Frame_.window() == nullptr) return;
     const RECT area = Frame_.grid().pixels(Label_.bounds());
     Window_ = CreateWindowExW(0, L"STATIC", wide(Label_.caption()).c_str(),
                               WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | SS_OWNERDRAW, area.left, 0, widthOf(area),
@@ -22,7 +24,15 @@ void Win32Label::makeWindow(int controlHeight) {
 }
 
 void Win32Label::place(int controlHeight) {
-    if (Window_ == nullptr) return;
+    if (Window_ == nullptr) {
+        makeWindow(controlHeight);
+        if (Window_ != nullptr) SetWindowPos(Window_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+        return;
+    }
+    if (Label_.caption().empty()) {
+        DestroyWindow(std::exchange(Window_, nullptr));
+        return;
+    }
     const RECT area = Frame_.grid().pixels(Label_.bounds());
     placeWindow(Window_, {area.left, 0, area.right, controlHeight});
     InvalidateRect(Window_, nullptr, FALSE);

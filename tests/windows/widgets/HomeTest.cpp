@@ -10,12 +10,12 @@ namespace kel::tests {
 
 namespace {
 
-/// A form of two text fields, "&One" and "&Two", and a frame around nothing.
+/// A form of two text fields, of which the first is "&One", and the other "&Two", and a frame around nothing.
 class TwoFields {
 public:
-    TwoFields() : Home_(win32::makeHome({.twipsPerPixel = 15})) {
+    explicit TwoFields(std::u16string_view one = u"&One") : Home_(win32::makeHome({.twipsPerPixel = 15})) {
         Window_ = Home_->makeWindow({u"form", {6000, 3000}, false}, Home_->system());
-        One_ = &place(u"&One", 0);
+        One_ = &place(one, 0);
         Two_ = &place(u"&Two", 600);
         ForeignBlock frame;
         frame.kind = ForeignBlock::Kind::Panel;
@@ -83,6 +83,20 @@ TEST(a_caption_leads_to_its_field_and_names_it) {
     HWND const label = GetWindow(GetFocus(), GW_HWNDPREV);
     EXPECT_EQ(textOf(label), L"&One");
     EXPECT((SendMessageW(label, WM_GETDLGCODE, 0, 0) & DLGC_STATIC) != 0);
+}
+
+TEST(a_caption_given_late_comes_before_its_field) {
+    TwoFields form(u"");
+    form.window().focus(form.one());
+    HWND const field = GetFocus();
+    EXPECT(GetWindow(field, GW_HWNDPREV) == nullptr);
+    form.one().control().widgets().label->setCaption(u"&Late");
+    HWND const label = GetWindow(field, GW_HWNDPREV);
+    EXPECT_EQ(textOf(label), L"&Late");
+    HWND const pane = GetAncestor(field, GA_PARENT);
+    EXPECT_EQ(placeIn(pane, label).right, placeIn(pane, field).left);
+    form.one().control().widgets().label->setCaption(u"");
+    EXPECT(IsWindow(label) == FALSE);
 }
 
 }  // namespace kel::tests
