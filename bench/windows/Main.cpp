@@ -62,7 +62,7 @@ std::map<std::string, double> measure(std::vector<Work> all, int rounds, const s
     return medians;
 }
 
-// ---- Lives of controls
+// ---- Making
 
 /// Makes objects of one class, as a host does that has looked the class up before.
 class Maker {
@@ -82,21 +82,6 @@ public:
 private:
     Ref<IClassFactory> Factory_;
 };
-
-void activate(Host& host, const Ref<IDispatch>& control) {
-    host.place(control);
-    EXPECT_CODE(control.as<IPersistStreamInit>()->InitNew(), S_OK);
-    EXPECT_CODE(host.verb(OLEIVERB_INPLACEACTIVATE), S_OK);
-}
-
-/// Creates a control, activates it in its host, has it painted and closes it.
-void live(Host& host, const Maker& maker) {
-    const auto control = maker.make();
-    activate(host, control);
-    settle(host.window());
-    host.unload();
-    host.Calls.clear();
-}
 
 // ---- Members
 
@@ -126,6 +111,12 @@ private:
     DISPID Id_ = DISPID_UNKNOWN;
 };
 
+VARIANT doubleNumber(double number) {
+    VARIANT value = plain(VT_R8);
+    value.dblVal = number;
+    return value;
+}
+
 VARIANT shortNumber(short number) {
     VARIANT value = plain(VT_I2);
     value.iVal = number;
@@ -144,6 +135,21 @@ private:
     Value Other_;
     bool Odd_ = false;
 };
+
+// ---- Lives of controls
+
+/// Creates a control, activates it in its host, has it painted and closes it. A field takes its host's name for it as
+/// its caption, unless it is to be without one.
+void live(Host& host, const Maker& maker, bool captioned) {
+    const auto control = maker.make();
+    host.place(control);
+    EXPECT_CODE(control.as<IPersistStreamInit>()->InitNew(), S_OK);
+    if (!captioned) Member(control, L"Caption").put(plain(VT_BSTR));
+    EXPECT_CODE(host.verb(OLEIVERB_INPLACEACTIVATE), S_OK);
+    settle(host.window());
+    host.unload();
+    host.Calls.clear();
+}
 
 // ---- The first of all
 
@@ -184,16 +190,23 @@ double firstLoads() {
 
 // ---- All of it
 
+/// The peers of most have no caption.
 constexpr struct {
     const char* name;
     const wchar_t* programId;
-} Classes[] = {{"KelText", L"KelControls8.KelText"},   {"KelNumber", L"KelControls8.KelNumber"},
-               {"KelDate", L"KelControls8.KelDate"},   {"KelCombo", L"KelControls8.KelCombo"},
-               {"KelCheck", L"KelControls8.KelCheck"}, {"KelProgressBar", L"KelControls8.KelProgressBar"}};
+    bool captioned = false;
+} Classes[] = {{"KelText", L"KelControls8.KelText"},
+               {"captioned KelText", L"KelControls8.KelText", true},
+               {"KelNumber", L"KelControls8.KelNumber"},
+               {"KelDate", L"KelControls8.KelDate"},
+               {"KelCombo", L"KelControls8.KelCombo"},
+               {"KelCheck", L"KelControls8.KelCheck", true},
+               {"KelProgressBar", L"KelControls8.KelProgressBar", true}};
 
 const std::vector<Line> Lines{
     {"a text field's life, painted / edit window", "KelText", {"EDIT"}, 1.5},
-    {"the same / label and edit window in a pane", "KelText", {"captioned EDIT"}, 1.5},
+    {"the same / edit window in a pane", "KelText", {"EDIT in a pane"}, 1.5},
+    {"with a caption / label and edit window in a pane", "captioned KelText", {"captioned EDIT"}, 1.5},
     {"a number field's life, painted / edit window and spinner", "KelNumber", {"spinner"}, 1.5},
     {"a date field's life, painted / edit window and spinner", "KelDate", {"spinner"}, 1.5},
     {"a combo field's life, painted / combo box", "KelCombo", {"COMBOBOX"}, 1.5},
@@ -202,9 +215,9 @@ const std::vector<Line> Lines{
     {"making a text field without a window", "made KelText", {}, 50e3},
     {"putting a text / setting an edit window's", "put Text", {"SetWindowText"}, 1.2},
     {"putting a text, painted / setting an edit window's", "put Text, painted", {"SetWindowText, painted"}, 1.2},
-    {"late-bound get of a number", "get Decimals", {}, 100},
-    {"late-bound put of a number", "put Decimals", {}, 100},
-    {"late-bound put of the number that is there", "put same Decimals", {}, 100},
+    {"late-bound get of a number", "get UpDownChange", {}, 100},
+    {"late-bound put of a number", "put UpDownChange", {}, 100},
+    {"the same, rounded by the run-time object", "put Decimals", {}, 2e3},
     {"late-bound get of a text", "get Text", {}, 100},
     {"first load of the library, with its first control", "first load", {}, 8e6},
 };
@@ -212,10 +225,12 @@ const std::vector<Line> Lines{
 std::map<std::string, double> measureAll(int rounds, const std::string& name) {
     Host host;
     std::vector<Work> all;
-    for (const auto& [what, programId] : Classes)
-        all.push_back({what, 1, [&host, maker = Maker(programId)] { live(host, maker); }});
+    for (const auto& each : Classes)
+        all.push_back(
+            {each.name, 1, [&host, &each, maker = Maker(each.programId)] { live(host, maker, each.captioned); }});
     const HWND parent = host.window();
     for (const auto& [what, live] : {std::pair{"EDIT", &liveAsEdit},
+                                     {"EDIT in a pane", &liveAsEditInPane},
                                      {"captioned EDIT", &liveAsCaptionedEdit},
                                      {"spinner", &liveAsSpinner},
                                      {"COMBOBOX", &liveAsComboBox},
@@ -242,13 +257,16 @@ std::map<std::string, double> measureAll(int rounds, const std::string& name) {
     all.push_back({"put Text, painted", 10, [&] { field->put_Text(text()), settle(window); }});
     all.push_back({"SetWindowText, painted", 10, [&] { SetWindowTextW(edit, texts.next()), settle(window); }});
 
-    const Member decimals(Maker(L"KelControls8.KelNumber").make(), L"Decimals");
+    const auto number = Maker(L"KelControls8.KelNumber").make();
+    const Member step(number, L"UpDownChange");
+    const Member decimals(number, L"Decimals");
     const Member content(field.as<IDispatch>(), L"Text");
+    Turns<VARIANT> steps(doubleNumber(2), doubleNumber(3));
     Turns<VARIANT> numbers(shortNumber(2), shortNumber(3));
     constexpr int Many = 2000;
-    all.push_back({"get Decimals", Many, [&] { decimals.get(); }});
+    all.push_back({"get UpDownChange", Many, [&] { step.get(); }});
+    all.push_back({"put UpDownChange", Many, [&] { step.put(steps.next()); }});
     all.push_back({"put Decimals", Many, [&] { decimals.put(numbers.next()); }});
-    all.push_back({"put same Decimals", Many, [&] { decimals.put(shortNumber(3)); }});
     all.push_back({"get Text", Many, [&] { content.get(); }});
     return measure(std::move(all), rounds, name);
 }

@@ -46,7 +46,9 @@ void liveAsEdit(HWND parent) {
     DestroyWindow(edit);
 }
 
-void liveAsCaptionedEdit(HWND parent) {
+namespace {
+
+void liveInPane(HWND parent, bool captioned) {
     static const win32::WindowClass PaneClass(L"KelBench.Pane");
     static Pane handler;
     HWND const pane =
@@ -54,11 +56,17 @@ void liveAsCaptionedEdit(HWND parent) {
                         Place.top, Place.right - Place.left, Place.bottom - Place.top, parent, nullptr,
                         win32::thisModule(), static_cast<win32::WindowHandler*>(&handler));
     const RECT inside{0, 0, Place.right - Place.left, Place.bottom - Place.top};
-    makeWidget(pane, L"STATIC", SS_LEFT, 0, {0, 0, CaptionWidth, inside.bottom});
-    makeEdit(pane, {CaptionWidth, 0, inside.right, inside.bottom});
+    if (captioned) makeWidget(pane, L"STATIC", SS_LEFT, 0, {0, 0, CaptionWidth, inside.bottom});
+    makeEdit(pane, {captioned ? CaptionWidth : 0, 0, inside.right, inside.bottom});
     settle(parent);
     DestroyWindow(pane);
 }
+
+}  // namespace
+
+void liveAsEditInPane(HWND parent) { liveInPane(parent, false); }
+
+void liveAsCaptionedEdit(HWND parent) { liveInPane(parent, true); }
 
 void liveAsSpinner(HWND parent) {
     HWND const edit = makeEdit(parent, {Place.left, Place.top, Place.right - SpinnerWidth, Place.bottom});

@@ -11,7 +11,9 @@ HWND makeEdit(HWND parent, const RECT& place);
 
 /// Makes them in `parent`, has them painted, and destroys them.
 void liveAsEdit(HWND parent);
-/// With its caption before it, both in a pane of their own.
+/// In a pane of its own, as a control that is to be one window for its host.
+void liveAsEditInPane(HWND parent);
+/// With its caption before it.
 void liveAsCaptionedEdit(HWND parent);
 void liveAsSpinner(HWND parent);
 void liveAsComboBox(HWND parent);
