@@ -1,8 +1,10 @@
 #include "values/RegionalSettings.h"
 
 #include <algorithm>
+#include <array>
+#include <atomic>
 #include <iterator>
-#include <utility>
+#include <memory>
 
 #include "values/Text.h"
 
@@ -74,21 +76,34 @@ RegionalSettings settingsOf(const RegionData& data) {
     return region;
 }
 
-/// A static of its own for every region: built once, by whichever thread comes first.
-template <std::size_t Index>
-const RegionalSettings& builtRegion() {
-    static const RegionalSettings settings = settingsOf(Regions[Index]);
-    return settings;
+/// Each is built once, when somebody first asks for it, by whichever thread comes first.
+class BuiltRegions {
+public:
+    BuiltRegions() = default;
+    BuiltRegions(const BuiltRegions&) = delete;
+    BuiltRegions& operator=(const BuiltRegions&) = delete;
+    ~BuiltRegions() {
+        for (const Slot& slot : Slots_) delete slot.load();
+    }
+
+    const RegionalSettings& at(std::size_t index) {
+        Slot& slot = Slots_[index];
+        if (const RegionalSettings* const there = slot.load(std::memory_order_acquire)) return *there;
+        auto built = std::make_unique<const RegionalSettings>(settingsOf(Regions[index]));
+        const RegionalSettings* there = nullptr;
+        return slot.compare_exchange_strong(there, built.get(), std::memory_order_acq_rel) ? *built.release() : *there;
+    }
+
+private:
+    using Slot = std::atomic<const RegionalSettings*>;
+
+    std::array<Slot, RegionCount> Slots_{};
+};
+
+const RegionalSettings& builtRegion(std::size_t index) {
+    static BuiltRegions Built;
+    return Built.at(index);
 }
-
-using Builder = const RegionalSettings& (*)();
-
-template <std::size_t... Indices>
-constexpr std::array<Builder, sizeof...(Indices)> buildersOf(std::index_sequence<Indices...>) {
-    return {&builtRegion<Indices>...};
-}
-
-constexpr std::array<Builder, RegionCount> Builders = buildersOf(std::make_index_sequence<RegionCount>());
 
 constexpr char16_t toNameUnit(char16_t unit) { return unit == u'_' ? u'-' : toLowerAscii(unit); }
 
@@ -109,7 +124,7 @@ const RegionalSettings* findRegion(std::u16string_view name) {
     const auto found = std::find_if(std::begin(Regions), std::end(Regions),
                                     [name](const RegionData& region) { return isSameName(region.name, name); });
     if (found == std::end(Regions)) return nullptr;
-    return &Builders[static_cast<std::size_t>(found - std::begin(Regions))]();
+    return &builtRegion(static_cast<std::size_t>(found - std::begin(Regions)));
 }
 
 std::vector<std::u16string_view> regionNames() {
@@ -122,7 +137,7 @@ std::vector<std::u16string_view> regionNames() {
 const RegionalSettings& defaultRegion() {
     constexpr std::size_t Index = indexOf(u"en-GB");
     static_assert(Index < RegionCount);
-    return builtRegion<Index>();
+    return builtRegion(Index);
 }
 
 }  // namespace kel
