@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
@@ -53,6 +54,15 @@ TEST(RecordWindow, LargeFormIsScrolledToTheField) {
         const QWidget& whole = *widgetOf(*field.control().widgets().entry).parentWidget();
         EXPECT_EQ(whole.visibleRegion().boundingRect(), whole.rect());
     }
+    // Nor does the list that comes and goes beside it.
+    const int before = shown.width();
+    for (QAction* const action : shown.findChildren<QAction*>())
+        if (action->shortcut() == QKeySequence(Qt::Key_F9))
+            for (int i = 0; i < 2; ++i) {
+                action->trigger();
+                EXPECT_LE(shown.width(), screen.width());
+            }
+    EXPECT_EQ(shown.width(), before);
     // What is said hides neither the record's number nor its state.
     auto& bar = *dynamic_cast<QMainWindow&>(shown).statusBar();
     bar.showMessage(QStringLiteral("\"elm\" is in 40 records."));

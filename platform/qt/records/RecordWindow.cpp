@@ -38,6 +38,7 @@ using records::Command;
 
 constexpr int StateEvery = 250;  ///< milliseconds between two looks at whether something has been typed
 constexpr int ListWidth = 380;   ///< pixels, until the person has drawn it wider
+constexpr int FrameWidth = 4;    ///< pixels, of what stands around the form
 constexpr int Later = 1000;      ///< milliseconds until what could not be done beside is tried again
 
 }  // namespace
@@ -56,8 +57,8 @@ public:
         makeStatusBar();
         const QSize wanted = FormWindow_.widget().size();
         Area_->setMinimumSize(wanted.boundedTo(QSize(400, 200)));
-        const QSize whole = wanted + QSize(4, menuBar()->sizeHint().height() + Tools_->sizeHint().height() +
-                                                  statusBar()->sizeHint().height() + 4);
+        const QSize whole = wanted + QSize(FrameWidth, menuBar()->sizeHint().height() + Tools_->sizeHint().height() +
+                                                           statusBar()->sizeHint().height() + FrameWidth);
         resize(whole.boundedTo(screen()->availableSize()));
         show();
         form.show();
@@ -264,12 +265,19 @@ private:
     void showList(bool shown) {
         if (List_ == nullptr) makeList();
         const int separator = style()->pixelMetric(QStyle::PM_DockWidgetSeparatorExtent);
-        if (!isMaximized()) resize(width() + (shown ? ListWidth + separator : -(List_->width() + separator)), height());
+        if (!isMaximized()) widen(shown ? ListWidth + separator : -(List_->width() + separator));
         List_->setVisible(shown);
         if (!shown) return;
         List_->refresh();
         List_->measure();
         resizeDocks({List_}, {ListWidth}, Qt::Horizontal);
+    }
+
+    /// As far as the screen goes; narrower only as far as the form does.
+    void widen(int by) {
+        const int most = by > 0 ? screen()->availableSize().width() : width();
+        const int least = by > 0 ? width() : std::min(width(), FormWindow_.widget().width() + FrameWidth);
+        resize(std::max(std::min(width() + by, most), least), height());
     }
 
     void carryOver() {
