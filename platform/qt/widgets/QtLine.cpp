@@ -188,8 +188,11 @@ QRect QtLine::areaOfEdit() const {
     const QFontMetrics metrics = fontMetrics();
     const int widest = metrics.maxWidth();
     const int left = before.xOf(first - std::min(first, Joined)) - widest;
-    int right = before.xOf(kept);
-    for (const QChar letter : now.sliced(toInt(kept))) right += metrics.horizontalAdvance(letter);
+    int right = before.xOf(kept) + toInt(text.size() - kept) * widest;
+    if (right + widest > area.width()) {
+        right = before.xOf(kept);
+        for (const QChar letter : now.sliced(toInt(kept))) right += metrics.horizontalAdvance(letter);
+    }
     right =
         widest + (was == now ? before.xOf(std::max(Painted_.end(), selection.end())) : std::max(before.width(), right));
     if (right > area.width()) return area;
