@@ -70,6 +70,24 @@ TEST_F(OnDatabase, SaysWhyItIsNotOpened) {
     fs::remove(there);
 }
 
+/// A server that is not there is waited for; one that says no is not.
+TEST_F(OnDatabase, SaysAtOnceWhomAServerRefuses) {
+    if (!isServer()) GTEST_SKIP() << "this is about servers";
+    std::string stranger = databaseAddress();
+    constexpr std::string_view Keeper = "keeper@";
+    stranger.replace(stranger.find(Keeper), Keeper.size(), "stranger@");
+    const auto start = std::chrono::steady_clock::now();
+    try {
+        const auto store = qt::openStore(stranger, {});
+        static_cast<void>(store->tables());
+        ADD_FAILURE() << "it is opened";
+    } catch (const StoreError& error) {
+        EXPECT_NE(std::string(error.what()).find("refuses the connection: "), std::string::npos) << error.what();
+        EXPECT_NE(std::string(error.what()).find("\"stranger\""), std::string::npos) << error.what();
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(3));
+}
+
 // ---- Saving
 
 /// Whether what cannot be saved stays as it was typed, with the reason in words, and is saved later.

@@ -128,6 +128,8 @@ public:
         if (state.startsWith(QLatin1String("53")))
             return {Kind::Full,
                     "The server has no room left. Please make room and save again; what is on the screen stays."};
+        if (error.type() == QSqlError::ConnectionError && isRefusal(text))
+            return {Kind::Wrong, "The server refuses the connection: " + words.toStdString()};
         if (state.startsWith(QLatin1String("08")) || state.startsWith(QLatin1String("57P")) ||
             error.type() == QSqlError::ConnectionError || text.contains(QLatin1String("server closed")) ||
             text.contains(QLatin1String("no connection")))
@@ -138,6 +140,12 @@ public:
     }
 
 private:
+    /// Of a name, a password or a database; a server that has just begun or is full takes the next one.
+    static bool isRefusal(const QString& text) {
+        static const QRegularExpression ForNow(QStringLiteral("starting up|shutting down|recovery|too many|slots"));
+        return text.contains(QLatin1String("FATAL:")) && !ForNow.match(text).hasMatch();
+    }
+
     static StoreError constraintError(const QString& state, const QString& text) {
         if (state == QLatin1String("23502"))
             return valueMissing(between(text, QLatin1String("column \""), QLatin1Char('"')));
