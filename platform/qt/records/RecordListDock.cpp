@@ -44,10 +44,10 @@ void RecordListDock::choose(const QModelIndex& index) {
 /// A table of many records is sorted by an index. In one that others have made it is not made without asking.
 bool RecordListDock::makeQuick(const records::Order& order, int section) {
     const auto count = Form_.overview().places(Form_.order()).count();
-    if (count.value_or(records::Many) < records::Many || Form_.store().isQuick(order)) return true;
+    if (section < 0 || count.value_or(records::Many) < records::Many) return true;
     const QString name = toQString(Form_.bindings()[static_cast<std::size_t>(section)].caption());
-    if (!Form_.table().version && !mayMakeIndex(Window_, name)) return false;
-    Window_.statusBar()->showMessage(QStringLiteral("Sorting by %1 for the first time\u2026").arg(name));
+    if (!Form_.store().isQuick(order) && !Form_.table().version && !mayMakeIndex(Window_, name)) return false;
+    Window_.statusBar()->showMessage(QStringLiteral("Sorting by %1\u2026").arg(name));
     Form_.store().makeQuick(order);
     Window_.statusBar()->clearMessage();
     return true;

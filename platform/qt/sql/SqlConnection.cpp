@@ -195,6 +195,13 @@ QSqlQuery& SqlConnection::run(const QString& statement, const QVariantList& valu
     return *done;
 }
 
+std::int64_t SqlConnection::number(const QString& statement, const QVariantList& values) {
+    QSqlQuery& query = run(statement, values);
+    const std::int64_t number = query.next() ? query.value(0).toLongLong() : 0;
+    query.finish();
+    return number;
+}
+
 int SqlConnection::runAlone(const QString& statement, const QVariantList& values) {
     const auto changed = [&] {
         QSqlQuery& query = run(statement, values);
@@ -224,12 +231,13 @@ void SqlConnection::execute(const QString& statement) {
     patiently([&] { runOnce(statement); });
 }
 
-void SqlConnection::executeBeside(const QString& statement) {
+void SqlConnection::beside(const std::function<void(SqlConnection&)>& work) {
     std::exception_ptr fault;
     std::atomic<bool> isDone = false;
     std::thread worker([&] {
         try {
-            SqlConnection(Database_, {}).execute(statement);
+            SqlConnection own(Database_, {});
+            work(own);
         } catch (const StoreError&) {
             fault = std::current_exception();
         }

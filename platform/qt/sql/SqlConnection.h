@@ -42,14 +42,17 @@ public:
     /// Runs a statement with its values. The query is the connection's, and good until the same statement is run again.
     QSqlQuery& run(const QString& statement, const QVariantList& values = {});
 
-    /// The same for a statement that reads nothing; returns how many records it has changed. When it fails, what came
-    /// before it in its transaction stays.
+    /// The number that a statement reads, or 0.
+    std::int64_t number(const QString& statement, const QVariantList& values);
+
+    /// The same as `run` for a statement that reads nothing; returns how many records it has changed. When it fails,
+    /// what came before it in its transaction stays.
     int runAlone(const QString& statement, const QVariantList& values);
 
     /// A statement that reads nothing and is run seldom, such as one that makes a table.
     void execute(const QString& statement);
-    /// One that takes long: on a connection and a thread of its own, while the window is served.
-    void executeBeside(const QString& statement);
+    /// What takes long: on a thread and a connection of its own, which `work` is given, while the window is served.
+    void beside(const std::function<void(SqlConnection&)>& work);
 
     /// Runs `work` as one transaction: all of it is stored when this returns, or nothing. It is run again from its
     /// start where another program was in the way, or the connection was gone. Where the connection goes at the moment

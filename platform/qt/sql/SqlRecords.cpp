@@ -199,10 +199,7 @@ std::optional<Record> SqlRecords::skip(const Record* from, std::int64_t steps, c
 }
 
 std::int64_t SqlRecords::number(const QString& statement, const QVariantList& values) {
-    QSqlQuery& query = Connection_.run(statement, values);
-    const std::int64_t number = query.next() ? query.value(0).toLongLong() : 0;
-    query.finish();
-    return number;
+    return Connection_.number(statement, values);
 }
 
 std::int64_t SqlRecords::countOwn(const Condition& condition) {
@@ -261,11 +258,15 @@ void SqlRecords::makeQuick(const Order& order) {
         QStringList columns;
         for (const std::size_t each : rowColumns(order))
             columns.append(nameOf(each) + (mayBeNothing(each) ? Connection_.dialect().indexSuffix() : QString()));
-        Connection_.executeBeside(QStringLiteral("CREATE INDEX %1 ON %2 (%3)")
+        const QString statement = QStringLiteral("CREATE INDEX %1 ON %2 (%3)")
                                       .arg(Dialect::quoted(Table_.name + u"_by_" + column(*order.column).name), Name_,
-                                           columns.join(QLatin1String(", "))));
+                                           columns.join(QLatin1String(", ")));
+        Connection_.beside([&](SqlConnection& own) { own.execute(statement); });
     }
-    if (SqlRecords* const texts = textsOf(order)) texts->makeQuick(textOrder(order));
+    if (SqlRecords* const texts = textsOf(order)) {
+        texts->makeQuick(textOrder(order));
+        hasStrays(order, true);
+    }
     Quick_.erase(*order.column);
 }
 

@@ -77,7 +77,7 @@ private:
     /// The records that point to none, in front of all others.
     Condition pointless(const records::Order& order);
     /// Whether some point to one that is not there, which only a file allows.
-    bool hasStrays(const records::Order& order);
+    bool hasStrays(const records::Order& order, bool isSoughtBeside = false);
     /// Those behind `from`, or in front of it, that point to the same one.
     Condition beside(const records::Record& from, bool isBehind, const records::Order& order) const;
     /// Each with its text and its key as "kel_text" and "kel_key", which no column of this table is called.

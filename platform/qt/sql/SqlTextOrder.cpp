@@ -34,7 +34,7 @@ SqlRecords::Condition SqlRecords::pointless(const Order& order) {
 
 /// A server keeps keys whole. In a file another program may have deleted what is pointed to; that is looked for again
 /// when another one has changed something.
-bool SqlRecords::hasStrays(const Order& order) {
+bool SqlRecords::hasStrays(const Order& order, bool isSoughtBeside) {
     if (Connection_.isServer()) return false;
     const std::int64_t now = version().others;
     const auto known = Strays_.find(*order.column);
@@ -44,9 +44,13 @@ bool SqlRecords::hasStrays(const Order& order) {
                                "(SELECT 1 FROM %3 WHERE %4) LIMIT 1) AS strays")
                                .arg(Name_, nameOf(*order.column), textsOf(order)->others({QStringLiteral("1 = 1"), {}}),
                                     isPointing(order));
-    const bool areThere = number(strays, {}) > 0;
-    Strays_[*order.column] = {now, areThere};
-    return areThere;
+    std::int64_t found = 0;
+    if (isSoughtBeside)
+        Connection_.beside([&](SqlConnection& own) { found = own.number(strays, {}); });
+    else
+        found = number(strays, {});
+    Strays_[*order.column] = {now, found > 0};
+    return found > 0;
 }
 
 // ---- Those that point to the same one
