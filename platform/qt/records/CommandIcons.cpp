@@ -97,7 +97,7 @@ std::optional<Picture> pictureOf(Command command) {
 /// in every size that there is, and are dark on a dark ground too.
 class DrawnIcon final : public QIconEngine {
 public:
-    DrawnIcon(QPainterPath path, const QColor& color) : Path_(std::move(path)), Color_(color) {}
+    DrawnIcon(const QPainterPath& path, const QColor& color) : Path_(path), Color_(color) {}
 
     void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State /*state*/) override {
         painter->save();
@@ -132,7 +132,7 @@ QIcon iconOf(const QWidget& window, Command command) {
     QPainterPath path = picture->path();
     const bool isArrow = picture->name == nullptr;
     if (isArrow && picture->isBackwards != window.isRightToLeft()) path = QTransform(-1, 0, 0, 1, Grid, 0).map(path);
-    return QIcon(new DrawnIcon(std::move(path), window.palette().color(QPalette::ButtonText)));
+    return QIcon(new DrawnIcon(path, window.palette().color(QPalette::ButtonText)));
 }
 
 }  // namespace kel::qt
