@@ -245,8 +245,8 @@ void KelCombo::completeTyping() {
     const DepthGuard guard(SelectionDepth_);
     Typing_ = false;
     const std::int32_t caret = Combo1_.selStart();
-    const std::u16string text = Combo1_.text();
-    const std::u16string typed = LimitToList_ ? text.substr(0, static_cast<std::size_t>(caret)) : text;
+    const std::u16string_view text = Combo1_.text();
+    const std::u16string_view typed = LimitToList_ ? text.substr(0, static_cast<std::size_t>(caret)) : text;
     const std::int32_t item = Combo1_.itemFor(typed);
     if (item != ListItems::NotFound) {
         Combo1_.setListIndex(item);

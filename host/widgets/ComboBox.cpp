@@ -53,10 +53,11 @@ void ComboBox::showDropDown(bool dropped) {
     changed(Change::List);
 }
 
-std::int32_t ComboBox::itemFor(const std::u16string& typed) {
+std::int32_t ComboBox::itemFor(std::u16string_view typed) {
     const std::int32_t item = Items_.findPrefix(typed);
-    const bool isAsked = item == ListItems::NotFound && !typed.empty() && WhenMissing_;
-    return isAsked && WhenMissing_(typed) ? Items_.findPrefix(typed) : item;
+    if (item != ListItems::NotFound || typed.empty() || !WhenMissing_) return item;
+    const std::u16string wanted(typed);  // with the items, the owner may put another text
+    return WhenMissing_(wanted) ? Items_.findPrefix(wanted) : item;
 }
 
 void ComboBox::setDroppedWidth(std::int32_t pixels) { change(DroppedWidth_, std::max(pixels, 0), Change::List); }

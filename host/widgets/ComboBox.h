@@ -70,7 +70,7 @@ public:
     void beforeDrop(std::function<void()> handler) { BeforeDrop_ = std::move(handler); }
 
     /// The first item that begins with what was typed; where none does, its owner is asked.
-    std::int32_t itemFor(const std::u16string& typed);
+    std::int32_t itemFor(std::u16string_view typed);
     /// Called where no item begins so: its owner may put other items then, and says whether it has. Empty for nobody.
     void whenMissing(std::function<bool(std::u16string_view typed)> handler) { WhenMissing_ = std::move(handler); }
 
