@@ -82,11 +82,12 @@ void QtLine::outOfDate() {
     if (changes.has(Change::Password)) setInputMethodHints(box().isPassword() ? PasswordHints : Qt::ImhNone);
     if (changes.has(Change::Colors)) recolor();
     if (changes.has(Change::Locked)) update();
-    const QRect altered = isVisible() ? areaOfEdit() : textArea();
+    const bool isEdit = changes.has(Change::Text) || changes.has(Change::Selection);
+    const QRect altered = isEdit && isVisible() ? areaOfEdit() : QRect();
     if (changes.has(Change::Password)) dropLayout();
-    if (changes.has(Change::Text)) laidOut().isCurrent = false;
+    if (changes.has(Change::Text) && laidOut().line == this) laidOut().isCurrent = false;
     showMore(changes);
-    if (!changes.has(Change::Text) && !changes.has(Change::Selection)) return;
+    if (!isEdit) return;
     // Whatever moves text or caret ends a composition.
     if (!Composition_.text.isEmpty()) {
         compose({});
