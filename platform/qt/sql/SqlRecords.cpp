@@ -198,16 +198,13 @@ std::optional<Record> SqlRecords::skip(const Record* from, std::int64_t steps, c
     return std::nullopt;
 }
 
-std::int64_t SqlRecords::number(const QString& statement, const QVariantList& values) {
-    return Connection_.number(statement, values);
-}
-
 std::int64_t SqlRecords::countOwn(const Condition& condition) {
-    return number(QStringLiteral("SELECT count(*) FROM %1 WHERE %2").arg(Name_, condition.text), condition.values);
+    return Connection_.number(QStringLiteral("SELECT count(*) FROM %1 WHERE %2").arg(Name_, condition.text),
+                              condition.values);
 }
 
 std::int64_t SqlRecords::countBetween(const Record* from, const Record* to, const Order& order) {
-    if (from == nullptr && to == nullptr) return number(QLatin1String("SELECT count(*) FROM ") + Name_, {});
+    if (from == nullptr && to == nullptr) return Connection_.number(QLatin1String("SELECT count(*) FROM ") + Name_, {});
     if (textsOf(order) != nullptr) return countByTexts(from, to, order);
     std::int64_t sum = 0;
     for (const Condition& behind : beyond(from, true, order))
@@ -221,8 +218,9 @@ bool SqlRecords::isBehind(const Cells& key, const Record& from, const Order& ord
     return std::any_of(behind.begin(), behind.end(), [&](const Stretch& stretch) {
         if (!stretch.others) return countOwn(its + stretch.own) > 0;
         const QString pairs = textsOf(order)->others(*stretch.others) + QLatin1String(" JOIN ") + Name_;
-        return number(QStringLiteral("SELECT count(*) FROM %1 ON %2 WHERE %3").arg(pairs, isPointing(order), its.text),
-                      stretch.others->values + its.values) > 0;
+        return Connection_.number(
+                   QStringLiteral("SELECT count(*) FROM %1 ON %2 WHERE %3").arg(pairs, isPointing(order), its.text),
+                   stretch.others->values + its.values) > 0;
     });
 }
 

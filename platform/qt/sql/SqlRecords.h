@@ -96,7 +96,6 @@ private:
     static constexpr std::size_t TextPlace = 1;
 
     bool mayBeNothing(std::size_t place) const { return !column(place).notNull; }
-    std::int64_t number(const QString& statement, const QVariantList& values);
     std::int64_t countOwn(const Condition& condition);
     /// `from` begins with the name of a table.
     std::vector<records::Record> allOf(const QString& from, const QVariantList& values);

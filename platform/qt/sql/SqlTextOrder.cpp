@@ -48,7 +48,7 @@ bool SqlRecords::hasStrays(const Order& order, bool isSoughtBeside) {
     if (isSoughtBeside)
         Connection_.beside([&](SqlConnection& own) { found = own.number(strays, {}); });
     else
-        found = number(strays, {});
+        found = Connection_.number(strays, {});
     Strays_[*order.column] = {now, found > 0};
     return found > 0;
 }
@@ -111,7 +111,7 @@ std::int64_t SqlRecords::countOfOthers(const Condition& others, const Order& ord
         isKnownQuick(order)
             ? QStringLiteral("SELECT CAST(coalesce(sum((SELECT count(*) FROM %2 WHERE %3)), 0) AS BIGINT) FROM %1")
             : QStringLiteral("SELECT count(*) FROM %1 JOIN %2 ON %3");
-    return number(count.arg(those, Name_, isPointing(order)), others.values);
+    return Connection_.number(count.arg(those, Name_, isPointing(order)), others.values);
 }
 
 std::int64_t SqlRecords::countByTexts(const Record* from, const Record* to, const Order& order) {
