@@ -165,7 +165,7 @@ int firstLoad() {
     return static_cast<int>((nanosecondsNow() - begun) / 1e3);
 }
 
-double firstLoadElsewhere(std::wstring program) {
+double firstLoadElsewhere(const std::wstring& program) {
     STARTUPINFOW start{};
     start.cb = sizeof start;
     PROCESS_INFORMATION process{};

@@ -7,8 +7,8 @@
 namespace kel {
 namespace {
 
-using testing::day;
-using testing::draw;
+using test::day;
+using test::draw;
 using enum KelDateDaysFlag;
 
 const Date Today = day(2013, 3, 15);
@@ -24,7 +24,7 @@ struct Field {
 
     FieldStep step(std::string_view before, std::optional<Date> value, int delta) const {
         const FieldFormat compiled(format);
-        return stepDate(testing::box(before, value), Today, delta, {compiled, bounds, region}, pin(flag));
+        return stepDate(test::box(before, value), Today, delta, {compiled, bounds, region}, pin(flag));
     }
 };
 

@@ -11,8 +11,8 @@
 namespace kel {
 namespace {
 
-using testing::clock;
-using testing::day;
+using test::clock;
+using test::day;
 
 TEST(FieldValue, IsComparedWithWhatTheHostKeeps) {
     const Variant noon = Date{0.5};

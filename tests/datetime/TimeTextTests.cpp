@@ -10,13 +10,13 @@
 namespace kel {
 namespace {
 
-using testing::clock;
-using testing::draw;
+using test::clock;
+using test::draw;
 
 FieldStep step(const char16_t* format, const char* before, std::optional<Date> value, int delta,
                const DateBounds& bounds = AllTimes) {
     const FieldFormat compiled(format);
-    return stepTime(testing::box(before, value), clock(10, 15, 30), delta, {compiled, bounds, defaultRegion()});
+    return stepTime(test::box(before, value), clock(10, 15, 30), delta, {compiled, bounds, defaultRegion()});
 }
 
 struct StepCase {
