@@ -1,7 +1,6 @@
 #include "platform/win32/accessible/AutomationText.h"
 
 #include <windows.h>
-#include <windowsx.h>
 
 #include <algorithm>
 #include <cstdint>

@@ -1,5 +1,4 @@
 #include <windows.h>
-#include <windowsx.h>
 // The input methods' header stands on the system's.
 #include <imm.h>
 
@@ -227,7 +226,7 @@ EditInput::Answer EditInput::handleMouse(UINT message, WPARAM wide, LPARAM data)
         case WM_TIMER: {
             const LRESULT result = View_.base(message, wide, data);
             if (message != WM_MOUSEMOVE || (wide & MK_LBUTTON) != 0) View_.readSelection();
-            if (message == WM_LBUTTONUP) released({GET_X_LPARAM(data), GET_Y_LPARAM(data)});
+            if (message == WM_LBUTTONUP) released({static_cast<SHORT>(LOWORD(data)), static_cast<SHORT>(HIWORD(data))});
             return result;
         }
         default: return std::nullopt;

@@ -13,8 +13,6 @@ namespace kel::tests {
 
 namespace {
 
-constexpr int Width = 200;
-constexpr int Height = 20;
 constexpr POINT Middle{100, 10};
 
 /// A check box "I &agree". Its clicks are written down as "click:1", with the value, its characters as "key:97".

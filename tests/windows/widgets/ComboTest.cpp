@@ -13,9 +13,6 @@ namespace kel::tests {
 
 namespace {
 
-constexpr int Width = 200;
-constexpr int Height = 20;
-
 ListItems fruit() {
     ListItems items;
     for (const char16_t* const item : {u"Apple", u"Apricot", u"Banana", u"Cherry", u"Fig", u"Grape", u"Kiwi", u"Lemon",

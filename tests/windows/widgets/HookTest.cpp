@@ -13,8 +13,8 @@ namespace kel::tests {
 
 namespace {
 
-constexpr int Width = 120;
-constexpr int Height = 40;
+constexpr int WindowWidth = 120;
+constexpr int WindowHeight = 40;
 constexpr LRESULT PaintResult = 4711;
 constexpr std::int16_t ButtonWidth = 16;
 
@@ -26,7 +26,7 @@ LRESULT CALLBACK ownProcedure(HWND window, UINT message, WPARAM wide, LPARAM dat
     if (message != WM_PAINT) return DefWindowProcA(window, message, wide, data);
     PAINTSTRUCT paint{};
     HDC const context = BeginPaint(window, &paint);
-    const RECT all{0, 0, Width, Height};
+    const RECT all{0, 0, WindowWidth, WindowHeight};
     FillRect(context, &all, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
     EndPaint(window, &paint);
     return PaintResult;
@@ -75,7 +75,7 @@ public:
         description.hInstance = GetModuleHandleA(nullptr);
         description.lpszClassName = Class;
         RegisterClassA(&description);
-        Window_ = CreateWindowA(Class, "", WS_POPUP | WS_VISIBLE, 20, 20, Width, Height, nullptr, nullptr,
+        Window_ = CreateWindowA(Class, "", WS_POPUP | WS_VISIBLE, 20, 20, WindowWidth, WindowHeight, nullptr, nullptr,
                                 GetModuleHandleA(nullptr), nullptr);
         settle();
         heard.clear();
@@ -183,14 +183,14 @@ TEST(hook_draws_a_sunken_frame_and_in_it_a_raised_button) {
     win32::SubclassWindow(plain.window());
     win32::setFrameButtonWidth(plain.window(), width);
     plain.paint();
-    const int middle = Height / 2;
+    const int middle = WindowHeight / 2;
     EXPECT_EQ(plain.pixel(0, middle), shadow);
     EXPECT_EQ(plain.pixel(1, middle), darkest);
     EXPECT_EQ(plain.pixel(middle, 0), shadow);
     // A pixel is left below.
-    EXPECT_EQ(plain.pixel(middle, Height - 1), white);
-    EXPECT_EQ(plain.pixel(middle, Height - 3), face);
-    const int right = Width - 2;
+    EXPECT_EQ(plain.pixel(middle, WindowHeight - 1), white);
+    EXPECT_EQ(plain.pixel(middle, WindowHeight - 3), face);
+    const int right = WindowWidth - 2;
     const int left = right - ButtonWidth;
     EXPECT_EQ(plain.pixel(left - 1, middle), white);
     EXPECT_EQ(plain.pixel(left, middle), face);

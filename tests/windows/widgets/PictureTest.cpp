@@ -13,8 +13,6 @@ namespace kel::tests {
 
 namespace {
 
-constexpr int Width = 200;
-constexpr int Height = 20;
 constexpr DWORD Ink = 0xFF0000;
 
 class PictureScene final : public Scene {

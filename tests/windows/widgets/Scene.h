@@ -14,6 +14,10 @@
 
 namespace kel::tests {
 
+/// The field of a scene, in pixels, as most of them have it.
+inline constexpr int Width = 200;
+inline constexpr int Height = 20;
+
 /// A top-level window of the host, with a button of its own in it.
 class HostWindow {
 public:

@@ -4,18 +4,18 @@ namespace kel::tests {
 
 namespace {
 
-constexpr int Width = 300;
-constexpr int Height = 60;
+constexpr int StageWidth = 300;
+constexpr int StageHeight = 60;
 
 }  // namespace
 
 Stage::Stage(bool multiLine)
-    : Scene(Width, Height), Label_(control().widgets()), Box_(control().widgets(), *this, multiLine) {
+    : Scene(StageWidth, StageHeight), Label_(control().widgets()), Box_(control().widgets(), *this, multiLine) {
     UpDownListener& spinning = *this;
     UpDown_ = std::make_unique<UpDown>(control().widgets(), spinning);
-    Label_.move(twipsOf({0, 0, Width / 3, 13}));
-    Box_.move(twipsOf({Width / 3, 0, Width * 2 / 3, multiLine ? Height : 20}));
-    UpDown_->move(twipsOf({Width - 16, 30, 16, 20}));
+    Label_.move(twipsOf({0, 0, StageWidth / 3, 13}));
+    Box_.move(twipsOf({StageWidth / 3, 0, StageWidth * 2 / 3, multiLine ? StageHeight : 20}));
+    UpDown_->move(twipsOf({StageWidth - 16, 30, 16, 20}));
     placeOn(host().window());
 }
 
