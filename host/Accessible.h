@@ -44,7 +44,7 @@ std::u16string remarksOn(const Accessible& described);
 /// "Alt+Q", the keys that lead here; empty for none.
 std::u16string shortcutOf(const Accessible& described);
 
-/// The help, and the remarks behind it, for those who have a description and nothing else.
+/// The help, and the remarks after it, for those who have a description and nothing else.
 std::u16string helpAndRemarks(const Accessible& described);
 
 /// Assistive technology writes all of the text, by the control's rules. False where nothing can be written.

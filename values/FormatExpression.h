@@ -27,7 +27,7 @@
 ///              text, and with no places after the point or no point, to a whole number. A second point
 ///              prints itself.
 ///   ,          between two places of the whole part: the whole part is grouped as the region does.
-///              Behind the last place of the whole part, each one divides by a thousand: "#,##0,," shows
+///              After the last place of the whole part, each one divides by a thousand: "#,##0,," shows
 ///              millions. Elsewhere it prints itself.
 ///   %          multiplies by a hundred, each of them, and prints itself
 ///   E+0 e+0    the number is shown as so many whole digits as there are places for, times a power of ten;

@@ -58,8 +58,8 @@ void skipFillers(std::u16string_view& text) {
 /// long texts cheap.
 constexpr int MostWords = 16;
 
-/// What is left behind the marker, case and fillers aside; all of `text` when it does not begin with it.
-std::u16string_view behindMarker(std::u16string_view text, std::u16string_view marker) {
+/// What is left after the marker, case and fillers aside; all of `text` when it does not begin with it.
+std::u16string_view afterMarker(std::u16string_view text, std::u16string_view marker) {
     std::u16string_view rest = text;
     for (skipFillers(marker); !marker.empty(); skipFillers(marker)) {
         skipFillers(rest);
@@ -138,9 +138,9 @@ private:
         std::u16string_view rest = text;
         const auto look = [&](HalfDay half, std::initializer_list<std::u16string_view> markers) {
             for (const std::u16string_view marker : markers) {
-                const std::u16string_view behind = behindMarker(text, marker);
-                if (behind.size() >= rest.size()) continue;
-                rest = behind;
+                const std::u16string_view after = afterMarker(text, marker);
+                if (after.size() >= rest.size()) continue;
+                rest = after;
                 Half_ = half;
             }
         };

@@ -46,7 +46,7 @@ public:
     void runUntilClosed() override { QApplication::exec(); }
 
 private:
-    /// As the system hands them to a program: its name in front, and nothing behind the last.
+    /// As the system hands them to a program: its name in front, and nothing after the last.
     static std::vector<char*> pointersTo(std::vector<std::string>& words) {
         words.insert(words.begin(), "kelforms");
         std::vector<char*> pointers;

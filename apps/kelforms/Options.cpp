@@ -139,7 +139,7 @@ constexpr QtOption QtOptions[] = {
     {"-widgetcount", false},
 };
 
-/// One that Qt understands, with its value beside it or behind an equals sign. False when it is none.
+/// One that Qt understands, with its value beside it or after an equals sign. False when it is none.
 bool readQtOption(const std::string& word, Reader& reader, Options& options) {
     const std::string_view name = std::string_view(word).substr(0, word.find('='));
     const auto found = std::find_if(std::begin(QtOptions), std::end(QtOptions),

@@ -26,7 +26,7 @@ StepPart partAtCaret(std::size_t caret, std::u16string_view format) {
     return StepPart::Minute;
 }
 
-/// Behind the part's last letter in the format; past the end where that is the end.
+/// After the part's last letter in the format; past the end where that is the end.
 std::size_t caretBehind(StepPart part, std::u16string_view format) {
     std::size_t position = format.size();
     while (position > 0 && TimeLetters.partOf(format[position - 1]) != part) --position;

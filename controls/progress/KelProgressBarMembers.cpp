@@ -17,8 +17,8 @@ constexpr MemberRow Members[] = {
         .beforeWriting(u"Max")
         .in(Category::Data),
     method<&KelProgressBar::Refresh>(u"Refresh", 0x60030005, u"Repaints the bar"),
-    property<&KelProgressBar::get_ShowTime, &KelProgressBar::put_ShowTime>(
-        u"ShowTime", 0x68030000, u"The time left stands after the percentage")
+    property<&KelProgressBar::get_ShowTime, &KelProgressBar::put_ShowTime>(u"ShowTime", 0x68030000,
+                                                                           u"The time left stands after the percentage")
         .saved(true)
         .in(Category::Appearance),
     method<&KelProgressBar::Start>(u"Start", 0x60030006, u"Begins a job: the time counts from here"),

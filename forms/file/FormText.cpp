@@ -38,9 +38,9 @@ std::string_view takeWord(std::string_view& rest) {
     return rest.starts_with(CommentMark) ? std::string_view() : takeUntil(rest, Blanks);
 }
 
-void expectEnd(std::string_view rest, std::string_view behind) {
+void expectEnd(std::string_view rest, std::string_view before) {
     const std::string_view word = takeWord(rest);
-    if (!word.empty()) throw FormFault{excerptOf(word) + " stands behind " + std::string(behind)};
+    if (!word.empty()) throw FormFault{excerptOf(word) + " stands after " + std::string(before)};
 }
 
 FormLine scanBegin(std::string_view rest) {
@@ -104,7 +104,7 @@ ScannedValue scanQuotedValue(std::string_view rest) {
     if (isText) rest.remove_prefix(1);
     const QuotedBytes quoted = takeQuoted(rest);
     if (!rest.starts_with(':')) {
-        if (isText) throw FormFault{"an offset into the file must follow the name behind $"};
+        if (isText) throw FormFault{"an offset into the file must follow the name after $"};
         expectEnd(rest, "the text");
         return quoted;
     }
@@ -150,10 +150,10 @@ FormLine scanFormLine(std::string_view line) {
     std::string_view rest = withoutLeadingBlanks(line);
     if (rest.empty() || rest.front() == CommentMark) return {};
     const std::string_view word = takeUntil(rest, " \t=");
-    const std::string_view behind = withoutLeadingBlanks(rest);
-    if (!behind.starts_with('=')) return scanKeyword(word, behind);
+    const std::string_view after = withoutLeadingBlanks(rest);
+    if (!after.starts_with('=')) return scanKeyword(word, after);
     if (word.empty()) throw FormFault{"a property needs a name before the ="};
-    return {FormLine::Kind::Property, word, withoutLeadingBlanks(behind.substr(1))};
+    return {FormLine::Kind::Property, word, withoutLeadingBlanks(after.substr(1))};
 }
 
 bool isVersionLine(std::string_view line) {

@@ -72,7 +72,7 @@ constexpr VerbRow Verbs[] = {
     {u"load", Verb::Load, Shape::File},
 };
 
-/// What a script says of the records behind the form. "save" and "show" are so with these words behind them.
+/// What a script says of the records behind the form. "save" and "show" are so with these words after them.
 constexpr std::u16string_view RecordWords[] = {u"new",  u"first",     u"previous", u"next",   u"last",  u"go",
                                                u"find", u"duplicate", u"undo",     u"delete", u"carry", u"answers"};
 
@@ -194,7 +194,7 @@ void readClipboard(LineReader& line, ScriptCommand& command) {
     std::u16string_view rest = command.text;
     std::string error;
     auto value = takeScriptValue(rest, error);
-    if (!value || !rest.empty()) line.fail(error.empty() ? "something stands behind the closing quote" : error);
+    if (!value || !rest.empty()) line.fail(error.empty() ? "something stands after the closing quote" : error);
     command.text = std::get<std::u16string>(std::move(*value));
 }
 
@@ -247,7 +247,7 @@ void readArguments(LineReader& line, ScriptCommand& command, const VerbRow& row)
             break;
         }
     }
-    if (!line.atEnd()) line.fail("something stands behind the command");
+    if (!line.atEnd()) line.fail("something stands after the command");
 }
 
 std::u16string_view withoutBlanks(std::u16string_view text) {

@@ -198,13 +198,13 @@ bool EditBuffer::replace(EditKind kind, std::size_t from, std::size_t to, std::u
         History_.record(kind, from, removed, inserted, Selection_);
         Text_.replace(from, removed.size(), inserted);
     }
-    const std::size_t behind = snapped(from + inserted.size());
+    const std::size_t after = snapped(from + inserted.size());
     // The caret goes along with the edit: that alone ends no run of typing.
     if (differs) {
-        Selection_ = {behind, behind};
+        Selection_ = {after, after};
         Column_ = NoColumn;
     } else {
-        select({behind, behind});
+        select({after, after});
     }
     return differs;
 }

@@ -50,9 +50,9 @@ std::optional<EditHistory::Replacement> EditHistory::redo() {
     endRun();
     if (!canRedo()) return std::nullopt;
     const Step& step = Steps_[Done_++];
-    const std::size_t behind = step.position + step.inserted.size();
+    const std::size_t after = step.position + step.inserted.size();
     return Replacement{
-        step.position, step.removed.size(), step.inserted, {behind, behind}, step.removed != step.inserted};
+        step.position, step.removed.size(), step.inserted, {after, after}, step.removed != step.inserted};
 }
 
 }  // namespace kel

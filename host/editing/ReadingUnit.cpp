@@ -6,7 +6,7 @@ namespace kel {
 
 namespace {
 
-/// Lines may be empty, also the one behind the last line break; there is no empty character or word.
+/// Lines may be empty, also the one after the last line break; there is no empty character or word.
 bool begins(const ReadText& read, ReadingUnit unit, std::size_t position) {
     const ReadRange there = unitAt(read, unit, position);
     const bool mayBeEmpty = unit == ReadingUnit::Line || unit == ReadingUnit::Paragraph;

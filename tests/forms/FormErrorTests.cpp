@@ -41,7 +41,7 @@ TEST(FormErrors, OfTheWholeFile) {
         {"", 1, "the file is empty"},
         {"Begin A b\nEnd\n", 1, "VERSION"},
         {"VERSION 4.00\nBegin A b\nEnd\n", 1, "only 5.00"},
-        {"VERSION 1.0 CLASS\n", 1, "\"CLASS\" stands behind the version"},
+        {"VERSION 1.0 CLASS\n", 1, "\"CLASS\" stands after the version"},
         {"VERSION 5.00\nVERSION 5.00\n", 2, "second VERSION"},
     });
 }
@@ -61,7 +61,7 @@ TEST(FormErrors, OfProperties) {
         {"VERSION 5.00\nObject = 3\n", 2, "library in quotes"},
         {Head + "Attribute VB_Name\n", 3, "\"Attribute\" begins neither a property nor a block"},
         {Head + "X = \"abc\n", 3, "no closing quote"},
-        {Head + "X = 12 34\n", 3, "\"34\" stands behind the number"},
+        {Head + "X = 12 34\n", 3, "\"34\" stands after the number"},
         {Head + "X = \"a.frx\":00G0\n", 3, "\"00G0\" is no hexadecimal offset"},
         {Head + "Width = 1\nLeft = 2\nwidth = 1\nEnd\n", 5, "\"Width\" stands in this block already, in line 3"},
         {Head + "BeginProperty A\nX = 1\nx = 2\nEndProperty\nEnd\n", 5, "in line 4"},

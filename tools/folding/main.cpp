@@ -48,7 +48,7 @@ char32_t plainOf(char32_t point) {
 }
 
 void printPlainLetters() {
-    constexpr char32_t LastWithAccents = 0x1FFF;  ///< behind it are scripts that write in other ways
+    constexpr char32_t LastWithAccents = 0x1FFF;  ///< after it are scripts that write in other ways
     constexpr std::size_t PerLine = 6;
     std::printf("constexpr PlainLetter PlainLetters[] = {");
     std::size_t count = 0;

@@ -34,7 +34,7 @@ public:
     /// Carried over by other means, or of no meaning elsewhere.
     void pass(std::u16string_view name);
 
-    /// "numPrice.Icon is not carried over", with a reason behind it if there is one.
+    /// "numPrice.Icon is not carried over", with a reason after it if there is one.
     void leave(std::u16string_view name, std::size_t line, std::string_view reason);
     /// "numPrice.MinValue comes in otherwise: .5"
     void alter(std::u16string_view name, std::size_t line, std::u16string_view value);

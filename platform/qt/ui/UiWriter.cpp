@@ -149,7 +149,7 @@ void UiWriter::palette(const QList<Color>& colors) {
     end();
 }
 
-// ---- Behind the widgets
+// ---- After the widgets
 
 void UiWriter::tabStops(const QStringList& widgets) {
     if (widgets.isEmpty()) return;

@@ -49,13 +49,13 @@ std::size_t lengthOf(const QTextBlock& block) { return static_cast<std::size_t>(
 /// The block that holds `position`, or the line break after it.
 QTextBlock blockAt(const QTextDocument& document, std::size_t position) {
     int first = 0;
-    int behind = document.blockCount();
-    while (behind - first > 1) {
-        const int middle = first + (behind - first) / 2;
+    int after = document.blockCount();
+    while (after - first > 1) {
+        const int middle = first + (after - first) / 2;
         if (startOf(document.findBlockByNumber(middle)) <= position)
             first = middle;
         else
-            behind = middle;
+            after = middle;
     }
     return document.findBlockByNumber(first);
 }

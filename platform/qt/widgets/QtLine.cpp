@@ -56,7 +56,7 @@ constexpr Qt::InputMethodHints PasswordHints =
 
 int toInt(std::size_t position) { return static_cast<int>(position); }
 
-/// Its letters stand one behind the other, none wider than the font's widest.
+/// Its letters stand one after the other, none wider than the font's widest.
 bool isPlain(QStringView text) {
     return std::all_of(text.begin(), text.end(), [](QChar unit) { return unit >= u' ' && unit <= u'~'; });
 }

@@ -4,7 +4,7 @@ namespace kel::win32 {
 
 namespace {
 
-/// Behind all that the system itself keeps with a window.
+/// After all that the system itself keeps with a window.
 int placeOfHandler(HWND window) {
     return static_cast<int>(GetClassLongW(window, GCL_CBWNDEXTRA)) - static_cast<int>(sizeof(WindowHandler*));
 }

@@ -161,8 +161,8 @@ std::size_t CanvasText::fitting(int width, std::wstring_view paragraph) const {
     GetTextExtentExPointW(Measure_, paragraph.data(), static_cast<int>(paragraph.size()), width, &fit, nullptr, &size);
     const auto count = static_cast<std::size_t>(fit);
     if (count >= paragraph.size()) return paragraph.size();
-    const std::size_t behind = paragraph.find_first_not_of(L' ', count);
-    if (behind != count) return std::min(behind, paragraph.size());
+    const std::size_t after = paragraph.find_first_not_of(L' ', count);
+    if (after != count) return std::min(after, paragraph.size());
     const std::size_t blank = paragraph.rfind(L' ', count);
     if (blank != paragraph.npos) return blank + 1;
     const bool splits = count > 0 && isLowSurrogate(static_cast<char16_t>(paragraph[count]));

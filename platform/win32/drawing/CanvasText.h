@@ -26,11 +26,11 @@ public:
     /// A line from its upper left corner; nothing of it outside `clip`, where there is one.
     void line(POINT place, std::wstring_view text, COLORREF ink, const RECT* clip = nullptr) const;
 
-    /// A caption of one line, or of as many as it takes in the width of `area`. The character behind "&" is underlined,
+    /// A caption of one line, or of as many as it takes in the width of `area`. The character after "&" is underlined,
     /// unless `marks` is false.
     void caption(const RECT& area, std::u16string_view caption, COLORREF ink, bool severalLines, bool marks) const;
     /// Lines that end where the text says so, or with the last word that fits, or where a word is too long for one. Of
-    /// a line behind the first all of its height is there, or nothing.
+    /// a line after the first all of its height is there, or nothing.
     void lines(const RECT& area, std::wstring_view text, COLORREF ink) const;
 
 private:

@@ -127,7 +127,7 @@ public:
 
     HWND window() const { return GetWindow(Frame_, GW_CHILD); }
 
-    /// The check box of this name, or what stands behind the label of this name.
+    /// The check box of this name, or what stands after the label of this name.
     HWND editor(const std::wstring& name) const {
         for (HWND child = GetWindow(window(), GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT)) {
             std::wstring text = textOf(child);
