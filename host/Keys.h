@@ -47,9 +47,22 @@ constexpr bool togglesOverwriting(std::int16_t code, Modifiers modifiers) {
     return code == keys::Insert && modifiers == NoModifier;
 }
 
-/// Tab with Ctrl is an ordinary key; without, it arrives at a widget only when there is nowhere to go.
+/// Tab goes on to the next field, with Shift to the one before. With Ctrl it is an ordinary key; with Alt it is for
+/// another program.
 constexpr bool leavesField(const KeyStroke& stroke) {
-    return stroke.code == keys::Tab && (stroke.modifiers & ControlKey) == 0;
+    return stroke.code == keys::Tab && (stroke.modifiers & (ControlKey | AltKey)) == 0;
+}
+
+/// A letter with Alt is that of a mnemonic; with Ctrl as well it is typed by AltGr.
+constexpr bool seeksMnemonic(const KeyStroke& stroke) {
+    return stroke.character != 0 && (stroke.modifiers & (ControlKey | AltKey)) == AltKey;
+}
+
+/// A character, or a control character that means something to a field. Tab goes by its key, and what the Delete key
+/// gives on some systems does too; half of a pair is no character.
+constexpr bool canBeStruck(char32_t character) {
+    const bool isHalf = character >= 0xD800 && character <= 0xDFFF;
+    return character != 0 && character != keys::Tab && character != 0x7F && !isHalf;
 }
 
 /// The stroke that types `character`, or gives a control character as terminals send them.

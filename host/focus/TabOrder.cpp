@@ -65,19 +65,31 @@ void TabOrder::addLabel(std::u16string_view caption, std::int32_t tabIndex) {
     Labels_.emplace_back(mnemonicIn(caption), tabIndex);
 }
 
-bool TabOrder::pressMnemonic(char32_t letter) const {
-    for (const TabStop* const stop : Stops_) {
-        if (!isKeyOf(stop->mnemonic(), letter)) continue;
-        if (FieldWidget* const field = stop->focusTarget()) field->pressMnemonic();
-        return true;
-    }
-    for (const auto& [mnemonic, tabIndex] : Labels_) {
-        const TabStop* const named = isKeyOf(mnemonic, letter) ? namedBy(tabIndex) : nullptr;
-        if (named == nullptr) continue;
-        if (FieldWidget* const field = named->focusTarget()) field->setFocus();
-        return true;
-    }
-    return false;
+TabOrder::Lead TabOrder::leadOf(const KeyStroke& stroke, const TabStop* from) const {
+    Lead lead;
+    if (!seeksMnemonic(stroke)) return lead;
+    const TabWay way(from, false);
+    const auto consider = [&](TabStop* stop, bool presses) {
+        if (stop == nullptr || stop == lead.stop || stop->focusTarget() == nullptr) return;
+        const bool isOnly = lead.stop == nullptr;
+        if (isOnly || way.reachesSooner(*stop, *lead.stop)) lead.stop = stop;
+        lead.presses = isOnly && presses;
+    };
+    for (TabStop* const stop : Stops_)
+        if (isKeyOf(stop->mnemonic(), stroke.character)) consider(stop, true);
+    for (const auto& [mnemonic, tabIndex] : Labels_)
+        if (isKeyOf(mnemonic, stroke.character)) consider(namedBy(tabIndex), false);
+    return lead;
+}
+
+bool TabOrder::pressMnemonic(const KeyStroke& stroke, const TabStop* from) const {
+    const Lead lead = leadOf(stroke, from);
+    if (lead.stop == nullptr) return false;
+    if (lead.presses)
+        lead.stop->focusTarget()->pressMnemonic();
+    else
+        lead.stop->focusTarget()->setFocus();
+    return true;
 }
 
 std::vector<TabStop*> TabOrder::sorted() const {

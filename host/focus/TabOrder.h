@@ -61,14 +61,25 @@ public:
 
     void addLabel(std::u16string_view caption, std::int32_t tabIndex);
 
-    /// The key of the mnemonic with this letter is that of the first control that has it, or else leads to what a plain
-    /// label names. False where nothing has it.
-    bool pressMnemonic(char32_t letter) const;
+    /// The stroke is that of a mnemonic which leads to a field that takes the focus.
+    bool hasMnemonic(const KeyStroke& stroke) const { return leadOf(stroke, nullptr).stop != nullptr; }
+
+    /// Alt with the letter of a mnemonic leads from the control that has the focus (nullptr: none) to the next one
+    /// whose own caption marks the letter, or which a plain label that marks it names, and around. A letter that
+    /// several have gives the focus and presses nothing. False where it leads nowhere.
+    bool pressMnemonic(const KeyStroke& stroke, const TabStop* from) const;
 
     /// As Tab comes to them.
     std::vector<TabStop*> sorted() const;
 
 private:
+    /// Where the key of a mnemonic leads.
+    struct Lead {
+        TabStop* stop = nullptr;
+        bool presses = false;
+    };
+    Lead leadOf(const KeyStroke& stroke, const TabStop* from) const;
+
     std::vector<TabStop*> Stops_;
     std::vector<std::pair<char16_t, std::int32_t>> Labels_;  ///< mnemonic and tab index
 };

@@ -89,8 +89,7 @@ void HeadlessWindow::moveFocusTo(const TabStop& stop, bool byTab) {
 }
 
 void HeadlessWindow::moveFocusByTab(bool back) {
-    const TabStop* const from = Focus_.holder() != nullptr ? &placedWith(*Focus_.holder()) : nullptr;
-    if (const TabStop* const next = Order_.next(from, back)) moveFocusTo(*next, true);
+    if (const TabStop* const next = Order_.next(focusedHere(), back)) moveFocusTo(*next, true);
 }
 
 void HeadlessWindow::recheckFocus() {
@@ -107,11 +106,9 @@ void HeadlessWindow::recheckFocus() {
 
 void HeadlessWindow::press(const KeyStroke& stroke) {
     byHand([this, &stroke] {
-        // Alt and Tab go to another program.
-        if (leavesField(stroke) && (stroke.modifiers & AltKey) != 0) return;
         const bool struck = Focus_.holder() != nullptr && Focus_.holder()->strike(stroke);
         if (leavesField(stroke)) moveFocusByTab((stroke.modifiers & ShiftKey) != 0);
-        if (!struck && stroke.modifiers == AltKey && stroke.character != 0) Order_.pressMnemonic(stroke.character);
+        if (!struck) Order_.pressMnemonic(stroke, focusedHere());
     });
 }
 
@@ -157,7 +154,7 @@ void HeadlessWindow::drop(PlacedControl& control, std::int32_t position, std::u1
     byMouseInField(control, [&](FieldWidget& field) { field.drop(position, text); });
 }
 
-PlacedControl* HeadlessWindow::focused() const {
+PlacedHeadlessControl* HeadlessWindow::focusedHere() const {
     return Focus_.holder() != nullptr ? &placedWith(*Focus_.holder()) : nullptr;
 }
 

@@ -29,7 +29,7 @@ public:
     void spin(PlacedControl& control, bool up) override;
     void pick(PlacedControl& control, std::int32_t item) override;
     void setClipboard(std::u16string_view text) override { Input_.Clipboard.assign(text); }
-    PlacedControl* focused() const override;
+    PlacedControl* focused() const override { return focusedHere(); }
     std::string picture() override { return {}; }
 
     // ---- Further hands, which scripts do not have
@@ -55,6 +55,7 @@ public:
     const std::u16string& clipboard() const { return Input_.Clipboard; }
 
 private:
+    PlacedHeadlessControl* focusedHere() const;
     void moveFocusTo(const TabStop& stop, bool byTab);
     void moveFocusByTab(bool back);
 

@@ -42,6 +42,10 @@ public:
         auto& number = static_cast<KelNumber&>(control(NumberField).control());
         number.put_Decimals(2);
         number.entry().put_UpDown(true);
+        for (const std::size_t field : {std::size_t{1}, NumberField, FreeField})
+            EntryField::of(control(field).control()).put_Caption(u"&Same");
+        check().put_Caption(u"&Same");
+        combo(LimitedField).entry().put_Caption(u"&Own");
         Form_.show();
     }
 
@@ -109,6 +113,12 @@ Step key(Dice& dice) {
 }
 
 Step command(Dice& dice) {
+    if (dice.below(6) == 0) {
+        const char16_t mnemonic = dice.oneOf({u's', u's', u'S', u'o', u'x'});
+        KeyStroke stroke = strokeFor(mnemonic);
+        stroke.modifiers = stroke.modifiers | AltKey;
+        return [stroke](Worked& form) { form.window().press(stroke); };
+    }
     const auto letter = static_cast<std::int16_t>(dice.oneOf({'A', 'C', 'V', 'X', 'Y', 'Z', 'Z'}));
     const Modifiers modifiers = dice.below(8) == 0 ? ControlKey | ShiftKey : ControlKey;
     return [=](Worked& form) { form.window().press({letter, 0, modifiers}); };

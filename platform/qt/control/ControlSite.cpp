@@ -44,7 +44,7 @@ ControlSite::ControlSite(KelControlWidget& widget, const ControlServices& surrou
       Widget_(&widget),
       Surroundings_(surroundings),
       Region_(&surroundings.region),
-      Grid_(surroundings.followsFont ? gridOf(widget) : TwipGrid(surroundings.system.scale())) {}
+      Grid_(surroundings.amongOthers ? gridOf(widget) : TwipGrid(surroundings.system.scale())) {}
 
 ControlSite::~ControlSite() { focus::forget(*this); }
 
@@ -116,7 +116,7 @@ void ControlSite::mirrored() {
 }
 
 void ControlSite::measuresDiffer() {
-    if (!Surroundings_.followsFont) return;
+    if (!isAmongOthers()) return;
     forEach<PlacedView>([](PlacedView& child) { child.fontAgain(); });
     const TwipGrid grid = gridOf(*Widget_);
     const bool isSame = std::exchange(Grid_, grid) == grid;
@@ -385,7 +385,7 @@ void ControlSite::captionChanged(const QString& spokenBefore) {
 
     if (Mnemonic_ != 0) Widget_->releaseShortcut(Mnemonic_);
     Mnemonic_ = 0;
-    if (Label_->shown().caption().find(u'&') == std::u16string::npos) return;
+    if (!isAmongOthers() || Label_->shown().mnemonic() == 0) return;
     const QKeySequence key = QKeySequence::mnemonic(toQString(Label_->shown().caption()));
     if (!key.isEmpty()) Mnemonic_ = Widget_->grabShortcut(key);
 }
@@ -396,7 +396,7 @@ EntryField* ControlSite::captioned() const {
 }
 
 void ControlSite::fitCaption() {
-    EntryField* const entry = Surroundings_.followsFont && Label_ != nullptr ? captioned() : nullptr;
+    EntryField* const entry = isAmongOthers() && Label_ != nullptr ? captioned() : nullptr;
     if (entry == nullptr) return;
     const std::int32_t before = entry->wantedCaptionWidth();
     entry->fitCaption(Grid_.across().twips(Label_->neededWidth()));

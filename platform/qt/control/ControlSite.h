@@ -29,7 +29,9 @@ struct ControlServices {
     SharedSettings& settings;
     System& system;
     const RegionalSettings& region;
-    bool followsFont = false;  ///< its twips go by the font of its widget; else by the scale of the system
+    /// Among widgets of others its twips go by the font of its own, and its mnemonic is a shortcut of the window. On a
+    /// form they go by the scale of the system, and the form knows its mnemonic.
+    bool amongOthers = false;
 };
 
 /// The place of a control in its Qt widget: the container that the control sees, and the maker of its child
@@ -136,6 +138,7 @@ public:
 
     // ---- Places
 
+    bool isAmongOthers() const { return Surroundings_.amongOthers; }
     /// Where something inside the control stands in the widget: mirrored from right to left.
     QRect pixelRect(const Rect& bounds) const;
     /// The control's own place in a form that counts in twips; no resize follows.

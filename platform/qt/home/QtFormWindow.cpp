@@ -1,10 +1,12 @@
 #include "platform/qt/home/QtFormWindow.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QWidget>
 
 #include "library/SharedSettings.h"
+#include "platform/qt/base/EdgeGuard.h"
+#include "platform/qt/base/KeyMap.h"
 #include "platform/qt/base/TextBridge.h"
 #include "platform/qt/base/WidgetSettings.h"
 #include "platform/qt/home/ForeignWidgets.h"
@@ -14,19 +16,29 @@ namespace kel::qt {
 
 namespace {
 
-/// Takes the focus itself where nothing has it, so that Qt does not hand it to the first field.
+/// Takes the focus itself where nothing has it, so that Qt does not hand it to the first field. Filters what comes to
+/// its window.
 class FormWidget final : public QWidget {
+public:
+    explicit FormWidget(QtFormWindow& form) : Form_(form) {}
+
 protected:
     bool event(QEvent* event) override {
         if (event->type() == QEvent::WindowActivate && focusWidget() == nullptr) setFocus(Qt::ActiveWindowFocusReason);
         return QWidget::event(event);
     }
+    bool eventFilter(QObject* /*window*/, QEvent* event) override {
+        return atEdge([&] { return Form_.takesKey(*event); });
+    }
+
+private:
+    QtFormWindow& Form_;
 };
 
 }  // namespace
 
 QtFormWindow::QtFormWindow(const WindowSpec& description, const ControlServices& surroundings)
-    : Surroundings_(surroundings), Window_(std::make_unique<FormWidget>()) {
+    : Surroundings_(surroundings), Window_(std::make_unique<FormWidget>(*this)) {
     const TwipGrid grid(surroundings.system.scale());
     Window_->setWindowTitle(toQString(description.caption));
     if (description.rightToLeft) Window_->setLayoutDirection(Qt::RightToLeft);
@@ -58,7 +70,8 @@ PlacedPanel* QtFormWindow::placeForeign(const ForeignBlock& block) {
 
 void QtFormWindow::show() {
     setTabOrder();
-    befriendLabels();
+    nameByLabels();
+    Window_->window()->installEventFilter(Window_.get());
     if (const auto runtime = Surroundings_.settings.Runtime)
         setWidgetFont(*Window_, fontLike(Window_->font(), runtime->CaptionFontName(), runtime->CaptionFontSize()));
     // By index: a host may place further controls meanwhile.
@@ -77,10 +90,23 @@ void QtFormWindow::setTabOrder() {
     }
 }
 
-/// The mnemonic of a plain label leads to the control that comes next.
-void QtFormWindow::befriendLabels() {
+/// So they are read out, and underline their mnemonics.
+void QtFormWindow::nameByLabels() {
     for (const Caption& caption : Captions_)
         caption.label->setBuddy(static_cast<PlacedQtControl*>(Order_.namedBy(caption.tabIndex)));
+}
+
+// ---- Keys
+
+bool QtFormWindow::takesKey(QEvent& event) {
+    if (event.type() == QEvent::ShortcutOverride) {
+        if (!Order_.hasMnemonic(strokeOf(static_cast<QKeyEvent&>(event)))) return false;
+    } else if (event.type() != QEvent::KeyPress ||
+               !Order_.pressMnemonic(strokeOf(static_cast<QKeyEvent&>(event)), focusedControl())) {
+        return false;
+    }
+    event.accept();
+    return true;
 }
 
 }  // namespace kel::qt

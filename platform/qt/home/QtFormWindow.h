@@ -7,6 +7,7 @@
 #include "host/focus/TabOrder.h"
 #include "platform/qt/control/ControlSite.h"
 
+class QEvent;
 class QLabel;
 class QWidget;
 
@@ -34,6 +35,9 @@ public:
     PlacedControl* focused() const override;
     std::string picture() override;
 
+    /// What nobody in the window has used is a mnemonic of the form, which comes before any shortcut.
+    bool takesKey(QEvent& event);
+
     /// The window itself, which may stand in another one. Owned here.
     QWidget& widget() const { return *Window_; }
 
@@ -45,7 +49,8 @@ private:
 
     QWidget& parentOf(const Placement& placement) const;
     void setTabOrder();
-    void befriendLabels();
+    void nameByLabels();
+    PlacedQtControl* focusedControl() const;
     void activate();
     template <class Action>
     void byMouse(PlacedControl& control, Action action);

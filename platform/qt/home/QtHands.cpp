@@ -161,7 +161,9 @@ void QtFormWindow::pick(PlacedControl& control, std::int32_t item) {
 
 void QtFormWindow::setClipboard(std::u16string_view text) { QGuiApplication::clipboard()->setText(toQString(text)); }
 
-PlacedControl* QtFormWindow::focused() const {
+PlacedControl* QtFormWindow::focused() const { return focusedControl(); }
+
+PlacedQtControl* QtFormWindow::focusedControl() const {
     for (QWidget* widget = Window_->focusWidget(); widget != nullptr; widget = widget->parentWidget())
         if (auto* const control = dynamic_cast<PlacedQtControl*>(widget)) return control;
     return nullptr;

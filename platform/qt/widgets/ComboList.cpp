@@ -8,6 +8,7 @@
 #include <QScreen>
 
 #include "platform/qt/base/EdgeGuard.h"
+#include "platform/qt/base/KeyMap.h"
 #include "platform/qt/base/TextBridge.h"
 #include "platform/qt/control/ControlSite.h"
 
@@ -30,18 +31,6 @@ public:
 private:
     const ListItems& Items_;
 };
-
-bool movesFocus(const QKeyEvent& event) {
-    const bool isTab = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
-    return event.type() == QEvent::KeyPress && isTab && !event.modifiers().testFlag(Qt::ControlModifier);
-}
-
-/// Of a letter with Alt, before shortcuts are looked for.
-bool looksForMnemonic(const QKeyEvent& event) {
-    const Qt::KeyboardModifiers held = event.modifiers() & (Qt::AltModifier | Qt::ControlModifier);
-    return event.type() == QEvent::ShortcutOverride && held == Qt::AltModifier && !event.text().isEmpty() &&
-           event.text().front().isPrint();
-}
 
 }  // namespace
 
@@ -118,8 +107,12 @@ bool ComboList::viewportEvent(QEvent* event) {
 }
 
 bool ComboList::keyPassed(QKeyEvent& event) {
-    // So that the box has the focus back when it loses it. Mnemonics are of the window, and no list may lie in front.
-    if (movesFocus(event) || looksForMnemonic(event)) Combo_.showDropDown(false);
+    const KeyStroke stroke = strokeOf(event);
+    // So that the box has the focus back when it loses it.
+    const bool leaves = event.type() == QEvent::KeyPress && leavesField(stroke);
+    // Shortcuts are of the window, and no list may lie in front.
+    const bool isShortcut = event.type() == QEvent::ShortcutOverride && Box_.site().isAmongOthers();
+    if (leaves || (isShortcut && seeksMnemonic(stroke))) Combo_.showDropDown(false);
     return QCoreApplication::sendEvent(&Box_, &event);
 }
 

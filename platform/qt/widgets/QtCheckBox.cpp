@@ -46,6 +46,7 @@ void QtCheckBox::outOfDate() {
     showState(changes);
     if (changes.has(Change::Caption)) {
         setText(toQString(Box_.caption()));
+        if (!site().isAmongOthers()) setShortcut({});
         site().widget().updateGeometry();
     }
     if (changes.has(Change::Value)) setCheckState(stateFor(Box_.value()));

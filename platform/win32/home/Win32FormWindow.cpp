@@ -8,6 +8,7 @@
 #include "platform/win32/base/Session.h"
 #include "platform/win32/base/WideText.h"
 #include "platform/win32/control/Win32Focus.h"
+#include "platform/win32/widgets/EditInput.h"
 
 namespace kel::win32 {
 
@@ -133,12 +134,16 @@ void Win32FormWindow::changeResolution(int dotsPerInch) {
 
 // ---- What comes to the window
 
+/// Without a focus the system sends plain keys as if Alt were down.
 bool Win32FormWindow::takesKey(const MSG& message) {
-    if (message.message == WM_SYSCHAR) return Order_.pressMnemonic(static_cast<char16_t>(message.wParam));
-    // Without a focus the system sends plain keys as if Alt were down.
+    if (message.message == WM_SYSCHAR) {
+        const Modifiers held = (HIWORD(message.lParam) & KF_ALTDOWN) != 0 ? AltKey : NoModifier;
+        return Order_.pressMnemonic({0, static_cast<char16_t>(message.wParam), held}, focusedControl());
+    }
     const bool isKey = message.message == WM_KEYDOWN || message.message == WM_SYSKEYDOWN;
-    if (!isKey || message.wParam != VK_TAB || GetKeyState(VK_CONTROL) < 0 || GetKeyState(VK_MENU) < 0) return false;
-    moveByTab(GetKeyState(VK_SHIFT) < 0);
+    const KeyStroke stroke{static_cast<std::int16_t>(message.wParam), 0, modifiersDown()};
+    if (!isKey || !leavesField(stroke)) return false;
+    moveByTab((stroke.modifiers & ShiftKey) != 0);
     return true;
 }
 
