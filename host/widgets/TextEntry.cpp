@@ -224,7 +224,13 @@ void TextEntry::press(const MousePress& press) {
             setSelStart(press.position);
         selectClicked(press.clicks);
     }
-    pressMouse(press.button);
+    pressMouse(press.button, press.clicks);
+}
+
+bool TextEntry::mayDrag(const MousePress& press) const {
+    const bool isInSelection = press.position > selStart() && press.position < selStart() + selLength();
+    const bool isPlain = press.button == MouseButton::Left && press.clicks == 1 && !press.extends;
+    return isPlain && isInSelection && offers(EditAction::Copy);
 }
 
 void TextEntry::selectClicked(int clicks) {
@@ -237,8 +243,8 @@ void TextEntry::selectClicked(int clicks) {
         select({std::clamp(word.anchor, line.start, line.end), std::clamp(word.caret, line.start, line.end)});
 }
 
-void TextEntry::pressMouse(MouseButton button) {
-    LeftPressed_ = button == MouseButton::Left;
+void TextEntry::pressMouse(MouseButton button, int clicks) {
+    LeftPressed_ = button == MouseButton::Left && clicks != 2;
     Buffer_.beginStep();
     Listener_.Text1_MouseDown(button);
 }

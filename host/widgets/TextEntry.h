@@ -118,8 +118,11 @@ public:
 
     /// The box has the focus.
     void press(const MousePress& press);
-    /// A button goes down over a view that keeps caret and selection by itself, and has told of them.
-    void pressMouse(MouseButton button);
+    /// It is in what is selected, which may be dragged elsewhere. Let go where it is, it puts the caret there instead.
+    bool mayDrag(const MousePress& press) const;
+    /// A button goes down over a view that keeps caret and selection by itself, and has told of them. The second of
+    /// two presses is no click of its own.
+    void pressMouse(MouseButton button, int clicks = 1);
     /// The mouse moves on with the left button down: the selection reaches to there.
     void dragTo(std::int32_t position);
     /// The left button comes up; what had been pressed in the box and is let go over it is a click.

@@ -111,6 +111,29 @@ TEST(EditBox, AssistiveWritingPassesTheControlsRules) {
     }
 }
 
+TEST(EditBox, PressesThatFollowSelectMore) {
+    for (const bool multiLine : {false, true}) {
+        OneField field(multiLine);
+        put(field.box(), "one t|wo  3");
+        const QPoint place = field.widget().inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+        QWidget& area = multiLine ? *static_cast<QPlainTextEdit&>(field.widget()).viewport() : field.widget();
+        field.form.takeLog();
+        const auto send = [&](QEvent::Type type) {
+            const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+            QMouseEvent event(type, place, area.mapToGlobal(place), Qt::LeftButton, held, Qt::NoModifier);
+            QApplication::sendEvent(&area, &event);
+        };
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick}) {
+            send(type);
+            send(QEvent::MouseButtonRelease);
+        }
+        EXPECT_EQ(drawn(field.box()), "one [two]  3") << multiLine;
+        EXPECT_EQ(field.form.takeLog(), "a.Click(one two  3) ") << "the second one is none";
+        send(QEvent::MouseButtonPress);
+        EXPECT_EQ(drawn(field.box()), "[one two  3]") << multiLine;
+    }
+}
+
 TEST(EditBox, KeysThatMeanNothingHereGoOn) {
     struct Case {
         KeyStroke stroke;

@@ -395,32 +395,16 @@ QVariant QtLine::inputMethodQuery(Qt::InputMethodQuery query) const {
 
 // ---- Mouse
 
-/// A third press that follows a double click soon enough.
-int QtLine::clicksOf(const QMouseEvent& event) {
-    if (event.button() != Qt::LeftButton) return 1;
-    if (event.type() == QEvent::MouseButtonDblClick) {
-        SinceDoubleClick_.start();
-        return 2;
-    }
-    const bool follows = SinceDoubleClick_.isValid() &&
-                         SinceDoubleClick_.elapsed() < QGuiApplication::styleHints()->mouseDoubleClickInterval();
-    SinceDoubleClick_.invalidate();
-    return follows ? 3 : 1;
-}
-
 void QtLine::mousePressEvent(QMouseEvent* event) {
     PressedAt_ = event->position().toPoint();
-    const std::size_t place = positionAt(PressedAt_);
-    const Selection& selection = box().selection();
-    const std::int32_t position = takeAim(toInt(place));
-    const int clicks = clicksOf(*event);
-    MayDrag_ = event->button() == Qt::LeftButton && clicks == 1 && toInt(place) == position &&
-               box().offers(EditAction::Copy) && place > selection.start() && place < selection.end() &&
-               !event->modifiers().testFlag(Qt::ShiftModifier);
+    const std::int32_t place = toInt(positionAt(PressedAt_));
+    const MousePress press{buttonOf(event->button()), takeAim(place), clicksOf(*event),
+                           event->modifiers().testFlag(Qt::ShiftModifier)};
+    MayDrag_ = place == press.position && box().mayDrag(press);
     if (MayDrag_)
-        box().pressMouse(MouseButton::Left);
+        box().pressMouse(press.button);
     else
-        box().press({buttonOf(event->button()), position, clicks, event->modifiers().testFlag(Qt::ShiftModifier)});
+        box().press(press);
 }
 
 void QtLine::mouseMoveEvent(QMouseEvent* event) {

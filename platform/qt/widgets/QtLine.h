@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QBasicTimer>
-#include <QElapsedTimer>
 #include <QPointer>
 #include <QWidget>
 
@@ -82,7 +81,6 @@ private:
     void compose(Composition composition);
     void showCaret(bool shown);
     bool seesCaret() const { return (hasFocus() || lendsKeys()) && !box().locked(); }
-    int clicksOf(const QMouseEvent& event);
     void startDrag();
     void tellReaders(bool textDiffers);
     void tellStanding(QAccessibleInterface& spoken);
@@ -93,7 +91,6 @@ private:
     QPalette Look_;
     Composition Composition_;
     QBasicTimer Blink_;
-    QElapsedTimer SinceDoubleClick_;
     QPoint PressedAt_;
     Selection Painted_;
     mutable QRect TextArea_;  ///< none while it is to be found

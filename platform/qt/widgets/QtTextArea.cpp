@@ -194,15 +194,34 @@ void QtTextArea::showComposition(QInputMethodEvent& event) {
 
 // ---- Mouse and drops
 
+std::int32_t QtTextArea::positionAt(const QMouseEvent& event) const {
+    const int inDocument = cursorForPosition(event.position().toPoint()).position();
+    return static_cast<std::int32_t>(plain::toText(*document(), inDocument));
+}
+
+/// A first press is Qt's, which may begin a drag.
 void QtTextArea::mousePressEvent(QMouseEvent* event) {
     const std::int32_t aim = takeAim(-1);
+    PressClicks_ = clicksOf(*event);
+    if (PressClicks_ > 1) {
+        box().press({.position = positionAt(*event), .clicks = PressClicks_});
+        return;
+    }
     QPlainTextEdit::mousePressEvent(event);
     if (aim >= 0) box().setSelStart(aim);
     box().pressMouse(buttonOf(event->button()));
 }
 
+void QtTextArea::mouseMoveEvent(QMouseEvent* event) {
+    if (PressClicks_ < 2 || !event->buttons().testFlag(Qt::LeftButton))
+        QPlainTextEdit::mouseMoveEvent(event);
+    else
+        box().dragTo(positionAt(*event));
+}
+
 void QtTextArea::mouseReleaseEvent(QMouseEvent* event) {
     QPlainTextEdit::mouseReleaseEvent(event);
+    if (PressClicks_ > 1) offerPicked();
     if (event->button() == Qt::LeftButton) box().releaseMouse(viewport()->rect().contains(event->position().toPoint()));
 }
 

@@ -33,6 +33,8 @@ protected:
     void keyPressEvent(QKeyEvent* event) override { keyPressed(*event); }
     void inputMethodEvent(QInputMethodEvent* event) override { composed(*event); }
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     /// Scrolls as well, whether or not it has the focus; at its end the surroundings scroll.
     void wheelEvent(QWheelEvent* event) override;
@@ -50,6 +52,7 @@ protected:
 private:
     TextLine lineAt(std::size_t position) const override;
 
+    std::int32_t positionAt(const QMouseEvent& event) const;
     void allowScrollBar();
     void showText();
     void showSelection(const Selection& selection);
@@ -61,6 +64,7 @@ private:
     void selectionChangedInWidget();
 
     std::u16string Shown_;  ///< as the document holds it, which would be slow to ask
+    int PressClicks_ = 1;   ///< that the last press was, with those before it
     bool Showing_ = false;  ///< what Qt's box tells is no news
 };
 

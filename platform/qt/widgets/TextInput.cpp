@@ -10,6 +10,8 @@
 #include <QKeySequence>
 #include <QMenu>
 #include <QMimeData>
+#include <QMouseEvent>
+#include <QStyleHints>
 #include <QWheelEvent>
 #include <QWidget>
 
@@ -92,6 +94,15 @@ void TextInput::composed(QInputMethodEvent& event) {
 
 bool TextInput::wheelTurned(const QWheelEvent& event) {
     return widget().hasFocus() && Box_.turnWheelBy(event.angleDelta().y());
+}
+
+int TextInput::clicksOf(const QMouseEvent& event) {
+    if (event.button() != Qt::LeftButton) return 1;
+    const QStyleHints& desktop = *QGuiApplication::styleHints();
+    const QPoint place = event.globalPosition().toPoint();
+    return Clicks_.count({event.type() == QEvent::MouseButtonDblClick, place.x(), place.y(),
+                          static_cast<std::int64_t>(event.timestamp())},
+                         {desktop.mouseDoubleClickInterval(), desktop.mouseDoubleClickDistance()});
 }
 
 // ---- Mouse

@@ -3,12 +3,14 @@
 #include <QEvent>
 #include <QString>
 
+#include "host/editing/ClickCounter.h"
 #include "host/widgets/TextEntry.h"
 #include "platform/qt/widgets/FieldView.h"
 
 class QDropEvent;
 class QKeyEvent;
 class QInputMethodEvent;
+class QMouseEvent;
 class QPoint;
 class QWheelEvent;
 
@@ -44,6 +46,8 @@ protected:
     /// What is selected here can be pasted by the middle button elsewhere.
     void offerPicked() const;
     std::int32_t takeAim(std::int32_t pressed);
+    /// How many presses this one is, with those before it.
+    int clicksOf(const QMouseEvent& event);
 
     // ---- A text hovers above the box, or is let go there
 
@@ -60,6 +64,7 @@ private:
     bool takeFocus();
 
     TextEntry& Box_;
+    ClickCounter Clicks_;
     std::int32_t Aim_ = -1;
 };
 
