@@ -46,11 +46,12 @@ Placement placementOf(const FormFile& file, FormBlockId id, PlacedPanel* parent)
     return placement;
 }
 
+/// It may be drawn from either end.
 Rect lineOf(const FormFile& file, FormBlockId id) {
     const auto place = [&](std::u16string_view name) { return withinReach(file.integer(id, name)); };
-    const std::int32_t left = place(u"X1");
-    const std::int32_t top = place(u"Y1");
-    return {left, top, place(u"X2") - left, place(u"Y2") - top};
+    const auto [left, right] = std::minmax({place(u"X1"), place(u"X2")});
+    const auto [top, bottom] = std::minmax({place(u"Y1"), place(u"Y2")});
+    return {left, top, right - left, bottom - top};
 }
 
 ForeignBlock foreignBlock(const FormFile& file, FormBlockId id, PlacedPanel* parent) {
@@ -60,7 +61,7 @@ ForeignBlock foreignBlock(const FormFile& file, FormBlockId id, PlacedPanel* par
     foreign.className = file.block(id).className;
     const auto caption = file.find(id, u"Caption");
     if (caption && std::holds_alternative<std::u16string>(caption->value)) foreign.caption = file.stringValue(*caption);
-    if (foreign.kind == ForeignBlock::Kind::Line) foreign.line = lineOf(file, id);
+    if (foreign.kind == ForeignBlock::Kind::Line) foreign.placement.bounds = lineOf(file, id);
     return foreign;
 }
 

@@ -79,7 +79,6 @@ struct ForeignBlock {
     Placement placement{};
     std::u16string className;  ///< as in the form file
     std::u16string caption;    ///< with & before the mnemonic
-    Rect line{};               ///< for a line: start point, and extent in `width` and `height`, may be negative
 };
 
 /// One window with one form on it. Destroying it destroys its controls.

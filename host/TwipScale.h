@@ -8,6 +8,8 @@
 namespace kel {
 
 inline constexpr std::int32_t TwipsPerInch = 1440;
+/// At 96 dots to the inch, where a font of 8 points fits a caption.
+inline constexpr std::int32_t ClassicTwipsPerPixel = 15;
 
 /// So many twips on so many pixels. No whole number of twips goes on one pixel of many screens: at 192 dots per inch 15
 /// go on two. Edges are rounded, not lengths, so that what touches in twips touches on the screen.

@@ -20,7 +20,7 @@ ExitStatus convertForm(const Options& options) {
     const auto session = openHome("qt", options, false);
     const std::int32_t twips = options.home.twipsPerPixel;
     const qt::UiForm form =
-        qt::convertForm(readFormFile(options.files[0]), TwipScale(twips > 0 ? twips : qt::ClassicTwipsPerPixel));
+        qt::convertForm(readFormFile(options.files[0]), TwipScale(twips > 0 ? twips : ClassicTwipsPerPixel));
     writeFile(pathOf(options.files[1]), form.xml.toStdString());
     for (const qt::UiNote& note : form.notes) std::cout << note.line << ": " << note.text << "\n";
     return Done;

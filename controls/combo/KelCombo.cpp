@@ -6,6 +6,7 @@
 #include "common/Persistence.h"
 #include "controls/combo/ListText.h"
 #include "host/editing/EditAction.h"
+#include "host/TwipScale.h"
 #include "values/Coercion.h"
 #include "values/TextBoundaries.h"
 
@@ -14,7 +15,6 @@ namespace kel {
 namespace {
 
 constexpr std::int32_t WidestDropDown = 8000;
-constexpr std::int32_t TwipsPerListPixel = 15;  ///< whatever the screen's own resolution
 constexpr std::int16_t NoListIndex = -1;
 constexpr std::int16_t TagSeparator = u',';
 constexpr EntryKind Kind{.disablesContainer = false};
@@ -23,7 +23,8 @@ std::int32_t wordStart(std::u16string_view text, std::int32_t position) {
     return static_cast<std::int32_t>(previousWord(text, static_cast<std::size_t>(position), false));
 }
 
-std::int32_t listPixels(std::int32_t twips) { return (twips + TwipsPerListPixel / 2) / TwipsPerListPixel; }
+/// Whatever the screen's own resolution.
+std::int32_t listPixels(std::int32_t twips) { return TwipScale(ClassicTwipsPerPixel).pixel(twips); }
 
 }  // namespace
 

@@ -9,7 +9,6 @@ namespace kel::headless {
 
 namespace {
 
-constexpr std::int32_t UsualTwipsPerPixel = 15;
 constexpr std::int32_t UsualColorDepth = 24;
 constexpr std::u16string_view FontName = u"Sans";
 constexpr double FontSize = 8;  // points
@@ -19,7 +18,7 @@ public:
     HeadlessSystem(const HomeOptions& options, const Input& input, Onlooker& onlooker)
         : Input_(input),
           Onlooker_(onlooker),
-          Scale_(options.twipsPerPixel > 0 ? options.twipsPerPixel : UsualTwipsPerPixel) {}
+          Scale_(options.twipsPerPixel > 0 ? options.twipsPerPixel : ClassicTwipsPerPixel) {}
 
     Date today() const override { return Clock_.today(); }
     double timer() const override { return Clock_.secondsSinceMidnight(); }

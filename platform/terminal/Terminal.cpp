@@ -12,6 +12,7 @@
 #include <stdexcept>
 
 #include "host/focus/Mnemonic.h"
+#include "host/TwipScale.h"
 #include "host/Widgets.h"
 #include "values/Text.h"
 
@@ -21,7 +22,6 @@ namespace {
 
 /// As high as a caption and half as wide, twips.
 constexpr Size Cell{96, 195};
-constexpr std::int32_t TwipsPerPixel = 15;
 
 struct Ink {
     Color fore = colors::SystemWindowText;
@@ -183,8 +183,7 @@ private:
     }
 
     void drawBlock(const ForeignBlock& block, const Rect& origin) {
-        const bool isLine = block.kind == ForeignBlock::Kind::Line;
-        const Rect place = cellsOf(isLine ? block.line : block.placement.bounds, origin);
+        const Rect place = cellsOf(block.placement.bounds, origin);
         switch (block.kind) {
             case ForeignBlock::Kind::Label: return drawCaption(place, block.caption, {});
             case ForeignBlock::Kind::Button: return drawCaption(place, block.caption, {.back = 0xB0B0B0});
@@ -212,9 +211,10 @@ private:
     void drawControl(PlacedControl& control, const Rect& parent) {
         const WidgetSet widgets = control.control().widgets();
         const Rect origin{parent.left + control.bounds().left, parent.top + control.bounds().top};
-        const bool live = widgets.field == nullptr || widgets.field->takesInput();
         const auto placeOf = [&](const Widget& widget) { return cellsOf(widget.bounds(), origin); };
-        const auto inkOf = [&](const TextualWidget& it) { return Ink{live ? it.foreColor() : colors::SystemGrayText}; };
+        const auto inkOf = [](const TextualWidget& it) {
+            return Ink{it.enabled() ? it.foreColor() : colors::SystemGrayText};
+        };
         if (const Label* const label = widgets.label) drawCaption(placeOf(*label), label->caption(), inkOf(*label));
         if (const UpDown* const spinner = widgets.upDown; spinner != nullptr && spinner->visible())
             write(placeOf(*spinner), u"\u2195", {});
@@ -244,7 +244,7 @@ private:
     }
 
     void drawList(const ComboBox& box, const Rect& place) {
-        const int columns = std::max(place.width, box.droppedWidth() * TwipsPerPixel / Cell.width);
+        const int columns = std::max(place.width, box.droppedWidth() * ClassicTwipsPerPixel / Cell.width);
         const int rows = std::min(ComboBox::RowsOfList, box.items().size());
         const int first = std::clamp(box.highlighted() - rows / 2, 0, box.items().size() - rows);
         for (int row = 0; row < rows; ++row) {

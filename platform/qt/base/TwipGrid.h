@@ -39,9 +39,6 @@ private:
     TwipScale Down_;
 };
 
-/// The classic grid, which goes with a font of 8 points at 96 dots to the inch.
-inline constexpr std::int32_t ClassicTwipsPerPixel = 15;
-
 /// The grid of a control that goes by the font and the style of its widget: across as the letters grow, and a field as
 /// high as the style makes a line edit.
 TwipGrid gridOf(const QWidget& widget);

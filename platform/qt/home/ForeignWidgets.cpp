@@ -1,6 +1,5 @@
 #include "platform/qt/home/ForeignWidgets.h"
 
-#include <algorithm>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
@@ -92,14 +91,11 @@ QWidget* make(const ForeignBlock& block, QWidget& parent) {
     return new Placeholder(toQString(block.className), parent);
 }
 
-/// A line may be drawn from either end; it is never thinner than it shows.
+/// A line is never thinner than it shows.
 QRect pixelsOf(const ForeignBlock& block, const TwipGrid& grid) {
-    if (block.kind != ForeignBlock::Kind::Line) return grid.pixels(block.placement.bounds);
+    const QRect pixels = grid.pixels(block.placement.bounds);
+    if (block.kind != ForeignBlock::Kind::Line) return pixels;
     constexpr int Thickness = 1;
-    const Rect& line = block.line;
-    const QRect pixels =
-        grid.pixels({std::min(line.left, line.left + line.width), std::min(line.top, line.top + line.height),
-                     std::abs(line.width), std::abs(line.height)});
     return {pixels.topLeft(), pixels.size().expandedTo({Thickness, Thickness})};
 }
 

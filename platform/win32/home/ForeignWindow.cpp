@@ -1,7 +1,6 @@
 #include "platform/win32/home/ForeignWindow.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 #include "platform/win32/base/WideText.h"
 #include "platform/win32/base/WindowClass.h"
@@ -26,7 +25,7 @@ WindowKind kindOf(const ForeignBlock& block) {
         case ForeignBlock::Kind::Button: return {L"BUTTON", BS_PUSHBUTTON};
         case ForeignBlock::Kind::Panel: return {panelClass().name(), 0};
         case ForeignBlock::Kind::Line:
-            return {L"STATIC", static_cast<DWORD>(block.line.height == 0 ? SS_ETCHEDHORZ : SS_ETCHEDVERT)};
+            return {L"STATIC", static_cast<DWORD>(block.placement.bounds.height == 0 ? SS_ETCHEDHORZ : SS_ETCHEDVERT)};
         case ForeignBlock::Kind::Other: break;
     }
     return {L"STATIC", SS_CENTER | SS_CENTERIMAGE | SS_NOPREFIX | WS_BORDER};
@@ -51,13 +50,11 @@ ForeignWindow::ForeignWindow(ForeignBlock block, const TwipGrid& grid, HWND pare
                             {0, 0, widthOf(place), heightOf(place)}, Window_);
 }
 
-/// A line may be drawn from either end; it is never thinner than it shows.
+/// A line is never thinner than it shows.
 RECT ForeignWindow::placeIn(const TwipGrid& grid) const {
-    if (Block_.kind != ForeignBlock::Kind::Line) return grid.pixels(Block_.placement.bounds);
+    RECT place = grid.pixels(Block_.placement.bounds);
+    if (Block_.kind != ForeignBlock::Kind::Line) return place;
     constexpr int Thickness = 2;
-    const Rect& line = Block_.line;
-    RECT place = grid.pixels({std::min(line.left, line.left + line.width), std::min(line.top, line.top + line.height),
-                              std::abs(line.width), std::abs(line.height)});
     place.right = std::max<LONG>(place.right, place.left + Thickness);
     place.bottom = std::max<LONG>(place.bottom, place.top + Thickness);
     return place;
