@@ -1,11 +1,11 @@
 #pragma once
 
 #include "host/Geometry.h"
+#include "host/widgets/Label.h"
 
 namespace kel {
 
 inline constexpr std::int32_t FieldHeight = 300;
-inline constexpr std::int32_t CaptionHeight = 195;
 inline constexpr std::int32_t MinimumFieldWidth = 100;
 inline constexpr std::int32_t NewCaptionWidth = 1200;  ///< of a control newly placed in a designer
 

@@ -15,13 +15,10 @@ void CheckBox::setValue(std::int32_t value) {
 
 // ---- What a person does
 
-CheckBox::Key CheckBox::keyDown(const KeyStroke& stroke) {
-    const char32_t character = stroke.code == keys::Tab ? 0 : keyPressCharacter(stroke);
-    return character != 0 ? typed(character) : Key::Ignored;
-}
+CheckBox::Key CheckBox::keyDown(const KeyStroke& stroke) { return typed(keyPressCharacter(stroke)); }
 
 CheckBox::Key CheckBox::typed(char32_t character) {
-    if (!takesInput()) return Key::Ignored;
+    if (!canBeStruck(character) || !takesInput()) return Key::Ignored;
     Listener_.Check1_KeyPress(character);
     if (character == 0) return Key::Swallowed;
     return character == U' ' && takesInput() ? Key::Presses : Key::Ignored;
@@ -29,7 +26,7 @@ CheckBox::Key CheckBox::typed(char32_t character) {
 
 bool CheckBox::takePress() {
     setFocus();
-    return HasFocus_ && takesInput();
+    return hasFocus() && takesInput();
 }
 
 void CheckBox::release() {

@@ -51,8 +51,6 @@ public:
     /// Both at once: the mnemonic, another program.
     void press();
 
-    void gotFocus() override { HasFocus_ = true; }
-    void lostFocus() override { HasFocus_ = false; }
     bool strike(const KeyStroke& stroke) override;
     void pressMnemonic() override { press(); }
     void click(std::int32_t /*position*/) override { press(); }
@@ -63,7 +61,6 @@ private:
     CheckBoxListener& Listener_;
     std::u16string Caption_;
     std::int32_t Value_ = Unchecked;
-    bool HasFocus_ = false;
     std::unique_ptr<View> View_;  ///< last: it reads all of the above until it goes
 };
 

@@ -98,8 +98,11 @@ public:
     void highlight(std::int32_t index);
     /// This row of the dropped list was clicked.
     void pick(std::int32_t index);
-    /// The button beside the edit box was pressed; the box has the focus.
-    void pressButton() { showDropDown(!Dropped_); }
+    /// The button beside the edit box was pressed, which has taken the focus first. Where that has gone elsewhere by
+    /// then, the press is none.
+    void pressButton() {
+        if (hasFocus()) showDropDown(!Dropped_);
+    }
 
     bool claims(const KeyStroke& stroke) const override;
     bool strike(const KeyStroke& stroke) override;

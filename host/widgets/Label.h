@@ -5,6 +5,8 @@
 
 namespace kel {
 
+inline constexpr std::int32_t CaptionHeight = 195;  ///< of one line, twips
+
 /// A caption in front of a field. "&" marks its mnemonic, which gives the field the focus.
 class Label final : public TextualWidget {
 public:
@@ -13,6 +15,11 @@ public:
     const std::u16string& caption() const { return Caption_; }
     void setCaption(std::u16string_view caption) { changeCaption(Caption_, caption); }
     char16_t mnemonic() const { return mnemonicIn(Caption_); }
+
+    /// There is something to be read, and room for it.
+    bool isSeen() const { return !Caption_.empty() && bounds().width > 0; }
+    /// What is too long for a line goes on in the next one.
+    bool wraps() const { return bounds().height > CaptionHeight; }
 
     View* view() const override { return View_.get(); }
 

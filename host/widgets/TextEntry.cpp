@@ -64,8 +64,14 @@ bool TextEntry::strike(const KeyStroke& stroke) {
     return act(inReadingOrder(actionFor(stroke)), 0, (stroke.modifiers & ShiftKey) != 0);
 }
 
+bool TextEntry::strike(const KeyStroke& stroke, std::u16string_view further) {
+    const bool used = strike(stroke);
+    if (keyPressCharacter(stroke) >= U' ') typeCommitted(further);
+    return used;
+}
+
 bool TextEntry::strikeCharacter(char32_t character, Modifiers modifiers) {
-    if (!takesInput()) return false;
+    if (!canBeStruck(character) || !takesInput()) return false;
     Listener_.Text1_KeyPress(character);
     if (character == 0 || !takesInput()) return true;
     return act(actionFor(character, modifiers), character, false);
@@ -264,7 +270,7 @@ void TextEntry::click(std::int32_t position) {
 }
 
 bool TextEntry::turnWheelBy(std::int32_t turned) {
-    if (turned == 0 || !takesInput() || !Listener_.Text1_UsesWheel()) return false;
+    if (turned == 0 || !hasFocus() || !takesInput() || !Listener_.Text1_UsesWheel()) return false;
     const bool turnedBack = (turned > 0) != (WheelRest_ > 0);
     WheelRest_ = turnedBack ? turned : WheelRest_ + turned;
     const std::int32_t notches = WheelRest_ / WheelNotch;
@@ -273,7 +279,13 @@ bool TextEntry::turnWheelBy(std::int32_t turned) {
     return true;
 }
 
+void TextEntry::gotFocus() {
+    FieldWidget::gotFocus();
+    Listener_.Text1_GotFocus();
+}
+
 void TextEntry::lostFocus() {
+    FieldWidget::lostFocus();
     WheelRest_ = 0;
     LeftPressed_ = false;
     Listener_.Text1_LostFocus();
@@ -282,7 +294,7 @@ void TextEntry::lostFocus() {
 // ---- Drops
 
 void TextEntry::drop(std::int32_t position, std::u16string_view text) {
-    if (Locked_ || !takesInput()) return;
+    if (!takesDrop()) return;
     setSelStart(position);
     paste(text);
 }

@@ -94,6 +94,8 @@ public:
     // ---- What a person does
 
     bool strike(const KeyStroke& stroke) override;
+    /// A key of a rich layout may give several characters: those after the first.
+    bool strike(const KeyStroke& stroke, std::u16string_view further);
     /// A character, or a control character, that no key stroke came with.
     bool strikeCharacter(char32_t character, Modifiers modifiers);
     /// Text that an input method has finished, or the further characters of a key, character by character.
@@ -136,11 +138,13 @@ public:
     bool turnWheelBy(std::int32_t turned);
     void turnWheel(std::int32_t notches) override { turnWheelBy(notches * WheelNotch); }
 
+    /// Text from elsewhere, when the box has taken the focus.
+    bool takesDrop() const { return !Locked_ && takesInput(); }
     void drop(std::int32_t position, std::u16string_view text) override;
     /// What is selected is dragged to another place in the text.
     void moveSelection(std::size_t place);
 
-    void gotFocus() override { Listener_.Text1_GotFocus(); }
+    void gotFocus() override;
     void lostFocus() override;
 
     TextView* view() const override = 0;

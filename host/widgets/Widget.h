@@ -118,10 +118,13 @@ public:
     /// Where it stands.
     WidgetHost& host() const { return Host_; }
 
+    /// It has been told that it has it, which may be away for a while, with another window in front.
+    bool hasFocus() const { return HasFocus_; }
+
     // ---- What its home tells
 
-    virtual void gotFocus() {}
-    virtual void lostFocus() {}
+    virtual void gotFocus() { HasFocus_ = true; }
+    virtual void lostFocus() { HasFocus_ = false; }
 
     // ---- What a person does
 
@@ -150,6 +153,7 @@ private:
     std::u16string ToolTip_;
     Color BackColor_ = colors::SystemWindow;
     bool Visible_ = true;
+    bool HasFocus_ = false;
 };
 
 }  // namespace kel

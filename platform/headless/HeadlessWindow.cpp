@@ -133,24 +133,23 @@ void HeadlessWindow::spin(PlacedControl& control, bool up) {
 }
 
 void HeadlessWindow::pick(PlacedControl& control, std::int32_t item) {
-    byMouseInField(control, [&](FieldWidget& field) {
+    byMouseInField(control, [&](const FieldWidget& /*field*/) {
         ComboBox* const box = control.control().widgets().comboBox;
-        if (box == nullptr || &field != Focus_.holder()) return;
-        box->showDropDown(true);
+        if (box == nullptr) return;
+        if (!box->isDropped()) box->pressButton();
         if (box->isDropped()) box->pick(item);
     });
 }
 
 void HeadlessWindow::turnWheel(PlacedControl& control, std::int32_t notches) {
     Input_.run([&] {
-        FieldWidget* const target = placedHere(control).focusTarget();
-        if (target != nullptr && target == Focus_.holder()) target->turnWheel(notches);
+        if (FieldWidget* const target = placedHere(control).focusTarget()) target->turnWheel(notches);
     });
 }
 
 void HeadlessWindow::drop(PlacedControl& control, std::int32_t position, std::u16string_view text) {
     const TextEntry* const box = control.control().widgets().entry;
-    if (box != nullptr && box->locked()) return;
+    if (box != nullptr && !box->takesDrop()) return;
     byMouseInField(control, [&](FieldWidget& field) { field.drop(position, text); });
 }
 

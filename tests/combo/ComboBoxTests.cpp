@@ -51,7 +51,11 @@ struct Scene {
     WorkedBox worked{listener};
     ComboBox& box = worked.box();
 
-    explicit Scene(std::u16string_view list) { box.setItems(listItemsOf(list)); }
+    explicit Scene(std::u16string_view list) {
+        box.setItems(listItemsOf(list));
+        box.gotFocus();
+        listener.takeLog();
+    }
 };
 
 constexpr char16_t Fruit[] = u"Apple,Banana,Cherry,Damson,Elder,Fig,Grape,Banana";

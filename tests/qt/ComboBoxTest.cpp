@@ -94,6 +94,10 @@ TEST_F(Combo, ClosesWhenItIsBarredOrGone) {
         EXPECT_FALSE(isOpen()) << what;
         EXPECT_FALSE(first->control().widgets().comboBox->isDropped()) << what;
     }
+    box().parentWidget()->hide();
+    first->control().widgets().comboBox->showDropDown(true);
+    EXPECT_FALSE(isOpen()) << "where nobody sees the field";
+    box().parentWidget()->show();
     open();
     form.unload();
     letGo();

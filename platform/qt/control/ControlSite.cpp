@@ -279,6 +279,8 @@ std::unique_ptr<View> ControlSite::makeView(UpDown& spinner) {
 
 std::unique_ptr<View> ControlSite::makeView(Label& label) { return std::make_unique<CaptionLabel>(*this, label); }
 
+bool ControlSite::takesInput() const { return focus::isTakenBy(*Widget_); }
+
 void ControlSite::moveFocusTo(FieldWidget& field) { focus::give(dynamic_cast<FieldView&>(*field.view()).widget()); }
 
 void ControlSite::focusBarred(FieldWidget& field) { dynamic_cast<FieldView&>(*field.view()).giveUpFocus(); }

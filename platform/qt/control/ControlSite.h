@@ -78,7 +78,7 @@ public:
     std::unique_ptr<View> makeView(Label& label) override;
     std::unique_ptr<TextView> makeView(TextBox& box) override;
     std::unique_ptr<TextView> makeView(ComboBox& box) override;
-    bool takesInput() const override { return Widget_->isEnabled(); }
+    bool takesInput() const override;
     void moveFocusTo(FieldWidget& field) override;
     void focusBarred(FieldWidget& field) override;
     void controlEntered() override { Control_->EnterFocus(); }

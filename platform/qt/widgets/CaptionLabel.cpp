@@ -5,7 +5,6 @@
 #include <QStyleOption>
 #include <utility>
 
-#include "common/FieldLayout.h"
 #include "platform/qt/base/FieldColors.h"
 #include "platform/qt/base/TextBridge.h"
 #include "platform/qt/base/WidgetSettings.h"
@@ -46,14 +45,12 @@ QRect CaptionLabel::area() const {
 }
 
 void CaptionLabel::paint(QPainter& painter, int baseline) const {
-    const Rect bounds = Label_.bounds();
-    if (Label_.caption().empty() || bounds.width <= 0) return;
+    if (!Label_.isSeen()) return;
     const QWidget& widget = Site_.widget();
     const QStyle& style = *widget.style();
     QStyleOption option;
     option.initFrom(&widget);
     const bool enabled = Label_.enabled() && widget.isEnabled();
-    const bool severalLines = bounds.height > CaptionHeight;
 
     QRect area = this->area();
     painter.setClipRect(area);
@@ -64,7 +61,7 @@ void CaptionLabel::paint(QPainter& painter, int baseline) const {
     const Qt::Alignment alignment = QStyle::visualAlignment(widget.layoutDirection(), Qt::AlignLeft) | Qt::AlignTop;
     int flags = static_cast<int>(alignment.toInt());
     flags |= underlines ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
-    flags |= severalLines ? Qt::TextWordWrap : Qt::TextSingleLine;
+    flags |= Label_.wraps() ? Qt::TextWordWrap : Qt::TextSingleLine;
     area.setTop(baseline - painter.fontMetrics().ascent());
     style.drawItemText(&painter, area, flags, option.palette, enabled, toQString(Label_.caption()));
 }

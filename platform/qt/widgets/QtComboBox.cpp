@@ -8,7 +8,6 @@
 #include <QStyleOptionFrame>
 #include <utility>
 
-#include "platform/qt/control/QtFocus.h"
 #include "platform/qt/widgets/ComboList.h"
 
 namespace kel::qt {
@@ -134,8 +133,7 @@ void QtComboBox::hideEvent(QHideEvent* event) {
 void QtComboBox::mousePressEvent(QMouseEvent* event) {
     ButtonPressed_ = Button_.contains(event->position().toPoint());
     if (!ButtonPressed_) return QtLine::mousePressEvent(event);
-    // Getting the focus may have moved it on, or barred the box.
-    if (event->button() == Qt::LeftButton && focus::isHeldBy(*this)) Combo_.pressButton();
+    if (event->button() == Qt::LeftButton) Combo_.pressButton();
 }
 
 void QtComboBox::mouseMoveEvent(QMouseEvent* event) {

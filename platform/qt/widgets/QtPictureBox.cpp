@@ -7,6 +7,7 @@
 #include <QStyle>
 #include <QStyleOptionProgressBar>
 
+#include "host/Accessible.h"
 #include "platform/qt/base/FieldColors.h"
 #include "platform/qt/base/TextBridge.h"
 #include "platform/qt/base/WidgetSettings.h"
@@ -29,19 +30,22 @@ public:
     }
 
     QString text(QAccessible::Text kind) const override {
-        if (kind == QAccessible::Value) return toQString(Box_.picture().text);
+        if (kind == QAccessible::Value) return toQString(described().value);
         QString own = QAccessibleWidget::text(kind);
         // It goes by the name of its control.
         return own.isEmpty() && kind == QAccessible::Name ? parent()->text(kind) : own;
     }
 
-    QVariant currentValue() const override { return Box_.picture().percent; }
+    QVariant currentValue() const override { return range().value; }
     void setCurrentValue(const QVariant& /*value*/) override {}
-    QVariant maximumValue() const override { return Whole; }
-    QVariant minimumValue() const override { return 0; }
+    QVariant maximumValue() const override { return range().maximum; }
+    QVariant minimumValue() const override { return range().minimum; }
     QVariant minimumStepSize() const override { return 1; }
 
 private:
+    Accessible described() const { return describe(Box_.site().control()); }
+    NumberRange range() const { return described().range.value_or(NumberRange{}); }
+
     const QtPictureBox& Box_;
 };
 

@@ -23,12 +23,6 @@ namespace kel::qt {
 
 namespace {
 
-/// A key of a rich layout may give several characters; all but the first.
-QStringView furtherCharacters(const KeyStroke& stroke, QStringView text) {
-    const qsizetype first = stroke.character > 0xFFFF ? 2 : 1;
-    return keyPressCharacter(stroke) >= U' ' && text.size() > first ? text.sliced(first) : QStringView();
-}
-
 struct Entry {
     const char* text;  ///< as Qt's own line edit has it translated
     const char* icon;
@@ -75,8 +69,10 @@ bool TextInput::claim(QEvent& event) const {
 
 void TextInput::keyPressed(QKeyEvent& event) {
     const KeyStroke stroke = strokeOf(event);
-    event.setAccepted(Box_.strike(stroke));
-    Box_.typeCommitted(viewOf(furtherCharacters(stroke, event.text())));
+    const QString typed = event.text();
+    const qsizetype first = stroke.character > 0xFFFF ? 2 : 1;
+    event.setAccepted(
+        Box_.strike(stroke, viewOf(typed.size() > first ? QStringView(typed).sliced(first) : QStringView())));
 }
 
 void TextInput::composed(QInputMethodEvent& event) {
@@ -96,6 +92,10 @@ bool TextInput::wheelTurned(const QWheelEvent& event) {
     return widget().hasFocus() && Box_.turnWheelBy(event.angleDelta().y());
 }
 
+// ---- Mouse
+
+std::int32_t TextInput::takeAim(std::int32_t pressed) { return Aim_ < 0 ? pressed : std::exchange(Aim_, -1); }
+
 int TextInput::clicksOf(const QMouseEvent& event) {
     if (event.button() != Qt::LeftButton) return 1;
     const QStyleHints& desktop = *QGuiApplication::styleHints();
@@ -104,10 +104,6 @@ int TextInput::clicksOf(const QMouseEvent& event) {
                           static_cast<std::int64_t>(event.timestamp())},
                          {desktop.mouseDoubleClickInterval(), desktop.mouseDoubleClickDistance()});
 }
-
-// ---- Mouse
-
-std::int32_t TextInput::takeAim(std::int32_t pressed) { return Aim_ < 0 ? pressed : std::exchange(Aim_, -1); }
 
 /// What it does goes the box's own way, so that lock and maximum length hold.
 void TextInput::menuAsked(const QPoint& globalPosition) {
@@ -144,7 +140,7 @@ bool TextInput::isMovedHere(const QDropEvent& event) const {
 /// What comes from elsewhere stays there too: a field of another record is not emptied by accident, and a text that
 /// is refused or cut here is not lost.
 void TextInput::hovered(QDropEvent& event) const {
-    event.setAccepted(event.mimeData()->hasText() && !Box_.locked());
+    event.setAccepted(event.mimeData()->hasText() && Box_.takesDrop());
     if (!event.isAccepted()) return;
     const Qt::DropAction action = isMovedHere(event) ? Qt::MoveAction : Qt::CopyAction;
     if (event.possibleActions().testFlag(action)) event.setDropAction(action);
@@ -152,7 +148,7 @@ void TextInput::hovered(QDropEvent& event) const {
 
 bool TextInput::accepts(QDropEvent& event) {
     event.ignore();
-    if (event.mimeData()->text().isEmpty() || Box_.locked() || !takeFocus()) return false;
+    if (event.mimeData()->text().isEmpty() || !Box_.takesDrop() || !takeFocus()) return false;
     hovered(event);
     return true;
 }

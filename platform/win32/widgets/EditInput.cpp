@@ -154,10 +154,7 @@ bool EditInput::keyDown(std::int16_t code, LPARAM data) {
     const Modifiers modifiers = modifiersDown();
     std::u16string_view rest = units;
     const char32_t character = takeFirst(rest);
-    const bool used = Entry_.strike({code, isControl(character) ? 0 : character, modifiers});
-    // A key of a rich layout may make several characters.
-    if (!isControl(character)) Entry_.typeCommitted(rest);
-    return used;
+    return Entry_.strike({code, isControl(character) ? 0 : character, modifiers}, rest);
 }
 
 /// A character that came without a key.
@@ -168,7 +165,7 @@ void EditInput::unitTyped(char16_t unit) {
     }
     const char16_t pair[] = {std::exchange(FirstHalf_, u'\0'), unit};
     std::u16string_view units(pair + (pair[0] == 0 || !isLowSurrogate(unit) ? 1 : 0), pair + 2);
-    if (unit != keys::Tab && unit != DeleteCharacter) Entry_.strikeCharacter(takeCodePoint(units), modifiersDown());
+    Entry_.strikeCharacter(takeCodePoint(units), modifiersDown());
 }
 
 // ---- Input methods

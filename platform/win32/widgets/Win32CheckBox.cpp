@@ -268,8 +268,7 @@ LRESULT Win32CheckBox::keyDown(UINT message, WPARAM wide, LPARAM data) {
 /// The space bar has pressed the button by now, and toggles when it goes up; a character that came without a key
 /// toggles at once.
 void Win32CheckBox::typed(char16_t unit) {
-    // Half a pair is no character.
-    if (unit == keys::Tab || unit == DeleteCharacter || isHighSurrogate(unit) || isLowSurrogate(unit)) return;
+    if (!canBeStruck(unit)) return;
     const bool presses = Box_.typed(unit) == CheckBox::Key::Presses;
     if (window() == nullptr) return;
     const bool isPressed = isIn(BST_PUSHED);

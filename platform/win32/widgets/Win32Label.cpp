@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "common/FieldLayout.h"
 #include "platform/win32/base/TwipGrid.h"
 #include "platform/win32/base/WideText.h"
 #include "platform/win32/base/WindowClass.h"
@@ -47,17 +46,16 @@ void Win32Label::outOfDate() {
 }
 
 void Win32Label::draw(const Canvas& canvas, LONG bottom, int baseline, bool enabled) const {
-    const Rect bounds = Label_.bounds();
-    if (Label_.caption().empty() || bounds.width <= 0) return;
+    if (!Label_.isSeen()) return;
     const SavedContext saved(canvas.context());
     // The caption's own height is for the layout; its text may take that of the control.
-    RECT area = canvas.area({bounds.left, 0, bounds.width, 0});
+    RECT area = canvas.area({Label_.bounds().left, 0, Label_.bounds().width, 0});
     area.bottom = bottom;
     canvas.clip(area);
     const CanvasText text(canvas, Font_);
     area.top = baseline - text.ascent();
     const COLORREF ink = enabled && Label_.enabled() ? colorOf(Label_.foreColor()) : GetSysColor(COLOR_GRAYTEXT);
-    text.caption(area, Label_.caption(), ink, bounds.height > CaptionHeight, true);
+    text.caption(area, Label_.caption(), ink, Label_.wraps(), true);
 }
 
 }  // namespace kel::win32
