@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <cstdlib>
 
 #include "common/FieldFrame.h"
 #include "common/Persistence.h"
@@ -228,20 +229,24 @@ void EntryField::carryOut(KeyAnswer answer) {
         case KeyAnswer::TogglesInsertMode: InsertMode_ = !InsertMode_; return;
         case KeyAnswer::MovesOn: moveFocusOn(Host_); return;
         case KeyAnswer::Beeps: Host_.system.beep(); return;
+        case KeyAnswer::StepsUp: Control_.step(1); return;
+        case KeyAnswer::StepsDown: Control_.step(-1); return;
         case KeyAnswer::Passes:
-        case KeyAnswer::StepsUp:
-        case KeyAnswer::StepsDown:
         case KeyAnswer::Refused: return;
     }
 }
 
-int EntryField::answerSpinner() {
+void EntryField::UpDown1_Change() {
+    FromSpinner_ = true;
     Active_->setFocus();
-    switch (UpDown1_->value()) {
-        case UpDown::Down: return -1;
-        case UpDown::Up: return 1;
-        default: return 0;
-    }
+    const std::int32_t pressed = UpDown1_->value();
+    if (pressed != UpDown::Up && pressed != UpDown::Down) return;
+    Control_.step(pressed == UpDown::Up ? 1 : -1);
+    UpDown1_->setValue(UpDown::Rest);
+}
+
+void EntryField::turn(std::int32_t notches) {
+    for (std::int32_t left = std::abs(notches); left > 0; --left) Control_.step(notches > 0 ? 1 : -1);
 }
 
 void EntryField::complain(const MessageRow& message, std::u16string_view words) {

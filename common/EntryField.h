@@ -26,7 +26,7 @@ class EntryControl;
 /// What every field for texts, numbers, dates, times and choices has and does alike: a caption, a box beside it, with a
 /// spinner or without, and the properties, colours and rules that go with them. What the text stands for is the
 /// control's own affair.
-class EntryField {
+class EntryField final : private UpDownListener {
 public:
     /// `control`, whose part it is, and `kind` outlive it.
     EntryField(ControlHost& host, EntryControl& control, const EntryKind& kind);
@@ -49,7 +49,8 @@ public:
     void showActive();
     TextEntry& box() const { return *Active_; }
 
-    void addSpinner(UpDownListener& listener) { UpDown1_.emplace(Host_.widgets, listener); }
+    /// Its presses, the wheel and the keys that step are steps of the control's.
+    void addSpinner() { UpDown1_.emplace(Host_.widgets, static_cast<UpDownListener&>(*this)); }
 
     /// Tells the container that the saved property which `Put` sets has been set.
     template <auto Put>
@@ -151,7 +152,7 @@ public:
     /// What every field makes of a key that goes down: Up and Down step where the field `steps`; the Insert key alone
     /// switches overwriting on and off.
     static KeyAnswer answerToKey(std::int16_t keyCode, Modifiers shift, bool steps);
-    /// Does what a key comes to, but for steps, which are the control's affair. `key`, a key code or a character, is
+    /// Does what a key comes to. `key`, a key code or a character, is
     /// swallowed where the box does not get it.
     template <class Key>
     void carryOut(KeyAnswer answer, Key& key) {
@@ -162,9 +163,12 @@ public:
     /// A typed character replaces the next one.
     bool overwrites() const { return !InsertMode_ && !get_Locked(); }
 
-    /// Gives the box the focus, as a press of the spinner does. +1 or -1 for a press, 0 for none.
-    int answerSpinner();
-    void restSpinner() { UpDown1_->setValue(UpDown::Rest); }
+    /// The focus is on its way from a press of the spinner, until the control forgets it.
+    bool comesFromSpinner() const { return FromSpinner_; }
+    void forgetSpinner() { FromSpinner_ = false; }
+
+    /// A step a notch, where there is a spinner.
+    void turn(std::int32_t notches);
 
     /// Tells the user what is wrong with the text, a message of the control's class in these words, and puts the focus
     /// back into it.
@@ -172,6 +176,7 @@ public:
 
 private:
     const ClassModel& model() const;
+    void UpDown1_Change() override;
     void carryOut(KeyAnswer answer);
     template <class Action>
     void forEachBox(Action action) {
@@ -197,6 +202,7 @@ private:
     bool UpDown_ = false;
     bool Shown_ = false;
     bool CaptionWidthPut_ = false;
+    bool FromSpinner_ = false;
     std::optional<std::int32_t> FittedCaption_;  ///< none where no container measures it
     std::int16_t LoadingDepth_ = 0;
     mutable std::int16_t DeedDepth_ = 0;
@@ -208,6 +214,8 @@ class EntryControl : public Control {
 public:
     virtual EntryField& entry() = 0;
     const EntryField& entry() const { return const_cast<EntryControl*>(this)->entry(); }
+    /// A person wants the next value, up (+1) or down (-1).
+    virtual void step(int /*direction*/) {}
 
     void Resize() override { entry().layOut(); }
     void RegionChanged(const RegionalSettings& region) override { entry().takeRegion(region); }

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
+
+#include "host/Keys.h"
 
 namespace kel {
 
@@ -21,9 +24,14 @@ constexpr bool reachesBox(KeyAnswer answer) {
     return answer == KeyAnswer::Passes || answer == KeyAnswer::Writes || answer == KeyAnswer::TogglesInsertMode;
 }
 
-/// +1 or -1 for a step, 0 for everything else.
-constexpr int stepOf(KeyAnswer answer) {
-    return answer == KeyAnswer::StepsUp ? 1 : answer == KeyAnswer::StepsDown ? -1 : 0;
+/// What Enter, Backspace and Escape come to in a field of one line; nothing for other characters.
+constexpr std::optional<KeyAnswer> answerToControlCharacter(char32_t character) {
+    switch (character) {
+        case keys::Backspace:
+        case keys::Escape: return KeyAnswer::Passes;
+        case keys::Enter: return KeyAnswer::MovesOn;
+        default: return std::nullopt;
+    }
 }
 
 }  // namespace kel

@@ -1,6 +1,7 @@
 #include "controls/check/KelCheck.h"
 
 #include "common/FieldState.h"
+#include "common/KeyAnswer.h"
 #include "common/Persistence.h"
 
 namespace kel {
@@ -100,7 +101,7 @@ void KelCheck::Check1_Click() {
 }
 
 void KelCheck::Check1_KeyPress(char32_t& KeyAscii) {
-    if (KeyAscii != static_cast<char32_t>(keys::Enter)) return;
+    if (answerToControlCharacter(KeyAscii) != KeyAnswer::MovesOn) return;
     KeyAscii = 0;
     moveFocusOn(Host_);
 }

@@ -296,7 +296,7 @@ void KelCombo::expectResult(EditAction Action) {
 }
 
 void KelCombo::Combo1_KeyPress(char32_t& KeyAscii) {
-    if (KeyAscii == keys::Enter) return Field_.carryOut(KeyAnswer::MovesOn, KeyAscii);
+    Field_.carryOut(answerToControlCharacter(KeyAscii).value_or(KeyAnswer::Passes), KeyAscii);
     // The completed rest goes together with the character in front of it.
     const bool takesRest = KeyAscii == keys::Backspace && !LimitToList_ && !Combo1_.locked();
     if (takesRest && Combo1_.selStart() > 0) selectFrom(Combo1_.selStart() - 1);

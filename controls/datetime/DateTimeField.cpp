@@ -1,6 +1,5 @@
 #include "controls/datetime/DateTimeField.h"
 
-#include <cstdlib>
 #include <utility>
 
 namespace kel {
@@ -20,7 +19,7 @@ DateTimeField::DateTimeField(ControlHost& host, EntryControl& control, const Dat
       Format_(std::u16string(format)),
       Bounds_(bounds) {
     Entry_.add(Text1_);
-    Entry_.addSpinner(*this);
+    Entry_.addSpinner();
 }
 
 DateTimeField& DateTimeField::of(Object& control) { return static_cast<DateTimeControl&>(control).field(); }
@@ -127,11 +126,11 @@ void DateTimeField::take(const Variant& value) {
     if (differs) Entry_.tellChanged<&DateTimeField::put_Value>();
 }
 
-void DateTimeField::step(std::int32_t delta) {
+void DateTimeField::step(int direction) {
     if (Entry_.get_Locked()) return;
     const EntryField::Deed deed(Entry_);
     const BoxState before{.text = Text1_.text(), .caret = static_cast<std::size_t>(Text1_.selStart()), .value = read()};
-    moveTo(Rules_.step(before, delta, host(), textRules()));
+    moveTo(Rules_.step(before, direction, host(), textRules()));
 }
 
 bool DateTimeField::moveTo(const FieldStep& step) {
@@ -195,20 +194,17 @@ void DateTimeField::Text1_GotFocus() {
 
 void DateTimeField::Text1_LostFocus() { Text1_.setSelStart(0); }
 
-// ---- Keys, mouse and spinner
+// ---- Keys and mouse
 
 void DateTimeField::Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) {
     const KeyAnswer answer = EntryField::answerToKey(KeyCode, Shift, true);
     if (answer == KeyAnswer::Passes) TextDirty_ = true;
     Entry_.carryOut(answer, KeyCode);
-    if (const int delta = stepOf(answer)) step(delta);
 }
 
 void DateTimeField::Text1_KeyPress(char32_t& KeyAscii) {
     TextDirty_ = true;  // an input method types without a key going down
-    const KeyAnswer answer = Rules_.answerToCharacter(KeyAscii, Entry_.region());
-    Entry_.carryOut(answer, KeyAscii);
-    if (const int delta = stepOf(answer)) step(delta);
+    Entry_.carryOut(Rules_.answerToCharacter(KeyAscii, Entry_.region()), KeyAscii);
 }
 
 bool DateTimeField::Text1_Paste(std::u16string& /*Text*/) {
@@ -218,17 +214,6 @@ bool DateTimeField::Text1_Paste(std::u16string& /*Text*/) {
 
 void DateTimeField::Text1_MouseDown(MouseButton Button) {
     if (Button == MouseButton::Right) TextDirty_ = true;  // the context menu pastes and deletes
-}
-
-void DateTimeField::Text1_Wheel(std::int32_t Notches) {
-    for (std::int32_t left = std::abs(Notches); left > 0; --left) step(Notches > 0 ? 1 : -1);
-}
-
-void DateTimeField::UpDown1_Change() {
-    const int direction = Entry_.answerSpinner();
-    if (direction == 0) return;
-    step(direction);
-    Entry_.restSpinner();
 }
 
 // ---- The control

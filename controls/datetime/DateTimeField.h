@@ -31,7 +31,7 @@ protected:
 };
 
 /// The value of a date or time field behind its text: read, shown, stepped and validated alike in both.
-class DateTimeField final : private TextBoxListener, private UpDownListener {
+class DateTimeField final : private TextBoxListener {
 public:
     /// `control`, whose part it is, `rules` and `change`, the event of a step, outlive it.
     DateTimeField(ControlHost& host, EntryControl& control, const DateTimeRules& rules, const EventRow& change,
@@ -79,6 +79,7 @@ public:
     /// What a person sets without the text: false where it does not go.
     bool enter(Date value);
     NumberRange moment() const;
+    void step(int direction);
 
     // ---- What the container tells
 
@@ -96,14 +97,12 @@ private:
     bool Text1_Paste(std::u16string& Text) override;
     void Text1_MouseDown(MouseButton Button) override;
     bool Text1_UsesWheel() override { return Entry_.get_UpDown(); }
-    void Text1_Wheel(std::int32_t Notches) override;
+    void Text1_Wheel(std::int32_t Notches) override { Entry_.turn(Notches); }
     void Text1_GotFocus() override;
     void Text1_LostFocus() override;
-    void UpDown1_Change() override;
 
     FieldRules textRules() const { return {Format_, Bounds_, Entry_.region()}; }
     void CommitText();
-    void step(std::int32_t delta);
     bool moveTo(const FieldStep& step);
     /// The value that the text stands for. As it was displayed it is not read again: it may leave much of the value
     /// out (the century), or be no text that can be read.
@@ -135,6 +134,7 @@ public:
     const DateTimeField& field() const { return const_cast<DateTimeControl*>(this)->field(); }
 
     EntryField& entry() final { return field().entry(); }
+    void step(int direction) final { field().step(direction); }
     void InitProperties() override { field().initNew(); }
     void EnterFocus() override {}
     void ExitFocus() override { field().exitFocus(); }

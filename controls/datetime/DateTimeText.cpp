@@ -159,12 +159,9 @@ std::optional<ShownField> fieldOf(const StepPlace& place, Date value, const Fiel
 
 std::optional<KeyAnswer> answerToCommonCharacter(char32_t character) {
     switch (character) {
-        case keys::Backspace:
-        case keys::Escape: return KeyAnswer::Passes;
-        case keys::Enter: return KeyAnswer::MovesOn;
         case U'+': return KeyAnswer::StepsUp;
         case U'-': return KeyAnswer::StepsDown;
-        default: return std::nullopt;
+        default: return answerToControlCharacter(character);
     }
 }
 

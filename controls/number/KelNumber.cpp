@@ -1,7 +1,6 @@
 #include "controls/number/KelNumber.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
 #include "common/FieldFrame.h"
@@ -21,7 +20,7 @@ std::int32_t unitsOf(std::size_t count) { return static_cast<std::int32_t>(count
 
 KelNumber::KelNumber(ControlHost& host) : Field_(host, *this, Kind), Text1_(host.widgets, *this) {
     Field_.add(Text1_);
-    Field_.addSpinner(*this);
+    Field_.addSpinner();
     takeDecimals();
 }
 
@@ -144,10 +143,10 @@ void KelNumber::takeValue(double value) {
     Field_.tellChanged<&KelNumber::put_Value>();
 }
 
-void KelNumber::StepValue(double delta) {
+void KelNumber::step(int direction) {
     if (Field_.get_Locked()) return;
     CommitText();
-    moveTo(roundNumber(steppedNumber(Value_, delta)));
+    moveTo(roundNumber(steppedNumber(Value_, direction * UpDownChange_)));
 }
 
 bool KelNumber::enterNumber(double number) {
@@ -205,8 +204,9 @@ void KelNumber::Text1_GotFocus() {
     const EntryField::Deed deed(Field_);
     TextBox& box = Text1_;
     if (!Field_.get_Locked()) {
-        if (!SpinFocus_) box.setText(editText(Value_, DecimalsInUse_, Field_.region()));
-        SpinFocus_ = false;
+        // The spinner keeps the display form.
+        if (!Field_.comesFromSpinner()) box.setText(editText(Value_, DecimalsInUse_, Field_.region()));
+        Field_.forgetSpinner();
         box.setSelStart(0);
         if (Field_.get_SelectOnFocus()) box.setSelLength(box.textLength());
         if (bounded(Value_) != Value_) TextDirty_ = true;
@@ -219,10 +219,10 @@ void KelNumber::ExitFocus() {
     CommitText();
     Text1_.setForeColor(numberColor(Value_));
     Field_.colorOnExit();
-    SpinFocus_ = false;
+    Field_.forgetSpinner();
 }
 
-// ---- Keys, mouse and spinner
+// ---- Keys and mouse
 
 void KelNumber::Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) {
     KeypadDecimal_ = KeyCode == keys::Decimal && (Shift & (ControlKey | AltKey)) == 0;
@@ -230,7 +230,6 @@ void KelNumber::Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) {
     const KeyAnswer answer = EntryField::answerToKey(KeyCode, Shift, Field_.get_UpDown());
     if (answer == KeyAnswer::Passes && !isArrow) TextDirty_ = true;
     Field_.carryOut(answer, KeyCode);
-    if (const int direction = stepOf(answer)) StepValue(direction * UpDownChange_);
 }
 
 TextSpan KelNumber::selection() const {
@@ -279,18 +278,5 @@ bool KelNumber::Text1_Paste(std::u16string& Text) {
 }
 
 void KelNumber::Text1_MouseDown(MouseButton /*Button*/) { TextDirty_ = true; }
-
-void KelNumber::Text1_Wheel(std::int32_t Notches) {
-    for (std::int32_t left = std::abs(Notches); left > 0; --left)
-        StepValue(Notches > 0 ? UpDownChange_ : -UpDownChange_);
-}
-
-void KelNumber::UpDown1_Change() {
-    SpinFocus_ = true;
-    const int direction = Field_.answerSpinner();
-    if (direction == 0) return;
-    StepValue(direction * UpDownChange_);
-    Field_.restSpinner();
-}
 
 }  // namespace kel

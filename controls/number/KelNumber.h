@@ -6,7 +6,7 @@
 namespace kel {
 
 /// Number entry: a caption, a text field that takes only what makes a number, and a spinner.
-class KelNumber final : public EntryControl, private TextBoxListener, private UpDownListener {
+class KelNumber final : public EntryControl, private TextBoxListener {
 public:
     static const EventRow Change;
 
@@ -51,6 +51,7 @@ public:
     void EnterFocus() override;
     void ExitFocus() override;
     EntryField& entry() override { return Field_; }
+    void step(int direction) override;
     Variant heldValue() const override { return Value_; }
     Variant valueToStore() const override { return storedValue(); }
     /// Within the bounds.
@@ -70,15 +71,13 @@ private:
     bool Text1_Paste(std::u16string& Text) override;
     void Text1_MouseDown(MouseButton Button) override;
     bool Text1_UsesWheel() override { return Field_.get_UpDown(); }
-    void Text1_Wheel(std::int32_t Notches) override;
+    void Text1_Wheel(std::int32_t Notches) override { Field_.turn(Notches); }
     void Text1_GotFocus() override;
     void Text1_LostFocus() override {}
-    void UpDown1_Change() override;
 
     double number();
     void CommitText();
     void takeValue(double value);
-    void StepValue(double delta);
     /// As if a person had entered it. False where the host wants to keep what is there.
     bool moveTo(double number);
     double numberFromValue(const Variant& value) const;
@@ -105,7 +104,6 @@ private:
     double ValueOriginal_ = 0;
     double ValueSaved_ = 0;
     bool TextDirty_ = false;  ///< the text may differ from the value
-    bool SpinFocus_ = false;  ///< the focus comes from the spinner, which keeps the display form
     bool KeypadDecimal_ = false;
 };
 

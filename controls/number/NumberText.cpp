@@ -128,7 +128,7 @@ std::u16string rangeMessage(double minimum, double maximum, std::int16_t decimal
 KeyEffect filterKey(char32_t key, std::u16string_view text, TextSpan selection, const KeyRules& rules) {
     constexpr char32_t FirstPrintable = 32;
     selection = insideOf(text, selection);
-    if (key == keys::Enter) return {.answer = KeyAnswer::MovesOn};
+    if (const auto answer = answerToControlCharacter(key)) return {.answer = *answer};
     if (key < FirstPrintable) return {};
     if (key == Minus) return rules.locked ? KeyEffect{} : typeMinus(text);
     if (key == rules.decimalCharacter) return rules.locked ? KeyEffect{} : typeDecimal(text, selection, rules);

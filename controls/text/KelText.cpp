@@ -129,12 +129,8 @@ void KelText::Text1_KeyDown(std::int16_t& KeyCode, Modifiers Shift) {
 }
 
 KeyAnswer KelText::answerToCharacter(char32_t character) const {
-    switch (character) {
-        case keys::Backspace:
-        case keys::Escape: return KeyAnswer::Passes;
-        case keys::Enter: return get_MultiLine() ? KeyAnswer::Passes : KeyAnswer::MovesOn;
-        default: return KeyAnswer::Writes;
-    }
+    if (character == keys::Enter && get_MultiLine()) return KeyAnswer::Passes;
+    return answerToControlCharacter(character).value_or(KeyAnswer::Writes);
 }
 
 void KelText::Text1_KeyPress(char32_t& KeyAscii) {
