@@ -1,7 +1,5 @@
 #include "library/TypeModel.h"
 
-#include "values/Text.h"
-
 namespace kel {
 
 std::u16string_view nameOf(TypeTag type) {
@@ -19,14 +17,6 @@ std::u16string_view nameOf(TypeTag type) {
         case TypeTag::Strings: return u"array of strings";
     }
     return u"unknown";
-}
-
-const MemberRow* MemberIndex::find(std::span<const MemberRow> rows, std::u16string_view name) const {
-    for (std::size_t slot = hashOf(name) % Slots; Rows_[slot] != 0; slot = (slot + 1) % Slots) {
-        const MemberRow& row = rows[Rows_[slot] - 1U];
-        if (equalsIgnoringCase(row.name, name)) return &row;
-    }
-    return nullptr;
 }
 
 }  // namespace kel

@@ -1,12 +1,13 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
-#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
 #include <memory>
 #include <span>
+#include <stdexcept>
 #include <string_view>
 #include <tuple>
 #include <type_traits>
@@ -404,7 +405,7 @@ struct PropertyRow : MemberRow {
     constexpr PropertyRow readAs(std::u16string_view otherName) const {
         return detail::with(*this, [&](PropertyRow& row) { row.persisted.readName = otherName; });
     }
-    constexpr PropertyRow writtenUnless(PropertyDefault value) const {
+    constexpr PropertyRow writtenUnless(Default<Put> value) const {
         return detail::with(*this, [&](PropertyRow& row) { row.persisted.writeDefault = value; });
     }
     constexpr PropertyRow beforeReading(std::u16string_view otherName) const {
@@ -444,21 +445,33 @@ constexpr PropertyRow<Get, Put> property(std::u16string_view name, std::int32_t 
     return row;
 }
 
-/// Finds rows by name without regard to case, and by identifier. Built at compile time.
+/// Finds rows by name without regard to case, and by identifier. Built at compile time: rows that cannot be told apart
+/// do not compile, nor does one that names another which there is not.
 class MemberIndex {
 public:
     constexpr explicit MemberIndex(std::span<const MemberRow> rows) {
         for (std::size_t i = 0; i < rows.size(); ++i) Ids_.at(i) = rows[i].id;
         for (std::size_t i = 0; i < rows.size(); ++i) {
+            if (find(rows, rows[i].id) != &rows[i]) throw "two members have one identifier";
             std::size_t slot = hashOf(rows[i].name) % Slots;
-            while (Rows_[slot] != 0) slot = (slot + 1) % Slots;
+            for (; Rows_[slot] != 0; slot = (slot + 1) % Slots)
+                if (sameName(rows[Rows_[slot] - 1U].name, rows[i].name)) throw "two members have one name";
             Rows_[slot] = static_cast<std::uint8_t>(i + 1);
         }
+        for (const MemberRow& row : rows)
+            if (!row.design.linesWhere.empty() && find(rows, row.design.linesWhere) == nullptr)
+                throw "there is no property that says whether a text has several lines";
     }
 
-    const MemberRow* find(std::span<const MemberRow> rows, std::u16string_view name) const;
+    constexpr const MemberRow* find(std::span<const MemberRow> rows, std::u16string_view name) const {
+        for (std::size_t slot = hashOf(name) % Slots; Rows_[slot] != 0; slot = (slot + 1) % Slots) {
+            const MemberRow& row = rows[Rows_[slot] - 1U];
+            if (sameName(row.name, name)) return &row;
+        }
+        return nullptr;
+    }
     /// The identifiers stand side by side, in a few cache lines.
-    const MemberRow* find(std::span<const MemberRow> rows, std::int32_t id) const {
+    constexpr const MemberRow* find(std::span<const MemberRow> rows, std::int32_t id) const {
         for (std::size_t row = 0; row < rows.size(); ++row)
             if (Ids_[row] == id) return &rows[row];
         return nullptr;
@@ -467,13 +480,17 @@ public:
 private:
     static constexpr std::size_t Slots = 64;
     static constexpr std::size_t MostMembers = 40;
+    static constexpr char16_t lower(char16_t unit) {
+        return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
+    }
     static constexpr std::size_t hashOf(std::u16string_view name) {
         std::uint32_t hash = 2166136261U;
-        for (const char16_t unit : name) {
-            const char16_t lower = unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
-            hash = (hash ^ lower) * 16777619U;
-        }
+        for (const char16_t unit : name) hash = (hash ^ lower(unit)) * 16777619U;
         return hash;
+    }
+    static constexpr bool sameName(std::u16string_view one, std::u16string_view other) {
+        return std::equal(one.begin(), one.end(), other.begin(), other.end(),
+                          [](char16_t left, char16_t right) { return lower(left) == lower(right); });
     }
     std::array<std::uint8_t, Slots> Rows_{};
     std::array<std::int32_t, MostMembers> Ids_{};
@@ -550,10 +567,9 @@ public:
     }
 
     const MemberRow& find(std::span<const MemberRow> rows, Thunk put) const {
-        std::size_t row = 0;
-        while (row < rows.size() && Puts_[row] != put) ++row;
-        assert(row < rows.size());
-        return rows[row];
+        for (std::size_t row = 0; row < rows.size(); ++row)
+            if (Puts_[row] == put) return rows[row];
+        throw std::logic_error("a property is reported that the class does not have");
     }
 
 private:
