@@ -7,9 +7,12 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTableView>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 
+#include "common/EntryField.h"
 #include "forms/Form.h"
 #include "platform/headless/HeadlessHome.h"
 #include "platform/qt/home/QtHome.h"
@@ -63,6 +66,16 @@ TEST(RecordWindow, LargeFormIsScrolledToTheField) {
                 EXPECT_LE(shown.width(), screen.width());
             }
     EXPECT_EQ(shown.width(), before);
+    // The letter of a field leads there out of the list too, before any menu.
+    EntryField::of(form.find(u"txt7")->control()).put_Caption(u"&Record");
+    for (QAction* const action : shown.findChildren<QAction*>())
+        if (action->shortcut() == QKeySequence(Qt::Key_F9)) action->trigger();
+    auto* const list = shown.findChild<QTableView*>();
+    list->setFocus();
+    ASSERT_TRUE(list->hasFocus());
+    QTest::keyClick(shown.windowHandle(), Qt::Key_R, Qt::AltModifier);
+    EXPECT_EQ(form.window().focused(), form.find(u"txt7"));
+    EXPECT_FALSE(list->hasFocus());
     // What is said hides neither the record's number nor its state.
     auto& bar = *dynamic_cast<QMainWindow&>(shown).statusBar();
     bar.showMessage(QStringLiteral("\"elm\" is in 40 records."));
