@@ -215,7 +215,7 @@ void ControlSite::finished() {
     QMetaObject::invokeMethod(
         Host_,
         [this] {
-            if (Active_ == nullptr || !focus::isHeldBy(*Active_)) return;
+            if (Active_ == nullptr || !Active_->shown().hasFocus()) return;
             commit();
             const ForeignCode running;
             Host_->tell(KelControlWidget::Telling::Finished);

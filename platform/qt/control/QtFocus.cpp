@@ -132,8 +132,6 @@ void forget(const FieldView& field) { Order.forget(field.shown()); }
 
 void forget(const ControlSite& site) { Order.forget(site); }
 
-bool isHeldBy(const FieldView& field) { return Order.holder() == &field.shown(); }
-
 bool movesByTab() { return Tab.isHeld(); }
 
 }  // namespace kel::qt::focus

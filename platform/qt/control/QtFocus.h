@@ -29,9 +29,6 @@ bool isTakenBy(const QWidget& widget);
 /// Gives it the focus, if it takes it.
 void give(QWidget& widget, Qt::FocusReason reason = Qt::OtherFocusReason);
 
-/// Whether its control has been told that it has the focus.
-bool isHeldBy(const FieldView& field);
-
 /// The Tab key moves the focus at this moment.
 bool movesByTab();
 

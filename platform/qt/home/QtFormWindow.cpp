@@ -99,12 +99,10 @@ void QtFormWindow::nameByLabels() {
 // ---- Keys
 
 bool QtFormWindow::takesKey(QEvent& event) {
-    if (event.type() == QEvent::ShortcutOverride) {
-        if (!Order_.hasMnemonic(strokeOf(static_cast<QKeyEvent&>(event)))) return false;
-    } else if (event.type() != QEvent::KeyPress ||
-               !Order_.pressMnemonic(strokeOf(static_cast<QKeyEvent&>(event)), focusedControl())) {
-        return false;
-    }
+    const bool asks = event.type() == QEvent::ShortcutOverride;
+    if (!asks && event.type() != QEvent::KeyPress) return false;
+    const KeyStroke stroke = strokeOf(static_cast<QKeyEvent&>(event));
+    if (!(asks ? Order_.hasMnemonic(stroke) : Order_.pressMnemonic(stroke, focusedControl()))) return false;
     event.accept();
     return true;
 }

@@ -71,8 +71,7 @@ void TextInput::keyPressed(QKeyEvent& event) {
     const KeyStroke stroke = strokeOf(event);
     const QString typed = event.text();
     const qsizetype first = stroke.character > 0xFFFF ? 2 : 1;
-    event.setAccepted(
-        Box_.strike(stroke, viewOf(typed.size() > first ? QStringView(typed).sliced(first) : QStringView())));
+    event.setAccepted(Box_.strike(stroke, viewOf(QStringView(typed).mid(first))));
 }
 
 void TextInput::composed(QInputMethodEvent& event) {
@@ -167,7 +166,7 @@ bool TextInput::takeFocus() {
     widget().window()->activateWindow();
     widget().setFocus(Qt::MouseFocusReason);
     focus::arrived(*this, Qt::MouseFocusReason);
-    return focus::isHeldBy(*this) && Box_.takesInput();
+    return Box_.hasFocus() && Box_.takesInput();
 }
 
 }  // namespace kel::qt
