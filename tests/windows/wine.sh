@@ -26,7 +26,7 @@ begin() {
     rm -rf "$work"
     mkdir -p "$work"
     : >"$results"
-    trap leave EXIT
+    trap drop_prefix EXIT
     # Wine's own programs are in no group that a key ends.
     trap 'exit 130' INT TERM
     # Wine that has just been ended elsewhere may be in the way of one that begins.
@@ -37,7 +37,8 @@ begin() {
     windows reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null
 }
 
-leave() {
+# What still runs in it first: it writes its registry when it ends, wherever that is by then.
+drop_prefix() {
     wineserver -k 2>/dev/null || :
     wineserver -w 2>/dev/null || :
     rm -rf "$WINEPREFIX"
@@ -63,7 +64,7 @@ registry() {
 
 # A system for the programs to run in, without anything of theirs.
 make_prefix() {
-    rm -rf "$WINEPREFIX"
+    drop_prefix
     timeout 300 wineboot -i >>"$work/wineboot.log" 2>&1 </dev/null
 }
 
