@@ -56,10 +56,19 @@ path() {
 registry() {
     local branch
     for branch in 'HKLM\Software\Classes' 'HKCU\Software\Classes' "$@"; do
-        windows reg export "$branch" "$(path "$work/branch.reg")" /y >/dev/null 2>&1 || continue
-        iconv -f utf-16 -t utf-8 "$work/branch.reg" 2>/dev/null
-        rm -f "$work/branch.reg"
+        exported "$branch" || exported "$branch" || failed registry "$branch cannot be read" >&2
     done
+}
+
+# A branch; nothing where there is none. One that is left out by mistake would look like one that is as it was.
+exported() {
+    local file=$work/branch.reg
+    rm -f "$file"
+    if windows reg export "$1" "$(path "$file")" /y >/dev/null 2>&1; then
+        [ -s "$file" ] && iconv -f utf-16 -t utf-8 "$file"
+    else
+        windows reg query "$1" 2>&1 | grep -q 'Unable to find the specified registry key'
+    fi
 }
 
 # A system for the programs to run in, without anything of theirs.
