@@ -260,6 +260,17 @@ TEST(life_of_a_run_time_object_is_that_of_its_apartment) {
     EXPECT_CODE(canUnload(L"KelControls8.ocx"), S_OK);
 }
 
+TEST(life_of_a_list_that_a_host_still_reads) {
+    Ref<IEnumOLEVERB> verbs, copy;
+    EXPECT_CODE(makeText().as<IOleObject>()->EnumVerbs(verbs.receive()), S_OK);
+    EXPECT_CODE(canUnload(L"KelControls8.ocx"), S_FALSE);
+    EXPECT_CODE(verbs->Clone(copy.receive()), S_OK);
+    verbs.reset();
+    EXPECT_CODE(canUnload(L"KelControls8.ocx"), S_FALSE);
+    copy.reset();
+    EXPECT_CODE(canUnload(L"KelControls8.ocx"), S_OK);
+}
+
 TEST(life_embedded_in_a_document) {
     Ref<IStorage> storage;
     EXPECT_CODE(StgCreateDocfile(nullptr, STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE | STGM_DELETEONRELEASE, 0,

@@ -33,9 +33,10 @@ public:
     /// The object itself, for its maker and for the larger object.
     IUnknown& inner() { return Inner_; }
 
-protected:
+    /// What keeps the server for it, and for what outlives it.
     Module& countedIn() const { return Module_; }
 
+protected:
     /// The interface of this identifier, not counted; nullptr where there is none.
     virtual void* find(REFIID iid) = 0;
 
@@ -77,6 +78,9 @@ public:
     ULONG STDMETHODCALLTYPE Release() noexcept override { return Whole_.outer().Release(); }
 
 protected:
+    /// What keeps the server.
+    Module& module() const { return Whole_.countedIn(); }
+
     /// Runs the body of a method; the object outlives it, whatever the host does meanwhile.
     template <class Body>
     HRESULT guarded(Body&& body) noexcept {

@@ -69,7 +69,7 @@ HRESULT ConnectionPoint::Unadvise(DWORD cookie) noexcept {
 HRESULT ConnectionPoint::EnumConnections(IEnumConnections** out) noexcept {
     if (out == nullptr) return E_POINTER;
     *out = nullptr;
-    return atEdge([&] { *out = new ConnectionEnumerator(Sinks_); });
+    return atEdge([&] { *out = new ConnectionEnumerator(Whole_.countedIn(), Sinks_); });
 }
 
 ComPtr<IUnknown> EventPoint::accept(IUnknown& sink) const {
@@ -127,7 +127,7 @@ HRESULT ConnectionPointsPart::EnumConnectionPoints(IEnumConnectionPoints** out) 
         auto points = std::make_shared<std::vector<ComPtr<IConnectionPoint>>>();
         points->emplace_back(&Events);
         points->emplace_back(&Notify);
-        *out = new PointEnumerator(std::move(points));
+        *out = new PointEnumerator(module(), std::move(points));
     });
 }
 

@@ -4,18 +4,23 @@
 #include <memory>
 #include <vector>
 
+#include "platform/win32/ole/com/ComObject.h"
 #include "platform/win32/ole/com/SoleInterface.h"
 
 namespace kel::win32::ole {
 
-/// Hands out a list that does not change, as the IEnum interfaces have it. `Copy` makes what the caller of
-/// `Next` owns.
+/// Hands out a list that does not change, as the IEnum interfaces have it, also when what the list is of is gone.
+/// `Copy` makes what the caller of `Next` owns.
 template <class Interface, class Item, class Out, Out (*Copy)(const Item&)>
 class Enumerator final : public SoleInterface<Interface> {
 public:
     using Items = std::shared_ptr<const std::vector<Item>>;
 
-    explicit Enumerator(Items items, std::size_t position = 0) : Items_(std::move(items)), Position_(position) {}
+    Enumerator(Module& module, Items items, std::size_t position = 0)
+        : Module_(module), Items_(std::move(items)), Position_(position) {
+        Module_.add();
+    }
+    ~Enumerator() override { Module_.remove(); }
 
     HRESULT STDMETHODCALLTYPE Next(ULONG wanted, Out* out, ULONG* fetched) noexcept override {
         if (out == nullptr || (fetched == nullptr && wanted != 1)) return E_POINTER;
@@ -35,11 +40,12 @@ public:
     }
     HRESULT STDMETHODCALLTYPE Clone(Interface** out) noexcept override {
         if (out == nullptr) return E_POINTER;
-        *out = new (std::nothrow) Enumerator(Items_, Position_);
+        *out = new (std::nothrow) Enumerator(Module_, Items_, Position_);
         return *out != nullptr ? S_OK : E_OUTOFMEMORY;
     }
 
 private:
+    Module& Module_;
     Items Items_;
     std::size_t Position_;
 };

@@ -73,7 +73,7 @@ public:
         return guarded([&] {
             auto known = std::make_shared<std::vector<Verb>>();
             if (Control_.model().takesFocus) known->push_back(Edit);
-            *verbs = new Enumerator<IEnumOLEVERB, Verb, OLEVERB, &verbForCaller>(std::move(known));
+            *verbs = new Enumerator<IEnumOLEVERB, Verb, OLEVERB, &verbForCaller>(module(), std::move(known));
         });
     }
     HRESULT STDMETHODCALLTYPE Update() noexcept override { return S_OK; }

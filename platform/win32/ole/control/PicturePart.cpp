@@ -213,6 +213,7 @@ public:
         if (direction != DATADIR_GET) return E_NOTIMPL;
         return guarded([&] {
             *out = new Enumerator<IEnumFORMATETC, FORMATETC, FORMATETC, &copyFormat>(
+                module(),
                 std::make_shared<std::vector<FORMATETC>>(std::vector<FORMATETC>{
                     pictureFormat(CF_ENHMETAFILE, TYMED_ENHMF), pictureFormat(CF_METAFILEPICT, TYMED_MFPICT)}));
         });
