@@ -50,33 +50,49 @@ SIZE frameOf(HDC context, const SIZEL& himetric) {
     return {pixels(himetric.cx, HORZRES, HORZSIZE), pixels(himetric.cy, VERTRES, VERTSIZE)};
 }
 
+/// The file of what is drawn into its context, which ends here in any case.
+template <class File, class Paint>
+File recorded(HDC context, File(WINAPI* close)(HDC), BOOL(WINAPI* remove)(File), Paint paint) {
+    if (context == nullptr) throw std::bad_alloc();
+    try {
+        paint();
+    } catch (...) {
+        remove(close(context));
+        throw;
+    }
+    File const file = close(context);
+    if (file == nullptr) throw std::bad_alloc();
+    return file;
+}
+
 HENHMETAFILE drawEnhanced(OleControl& control) {
     const SIZEL size = control.himetricExtent();
     const RECT frame{0, 0, size.cx, size.cy};
-    HDC context = CreateEnhMetaFileW(nullptr, nullptr, &frame, nullptr);
-    if (context == nullptr) throw std::bad_alloc();
-    const RECT picture = pictureOf(control);
-    const SIZE pixels = frameOf(context, size);
-    SetMapMode(context, MM_ANISOTROPIC);
-    SetWindowExtEx(context, picture.right, picture.bottom, nullptr);
-    SetViewportExtEx(context, pixels.cx, pixels.cy, nullptr);
-    draw(control, context, picture, nullptr);
-    return CloseEnhMetaFile(context);
+    HDC const context = CreateEnhMetaFileW(nullptr, nullptr, &frame, nullptr);
+    return recorded(context, &CloseEnhMetaFile, &DeleteEnhMetaFile, [&] {
+        const RECT picture = pictureOf(control);
+        const SIZE pixels = frameOf(context, size);
+        SetMapMode(context, MM_ANISOTROPIC);
+        SetWindowExtEx(context, picture.right, picture.bottom, nullptr);
+        SetViewportExtEx(context, pixels.cx, pixels.cy, nullptr);
+        draw(control, context, picture, nullptr);
+    });
 }
 
 HGLOBAL drawClassic(OleControl& control) {
-    HDC context = CreateMetaFileW(nullptr);
-    if (context == nullptr) throw std::bad_alloc();
-    const RECT area = pictureOf(control);
-    SetMapMode(context, MM_ANISOTROPIC);
-    // Readers look for these in front of all else.
-    SetWindowOrgEx(context, 0, 0, nullptr);
-    SetWindowExtEx(context, area.right, area.bottom, nullptr);
-    draw(control, context, area, nullptr);
-    HMETAFILE picture = CloseMetaFile(context);
+    HDC const context = CreateMetaFileW(nullptr);
+    HMETAFILE const picture = recorded(context, &CloseMetaFile, &DeleteMetaFile, [&] {
+        const RECT area = pictureOf(control);
+        SetMapMode(context, MM_ANISOTROPIC);
+        // Readers look for these in front of all else.
+        SetWindowOrgEx(context, 0, 0, nullptr);
+        SetWindowExtEx(context, area.right, area.bottom, nullptr);
+        draw(control, context, area, nullptr);
+    });
     HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, sizeof(METAFILEPICT));
     auto* const described = static_cast<METAFILEPICT*>(memory != nullptr ? GlobalLock(memory) : nullptr);
     if (described == nullptr) {
+        GlobalFree(memory);
         DeleteMetaFile(picture);
         throw std::bad_alloc();
     }
