@@ -29,8 +29,6 @@ std::u16string typeLibraryKey() {
     return u"TypeLib\\" + braced(identities::TypeLibrary) + u'\\' + typeLibraryVersion();
 }
 
-std::u16string classKey(const RegisteredClass& entry) { return u"CLSID\\" + braced(entry.clsid); }
-
 }  // namespace
 
 RegisteredClass registered(const ClassModel& model) {
@@ -110,10 +108,12 @@ std::vector<RegistryEntry> classEntries(const RegisteredClass& entry, const std:
     return entries;
 }
 
-std::vector<std::u16string> keysOf(const RegisteredClass& entry) {
-    if (entry.programId.empty()) return {classKey(entry)};
-    return {versioned(entry), entry.programId, classKey(entry)};
+std::vector<std::u16string> programIdKeys(const RegisteredClass& entry) {
+    if (entry.programId.empty()) return {};
+    return {versioned(entry), entry.programId};
 }
+
+std::u16string classKey(const RegisteredClass& entry) { return u"CLSID\\" + braced(entry.clsid); }
 
 std::vector<RegistryEntry> typeLibraryEntries() {
     const std::u16string key = typeLibraryKey();

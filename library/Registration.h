@@ -55,8 +55,9 @@ std::vector<RegistryEntry> programIdEntries(const RegisteredClass& entry);
 /// Under the identifier of the class, which each bitness has for itself. `file` is the server's.
 std::vector<RegistryEntry> classEntries(const RegisteredClass& entry, const std::u16string& file);
 
-/// The keys that all of these are under.
-std::vector<std::u16string> keysOf(const RegisteredClass& entry);
+/// The keys that all entries of its names are under, and the one that those of its identifier are.
+std::vector<std::u16string> programIdKeys(const RegisteredClass& entry);
+std::u16string classKey(const RegisteredClass& entry);
 
 /// Of the type library, which servers of both bitnesses share. Self-registration leaves the type library to the system,
 /// which writes the same.

@@ -9,12 +9,21 @@ namespace {
 
 void checkWin32(LSTATUS status, const char* what) { check(HRESULT_FROM_WIN32(static_cast<DWORD>(status)), what); }
 
+constexpr bool Is64 = sizeof(void*) == 8;
+
+HKEY rootOf(Scope scope) { return scope == Scope::Machine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER; }
+
+bool isThere(HKEY root, const std::wstring& path, REGSAM view) {
+    HKEY found = nullptr;
+    if (RegOpenKeyExW(root, path.c_str(), 0, KEY_READ | view, &found) != ERROR_SUCCESS) return false;
+    RegCloseKey(found);
+    return true;
+}
+
 /// An open key that entries are written under.
 class Key {
 public:
-    static Key classes(Scope scope) {
-        return Key(scope == Scope::Machine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER, L"Software\\Classes");
-    }
+    static Key classes(Scope scope) { return Key(rootOf(scope), L"Software\\Classes"); }
 
     Key(HKEY parent, const std::wstring& path) {
         checkWin32(RegCreateKeyExW(parent, path.c_str(), 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr, &Key_, nullptr),
@@ -37,10 +46,10 @@ public:
             "the registry cannot be written");
     }
 
-    void removeTree(const std::wstring& path) const { RegDeleteTreeW(Key_, path.c_str()); }
+    LSTATUS removeTree(const std::wstring& path) const { return RegDeleteTreeW(Key_, path.c_str()); }
 
-    void removeIfEmpty(const std::wstring& path) const {
-        if (sub(path).isEmpty()) RegDeleteKeyW(Key_, path.c_str());
+    LSTATUS removeIfEmpty(const std::wstring& path) const {
+        return sub(path).isEmpty() ? RegDeleteKeyW(Key_, path.c_str()) : ERROR_SUCCESS;
     }
 
 private:
@@ -84,13 +93,44 @@ void writeTypeLibrary(Scope scope) {
     check(registerTypes(types.get(), file.data(), folder.data()), "the type library cannot be registered");
 }
 
-void removeTypeLibrary(Scope scope) {
-    constexpr SYSKIND Kind = sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32;
+/// The system says the same of one that is not there and of one that cannot be removed.
+HRESULT removeTypeLibrary(Scope scope) {
+    const std::wstring version = wideNumber(identities::MajorVersion) + L'.' + wideNumber(identities::MinorVersion);
+    const std::wstring key = L"TypeLib\\" + textOf(toGuid(identities::TypeLibrary)) + L'\\' + version;
+    if (!isThere(HKEY_CLASSES_ROOT, key + (Is64 ? L"\\0\\win64" : L"\\0\\win32"), 0)) return S_OK;
     auto* const unregisterTypes = scope == Scope::Machine
                                       ? &UnRegisterTypeLib
                                       : automationFunction<decltype(UnRegisterTypeLib)>("UnRegisterTypeLibForUser");
-    unregisterTypes(toGuid(identities::TypeLibrary), identities::MajorVersion, identities::MinorVersion, LOCALE_NEUTRAL,
-                    Kind);
+    return unregisterTypes(toGuid(identities::TypeLibrary), identities::MajorVersion, identities::MinorVersion,
+                           LOCALE_NEUTRAL, Is64 ? SYS_WIN64 : SYS_WIN32);
+}
+
+/// Whether the server of the other bitness has the class too. Windows keeps the classes of the two apart, but not their
+/// names; one of 32 bits alone shows what is here.
+bool isServedElsewhere(Scope scope, const RegisteredClass& entry) {
+    return isThere(rootOf(scope), L"Software\\Classes\\" + wide(classKey(entry)) + L"\\InprocServer32",
+                   Is64 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY);
+}
+
+/// All that can be removed; the first failure. What is not there is none.
+HRESULT remove(const LibraryEntry& library, Scope scope) {
+    HRESULT first = S_OK;
+    const auto tried = [&first](HRESULT result) {
+        if (FAILED(result) && SUCCEEDED(first) && result != HRESULT_FROM_WIN32(ERROR_FILE_NOT_FOUND)) first = result;
+    };
+    const Key classes = Key::classes(scope);
+    const auto removeTree = [&](const std::u16string& key) {
+        tried(HRESULT_FROM_WIN32(static_cast<DWORD>(classes.removeTree(wide(key)))));
+    };
+    for (const RegisteredClass& entry : library.classes) {
+        removeTree(classKey(entry));
+        if (isServedElsewhere(scope, entry)) continue;
+        for (const std::u16string& key : programIdKeys(entry)) removeTree(key);
+    }
+    // Of a user who had no classes before.
+    tried(HRESULT_FROM_WIN32(static_cast<DWORD>(classes.removeIfEmpty(L"CLSID"))));
+    if (library.hasTypeLibrary) tried(removeTypeLibrary(scope));
+    return first;
 }
 
 }  // namespace
@@ -105,17 +145,13 @@ void registerLibrary(const LibraryEntry& library, Scope scope) {
         }
         if (library.hasTypeLibrary) writeTypeLibrary(scope);
     } catch (...) {
-        unregisterLibrary(library, scope);
+        remove(library, scope);
         throw;
     }
 }
 
 void unregisterLibrary(const LibraryEntry& library, Scope scope) {
-    const Key classes = Key::classes(scope);
-    for (const RegisteredClass& entry : library.classes)
-        for (const std::u16string& key : keysOf(entry)) classes.removeTree(wide(key));
-    classes.removeIfEmpty(L"CLSID");  // of a user who had no classes before
-    if (library.hasTypeLibrary) removeTypeLibrary(scope);
+    check(remove(library, scope), "the registry keeps some of the entries");
 }
 
 }  // namespace kel::win32::ole

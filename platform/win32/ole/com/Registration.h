@@ -19,7 +19,8 @@ struct LibraryEntry {
 /// Writes the entries, all or, after a failure, none. Throws AutomationError.
 void registerLibrary(const LibraryEntry& library, Scope scope);
 
-/// Removes all that `registerLibrary` writes; what is not there is passed over.
+/// Removes all that `registerLibrary` writes, but names of classes that the server of the other bitness still has; what
+/// is not there is passed over. Throws AutomationError with the first failure once all has been tried.
 void unregisterLibrary(const LibraryEntry& library, Scope scope);
 
 }  // namespace kel::win32::ole
