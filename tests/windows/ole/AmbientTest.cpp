@@ -267,12 +267,15 @@ TEST(ambient_looks_of_the_form) {
     scene.open();
     constexpr COLORREF Ground = RGB(1, 2, 200);
     scene.host.say(DISPID_AMBIENT_BACKCOLOR, Var(static_cast<long>(Ground)));
-    Picture picture;
-    const RECTL bounds{0, 0, 200, 20};
-    EXPECT_CODE(scene.control.as<IViewObject2>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr,
-                                                       picture.context(), &bounds, nullptr, nullptr, 0),
-                S_OK);
-    EXPECT_EQ(GetPixel(picture.context(), 0, 19), Ground);
+    const auto pictured = [&] {
+        Picture picture;
+        const RECTL bounds{0, 0, 200, 20};
+        EXPECT_CODE(scene.control.as<IViewObject2>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr,
+                                                           picture.context(), &bounds, nullptr, nullptr, 0),
+                    S_OK);
+        return GetPixel(picture.context(), 0, 19);
+    };
+    EXPECT_EQ(pictured(), Ground);
 
     const auto leftOfField = [&] {
         RECT place{};
@@ -285,4 +288,7 @@ TEST(ambient_looks_of_the_form) {
     EXPECT_EQ(leftOfField(), 10L);
     scene.host.say(DISPID_AMBIENT_RIGHTTOLEFT, truth(false));
     EXPECT_EQ(leftOfField(), 110L);
+    // What is left without a form looks as it did in the form.
+    EXPECT_CODE(scene.control.as<IOleObject>()->SetClientSite(nullptr), S_OK);
+    EXPECT_EQ(pictured(), Ground);
 }

@@ -33,7 +33,6 @@ FontFace fontFrom(IUnknown* object) {
 
 Ambients readAmbients(const ClientSite& site) {
     Ambients found;
-    if (!site) return found;
     found.userMode = isTrue(site, DISPID_AMBIENT_USERMODE, found.userMode);
     found.uiDead = isTrue(site, DISPID_AMBIENT_UIDEAD, found.uiDead);
     found.rightToLeft = isTrue(site, DISPID_AMBIENT_RIGHTTOLEFT, found.rightToLeft);

@@ -98,6 +98,8 @@ void OleControl::setSite(IOleClientSite* site) {
 }
 
 void OleControl::takeAmbients() {
+    // What has left its host stays as it was there: nobody has said anything else.
+    if (!Site_) return;
     const Ambients now = readAmbients(Site_);
     // While it is still filled in, a field is left as by a person.
     if (Ambients_.userMode && !now.userMode) Window_.dropInput();
