@@ -23,13 +23,17 @@ HRESULT Activation::activate() {
 }
 
 HRESULT Activation::askSite() {
-    if (!Control_.site()) return E_UNEXPECTED;
+    const ComPtr<IOleClientSite> host(Control_.site().get());
+    if (!host) return E_UNEXPECTED;
     const auto site = Control_.site().as<IOleInPlaceSite>();
     if (!site) return E_NOINTERFACE;
     if (site->CanInPlaceActivate() != S_OK) return E_FAIL;
     const HRESULT told = site->OnInPlaceActivate();
     if (FAILED(told)) return told;
-    if (!Control_.site()) return E_UNEXPECTED;
+    if (Control_.site().get() != host.get()) {
+        site->OnInPlaceDeactivate();
+        return E_UNEXPECTED;
+    }
     Site_ = site;
     State_ = State::InPlace;
     return S_OK;
