@@ -33,7 +33,7 @@ HRESULT Bag::Read(LPCOLESTR name, VARIANT* value, IErrorLog* /*log*/) {
     if (OnRead) OnRead();
     const auto kept = Values.find(name);
     const auto found = Texts.find(name);
-    if (kept == Values.end() && found == Texts.end()) return E_INVALIDARG;
+    if (kept == Values.end() && found == Texts.end()) return Absent;
     HandedOver.emplace_back(name);
     if (kept != Values.end()) return VariantCopy(value, &kept->second.Value);
     value->vt = VT_BSTR;

@@ -30,6 +30,7 @@ public:
     std::map<std::wstring, Var, NameOrder> Values;
     /// What there is to read.
     std::map<std::wstring, std::wstring, NameOrder> Texts;
+    HRESULT Absent = E_INVALIDARG;  ///< said of what there is not
     std::function<void()> OnRead;
 };
 

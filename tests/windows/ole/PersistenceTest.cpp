@@ -86,6 +86,20 @@ TEST(persist_bag_with_a_wrong_value_is_refused_whole) {
     EXPECT_EQ(captionOf(field.get()), std::wstring());
 }
 
+TEST(persist_bag_that_cannot_be_read_is_no_bag_without_properties) {
+    struct Row {
+        HRESULT said;  ///< of a property that is asked for
+        HRESULT loaded;
+    };
+    constexpr Row Rows[] = {
+        {E_INVALIDARG, S_OK}, {E_FAIL, S_OK}, {E_OUTOFMEMORY, E_OUTOFMEMORY}, {STG_E_READFAULT, STG_E_READFAULT}};
+    for (const Row& row : Rows) {
+        Bag stored;
+        stored.Absent = row.said;
+        EXPECT_CODE(load(makeText().get(), stored), row.loaded);
+    }
+}
+
 TEST(persist_stream_round_trip) {
     const auto saved = filledField();
     const auto stream = memoryStream();

@@ -64,12 +64,21 @@ void saveStream(OleControl& control, IStream& stream) {
     if (written != bytes.size()) throw AutomationError(STG_E_MEDIUMFULL, "the stream takes no more");
 }
 
-/// A bag says "no such property" with E_INVALIDARG; what it gives as Empty counts as absent too.
+/// A bag says "no such property" in many ways, with E_INVALIDARG by the book; what it gives as Empty counts as absent
+/// too. What it has and cannot give it writes into the log, which is its own to read. Where memory or the store behind
+/// it fails, there may be any number of properties.
+bool isAbsent(HRESULT read) {
+    return FAILED(read) && read != E_OUTOFMEMORY && HRESULT_FACILITY(read) != FACILITY_STORAGE;
+}
+
 void takeFromBag(IPropertyBag& host, IErrorLog* log, const PersistedRow& row, ValueBag& bag) {
     OwnedVariant value;
     const std::wstring name = wide(row.readName);
     value->vt = automationType(row.type);
-    if (FAILED(host.Read(name.c_str(), value.get(), log)) || value->vt == VT_EMPTY) return;
+    const HRESULT read = host.Read(name.c_str(), value.get(), log);
+    if (isAbsent(read)) return;
+    check(read, "the property bag cannot be read");
+    if (value->vt == VT_EMPTY) return;
     bag.take(row, valueFromAutomation(*value, row.type));
 }
 
