@@ -6,6 +6,7 @@
 #include "host/Widgets.h"
 #include "platform/win32/base/Gdi.h"
 #include "platform/win32/base/WideText.h"
+#include "platform/win32/widgets/EditView.h"
 #include "values/CaseFolding.h"
 
 namespace kel::win32 {
@@ -77,7 +78,12 @@ private:
     LONG Height_;
 };
 
-std::vector<double> rectanglesOf(HWND window, const ReadText& read, const ReadRange& range) {
+/// Of what is seen alone: the window says places in sixteen bits, which begin again in a long text.
+std::vector<double> rectanglesOf(HWND window, const TextEntry& entry, const ReadText& read, ReadRange range) {
+    RECT client{};
+    GetClientRect(window, &client);
+    range.start = std::max(range.start, positionAt(window, {0, 0}, entry));
+    range.end = std::min(range.end, positionAt(window, {client.right - 1, client.bottom - 1}, entry) + 1);
     std::vector<double> sides;
     const CharacterPlaces places(window, read);
     for (std::size_t at = range.start; at < range.end;) {
@@ -254,8 +260,8 @@ HRESULT AutomationRange::GetAttributeValue(TEXTATTRIBUTEID attribute, VARIANT* v
 HRESULT AutomationRange::GetBoundingRectangles(SAFEARRAY** rectangles) noexcept {
     if (rectangles == nullptr) return E_POINTER;
     *rectangles = nullptr;
-    return about([&](TextEntry&, const ReadText& read, HWND window) -> HRESULT {
-        const std::vector<double> sides = rectanglesOf(window, read, Range_);
+    return about([&](TextEntry& entry, const ReadText& read, HWND window) -> HRESULT {
+        const std::vector<double> sides = rectanglesOf(window, entry, read, Range_);
         *rectangles = SafeArrayCreateVector(VT_R8, 0, static_cast<ULONG>(sides.size()));
         if (*rectangles == nullptr) return E_OUTOFMEMORY;
         std::copy(sides.begin(), sides.end(), static_cast<double*>((*rectangles)->pvData));

@@ -20,7 +20,26 @@ const WindowClass& editClass() {
     return Class;
 }
 
+/// The number of which `half` is the lower half, and which is nearest to `other`.
+std::size_t nearest(std::size_t other, WORD half) {
+    const auto from = static_cast<std::ptrdiff_t>(other);
+    const std::ptrdiff_t found = from + static_cast<std::int16_t>(half - static_cast<WORD>(other));
+    return static_cast<std::size_t>(std::max<std::ptrdiff_t>(found, 0));
+}
+
 }  // namespace
+
+/// The window counts lines and characters in sixteen bits here: those that are meant are near what it shows.
+std::size_t positionAt(HWND edit, POINT place, const TextEntry& entry) {
+    const LRESULT found = SendMessageW(edit, EM_CHARFROMPOS, 0, MAKELPARAM(place.x, place.y));
+    // Of several lines the first one that is seen, else the first character.
+    auto first = static_cast<std::size_t>(SendMessageW(edit, EM_GETFIRSTVISIBLELINE, 0, 0));
+    if (entry.multiLine()) {
+        const LRESULT start = SendMessageW(edit, EM_LINEINDEX, nearest(first, HIWORD(found)), 0);
+        first = static_cast<std::size_t>(std::max<LRESULT>(start, 0));
+    }
+    return std::min(nearest(first, LOWORD(found)), entry.text().size());
+}
 
 std::u16string displayed(std::u16string_view text, bool multiLine) {
     std::u16string shown(text);

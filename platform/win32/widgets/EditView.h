@@ -67,6 +67,9 @@ private:
     std::int16_t Changing_ = 0;
 };
 
+/// Where in the text a point of an edit window is that shows it.
+std::size_t positionAt(HWND edit, POINT place, const TextEntry& entry);
+
 /// `text` unit by unit as the edit window can show it: half line breaks and zeros as blanks.
 std::u16string displayed(std::u16string_view text, bool multiLine);
 

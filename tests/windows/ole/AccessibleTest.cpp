@@ -400,6 +400,18 @@ TEST(accessible_long_texts_are_read_where_they_are_seen) {
     BSTR text = nullptr;
     EXPECT_CODE(seen.as<ITextRangeProvider>()->GetText(-1, &text), S_OK);
     EXPECT_EQ(taken(text), L"the end");
+    const auto heightsOf = [](const Ref<ITextRangeProvider>& range) {
+        SAFEARRAY* sides = nullptr;
+        EXPECT_CODE(range->GetBoundingRectangles(&sides), S_OK);
+        double heights = 0;
+        for (ULONG at = 3; at < sides->rgsabound[0].cElements; at += 4)
+            heights += static_cast<double*>(sides->pvData)[at];
+        SafeArrayDestroy(sides);
+        return std::lround(heights);
+    };
+    Ref<ITextRangeProvider> whole;
+    EXPECT_CODE(read.pattern<ITextProvider>(UIA_TextPatternId)->get_DocumentRange(whole.receive()), S_OK);
+    EXPECT_EQ(heightsOf(whole), heightsOf(seen.as<ITextRangeProvider>()));
 }
 
 namespace {
