@@ -1,6 +1,7 @@
 #include "platform/win32/widgets/EditView.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "host/DepthGuard.h"
 #include "host/editing/TextDifference.h"
@@ -77,10 +78,11 @@ LRESULT EditView::base(UINT message, WPARAM wide, LPARAM data) const {
     return Window_ != nullptr ? CallWindowProcW(Base_, Window_, message, wide, data) : 0;
 }
 
-void EditView::show() {
+void EditView::show(bool textToo) {
+    IsTextOld_ |= textToo;
     if (Window_ == nullptr || changing()) return;
     const DepthGuard changing(Changing_);
-    showText(displayed(Entry_.text(), Entry_.multiLine()));
+    if (std::exchange(IsTextOld_, false)) showText(displayed(Entry_.text(), Entry_.multiLine()));
     showSelection(Entry_.selection());
 }
 
@@ -150,7 +152,7 @@ void EditView::readText() {
     const TextDifference change = differenceOf(Shown_, text, ShownSelection_.end());
     const std::u16string written = text.substr(change.start, change.newEnd - change.start);
     Shown_ = std::move(text);
-    show();
+    show(true);
     Entry_.write(change.start, change.end, written);
 }
 

@@ -32,8 +32,8 @@ public:
 
     LRESULT base(UINT message, WPARAM wide = 0, LPARAM data = 0) const;
 
-    /// Makes the window show text and selection.
-    void show();
+    /// Makes the window show the selection, and the text where that has changed.
+    void show(bool textToo);
     /// The window has another selection by itself.
     void readSelection();
     /// Somebody else has put a text into the window past us.
@@ -65,6 +65,7 @@ private:
     std::u16string Shown_;
     Selection ShownSelection_;
     std::int16_t Changing_ = 0;
+    bool IsTextOld_ = false;
 };
 
 /// Where in the text a point of an edit window is that shows it.

@@ -49,7 +49,7 @@ void Win32TextEntry::show(Changes changes) {
     if (changes.has(Change::Font | Change::Place)) showPlace();
     if (changes.has(Change::Locked)) View_.base(EM_SETREADONLY, Entry_.locked());
     if (changes.has(Change::Password) && !Entry_.multiLine()) View_.base(EM_SETPASSWORDCHAR, Entry_.mask());
-    if (changes.has(Change::Text | Change::Selection)) View_.show();
+    if (changes.has(Change::Text | Change::Selection)) View_.show(changes.has(Change::Text));
     showOwn(changes);
     if (changes.has(Change::Enabled)) EnableWindow(whole, Entry_.enabled());
     if (changes.has(Change::ToolTip)) showToolTip();
