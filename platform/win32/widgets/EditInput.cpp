@@ -84,7 +84,12 @@ EditInput::Answer EditInput::handleText(UINT message, WPARAM wide, LPARAM data) 
         return offered;
     }
     switch (message) {
-        case WM_SETTEXT: Entry_.setText(textIn(data)); return TRUE;
+        case WM_SETTEXT:
+            // A program has the control's property to put a text. Who knows only windows, as readers' tools and those
+            // that fill in forms do, writes for the person.
+            if (const std::u16string text = textIn(data); text != Entry_.text())
+                Entry_.write(0, Entry_.text().size(), text);
+            return TRUE;
         case WM_GETTEXTLENGTH: return Entry_.textLength();
         case WM_GETTEXT:
             // The system knows which other programs may not read a password.

@@ -52,10 +52,6 @@ LRESULT Win32ComboBox::handleEdit(UINT message, WPARAM wide, LPARAM data) {
         case WM_MOUSEWHEEL:
             if (Box_.isDropped()) return nativeList(message, wide, data);
             break;
-        case WM_SETTEXT:
-            // A reader's tool writes so for the user.
-            if (const std::u16string text = textIn(data); text != Box_.text()) Box_.write(0, Box_.text().size(), text);
-            return TRUE;
         case EM_SETPASSWORDCHAR: return 0;
         default: break;
     }

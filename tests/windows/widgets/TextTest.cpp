@@ -49,7 +49,9 @@ struct MessageCase {
 
 TEST(text_from_outside_goes_through_the_box) {
     const MessageCase cases[] = {
-        {L"old", 2, 0, WM_SETTEXT, 0, L"new", L"|new", L"change"},
+        {L"old", 2, 0, WM_SETTEXT, 0, L"new", L"new|", L"paste:new change"},
+        {L"old", 2, 0, WM_SETTEXT, 0, L"", L"|", L"change"},
+        {L"old", 2, 0, WM_SETTEXT, 0, L"old", L"ol|d", L""},
         {L"abc", 1, 1, EM_REPLACESEL, TRUE, L"xyz", L"axyz|c", L"change"},
         {L"abc", 1, 1, WM_CLEAR, 0, nullptr, L"a|c", L"change"},
         {L"abc", 1, 1, WM_CUT, 0, nullptr, L"a|c", L"change"},
@@ -75,10 +77,14 @@ TEST(limits_and_locks_from_outside_are_the_boxs) {
     Stage stage;
     SendMessageW(stage.edit(), EM_SETLIMITTEXT, 2, 0);
     EXPECT_EQ(SendMessageW(stage.edit(), EM_GETLIMITTEXT, 0, 0), 2);
+    SetWindowTextW(stage.edit(), L"longer");
+    expectShown(stage, L"lo|");
     stage.box().setText(u"longer by code");
     expectShown(stage, L"|longer by code");
     SendMessageW(stage.edit(), EM_SETREADONLY, TRUE, 0);
     EXPECT(stage.box().locked());
+    SetWindowTextW(stage.edit(), L"x");
+    expectShown(stage, L"|longer by code");
     SendMessageW(stage.edit(), EM_SETPASSWORDCHAR, L'*', 0);
     EXPECT(stage.box().passwordChar() == u'*');
 }
