@@ -3,6 +3,7 @@
 #include <imm.h>
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "platform/win32/base/AtEnd.h"
 #include "platform/win32/base/WideText.h"
@@ -16,6 +17,8 @@ namespace {
 bool isControl(char32_t character) { return character < U' ' || character == DeleteCharacter; }
 
 char32_t takeFirst(std::u16string_view& units) { return units.empty() ? 0 : takeCodePoint(units); }
+
+POINT placeIn(LPARAM data) { return {static_cast<SHORT>(LOWORD(data)), static_cast<SHORT>(HIWORD(data))}; }
 
 /// The action that a message of the edit window asks for.
 EditAction actionOf(UINT message) {
@@ -221,14 +224,14 @@ EditInput::Answer EditInput::handleMouse(UINT message, WPARAM wide, LPARAM data)
         case WM_LBUTTONDOWN:
         case WM_RBUTTONDOWN:
         case WM_MBUTTONDOWN: pressed(message, wide, data); return 0;
+        case WM_LBUTTONDBLCLK: pressedAgain(2, placeIn(data)); return 0;
         case WM_MOUSEWHEEL: return wheelTurned(wide, data);
         case WM_LBUTTONUP:
         case WM_MOUSEMOVE:
-        case WM_LBUTTONDBLCLK:
         case WM_TIMER: {
             const LRESULT result = View_.base(message, wide, data);
             if (message != WM_MOUSEMOVE || (wide & MK_LBUTTON) != 0) View_.readSelection();
-            if (message == WM_LBUTTONUP) released({static_cast<SHORT>(LOWORD(data)), static_cast<SHORT>(HIWORD(data))});
+            if (message == WM_LBUTTONUP) released(placeIn(data));
             return result;
         }
         default: return std::nullopt;
@@ -243,6 +246,7 @@ void EditInput::released(POINT place) {
 
 /// The focus comes first, with all that the field does then; the caret is set into what stands there after it.
 void EditInput::pressed(UINT message, WPARAM wide, LPARAM data) {
+    if (message == WM_LBUTTONDOWN && isThird(placeIn(data))) return pressedAgain(3, placeIn(data));
     Entry_.pressedAnywhere();
     Entry_.setFocus();
     if (window() == nullptr || !Entry_.takesInput()) return;
@@ -251,6 +255,29 @@ void EditInput::pressed(UINT message, WPARAM wide, LPARAM data) {
     Entry_.pressMouse(message == WM_LBUTTONDOWN   ? MouseButton::Left
                       : message == WM_RBUTTONDOWN ? MouseButton::Right
                                                   : MouseButton::Middle);
+}
+
+/// The system's window would take the blank behind a word along, and knows no third click; it hears nothing of these,
+/// so that it drags nothing.
+void EditInput::pressedAgain(int clicks, POINT place) {
+    Entry_.pressedAnywhere();
+    Entry_.setFocus();
+    if (window() == nullptr || !Entry_.takesInput()) return;
+    DoubleClick_ = place;
+    DoubleClickTime_ = clicks == 2 ? GetMessageTime() : 0;
+    Entry_.press({.position = static_cast<std::int32_t>(positionAt(window(), place, Entry_)), .clicks = clicks});
+    // To the host the second one belongs to the first one's click, as with the system's own boxes.
+    if (clicks == 2) Entry_.releaseMouse(false);
+}
+
+/// The system counts to two.
+bool EditInput::isThird(POINT place) const {
+    if (DoubleClickTime_ == 0) return false;
+    const auto isNear = [](LONG one, LONG other, int measure) {
+        return std::abs(one - other) <= GetSystemMetrics(measure) / 2;
+    };
+    return static_cast<DWORD>(GetMessageTime() - DoubleClickTime_) <= GetDoubleClickTime() &&
+           isNear(place.x, DoubleClick_.x, SM_CXDOUBLECLK) && isNear(place.y, DoubleClick_.y, SM_CYDOUBLECLK);
 }
 
 /// Without the focus the wheel is for what is around the box.

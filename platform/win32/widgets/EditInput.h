@@ -37,6 +37,8 @@ private:
     void placeInputMethod() const;
     void takeCommitted();
     void pressed(UINT message, WPARAM wide, LPARAM data);
+    void pressedAgain(int clicks, POINT place);
+    bool isThird(POINT place) const;
     void released(POINT place);
     LRESULT wheelTurned(WPARAM wide, LPARAM data);
 
@@ -44,6 +46,8 @@ private:
     WindowedField& Field_;
     EditView& View_;
     TextEntry& Entry_;
+    POINT DoubleClick_{};  ///< where and when the last one was
+    LONG DoubleClickTime_ = 0;
     char16_t FirstHalf_ = 0;  ///< of a pair whose second half has not come yet
 };
 

@@ -64,6 +64,34 @@ TEST(the_mouse_selects_and_the_keyboard_goes_on_from_there) {
     EXPECT_EQ(stage.takeLog(), L"press:1");
 }
 
+TEST(a_double_click_takes_the_word_and_a_third_one_the_line) {
+    Stage stage;
+    stage.box().setText(u"one two three");
+    stage.enter();
+    const LRESULT corner = SendMessageW(stage.edit(), EM_POSFROMCHAR, 5, 0);
+    const POINT place{static_cast<short>(LOWORD(corner)), 5};
+    const auto press = [&](UINT message, POINT at) {
+        postMouse(stage.edit(), message, MK_LBUTTON, at);
+        // A hand is not quite still.
+        postMouse(stage.edit(), WM_MOUSEMOVE, MK_LBUTTON, {at.x + 1, at.y});
+        postMouse(stage.edit(), WM_LBUTTONUP, 0, at);
+        settle();
+        return drawn(stage.box());
+    };
+    EXPECT_EQ(press(WM_LBUTTONDOWN, place), L"one t|wo three");
+    EXPECT_EQ(stage.takeLog(), L"press:1 click");
+    EXPECT_EQ(press(WM_LBUTTONDBLCLK, place), L"one [two] three");
+    EXPECT_EQ(stage.takeLog(), L"press:1");
+    EXPECT_EQ(press(WM_LBUTTONDOWN, place), L"[one two three]");
+    EXPECT_EQ(stage.takeLog(), L"press:1 click");
+    // Elsewhere, or later, it is the first of others.
+    press(WM_LBUTTONDBLCLK, place);
+    EXPECT_EQ(press(WM_LBUTTONDOWN, {place.x + 40, place.y}).find(L'['), std::wstring::npos);
+    press(WM_LBUTTONDBLCLK, place);
+    settleFor(GetDoubleClickTime() + 50);
+    EXPECT_EQ(press(WM_LBUTTONDOWN, place), L"one t|wo three");
+}
+
 namespace {
 
 int WheelsSeen = 0;
