@@ -224,7 +224,7 @@ EditInput::Answer EditInput::handleMouse(UINT message, WPARAM wide, LPARAM data)
         case WM_LBUTTONDOWN:
         case WM_RBUTTONDOWN:
         case WM_MBUTTONDOWN: pressed(message, wide, data); return 0;
-        case WM_LBUTTONDBLCLK: pressedAgain(2, placeIn(data)); return 0;
+        case WM_LBUTTONDBLCLK: pressedAgain(clicksOf(message, placeIn(data)), placeIn(data)); return 0;
         case WM_MOUSEWHEEL: return wheelTurned(wide, data);
         case WM_LBUTTONUP:
         case WM_MOUSEMOVE:
@@ -246,7 +246,7 @@ void EditInput::released(POINT place) {
 
 /// The focus comes first, with all that the field does then; the caret is set into what stands there after it.
 void EditInput::pressed(UINT message, WPARAM wide, LPARAM data) {
-    if (message == WM_LBUTTONDOWN && isThird(placeIn(data))) return pressedAgain(3, placeIn(data));
+    if (const int clicks = clicksOf(message, placeIn(data)); clicks > 1) return pressedAgain(clicks, placeIn(data));
     Entry_.pressedAnywhere();
     Entry_.setFocus();
     if (window() == nullptr || !Entry_.takesInput()) return;
@@ -257,27 +257,21 @@ void EditInput::pressed(UINT message, WPARAM wide, LPARAM data) {
                                                   : MouseButton::Middle);
 }
 
-/// The system's window would take the blank behind a word along, and knows no third click; it hears nothing of these,
+/// The system's window would take the blank after a word along, and knows no third click; it hears nothing of these,
 /// so that it drags nothing.
 void EditInput::pressedAgain(int clicks, POINT place) {
     Entry_.pressedAnywhere();
     Entry_.setFocus();
     if (window() == nullptr || !Entry_.takesInput()) return;
-    DoubleClick_ = place;
-    DoubleClickTime_ = clicks == 2 ? GetMessageTime() : 0;
     Entry_.press({.position = static_cast<std::int32_t>(positionAt(window(), place, Entry_)), .clicks = clicks});
     // To the host the second one belongs to the first one's click, as with the system's own boxes.
     if (clicks == 2) Entry_.releaseMouse(false);
 }
 
-/// The system counts to two.
-bool EditInput::isThird(POINT place) const {
-    if (DoubleClickTime_ == 0) return false;
-    const auto isNear = [](LONG one, LONG other, int measure) {
-        return std::abs(one - other) <= GetSystemMetrics(measure) / 2;
-    };
-    return static_cast<DWORD>(GetMessageTime() - DoubleClickTime_) <= GetDoubleClickTime() &&
-           isNear(place.x, DoubleClick_.x, SM_CXDOUBLECLK) && isNear(place.y, DoubleClick_.y, SM_CYDOUBLECLK);
+int EditInput::clicksOf(UINT message, POINT place) {
+    if (message != WM_LBUTTONDOWN && message != WM_LBUTTONDBLCLK) return 1;
+    return Clicks_.count({message == WM_LBUTTONDBLCLK, place.x, place.y, GetMessageTime()},
+                         {GetDoubleClickTime(), GetSystemMetrics(SM_CXDOUBLECLK) / 2});
 }
 
 /// Without the focus the wheel is for what is around the box.

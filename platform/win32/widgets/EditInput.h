@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "host/editing/ClickCounter.h"
 #include "platform/win32/widgets/EditView.h"
 #include "platform/win32/widgets/WindowedView.h"
 
@@ -38,7 +39,8 @@ private:
     void takeCommitted();
     void pressed(UINT message, WPARAM wide, LPARAM data);
     void pressedAgain(int clicks, POINT place);
-    bool isThird(POINT place) const;
+    /// That a press of a button is, with those before it: the second selects a word, the third a line.
+    int clicksOf(UINT message, POINT place);
     void released(POINT place);
     LRESULT wheelTurned(WPARAM wide, LPARAM data);
 
@@ -46,8 +48,7 @@ private:
     WindowedField& Field_;
     EditView& View_;
     TextEntry& Entry_;
-    POINT DoubleClick_{};  ///< where and when the last one was
-    LONG DoubleClickTime_ = 0;
+    ClickCounter Clicks_;
     char16_t FirstHalf_ = 0;  ///< of a pair whose second half has not come yet
 };
 
