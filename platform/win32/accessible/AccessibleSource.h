@@ -37,6 +37,7 @@ public:
     AccessibleLink& operator=(const AccessibleLink&) = delete;
 
     void cut() { Source_ = nullptr; }
+    bool isCut() const { return Source_ == nullptr; }
 
     /// Runs `act(source, control)` while the control is held open; what it does may be the control's end. `gone` where
     /// the control is there no longer.

@@ -102,8 +102,10 @@ void ControlAccess::rested() {
     Pending_ = false;
     // What is told may be the end of this.
     const std::shared_ptr<AccessibleLink> link = Link_;
-    link->with(S_OK, [this](AccessibleSource&, Control& control) {
+    link->with(S_OK, [&](AccessibleSource&, Control& control) {
         const Spoken now{describe(control), selectionIn(control)};
+        // So may be the look into the host.
+        if (link->isCut()) return S_OK;
         const std::optional<Spoken> before = std::exchange(Told_, now);
         if (before && *before != now) tell(*before, now);
         return S_OK;
