@@ -150,6 +150,7 @@ HRESULT AccessibleElement::get_accDescription(VARIANT which, BSTR* description) 
 
 HRESULT AccessibleElement::get_accRole(VARIANT which, VARIANT* role) noexcept {
     if (role == nullptr) return E_POINTER;
+    *role = VARIANT{};
     return about(which, [&](AccessibleSource&, Control& control) {
         *role = numberOf(roleOf(describe(control).role));
         return S_OK;
@@ -158,6 +159,7 @@ HRESULT AccessibleElement::get_accRole(VARIANT which, VARIANT* role) noexcept {
 
 HRESULT AccessibleElement::get_accState(VARIANT which, VARIANT* state) noexcept {
     if (state == nullptr) return E_POINTER;
+    *state = VARIANT{};
     VARIANT seen{};
     standard([&](IAccessible& object) { return object.get_accState(which, &seen); });
     return about(which, [&](AccessibleSource& source, Control& control) {
@@ -233,6 +235,7 @@ HRESULT AccessibleElement::get_accSelection(VARIANT* selection) noexcept {
 
 HRESULT AccessibleElement::accLocation(LONG* left, LONG* top, LONG* width, LONG* height, VARIANT which) noexcept {
     if (left == nullptr || top == nullptr || width == nullptr || height == nullptr) return E_POINTER;
+    *left = *top = *width = *height = 0;
     return about(which, [&](AccessibleSource& source, Control&) -> HRESULT {
         RECT area{};
         if (GetWindowRect(source.window(), &area) == FALSE) return E_FAIL;

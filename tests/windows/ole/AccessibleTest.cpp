@@ -203,6 +203,13 @@ TEST(accessible_parts_are_places_of_their_own) {
     EXPECT_CODE(element->get_accName(first, nullptr), E_POINTER);
     BSTR name = nullptr;
     EXPECT_CODE(element->get_accName(first, &name), E_INVALIDARG);
+    for (const auto get : {&IAccessible::get_accRole, &IAccessible::get_accState}) {
+        VARIANT kept = self();
+        EXPECT_CODE((element.get()->*get)(first, &kept), E_INVALIDARG);
+        EXPECT_EQ(kept.vt, VT_EMPTY);
+    }
+    EXPECT_CODE(element->accLocation(&left, &top, &width, &height, first), E_INVALIDARG);
+    EXPECT_EQ(width, 0L);
 }
 
 TEST(accessible_writing_counts_as_typing) {

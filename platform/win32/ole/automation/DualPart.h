@@ -88,6 +88,8 @@ private:
 
     template <class Out, class... In>
     HRESULT forward(std::size_t index, Out* out, Access reach, In... in) noexcept {
+        // The system frees what stands in a result that goes to another apartment, whatever the code says.
+        if (out != nullptr) *out = {};
         return this->guarded([&] {
             const MemberRow& row = this->access().row(index);
             std::size_t next = 0;
