@@ -3,14 +3,20 @@
 #include <utility>
 
 #include "platform/win32/base/WideText.h"
+#include "platform/win32/base/WindowClass.h"
 #include "platform/win32/widgets/WindowedView.h"
 
 namespace kel::win32 {
 
 namespace {
 
-/// Other threads, and other programs, may have controls in the same top-level window.
-std::wstring propertyName() { return L"KelControls8.Focus" + wideNumber(GetCurrentThreadId()); }
+/// Other threads, other programs and other copies of this code, of another version perhaps, may have controls in the
+/// same top-level window.
+std::wstring propertyName() {
+    static const std::wstring Own =
+        L"KelControls8.Focus" + wideNumber(reinterpret_cast<std::uintptr_t>(thisModule())) + L'.';
+    return Own + wideNumber(GetCurrentThreadId());
+}
 
 HWND rootOf(HWND window) { return window != nullptr ? GetAncestor(window, GA_ROOT) : nullptr; }
 
