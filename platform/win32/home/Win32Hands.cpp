@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "platform/win32/base/AtEnd.h"
+#include "platform/win32/base/HeldKeys.h"
 #include "platform/win32/base/Picture.h"
 #include "platform/win32/base/Session.h"
 #include "platform/win32/home/Win32FormWindow.h"
@@ -12,31 +13,6 @@
 namespace kel::win32 {
 
 namespace {
-
-/// Has the modifier keys of this thread down while it lives.
-class HeldModifiers {
-public:
-    explicit HeldModifiers(Modifiers modifiers) {
-        GetKeyboardState(Before_);
-        BYTE state[KeyCount];
-        std::copy(std::begin(Before_), std::end(Before_), state);
-        const auto hold = [&](int key, Modifiers flag) {
-            state[key] = static_cast<BYTE>((modifiers & flag) != 0 ? Down : 0);
-        };
-        hold(VK_SHIFT, ShiftKey);
-        hold(VK_CONTROL, ControlKey);
-        hold(VK_MENU, AltKey);
-        SetKeyboardState(state);
-    }
-    ~HeldModifiers() { SetKeyboardState(Before_); }
-    HeldModifiers(const HeldModifiers&) = delete;
-    HeldModifiers& operator=(const HeldModifiers&) = delete;
-
-private:
-    static constexpr std::size_t KeyCount = 256;
-    static constexpr BYTE Down = 0x80;
-    BYTE Before_[KeyCount]{};
-};
 
 LPARAM keyData(std::int16_t code, bool alt, bool up) {
     constexpr LPARAM Released = static_cast<LPARAM>(0xC0000000U);
@@ -116,7 +92,7 @@ void Win32FormWindow::postKey(const KeyStroke& stroke) {
 
 void Win32FormWindow::press(const KeyStroke& stroke) {
     activate();
-    const HeldModifiers held(stroke.modifiers);
+    const HeldKeys held(stroke.modifiers);
     postKey(stroke);
     Session_.settle(true);
     if (stroke.code == 0) return;
@@ -127,7 +103,7 @@ void Win32FormWindow::press(const KeyStroke& stroke) {
 }
 
 void Win32FormWindow::strikeSent(std::int16_t code) {
-    const HeldModifiers held(NoModifier);
+    const HeldKeys held(NoModifier);
     if (code == keys::Tab) {
         moveByTab(false);
         return;

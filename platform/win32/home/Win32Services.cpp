@@ -9,6 +9,7 @@
 #include "platform/win32/base/Gdi.h"
 #include "platform/win32/base/MessageBox.h"
 #include "platform/win32/base/WideText.h"
+#include "platform/win32/home/SentKey.h"
 #include "values/Calendar.h"
 
 namespace kel::win32 {
@@ -74,6 +75,7 @@ FontChoice Win32RuntimeServices::messageFont() {
 }
 
 void Win32RuntimeServices::sendKey(std::int16_t keyCode) {
+    if (sendKeyAhead(keyCode)) return;
     std::array<INPUT, 2> inputs{keyInput(keyCode, 0), keyInput(keyCode, KEYEVENTF_KEYUP)};
     SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }

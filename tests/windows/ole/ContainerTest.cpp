@@ -93,3 +93,70 @@ TEST(container_with_two_controls_takes_keys_and_tab) {
     DestroyWindow(top);
     settle();
 }
+
+namespace {
+
+/// What a person types, as fast as that is: all of it waits in the queue. Shift is down with a key after "^".
+void typeAhead(const std::string& keys) {
+    for (std::size_t at = 0; at < keys.size(); ++at) {
+        const bool shift = keys[at] == '^';
+        if (shift) keybd_event(VK_SHIFT, 0, 0, 0);
+        const auto key = static_cast<BYTE>(keys[shift ? ++at : at]);
+        keybd_event(key, 0, 0, 0);
+        keybd_event(key, 0, KEYEVENTF_KEYUP, 0);
+        if (shift) keybd_event(VK_SHIFT, 0, KEYEVENTF_KEYUP, 0);
+    }
+}
+
+}  // namespace
+
+TEST(container_moves_on_by_enter_in_front_of_what_was_typed_after_it) {
+    struct Row {
+        const char* typed;
+        const wchar_t* texts;  ///< of the fields, each of which holds "-" at first
+    };
+    const Row rows[] = {{"12\r34", L"12,34,-"}, {"12^\r34", L"12,34,-"}, {"12^\r3\r^A4", L"12,3,A4"}};
+    for (const Row& row : rows) {
+        const Atl atl;
+        const HWND top = CreateWindowExW(0, L"#32770", L"Three fields", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 380,
+                                         140, nullptr, nullptr, nullptr, nullptr);
+        const HWND holders[] = {holderIn(top, 20), holderIn(top, 50), holderIn(top, 80)};
+        {
+            std::vector<Ref<_KelText>> fields;
+            for (HWND const holder : holders) {
+                fields.push_back(atl.controlIn(holder));
+                EXPECT_CODE(fields.back()->put_Text(Str(L"-")), S_OK);
+                EXPECT_CODE(fields.back()->put_SelectOnFocus(VARIANT_TRUE), S_OK);
+            }
+            const auto active = [&] {
+                std::size_t at = 0;
+                while (at < 2 && holders[at] != GetFocus() && !IsChild(holders[at], GetFocus())) ++at;
+                activate(holders[at], fields[at]);
+                return fields[at].as<IOleInPlaceActiveObject>();
+            };
+            SetForegroundWindow(top);
+            SetFocus(holders[0]);
+            SendMessageW((active(), GetFocus()), EM_SETSEL, 0, -1);
+            typeAhead(row.typed);
+            MSG message{};
+            for (int idle = 0; idle < 5;) {
+                const auto object = active();
+                if (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) == FALSE) {
+                    Sleep(10);
+                    ++idle;
+                    continue;
+                }
+                if (object->TranslateAccelerator(&message) == S_OK) continue;
+                if (IsDialogMessageW(top, &message)) continue;
+                TranslateMessage(&message);
+                DispatchMessageW(&message);
+            }
+            std::wstring texts = text(fields[0].get());
+            for (const auto& field : {fields[1], fields[2]}) texts += L"," + text(field.get());
+            EXPECT_EQ(texts, std::wstring(row.texts));
+            EXPECT(GetKeyState(VK_TAB) >= 0);
+        }
+        DestroyWindow(top);
+        settle();
+    }
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <windows.h>
+
+#include <algorithm>
+#include <iterator>
+
+#include "host/Keys.h"
+
+namespace kel::win32 {
+
+/// Has these modifier keys of the thread down while it lives, the others not, and perhaps one more key.
+class HeldKeys {
+public:
+    explicit HeldKeys(Modifiers modifiers, int further = 0) : Keys_{VK_SHIFT, VK_CONTROL, VK_MENU, further} {
+        BYTE state[KeyCount]{};
+        GetKeyboardState(state);
+        std::copy(std::begin(state), std::end(state), Before_);
+        if (further != 0) state[further] = Down;
+        state[VK_SHIFT] = (modifiers & ShiftKey) != 0 ? Down : 0;
+        state[VK_CONTROL] = (modifiers & ControlKey) != 0 ? Down : 0;
+        state[VK_MENU] = (modifiers & AltKey) != 0 ? Down : 0;
+        SetKeyboardState(state);
+    }
+    ~HeldKeys() {
+        BYTE state[KeyCount]{};
+        GetKeyboardState(state);
+        for (const int key : Keys_) state[key] = Before_[key];
+        SetKeyboardState(state);
+    }
+    HeldKeys(const HeldKeys&) = delete;
+    HeldKeys& operator=(const HeldKeys&) = delete;
+
+    /// A person presses or releases a key meanwhile: so it is afterwards.
+    void pressed(BYTE key, bool down) { Before_[key] = down ? Down : 0; }
+
+private:
+    static constexpr std::size_t KeyCount = 256;
+    static constexpr BYTE Down = 0x80;
+
+    int Keys_[4];
+    BYTE Before_[KeyCount]{};
+};
+
+}  // namespace kel::win32
