@@ -6,9 +6,15 @@ namespace kel::win32 {
 
 namespace {
 
-constexpr const char* ProcedureProperty = "KelControlsProc";
-constexpr const char* ButtonWidthProperty = "KelControls8.ButtonWidth";
-constexpr const char* UnicodeProperty = "KelControls8.Unicode";
+/// The name of a window's property as the number that the system knows it by: it is asked for with every message.
+const char* numbered(const char* name) {
+    const ATOM number = GlobalAddAtomA(name);
+    return number != 0 ? reinterpret_cast<const char*>(ULONG_PTR{number}) : name;
+}
+
+const char* const ProcedureProperty = numbered("KelControlsProc");
+const char* const ButtonWidthProperty = numbered("KelControls8.ButtonWidth");
+const char* const UnicodeProperty = numbered("KelControls8.Unicode");
 
 /// nullptr while the window is not hooked.
 WNDPROC previousOf(HWND window) { return reinterpret_cast<WNDPROC>(GetPropA(window, ProcedureProperty)); }
