@@ -76,6 +76,8 @@ DISPID DispatchCaller::lookUp(std::u16string_view name) const {
             result = script->GetDispID(bstr->bstrVal, fdexNameCaseInsensitive, &id);
         }
     }
+    // Another failure, of the object's process say, is no word on its members.
+    if (FAILED(result) && result != DISP_E_UNKNOWNNAME) raise(result, name);
     if (FAILED(result) || id == DISPID_UNKNOWN)
         throw AutomationError(UnknownNameCode, "the object has no " + toUtf8(name));
     return id;
