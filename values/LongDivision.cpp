@@ -41,9 +41,11 @@ public:
 
     void shiftLeft(int places) {
         const int limbs = places / LimbBits;
-        std::move_backward(Limbs_.begin(), Limbs_.begin() + Used_, Limbs_.begin() + Used_ + limbs);
-        std::fill_n(Limbs_.begin(), limbs, 0U);
-        if (Used_ > 0) Used_ += limbs;
+        if (limbs > 0 && Used_ > 0) {
+            std::move_backward(Limbs_.begin(), Limbs_.begin() + Used_, Limbs_.begin() + Used_ + limbs);
+            std::fill_n(Limbs_.begin(), limbs, 0U);
+            Used_ += limbs;
+        }
         multiply(std::uint32_t{1} << (places % LimbBits));
     }
 
