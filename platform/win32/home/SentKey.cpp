@@ -1,6 +1,7 @@
 #include "platform/win32/home/SentKey.h"
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "platform/win32/base/HeldKeys.h"
