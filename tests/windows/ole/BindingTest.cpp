@@ -1,7 +1,7 @@
 // Calls through the function table and late-bound calls, with the values and mistakes that clients make.
 
 #include "tests/windows/ole/Check.h"
-#include "tests/windows/ole/Client.h"
+#include "tests/windows/ole/Host.h"
 
 using namespace kel::tests;
 
@@ -235,6 +235,10 @@ TEST(errors_carry_a_description) {
     EXPECT_CODE(GetErrorInfo(0, info.receive()), S_OK);
     EXPECT_CODE(handler.as<ISupportErrorInfo>()->InterfaceSupportsErrorInfo(__uuidof(_KelControlHandler)), S_OK);
     EXPECT_CODE(handler.as<ISupportErrorInfo>()->InterfaceSupportsErrorInfo(IID_IOleObject), S_FALSE);
+    // One in a process that has ended says nothing of its members.
+    HostRuntime gone;
+    gone.Gone = RPC_E_DISCONNECTED;
+    EXPECT_CODE(early->SetRuntime(&gone), RPC_E_DISCONNECTED);
     // The object was stored before it failed; a sound one takes its place.
     const auto sound = create(L"KelRuntime8.Runtime");
     VARIANT right = plain(VT_DISPATCH);

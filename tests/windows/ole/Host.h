@@ -186,7 +186,7 @@ public:
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID iid, LPOLESTR* names, UINT count, LCID locale,
                                             DISPID* ids) override {
-        return Default->GetIDsOfNames(iid, names, count, locale, ids);
+        return FAILED(Gone) ? Gone : Default->GetIDsOfNames(iid, names, count, locale, ids);
     }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID iid, LCID locale, WORD flags, DISPPARAMS* passed,
                                      VARIANT* result, EXCEPINFO* exception, UINT* argument) override {
@@ -203,6 +203,7 @@ public:
 
     Ref<IDispatch> Default;
     std::map<DISPID, Var> Own;
+    HRESULT Gone = S_OK;  ///< said where it is asked for its members
     int Asked = 0;
 };
 
