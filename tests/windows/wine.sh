@@ -67,7 +67,7 @@ exported() {
     if windows reg export "$1" "$(path "$file")" /y >/dev/null 2>&1; then
         [ -s "$file" ] && iconv -f utf-16 -t utf-8 "$file"
     else
-        windows reg query "$1" 2>&1 | grep -q 'Unable to find the specified registry key'
+        [[ $(windows reg query "$1") = *'Unable to find the specified registry key'* ]]
     fi
 }
 
