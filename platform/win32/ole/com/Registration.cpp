@@ -13,9 +13,11 @@ constexpr bool Is64 = sizeof(void*) == 8;
 
 HKEY rootOf(Scope scope) { return scope == Scope::Machine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER; }
 
-bool isThere(HKEY root, const std::wstring& path, REGSAM view) {
+constexpr std::size_t LongestPath = 160;  ///< of the keys that are looked for
+
+bool isThere(HKEY root, const wchar_t* path, REGSAM view) {
     HKEY found = nullptr;
-    if (RegOpenKeyExW(root, path.c_str(), 0, KEY_READ | view, &found) != ERROR_SUCCESS) return false;
+    if (RegOpenKeyExW(root, path, 0, KEY_READ | view, &found) != ERROR_SUCCESS) return false;
     RegCloseKey(found);
     return true;
 }
@@ -95,9 +97,10 @@ void writeTypeLibrary(Scope scope) {
 
 /// The system says the same of one that is not there and of one that cannot be removed.
 HRESULT removeTypeLibrary(Scope scope) {
-    const std::wstring version = wideNumber(identities::MajorVersion) + L'.' + wideNumber(identities::MinorVersion);
-    const std::wstring key = L"TypeLib\\" + textOf(toGuid(identities::TypeLibrary)) + L'\\' + version;
-    if (!isThere(HKEY_CLASSES_ROOT, key + (Is64 ? L"\\0\\win64" : L"\\0\\win32"), 0)) return S_OK;
+    wchar_t path[LongestPath];
+    wsprintfW(path, L"TypeLib\\%s\\%x.%x\\0\\win%d", textOf(toGuid(identities::TypeLibrary)).c_str(),
+              identities::MajorVersion, identities::MinorVersion, Is64 ? 64 : 32);
+    if (!isThere(HKEY_CLASSES_ROOT, path, 0)) return S_OK;
     auto* const unregisterTypes = scope == Scope::Machine
                                       ? &UnRegisterTypeLib
                                       : automationFunction<decltype(UnRegisterTypeLib)>("UnRegisterTypeLibForUser");
@@ -108,8 +111,9 @@ HRESULT removeTypeLibrary(Scope scope) {
 /// Whether the server of the other bitness has the class too. Windows keeps the classes of the two apart, but not their
 /// names; one of 32 bits alone shows what is here.
 bool isServedElsewhere(Scope scope, const RegisteredClass& entry) {
-    return isThere(rootOf(scope), L"Software\\Classes\\" + wide(classKey(entry)) + L"\\InprocServer32",
-                   Is64 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY);
+    wchar_t path[LongestPath];
+    wsprintfW(path, L"Software\\Classes\\%s\\InprocServer32", wide(classKey(entry)).c_str());
+    return isThere(rootOf(scope), path, Is64 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY);
 }
 
 /// All that can be removed; the first failure. What is not there is none.
