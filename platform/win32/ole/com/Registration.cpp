@@ -95,17 +95,18 @@ void writeTypeLibrary(Scope scope) {
     check(registerTypes(types.get(), file.data(), folder.data()), "the type library cannot be registered");
 }
 
-/// The system says the same of one that is not there and of one that cannot be removed.
 HRESULT removeTypeLibrary(Scope scope) {
-    wchar_t path[LongestPath];
-    wsprintfW(path, L"TypeLib\\%s\\%x.%x\\0\\win%d", textOf(toGuid(identities::TypeLibrary)).c_str(),
-              identities::MajorVersion, identities::MinorVersion, Is64 ? 64 : 32);
-    if (!isThere(HKEY_CLASSES_ROOT, path, 0)) return S_OK;
     auto* const unregisterTypes = scope == Scope::Machine
                                       ? &UnRegisterTypeLib
                                       : automationFunction<decltype(UnRegisterTypeLib)>("UnRegisterTypeLibForUser");
-    return unregisterTypes(toGuid(identities::TypeLibrary), identities::MajorVersion, identities::MinorVersion,
-                           LOCALE_NEUTRAL, Is64 ? SYS_WIN64 : SYS_WIN32);
+    const GUID types = toGuid(identities::TypeLibrary);
+    const HRESULT removed = unregisterTypes(types, identities::MajorVersion, identities::MinorVersion, LOCALE_NEUTRAL,
+                                            Is64 ? SYS_WIN64 : SYS_WIN32);
+    // It says the same of one that was not there.
+    wchar_t path[LongestPath];
+    wsprintfW(path, L"Software\\Classes\\TypeLib\\%s\\%x.%x\\0\\win%d", textOf(types).c_str(), identities::MajorVersion,
+              identities::MinorVersion, Is64 ? 64 : 32);
+    return isThere(rootOf(scope), path, 0) ? removed : S_OK;
 }
 
 /// Whether the server of the other bitness has the class too. Windows keeps the classes of the two apart, but not their
