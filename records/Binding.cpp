@@ -297,6 +297,32 @@ Cell Binding::cell(const Column& column, const Cell& before) const {
     return Null{};
 }
 
+Cell Binding::joined(const Cell& other, const Cell& own) const {
+    if (isNull(other)) return own;
+    const auto* const text = std::get_if<std::u16string>(&own);
+    const auto shown = text != nullptr ? dayOrTimeIn(*text) : std::nullopt;
+    if (shown) return dateCell(ColumnType::Moment, Kind_ == Kind::Time, *shown, other);
+    // Without a day there is no moment, and without a time of day the other field's stands.
+    return Kind_ == Kind::Time ? other : own;
+}
+
+std::u16string Binding::dayMissing() const {
+    return caption() +
+           (showsDay() ? u": please fill in the day." : u": a time needs a day, and no field of the form shows that.");
+}
+
+void addValue(std::vector<Change>& values, const Binding& binding, const Cell& own) {
+    if (Change* const other = changeOf(values, binding.column()))
+        other->value = binding.joined(other->value, own);
+    else
+        values.push_back({binding.column(), own});
+}
+
+bool lacksDay(const Column& column, const Cell& cell) {
+    const auto* const text = std::get_if<std::u16string>(&cell);
+    return column.type == ColumnType::Moment && text != nullptr && !readIsoDay(*text) && readIsoTime(*text);
+}
+
 bool Binding::holds(const Column& column, const Cell& now) const {
     if (Kind_ == Kind::Number && isDrawn(std::get<double>(get(valueMember().name)), now)) return false;
     const Cell own = cell(column, now);

@@ -69,6 +69,8 @@ public:
     /// What the column is to keep. Where `before` says more than the field shows, such as the time of a moment whose
     /// day stands in a date field, that stays.
     Cell cell(const Column& column, const Cell& before) const;
+    /// A moment of which another field says `other`, and this one `own`: one the day, one the time of day.
+    Cell joined(const Cell& other, const Cell& own) const;
     /// Whether `cell` is what the field's own value would be kept as; 12.5 and 12.50 are one number.
     bool holds(const Column& column, const Cell& cell) const;
     /// `cell` in words for the person: the text of a tag, yes or no.
@@ -80,6 +82,9 @@ public:
     /// the field writes it.
     std::optional<std::u16string> searchedTextOf(const Cell& cell) const;
     bool showsNumber() const { return Kind_ == Kind::Number; }
+    bool showsDay() const { return Kind_ == Kind::Date; }
+    /// What is said where a moment has a time of day and no day: of the field of the day, if there is one.
+    std::u16string dayMissing() const;
 
     /// Asked with a message for the person when it is not.
     bool isValid(bool sayWhy) const;
@@ -123,6 +128,13 @@ private:
     std::u16string StoredLook_;
     std::unique_ptr<LookupField> Lookup_;  ///< where another table gives the list
 };
+
+/// Adds what the field holds, as `Binding::cell` gives it, to `values`, where another one may stand for the same
+/// column.
+void addValue(std::vector<Change>& values, const Binding& binding, const Cell& own);
+
+/// Whether that is a time of day without a day, in a column of moments.
+bool lacksDay(const Column& column, const Cell& cell);
 
 /// Whether the control has a value that a column could keep.
 bool isField(const Control& control);

@@ -70,12 +70,17 @@ std::optional<Date> readIsoTime(std::u16string_view text) {
 
 std::u16string withIsoDay(std::u16string_view text, Date day) {
     if (!readIsoTime(text)) return isoDay(day) + u" 00:00:00";
-    return isoDay(day) + u' ' + std::u16string(timeIn(text));
+    std::u16string_view time = timeIn(text);
+    if (!text.starts_with(isoDay(day))) time = time.substr(0, time.find_first_not_of(u"0123456789:."));
+    return isoDay(day) + u' ' + std::u16string(time);
 }
 
 std::u16string withIsoTime(std::u16string_view text, Date time) {
     const auto day = readIsoDay(text);
-    return isoDay(day.value_or(Date{0})) + u' ' + isoTime(time);
+    if (!day) return isoTime(time);
+    const std::u16string_view before = timeIn(text);
+    const std::u16string now = isoTime(time);
+    return isoDay(*day) + u' ' + (before.starts_with(now) ? std::u16string(before) : now);
 }
 
 }  // namespace kel::records

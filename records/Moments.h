@@ -19,9 +19,11 @@ std::optional<Date> readIsoDay(std::u16string_view text);
 /// passed over. Nothing where there is none.
 std::optional<Date> readIsoTime(std::u16string_view text);
 
-/// `text` with another day in front of its time, or another time behind its day; a part that it does not have is
-/// midnight, or the day of `Date{0}`.
+/// `text` with this day before its time, which is midnight where it has none. A zone goes with the day that it belongs
+/// to: ten in the morning is +02 in July, and +01 in January.
 std::u16string withIsoDay(std::u16string_view text, Date day);
+/// `text` with this time after its day; the time alone where it has none. A fraction of the second that stands there
+/// already stays.
 std::u16string withIsoTime(std::u16string_view text, Date time);
 
 }  // namespace kel::records

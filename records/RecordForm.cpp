@@ -213,8 +213,43 @@ bool RecordForm::isValid() {
     return true;
 }
 
+const Binding* RecordForm::dayBeside(const Binding& time) const {
+    const auto day = std::find_if(Bindings_.begin(), Bindings_.end(), [&](const Binding& binding) {
+        return binding.column() == time.column() && binding.showsDay();
+    });
+    return day == Bindings_.end() ? nullptr : &*day;
+}
+
+bool RecordForm::hasDay(const Binding& time) const {
+    const Column& column = columnOf(time);
+    if (column.type != ColumnType::Moment || time.showsDay() || time.isGiven(column)) return true;
+    const Binding* const day = dayBeside(time);
+    const Record* const known = Shown_ ? &*Shown_ : Copied_ ? &*Copied_ : nullptr;
+    Cell before = Null{};
+    if (day != nullptr)
+        before = day->cell(column, Null{});
+    else if (known != nullptr)
+        before = known->cells[time.column()];
+    const Cell moment = time.cell(column, before);
+    // Midnight may be all that a day had, and goes with it.
+    const bool isBeginning = known != nullptr && moment == Cell(std::u16string(u"00:00:00")) && !time.isChanged();
+    return isBeginning || !lacksDay(column, moment);
+}
+
+bool RecordForm::haveDays() {
+    for (const Binding& binding : Bindings_) {
+        if (hasDay(binding)) continue;
+        const Binding* const day = dayBeside(binding);
+        const Binding& field = day != nullptr ? *day : binding;
+        Form_->window().focus(field.control());
+        Questions_->say(field.dayMissing());
+        return false;
+    }
+    return true;
+}
+
 bool RecordForm::save() {
-    if (!isValid()) return false;
+    if (!isValid() || !haveDays()) return false;
     return attempt([&] { return Shown_ ? update() : insert(); });
 }
 
@@ -225,12 +260,10 @@ bool RecordForm::saveAndStartNew() {
     return true;
 }
 
-/// A day and a time may be two fields of one column.
-void RecordForm::addValue(std::vector<Change>& values, const Binding& binding, const Cell& before) const {
-    if (Change* const other = changeOf(values, binding.column()))
-        other->value = binding.cell(columnOf(binding), other->value);
-    else
-        values.push_back({binding.column(), binding.cell(columnOf(binding), before)});
+/// Over what the other field of the column says, if there is one.
+Cell RecordForm::ownValue(std::vector<Change>& values, const Binding& binding, const Cell& before) const {
+    const Change* const other = changeOf(values, binding.column());
+    return binding.cell(columnOf(binding), other != nullptr ? other->value : before);
 }
 
 std::vector<Change> RecordForm::allValues() const {
@@ -239,9 +272,9 @@ std::vector<Change> RecordForm::allValues() const {
         const Column& column = columnOf(binding);
         if (binding.isGiven(column)) continue;
         if (!Copied_)
-            addValue(values, binding, Null{});
+            addValue(values, binding, ownValue(values, binding, Null{}));
         else if (binding.isChanged())
-            addValue(values, binding, Copied_->cells[binding.column()]);
+            addValue(values, binding, ownValue(values, binding, Copied_->cells[binding.column()]));
         else if (changeOf(values, binding.column()) == nullptr)
             values.push_back({binding.column(), Copied_->cells[binding.column()]});
     }
@@ -255,7 +288,9 @@ std::vector<Change> RecordForm::changes() const {
     std::vector<Change> values;
     for (const Binding& binding : Bindings_)
         if (binding.isChanged() || Kept_.contains(binding.column()))
-            addValue(values, binding, Shown_->cells[binding.column()]);
+            addValue(values, binding, ownValue(values, binding, Shown_->cells[binding.column()]));
+    for (Change& change : values)
+        if (lacksDay(table().columns[change.column], change.value)) change.value = Null{};
     std::erase_if(values, [&](const Change& change) { return change.value == Shown_->cells[change.column]; });
     return values;
 }

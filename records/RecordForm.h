@@ -106,14 +106,18 @@ private:
     /// nullptr: none shows it.
     const Binding* fieldOf(const std::u16string& columnName) const;
     bool isValid();
+    /// Whether no time of day stands there without the day that makes a moment of it.
+    bool haveDays();
+    bool hasDay(const Binding& time) const;
+    /// The field of the same column; nullptr where the form has none.
+    const Binding* dayBeside(const Binding& time) const;
     bool insert();
     bool update();
     /// Somebody else was first. False when the person goes back to the record.
     bool settle();
     std::vector<Change> changes() const;
     std::vector<Change> allValues() const;
-    /// Adds what the field holds to `values`, on top of what another field says of the same column.
-    void addValue(std::vector<Change>& values, const Binding& binding, const Cell& before) const;
+    Cell ownValue(std::vector<Change>& values, const Binding& binding, const Cell& before) const;
     void stored(Record record);
     Places& places() const { return Overview_->places(Order_); }
     const Column& columnOf(const Binding& binding) const { return table().columns[binding.column()]; }

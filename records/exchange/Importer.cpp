@@ -169,9 +169,7 @@ Cell Importer::readAnew(Field& field, std::string_view value, std::string& reaso
     }
     reason = whyNotValid(field);
     if (text->empty() && !column.notNull) return Null{};
-    // A moment has more to it than one field shows: day and time stand in two.
-    const Change* const shared = changeOf(Values_, field.binding.column());
-    return field.binding.cell(column, shared != nullptr ? shared->value : Cell(*text));
+    return field.binding.cell(column, Cell(*text));
 }
 
 const Cell* Importer::read(Field& field, std::string_view value, std::string& reason) {
@@ -193,13 +191,24 @@ bool Importer::take(const CsvReader& line, std::string& reason) {
     for (Field& field : Fields_) {
         const Cell* const cell = field.place ? read(field, line.value(*field.place), reason) : &field.last.cell;
         if (cell == nullptr) return false;
-        if (isLeftToDatabase(columnOf(field), *cell)) continue;
-        if (Change* const before = changeOf(Values_, field.binding.column()))
-            before->value = *cell;
-        else
-            Values_.push_back({field.binding.column(), *cell});
+        // Of a moment the list may give the day alone, or both in one.
+        if (isNull(*cell) && changeOf(Values_, field.binding.column()) != nullptr) continue;
+        if (!isLeftToDatabase(columnOf(field), *cell)) addValue(Values_, field.binding, *cell);
     }
-    return true;
+    reason = whyNoMoment();
+    return reason.empty();
+}
+
+std::string Importer::whyNoMoment() const {
+    for (const Change& change : Values_) {
+        if (!lacksDay(Records_.table().columns[change.column], change.value)) continue;
+        const auto isOf = [&](const Field& field) { return field.binding.column() == change.column; };
+        const auto day = std::find_if(Fields_.begin(), Fields_.end(),
+                                      [&](const Field& field) { return isOf(field) && field.binding.showsDay(); });
+        const auto field = day != Fields_.end() ? day : std::find_if(Fields_.begin(), Fields_.end(), isOf);
+        return toUtf8(field->binding.dayMissing());
+    }
+    return {};
 }
 
 /// Leaves a reason where the database does not take this one.

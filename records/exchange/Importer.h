@@ -57,6 +57,8 @@ private:
     const Cell* read(Field& field, std::string_view value, std::string& reason);
     Cell readAnew(Field& field, std::string_view value, std::string& reason);
     std::string whyNotValid(Field& field);
+    /// Empty when no time of day among the values lacks its day.
+    std::string whyNoMoment() const;
     const Column& columnOf(const Field& field) const;
     void store(std::string& reason);
     std::string takeRecord(const CsvReader& line, std::size_t columns);

@@ -225,6 +225,65 @@ TEST_F(OnDatabase, ForeignColumnsAreLeftAlone) {
     EXPECT_EQ(person.heard, "");
 }
 
+/// What one of the two fields of a moment says goes together with the other one's, and with what neither shows.
+TEST_F(OnDatabase, DayAndTimeOfAMomentGoTogether) {
+    execute(isServer() ? "CREATE TABLE member (id INTEGER PRIMARY KEY, at TIMESTAMP WITH TIME ZONE)"
+                       : "CREATE TABLE member (id INTEGER PRIMARY KEY, at TIMESTAMP)");
+    const char* const zone = "&options=-c%20TimeZone%3DEurope/Berlin";
+    const auto store = qt::openStore(databaseAddress() + (isServer() ? zone : ""), {});
+    const char* const stored =
+        isServer() ? "SELECT coalesce(CAST(at AT TIME ZONE 'Europe/Berlin' AS TEXT), 'none') FROM member"
+                   : "SELECT coalesce(at, 'none') FROM member";
+    const std::string at = "      DataField = \"at\"\r\n      Value = \"\"\r\n";
+    const std::array<std::string, 3> day{"datDay", "KelDate", at};
+    const std::array<std::string, 3> time{"timMeets", "KelTime", at};
+    const std::optional<Variant> kept;
+    const Variant none = Null{};
+    const Variant january = Date{41289};
+    const Variant eleven = Date{11.0 / 24};
+    const char* const missing = "datDay: please fill in the day.\n";
+    const std::string summer = "'2013-07-15 10:15:30.125+02'";
+    const struct {
+        std::string before;
+        std::optional<Variant> day;
+        std::optional<Variant> time;
+        const char* after;
+        const char* said = "";
+    } rows[] = {
+        {"NULL", kept, eleven, "none", missing},
+        {"NULL", january, eleven, "2013-01-15 11:00:00"},
+        {"NULL", january, kept, "2013-01-15 00:00:00"},
+        {summer, january, kept, "2013-01-15 10:15:30.125"},  // which is at the same time of day in winter
+        {summer, kept, eleven, "2013-07-15 11:00:00"},
+        {summer, kept, none, "2013-07-15 00:00:00"},
+        {summer, january, eleven, "2013-01-15 11:00:00"},
+        {summer, none, none, "none"},
+        {summer, none, eleven, nullptr, missing},
+        {summer, none, kept, nullptr, missing},
+        {"'2013-07-15 00:00:00+02'", none, kept, "none"},
+    };
+    for (const auto& form : {formOf({day, time}), formOf({time, day})}) {
+        for (const auto& row : rows) {
+            SCOPED_TRACE(row.before + " to " + (row.after == nullptr ? "the same" : row.after));
+            execute("DELETE FROM member");
+            execute(("INSERT INTO member VALUES (1, " + row.before + ")").c_str());
+            const std::string before = value(stored);
+            Person person(form, *store, u"member");
+            if (row.day) person.put(u"datDay", *row.day);
+            if (row.time) person.put(u"timMeets", *row.time);
+            EXPECT_EQ(person.records().save(), *row.said == '\0');
+            EXPECT_EQ(person.heard, row.said);
+            if (*row.said != '\0') EXPECT_EQ(person.focused(), u"datDay");
+            EXPECT_EQ(value(stored), row.after == nullptr ? before : row.after);
+        }
+    }
+    execute("DELETE FROM member");
+    Person person(formOf({time}), *store, u"member");
+    person.put(u"timMeets", eleven);
+    EXPECT_FALSE(person.records().save());
+    EXPECT_EQ(person.heard, "timMeets: a time needs a day, and no field of the form shows that.\n");
+}
+
 // ---- Lists of other tables
 
 const std::string ListForm =
@@ -472,6 +531,56 @@ TEST_F(OnDatabase, ListsLeaveWholeRecords) {
             EXPECT_NE(std::string(error.what()).find(row.rejects), std::string::npos) << error.what();
         }
         EXPECT_EQ(value("SELECT count(*) FROM member"), std::to_string(row.stored));
+    }
+}
+
+/// A day and a time of day in two fields are one column, of which a list may give both, either, or all in one.
+TEST_F(OnDatabase, ListsGiveMomentsThatTwoFieldsShow) {
+    const std::string at = "      DataField = \"at\"\r\n      Value = \"\"\r\n";
+    const std::array<std::string, 3> name{"txtName", "KelText", ""};
+    const std::array<std::string, 3> day{"datDay", "KelDate", at};
+    const std::array<std::string, 3> time{"timMeets", "KelTime", at};
+    const struct {
+        const char* list;
+        const char* stored;
+        const char* rejected = "";
+    } rows[] = {
+        {"name,datDay,timMeets\na,2013-03-01,10:15\nb,2013-03-02,10:15\nc,2013-03-03,10:15\nd,2013-03-01,9:30\n",
+         "2013-03-01 10:15:00,2013-03-02 10:15:00,2013-03-03 10:15:00,2013-03-01 09:30:00"},
+        {"name,datDay,timMeets\na,2013-03-01,\nb,,\nc,2013-03-03,10:15\n",
+         "2013-03-01 00:00:00,none,2013-03-03 10:15:00"},
+        {"name,datDay\na,2013-03-01\n", "2013-03-01 00:00:00"},
+        {"name,at\na,2013-03-01 10:15:30.125\n", "2013-03-01 10:15:30.125"},
+        {"name,timMeets\na,2013-03-01 10:15\n", "2013-03-01 10:15:00"},
+        {"name,datDay,timMeets\na,,10:15\nb,2013-03-02,10:15\n", "2013-03-02 10:15:00",
+         "datDay: please fill in the day."},
+        {"name,timMeets\na,10:15\n", "no row", "datDay: please fill in the day."},
+    };
+    execute("CREATE TABLE member (name VARCHAR(9) PRIMARY KEY, at TIMESTAMP)");
+    const auto store = open();
+    const auto records = store->open(store->table(u"member").value());
+    const auto home = headless::makeHome({.region = &defaultRegion()});
+    for (const auto& form : {formOf({name, day, time}), formOf({name, time, day})}) {
+        for (const auto& row : rows) {
+            SCOPED_TRACE(row.list);
+            execute("DELETE FROM member");
+            Importer importer(*home, FormFile::parse(form, "member.frm"), *records, nullptr);
+            std::istringstream list(row.list);
+            std::string rejects;
+            importer.run(
+                list, {}, false, [&](std::string_view line) { rejects += line; }, [](std::int64_t) { return true; });
+            EXPECT_EQ(rejects.empty(), *row.rejected == '\0') << rejects;
+            EXPECT_NE(rejects.find(row.rejected), std::string::npos) << rejects;
+            std::string stored;
+            for (const char each : {'a', 'b', 'c', 'd'}) {
+                const std::string found =
+                    value(("SELECT coalesce(CAST(at AS TEXT), 'none') FROM member WHERE name = '" +
+                           std::string(1, each) + "'")
+                              .c_str());
+                if (found != "no row") stored += (stored.empty() ? "" : ",") + found;
+            }
+            EXPECT_EQ(stored.empty() ? "no row" : stored, row.stored);
+        }
     }
 }
 
