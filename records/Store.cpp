@@ -15,7 +15,9 @@ Change* changeOf(std::vector<Change>& values, std::size_t column) {
 }
 
 bool isLeftToDatabase(const Column& column, const Cell& value) {
-    return column.generated || (column.hasDefault && isNull(value));
+    const auto* const text = std::get_if<std::u16string>(&value);
+    const bool isNothing = isNull(value) || (text != nullptr && text->empty() && column.initial.empty());
+    return column.generated || (column.hasDefault && isNothing);
 }
 
 Cells keyOf(const Table& table, const Record& record) {

@@ -41,7 +41,8 @@ struct Column {
     bool hasDefault = false;    ///< a new record may leave it out
     bool unique = false;        ///< no two records have the same value
     std::optional<Reference> reference{};
-    /// What a new record gets that leaves it out, where that is a plain value: "open", "1", "2013-03-15", or "Now".
+    /// What a new record gets that leaves it out, where that is a plain value: "open", "1", "2013-03-15", or "Now" for
+    /// a day.
     std::u16string initial{};
 };
 

@@ -117,6 +117,14 @@ bool FieldPlanner::isGiven(std::size_t column) const {
     return at(column).generated || (Table_.isKey(column) && at(column).hasDefault);
 }
 
+/// What takes the database to work it out, the field leaves to it.
+bool FieldPlanner::showsDefault(std::size_t column, std::u16string_view className) const {
+    const std::u16string& initial = at(column).initial;
+    if (className == u"KelDate") return initial == u"Now" || readIsoDay(initial);
+    if (className == u"KelTime") return readIsoTime(initial).has_value();
+    return className != u"KelCombo" && !initial.empty();
+}
+
 FieldPlan FieldPlanner::plan(std::size_t column, std::u16string_view className, const Words& words) {
     static constexpr std::pair<std::u16string_view, std::u16string_view> Prefixes[] = {
         {u"KelText", u"txt"}, {u"KelNumber", u"num"}, {u"KelDate", u"dat"},
@@ -133,7 +141,8 @@ FieldPlan FieldPlanner::plan(std::size_t column, std::u16string_view className, 
         plan.dataField = at(column).name + u":tag";
     else if (sourceOf({}, plan.name).in(Table_) != column)
         plan.dataField = at(column).name;
-    const bool needsValue = at(column).notNull || Table_.isKey(column);
+    const bool isLeft = at(column).hasDefault && !showsDefault(column, className);
+    const bool needsValue = (at(column).notNull || Table_.isKey(column)) && !isLeft;
     // A mandatory number is one other than zero, and a check field always says something.
     const bool hasAlways = className == u"KelCheck" || (className == u"KelNumber" && at(column).hasDefault);
     plan.properties = {{u"Mandatory", needsValue && !hasAlways && !isGiven(column)}};

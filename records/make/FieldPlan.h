@@ -41,6 +41,7 @@ private:
     FieldPlan list(std::size_t column, const Table& others);
     std::u16string freeName(std::u16string_view prefix, const std::vector<std::u16string>& words);
     bool isGiven(std::size_t column) const;
+    bool showsDefault(std::size_t column, std::u16string_view className) const;
     bool isLongText(std::size_t column) const;
     std::int32_t decimalsSeen(std::size_t column) const;
 

@@ -450,6 +450,46 @@ txtSeen Caption="Seen" Mandatory=0 MultiLine=-1
     EXPECT_EQ(person.records().table().name, u"odd");
 }
 
+/// A default is shown where the field shows it as the database would give it; what else it gives is not asked for.
+TEST_F(OnDatabase, DefaultsAreShownOrLeftToTheDatabase) {
+    const struct {
+        const char* type;
+        const char* inFile;  ///< nullptr: a file has no such thing
+        const char* onServer;
+        const char* fields;
+    } rows[] = {
+        {"TEXT", "CURRENT_TIMESTAMP", "CURRENT_TIMESTAMP", "txtX Caption=\"&X\" Mandatory=0"},
+        {"TEXT", nullptr, "CURRENT_USER", "txtX Caption=\"&X\" Mandatory=0"},
+        {"TEXT", "'CURRENT_STATE'", "'CURRENT_STATE'", "txtX Caption=\"&X\" Mandatory=-1 Text=\"CURRENT_STATE\""},
+        {"DATE", "CURRENT_DATE", "CURRENT_DATE",
+         "datX Caption=\"&X\" Format=\"dd/mm/yyyy\" Mandatory=-1 Value=\"Now\""},
+        {"DATE", "(date('now', 'localtime'))", "now()",
+         "datX Caption=\"&X\" Format=\"dd/mm/yyyy\" Mandatory=-1 Value=\"Now\""},
+        {"DATE", "(date('now', '+14 days'))", "CURRENT_DATE + 14",
+         "datX Caption=\"&X\" Format=\"dd/mm/yyyy\" Mandatory=0 Value=\"\""},
+        {"TIME", "CURRENT_TIME", "LOCALTIME", "timX Caption=\"&X\" Format=\"hh:nn\" Mandatory=0 Value=\"\""},
+        {"TIMESTAMP", "CURRENT_TIMESTAMP", "now()",
+         "datX Caption=\"&X\" Format=\"dd/mm/yyyy\" Mandatory=0 Value=\"\"\ntimX Caption=\"&Time\" Format=\"hh:nn\" "
+         "Mandatory=0 Value=\"\""},
+    };
+    for (const auto& row : rows) {
+        const char* const expression = isServer() ? row.onServer : row.inFile;
+        if (expression == nullptr) continue;
+        SCOPED_TRACE(std::string(row.type) + " " + expression);
+        execute("DROP TABLE IF EXISTS odd");
+        execute((std::string("CREATE TABLE odd (id INTEGER DEFAULT 7 PRIMARY KEY, x ") + row.type + " DEFAULT " +
+                 expression + " NOT NULL)")
+                    .c_str());
+        const auto store = open();
+        const MadeForm made = formFor(*store, store->table(u"odd").value(), *findRegion(u"en-GB"), "odd.frm");
+        const std::string fields = fieldsOf(made.file);
+        EXPECT_EQ(fields.substr(fields.find('\n') + 1), std::string(row.fields) + "\n");
+        Person person(made.file.output("odd.frm").form, *store, u"");
+        EXPECT_TRUE(person.records().save()) << person.heard;
+        EXPECT_EQ(value("SELECT count(*) FROM odd WHERE length(CAST(x AS TEXT)) > 0"), "1");
+    }
+}
+
 // ---- What a database refuses
 
 TEST_F(OnDatabase, ComplaintsNameTheField) {

@@ -23,18 +23,28 @@ Column* columnNamed(Table& table, const std::u16string& name) {
     return found == table.columns.end() ? nullptr : &*found;
 }
 
-/// "'open'::text" is open, "CURRENT_DATE" is Now; what takes more to work out is nothing.
-std::u16string initialOf(const QString& expression) {
+/// "'open'::text" is open; of a day "CURRENT_DATE" is Now; what takes more to work out is nothing.
+std::u16string initialOf(const Column& column, const QString& expression) {
     static const QRegularExpression Quoted(QStringLiteral(R"(^'((?:[^']|'')*)'(::[\w\s\(\),"]+)?$)"));
     static const QRegularExpression Plain(QStringLiteral(R"(^\(?(-?[\d.]+|true|false)\)?(::[\w\s\(\),]+)?$)"),
                                           QRegularExpression::CaseInsensitiveOption);
-    static const QRegularExpression Moment(QStringLiteral(R"(CURRENT_|LOCALTIME|^\(?now\(\)|'now')"),
-                                           QRegularExpression::CaseInsensitiveOption);
-    if (expression.contains(Moment)) return u"Now";
+    static const QRegularExpression Today(
+        QStringLiteral(
+            R"(^\(*(current_date|current_timestamp|localtimestamp|now\(\)|date\(('now'(, *'localtime')?)?\)|)"
+            R"('now'::text)\)*(::[\w\s\(\),]+)?\)*$)"),
+        QRegularExpression::CaseInsensitiveOption);
     const QString text = expression.trimmed();
     if (const auto quoted = Quoted.match(text); quoted.hasMatch())
         return quoted.captured(1).replace(QLatin1String("''"), QLatin1String("'")).toStdU16String();
+    if (column.type == ColumnType::Date && Today.match(text).hasMatch()) return u"Now";
     return Plain.match(text).captured(1).toStdU16String();
+}
+
+/// To be given nothing is to be given none.
+bool isDefault(const QString& expression) {
+    static const QRegularExpression Nothing(QStringLiteral(R"(^\s*NULL\s*(::.+)?$)"),
+                                            QRegularExpression::CaseInsensitiveOption);
+    return !expression.isEmpty() && !Nothing.match(expression).hasMatch();
 }
 
 }  // namespace
@@ -119,8 +129,8 @@ void SqlSchema::readSqlite(Table& table) {
         column.name = textAt(columns, 0);
         setDeclaredType(column, columns.value(1).toString());
         column.notNull = columns.value(2).toBool();
-        column.hasDefault = !columns.value(3).isNull();
-        column.initial = initialOf(columns.value(3).toString());
+        column.hasDefault = isDefault(columns.value(3).toString());
+        column.initial = initialOf(column, columns.value(3).toString());
         column.generated = columns.value(5).toInt() > 1;
         if (const int place = columns.value(4).toInt(); place > 0) {
             key.emplace_back(place, table.columns.size());
@@ -185,7 +195,7 @@ void SqlSchema::readPostgres(Table& table) {
         column.notNull = columns.value(2).toBool();
         column.hasDefault = columns.value(3).toBool();
         column.generated = columns.value(4).toBool();
-        column.initial = initialOf(columns.value(5).toString());
+        column.initial = initialOf(column, columns.value(5).toString());
         table.columns.push_back(std::move(column));
     }
     columns.finish();
