@@ -52,6 +52,7 @@ public:
         setLayoutDirection(FormWindow_.widget().layoutDirection());
         Area_ = new FormArea(this);
         Area_->setWidget(&FormWindow_.widget());
+        Lent_.reset(Area_);
         setCentralWidget(Area_);
         makeCommands(form.file());
         makeStatusBar();
@@ -69,11 +70,8 @@ public:
         setUpdatesEnabled(true);
     }
 
-    /// The form's window is the form's again, and the list goes before the records that it shows.
-    ~Implementation() override {
-        delete List_;
-        Area_->takeWidget()->setParent(nullptr);
-    }
+    /// The list goes before the records that it shows.
+    ~Implementation() override { delete List_; }
 
     void run(Command command) {
         if (IsSeeking_) {
@@ -122,6 +120,11 @@ protected:
     }
 
 private:
+    /// The form's window is the form's again, also where the records do not fit it.
+    struct GiveBack {
+        void operator()(FormArea* area) const { area->takeWidget()->setParent(nullptr); }
+    };
+
     // ---- Parts of the window
 
     void makeCommands(const FormFile& form) {
@@ -376,6 +379,7 @@ private:
     QTimer* Idle_ = nullptr;     ///< while something is still to be found out
     QAction* Escape_ = nullptr;  ///< ends a search
     bool IsSeeking_ = false;
+    std::unique_ptr<FormArea, GiveBack> Lent_;
 };
 
 RecordWindow::RecordWindow(Form& form, Home& home, Home& unseen, records::Store& store, const records::Table& table)
