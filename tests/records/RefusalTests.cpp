@@ -4,6 +4,7 @@
 #include <csignal>
 #include <fstream>
 #include <functional>
+#include <QSqlError>
 #include <thread>
 
 #include "tests/records/OnDatabase.h"
@@ -68,6 +69,35 @@ TEST_F(OnDatabase, SaysWhyItIsNotOpened) {
         }
     }
     fs::remove(there);
+}
+
+/// Servers and their library speak the language of the machine; only what a server answers has a state.
+TEST(PostgresErrors, AreToldByTheirStatesInAnyLanguage) {
+    const auto dialect = qt::makePostgresDialect();
+    const struct {
+        const char* text;
+        const char* state;
+        QSqlError::ErrorType type;
+        StoreError::Kind kind;
+    } rows[] = {
+        {"server closed the connection unexpectedly\n", "", QSqlError::StatementError, StoreError::Kind::Lost},
+        {"Verbindung zum Server wurde unerwartet geschlossen\n", "", QSqlError::StatementError, StoreError::Kind::Lost},
+        {"keine Verbindung mit dem Server\n", "", QSqlError::StatementError, StoreError::Kind::Lost},
+        {"", "", QSqlError::StatementError, StoreError::Kind::Wrong},  // what Qt itself finds wrong
+        {"FATAL:  Verbindung wird abgebrochen\n(57P01)", "57P01", QSqlError::StatementError, StoreError::Kind::Lost},
+        {"FEHLER:  Syntaxfehler\n(42601)", "42601", QSqlError::StatementError, StoreError::Kind::Wrong},
+        {"connection failed: FATAL:  role \"x\" does not exist\n", "", QSqlError::ConnectionError,
+         StoreError::Kind::Wrong},
+        {"connection failed: FATAL:  database system is starting up\n", "", QSqlError::ConnectionError,
+         StoreError::Kind::Lost},
+        {"Verbindung fehlgeschlagen: FATAL:  das Datenbanksystem startet\n", "", QSqlError::ConnectionError,
+         StoreError::Kind::Lost},
+    };
+    for (const auto& row : rows) {
+        const QSqlError error(QStringLiteral("QPSQL"), QString::fromUtf8(row.text), row.type,
+                              QString::fromLatin1(row.state));
+        EXPECT_EQ(dialect->errorOf(error).kind(), row.kind) << row.text;
+    }
 }
 
 /// A server that is not there is waited for; one that says no is not.

@@ -128,11 +128,12 @@ public:
         if (state.startsWith(QLatin1String("53")))
             return {Kind::Full,
                     "The server has no room left. Please make room and save again; what is on the screen stays."};
-        if (error.type() == QSqlError::ConnectionError && isRefusal(text))
+        if (isRefusal(text) && error.type() == QSqlError::ConnectionError)
             return {Kind::Wrong, "The server refuses the connection: " + words.toStdString()};
-        if (state.startsWith(QLatin1String("08")) || state.startsWith(QLatin1String("57P")) ||
-            error.type() == QSqlError::ConnectionError || text.contains(QLatin1String("server closed")) ||
-            text.contains(QLatin1String("no connection")))
+        // What a server answers has a state. What has none says its library, in the language of this machine.
+        const bool isUnanswered = state.isEmpty() && !text.isEmpty();
+        if (state.startsWith(QLatin1String("08")) || state.startsWith(QLatin1String("57P")) || isUnanswered ||
+            error.type() == QSqlError::ConnectionError)
             return {Kind::Lost,
                     "No connection to the server. Please try again in a moment; what is on the screen stays. " +
                         text.section(QLatin1Char('\n'), 0, 0).toStdString()};
@@ -140,10 +141,14 @@ public:
     }
 
 private:
-    /// Of a name, a password or a database; a server that has just begun or is full takes the next one.
+    /// Of a name, a password or a database. A server that has just begun or is full takes the next one, and so may one
+    /// that says why in another language: no state is told of this. It is tried a few times more, then its words are
+    /// said.
     static bool isRefusal(const QString& text) {
-        static const QRegularExpression ForNow(QStringLiteral("starting up|shutting down|recovery|too many|slots"));
-        return text.contains(QLatin1String("FATAL:")) && !ForNow.match(text).hasMatch();
+        static const QRegularExpression ForGood(
+            QStringLiteral("FATAL:  .*(does not exist|authentication failed|pg_hba\\.conf|permission denied|not "
+                           "permitted|not currently accepting connections)"));
+        return ForGood.match(text).hasMatch();
     }
 
     static StoreError constraintError(const QString& state, const QString& text) {
