@@ -143,11 +143,11 @@ std::optional<std::size_t> Lookup::find(const std::u16string& key) const {
 }
 
 const std::optional<std::u16string>& Lookup::other(const std::u16string& key) const {
-    const auto [text, isNew] = Others_.try_emplace(key);
-    const std::optional<Cell> cell = isNew ? keyCell(Records_->table().columns[KeyPlace], key) : std::nullopt;
-    if (!cell) return text->second;
-    if (const std::optional<Record> row = Records_->read({*cell})) text->second = lineOf(row->cells[TextPlace]);
-    return text->second;
+    if (const auto known = Others_.find(key); known != Others_.end()) return known->second;
+    const std::optional<Cell> cell = keyCell(Records_->table().columns[KeyPlace], key);
+    // Only what could be read is known from now on.
+    const std::optional<Record> row = cell ? Records_->read({*cell}) : std::nullopt;
+    return Others_.emplace(key, row ? std::optional(lineOf(row->cells[TextPlace])) : std::nullopt).first->second;
 }
 
 std::u16string Lookup::textOf(const std::u16string& key) const {

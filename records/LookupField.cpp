@@ -51,12 +51,12 @@ void LookupField::refresh() {
     const std::u16string shown = key();
     try {
         if (!Lookup_.refresh(shown)) return;
+        fill();
+        show(shown);
+        put(Combo_.control(), u"TextSaved", Lookup_.textOf(StoredKey_), Region_);
     } catch (const StoreError&) {
-        return;  // the list stays as it is; what is wrong is said where the person saves
+        // The list stays as it is; what is wrong is said where the person saves.
     }
-    fill();
-    show(shown);
-    put(Combo_.control(), u"TextSaved", Lookup_.textOf(StoredKey_), Region_);
 }
 
 /// What the field falls back to stays what it was.

@@ -134,8 +134,21 @@ public:
     virtual void commit() = 0;
     virtual void rollBack() = 0;
 
-    /// Whether another program is waited for. What can as well be done later need not wait.
-    virtual void setPatient(bool patient) = 0;
+    /// Whether another program is waited for. What can as well be done later need not wait. Returns whether it was.
+    virtual bool setPatient(bool patient) = 0;
+};
+
+/// For as long as it is there another program is not waited for.
+class Impatience {
+public:
+    explicit Impatience(RecordStore& records) : Records_(records), Before_(records.setPatient(false)) {}
+    ~Impatience() { Records_.setPatient(Before_); }
+    Impatience(const Impatience&) = delete;
+    Impatience& operator=(const Impatience&) = delete;
+
+private:
+    RecordStore& Records_;
+    bool Before_;
 };
 
 /// A database.

@@ -1,4 +1,13 @@
+#include <chrono>
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QMessageBox>
+#include <QTimer>
+
 #include "platform/qt/home/QtHome.h"
+#include "platform/qt/records/RecordList.h"
 #include "platform/qt/records/RecordWindow.h"
 #include "tests/records/OnDatabase.h"
 
@@ -15,6 +24,13 @@ protected:
         Window_.emplace(*Form_, *Home_, *Unseen_, *Store_, Store_->table(u"member").value());
     }
 
+    void give(const QKeySequence& key) {
+        for (QWidget* const window : QApplication::topLevelWidgets())
+            for (QAction* const action : window->findChildren<QAction*>())
+                if (action->shortcut() == key) return action->trigger();
+        ADD_FAILURE() << "no command has the key " << key.toString().toStdString();
+    }
+
     SilentObserver Observer_;
     std::unique_ptr<Home> Home_;
     std::unique_ptr<Home> Unseen_;
@@ -26,6 +42,54 @@ protected:
 TEST_F(WindowTest, FormThatDoesNotFitIsRefused) {
     execute("CREATE TABLE member (id INTEGER PRIMARY KEY, name DATE)");
     EXPECT_THROW(openWindow(formOf({{"txtName", "KelText", ""}})), StoreError);
+}
+
+/// Another program holds the file for longer than anybody waits.
+TEST_F(WindowTest, FileThatIsHeldEndsNoCommandButWithWords) {
+    execute("CREATE TABLE member (id INTEGER PRIMARY KEY, name TEXT, fee DOUBLE PRECISION, joined DATE)");
+    execute("INSERT INTO member VALUES (1, 'Anna', 0, NULL), (2, 'Berta', 0, NULL)");
+    openWindow(MemberForm);
+    // Where the record stands is found out while nobody waits.
+    for (QElapsedTimer since; since.isValid() ? since.elapsed() < 300 : (since.start(), true);)
+        QCoreApplication::processEvents();
+    execute("BEGIN EXCLUSIVE");
+    std::string said;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr) return;
+        if (auto* const box = qobject_cast<QMessageBox*>(dialog)) {
+            said = box->text().toStdString();
+            execute("ROLLBACK");
+        }
+        dialog->accept();
+    });
+    look.start(20);
+    EXPECT_NO_THROW(give(QKeySequence(Qt::CTRL | Qt::Key_G)));
+    EXPECT_NE(said.find("Another program holds the database."), std::string::npos) << said;
+}
+
+/// The list is painted with what can be read at once, and is right when the file is free again.
+TEST_F(WindowTest, ListDoesNotWaitWhileItIsPainted) {
+    execute("CREATE TABLE parent (id INTEGER PRIMARY KEY, name VARCHAR(20) NOT NULL)");
+    execute("CREATE TABLE member (id INTEGER PRIMARY KEY, name TEXT, p INTEGER REFERENCES parent (id))");
+    execute("INSERT INTO parent VALUES (1, 'Smith')");
+    execute("INSERT INTO member VALUES (1, 'Anna', 1), (2, 'Berta', NULL)");
+    Person person(formOf({{"txtName", "KelText", ""}, {"cboP", "KelCombo", "      DataField = \"p:tag\"\r\n"}}),
+                  *Store_, u"member");
+    execute("INSERT INTO parent VALUES (2, 'Jones')");
+    execute("UPDATE member SET p = 2 WHERE id = 2");
+    static_cast<void>(person.records().count());
+    qt::RecordList list(person.records());
+    list.refresh();
+    list.look(0, 2);
+    EXPECT_EQ(list.index(1, 0).data().toString(), QStringLiteral("Berta"));
+    execute("BEGIN EXCLUSIVE");
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_NO_THROW(EXPECT_FALSE(list.index(1, 1).data().isValid()));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+    execute("ROLLBACK");
+    EXPECT_EQ(list.index(1, 1).data().toString(), QStringLiteral("Jones (2)"));
 }
 
 }  // namespace

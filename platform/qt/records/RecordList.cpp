@@ -22,13 +22,9 @@ const records::Record* RecordList::recordAt(int row) const {
     auto found = Pages_.find(page);
     if (found == Pages_.end()) {
         if (Pages_.size() >= MostPages) Pages_.clear();
-        try {
-            std::vector<records::Record> rows = Form_.overview().places(Order_).rows(page * PageSize, PageSize);
-            if (rows.empty()) return nullptr;  // known in a moment
-            found = Pages_.emplace(page, std::move(rows)).first;
-        } catch (const records::StoreError&) {
-            return nullptr;  // what is wrong is said where the person does something
-        }
+        std::vector<records::Record> rows = Form_.overview().places(Order_).rows(page * PageSize, PageSize);
+        if (rows.empty()) return nullptr;  // known in a moment
+        found = Pages_.emplace(page, std::move(rows)).first;
     }
     const auto place = static_cast<std::size_t>((Top_ + row) % PageSize);
     return place < found->second.size() ? &found->second[place] : nullptr;
@@ -39,8 +35,14 @@ QVariant RecordList::data(const QModelIndex& index, int role) const {
     if (role == Qt::TextAlignmentRole)
         return static_cast<int>((binding.showsNumber() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     if (role != Qt::DisplayRole) return {};
-    const records::Record* const record = recordAt(index.row());
-    return record == nullptr ? QVariant() : toQString(binding.shownTextOf(record->cells[binding.column()]));
+    // Nobody waits for a list that is painted; what is wrong is said where the person does something.
+    const records::Impatience impatience(Form_.store());
+    try {
+        const records::Record* const record = recordAt(index.row());
+        return record == nullptr ? QVariant() : toQString(binding.shownTextOf(record->cells[binding.column()]));
+    } catch (const records::StoreError&) {
+        return {};
+    }
 }
 
 QVariant RecordList::headerData(int section, Qt::Orientation orientation, int role) const {

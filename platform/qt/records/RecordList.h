@@ -28,7 +28,7 @@ public:
     /// Of all records; 0 until that is known.
     std::int64_t count() const { return Count_; }
     std::int64_t top() const { return Top_; }
-    /// By a row of those that are looked at.
+    /// By a row of those that are looked at; nullptr where it is not known yet. Throws StoreError.
     const records::Record* recordAt(int row) const;
     const records::Order& order() const { return Order_; }
 

@@ -38,7 +38,11 @@ void RecordListDock::measure() {
 }
 
 void RecordListDock::choose(const QModelIndex& index) {
-    if (const records::Record* const record = List_.recordAt(index.row())) emit chosen(records::Record(*record));
+    try {
+        if (const records::Record* const record = List_.recordAt(index.row())) emit chosen(records::Record(*record));
+    } catch (const records::StoreError& error) {
+        Questions_.say(error.words());
+    }
 }
 
 /// A table of many records is sorted by an index. In one that others have made it is not made without asking.

@@ -79,6 +79,11 @@ public:
             return;
         }
         statusBar()->clearMessage();
+        attempt([&] { carryOut(command); });
+        refreshState();
+    }
+
+    void carryOut(Command command) {
         switch (command) {
             case Command::New: Form_->startNew(); break;
             case Command::Save: Form_->save(); break;
@@ -102,7 +107,16 @@ public:
             case Command::CarryOver: carryOver(); break;
             case Command::Keys: showKeys(*this); break;
         }
-        refreshState();
+    }
+
+    /// Runs `action`; what the database says against it is told to the person.
+    template <class Action>
+    void attempt(Action action) {
+        try {
+            action();
+        } catch (const records::StoreError& error) {
+            Dialogs_.say(error.words());
+        }
     }
 
     /// All that is found out while nobody waits is known when this returns.
@@ -202,7 +216,7 @@ private:
 
     void showRecord(const records::Record& record) {
         Form_->setOrder(List_->order());
-        Form_->toRecord(record);
+        attempt([&] { Form_->toRecord(record); });
         refreshState();
     }
 
@@ -244,7 +258,7 @@ private:
             breath.take();
             return IsSeeking_;
         };
-        try {
+        attempt([&] {
             static_cast<void>(Form_->overview().refresh());
             Form_->overview().wantTexts();
             const records::Finder finder(*Store_, viewOf(Sought_), Form_->order(), Form_->overview().texts(),
@@ -257,9 +271,7 @@ private:
                                      : hit         ? QStringLiteral("\"%1\" was found.").arg(Sought_)
                                      : !IsSeeking_ ? QStringLiteral("Not looked for any further.")
                                                    : QStringLiteral("\"%1\" is in no record.").arg(Sought_));
-        } catch (const records::StoreError& error) {
-            Dialogs_.say(error.words());
-        }
+        });
         IsSeeking_ = false;
         Escape_->setEnabled(false);
     }
@@ -326,15 +338,13 @@ private:
     template <class Action>
     bool beside(Action action) {
         if (!Form_ || IsSeeking_) return false;
-        Store_->setPatient(false);
-        bool isDone = true;
+        const records::Impatience impatience(*Store_);
         try {
             action();
         } catch (const records::StoreError&) {
-            isDone = false;  // it is tried again
+            return false;  // it is tried again
         }
-        Store_->setPatient(true);
-        return isDone;
+        return true;
     }
 
     void noticeOthers() {

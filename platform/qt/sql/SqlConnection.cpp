@@ -40,6 +40,17 @@ QString nextName() {
 
 }  // namespace
 
+class SqlConnection::Serving {
+public:
+    explicit Serving(SqlConnection& connection) : IsWaiting_(connection.IsWaiting_) { IsWaiting_ = true; }
+    ~Serving() { IsWaiting_ = false; }
+    Serving(const Serving&) = delete;
+    Serving& operator=(const Serving&) = delete;
+
+private:
+    bool& IsWaiting_;
+};
+
 SqlAddress addressOf(const std::string& database) {
     SqlAddress address;
     const QString text = QString::fromUtf8(database.c_str());
@@ -172,9 +183,10 @@ void SqlConnection::patiently(Action action) {
             if (error.kind() == Kind::Lost && Depth_ == 0) close();
             if (!isWorthAnotherTry(error) || std::chrono::steady_clock::now() > start + Patience) throw;
         }
-        IsWaiting_ = true;
-        if (Waiting_) Waiting_();
-        IsWaiting_ = false;
+        {
+            const Serving serving(*this);
+            if (Waiting_) Waiting_();
+        }
         const auto waited = std::chrono::steady_clock::now() - start;
         std::this_thread::sleep_for(std::clamp<std::chrono::nanoseconds>(waited / 8, ShortestPause, LongestPause));
     }
@@ -234,7 +246,7 @@ void SqlConnection::execute(const QString& statement) {
 void SqlConnection::beside(const std::function<void(SqlConnection&)>& work) {
     std::exception_ptr fault;
     std::atomic<bool> isDone = false;
-    std::thread worker([&] {
+    std::jthread worker([&] {
         try {
             SqlConnection own(Database_, {});
             work(own);
@@ -243,12 +255,13 @@ void SqlConnection::beside(const std::function<void(SqlConnection&)>& work) {
         }
         isDone = true;
     });
-    IsWaiting_ = true;
-    while (!isDone) {
-        if (Waiting_) Waiting_();
-        std::this_thread::sleep_for(Beside);
+    {
+        const Serving serving(*this);
+        while (!isDone) {
+            if (Waiting_) Waiting_();
+            std::this_thread::sleep_for(Beside);
+        }
     }
-    IsWaiting_ = false;
     worker.join();
     if (fault) std::rethrow_exception(fault);
 }

@@ -5,6 +5,7 @@
 #include <QHash>
 #include <QSqlDatabase>
 #include <QSqlQuery>
+#include <utility>
 
 #include "platform/qt/sql/Dialect.h"
 #include "platform/qt/sql/SqlStore.h"
@@ -64,10 +65,13 @@ public:
     void commit();
     void rollBack();
 
-    /// Whether it waits at all. What can as well be done later is not waited for.
-    void setPatient(bool patient) { IsPatient_ = patient; }
+    /// Whether it waits at all. What can as well be done later is not waited for. Returns whether it did.
+    bool setPatient(bool patient) { return std::exchange(IsPatient_, patient); }
 
 private:
+    /// The window is being served.
+    class Serving;
+
     void setUp();
     void open();
     void close();
@@ -87,7 +91,7 @@ private:
     QHash<QString, QSqlQuery*> Queries_;
     int Depth_ = 0;  ///< of transactions
     bool IsPatient_ = true;
-    bool IsWaiting_ = false;   ///< the window is being served
+    bool IsWaiting_ = false;
     bool IsRepeated_ = false;  ///< what is being run is tried again as a whole
 };
 

@@ -35,7 +35,7 @@ public:
     void begin() override { Connection_.begin(); }
     void commit() override { Connection_.commit(); }
     void rollBack() override { Connection_.rollBack(); }
-    void setPatient(bool patient) override { Connection_.setPatient(patient); }
+    bool setPatient(bool patient) override { return Connection_.setPatient(patient); }
 
 private:
     /// A condition and the values in it.
