@@ -92,7 +92,9 @@ ExitStatus playScript(const Options& options) {
 
 ExitStatus runForm(const Options& options) {
     if (options.on == "headless") throw UsageError("--on headless: nobody would see the form");
-    const auto session = openHome(options.on.empty() ? WindowHome : options.on, options, true);
+    const std::string home = options.on.empty() ? WindowHome : options.on;
+    if (!options.data.empty()) mustShowRecords(home);
+    const auto session = openHome(home, options, true);
     SilentObserver observer;
     Form form(session->home(), session->home().system(), observer, readFormFile(options.files[0]));
     if (!options.data.empty()) {
@@ -109,6 +111,7 @@ ExitStatus runForm(const Options& options) {
 }
 
 ExitStatus shootForm(const Options& options) {
+    if (!options.data.empty()) mustShowRecords(WindowHome);
     const auto session = openHome(WindowHome, options, false);
     SilentObserver observer;
     Form form(session->home(), session->home().system(), observer, readFormFile(options.files[0]));

@@ -64,6 +64,10 @@ bool askToAdd(const std::vector<records::Column>& columns) {
 
 RegionalSettings systemRegion() { return qt::regionFromLocale(QLocale::system()); }
 
+void mustShowRecords(const std::string& home) {
+    if (home != "qt") throw UsageError("--on " + home + ": records are shown by the home qt alone");
+}
+
 std::unique_ptr<RecordsWindow> openRecords(Form& form, Home& home, records::Store& store,
                                            const std::u16string& tableName) {
     const records::Table table = records::openTable(store, form, tableName, home.region(), &askToAdd);
@@ -74,9 +78,9 @@ std::unique_ptr<RecordsWindow> openRecords(Form& form, Home& home, records::Stor
 
 RegionalSettings systemRegion() { return defaultRegion(); }
 
-std::unique_ptr<RecordsWindow> openRecords(Form&, Home&, records::Store&, const std::u16string&) {
-    throw UsageError("--data: this program was built without databases");
-}
+void mustShowRecords(const std::string&) { throw UsageError("--data: this program was built without databases"); }
+
+std::unique_ptr<RecordsWindow> openRecords(Form&, Home&, records::Store&, const std::u16string&) { return {}; }
 
 struct Database::Driver {};
 

@@ -31,6 +31,9 @@ void mustBeThere(const std::string& address);
 /// How the person's system writes numbers and dates.
 RegionalSettings systemRegion();
 
+/// Throws UsageError where no window of this home shows records: before a database is made for one.
+void mustShowRecords(const std::string& home);
+
 /// A window around a form with its records, which shows itself.
 class RecordsWindow {
 public:
