@@ -199,6 +199,13 @@ std::u16string Binding::tag() const {
     return textIn(tag) != nullptr ? *textIn(tag) : std::u16string();
 }
 
+bool Binding::isWithoutTag() const {
+    if (!ByTag_ || Kind_ != Kind::Combo) return false;
+    static_cast<void>(get(u"Text"));  // settles what is half typed
+    const ComboBox& box = *Control_->control().widgets().comboBox;
+    return !box.text().empty() && box.items().findExact(box.text()) == ListItems::NotFound;
+}
+
 std::u16string Binding::textWithTag(const std::u16string& tag) const {
     if (Lookup_) return Lookup_->textOf(tag);
     const MemberRow& itemMember = *findMember(Control_->control().model(), u"ListItem");
@@ -365,7 +372,13 @@ std::optional<std::u16string> Binding::searchedTextOf(const Cell& cell) const {
 
 bool Binding::saysWhy() const { return !findMember(Control_->control().model(), u"Valid")->parameters().empty(); }
 
+std::u16string Binding::whyNotValid() const {
+    if (isWithoutTag()) return caption() + u' ' + notInList(look()) + u'.';
+    return caption() + u": please fill in this field.";
+}
+
 bool Binding::isValid(bool sayWhy) const {
+    if (isWithoutTag()) return false;
     const MemberRow& row = *findMember(Control_->control().model(), u"Valid");
     std::array<Variant, 1> say{sayWhy};
     Variant valid = true;

@@ -94,6 +94,8 @@ public:
     bool isLocked() const { return isTrue(u"Locked"); }
     /// Whether the control itself tells the person what is wrong.
     bool saysWhy() const;
+    /// In words, where the control has none of its own: "Fee: please fill in this field."
+    std::u16string whyNotValid() const;
     /// The caption as it is read: without the mark of its mnemonic. The name where there is none.
     std::u16string caption() const;
 
@@ -114,6 +116,9 @@ private:
     std::u16string textWithTag(const std::u16string& tag) const;
     /// Of the item that stands in the field.
     std::u16string tag() const;
+    /// A field that keeps tags has a text that stands for none.
+    bool isWithoutTag() const;
+    static std::u16string notInList(std::u16string_view text);
     std::optional<std::u16string> takeText(std::u16string_view text);
     std::optional<std::u16string> takeNumber(std::u16string_view text, const RegionalSettings& numbers);
     std::optional<std::u16string> takeMoment(std::u16string_view text);

@@ -55,6 +55,10 @@ std::optional<std::u16string> Binding::take(std::u16string_view text, const Regi
     }
 }
 
+std::u16string Binding::notInList(std::u16string_view text) {
+    return u"is " + quoted(text) + u", which is not in the list";
+}
+
 std::optional<std::u16string> Binding::takeText(std::u16string_view text) {
     if (Lookup_ && Lookup_->take(std::u16string(text))) return std::nullopt;
     const TextEntry& entry = *Control_->control().widgets().entry;
@@ -68,10 +72,8 @@ std::optional<std::u16string> Binding::takeText(std::u16string_view text) {
     if (ByTag_ && !Lookup_)
         if (std::u16string item = textWithTag(wanted); !item.empty()) wanted = std::move(item);
     put(valueMember().name, wanted);
-    const bool isTaken = compareFolded(entry.text(), wanted) == 0 && (!ByTag_ || wanted.empty() || !tag().empty());
-    if (isTaken) return std::nullopt;
-    return u"is " + quoted(text) +
-           (Kind_ == Kind::Combo ? u", which is not in the list" : u", which the field does not take");
+    if (compareFolded(entry.text(), wanted) == 0 && !isWithoutTag()) return std::nullopt;
+    return Kind_ == Kind::Combo ? notInList(text) : u"is " + quoted(text) + u", which the field does not take";
 }
 
 std::optional<std::u16string> Binding::takeNumber(std::u16string_view text, const RegionalSettings& numbers) {

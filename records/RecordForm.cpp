@@ -205,7 +205,7 @@ bool RecordForm::isValid() {
         Form_->window().focus(binding.control());
         // Where the control has no words of its own.
         if (!binding.saysWhy())
-            Questions_->say(binding.caption() + u": please fill in this field.");
+            Questions_->say(binding.whyNotValid());
         else
             binding.isValid(true);
         return false;

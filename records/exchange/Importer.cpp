@@ -153,7 +153,7 @@ std::string Importer::whyNotValid(Field& field) {
     System_->takeHeard();
     if (field.binding.saysWhy()) field.binding.isValid(true);
     const std::string heard = System_->takeHeard();
-    return field.caption() + ": " + (heard.empty() ? "please fill in this field." : heard);
+    return heard.empty() ? toUtf8(field.binding.whyNotValid()) : field.caption() + ": " + heard;
 }
 
 Cell Importer::readAnew(Field& field, std::string_view value, std::string& reason) {

@@ -207,6 +207,33 @@ TEST_F(OnDatabase, WhatAFieldCannotShowIsKept) {
     EXPECT_EQ(value("SELECT CAST(fee AS INTEGER) FROM member"), "1") << "a bound may be typed";
 }
 
+/// A field that keeps tags and takes any text may have one that stands for nothing.
+TEST_F(OnDatabase, TextWithoutATagIsNotKeptAsNothing) {
+    execute("CREATE TABLE member (id INTEGER PRIMARY KEY, town TEXT)");
+    execute("INSERT INTO member VALUES (1, 'N')");
+    const auto store = open();
+    const std::string list =
+        "      DataField = \"town:tag\"\r\n      LimitToList = 0\r\n      List = \"North,South,none\"\r\n"
+        "      ListTag = \"N,S,\"\r\n";
+    Person person(formOf({{"cboTown", "KelCombo", list}}), *store, u"member");
+    const struct {
+        const char16_t* put;
+        const char* said;
+        const char* stored;
+    } rows[] = {
+        {u"East", "cboTown is \"East\", which is not in the list.\n", "N"},
+        {u"South", "", "S"},
+        {u"none", "", "nothing"},
+    };
+    for (const auto& row : rows) {
+        person.heard.clear();
+        person.put(u"cboTown", std::u16string(row.put));
+        EXPECT_EQ(person.records().save(), *row.said == '\0');
+        EXPECT_EQ(person.heard, row.said);
+        EXPECT_EQ(value("SELECT coalesce(town, 'nothing') FROM member"), row.stored);
+    }
+}
+
 /// What a server says has more to it than a person wants to read; a list goes on behind a record that is refused.
 TEST_F(OnDatabase, RefusalsOfAServerAreWords) {
     if (!isServer()) GTEST_SKIP() << "files say less";
