@@ -127,6 +127,14 @@ TEST_F(Crowd, OverviewIsTrueWhateverIsChanged) {
     remove();
     insert();
     expectHits();
+    // What was counted in the midst of something that is undone.
+    Records_->begin();
+    for (int i = 0; i < 3; ++i) Records_->add(values());
+    Overview_->refresh();
+    expectPlaces();
+    Records_->rollBack();
+    EXPECT_TRUE(Overview_->refresh());
+    expectPlaces();
     // By another program, and by this one past the form.
     execute("DELETE FROM line WHERE a < 100");
     if (isServer()) return;  // a server counts the changes of all with some delay

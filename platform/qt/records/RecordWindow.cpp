@@ -92,8 +92,8 @@ public:
             case Command::Delete: refreshListIf(Form_->remove()); break;
             case Command::Undo: Form_->undo(); break;
             case Command::Refresh: readAgain(); break;
-            case Command::Import: refreshListIf(Lists_->importList()); break;
-            case Command::Export: Lists_->exportList(); break;
+            case Command::Import: workThrough([&] { refreshListIf(Lists_->importList()); }); break;
+            case Command::Export: workThrough([&] { Lists_->exportList(); }); break;
             case Command::Close: close(); break;
             case Command::First: Form_->toFirst(); break;
             case Command::Previous: Form_->toPrevious(); break;
@@ -107,6 +107,17 @@ public:
             case Command::CarryOver: carryOver(); break;
             case Command::Keys: showKeys(*this); break;
         }
+    }
+
+    /// Meanwhile nothing is found out beside: what is not all stored yet may be undone.
+    template <class Action>
+    void workThrough(Action action) {
+        struct Flag {
+            bool& isSet;
+            ~Flag() { isSet = false; }
+        } const flag{IsWorking_};
+        IsWorking_ = true;
+        action();
     }
 
     /// Runs `action`; what the database says against it is told to the person.
@@ -337,7 +348,7 @@ private:
     /// Runs `action` on the database if that is free, and says whether it was.
     template <class Action>
     bool beside(Action action) {
-        if (!Form_ || IsSeeking_) return false;
+        if (!Form_ || IsSeeking_ || IsWorking_) return false;
         const records::Impatience impatience(*Store_);
         try {
             action();
@@ -389,6 +400,7 @@ private:
     QTimer* Idle_ = nullptr;     ///< while something is still to be found out
     QAction* Escape_ = nullptr;  ///< ends a search
     bool IsSeeking_ = false;
+    bool IsWorking_ = false;  ///< at a list
     std::unique_ptr<FormArea, GiveBack> Lent_;
 };
 

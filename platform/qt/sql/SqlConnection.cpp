@@ -302,6 +302,7 @@ void SqlConnection::commit() {
 void SqlConnection::rollBack() {
     if (Depth_ == 0) return;
     Depth_ = 0;
+    ++RollBacks_;
     if (!database().isOpen()) return;
     QSqlQuery query(database());
     query.exec(QStringLiteral("ROLLBACK"));

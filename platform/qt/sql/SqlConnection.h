@@ -64,6 +64,8 @@ public:
     void begin();
     void commit();
     void rollBack();
+    /// How often that was done: what a database counts of its changes does not go back with them.
+    std::int64_t rollBacks() const { return RollBacks_; }
 
     /// Whether it waits at all. What can as well be done later is not waited for. Returns whether it did.
     bool setPatient(bool patient) { return std::exchange(IsPatient_, patient); }
@@ -90,6 +92,7 @@ private:
     QString Name_;  ///< of Qt's connection
     QHash<QString, QSqlQuery*> Queries_;
     int Depth_ = 0;  ///< of transactions
+    std::int64_t RollBacks_ = 0;
     bool IsPatient_ = true;
     bool IsWaiting_ = false;
     bool IsRepeated_ = false;  ///< what is being run is tried again as a whole

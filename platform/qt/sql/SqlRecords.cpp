@@ -230,6 +230,7 @@ records::Version SqlRecords::version() {
     if (query.next()) version = {query.value(0).toLongLong(), query.value(1).toLongLong()};
     query.finish();
     if (Connection_.isServer()) version.own = Changes_;
+    version.own += Connection_.rollBacks();
     return version;
 }
 
