@@ -9,6 +9,7 @@ namespace {
 
 constexpr std::int64_t FirstSpacing = 1000;
 constexpr std::size_t MostLandmarks = 4096;
+constexpr int MostInterrupted = 3;
 constexpr auto Slice = std::chrono::milliseconds(5);
 
 }  // namespace
@@ -33,8 +34,14 @@ bool Places::lookOn() {
             remember(place + Spacing_, std::move(*next));
         } else {
             const std::int64_t count = (last == nullptr ? 0 : place + 1) + Store_->countBetween(last, nullptr, Order_);
-            // Somebody may have come between.
-            if (!refresh()) Count_ = count;
+            // Somebody may have come between. Where others store all the time, what was true while it was counted is
+            // all that can be known.
+            if (Interrupted_ < MostInterrupted && refresh()) {
+                ++Interrupted_;
+            } else {
+                Count_ = count;
+                Interrupted_ = 0;
+            }
         }
         if (std::chrono::steady_clock::now() > end) break;
     }

@@ -57,6 +57,7 @@ private:
     std::vector<Landmark> Landmarks_;
     std::int64_t Spacing_ = 0;
     std::optional<std::int64_t> Count_;
+    int Interrupted_ = 0;  ///< how often somebody came between since all was known
 };
 
 }  // namespace kel::records
