@@ -136,10 +136,15 @@ ExitStatus exportList(const Options& options) {
     const std::vector<records::Binding> fields =
         records::bind(session.form, session.records->table(), session.home->region(), nullptr);
     records::Exporter exporter(fields, *session.records, {}, session.home->region());
-    TerminalProgress progress(*session.home);
     const std::string& name = options.files[1] == "-" ? "/dev/stdout" : options.files[1];
-    records::exportFile(exporter, session.records->count(), pathOf(name), options.list, std::ref(progress));
-    return Done;
+    const bool isWhole = [&] {
+        TerminalProgress progress(*session.home);
+        return records::exportFile(exporter, session.records->count(), pathOf(name), options.list, std::ref(progress))
+            .has_value();
+    }();
+    if (isWhole) return Done;
+    std::cerr << "Stopped. " << options.files[1] << " is not written.\n";
+    return Differed;
 }
 
 }  // namespace kel::app

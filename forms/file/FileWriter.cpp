@@ -89,12 +89,12 @@ fs::path replaceable(const fs::path& named) {
 /// A new file beside `target` that disappears again unless it takes the target's place.
 class PendingFile {
 public:
-    explicit PendingFile(const FileToWrite& file)
-        : Target_(replaceable(file.path)),
+    explicit PendingFile(const fs::path& path)
+        : Target_(replaceable(path)),
           Pending_(nameBeside(Target_)),
           File_(named(Target_, [this] { return OutputFile::makeAlone(Pending_); })) {
         try {
-            named(Target_, [&] { fill(file.bytes); });
+            named(Target_, [this] { takeAccess(); });
         } catch (...) {
             discard();
             throw;
@@ -111,6 +111,14 @@ public:
 
     const fs::path& target() const { return Target_; }
     fs::path folder() const { return Target_.has_parent_path() ? Target_.parent_path() : fs::path("."); }
+
+    void write(std::string_view bytes) const {
+        named(Target_, [&] { File_.write(bytes); });
+    }
+    /// Until it is on the disk.
+    void finish() const {
+        named(Target_, [this] { File_.sync(); });
+    }
 
     void takePlace() {
 #ifdef _WIN32
@@ -129,11 +137,9 @@ private:
         return target.parent_path() / name;
     }
 
-    void fill(std::string_view bytes) const {
+    void takeAccess() const {
         std::error_code fault;
         if (fs::exists(Target_, fault)) File_.takeAccessOf(Target_);
-        File_.write(bytes);
-        File_.sync();
     }
 
     void discard() {
@@ -166,8 +172,12 @@ void writeTogether(const std::vector<FileToWrite>& files) {
         const EndingHeld held;
         std::vector<PendingFile> pending;
         pending.reserve(files.size());
-        for (const FileToWrite& file : files)
-            if (!isStream(file.path)) pending.emplace_back(file);
+        for (const FileToWrite& file : files) {
+            if (isStream(file.path)) continue;
+            pending.emplace_back(file.path);
+            pending.back().write(file.bytes);
+            pending.back().finish();
+        }
         putInPlace(pending);
     }
     for (const FileToWrite& file : files)
@@ -175,6 +185,20 @@ void writeTogether(const std::vector<FileToWrite>& files) {
 }
 
 void writeFile(const fs::path& path, std::string bytes) { writeTogether({{path, std::move(bytes)}}); }
+
+bool writePieces(const fs::path& path, const std::function<bool(const Pieces& write)>& fill) {
+    if (isStream(path)) {
+        const OutputFile stream = named(path, [&] { return OutputFile::openStream(path); });
+        return fill([&](std::string_view bytes) { named(path, [&] { stream.write(bytes); }); });
+    }
+    std::vector<PendingFile> pending;
+    pending.emplace_back(path);
+    if (!fill([&](std::string_view bytes) { pending.back().write(bytes); })) return false;
+    const EndingHeld held;
+    pending.back().finish();
+    putInPlace(pending);
+    return true;
+}
 
 bool isStream(const fs::path& path) {
     std::error_code fault;

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// Writing files: each is there whole afterwards, or is as it was. Mistakes are thrown as FormError, naming the file.
@@ -19,6 +21,11 @@ struct FileToWrite {
 void writeTogether(const std::vector<FileToWrite>& files);
 
 void writeFile(const std::filesystem::path& path, std::string bytes);
+
+/// The same for one file that is too large to be held: `fill` hands its bytes over, piece by piece. Where it returns
+/// false or throws, the file stays as it was, but for a stream.
+using Pieces = std::function<void(std::string_view bytes)>;
+bool writePieces(const std::filesystem::path& path, const std::function<bool(const Pieces& write)>& fill);
 
 /// True where bytes are passed on and no file is kept, so that nothing can stand beside it: a device, a pipe, the
 /// standard output.

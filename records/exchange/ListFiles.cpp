@@ -6,7 +6,6 @@
 #include "forms/file/FileWriter.h"
 #include "forms/file/FormError.h"
 #include "forms/file/FormStore.h"
-#include "forms/file/OutputFile.h"
 #include "values/Text.h"
 
 namespace kel::records {
@@ -14,10 +13,6 @@ namespace kel::records {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::u16string counted(std::int64_t count, std::u16string_view one, std::u16string_view many) {
-    return widen(std::to_string(count)) + u" " + std::u16string(count == 1 ? one : many);
-}
 
 /// A file that is there when it is needed.
 class LateFile {
@@ -52,6 +47,10 @@ fs::path rejectsOf(const fs::path& list) {
 
 }  // namespace
 
+std::u16string counted(std::int64_t count, std::u16string_view one, std::u16string_view many) {
+    return widen(std::to_string(count)) + u" " + std::u16string(count == 1 ? one : many);
+}
+
 std::u16string ImportReport::inWords() const {
     std::u16string words;
     if (!result.failure.empty()) words = fromUtf8(result.failure).value_or(u"The database failed.") + u"\n";
@@ -84,36 +83,18 @@ ImportReport importFile(Importer& importer, const fs::path& list, const ListForm
     return report;
 }
 
-std::int64_t exportFile(Exporter& exporter, std::int64_t records, const fs::path& list, const ListFormat& format,
-                        const Progress& progress) {
-    const auto goesOn = [&](std::int64_t done) {
-        return progress(records <= 0 ? 0 : static_cast<double>(done) / static_cast<double>(records));
-    };
-    try {
-        if (isStream(list)) {
-            const OutputFile stream = OutputFile::openStream(list);
-            return exporter.run(
-                format, [&](std::string_view lines) { stream.write(lines); }, goesOn);
-        }
-        fs::path pending = list;
-        pending += ".part";
-        std::int64_t count = 0;
-        try {
-            OutputFile file = OutputFile::makeAlone(pending);
-            count = exporter.run(
-                format, [&](std::string_view lines) { file.write(lines); }, goesOn);
-            file.sync();
-            file.close();
-            fs::rename(pending, list);
-        } catch (...) {
-            std::error_code ignored;
-            fs::remove(pending, ignored);
-            throw;
-        }
-        return count;
-    } catch (const std::system_error& error) {
-        throw FormError(utf8Of(list), 0, "cannot be written: " + error.code().message());
-    }
+std::optional<std::int64_t> exportFile(Exporter& exporter, std::int64_t records, const fs::path& list,
+                                       const ListFormat& format, const Progress& progress) {
+    std::int64_t count = 0;
+    const bool isWhole = writePieces(list, [&](const Pieces& write) {
+        bool isStopped = false;
+        count = exporter.run(format, write, [&](std::int64_t done) {
+            isStopped = !progress(records <= 0 ? 0 : static_cast<double>(done) / static_cast<double>(records));
+            return !isStopped;
+        });
+        return !isStopped;
+    });
+    return isWhole ? std::optional(count) : std::nullopt;
 }
 
 }  // namespace kel::records

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "records/exchange/Exporter.h"
@@ -25,9 +26,12 @@ struct ImportReport {
 ImportReport importFile(Importer& importer, const std::filesystem::path& list, const ListFormat& format,
                         bool allOrNothing, const Progress& progress);
 
-/// The number of records. The file takes its place when all of it is on the disk, or what was written until it was
-/// stopped; else what was there stays. A device, a pipe and the standard output are written to at once.
-std::int64_t exportFile(Exporter& exporter, std::int64_t records, const std::filesystem::path& list,
-                        const ListFormat& format, const Progress& progress);
+/// The number of records; nothing where it was stopped. The file takes its place when all of it is on the disk; else
+/// what was there stays. A device, a pipe and the standard output are written to at once.
+std::optional<std::int64_t> exportFile(Exporter& exporter, std::int64_t records, const std::filesystem::path& list,
+                                       const ListFormat& format, const Progress& progress);
+
+/// "1 record is", "2 records are"
+std::u16string counted(std::int64_t count, std::u16string_view one, std::u16string_view many);
 
 }  // namespace kel::records

@@ -3,9 +3,11 @@
 #include <set>
 #include <sstream>
 
+#include "forms/file/FileWriter.h"
+#include "forms/file/FormStore.h"
 #include "forms/play/Script.h"
 #include "records/Commands.h"
-#include "records/exchange/Importer.h"
+#include "records/exchange/ListFiles.h"
 #include "records/make/FormOfTable.h"
 #include "tests/records/OnDatabase.h"
 
@@ -572,6 +574,28 @@ TEST_F(OnDatabase, ListsLeaveWholeRecords) {
         }
         EXPECT_EQ(value("SELECT count(*) FROM member"), std::to_string(row.stored));
     }
+}
+
+/// Whoever stops an export does not find a list that looks whole.
+TEST_F(OnDatabase, StoppedListTakesNoPlace) {
+    execute("CREATE TABLE member (id INTEGER PRIMARY KEY, name TEXT, fee DOUBLE PRECISION, joined DATE)");
+    execute(
+        "INSERT INTO member SELECT i, 'name', 0, NULL FROM (WITH RECURSIVE n (i) AS (SELECT 1 UNION ALL SELECT i + 1 "
+        "FROM n WHERE i < 1200) SELECT i FROM n) AS r");
+    const auto store = open();
+    Person person(MemberForm, *store, u"member");
+    const std::filesystem::path file =
+        std::filesystem::temp_directory_path() / ("kel-list-" + std::to_string(getpid()) + ".csv");
+    writeFile(file, "as before");
+    Exporter exporter(person.records().bindings(), person.records().store(), {}, defaultRegion());
+    const auto write = [&](bool goesOn) {
+        return exportFile(exporter, 1200, file, {}, [=](double) { return goesOn; });
+    };
+    EXPECT_FALSE(write(false));
+    EXPECT_EQ(readWholeFile(file), "as before");
+    EXPECT_EQ(write(true), 1200);
+    EXPECT_EQ(readWholeFile(file).substr(0, 24), "name,fee,joined\r\nname,0,");
+    std::filesystem::remove(file);
 }
 
 /// A day and a time of day in two fields are one column, of which a list may give both, either, or all in one.

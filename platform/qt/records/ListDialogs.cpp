@@ -151,14 +151,15 @@ void ListDialogs::exportList() {
     FormatDialog dialog(Window_, title, false);
     if (dialog.exec() != QDialog::Accepted) return;
     attempt([&] {
-        std::int64_t written = 0;
+        std::optional<std::int64_t> written;
         {
             records::Exporter exporter(Records_.bindings(), Records_.store(), Records_.order(), Unseen_.region());
             WorkDialog work(Window_, title, QStringLiteral("Writing %1\u2026").arg(QFileInfo(name).fileName()));
             written = records::exportFile(exporter, Records_.count(), pathOf(name.toStdString()),
                                           dialog.choices().format, [&](double share) { return work.goesOn(share); });
         }
-        Questions_.say(widen(std::to_string(written)) + u" records are in the list.");
+        Questions_.say(written ? records::counted(*written, u"record is", u"records are") + u" in the list."
+                               : u"Stopped. The list was not written.");
     });
 }
 
