@@ -32,6 +32,12 @@ const QStringList& passedOn() {
     return Names;
 }
 
+/// As that library reads one with a blank in it.
+QString quotedValue(QString value) {
+    value.replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('\''), QLatin1String("\\'"));
+    return QLatin1Char('\'') + value + QLatin1Char('\'');
+}
+
 /// Connections of Qt have names, which are the process's.
 QString nextName() {
     static std::atomic<int> count = 0;
@@ -78,7 +84,7 @@ SqlAddress addressOf(const std::string& database) {
         else if (value.contains(QLatin1Char(';')) || !passedOn().contains(name))
             throw StoreError(Kind::Wrong, database + ": \"" + part.toStdString() + "\" is not understood.");
         else
-            address.options += QLatin1Char(';') + name + QLatin1Char('=') + value;
+            address.options += QLatin1Char(';') + name + QLatin1Char('=') + quotedValue(value);
     }
     address.port = url.port(0);
     address.user = url.userName();
