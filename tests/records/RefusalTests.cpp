@@ -5,8 +5,10 @@
 #include <fstream>
 #include <functional>
 #include <QSqlError>
+#include <sstream>
 #include <thread>
 
+#include "records/exchange/Importer.h"
 #include "tests/records/OnDatabase.h"
 
 /// A database that cannot be opened, or cannot be written just now: what the person is told, and that nothing is lost.
@@ -273,6 +275,32 @@ TEST_F(OnDatabase, WaitsForAnotherProgram) {
     person.put(u"txtName", std::u16string(u"Berta"));
     EXPECT_TRUE(person.records().save()) << person.heard;
     EXPECT_EQ(value("SELECT name FROM member"), "Berta");
+}
+
+/// A list that is taken in waits for a record as a person's does, and keeps what it has stored before.
+TEST_F(OnDatabase, ListWaitsForAnotherProgram) {
+    execute("CREATE TABLE member (name VARCHAR(9) PRIMARY KEY, fee DOUBLE PRECISION, joined DATE)");
+    qt::SqlConnection other(databaseAddress(), {});
+    std::function<void()> serve = [] {};
+    const auto store = qt::openStore(databaseAddress(), [&] { serve(); });
+    const auto records = store->open(store->table(u"member").value());
+    const auto home = headless::makeHome({.region = &defaultRegion()});
+    Importer importer(*home, FormFile::parse(MemberForm, "member.frm"), *records, nullptr);
+    other.execute(QString::fromLatin1(other.isServer() ? "BEGIN" : "BEGIN IMMEDIATE"));
+    other.execute(QStringLiteral("INSERT INTO member VALUES ('Bea', 7, NULL)"));
+    serve = [&, let = std::chrono::steady_clock::now() + 300ms] {
+        if (std::chrono::steady_clock::now() < let) return;
+        other.execute(QStringLiteral("COMMIT"));
+        serve = [] {};
+    };
+    std::istringstream list("Ann,1\nBea,2\nCid,3\n");
+    std::string rejects;
+    const auto result = importer.run(
+        list, {.separator = ',', .hasHeader = false}, false, [&](std::string_view line) { rejects += line; },
+        [](std::int64_t) { return true; });
+    EXPECT_EQ(result.failure, "");
+    EXPECT_EQ(result.stored, 2);
+    EXPECT_NE(rejects.find("2,txtName: another record has the same value already."), std::string::npos) << rejects;
 }
 
 /// Ends the connections of all others.

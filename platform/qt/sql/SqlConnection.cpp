@@ -166,15 +166,15 @@ QSqlQuery& SqlConnection::prepared(const QString& statement) {
     return *query;
 }
 
-bool SqlConnection::isWorthAnotherTry(const StoreError& error) const {
+bool SqlConnection::isWorthAnotherTry(const StoreError& error, bool isUndone) const {
     if (!IsPatient_ || IsRepeated_) return false;
     if (Depth_ == 0) return error.kind() == Kind::Busy || error.kind() == Kind::Lost;
-    // A server has given up the whole transaction, and with a connection goes what came before.
-    return error.kind() == Kind::Busy && !Address_.isServer;
+    // A server has given up the whole transaction otherwise, and with a connection goes what came before.
+    return error.kind() == Kind::Busy && (isUndone || !Dialect_->failureEndsTransaction());
 }
 
 template <class Action>
-void SqlConnection::patiently(Action action) {
+void SqlConnection::patiently(Action action, bool isUndone) {
     if (IsWaiting_) throw StoreError(Kind::Busy, "The database is still being waited for.");
     const auto start = std::chrono::steady_clock::now();
     for (;;) {
@@ -187,7 +187,7 @@ void SqlConnection::patiently(Action action) {
             return action();
         } catch (const StoreError& error) {
             if (error.kind() == Kind::Lost && Depth_ == 0) close();
-            if (!isWorthAnotherTry(error) || std::chrono::steady_clock::now() > start + Patience) throw;
+            if (!isWorthAnotherTry(error, isUndone) || std::chrono::steady_clock::now() > start + Patience) throw;
         }
         {
             const Serving serving(*this);
@@ -228,15 +228,18 @@ int SqlConnection::runAlone(const QString& statement, const QVariantList& values
         return count;
     };
     if (Depth_ == 0 || !Dialect_->failureEndsTransaction()) return changed();
-    execute(QStringLiteral("SAVEPOINT alone"));
     int count = 0;
-    try {
-        count = changed();
-    } catch (const StoreError& error) {
-        if (error.kind() != Kind::Lost) execute(QStringLiteral("ROLLBACK TO SAVEPOINT alone"));
-        throw;
-    }
-    execute(QStringLiteral("RELEASE SAVEPOINT alone"));
+    const auto alone = [&] {
+        runOnce(QStringLiteral("SAVEPOINT alone"));
+        try {
+            count = changed();
+        } catch (const StoreError& error) {
+            if (error.kind() != Kind::Lost) runOnce(QStringLiteral("ROLLBACK TO SAVEPOINT alone"));
+            throw;
+        }
+        runOnce(QStringLiteral("RELEASE SAVEPOINT alone"));
+    };
+    patiently(alone, true);
     return count;
 }
 

@@ -79,11 +79,12 @@ private:
     void close();
     QSqlQuery& prepared(const QString& statement);
     void runOnce(const QString& statement);
-    /// Runs `action` again and again while another program holds the database or the connection is gone.
+    /// Runs `action` again and again while another program holds the database or the connection is gone. One that is
+    /// `undone` when it fails may be tried again in the midst of a transaction.
     template <class Action>
-    void patiently(Action action);
+    void patiently(Action action, bool isUndone = false);
     /// Whether what has failed may be tried again by itself.
-    bool isWorthAnotherTry(const records::StoreError& error) const;
+    bool isWorthAnotherTry(const records::StoreError& error, bool isUndone) const;
 
     std::string Database_;
     SqlAddress Address_;
