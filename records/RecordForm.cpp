@@ -194,8 +194,7 @@ const Binding* RecordForm::fieldOf(const std::u16string& columnName) const {
 void RecordForm::complain(const StoreError& error) {
     const Binding* const field = fieldOf(error.column());
     if (field != nullptr) Form_->window().focus(field->control());
-    const std::u16string words = error.words();
-    Questions_->say(field != nullptr ? field->caption() + u": " + words : words);
+    Questions_->say(error.wordsAbout(field != nullptr ? field->caption() : std::u16string()));
 }
 
 bool RecordForm::isValid() {

@@ -8,6 +8,11 @@ namespace kel::records {
 
 std::u16string StoreError::words() const { return fromUtf8(what()).value_or(u"The database gives no reason."); }
 
+std::u16string StoreError::wordsAbout(const std::u16string& caption) const {
+    const std::u16string& name = caption.empty() ? Column_ : caption;
+    return name.empty() ? words() : name + u": " + words();
+}
+
 Change* changeOf(std::vector<Change>& values, std::size_t column) {
     const auto found =
         std::find_if(values.begin(), values.end(), [=](const Change& change) { return change.column == column; });

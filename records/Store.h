@@ -33,6 +33,8 @@ public:
     const std::u16string& column() const { return Column_; }
     /// For the person.
     std::u16string words() const;
+    /// The same behind what the person knows the column by: its field's caption, or its name where `caption` is empty.
+    std::u16string wordsAbout(const std::u16string& caption) const;
 
 private:
     Kind Kind_;

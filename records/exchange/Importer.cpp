@@ -220,7 +220,7 @@ void Importer::store(std::string& reason) {
         const auto column = Records_.table().find(error.column());
         const auto field = std::find_if(Fields_.begin(), Fields_.end(),
                                         [&](const Field& each) { return each.binding.column() == column; });
-        reason = (field == Fields_.end() ? std::string() : field->caption() + ": ") + error.what();
+        reason = toUtf8(error.wordsAbout(field == Fields_.end() ? std::u16string() : field->binding.caption()));
     }
 }
 

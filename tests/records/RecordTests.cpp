@@ -528,6 +528,21 @@ TEST_F(OnDatabase, ComplaintsNameTheField) {
         person.records().undo();
     }
     EXPECT_EQ(value("SELECT count(*) FROM member WHERE name = 'Anna' AND fee = 1"), "1");
+    // One that the form does not show is called by its column's name, whatever is in that.
+    execute("CREATE TABLE line (id INTEGER DEFAULT 7 PRIMARY KEY, name TEXT, \"Order no. 2\" TEXT NOT NULL)");
+    Person other(formOf({{"txtName", "KelText", ""}}), *store, u"line");
+    other.put(u"txtName", std::u16string(u"Anna"));
+    EXPECT_FALSE(other.records().save());
+    EXPECT_EQ(other.heard, "Order no. 2: a value is needed here.\n");
+    std::istringstream list("Anna\n");
+    std::string rejects;
+    const auto home = headless::makeHome({.region = &defaultRegion()});
+    Importer importer(*home, FormFile::parse(formOf({{"txtName", "KelText", ""}}), "m.frm"), other.records().store(),
+                      nullptr);
+    importer.run(
+        list, {.separator = ',', .hasHeader = false}, false, [&](std::string_view line) { rejects += line; },
+        [](std::int64_t) { return true; });
+    EXPECT_NE(rejects.find("1,Order no. 2: a value is needed here.,Anna"), std::string::npos) << rejects;
 }
 
 // ---- Lists

@@ -103,9 +103,9 @@ public:
 
 private:
     static StoreError constraintError(const QString& text) {
-        // "NOT NULL constraint failed: orders.quantity"
-        const QString place = text.section(QLatin1String("failed: "), 1).section(QLatin1Char(' '), 0, 0);
-        const QString column = place.section(QLatin1Char('.'), -1).section(QLatin1Char(','), 0, 0);
+        // "UNIQUE constraint failed: orders.order no., orders.line"
+        const QString place = text.section(QLatin1String("failed: "), 1).section(QLatin1String(", "), 0, 0);
+        const QString column = place.section(QLatin1Char('.'), 1);
         if (text.contains(QLatin1String("NOT NULL"))) return valueMissing(column);
         if (text.contains(QLatin1String("UNIQUE"))) return valueTaken(column);
         return text.contains(QLatin1String("FOREIGN KEY")) ? referenceBroken() : ruleBroken(text);
