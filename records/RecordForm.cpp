@@ -72,6 +72,21 @@ bool RecordForm::toRecord(const Record& record) {
            });
 }
 
+void RecordForm::stepBeside(const Record& gone) {
+    if (!step(&gone, Way::Forward) && !step(&gone, Way::Backward)) showNew();
+}
+
+bool RecordForm::readAgain() {
+    return Shown_ && mayLeave() && attempt([&] {
+               const Record before = *Shown_;
+               if (const std::optional<Record> now = Store_->read(keyOf(table(), before)))
+                   show(*now);
+               else
+                   stepBeside(before);
+               return true;
+           });
+}
+
 bool RecordForm::mayLeave() {
     if (!isChanged()) return true;
     switch (Questions_->aboutUnsaved()) {
@@ -381,7 +396,7 @@ bool RecordForm::remove() {
             case Outcome::Gone: break;
         }
         const Record gone = *Shown_;
-        if (!step(&gone, Way::Forward) && !step(&gone, Way::Backward)) showNew();
+        stepBeside(gone);
         return true;
     });
 }

@@ -54,6 +54,8 @@ public:
     /// Back to what was stored last.
     void undo();
 
+    /// As it is in the database now, or the next one where it is there no more.
+    bool readAgain();
     /// Into the first field that takes the focus and can be changed, as a person begins.
     void focusFirst();
 
@@ -97,6 +99,8 @@ private:
     bool step(const Record* from, Way way);
     /// What stands on the screen is another record from now on.
     void becomeNew();
+    /// Shows what stands beside a record that is there no more.
+    void stepBeside(const Record& gone);
     /// From now on this is what the screen is compared with; a new record has nothing to compare with.
     void compareWith(std::optional<Record> record);
     /// Runs `action`; what the database says against it is told to the person.

@@ -3,9 +3,13 @@
 #include <QApplication>
 #include <QDialog>
 #include <QElapsedTimer>
+#include <QInputDialog>
 #include <QMessageBox>
+#include <QStatusBar>
+#include <QTableView>
 #include <QTimer>
 
+#include "host/Widgets.h"
 #include "platform/qt/home/QtHome.h"
 #include "platform/qt/records/RecordList.h"
 #include "platform/qt/records/RecordWindow.h"
@@ -67,6 +71,63 @@ TEST_F(WindowTest, FileThatIsHeldEndsNoCommandButWithWords) {
     look.start(20);
     EXPECT_NO_THROW(give(QKeySequence(Qt::CTRL | Qt::Key_G)));
     EXPECT_NE(said.find("Another program holds the database."), std::string::npos) << said;
+}
+
+/// Whoever stays at a changed record has been asked once.
+TEST_F(WindowTest, ReadingAgainAsksOnce) {
+    execute("CREATE TABLE member (id INTEGER PRIMARY KEY, name TEXT, fee DOUBLE PRECISION, joined DATE)");
+    execute("INSERT INTO member VALUES (1, 'Anna', 0, NULL), (2, 'Berta', 0, NULL)");
+    openWindow(MemberForm);
+    give(QKeySequence(Qt::ALT | Qt::Key_End));
+    const TextEntry& name = *Form_->find(u"txtName")->control().widgets().entry;
+    ASSERT_EQ(name.text(), u"Berta");
+    Form_->window().focus(*Form_->find(u"txtName"));
+    Form_->window().press({0, u'x', NoModifier});
+    const std::u16string typed = name.text();
+    int asked = 0;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        if (auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) ++asked, dialog->reject();
+    });
+    look.start(20);
+    give(QKeySequence(Qt::Key_F5));
+    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(name.text(), typed);
+}
+
+/// As any command does, a click in the list ends a search that is still going on.
+TEST_F(WindowTest, ClickInTheListEndsASearch) {
+    execute("CREATE TABLE member (id INTEGER PRIMARY KEY, name TEXT, fee DOUBLE PRECISION, joined DATE)");
+    execute(
+        "INSERT INTO member SELECT i, 'name ' || i, 0, NULL FROM (WITH RECURSIVE n (i) AS (SELECT 1 UNION ALL SELECT "
+        "i + 1 FROM n WHERE i < 9000) SELECT i FROM n) AS r");
+    openWindow(MemberForm);
+    give(QKeySequence(Qt::Key_F9));
+    for (QElapsedTimer since; since.isValid() ? since.elapsed() < 500 : (since.start(), true);)
+        QCoreApplication::processEvents();
+    QTableView* list = nullptr;
+    QStatusBar* bar = nullptr;
+    for (QWidget* const window : QApplication::topLevelWidgets()) {
+        if (list == nullptr) list = window->findChild<QTableView*>();
+        if (bar == nullptr) bar = window->findChild<QStatusBar*>();
+    }
+    ASSERT_GT(list->model()->rowCount(), 2);
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&] {
+        if (auto* const dialog = qobject_cast<QInputDialog*>(QApplication::activeModalWidget())) {
+            dialog->setTextValue(QStringLiteral("%2 zzz"));
+            dialog->accept();
+        } else if (bar->currentMessage().startsWith(QLatin1String("Looking for"))) {
+            EXPECT_EQ(bar->currentMessage(), QString::fromUtf8("Looking for \"%2 zzz\"\u2026 Escape ends it."));
+            look.stop();
+            emit list->activated(list->model()->index(2, 0));
+        }
+    });
+    look.start(5);
+    give(QKeySequence(Qt::CTRL | Qt::Key_F));
+    EXPECT_FALSE(look.isActive()) << "it was over before";
+    EXPECT_EQ(bar->currentMessage(), QStringLiteral("Not looked for any further."));
+    give(QKeySequence(Qt::Key_F9));
 }
 
 /// The list is painted with what can be read at once, and is right when the file is free again.

@@ -27,6 +27,7 @@
 #include "platform/qt/records/RecordDialogs.h"
 #include "platform/qt/records/RecordListDock.h"
 #include "records/Commands.h"
+#include "records/exchange/ListFiles.h"
 #include "records/Finder.h"
 #include "records/RecordForm.h"
 
@@ -74,10 +75,7 @@ public:
     ~Implementation() override { delete List_; }
 
     void run(Command command) {
-        if (IsSeeking_) {
-            IsSeeking_ = false;
-            return;
-        }
+        if (endsSearch()) return;
         statusBar()->clearMessage();
         attempt([&] { carryOut(command); });
         refreshState();
@@ -91,7 +89,7 @@ public:
             case Command::Duplicate: Form_->duplicate(); break;
             case Command::Delete: refreshListIf(Form_->remove()); break;
             case Command::Undo: Form_->undo(); break;
-            case Command::Refresh: readAgain(); break;
+            case Command::Refresh: refreshListIf(Form_->readAgain()); break;
             case Command::Import: workThrough([&] { refreshListIf(Lists_->importList()); }); break;
             case Command::Export: workThrough([&] { Lists_->exportList(); }); break;
             case Command::Close: close(); break;
@@ -178,7 +176,9 @@ private:
         List_->hide();
         addDockWidget(Qt::RightDockWidgetArea, List_);
         QObject::connect(List_, &RecordListDock::chosen, this, &Implementation::showRecord);
-        QObject::connect(List_, &RecordListDock::sorted, this, &Implementation::refreshState);
+        QObject::connect(List_, &RecordListDock::sorted, this, [this] {
+            if (!endsSearch()) refreshState();
+        });
     }
 
     void makeStatusBar() {
@@ -218,16 +218,14 @@ private:
         if (changed && isListShown()) List_->refresh();
     }
 
-    void readAgain() {
-        if (!Form_->shown()) return;
-        const records::Record record = *Form_->shown();
-        if (!Form_->toRecord(record)) Form_->toFirst();
-        refreshListIf(true);
-    }
+    /// Whatever the person does while a search goes on ends that first.
+    bool endsSearch() { return std::exchange(IsSeeking_, false); }
 
     void showRecord(const records::Record& record) {
-        Form_->setOrder(List_->order());
-        attempt([&] { Form_->toRecord(record); });
+        if (endsSearch()) return;
+        attempt([&] {
+            if (Form_->toRecord(record)) Form_->setOrder(List_->order());
+        });
         refreshState();
     }
 
@@ -278,10 +276,12 @@ private:
             if (hit) Form_->toRecord(*hit);
             refreshState();
             if (hit && !hits && IsSeeking_) hits = finder.count(goesOn);
-            statusBar()->showMessage(hits          ? QStringLiteral("\"%1\" is in %2 records.").arg(Sought_).arg(*hits)
-                                     : hit         ? QStringLiteral("\"%1\" was found.").arg(Sought_)
+            const QString sought = QLatin1Char('"') + Sought_ + QLatin1Char('"');
+            statusBar()->showMessage(hits ? sought + QLatin1String(" is in ") +
+                                                toQString(records::counted(*hits, u"record.", u"records."))
+                                     : hit         ? sought + QLatin1String(" was found.")
                                      : !IsSeeking_ ? QStringLiteral("Not looked for any further.")
-                                                   : QStringLiteral("\"%1\" is in no record.").arg(Sought_));
+                                                   : sought + QLatin1String(" is in no record."));
         });
         IsSeeking_ = false;
         Escape_->setEnabled(false);
