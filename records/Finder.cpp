@@ -66,9 +66,9 @@ std::u16string searchKey(std::u16string_view text) {
     return key;
 }
 
-Finder::Finder(RecordStore& store, std::u16string_view text, const Order& order, const SearchTexts* texts,
-               TextsOf textsOf)
-    : Store_(&store), Texts_(texts), TextsOf_(std::move(textsOf)), Sought_(searchKey(text)), Order_(order) {}
+Finder::Finder(RecordStore& store, std::u16string_view text, const Order& order,
+               std::shared_ptr<const SearchTexts> texts, TextsOf textsOf)
+    : Store_(&store), Texts_(std::move(texts)), TextsOf_(std::move(textsOf)), Sought_(searchKey(text)), Order_(order) {}
 
 bool Finder::isHit(const Record& record) const {
     const std::vector<std::u16string> found = TextsOf_(record);
@@ -112,7 +112,8 @@ std::optional<Record> Finder::nearestOf(const std::vector<Cells>& keys, const Re
     std::optional<Record> nearest;
     for (const Cells& key : keys) {
         std::optional<Record> record = Store_->read(key);
-        if (!record || !isHit(*record) || (from != nullptr && !isFurther(*record, *from))) continue;
+        // What they are found by is in the texts, and may be in no list of a field any more.
+        if (!record || (from != nullptr && !isFurther(*record, *from))) continue;
         if (!nearest || isFurther(*nearest, *record)) nearest = std::move(record);
     }
     return nearest;

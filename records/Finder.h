@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,12 +17,12 @@ public:
     using GoesOn = std::function<bool()>;
 
     /// By the `texts` of all records, where these are given and are up to date; nullptr is by the records themselves.
-    Finder(RecordStore& store, std::u16string_view text, const Order& order, const SearchTexts* texts = nullptr,
-           TextsOf textsOf = textsOfColumns);
+    Finder(RecordStore& store, std::u16string_view text, const Order& order,
+           std::shared_ptr<const SearchTexts> texts = nullptr, TextsOf textsOf = textsOfColumns);
 
     bool isHit(const Record& record) const;
 
-    /// The nearest hit behind `from`, or in front of it; from the end where it is nullptr. Nothing where there is none
+    /// The nearest hit after `from`, or before it; from the end where it is nullptr. Nothing where there is none
     /// on that side, or where it was stopped.
     std::optional<Record> nearest(const Record* from, Way way, const GoesOn& goesOn) const;
 
@@ -46,7 +47,7 @@ private:
     std::optional<Record> nearestOf(const std::vector<Cells>& keys, const Record* from, Way way) const;
 
     RecordStore* Store_;
-    const SearchTexts* Texts_;
+    std::shared_ptr<const SearchTexts> Texts_;
     TextsOf TextsOf_;
     std::u16string Sought_;
     Order Order_;

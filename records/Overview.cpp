@@ -23,7 +23,7 @@ Places& Overview::places(const Order& order) {
 }
 
 void Overview::wantTexts() {
-    if (!Texts_) Texts_ = std::make_unique<SearchTexts>(*Store_, TextsOf_);
+    if (!Texts_ || !Texts_->hasRoom()) Texts_ = std::make_shared<SearchTexts>(*Store_, TextsOf_);
 }
 
 bool Overview::lookOn() {

@@ -23,8 +23,9 @@ public:
     Places& places(const Order& order);
     /// Records are to be found by their texts, as soon as these are written.
     void wantTexts();
-    /// nullptr while they are not wanted; on a server they are no more after somebody has changed something.
-    const SearchTexts* texts() const { return Texts_.get(); }
+    /// nullptr while they are not wanted; on a server they are no more after somebody has changed something, but for
+    /// whoever has them.
+    std::shared_ptr<const SearchTexts> texts() const { return Texts_; }
 
     /// Goes on for a few milliseconds with what is missing. False when nothing is.
     bool lookOn();
@@ -37,7 +38,7 @@ private:
     RecordStore* Store_;
     TextsOf TextsOf_;
     std::vector<std::unique_ptr<Places>> Places_;  ///< the last that was asked for in front
-    std::unique_ptr<SearchTexts> Texts_;
+    std::shared_ptr<SearchTexts> Texts_;
 };
 
 }  // namespace kel::records

@@ -128,8 +128,12 @@ void SearchTexts::beginAnew(const Version& version) {
 
 void SearchTexts::write(std::int64_t offset, std::string_view bytes) {
     if (std::fseek(File_.get(), static_cast<long>(offset), SEEK_SET) != 0 ||
-        std::fwrite(bytes.data(), 1, bytes.size(), File_.get()) != bytes.size())
+        std::fwrite(bytes.data(), 1, bytes.size(), File_.get()) != bytes.size()) {
+        // Nobody knows how much of it has come to the disk, and the others want the room.
+        File_.reset();
+        IsWhole_ = false;
         throw StoreError(StoreError::Kind::Full, "There is no room for the texts of the search.");
+    }
 }
 
 void SearchTexts::append(const Record& record, std::vector<Landmark>& noted) {

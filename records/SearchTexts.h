@@ -29,7 +29,7 @@ std::vector<std::u16string> textsOfColumns(const Record& record);
 /// another program has changed something, all of it is written anew.
 class SearchTexts {
 public:
-    /// The store outlives it. Throws StoreError where no file can be made.
+    /// The store outlives it. Throws StoreError.
     SearchTexts(RecordStore& store, TextsOf textsOf);
     SearchTexts(const SearchTexts&) = delete;
     SearchTexts& operator=(const SearchTexts&) = delete;
@@ -37,8 +37,8 @@ public:
     /// Writes some more, for a few milliseconds. False when all records are there.
     bool writeOn();
     bool isWhole() const { return IsWhole_; }
-    /// How many records are there.
-    std::int64_t written() const { return Written_; }
+    /// False where no file could be made or the disk was full; nothing is written any more until all begins anew.
+    bool hasRoom() const { return File_ != nullptr; }
 
     /// As `Places` are told.
     void changed(const Record* before, const Record* after);

@@ -1,3 +1,5 @@
+#include <sys/resource.h>
+#include <csignal>
 #include <random>
 
 #include "records/Finder.h"
@@ -143,6 +145,28 @@ TEST_F(Crowd, OverviewIsTrueWhateverIsChanged) {
     static_cast<void>(Records_->insert(values()));
     EXPECT_TRUE(Overview_->refresh());
     expectPlaces();
+    expectHits();
+}
+
+/// Where there is no room for the texts, records are looked through; once there is, each is written down once.
+TEST_F(Crowd, TextsThatHaveNoRoomAreWrittenAnew) {
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small{40'000, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    int refused = 0;
+    for (int i = 0; i < 50; ++i) try {
+            Overview_->lookOn();
+        } catch (const StoreError& error) {
+            EXPECT_EQ(error.kind(), StoreError::Kind::Full);
+            ++refused;
+        }
+    EXPECT_FALSE(Overview_->texts()->isWhole());
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_GT(refused, 0);
+    Overview_->wantTexts();
     expectHits();
 }
 

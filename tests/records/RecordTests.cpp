@@ -8,6 +8,7 @@
 #include "forms/play/Script.h"
 #include "records/Commands.h"
 #include "records/exchange/ListFiles.h"
+#include "records/Finder.h"
 #include "records/make/FormOfTable.h"
 #include "tests/records/OnDatabase.h"
 
@@ -396,6 +397,20 @@ TEST_F(OnDatabase, KeysBeyondTheListAreKept) {
     }
     person.type(u"cboP", u"zz");
     EXPECT_EQ(person.text(u"cboP"), rows[3].listed) << "what leads to no record is not taken";
+    execute("UPDATE member SET p = 10001 WHERE name = 'Bert'");
+    Person other(ListForm, *store, u"member");
+    // What was written down of a record while it was in the list is there when the list is another part of the table.
+    Overview& overview = other.records().overview();
+    overview.wantTexts();
+    while (overview.lookOn()) {
+    }
+    other.drop(u"cboP");
+    EXPECT_EQ(other.text(u"cboP"), u"no 42999");
+    const auto hit = Finder(other.records().store(), u"no 10001", {}, overview.texts(), [&](const Record& record) {
+                         return other.records().textsOf(record);
+                     }).nearestAround(nullptr, Way::Forward, [] { return true; });
+    EXPECT_EQ(hit.hits, 1);
+    EXPECT_TRUE(hit.record && hit.record->cells[1] == Cell(std::u16string(u"Bert")));
 }
 
 // ---- Forms of tables
