@@ -117,9 +117,21 @@ void RecordForm::show(const Record& record) {
 
 void RecordForm::showNew() {
     compareWith({});
-    for (Binding& binding : Bindings_) {
-        if (!isCarried(binding)) binding.showDefault(*Form_);
-        binding.markStored();
+    Begun_.clear();
+    for (std::size_t i = 0; i < Bindings_.size(); ++i)
+        if (isCarried(Bindings_[i])) Begun_[i] = Bindings_[i].cell(columnOf(Bindings_[i]), Null{});
+    beginAgain();
+}
+
+void RecordForm::beginAgain() {
+    compareWith({});
+    for (std::size_t i = 0; i < Bindings_.size(); ++i) {
+        const auto begun = Begun_.find(i);
+        if (begun == Begun_.end())
+            Bindings_[i].showDefault(*Form_);
+        else
+            Bindings_[i].show(begun->second);
+        Bindings_[i].markStored();
     }
 }
 
@@ -144,7 +156,7 @@ void RecordForm::undo() {
     if (Shown_)
         show(Record(*Shown_));
     else
-        showNew();
+        beginAgain();
 }
 
 void RecordForm::focusFirst() {

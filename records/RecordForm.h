@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
@@ -23,8 +24,8 @@ namespace kel::records {
 class RecordForm {
 public:
     /// All of it outlives the records. Throws StoreError when a field's column is not there or cannot keep its value,
-    /// and when the database cannot be read. Shows the first record, or a new one where there is none. `others` has the
-    /// tables that give lists to fields; without it these stay empty.
+    /// and when the list of a field cannot be read. Shows the first record, or a new one where there is none or it
+    /// cannot be read, which is said. `others` has the tables that give lists to fields; without it these stay empty.
     RecordForm(Form& form, RecordStore& store, Questions& questions, const RegionalSettings& region,
                Store* others = nullptr);
     RecordForm(const RecordForm&) = delete;
@@ -51,11 +52,11 @@ public:
     bool save();
     bool saveAndStartNew();
     bool remove();
-    /// Back to what was stored last.
+    /// Back to what was stored last, or to what a new record began with.
     void undo();
-
     /// As it is in the database now, or the next one where it is there no more.
     bool readAgain();
+
     /// Into the first field that takes the focus and can be changed, as a person begins.
     void focusFirst();
 
@@ -93,14 +94,15 @@ public:
 private:
     void show(const Record& record);
     void showNew();
+    void beginAgain();
     bool toEnd(Way way);
     bool walk(Way way);
     /// Shows the next one from there; false where there is none.
     bool step(const Record* from, Way way);
-    /// What stands on the screen is another record from now on.
-    void becomeNew();
     /// Shows what stands beside a record that is there no more.
     void stepBeside(const Record& gone);
+    /// What stands on the screen is another record from now on.
+    void becomeNew();
     /// From now on this is what the screen is compared with; a new record has nothing to compare with.
     void compareWith(std::optional<Record> record);
     /// Runs `action`; what the database says against it is told to the person.
@@ -137,8 +139,9 @@ private:
     std::set<std::size_t> Carried_;  ///< columns
     Order Order_;
     std::int64_t Saves_ = 0;
-    bool Duplicated_ = false;       ///< a new record that is worth keeping as it stands
-    std::optional<Record> Copied_;  ///< of which it was made: fields may show less than there is
+    bool Duplicated_ = false;            ///< a new record that is worth keeping as it stands
+    std::map<std::size_t, Cell> Begun_;  ///< what a new record has of the one before, by the places of its fields
+    std::optional<Record> Copied_;       ///< of which it was made: fields may show less than there is
 };
 
 }  // namespace kel::records

@@ -199,6 +199,23 @@ TEST_F(OnDatabase, SecondToSaveIsAsked) {
     EXPECT_EQ(value("SELECT name FROM member"), "Johanna");
 }
 
+/// What goes along into a new record is what that one begins with, and goes back to.
+TEST_F(OnDatabase, NewRecordIsUndoneToWhatWasCarried) {
+    const auto store = open();
+    Person person(MemberForm, *store, u"member");
+    person.put(u"txtName", std::u16string(u"Anna"));
+    person.put(u"numFee", 5.0);
+    person.records().setCarried(person.records().bindings()[0], true);
+    ASSERT_TRUE(person.records().saveAndStartNew()) << person.heard;
+    EXPECT_EQ(person.text(u"txtName"), u"Anna");
+    person.put(u"txtName", std::u16string(u"Berta"));
+    person.put(u"numFee", 6.0);
+    person.records().undo();
+    EXPECT_EQ(person.text(u"txtName"), u"Anna");
+    EXPECT_EQ(person.text(u"numFee"), u"0.00");
+    EXPECT_FALSE(person.records().isChanged());
+}
+
 /// What another program changes in columns that the form does not show is no question, and is not lost.
 TEST_F(OnDatabase, ForeignColumnsAreLeftAlone) {
     execute(
