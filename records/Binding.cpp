@@ -20,8 +20,6 @@ namespace kel::records {
 namespace {
 
 constexpr std::u16string_view TagMark = u":tag";
-/// Doubles tell whole numbers apart up to here.
-constexpr double ExactWholeNumbers = 9007199254740992.0;
 
 const std::u16string* textIn(const Variant& value) { return std::get_if<std::u16string>(&value); }
 
@@ -48,7 +46,7 @@ Cell numberCell(const Column& column, double number) {
     const ColumnType type = column.type;
     if (number == 0 && column.reference && !column.notNull) return Null{};
     if (type == ColumnType::Decimal) return shortestNumber(number);
-    if (type == ColumnType::Integer && std::abs(number) <= ExactWholeNumbers)
+    if (type == ColumnType::Integer && std::abs(number) <= LargestExactWhole)
         return static_cast<std::int64_t>(std::llround(number));
     return number;
 }

@@ -14,8 +14,6 @@ namespace {
 constexpr std::size_t KeyPlace = 0;
 constexpr std::size_t TextPlace = 1;
 constexpr std::int32_t FewAlike = 100;  ///< texts that differ in case, or in what follows
-/// Doubles tell whole numbers apart up to here.
-constexpr double LargestExact = 9007199254740992.0;
 
 int rankAsText(const Column& column) { return (column.unique ? 2 : 0) + (column.notNull ? 1 : 0); }
 
@@ -43,7 +41,7 @@ std::u16string lineOf(const Cell& cell) {
 std::optional<Cell> keyCell(const Column& column, const std::u16string& key) {
     if (column.type != ColumnType::Integer) return key;
     double number = 0;
-    if (!readPlainNumber(key, defaultRegion(), number) || std::abs(number) > LargestExact) return std::nullopt;
+    if (!readPlainNumber(key, defaultRegion(), number) || std::abs(number) > LargestExactWhole) return std::nullopt;
     return static_cast<std::int64_t>(number);
 }
 

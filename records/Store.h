@@ -78,7 +78,7 @@ enum class Outcome : std::uint8_t {
 /// By which it is seen that a table has changed. Which numbers these are means nothing.
 struct Version {
     std::int64_t others = 0;  ///< is another one after another program has changed something
-    std::int64_t own = 0;     ///< counts the records that this one has stored or deleted, by whichever way
+    std::int64_t own = 0;     ///< counts what this one has stored, deleted or undone; one more for one record stored
     friend bool operator==(const Version&, const Version&) = default;
 };
 

@@ -40,12 +40,6 @@ void setClock(PlaySystem& system, const Options& options) {
     if (options.now) system.setTimer(options.now->Serial * SecondsPerDay);
 }
 
-std::u16string tableOf(const Options& options) {
-    const auto name = fromUtf8(options.table);
-    if (!name) throw UsageError("--table: the name is not valid UTF-8");
-    return *name;
-}
-
 /// Says where the printed lines differ from the expected ones; true when they do not.
 bool compare(const Script& script, const ScriptCommand& command, const std::vector<std::string>& printed) {
     const std::vector<std::string> expected = script.expected(command);
@@ -66,8 +60,8 @@ ExitStatus playScript(const Options& options) {
     std::unique_ptr<records::RecordScript> records;
     if (!options.data.empty()) {
         database = std::make_unique<Database>(options.data);
-        records = std::make_unique<records::RecordScript>(database->store(), fromUtf8(options.table).value_or(u""),
-                                                          session->home().region());
+        records =
+            std::make_unique<records::RecordScript>(database->store(), tableOf(options), session->home().region());
     }
     Player player(
         session->home(), options.files[0], [&](PlaySystem& system) { setClock(system, options); }, records.get());

@@ -2,15 +2,13 @@
 
 #include <filesystem>
 
-#include "apps/kelforms/Options.h"
 #include "forms/file/FormStore.h"
+#include "values/Text.h"
 
 #ifdef KEL_HAS_QT
 #include <QCoreApplication>
-#include <QLocale>
 
 #include "platform/headless/HeadlessHome.h"
-#include "platform/qt/home/QtRegion.h"
 #include "platform/qt/records/RecordWindow.h"
 #include "platform/qt/sql/SqlStore.h"
 #include "records/OpenTable.h"
@@ -62,8 +60,6 @@ bool askToAdd(const std::vector<records::Column>& columns) {
 
 }  // namespace
 
-RegionalSettings systemRegion() { return qt::regionFromLocale(QLocale::system()); }
-
 void mustShowRecords(const std::string& home) {
     if (home != "qt") throw UsageError("--on " + home + ": records are shown by the home qt alone");
 }
@@ -75,8 +71,6 @@ std::unique_ptr<RecordsWindow> openRecords(Form& form, Home& home, records::Stor
 }
 
 #else
-
-RegionalSettings systemRegion() { return defaultRegion(); }
 
 void mustShowRecords(const std::string&) { throw UsageError("--data: this program was built without databases"); }
 
@@ -91,6 +85,12 @@ Database::Database(const std::string& address) {
 #endif
 
 Database::~Database() = default;
+
+std::u16string tableOf(const Options& options) {
+    const auto name = fromUtf8(options.table);
+    if (!name) throw UsageError("--table: the name is not valid UTF-8");
+    return *name;
+}
 
 void mustBeThere(const std::string& address) {
     const bool isServer = address.find("://") != std::string::npos;

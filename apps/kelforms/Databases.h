@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "apps/kelforms/Options.h"
 #include "forms/Form.h"
 #include "records/Store.h"
 
@@ -28,8 +29,8 @@ private:
 /// For what only reads: opening a file that is not there would make one. Throws records::StoreError.
 void mustBeThere(const std::string& address);
 
-/// How the person's system writes numbers and dates.
-RegionalSettings systemRegion();
+/// What `--table` names; empty where it is left to the form. Throws UsageError.
+std::u16string tableOf(const Options& options);
 
 /// Throws UsageError where no window of this home shows records: before a database is made for one.
 void mustShowRecords(const std::string& home);

@@ -11,6 +11,7 @@
 #endif
 
 #include "apps/kelforms/Databases.h"
+#include "apps/kelforms/Homes.h"
 #include "controls/progress/KelProgressBar.h"
 #include "forms/file/FormStore.h"
 #include "platform/headless/HeadlessHome.h"
@@ -84,19 +85,18 @@ private:
 /// A form on a home that shows nothing, with the records of its table.
 struct ListSession {
     ListSession(const Options& options, bool mayMake)
-        : region(options.home.region != nullptr ? *options.home.region : systemRegion()),
+        : region(regionOf(options)),
           home(headless::makeHome({.region = &region})),
           file(readFormFile(options.files[0])),
           form(*home, home->system(), observer, file),
           database(options.data) {
-        const auto table = fromUtf8(options.table);
-        if (!table) throw UsageError("--table: the name is not valid UTF-8");
+        const std::u16string table = tableOf(options);
         records::Store& store = database.store();
-        if (!mayMake && !(table->empty() ? records::tableOfForm(store, file.block(0).name) : store.table(*table)))
+        if (!mayMake && !(table.empty() ? records::tableOfForm(store, file.block(0).name) : store.table(table)))
             throw records::StoreError(
                 records::StoreError::Kind::Wrong,
-                "The database has no table " + (table->empty() ? "for the form" : options.table) + ".");
-        records = store.open(records::openTable(store, form, *table, home->region(), {}));
+                "The database has no table " + (table.empty() ? "for the form" : options.table) + ".");
+        records = store.open(records::openTable(store, form, table, home->region(), {}));
     }
 
     RegionalSettings region;

@@ -27,7 +27,7 @@ public:
     QString typeName(const records::Column& column) const;
     /// Declares the key of a new table, whose values the database gives.
     virtual QString keyDeclaration(const QString& quotedName) const = 0;
-    /// Behind a query that reads what is to be changed at once.
+    /// After a query that reads what is to be changed at once.
     virtual QString forUpdate() const = 0;
     /// Before that, so that nobody comes between.
     virtual QString beginToChange() const = 0;
@@ -39,14 +39,16 @@ public:
     virtual QString versionQuery() const = 0;
     /// Finds an index by which a table is read in the order of a column; is given both names.
     virtual QString indexQuery() const = 0;
-    /// What stands behind a column in an index, so that a record without a value is in front.
+    /// What stands after a column in an index, so that a record without a value comes first.
     virtual QString indexSuffix() const = 0;
 
     /// Compares with a pattern without regard to case: "%" is anything, and "\\" comes before what means itself.
     virtual QString like() const = 0;
-    /// What stands behind some records of another table, to read for each of them in turn, by an index, the rows of a
-    /// table that meet a condition. Where it has a place for a value, that is how many of each are wanted at most.
+    /// What stands after some records of another table, to read for each of them in turn, by an index, the rows of a
+    /// table that meet a condition.
     virtual QString rowsForEach(const QString& table, const QString& condition, const QString& orderBy) const = 0;
+    /// Whether that wants a value: how many rows of each are wanted at most.
+    virtual bool wantsMostForEach() const = 0;
 
     /// The column in a query's list of what it reads.
     virtual QString readExpression(const records::Column& column) const { return quoted(column.name); }

@@ -67,6 +67,7 @@ public:
         return QStringLiteral(" CROSS JOIN LATERAL (SELECT * FROM %1 WHERE %2%3 LIMIT ?) AS kel_own")
             .arg(table, condition, orderBy);
     }
+    bool wantsMostForEach() const override { return true; }
 
     /// Days, times and decimal numbers as texts, which Qt does not round.
     QString readExpression(const Column& column) const override {

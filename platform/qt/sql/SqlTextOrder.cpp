@@ -93,7 +93,7 @@ std::vector<Record> SqlRecords::rowsOfOthers(const Condition& others, bool isRev
     if (isKnownQuick(order)) {
         pairs = Connection_.dialect().rowsForEach(Name_, isPointing(order), byKey);
         // No more of any is wanted than of all.
-        if (pairs.contains(QLatin1Char('?'))) values.append(static_cast<qlonglong>(skipped + count));
+        if (Connection_.dialect().wantsMostForEach()) values.append(static_cast<qlonglong>(skipped + count));
     }
     const QString row = rowTerm(QStringLiteral("kel_text"), texts.mayBeNothing(TextPlace), isDown) +
                         QLatin1String(", ") + rowTerm(QStringLiteral("kel_key"), false, isDown);

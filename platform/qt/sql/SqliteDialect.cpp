@@ -47,6 +47,7 @@ public:
     QString rowsForEach(const QString& table, const QString& condition, const QString& /*orderBy*/) const override {
         return QStringLiteral(" CROSS JOIN %1 ON %2").arg(table, condition);
     }
+    bool wantsMostForEach() const override { return false; }
 
     QVariant toSql(const Cell& cell, const Column& /*column*/) const override {
         if (const auto* const text = std::get_if<std::u16string>(&cell)) return toQString(*text);
