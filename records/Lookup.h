@@ -42,7 +42,7 @@ public:
     /// The text of a record, wherever it stands; the key alone where there is no such record. One that is not in the
     /// list is read, once until the list is.
     std::u16string textOf(const std::u16string& key) const;
-    /// Puts a record behind the list that is not in it, in the place of the one before that was put there.
+    /// Puts a record at the end of the list that is not in it, in the place of the one before that was put there.
     void add(const std::u16string& key);
     /// Adds the first record whose text begins so. False when there is none that is not in the list. Throws StoreError.
     bool addBeginningWith(const std::u16string& text);

@@ -27,7 +27,7 @@ bool standsAt(std::u16string_view text, std::size_t place, char16_t unit) {
     return place < text.size() && text[place] == unit;
 }
 
-/// Without the day in front, if there is one.
+/// Without the day before it, if there is one.
 std::u16string_view timeIn(std::u16string_view text) {
     const bool follows = standsAt(text, DayLength, u' ') || standsAt(text, DayLength, u'T');
     return follows ? text.substr(DayLength + 1) : text;

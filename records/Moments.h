@@ -13,9 +13,9 @@ namespace kel::records {
 std::u16string isoDay(Date date);
 std::u16string isoTime(Date date);
 
-/// The day at the front of a text, whether a time follows or not. Nothing where none stands there.
+/// The day that a text begins with, whether a time follows or not. Nothing where none stands there.
 std::optional<Date> readIsoDay(std::u16string_view text);
-/// The time of day of a text, behind a day or alone, to the second; what follows, such as a fraction or a zone, is
+/// The time of day of a text, after a day or alone, to the second; what follows, such as a fraction or a zone, is
 /// passed over. Nothing where there is none.
 std::optional<Date> readIsoTime(std::u16string_view text);
 

@@ -37,7 +37,7 @@ public:
 private:
     RecordStore* Store_;
     TextsOf TextsOf_;
-    std::vector<std::unique_ptr<Places>> Places_;  ///< the last that was asked for in front
+    std::vector<std::unique_ptr<Places>> Places_;  ///< the last that was asked for first
     std::shared_ptr<SearchTexts> Texts_;
 };
 

@@ -41,7 +41,7 @@ bool RecordForm::toEnd(Way way) {
 
 bool RecordForm::walk(Way way) {
     if (Shown_) return attempt([&] { return step(&*Shown_, way); });
-    // A new record stands behind all others.
+    // A new record comes after all others.
     return way == Way::Backward && toEnd(Way::Backward);
 }
 

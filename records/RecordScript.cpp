@@ -74,7 +74,7 @@ bool RecordScript::runAlone(std::u16string_view verb, std::u16string_view rest) 
         std::find_if(std::begin(Rows), std::end(Rows), [&](const Row& each) { return each.verb == verb; });
     const bool isUndo = verb == u"undo";
     if (row == std::end(Rows) && !isUndo) return false;
-    // A command with something behind it may mean another one, and none of these is taken back.
+    // A command with something after it may mean another one, and none of these is taken back.
     if (!rest.empty()) fail(std::u16string(verb) + u": \"" + std::u16string(rest) + u"\" is too much");
     if (isUndo)
         Form_->undo();

@@ -245,7 +245,7 @@ std::optional<std::pair<std::int64_t, std::int64_t>> SearchTexts::entryOf(const 
                      begin + static_cast<std::int64_t>(entries.find(AfterEntry, found)) + 1);
 }
 
-/// One that is new stands behind its nearest neighbour that is not.
+/// One that is new stands after its nearest neighbour that is not.
 std::optional<std::pair<std::int64_t, std::int64_t>> SearchTexts::placeOf(Cells key) const {
     if (const auto entry = entryOf(key)) return entry;
     for (std::size_t i = 0; i <= MostLater; ++i) {

@@ -23,7 +23,7 @@ using TextsOf = std::function<std::vector<std::u16string>(const Record& record)>
 /// What stands in the columns alone.
 std::vector<std::u16string> textsOfColumns(const Record& record);
 
-/// What all records of a table have to be found by, written down once behind one another, as looking a text through is
+/// What all records of a table have to be found by, written down once one after another, as looking a text through is
 /// a hundred times as fast as reading records. It stands in a temporary file, which is gone with the program, and is
 /// written a little at a time, while nobody waits. A record that is stored or deleted here is kept up with; where
 /// another program has changed something, all of it is written anew.
@@ -100,7 +100,7 @@ private:
     std::int64_t End_ = 0;             ///< of the file
     std::int64_t RowsEnd_ = 0;         ///< of the entries that stand as the table's records do
     std::vector<Landmark> Landmarks_;  ///< among these
-    std::vector<Landmark> Later_;      ///< all entries behind them
+    std::vector<Landmark> Later_;      ///< all entries after them
     std::vector<Cells> Pending_;       ///< keys of what was changed before all was written
     std::int64_t Spacing_ = 0;
     std::array<std::int64_t, 256> Frequency_{};  ///< of each byte

@@ -33,7 +33,7 @@ public:
     const std::u16string& column() const { return Column_; }
     /// For the person.
     std::u16string words() const;
-    /// The same behind what the person knows the column by: its field's caption, or its name where `caption` is empty.
+    /// The same after what the person knows the column by: its field's caption, or its name where `caption` is empty.
     std::u16string wordsAbout(const std::u16string& caption) const;
 
 private:
@@ -49,7 +49,7 @@ struct Record {
 };
 
 /// By which column records are put in a row; those that have the same there by their key. Without a column by the key.
-/// A record without a value stands in front of all others.
+/// A record without a value comes before all others.
 struct Order {
     std::optional<std::size_t> column{};
     bool descending = false;
@@ -93,7 +93,7 @@ public:
 
     virtual const Table& table() const = 0;
     /// From now on an order by `column`, which points to records of `other`, is that of their texts, and of their keys
-    /// where these are the same; who points to no record stands in front. `other` has two columns, key and text.
+    /// where these are the same; who points to no record comes first. `other` has two columns, key and text.
     virtual void orderByText(std::size_t column, const Table& other) = 0;
 
     /// As it is now; nothing when there is none of this key.
@@ -105,13 +105,13 @@ public:
     /// letters; in the order of these texts.
     virtual std::vector<Record> startingWith(std::size_t column, const std::u16string& beginning,
                                              std::int32_t count) = 0;
-    /// The record so many steps behind `from`, where 1 is the next; behind the first where `from` is nullptr.
+    /// The record so many steps after `from`, where 1 is the next; after the first where `from` is nullptr.
     virtual std::optional<Record> skip(const Record* from, std::int64_t steps, const Order& order) = 0;
-    /// How many stand behind `from` and before `to`; nullptr is the end on that side. It takes as long as there are
+    /// How many stand after `from` and before `to`; nullptr is the end on that side. It takes as long as there are
     /// many.
     virtual std::int64_t countBetween(const Record* from, const Record* to, const Order& order) = 0;
     std::int64_t count() { return countBetween(nullptr, nullptr, {}); }
-    /// Whether there is a record of this key, and it stands behind `from`.
+    /// Whether there is a record of this key, and it stands after `from`.
     virtual bool isBehind(const Cells& key, const Record& from, const Order& order) = 0;
     /// Whether it stands on this machine, where reading all of it disturbs nobody else.
     virtual bool isNear() = 0;

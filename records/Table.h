@@ -13,7 +13,7 @@ enum class ColumnType : std::uint8_t {
     Text,
     Integer,
     Real,     ///< double precision
-    Decimal,  ///< exact, with `decimals` behind the point
+    Decimal,  ///< exact, with `decimals` after the point
     Date,
     Time,
     Moment,  ///< a day with a time of day

@@ -15,10 +15,10 @@ namespace kel::records {
 class CsvReader {
 public:
     /// `list` outlives it. Without a separator it is the one of comma, semicolon and tab that the first line has most
-    /// of. A mark of the encoding in front of all is passed over.
+    /// of. A mark of the encoding before all else is passed over.
     explicit CsvReader(std::istream& list, char separator = 0);
 
-    /// Goes on to the next record; false behind the last one. Empty lines are none.
+    /// Goes on to the next record; false after the last one. Empty lines are none.
     bool next();
 
     std::size_t size() const { return Ends_.size(); }
@@ -45,8 +45,8 @@ private:
     std::istream& List_;
     std::string Buffer_;
     std::size_t Next_ = 0;
-    std::int64_t Before_ = 0;  ///< bytes in front of the buffer
-    std::string Text_;         ///< all values, one behind the other
+    std::int64_t Before_ = 0;  ///< bytes before the buffer
+    std::string Text_;         ///< all values, one after the other
     std::vector<std::size_t> Ends_;
     std::int64_t Line_ = 0;
     std::int64_t NextLine_ = 1;
@@ -58,7 +58,7 @@ private:
 /// Ends a record that is written.
 inline constexpr std::string_view CsvLineEnd = "\r\n";
 
-/// Puts a value behind those that the line has already.
+/// Puts a value after those that the line has already.
 void appendCsv(std::string& line, std::string_view value, char separator, bool isFirst);
 
 }  // namespace kel::records

@@ -24,7 +24,7 @@ public:
     /// Asked now and then, with the records that are written so far.
     using GoesOn = std::function<bool(std::int64_t records)>;
 
-    /// The number of records; the list ends behind a whole one when it was stopped. Throws StoreError.
+    /// The number of records; the list ends after a whole one when it was stopped. Throws StoreError.
     std::int64_t run(const ListFormat& format, const Write& write, const GoesOn& goesOn);
 
 private:

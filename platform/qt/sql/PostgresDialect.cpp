@@ -21,7 +21,7 @@ QString between(const QString& text, QLatin1String before, QChar after) {
     return from < 0 ? QString() : text.mid(from + before.size()).section(after, 0, 0);
 }
 
-/// What has happened, of all that a server says: without the severity in front, the place in a function and the code.
+/// What has happened, of all that a server says: without the severity before it, the place in a function and the code.
 QString happened(const QString& text) {
     static const QRegularExpression Severity(QStringLiteral(R"(^\p{Lu}+:  )"));
     static const QRegularExpression Rest(QStringLiteral(R"(\n(\p{Lu}+:  |LINE \d|\([0-9A-Z]{5}\)).*$)"),

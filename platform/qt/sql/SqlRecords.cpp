@@ -88,7 +88,7 @@ std::vector<std::size_t> SqlRecords::rowColumns(const Order& order) const {
     return columns;
 }
 
-/// A record without a value stands in front of all others, in every database.
+/// A record without a value comes before all others, in every database.
 QString SqlRecords::rowTerm(const QString& name, bool mayBeNothing, bool isDown) {
     const QString nothing = mayBeNothing ? QLatin1String(isDown ? " NULLS LAST" : " NULLS FIRST") : QLatin1String();
     return name + QLatin1String(isDown ? " DESC" : " ASC") + nothing;

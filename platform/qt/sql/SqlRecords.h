@@ -58,7 +58,7 @@ private:
     QVariant valueOf(const records::Record& record, std::size_t place) const;
     /// By which columns records are put in a row, the key last.
     std::vector<std::size_t> rowColumns(const records::Order& order) const;
-    /// All that stands behind `from` in the row, or in front of it: in one stretch or two, in the row's order, each of
+    /// All that stands after `from` in the row, or before it: in one stretch or two, in the row's order, each of
     /// which an index finds. All of it where `from` is nullptr.
     std::vector<Condition> beyond(const records::Record* from, bool isBehind, const records::Order& order) const;
 
@@ -74,11 +74,11 @@ private:
     SqlRecords* textsOf(const records::Order& order) const;
     /// Nothing where the record points to none, or to one that is not there.
     std::optional<records::Record> pointedTo(const records::Record& record, const records::Order& order);
-    /// The records that point to none, in front of all others.
+    /// The records that point to none, before all others.
     Condition pointless(const records::Order& order);
     /// Whether some point to one that is not there, which only a file allows.
     bool hasStrays(const records::Order& order, bool isSoughtBeside = false);
-    /// Those behind `from`, or in front of it, that point to the same one.
+    /// Those after `from`, or before it, that point to the same one.
     Condition beside(const records::Record& from, bool isBehind, const records::Order& order) const;
     /// Each with its text and its key as "kel_text" and "kel_key", which no column of this table is called.
     QString others(const Condition& condition) const;

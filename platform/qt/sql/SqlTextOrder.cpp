@@ -1,6 +1,6 @@
 #include "platform/qt/sql/SqlRecords.h"
 
-/// Records in the row of the texts of another table's records: in front those that point to none, then for each of the
+/// Records in the row of the texts of another table's records: first those that point to none, then for each of the
 /// others, in the row of their texts, those that point to it.
 namespace kel::qt {
 
