@@ -111,6 +111,9 @@ public:
     /// Left mouse button into the field, the caret to `position` (past the end: the end).
     virtual void click(PlacedControl& control, std::int32_t position) = 0;
 
+    /// The same twice, the second time soon after.
+    virtual void doubleClick(PlacedControl& control, std::int32_t position) = 0;
+
     /// Right mouse button in the field; its context menu is closed again unused.
     virtual void rightClick(PlacedControl& control) = 0;
 

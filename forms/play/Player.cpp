@@ -136,12 +136,14 @@ PlacedControl& Player::controlNamed(const ScriptCommand& command, const std::str
 void Player::execute(const ScriptCommand& command, const std::string& scriptFile) {
     FormWindow& window = Form_->window();
     const auto control = [&]() -> PlacedControl& { return controlNamed(command, scriptFile); };
+    const auto position = [&] { return command.numbers.empty() ? INT32_MAX : command.numbers[0]; };
     switch (command.verb) {
         case Verb::Tab: press({keys::Tab, 0, NoModifier}, command); break;
         case Verb::BackTab: press({keys::Tab, 0, ShiftKey}, command); break;
         case Verb::Key: press(command.stroke, command); break;
         case Verb::Focus: window.focus(control()); break;
-        case Verb::Click: window.click(control(), command.numbers.empty() ? INT32_MAX : command.numbers[0]); break;
+        case Verb::Click: window.click(control(), position()); break;
+        case Verb::DoubleClick: window.doubleClick(control(), position()); break;
         case Verb::Menu: window.rightClick(control()); break;
         case Verb::Type:
             for (std::u16string_view rest = command.text; !rest.empty();) window.press(strokeFor(takeCodePoint(rest)));

@@ -21,7 +21,7 @@ enum class Shape : std::uint8_t {
     Nothing,         // where
     Count,           // tab [N]
     Name,            // show NAME
-    NameNumber,      // click NAME [POSITION], pick NAME ITEM
+    NameNumber,      // click NAME [POSITION], double NAME [POSITION], pick NAME ITEM
     NameTwoNumbers,  // resize NAME WIDTH HEIGHT
     Text,            // type TEXT
     Clipboard,       // paste TEXT
@@ -46,6 +46,7 @@ constexpr VerbRow Verbs[] = {
     {u"backtab", Verb::BackTab, Shape::Count, 0, 1},
     {u"focus", Verb::Focus, Shape::Name},
     {u"click", Verb::Click, Shape::NameNumber, 0, 1},
+    {u"double", Verb::DoubleClick, Shape::NameNumber, 0, 1},
     {u"type", Verb::Type, Shape::Text},
     {u"key", Verb::Key, Shape::KeyCount, 0, 1},
     {u"paste", Verb::Paste, Shape::Clipboard},

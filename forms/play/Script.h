@@ -26,6 +26,7 @@ struct ScriptCommand {
         BackTab,
         Focus,
         Click,
+        DoubleClick,
         Type,
         Key,
         Paste,

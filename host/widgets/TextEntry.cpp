@@ -269,6 +269,11 @@ void TextEntry::click(std::int32_t position) {
     releaseMouse(true);
 }
 
+void TextEntry::clickAgain(std::int32_t position) {
+    press({.position = position, .clicks = 2});
+    releaseMouse(true);
+}
+
 bool TextEntry::turnWheelBy(std::int32_t turned) {
     if (turned == 0 || !hasFocus() || !takesInput() || !Listener_.Text1_UsesWheel()) return false;
     const bool turnedBack = (turned > 0) != (WheelRest_ > 0);

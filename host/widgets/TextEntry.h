@@ -130,6 +130,7 @@ public:
     /// The left button comes up; what had been pressed in the box and is let go over it is a click.
     void releaseMouse(bool inside);
     void click(std::int32_t position) override;
+    void clickAgain(std::int32_t position) override;
     void rightClick() override { pressMouse(MouseButton::Right); }
 
     /// In fractions of a notch, away from the user counting up. Whether it was turned for this box, which has the

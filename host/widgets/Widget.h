@@ -132,6 +132,8 @@ public:
     virtual bool strike(const KeyStroke& stroke) = 0;
     /// The left mouse button, pressed and released; `position` in the text, if it has one, may be past either end.
     virtual void click(std::int32_t /*position*/) {}
+    /// The same once more, soon after.
+    virtual void clickAgain(std::int32_t position) { click(position); }
     virtual void rightClick() {}
     /// The key of the mnemonic that leads here.
     virtual void pressMnemonic() { setFocus(); }

@@ -122,6 +122,11 @@ void HeadlessWindow::click(PlacedControl& control, std::int32_t position) {
     byMouseInField(control, [position](FieldWidget& field) { field.click(position); });
 }
 
+void HeadlessWindow::doubleClick(PlacedControl& control, std::int32_t position) {
+    click(control, position);
+    byMouseInField(control, [position](FieldWidget& field) { field.clickAgain(position); });
+}
+
 void HeadlessWindow::rightClick(PlacedControl& control) {
     byMouseInField(control, [](FieldWidget& field) { field.rightClick(); });
 }

@@ -25,6 +25,7 @@ public:
     void press(const KeyStroke& stroke) override;
     void focus(PlacedControl& control) override;
     void click(PlacedControl& control, std::int32_t position) override;
+    void doubleClick(PlacedControl& control, std::int32_t position) override;
     void rightClick(PlacedControl& control) override;
     void spin(PlacedControl& control, bool up) override;
     void pick(PlacedControl& control, std::int32_t item) override;

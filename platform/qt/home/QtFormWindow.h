@@ -1,13 +1,13 @@
 #pragma once
 
 #include <memory>
+#include <QEvent>
 #include <vector>
 
 #include "forms/Home.h"
 #include "host/focus/TabOrder.h"
 #include "platform/qt/control/ControlSite.h"
 
-class QEvent;
 class QLabel;
 class QWidget;
 
@@ -28,6 +28,7 @@ public:
     void press(const KeyStroke& stroke) override;
     void focus(PlacedControl& control) override;
     void click(PlacedControl& control, std::int32_t position) override;
+    void doubleClick(PlacedControl& control, std::int32_t position) override;
     void rightClick(PlacedControl& control) override;
     void spin(PlacedControl& control, bool up) override;
     void pick(PlacedControl& control, std::int32_t item) override;
@@ -52,6 +53,7 @@ private:
     void nameByLabels();
     PlacedQtControl* focusedControl() const;
     void activate();
+    void click(PlacedControl& control, std::int32_t position, QEvent::Type press);
     template <class Action>
     void byMouse(PlacedControl& control, Action action);
 

@@ -41,7 +41,7 @@ void giveFocusByClick(QWidget& widget) {
 }
 
 void sendMouse(QWidget& area, QEvent::Type type, Qt::MouseButton button, const QPoint& place) {
-    const bool held = type == QEvent::MouseButtonPress;
+    const bool held = type != QEvent::MouseButtonRelease;
     QMouseEvent event(type, place, area.mapToGlobal(place), button, held ? button : Qt::NoButton, Qt::NoModifier);
     QApplication::sendEvent(&area, &event);
 }
@@ -50,13 +50,11 @@ void sendMouse(QWidget& area, QEvent::Type type, Qt::MouseButton button) {
     sendMouse(area, type, button, area.rect().center());
 }
 
-void clickLeft(QWidget& area, const QPoint& place) {
+void clickLeft(QWidget& area, const QPoint& place, QEvent::Type press = QEvent::MouseButtonPress) {
     const QPointer<QWidget> pressed = &area;
-    sendMouse(area, QEvent::MouseButtonPress, Qt::LeftButton, place);
+    sendMouse(area, press, Qt::LeftButton, place);
     if (!pressed.isNull()) sendMouse(*pressed, QEvent::MouseButtonRelease, Qt::LeftButton, place);
 }
-
-void clickLeft(QWidget& area) { clickLeft(area, area.rect().center()); }
 
 void clickItem(ComboList& list, std::int32_t item) {
     const QModelIndex row = list.model()->index(item, 0);
@@ -119,11 +117,20 @@ void QtFormWindow::byMouse(PlacedControl& control, Action action) {
     settle();
 }
 
-void QtFormWindow::click(PlacedControl& control, std::int32_t position) {
-    byMouse(control, [position](FieldView& field, const QPointer<QWidget>& area) {
+void QtFormWindow::click(PlacedControl& control, std::int32_t position, QEvent::Type press) {
+    byMouse(control, [&](FieldView& field, const QPointer<QWidget>& area) {
         if (auto* const input = dynamic_cast<TextInput*>(&field)) input->aim(position);
-        clickLeft(*area);
+        clickLeft(*area, area->rect().center(), press);
     });
+}
+
+void QtFormWindow::click(PlacedControl& control, std::int32_t position) {
+    click(control, position, QEvent::MouseButtonPress);
+}
+
+void QtFormWindow::doubleClick(PlacedControl& control, std::int32_t position) {
+    click(control, position);
+    click(control, position, QEvent::MouseButtonDblClick);
 }
 
 void QtFormWindow::rightClick(PlacedControl& control) {

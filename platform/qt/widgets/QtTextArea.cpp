@@ -204,7 +204,7 @@ void QtTextArea::mousePressEvent(QMouseEvent* event) {
     const std::int32_t aim = takeAim(-1);
     PressClicks_ = clicksOf(*event);
     if (PressClicks_ > 1) {
-        box().press({.position = positionAt(*event), .clicks = PressClicks_});
+        box().press({.position = aim >= 0 ? aim : positionAt(*event), .clicks = PressClicks_});
         return;
     }
     QPlainTextEdit::mousePressEvent(event);

@@ -27,6 +27,7 @@ public:
     void press(const KeyStroke& stroke) override;
     void focus(PlacedControl& control) override;
     void click(PlacedControl& control, std::int32_t position) override;
+    void doubleClick(PlacedControl& control, std::int32_t position) override;
     void rightClick(PlacedControl& control) override;
     void spin(PlacedControl& control, bool up) override;
     void pick(PlacedControl& control, std::int32_t item) override;
@@ -58,6 +59,7 @@ private:
     bool canHaveFocusAgain(HWND window) const;
 
     void activate();
+    void click(PlacedControl& control, std::int32_t position, UINT press);
     HWND keyTarget() const;
     void postKey(const KeyStroke& stroke);
     void strikeSent(std::int16_t code);

@@ -39,8 +39,8 @@ void postMouse(HWND target, UINT message, WPARAM buttons, POINT place) {
     PostMessageW(target, message, buttons, MAKELPARAM(place.x, place.y));
 }
 
-void postLeftClick(HWND target, POINT place) {
-    postMouse(target, WM_LBUTTONDOWN, MK_LBUTTON, place);
+void postLeftClick(HWND target, POINT place, UINT press = WM_LBUTTONDOWN) {
+    postMouse(target, press, MK_LBUTTON, place);
     postMouse(target, WM_LBUTTONUP, 0, place);
 }
 
@@ -118,16 +118,23 @@ void Win32FormWindow::focus(PlacedControl& control) {
     Session_.settle(true);
 }
 
-void Win32FormWindow::click(PlacedControl& control, std::int32_t position) {
+void Win32FormWindow::click(PlacedControl& control, std::int32_t position, UINT press) {
     focus(control);
     auto& placed = static_cast<PlacedWin32Control&>(control);
     HWND const field = placed.focusWindow();
     auto* const entry = viewOf<Win32TextEntry>(control.control().widgets().entry);
     if (field == nullptr)
-        postLeftClick(placed.window().enabled() ? seenAtCenter(placed.window().handle()) : Window_, {});
+        postLeftClick(placed.window().enabled() ? seenAtCenter(placed.window().handle()) : Window_, {}, press);
     else
-        postLeftClick(field, entry != nullptr ? aimedAt(field, entry->showPosition(position)) : centerOf(field));
+        postLeftClick(field, entry != nullptr ? aimedAt(field, entry->showPosition(position)) : centerOf(field), press);
     Session_.settle(true);
+}
+
+void Win32FormWindow::click(PlacedControl& control, std::int32_t position) { click(control, position, WM_LBUTTONDOWN); }
+
+void Win32FormWindow::doubleClick(PlacedControl& control, std::int32_t position) {
+    click(control, position);
+    click(control, position, WM_LBUTTONDBLCLK);
 }
 
 void Win32FormWindow::rightClick(PlacedControl& control) {
