@@ -264,8 +264,6 @@ void EditInput::pressedAgain(int clicks, POINT place) {
     Entry_.setFocus();
     if (window() == nullptr || !Entry_.takesInput()) return;
     Entry_.press({.position = static_cast<std::int32_t>(positionAt(window(), place, Entry_)), .clicks = clicks});
-    // To the host the second one belongs to the first one's click, as with the system's own boxes.
-    if (clicks == 2) Entry_.releaseMouse(false);
 }
 
 int EditInput::clicksOf(UINT message, POINT place) {
