@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "values/Text.h"
+
 /// Keys as the controls see them: virtual key codes for key-down, character codes for key-press.
 namespace kel {
 
@@ -24,6 +26,8 @@ inline constexpr std::int16_t Delete = 46;
 inline constexpr std::int16_t Decimal = 110;  ///< the numeric keypad's decimal key
 inline constexpr std::int16_t F4 = 115;
 inline constexpr std::int16_t Packet = 231;  ///< a character that comes from no key of its own
+/// The character that Ctrl and Backspace make, and the Delete key on some systems.
+inline constexpr char32_t DeleteCharacter = 127;
 }  // namespace keys
 
 /// Modifier keys held down, as a sum.
@@ -58,11 +62,10 @@ constexpr bool seeksMnemonic(const KeyStroke& stroke) {
     return stroke.character != 0 && (stroke.modifiers & (ControlKey | AltKey)) == AltKey;
 }
 
-/// A character, or a control character that means something to a field. Tab goes by its key, and what the Delete key
-/// gives on some systems does too; half of a pair is no character.
+/// A character, or a control character that means something to a field. Tab and deleting go by their keys; half of a
+/// pair is no character.
 constexpr bool canBeStruck(char32_t character) {
-    const bool isHalf = character >= 0xD800 && character <= 0xDFFF;
-    return character != 0 && character != keys::Tab && character != 0x7F && !isHalf;
+    return character != 0 && character != keys::Tab && character != keys::DeleteCharacter && !isHalfPair(character);
 }
 
 /// The stroke that types `character`, or gives a control character as terminals send them.

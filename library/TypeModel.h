@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -17,6 +16,7 @@
 #include "library/KelDateDaysFlag.h"
 #include "library/Message.h"
 #include "values/Coercion.h"
+#include "values/Text.h"
 #include "values/Variant.h"
 
 /// The public surface of the library as data. Each class writes its members, events and persisted
@@ -455,7 +455,7 @@ public:
             if (find(rows, rows[i].id) != &rows[i]) throw "two members have one identifier";
             std::size_t slot = hashOf(rows[i].name) % Slots;
             for (; Rows_[slot] != 0; slot = (slot + 1) % Slots)
-                if (sameName(rows[Rows_[slot] - 1U].name, rows[i].name)) throw "two members have one name";
+                if (equalsIgnoringCase(rows[Rows_[slot] - 1U].name, rows[i].name)) throw "two members have one name";
             Rows_[slot] = static_cast<std::uint8_t>(i + 1);
         }
         for (const MemberRow& row : rows)
@@ -466,7 +466,7 @@ public:
     constexpr const MemberRow* find(std::span<const MemberRow> rows, std::u16string_view name) const {
         for (std::size_t slot = hashOf(name) % Slots; Rows_[slot] != 0; slot = (slot + 1) % Slots) {
             const MemberRow& row = rows[Rows_[slot] - 1U];
-            if (sameName(row.name, name)) return &row;
+            if (equalsIgnoringCase(row.name, name)) return &row;
         }
         return nullptr;
     }
@@ -480,17 +480,10 @@ public:
 private:
     static constexpr std::size_t Slots = 64;
     static constexpr std::size_t MostMembers = 40;
-    static constexpr char16_t lower(char16_t unit) {
-        return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
-    }
     static constexpr std::size_t hashOf(std::u16string_view name) {
         std::uint32_t hash = 2166136261U;
-        for (const char16_t unit : name) hash = (hash ^ lower(unit)) * 16777619U;
+        for (const char16_t unit : name) hash = (hash ^ toLowerAscii(unit)) * 16777619U;
         return hash;
-    }
-    static constexpr bool sameName(std::u16string_view one, std::u16string_view other) {
-        return std::equal(one.begin(), one.end(), other.begin(), other.end(),
-                          [](char16_t left, char16_t right) { return lower(left) == lower(right); });
     }
     std::array<std::uint8_t, Slots> Rows_{};
     std::array<std::int32_t, MostMembers> Ids_{};

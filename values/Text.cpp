@@ -16,8 +16,6 @@ constexpr std::array<char16_t, 32> Windows1252Upper = {0x20AC, 0x0081, 0x201A, 0
                                                        0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                                        0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-constexpr bool isHalfPair(char32_t point) { return point >= 0xD800 && point <= 0xDFFF; }
-
 /// The code point at `position`, which is moved after it; half a pair by itself is one.
 char32_t takeCodePoint(std::u16string_view text, std::size_t& position) {
     const char16_t unit = text[position++];
@@ -91,11 +89,6 @@ void appendCodePoint(std::u16string& text, char32_t code) {
         text.push_back(static_cast<char16_t>(0xD7C0U + (code >> 10)));
         text.push_back(static_cast<char16_t>(0xDC00U + (code & 0x3FFU)));
     }
-}
-
-bool equalsIgnoringCase(std::u16string_view left, std::u16string_view right) {
-    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                      [](char16_t a, char16_t b) { return toLowerAscii(a) == toLowerAscii(b); });
 }
 
 bool hasHalfPair(std::u16string_view text) {

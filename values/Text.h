@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -11,6 +12,7 @@ namespace kel {
 
 constexpr bool isHighSurrogate(char16_t unit) { return (unit & 0xFC00) == 0xD800; }
 constexpr bool isLowSurrogate(char16_t unit) { return (unit & 0xFC00) == 0xDC00; }
+constexpr bool isHalfPair(char32_t point) { return point >= 0xD800 && point <= 0xDFFF; }
 
 /// True where a cut at `position` would separate the two halves of a surrogate pair.
 constexpr bool splitsPair(std::u16string_view text, std::size_t position) {
@@ -40,7 +42,10 @@ constexpr char16_t toLowerAscii(char16_t unit) {
 }
 
 /// Equality without regard to the case of ASCII letters, as member and property names are compared.
-bool equalsIgnoringCase(std::u16string_view left, std::u16string_view right);
+constexpr bool equalsIgnoringCase(std::u16string_view left, std::u16string_view right) {
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                      [](char16_t a, char16_t b) { return toLowerAscii(a) == toLowerAscii(b); });
+}
 
 /// What becomes of half a surrogate pair, which UTF-8 has no form for.
 enum class HalfPairs : std::uint8_t {
