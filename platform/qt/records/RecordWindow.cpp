@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QStatusBar>
 #include <QStyle>
@@ -110,11 +111,7 @@ public:
     /// Meanwhile nothing is found out beside: what is not all stored yet may be undone.
     template <class Action>
     void workThrough(Action action) {
-        struct Flag {
-            bool& isSet;
-            ~Flag() { isSet = false; }
-        } const flag{IsWorking_};
-        IsWorking_ = true;
+        const QScopedValueRollback working(IsWorking_, true);
         action();
     }
 

@@ -4,6 +4,7 @@
 #include <atomic>
 #include <chrono>
 #include <exception>
+#include <QScopedValueRollback>
 #include <QSqlError>
 #include <QUrl>
 #include <thread>
@@ -45,17 +46,6 @@ QString nextName() {
 }
 
 }  // namespace
-
-class SqlConnection::Serving {
-public:
-    explicit Serving(SqlConnection& connection) : IsWaiting_(connection.IsWaiting_) { IsWaiting_ = true; }
-    ~Serving() { IsWaiting_ = false; }
-    Serving(const Serving&) = delete;
-    Serving& operator=(const Serving&) = delete;
-
-private:
-    bool& IsWaiting_;
-};
 
 SqlAddress addressOf(const std::string& database) {
     SqlAddress address;
@@ -190,7 +180,7 @@ void SqlConnection::patiently(Action action, bool isUndone) {
             if (!isWorthAnotherTry(error, isUndone) || std::chrono::steady_clock::now() > start + Patience) throw;
         }
         {
-            const Serving serving(*this);
+            const QScopedValueRollback waiting(IsWaiting_, true);
             if (Waiting_) Waiting_();
         }
         const auto waited = std::chrono::steady_clock::now() - start;
@@ -265,7 +255,7 @@ void SqlConnection::beside(const std::function<void(SqlConnection&)>& work) {
         isDone = true;
     });
     {
-        const Serving serving(*this);
+        const QScopedValueRollback waiting(IsWaiting_, true);
         while (!isDone) {
             if (Waiting_) Waiting_();
             std::this_thread::sleep_for(Beside);

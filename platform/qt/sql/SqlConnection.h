@@ -72,7 +72,6 @@ public:
 
 private:
     /// The window is being served.
-    class Serving;
 
     void setUp();
     void open();
