@@ -9,6 +9,13 @@
 
 namespace kel::win32 {
 
+/// What comes with the message of a key that goes down, or up.
+inline LPARAM keyData(std::int16_t code, bool alt, bool up) {
+    constexpr LPARAM Released = static_cast<LPARAM>(0xC0000000U);
+    const auto scan = static_cast<LPARAM>(MapVirtualKeyW(static_cast<UINT>(code), MAPVK_VK_TO_VSC));
+    return 1 | (scan << 16) | (alt ? LPARAM{KF_ALTDOWN} << 16 : 0) | (up ? Released : 0);
+}
+
 /// Has these modifier keys of the thread down while it lives, the others not, and perhaps one more key.
 class HeldKeys {
 public:

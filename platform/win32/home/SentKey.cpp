@@ -49,10 +49,9 @@ bool SentKeys::add(HWND target, WPARAM code) {
         Sent->Hook_ = hook;
     }
     Sent->Keys_.push_back({target, code});
-    constexpr LPARAM Released = static_cast<LPARAM>(0xC0000000U);
-    const auto data = 1 | static_cast<LPARAM>(MapVirtualKeyW(static_cast<UINT>(code), MAPVK_VK_TO_VSC)) << 16;
-    PostMessageW(target, WM_KEYDOWN, code, data);
-    PostMessageW(target, WM_KEYUP, code, data | Released);
+    const auto key = static_cast<std::int16_t>(code);
+    PostMessageW(target, WM_KEYDOWN, code, keyData(key, false, false));
+    PostMessageW(target, WM_KEYUP, code, keyData(key, false, true));
     return true;
 }
 

@@ -14,12 +14,6 @@ namespace kel::win32 {
 
 namespace {
 
-LPARAM keyData(std::int16_t code, bool alt, bool up) {
-    constexpr LPARAM Released = static_cast<LPARAM>(0xC0000000U);
-    const auto scan = static_cast<LPARAM>(MapVirtualKeyW(static_cast<UINT>(code), MAPVK_VK_TO_VSC));
-    return 1 | (scan << 16) | (alt ? LPARAM{KF_ALTDOWN} << 16 : 0) | (up ? Released : 0);
-}
-
 /// What an unshifted key types.
 char32_t characterOf(std::int16_t code) {
     const UINT unit = MapVirtualKeyW(static_cast<UINT>(code), MAPVK_VK_TO_CHAR) & 0xFFFFU;

@@ -3,7 +3,6 @@
 #include <imm.h>
 
 #include <algorithm>
-#include <cstdlib>
 
 #include "platform/win32/base/AtEnd.h"
 #include "platform/win32/base/WideText.h"
@@ -14,7 +13,7 @@ namespace kel::win32 {
 
 namespace {
 
-bool isControl(char32_t character) { return character < U' ' || character == DeleteCharacter; }
+bool isControl(char32_t character) { return character < U' ' || character == keys::DeleteCharacter; }
 
 char32_t takeFirst(std::u16string_view& units) { return units.empty() ? 0 : takeCodePoint(units); }
 
@@ -222,9 +221,9 @@ void EditInput::takeCommitted() {
 EditInput::Answer EditInput::handleMouse(UINT message, WPARAM wide, LPARAM data) {
     switch (message) {
         case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
         case WM_RBUTTONDOWN:
         case WM_MBUTTONDOWN: pressed(message, wide, data); return 0;
-        case WM_LBUTTONDBLCLK: pressedAgain(clicksOf(message, placeIn(data)), placeIn(data)); return 0;
         case WM_MOUSEWHEEL: return wheelTurned(wide, data);
         case WM_LBUTTONUP:
         case WM_MOUSEMOVE:
@@ -244,26 +243,24 @@ void EditInput::released(POINT place) {
     Entry_.releaseMouse(PtInRect(&area, place) != FALSE);
 }
 
-/// The focus comes first, with all that the field does then; the caret is set into what stands there after it.
+/// The focus comes first, with all that the field does then; the caret is set into what stands there after it. Of a
+/// second press and a third the system's window hears nothing: it would take the blank after a word along, and knows no
+/// third one.
 void EditInput::pressed(UINT message, WPARAM wide, LPARAM data) {
-    if (const int clicks = clicksOf(message, placeIn(data)); clicks > 1) return pressedAgain(clicks, placeIn(data));
+    const POINT place = placeIn(data);
+    const int clicks = clicksOf(message, place);
     Entry_.pressedAnywhere();
     Entry_.setFocus();
     if (window() == nullptr || !Entry_.takesInput()) return;
+    if (clicks > 1) {
+        Entry_.press({.position = static_cast<std::int32_t>(positionAt(window(), place, Entry_)), .clicks = clicks});
+        return;
+    }
     View_.base(message, wide, data);
     if (message == WM_LBUTTONDOWN) View_.readSelection();
     Entry_.pressMouse(message == WM_LBUTTONDOWN   ? MouseButton::Left
                       : message == WM_RBUTTONDOWN ? MouseButton::Right
                                                   : MouseButton::Middle);
-}
-
-/// The system's window would take the blank after a word along, and knows no third click; it hears nothing of these,
-/// so that it drags nothing.
-void EditInput::pressedAgain(int clicks, POINT place) {
-    Entry_.pressedAnywhere();
-    Entry_.setFocus();
-    if (window() == nullptr || !Entry_.takesInput()) return;
-    Entry_.press({.position = static_cast<std::int32_t>(positionAt(window(), place, Entry_)), .clicks = clicks});
 }
 
 int EditInput::clicksOf(UINT message, POINT place) {

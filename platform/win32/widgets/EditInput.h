@@ -8,9 +8,6 @@
 
 namespace kel::win32 {
 
-/// What Ctrl and Backspace make; no character to type.
-inline constexpr char16_t DeleteCharacter = 127;
-
 /// What comes to an edit window, keys, mouse, menus, input methods and other programs, on its way to the text.
 class EditInput {
 public:
@@ -38,7 +35,6 @@ private:
     void placeInputMethod() const;
     void takeCommitted();
     void pressed(UINT message, WPARAM wide, LPARAM data);
-    void pressedAgain(int clicks, POINT place);
     /// That a press of a button is, with those before it: the second selects a word, the third a line.
     int clicksOf(UINT message, POINT place);
     void released(POINT place);
