@@ -3,14 +3,14 @@
 #include <algorithm>
 #include <chrono>
 
+#include "records/Landmarks.h"
+
 namespace kel::records {
 
 namespace {
 
 constexpr std::int64_t FirstSpacing = 1000;
-constexpr std::size_t MostLandmarks = 4096;
 constexpr int MostInterrupted = 3;
-constexpr auto Slice = std::chrono::milliseconds(5);
 
 }  // namespace
 
@@ -57,10 +57,7 @@ void Places::remember(std::int64_t place, Record record) {
     for (std::size_t i = 0; i < record.cells.size(); ++i)
         if (i != Order_.column && !Store_->table().isKey(i)) record.cells[i] = Null{};
     Landmarks_.push_back({place, std::move(record)});
-    if (Landmarks_.size() < MostLandmarks) return;
-    for (std::size_t i = 1; i < Landmarks_.size(); i += 2) Landmarks_[i / 2] = std::move(Landmarks_[i]);
-    Landmarks_.resize(Landmarks_.size() / 2);
-    Spacing_ *= 2;
+    if (thinned(Landmarks_, 1)) Spacing_ *= 2;
 }
 
 // ---- What is known

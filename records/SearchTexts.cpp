@@ -4,16 +4,15 @@
 #include <chrono>
 #include <cstring>
 
+#include "records/Landmarks.h"
 #include "values/Text.h"
 
 namespace kel::records {
 
 namespace {
 
-constexpr std::int32_t AtOnce = 200;
-constexpr auto Slice = std::chrono::milliseconds(5);
-constexpr std::int64_t FirstSpacing = 500;
-constexpr std::size_t MostLandmarks = 4096;
+constexpr std::int32_t RecordsAtOnce = 200;
+constexpr std::int64_t FirstEntrySpacing = 500;
 constexpr std::size_t MostLater = 1000;
 constexpr std::size_t Chunk = std::size_t{256} << 10U;  ///< what a processor has at hand
 
@@ -25,7 +24,7 @@ constexpr char BeforeKey = '\xFE';
 constexpr char AfterEntry = '\xFF';
 
 std::string wordOf(const Cell& cell) {
-    struct Writer {
+    struct WordWriter {
         std::string operator()(Null) const { return "n"; }
         std::string operator()(std::int64_t whole) const { return "i" + std::to_string(whole); }
         std::string operator()(double number) const {
@@ -44,7 +43,7 @@ std::string wordOf(const Cell& cell) {
             return text;
         }
     };
-    return std::visit(Writer{}, cell);
+    return std::visit(WordWriter{}, cell);
 }
 
 Cell cellOf(std::string_view word) {
@@ -120,7 +119,7 @@ void SearchTexts::beginAnew(const Version& version) {
     Landmarks_.clear();
     Later_.clear();
     Pending_.clear();
-    Spacing_ = FirstSpacing;
+    Spacing_ = FirstEntrySpacing;
     Frequency_ = {};
 }
 
@@ -143,19 +142,16 @@ void SearchTexts::append(const Record& record, std::vector<Landmark>& noted) {
     if (&noted == &Later_ || Written_ % Spacing_ == 0) noted.push_back({End_, keyOf(Store_->table(), record)});
     End_ += static_cast<std::int64_t>(entry.size());
     ++Written_;
-    if (Landmarks_.size() < MostLandmarks) return;
-    for (std::size_t i = 0; i < Landmarks_.size(); i += 2) Landmarks_[i / 2] = std::move(Landmarks_[i]);
-    Landmarks_.resize((Landmarks_.size() + 1) / 2);
-    Spacing_ *= 2;
+    if (thinned(Landmarks_, 0)) Spacing_ *= 2;
 }
 
 bool SearchTexts::writeOn() {
     const auto end = std::chrono::steady_clock::now() + Slice;
     while (!IsWhole_ && File_) {
-        const std::vector<Record> some = Store_->walk(Last_ ? &*Last_ : nullptr, Way::Forward, AtOnce, {});
+        const std::vector<Record> some = Store_->walk(Last_ ? &*Last_ : nullptr, Way::Forward, RecordsAtOnce, {});
         for (const Record& record : some) append(record, Landmarks_);
         if (!some.empty()) Last_ = some.back();
-        if (some.size() < static_cast<std::size_t>(AtOnce)) IsWhole_ = isWholeNow();
+        if (some.size() < static_cast<std::size_t>(RecordsAtOnce)) IsWhole_ = isWholeNow();
         if (std::chrono::steady_clock::now() > end) break;
     }
     return !IsWhole_ && File_;
