@@ -11,8 +11,6 @@ namespace {
 
 using namespace calendar;
 
-constexpr std::int32_t DaysPerWeek = 7;
-
 bool isSerial(std::int64_t serial) { return serial >= FirstSerial && serial <= LastSerial; }
 
 std::int32_t secondOfDay(Date date) {

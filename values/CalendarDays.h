@@ -10,6 +10,7 @@
 namespace kel::calendar {
 
 inline constexpr std::int32_t MonthsPerYear = 12;
+inline constexpr std::int32_t DaysPerWeek = 7;
 inline constexpr std::chrono::sys_days Epoch = std::chrono::year{1899} / 12 / 30;
 
 /// Of a day that the calendar has.

@@ -13,11 +13,10 @@ namespace kel {
 
 namespace {
 
+using calendar::DaysPerWeek;
 using detail::Clock;
 using detail::DatePair;
 using detail::DateStep;
-
-constexpr std::int32_t DaysPerWeek = 7;
 
 /// Days of the week that come before this day of the year's week is over, counted from the week's first day.
 constexpr std::int32_t daysIntoWeek(std::int32_t weekday, std::int32_t firstDay) {

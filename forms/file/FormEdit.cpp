@@ -12,7 +12,7 @@ namespace {
 
 using LineId = FormModel::LineId;
 
-constexpr std::u16string_view Blanks = u" \t";
+constexpr std::u16string_view IndentCharacters = u" \t";
 constexpr std::u16string_view IndentStep = u"   ";
 constexpr std::u16string_view GapBeforeValue = u"   ";
 constexpr std::size_t ClassicColumn = 16;
@@ -36,7 +36,7 @@ struct HeadLayout {
 };
 
 HeadLayout layoutOf(std::u16string_view head) {
-    const std::size_t name = std::min(head.find_first_not_of(Blanks), head.size());
+    const std::size_t name = std::min(head.find_first_not_of(IndentCharacters), head.size());
     const std::size_t equals = head.find(u'=', name);
     const std::size_t nameEnd = head.find_first_of(u" \t=", name);
     return {std::u16string(head.substr(0, name)), equals - name, equals - nameEnd,
@@ -77,7 +77,7 @@ std::optional<HeadLayout> layoutIn(const FormModel& model, FormBlockId block) {
 HeadLayout layoutFor(const FormModel& model, FormBlockId block) {
     if (auto own = layoutIn(model, block)) return *std::move(own);
     const std::u16string begin = decode(model.contentOf(model.spans[block].begin), model.encoding);
-    const std::u16string indent = begin.substr(0, begin.find_first_not_of(Blanks)).append(IndentStep);
+    const std::u16string indent = begin.substr(0, begin.find_first_not_of(IndentCharacters)).append(IndentStep);
     for (FormBlockId outer = model.blocks[block].parent; outer != NoFormBlock; outer = model.blocks[outer].parent) {
         if (auto layout = layoutIn(model, outer)) {
             layout->indent = indent;

@@ -74,12 +74,12 @@ private:
     QString Log_;
 };
 
-void settle() { QCoreApplication::processEvents(); }
+void handleEvents() { QCoreApplication::processEvents(); }
 
 void showActive(QWidget& window) {
     window.show();
     QApplication::setActiveWindow(&window);
-    settle();
+    handleEvents();
 }
 
 /// To the widget with the focus; Qt offers it as a shortcut first.
@@ -88,7 +88,7 @@ void strike(int key, const QString& text = {}) {
         QKeyEvent event(type, key, Qt::NoModifier, text);
         QApplication::sendEvent(QApplication::focusWidget(), &event);
     }
-    settle();
+    handleEvents();
 }
 
 template <class Field>
@@ -304,7 +304,7 @@ TEST_F(MappedFields, LeaveWhatIsOnlyLookedAt) {
         mapper.setCurrentIndex(record);
         for (QWidget* const field : Fields) {
             field->setFocus();
-            settle();
+            handleEvents();
         }
         EXPECT_TRUE(mapper.submit());
     }
@@ -314,14 +314,14 @@ TEST_F(MappedFields, LeaveWhatIsOnlyLookedAt) {
 TEST_F(MappedFields, StoreWhatIsTyped) {
     mapper.setCurrentIndex(1);
     day.setFocus();
-    settle();
+    handleEvents();
     QTest::keyClicks(QApplication::focusWidget(), "15/03/2013");
     strike(Qt::Key_Tab);
     EXPECT_EQ(table.records()[1], "NULL NULL '2013-03-15' NULL NULL NULL 1") << "by leaving the field";
     mapper.setCurrentIndex(0);
     const auto retype = [](QWidget& field, const char* text) {
         field.setFocus();
-        settle();
+        handleEvents();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Delete);
         QTest::keyClicks(QApplication::focusWidget(), text);
@@ -333,7 +333,7 @@ TEST_F(MappedFields, StoreWhatIsTyped) {
     paid.setFocus();
     strike(Qt::Key_Space, " ");
     name.setFocus();
-    settle();
+    handleEvents();
     EXPECT_EQ(table.records()[0], "'Ida' 7.25 '2013-03-15' NULL 'Basel' 0 1");
 }
 
@@ -404,7 +404,7 @@ TEST(OneWidget, EditsTheCellsOfATable) {
             strike(row.key);
         else
             other.setFocus();
-        settle();
+        handleEvents();
         EXPECT_EQ(model.index(0, 0).data(Qt::EditRole).toDate(), row.stored);
         EXPECT_EQ(view.currentIndex().row(), row.row);
         EXPECT_EQ(view.findChild<KelDateWidget*>() != nullptr, row.row == 1) << "the next cell is edited after Tab";

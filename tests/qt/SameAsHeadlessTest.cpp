@@ -77,7 +77,7 @@ private:
 
 using Step = std::function<void(Worked&)>;
 
-constexpr std::u16string_view Texts[] = {
+constexpr std::u16string_view TypedTexts[] = {
     u"",           u"abc",     u"red, green.", u"x\r\ny",          u"\U0001F600a\U0001F600",
     u"1,234.5",    u"a\rb\nc", u"e\u0301 x",   u"1\r\n\r\n3\r\n4", u"(a.b)  c",
     u"15/03/2013", u"-7",
@@ -127,7 +127,7 @@ Step command(Dice& dice) {
 Step hand(Dice& dice) {
     const std::size_t field = dice.below(Fields);
     const auto position = static_cast<std::int32_t>(dice.below(12));
-    const std::u16string_view text = dice.oneOf(Texts);
+    const std::u16string_view text = dice.oneOf(TypedTexts);
     const bool up = dice.below(2) == 0;
     const std::size_t list = dice.oneOf({LimitedField, FreeField});
     const auto item = static_cast<std::int32_t>(dice.below(7));
@@ -146,7 +146,7 @@ Step hand(Dice& dice) {
 Step program(Dice& dice) {
     const std::size_t field = dice.below(TextFields);
     const auto number = static_cast<std::int16_t>(dice.below(10));
-    const std::u16string text(dice.oneOf(Texts));
+    const std::u16string text(dice.oneOf(TypedTexts));
     const std::size_t list = dice.oneOf({LimitedField, FreeField});
     switch (dice.below(17)) {
         case 11:

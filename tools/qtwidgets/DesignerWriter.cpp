@@ -14,7 +14,7 @@ namespace kel::qtwidgets {
 
 namespace {
 
-std::string quoted(std::string_view text) {
+std::string literal(std::string_view text) {
     std::string literal = "\"";
     for (const char unit : text) {
         if (unit == '"' || unit == '\\') literal += '\\';
@@ -59,13 +59,13 @@ std::string usualName(const ClassModel& model, const MemberRow& member) {
 
 void writeUsual(std::ostream& out, const ClassModel& model, const MemberRow& member) {
     out << "\nconstexpr const char* " << usualName(model, member) << "[] = {";
-    for (const std::u16string_view choice : member.design.choices) out << "\n    " << quoted(toUtf8(choice)) << ',';
+    for (const std::u16string_view choice : member.design.choices) out << "\n    " << literal(toUtf8(choice)) << ',';
     out << "\n};\n";
 }
 
 void writeProperty(std::ostream& out, const ClassModel& model, const MemberRow& member) {
     const std::string editor = member.design.linesWhere.empty() ? "\"singleline\"" : "\"multiline\"";
-    out << "    {" << quoted(qtNameOf(model, member)) << ",\n     " << quoted(helpOf(model, member)) << ",\n     "
+    out << "    {" << literal(qtNameOf(model, member)) << ",\n     " << literal(helpOf(model, member)) << ",\n     "
         << (isText(model, member) ? editor : "nullptr") << ", " << (isForPeople(member) ? "true" : "false") << ", {"
         << usualName(model, member) << "}},\n";
 }
@@ -99,8 +99,8 @@ void writePicture(std::ostream& out, const ClassModel& model) {
 
 void writeWidget(std::ostream& out, const ClassModel& model) {
     const std::string name = widgetName(model);
-    out << "        {" << quoted(name) << ", " << quoted(titleOf(model)) << ", " << quoted(objectNameOf(model))
-        << ",\n         " << quoted(toUtf8(model.help)) << ",\n         " << name
+    out << "        {" << literal(name) << ", " << literal(titleOf(model)) << ", " << literal(objectNameOf(model))
+        << ",\n         " << literal(toUtf8(model.help)) << ",\n         " << name
         << "Picture, [](QWidget* parent) -> QWidget* { return new " << name << "(parent); }, " << name
         << "Properties},\n";
 }

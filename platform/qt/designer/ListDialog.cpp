@@ -47,9 +47,9 @@ ListDialog::ListDialog(const QString& items, const QString& tags, QWidget* paren
         return action;
     };
     button(addAction(tr("&Add"), Qt::Key_Insert, &ListDialog::addItem));
-    Remove_ = button(addAction(tr("&Remove"), Qt::CTRL | Qt::Key_Delete, &ListDialog::removeItem));
-    Up_ = button(addAction(tr("Move &Up"), Qt::CTRL | Qt::Key_Up, &ListDialog::moveUp));
-    Down_ = button(addAction(tr("Move &Down"), Qt::CTRL | Qt::Key_Down, &ListDialog::moveDown));
+    Remove_ = button(addAction(tr("&Remove"), QKeyCombination(Qt::CTRL, Qt::Key_Delete), &ListDialog::removeItem));
+    Up_ = button(addAction(tr("Move &Up"), QKeyCombination(Qt::CTRL, Qt::Key_Up), &ListDialog::moveUp));
+    Down_ = button(addAction(tr("Move &Down"), QKeyCombination(Qt::CTRL, Qt::Key_Down), &ListDialog::moveDown));
     button(addAction(tr("&Paste"), QKeySequence::Paste, &ListDialog::paste));
     keys->addStretch();
     connect(Table_, &QTableWidget::currentCellChanged, this, &ListDialog::showActions);

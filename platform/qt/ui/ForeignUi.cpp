@@ -124,7 +124,7 @@ template <const char* const& Name>
 const char* always(BlockReader& /*block*/) {
     return Name;
 }
-constexpr const char* Label = "QLabel";
+constexpr const char* PlainLabel = "QLabel";
 constexpr const char* Button = "QPushButton";
 constexpr const char* Check = "QCheckBox";
 constexpr const char* Option = "QRadioButton";
@@ -139,7 +139,7 @@ void writeNothing(BlockReader& /*block*/, UiWriter& /*ui*/) {}
 constexpr ForeignUi Unknown{.formClass = {}, .qtClass = always<Frame>, .write = writeUnknown};
 
 constexpr ForeignUi Known[] = {
-    {.formClass = LabelClass, .qtClass = always<Label>, .write = writeNothing},
+    {.formClass = LabelClass, .qtClass = always<PlainLabel>, .write = writeNothing},
     {.formClass = FrameClass, .qtClass = frameClass, .write = writeFrame},
     {.formClass = u"VB.PictureBox", .qtClass = always<Frame>, .write = writePicture},
     {.formClass = u"VB.Line", .qtClass = always<Line>, .write = writeLine},

@@ -19,8 +19,8 @@ Var truth(bool value) {
 }
 
 /// A control in a host, and a person in front of it.
-struct Scene {
-    explicit Scene(const wchar_t* programId)
+struct AmbientScene {
+    explicit AmbientScene(const wchar_t* programId)
         : control(host.place(create(programId))), sink(false, classOf(control.get())) {
         host.Bounds.right = 310;
         adviseEvents(control.get(), &sink, classOf(control.get()));
@@ -45,59 +45,59 @@ struct Scene {
     EventSink sink;
 };
 
-void work(Scene& scene, const wchar_t* classPart, UINT message, WPARAM wide) {
+void work(AmbientScene& scene, const wchar_t* classPart, UINT message, WPARAM wide) {
     HWND const part = scene.part(classPart);
     SetFocus(part);
     PostMessageW(part, message, wide, 1);
     settle();
 }
 
-void cutAll(Scene& scene) {
+void cutAll(AmbientScene& scene) {
     SetFocus(scene.part(L"Edit"));
     SendMessageW(scene.part(L"Edit"), EM_SETSEL, 0, -1);
     work(scene, L"Edit", WM_CUT, 0);
 }
 
-void pressMnemonic(Scene& scene) {
+void pressMnemonic(AmbientScene& scene) {
     MSG pressed{};
     scene.control.as<IOleControl>()->OnMnemonic(&pressed);
 }
 
 /// What a person does, and the property that tells whether it came to anything.
-struct Deed {
+struct AmbientDeed {
     const wchar_t* programId;
     const wchar_t* member;
-    NamedDeed<Scene> deed;
+    NamedDeed<AmbientScene> deed;
 };
 
-const Deed Deeds[] = {
-    {L"KelControls8.KelText", L"Text", {"typing", [](Scene& s) { work(s, L"Edit", WM_CHAR, L'a'); }}},
-    {L"KelControls8.KelNumber", L"Value", {"arrow", [](Scene& s) { work(s, L"Edit", WM_KEYDOWN, VK_UP); }}},
+const AmbientDeed AmbientDeeds[] = {
+    {L"KelControls8.KelText", L"Text", {"typing", [](AmbientScene& s) { work(s, L"Edit", WM_CHAR, L'a'); }}},
+    {L"KelControls8.KelNumber", L"Value", {"arrow", [](AmbientScene& s) { work(s, L"Edit", WM_KEYDOWN, VK_UP); }}},
     {L"KelControls8.KelNumber",
      L"Value",
-     {"wheel", [](Scene& s) { work(s, L"Edit", WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA)); }}},
-    {L"KelControls8.KelDate", L"Value", {"spinner", [](Scene& s) { pressSpinner(s.part(L"UpDown"), true); }}},
+     {"wheel", [](AmbientScene& s) { work(s, L"Edit", WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA)); }}},
+    {L"KelControls8.KelDate", L"Value", {"spinner", [](AmbientScene& s) { pressSpinner(s.part(L"UpDown"), true); }}},
     {L"KelControls8.KelCombo", L"Text", {"menu", &cutAll}},
     {L"KelControls8.KelCheck",
      L"Value",
      {"click",
-      [](Scene& s) {
+      [](AmbientScene& s) {
           click(s.part(L"CheckBox"), {8, 8});
       }}},
-    {L"KelControls8.KelCheck", L"Value", {"mnemonic", [](Scene& s) { pressMnemonic(s); }}},
+    {L"KelControls8.KelCheck", L"Value", {"mnemonic", [](AmbientScene& s) { pressMnemonic(s); }}},
 };
 
 }  // namespace
 
 TEST(ambient_design_and_a_dead_form_take_no_input) {
-    for (const Deed& row : Deeds) {
+    for (const AmbientDeed& row : AmbientDeeds) {
         for (const DISPID ambient : {DISPID_AMBIENT_USERMODE, DISPID_AMBIENT_UIDEAD}) {
             const bool usual = ambient == DISPID_AMBIENT_USERMODE;
             const auto expect = [&](bool holds, const char* what) {
                 if (!holds)
                     fail(__FILE__, __LINE__, row.deed.name + std::string(usual ? ", designed: " : ", dead: ") + what);
             };
-            Scene scene(row.programId);
+            AmbientScene scene(row.programId);
             scene.open();
             if (row.deed.name == std::string("menu")) {
                 EXPECT_CODE(put(scene.control.get(), L"Text", Var(L"cut me").Value), S_OK);
@@ -118,7 +118,7 @@ TEST(ambient_design_and_a_dead_form_take_no_input) {
 }
 
 TEST(ambient_focus_checks_nothing_in_a_design) {
-    Scene scene(L"KelControls8.KelNumber");
+    AmbientScene scene(L"KelControls8.KelNumber");
     scene.host.Ambients[DISPID_AMBIENT_USERMODE] = truth(false);
     EXPECT_CODE(scene.control.as<IOleControl>()->OnAmbientPropertyChange(DISPID_UNKNOWN), S_OK);
     scene.open();
@@ -159,7 +159,7 @@ TEST(ambient_locale_is_how_numbers_and_dates_are_written_and_read) {
     };
     for (const Row& row : rows) {
         for (const bool atStart : {true, false}) {
-            Scene scene(row.programId);
+            AmbientScene scene(row.programId);
             const Ref<IOleObject> object = scene.control.as<IOleObject>();
             if (atStart) {
                 scene.host.Ambients[DISPID_AMBIENT_LOCALEID] = Var(row.locale);
@@ -201,19 +201,19 @@ Var fontOf(const wchar_t* name, int points) {
     return font;
 }
 
-std::wstring described(const std::wstring& name, double points) {
+std::wstring fontText(const std::wstring& name, double points) {
     return name + L", " + std::to_wstring(std::lround(points)) + L" points";
 }
 
 /// The system's font object names what it has found, which may be another font than was asked for.
-std::wstring described(const Var& font) {
+std::wstring fontText(const Var& font) {
     Ref<IFont> object;
     EXPECT_CODE(font.Value.pdispVal->QueryInterface(IID_IFont, object.receiveVoid()), S_OK);
     BSTR name = nullptr;
     CY size{};
     EXPECT_CODE(object->get_Name(&name), S_OK);
     EXPECT_CODE(object->get_Size(&size), S_OK);
-    return described(taken(name), static_cast<double>(size.int64) / 1e4);
+    return fontText(taken(name), static_cast<double>(size.int64) / 1e4);
 }
 
 std::wstring fontIn(HWND window) {
@@ -222,13 +222,13 @@ std::wstring fontIn(HWND window) {
     HDC const screen = GetDC(nullptr);
     const double points = std::abs(font.lfHeight) * 72.0 / GetDeviceCaps(screen, LOGPIXELSY);
     ReleaseDC(nullptr, screen);
-    return described(font.lfFaceName, points);
+    return fontText(font.lfFaceName, points);
 }
 
 /// The field's font once the form has said one of so many points, and what was said.
-std::pair<std::wstring, std::wstring> fontsAfter(Scene& scene, int points) {
+std::pair<std::wstring, std::wstring> fontsAfter(AmbientScene& scene, int points) {
     Var font = fontOf(L"Courier New", points);
-    const std::wstring said = described(font);
+    const std::wstring said = fontText(font);
     scene.host.say(DISPID_AMBIENT_FONT, std::move(font));
     return {fontIn(scene.part(L"Edit")), said};
 }
@@ -241,7 +241,7 @@ TEST(ambient_font_serves_where_the_run_time_object_has_none) {
         runtime.Default = create(L"KelRuntime8.Runtime");
         EXPECT_CODE(runtime.handOver(), S_OK);
         {
-            Scene scene(L"KelControls8.KelText");
+            AmbientScene scene(L"KelControls8.KelText");
             scene.open();
             const std::wstring own = fontIn(scene.part(L"Edit"));
             EXPECT_EQ(fontsAfter(scene, 12).first, own);
@@ -263,7 +263,7 @@ TEST(ambient_font_serves_where_the_run_time_object_has_none) {
 }
 
 TEST(ambient_looks_of_the_form) {
-    Scene scene(L"KelControls8.KelText");
+    AmbientScene scene(L"KelControls8.KelText");
     scene.open();
     constexpr COLORREF Ground = RGB(1, 2, 200);
     scene.host.say(DISPID_AMBIENT_BACKCOLOR, Var(static_cast<long>(Ground)));

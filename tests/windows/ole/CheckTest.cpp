@@ -12,14 +12,6 @@ namespace {
 
 Ref<_KelProgressBar> makeBar() { return create(L"KelControls8.KelProgressBar").as<_KelProgressBar>(); }
 
-/// The window of the only widget in a host's control.
-HWND widgetIn(const Host& host) {
-    HWND const control = GetWindow(host.window(), GW_CHILD);
-    HWND const widget = GetWindow(control, GW_CHILD);
-    EXPECT(widget != nullptr);
-    return widget;
-}
-
 }  // namespace
 
 TEST(check_mnemonic_focuses_and_toggles) {
@@ -37,7 +29,7 @@ TEST(check_mnemonic_focuses_and_toggles) {
     message.message = WM_SYSCHAR;
     message.wParam = L'a';
     EXPECT_CODE(control->OnMnemonic(&message), S_OK);
-    EXPECT(GetFocus() == widgetIn(host));
+    EXPECT(GetFocus() == widgetIn(host.window()));
     EXPECT_EQ(late(field.get(), L"Value"), L"bool True");
     EXPECT_CODE(field->put_Caption(Str(L"Agreed")), S_OK);
     EXPECT_CODE(control->GetControlInfo(&info), S_OK);

@@ -203,6 +203,9 @@ private:
     const ClassIdentity* Class_;
 };
 
+/// The event that every control has.
+inline constexpr DISPID ChangeId = 1;
+
 /// Connects `sink` to an outgoing interface of `object`; 0 when it was refused.
 DWORD advise(IUnknown* object, REFIID iid, IUnknown* sink);
 HRESULT unadvise(IUnknown* object, REFIID iid, DWORD cookie);

@@ -8,8 +8,7 @@ using namespace kel::tests;
 
 namespace {
 
-constexpr DISPID ChangeId = 1;
-constexpr DISPID CaptionId = 0x6803000E;
+constexpr DISPID CaptionMember = 0x6803000E;
 
 }  // namespace
 
@@ -99,7 +98,7 @@ TEST(reports_follow_the_setters) {
     EXPECT_CODE(field.as<IPersistStreamInit>()->IsDirty(), S_FALSE);
     EXPECT_CODE(field->put_Caption(Str(L"Name")), S_OK);
     EXPECT_CODE(field->put_Caption(Str(L"Name")), S_OK);
-    EXPECT((host.Changed == std::vector<DISPID>{DISPID_VALUE, CaptionId}));
+    EXPECT((host.Changed == std::vector<DISPID>{DISPID_VALUE, CaptionMember}));
     EXPECT_CODE(field.as<IPersistStreamInit>()->IsDirty(), S_OK);
 }
 

@@ -39,6 +39,12 @@ HWND descendant(HWND window, const wchar_t* classPart) {
     return search.found;
 }
 
+HWND widgetIn(HWND window) {
+    HWND const widget = GetWindow(GetWindow(window, GW_CHILD), GW_CHILD);
+    EXPECT(widget != nullptr);
+    return widget;
+}
+
 void postMouse(HWND target, UINT message, WPARAM buttons, POINT place) {
     PostMessageW(target, message, buttons, MAKELPARAM(place.x, place.y));
 }

@@ -10,6 +10,8 @@ void settle();
 
 /// The first window within `window` whose class has such a part in its name.
 HWND descendant(HWND window, const wchar_t* classPart);
+/// The window of the only widget in the control that a window holds.
+HWND widgetIn(HWND window);
 
 void postMouse(HWND target, UINT message, WPARAM buttons, POINT place);
 void drag(HWND target, POINT from, POINT to);

@@ -1,16 +1,12 @@
 // Objects and what they leave behind.
 
-#include <objsafe.h>
-
 #include <algorithm>
 #include <array>
 #include <cstdlib>
 
+#include "platform/win32/ole/com/ObjectSafety.h"
 #include "tests/windows/ole/Check.h"
 #include "tests/windows/ole/Host.h"
-
-// The system's header leaves it without.
-__CRT_UUID_DECL(IObjectSafety, 0xcb5bdc81, 0x93c1, 0x11cf, 0x8f, 0x20, 0x00, 0x80, 0x5f, 0x2c, 0xd0, 0x64)
 
 using namespace kel;
 using namespace kel::tests;

@@ -12,7 +12,6 @@ using namespace kel::tests;
 
 namespace {
 
-constexpr DISPID ChangeId = 1;
 constexpr DISPID ClickId = 2;
 constexpr DISPID ChangeExId = 3;
 
@@ -101,9 +100,6 @@ struct Deed {
 
 void spinUp(const Host& host) { pressSpinner(descendant(host.window(), L"UpDown"), true); }
 
-/// The window of the only widget in a control.
-HWND widgetIn(const Host& host) { return GetWindow(GetWindow(host.window(), GW_CHILD), GW_CHILD); }
-
 void pickLast(const Host& host) {
     COMBOBOXINFO parts{};
     parts.cbSize = sizeof parts;
@@ -120,10 +116,10 @@ const Deed Deeds[] = {
     {L"KelTime", &spinUp, {ChangeId}},
     {L"KelCheck",
      [](const Host& host) {
-         click(widgetIn(host), {100, 8});
+         click(widgetIn(host.window()), {100, 8});
      },
      {ChangeId}},
-    {L"KelCheck", [](const Host& host) { SendMessageW(widgetIn(host), BM_CLICK, 0, 0); }, {ChangeId}},
+    {L"KelCheck", [](const Host& host) { SendMessageW(widgetIn(host.window()), BM_CLICK, 0, 0); }, {ChangeId}},
     {L"KelCombo", &pickLast, {ChangeExId, ClickId, ChangeId}},
     {L"KelText",
      [](const Host& host) {
@@ -154,7 +150,7 @@ const Deed BoundDeeds[] = {
     {L"KelDate", [](const Host& host) { type(host, L"5"); }, {}},
     {L"KelTime", &spinUp, {}},
     {L"KelTime", [](const Host& host) { type(host, L"9"); }, {}},
-    {L"KelCheck", [](const Host& host) { SendMessageW(widgetIn(host), BM_CLICK, 0, 0); }, {}},
+    {L"KelCheck", [](const Host& host) { SendMessageW(widgetIn(host.window()), BM_CLICK, 0, 0); }, {}},
     {L"KelCombo", &pickLast, {}},
     {L"KelText", [](const Host& host) { type(host, L"a"); }, {}},
 };

@@ -1,11 +1,7 @@
 #pragma once
 
-#include <objsafe.h>
-
 #include "platform/win32/ole/com/ComObject.h"
-
-// The system's header leaves it without.
-__CRT_UUID_DECL(IObjectSafety, 0xcb5bdc81, 0x93c1, 0x11cf, 0x8f, 0x20, 0x00, 0x80, 0x5f, 0x2c, 0xd0, 0x64)
+#include "platform/win32/ole/com/ObjectSafety.h"
 
 namespace kel::win32::ole {
 
