@@ -15,12 +15,12 @@ namespace kel::qtwidgets {
 namespace {
 
 std::string literal(std::string_view text) {
-    std::string literal = "\"";
+    std::string out = "\"";
     for (const char unit : text) {
-        if (unit == '"' || unit == '\\') literal += '\\';
-        literal += unit;
+        if (unit == '"' || unit == '\\') out += '\\';
+        out += unit;
     }
-    return literal + '"';
+    return out + '"';
 }
 
 /// "Progress Bar".

@@ -71,8 +71,6 @@ public:
     bool setPatient(bool patient) { return std::exchange(IsPatient_, patient); }
 
 private:
-    /// The window is being served.
-
     void setUp();
     void open();
     void close();

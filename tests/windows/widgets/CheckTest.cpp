@@ -81,7 +81,6 @@ constexpr NamedDeed<CheckScene> Bars[] = {
 };
 
 constexpr DWORD Ground = 0xC0FFEE;
-constexpr DWORD Ink = 0xFF0000;
 constexpr int CaptionLeft = 16;  ///< pixels
 
 /// What the screen shows of it.

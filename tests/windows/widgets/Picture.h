@@ -8,6 +8,9 @@
 
 namespace kel::tests {
 
+/// A colour that no part of a control has by itself.
+inline constexpr DWORD Ink = 0xFF0000;
+
 /// A picture in memory, white at first.
 class Picture {
 public:

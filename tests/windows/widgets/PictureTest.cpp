@@ -13,8 +13,6 @@ namespace kel::tests {
 
 namespace {
 
-constexpr DWORD PictureInk = 0xFF0000;
-
 class PictureScene final : public Scene {
 public:
     PictureScene() : Scene(Width, Height) {
@@ -37,7 +35,7 @@ public:
     }
 
     /// Pixels of the ink between two columns, as they are on the screen at this moment.
-    int inkOnScreen(int left, int right) { return onScreen(PictureInk, left, right); }
+    int inkOnScreen(int left, int right) { return onScreen(Ink, left, right); }
     int groundOnScreen(int left, int right) {
         const COLORREF ground = GetSysColor(COLOR_BTNFACE);
         return onScreen(RGB(GetBValue(ground), GetGValue(ground), GetRValue(ground)), left, right);
@@ -91,12 +89,12 @@ TEST(picture_is_the_same_without_a_window) {
     scene.box().draw(shown);
     Picture picture;
     scene.drawInto(picture.context());
-    EXPECT_EQ(picture.count(PictureInk, 0, Width), scene.inkOnScreen(0, Width));
+    EXPECT_EQ(picture.count(Ink, 0, Width), scene.inkOnScreen(0, Width));
     EXPECT(scene.box().picture().text == shown.text);
 
     scene.changeHost();
     UpdateWindow(scene.window());
-    EXPECT_EQ(picture.count(PictureInk, 0, Width), scene.inkOnScreen(0, Width));
+    EXPECT_EQ(picture.count(Ink, 0, Width), scene.inkOnScreen(0, Width));
 }
 
 TEST(picture_is_a_progress_bar_for_those_who_cannot_see_it) {
