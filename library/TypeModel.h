@@ -569,6 +569,11 @@ private:
     std::array<Thunk, 32> Puts_{};  ///< of each row; nullptr where it has none
 };
 
+template <class ControlClass>
+std::unique_ptr<Control> makeControl(ControlHost& host) {
+    return std::make_unique<ControlClass>(host);
+}
+
 /// Everything that a host can know of a class.
 struct ClassModel {
     std::u16string_view name;

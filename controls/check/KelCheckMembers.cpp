@@ -4,7 +4,7 @@ namespace kel {
 
 namespace {
 
-constexpr MemberRow Members[] = {
+constexpr MemberRow KelCheckMembers[] = {
     property<&KelCheck::get_Caption, &KelCheck::put_Caption>(u"Caption", CaptionId, u"Text beside the check box")
         .savedAs<&KelCheck::loadCaption, &KelCheck::get_Caption>(u"")
         .in(Category::Appearance),
@@ -40,22 +40,20 @@ constexpr MemberRow Members[] = {
         .hiddenByReference(),
 };
 
-constexpr EventRow Events[] = {
+constexpr EventRow KelCheckEvents[] = {
     {u"Change", 1, u"The user has checked or unchecked the box"},
 };
 
-std::unique_ptr<Control> make(ControlHost& host) { return std::make_unique<KelCheck>(host); }
-
 }  // namespace
 
-constinit const EventRow KelCheck::Change = Events[0];
+constinit const EventRow KelCheck::Change = KelCheckEvents[0];
 
 constinit const ClassModel KelCheckModel{
     .name = u"KelCheck",
     .help = u"Check box with change tracking",
-    .members = Members,
-    .events = Events,
-    .makeControl = &make,
+    .members = KelCheckMembers,
+    .events = KelCheckEvents,
+    .makeControl = &makeControl<KelCheck>,
 };
 
 const ClassModel& KelCheck::model() const { return KelCheckModel; }

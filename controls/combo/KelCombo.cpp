@@ -17,7 +17,7 @@ namespace {
 constexpr std::int32_t WidestDropDown = 8000;
 constexpr std::int16_t NoListIndex = -1;
 constexpr std::int16_t TagSeparator = u',';
-constexpr EntryKind Kind{.disablesContainer = false};
+constexpr EntryKind ComboKind{.disablesContainer = false};
 
 std::int32_t wordStart(std::u16string_view text, std::int32_t position) {
     return static_cast<std::int32_t>(previousWord(text, static_cast<std::size_t>(position), false));
@@ -28,7 +28,9 @@ std::int32_t listPixels(std::int32_t twips) { return TwipScale(ClassicTwipsPerPi
 
 }  // namespace
 
-KelCombo::KelCombo(ControlHost& host) : Field_(host, *this, Kind), Combo1_(host.widgets, *this) { Field_.add(Combo1_); }
+KelCombo::KelCombo(ControlHost& host) : Field_(host, *this, ComboKind), Combo1_(host.widgets, *this) {
+    Field_.add(Combo1_);
+}
 
 void KelCombo::Initialize() { Combo1_.installFrame(Field_.host().settings.ButtonWidthPixels); }
 

@@ -9,7 +9,7 @@ namespace {
 /// The same items however they are quoted, as far as a combo takes them.
 bool isSameList(std::u16string_view left, std::u16string_view right) { return listItemsOf(left) == listItemsOf(right); }
 
-constexpr MemberRow Members[] = {
+constexpr MemberRow KelComboMembers[] = {
     entry::caption(0x68030013),
     entry::captionWidth(0x68030012),
     property<&KelCombo::get_Changed>(u"Changed", 0x68030011, u"The text differs from the original text"),
@@ -71,26 +71,24 @@ constexpr ParameterRow ChangeParameters[] = {
     {.name = u"Handled", .type = TypeTag::Boolean, .byReference = true},
 };
 
-constexpr EventRow Events[] = {
+constexpr EventRow KelComboEvents[] = {
     {u"Change", 1, u"The user has changed the text"},
     {u"Click", 2, u"The user has picked another item from the list"},
     {u"ChangeEx", 3, u"Comes first; Handled set to False holds Change and Click back", ChangeParameters},
 };
 
-std::unique_ptr<Control> make(ControlHost& host) { return std::make_unique<KelCombo>(host); }
-
 }  // namespace
 
-constinit const EventRow KelCombo::Change = Events[0];
-constinit const EventRow KelCombo::Click = Events[1];
-constinit const EventRow KelCombo::ChangeEx = Events[2];
+constinit const EventRow KelCombo::Change = KelComboEvents[0];
+constinit const EventRow KelCombo::Click = KelComboEvents[1];
+constinit const EventRow KelCombo::ChangeEx = KelComboEvents[2];
 
 constinit const ClassModel KelComboModel{
     .name = u"KelCombo",
     .help = u"Choice from a list with a caption; completes what is typed",
-    .members = Members,
-    .events = Events,
-    .makeControl = &make,
+    .members = KelComboMembers,
+    .events = KelComboEvents,
+    .makeControl = &makeControl<KelCombo>,
 };
 
 const ClassModel& KelCombo::model() const { return KelComboModel; }

@@ -6,7 +6,7 @@ namespace kel {
 
 namespace {
 
-constexpr EntryKind Kind{.hasCaptionFont = false};
+constexpr EntryKind DateTimeKind{.hasCaptionFont = false};
 
 }  // namespace
 
@@ -14,7 +14,7 @@ DateTimeField::DateTimeField(ControlHost& host, EntryControl& control, const Dat
                              const EventRow& change, std::u16string_view format, const DateBounds& bounds)
     : Rules_(rules),
       Change_(change),
-      Entry_(host, control, Kind),
+      Entry_(host, control, DateTimeKind),
       Text1_(host.widgets, *this),
       Format_(std::u16string(format)),
       Bounds_(bounds) {

@@ -5,12 +5,12 @@ namespace kel {
 
 namespace {
 
-constexpr std::u16string_view UsualFormats[] = {
+constexpr std::u16string_view UsualDateFormats[] = {
     u"dd/mm/yyyy",       u"dd/mm/yy",  u"mm/dd/yyyy", u"yyyy-mm-dd",  u"dd.mm.yyyy", u"dd mmm yyyy",
     u"dddd d mmmm yyyy", u"mmmm yyyy", u"Short Date", u"Medium Date", u"Long Date",
 };
 
-constexpr MemberRow Members[] = {
+constexpr MemberRow KelDateMembers[] = {
     entry::caption(0x6803000F),
     entry::captionWidth(0x6803000E),
     datetime::changed(0x6803000D),
@@ -21,7 +21,7 @@ constexpr MemberRow Members[] = {
         .in(Category::Behavior)
         .choices(KelDateDaysFlagNames),
     entry::enabled(),
-    datetime::format(u"How the date is shown and read, such as dd/mm/yyyy", DefaultDateFormat, UsualFormats),
+    datetime::format(u"How the date is shown and read, such as dd/mm/yyyy", DefaultDateFormat, UsualDateFormats),
     entry::insertMode(0x68030009, false),
     entry::locked(0x68030008, u"The value can be read and copied but not edited"),
     entry::mandatory(0x68030007),
@@ -39,25 +39,23 @@ constexpr MemberRow Members[] = {
     datetime::valueSaved(),
 };
 
-constexpr EventRow Events[] = {
+constexpr EventRow KelDateEvents[] = {
     {u"Change", 1, u"A step has changed the date"},
 };
 
-constexpr MessageRow Messages[] = {DateMessages.noValue, DateMessages.outOfRange};
-
-std::unique_ptr<Control> make(ControlHost& host) { return std::make_unique<KelDate>(host); }
+constexpr MessageRow KelDateMessages[] = {DateMessages.noValue, DateMessages.outOfRange};
 
 }  // namespace
 
-constinit const EventRow KelDate::Change = Events[0];
+constinit const EventRow KelDate::Change = KelDateEvents[0];
 
 constinit const ClassModel KelDateModel{
     .name = u"KelDate",
     .help = u"Date entry with a caption, free typing, a display format and a spinner",
-    .members = Members,
-    .events = Events,
-    .messages = Messages,
-    .makeControl = &make,
+    .members = KelDateMembers,
+    .events = KelDateEvents,
+    .messages = KelDateMessages,
+    .makeControl = &makeControl<KelDate>,
 };
 
 const ClassModel& KelDate::model() const { return KelDateModel; }

@@ -5,17 +5,17 @@ namespace kel {
 
 namespace {
 
-constexpr std::u16string_view UsualFormats[] = {
+constexpr std::u16string_view UsualTimeFormats[] = {
     u"hh:nn am/pm", u"hh:nn:ss am/pm", u"hh:nn", u"hh:nn:ss", u"h:nn", u"Short Time", u"Medium Time", u"Long Time",
 };
 
-constexpr MemberRow Members[] = {
+constexpr MemberRow KelTimeMembers[] = {
     entry::caption(0x6803000E),
     entry::captionWidth(0x6803000D),
     datetime::changed(0x6803000C),
     datetime::changedSaved(0x6803000B),
     entry::enabled(),
-    datetime::format(u"How the time is shown, such as hh:nn am/pm", DefaultTimeFormat, UsualFormats),
+    datetime::format(u"How the time is shown, such as hh:nn am/pm", DefaultTimeFormat, UsualTimeFormats),
     entry::insertMode(0x68030009, false),
     entry::locked(0x68030008, u"The value can be read and copied but not edited"),
     entry::mandatory(0x68030007),
@@ -33,25 +33,23 @@ constexpr MemberRow Members[] = {
     datetime::valueSaved(),
 };
 
-constexpr EventRow Events[] = {
+constexpr EventRow KelTimeEvents[] = {
     {u"Change", 1, u"A step has changed the time"},
 };
 
-constexpr MessageRow Messages[] = {TimeMessages.noValue, TimeMessages.outOfRange};
-
-std::unique_ptr<Control> make(ControlHost& host) { return std::make_unique<KelTime>(host); }
+constexpr MessageRow KelTimeMessages[] = {TimeMessages.noValue, TimeMessages.outOfRange};
 
 }  // namespace
 
-constinit const EventRow KelTime::Change = Events[0];
+constinit const EventRow KelTime::Change = KelTimeEvents[0];
 
 constinit const ClassModel KelTimeModel{
     .name = u"KelTime",
     .help = u"Time entry with a caption, a display format and a spinner",
-    .members = Members,
-    .events = Events,
-    .messages = Messages,
-    .makeControl = &make,
+    .members = KelTimeMembers,
+    .events = KelTimeEvents,
+    .messages = KelTimeMessages,
+    .makeControl = &makeControl<KelTime>,
     .datesAreTimes = true,
 };
 

@@ -12,13 +12,13 @@ namespace kel {
 namespace {
 
 constexpr std::int16_t RegionalDecimals = -1;
-constexpr EntryKind Kind{.hasCaptionFont = false, .captionWithinControl = true};
+constexpr EntryKind NumberKind{.hasCaptionFont = false, .captionWithinControl = true};
 
 std::int32_t unitsOf(std::size_t count) { return static_cast<std::int32_t>(count); }
 
 }  // namespace
 
-KelNumber::KelNumber(ControlHost& host) : Field_(host, *this, Kind), Text1_(host.widgets, *this) {
+KelNumber::KelNumber(ControlHost& host) : Field_(host, *this, NumberKind), Text1_(host.widgets, *this) {
     Field_.add(Text1_);
     Field_.addSpinner();
     takeDecimals();

@@ -5,7 +5,7 @@ namespace kel {
 
 namespace {
 
-constexpr MemberRow Members[] = {
+constexpr MemberRow KelNumberMembers[] = {
     entry::caption(0x68030012),
     entry::captionWidth(0x68030011),
     property<&KelNumber::get_Changed>(u"Changed", 0x68030010, u"The value differs from the original value"),
@@ -61,25 +61,23 @@ constexpr MemberRow Members[] = {
     entry::saved<&KelNumber::get_ValueSaved, &KelNumber::put_ValueSaved>(u"ValueSaved", 0x68030000),
 };
 
-constexpr EventRow Events[] = {
+constexpr EventRow KelNumberEvents[] = {
     {u"Change", 1, u"The spinner or the Up or Down key has changed the value"},
 };
 
-constexpr MessageRow Messages[] = {ValueMissing, ValueOutOfRange};
-
-std::unique_ptr<Control> make(ControlHost& host) { return std::make_unique<KelNumber>(host); }
+constexpr MessageRow KelNumberMessages[] = {ValueMissing, ValueOutOfRange};
 
 }  // namespace
 
-constinit const EventRow KelNumber::Change = Events[0];
+constinit const EventRow KelNumber::Change = KelNumberEvents[0];
 
 constinit const ClassModel KelNumberModel{
     .name = u"KelNumber",
     .help = u"Number entry with a caption, decimals, digit grouping and a spinner",
-    .members = Members,
-    .events = Events,
-    .messages = Messages,
-    .makeControl = &make,
+    .members = KelNumberMembers,
+    .events = KelNumberEvents,
+    .messages = KelNumberMessages,
+    .makeControl = &makeControl<KelNumber>,
 };
 
 const ClassModel& KelNumber::model() const { return KelNumberModel; }

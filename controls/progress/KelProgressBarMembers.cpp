@@ -4,7 +4,7 @@ namespace kel {
 
 namespace {
 
-constexpr MemberRow Members[] = {
+constexpr MemberRow KelProgressBarMembers[] = {
     method<&KelProgressBar::Clear>(u"Clear", 0x60030004, u"Wipes the bar and its text"),
     property<&KelProgressBar::get_Enabled, &KelProgressBar::put_Enabled>(u"Enabled", 0x68030003,
                                                                          u"The control is enabled"),
@@ -26,18 +26,16 @@ constexpr MemberRow Members[] = {
         u"Value", DefaultMemberId, u"How far the job is, within Min and Max; setting it moves the bar"),
 };
 
-constexpr MessageRow Messages[] = {Percentage, SecondsRemaining, MinutesRemaining};
-
-std::unique_ptr<Control> make(ControlHost& host) { return std::make_unique<KelProgressBar>(host); }
+constexpr MessageRow KelProgressBarMessages[] = {Percentage, SecondsRemaining, MinutesRemaining};
 
 }  // namespace
 
 constinit const ClassModel KelProgressBarModel{
     .name = u"KelProgressBar",
     .help = u"Progress bar with the percentage and an estimate of the time left",
-    .members = Members,
-    .messages = Messages,
-    .makeControl = &make,
+    .members = KelProgressBarMembers,
+    .messages = KelProgressBarMessages,
+    .makeControl = &makeControl<KelProgressBar>,
     .takesFocus = false,
 };
 

@@ -10,7 +10,7 @@ constexpr std::u16string_view LineBreak = u"\r\n";
 
 constexpr LayoutRule SingleLineLayout{.fixedHeight = false, .widenAlways = false};
 constexpr LayoutRule MultiLineLayout{.fixedHeight = false, .widenAlways = false, .captionFillsHeight = true};
-constexpr EntryKind Kind{.layout = SingleLineLayout};
+constexpr EntryKind TextKind{.layout = SingleLineLayout};
 
 bool isBlank(std::u16string_view text, bool multiLine) {
     return text.find_last_not_of(multiLine ? u" \r\n" : u" ") == std::u16string_view::npos;
@@ -26,7 +26,7 @@ char32_t maskOf(std::u16string_view text) {
 
 }  // namespace
 
-KelText::KelText(ControlHost& host) : Field_(host, *this, Kind) {
+KelText::KelText(ControlHost& host) : Field_(host, *this, TextKind) {
     Text1_[0] = std::make_unique<TextBox>(host.widgets, static_cast<TextBoxListener&>(*this));
     Field_.add(*Text1_[0]);
     Field_.initInsertMode(true);

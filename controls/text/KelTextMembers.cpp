@@ -5,7 +5,7 @@ namespace kel {
 
 namespace {
 
-constexpr MemberRow Members[] = {
+constexpr MemberRow KelTextMembers[] = {
     entry::caption(0x6803000E),
     entry::captionWidth(0x6803000D),
     property<&KelText::get_Changed>(u"Changed", 0x6803000C, u"The text differs from the original text"),
@@ -42,24 +42,22 @@ constexpr MemberRow Members[] = {
     property<&KelText::get_TextRaw>(u"TextRaw", 0x68030011, u"The text exactly as it stands in the field"),
 };
 
-constexpr EventRow Events[] = {
+constexpr EventRow KelTextEvents[] = {
     {u"Change", 1, u"The text changed, by typing or by code"},
     {u"Click", 2, u"The field was clicked"},
 };
 
-std::unique_ptr<Control> make(ControlHost& host) { return std::make_unique<KelText>(host); }
-
 }  // namespace
 
-constinit const EventRow KelText::Change = Events[0];
-constinit const EventRow KelText::Click = Events[1];
+constinit const EventRow KelText::Change = KelTextEvents[0];
+constinit const EventRow KelText::Click = KelTextEvents[1];
 
 constinit const ClassModel KelTextModel{
     .name = u"KelText",
     .help = u"Free text entry with a caption, single-line or multi-line",
-    .members = Members,
-    .events = Events,
-    .makeControl = &make,
+    .members = KelTextMembers,
+    .events = KelTextEvents,
+    .makeControl = &makeControl<KelText>,
 };
 
 const ClassModel& KelText::model() const { return KelTextModel; }

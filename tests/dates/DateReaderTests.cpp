@@ -24,21 +24,21 @@ std::string read(std::u16string_view text, std::u16string_view format, std::u16s
     return buffer;
 }
 
-struct Case {
+struct ReaderCase {
     std::u16string_view text;
     std::string_view date;
     std::u16string_view format = DayFirst;
     std::u16string_view region = u"en-GB";
 };
 
-void check(const std::vector<Case>& cases) {
-    for (const Case& test : cases)
+void checkRead(const std::vector<ReaderCase>& cases) {
+    for (const ReaderCase& test : cases)
         EXPECT_EQ(read(test.text, test.format, test.region), test.date)
             << toUtf8(test.text) << " by " << toUtf8(test.format) << " in " << toUtf8(test.region);
 }
 
 TEST(DateReader, ReadsNumbersInTheOrderOfTheFormat) {
-    check({
+    checkRead({
         {u"15/03/2013", "2013-03-15"},
         {u" 15. 3. 2013 ", "2013-03-15"},
         {u"(15)\u200F/3 / 2013!", "2013-03-15"},
@@ -57,7 +57,7 @@ TEST(DateReader, ReadsNumbersInTheOrderOfTheFormat) {
 }
 
 TEST(DateReader, FillsInWhatIsNotWritten) {
-    check({
+    checkRead({
         {u"15", "2013-03-15"},
         {u"5", "2013-05-10", u"mm/yyyy"},
         {u"15/4", "2013-04-15"},
@@ -76,7 +76,7 @@ TEST(DateReader, FillsInWhatIsNotWritten) {
 }
 
 TEST(DateReader, SplitsDigitsByTheirNumber) {
-    check({
+    checkRead({
         {u"15032013", "2013-03-15"},
         {u"15032013", "2013-03-15", u"yyyy-mm-dd"},
         {u"04052013", "2013-04-05", u"mm/dd/yyyy"},
@@ -98,7 +98,7 @@ TEST(DateReader, SplitsDigitsByTheirNumber) {
 }
 
 TEST(DateReader, KnowsNames) {
-    check({
+    checkRead({
         {u"15 March 2013", "2013-03-15"},
         {u"15mar2013", "2013-03-15"},
         {u"mar 15 13", "2013-03-15", u"mm/dd/yyyy"},
@@ -127,7 +127,7 @@ TEST(DateReader, KnowsNames) {
 }
 
 TEST(DateReader, MakesNothingUp) {
-    check({
+    checkRead({
         {u"", "none"},
         {u"31/02/2013", "none"},
         {u"03/15/2013", "none"},

@@ -10,7 +10,7 @@ namespace kel {
 namespace {
 
 const Date Today = *dateOf({2013, 3, 14});
-const Date Friday = *dateOf({2013, 3, 15});
+const Date March15 = *dateOf({2013, 3, 15});
 
 TEST(RuntimeDates, TakeEveryKindOfValue) {
     const struct {
@@ -19,14 +19,14 @@ TEST(RuntimeDates, TakeEveryKindOfValue) {
         Variant date;
         Variant time;
     } cases[] = {
-        {"a text of a date", std::u16string(u"15/3/2013"), Friday, Null{}},
+        {"a text of a date", std::u16string(u"15/3/2013"), March15, Null{}},
         {"a text of a time", std::u16string(u"6 pm"), Null{}, Date{0.75}},
         {"the empty text", std::u16string(), Null{}, Null{}},
-        {"a date", Friday, Friday, Date{0}},
-        {"a date and time", Date{41348.75}, Friday, Date{0.75}},
+        {"a date", March15, March15, Date{0}},
+        {"a date and time", Date{41348.75}, March15, Date{0.75}},
         {"a date before day 0", Date{-1.75}, Date{-1}, Date{0.75}},
         {"an integer", std::int16_t{2}, Date{2}, Date{0}},
-        {"a long integer", std::int32_t{41348}, Friday, Date{0}},
+        {"a long integer", std::int32_t{41348}, March15, Date{0}},
         {"nearly noon", 0.4999999, Date{0}, Date{0.5}},
         {"the last day", 2958465.5, Date{2958465}, Date{0.5}},
         {"the day after", 2958466.0, Null{}, Null{}},
@@ -48,11 +48,11 @@ TEST(RuntimeDates, TakeEveryKindOfValue) {
 TEST(RuntimeDates, FollowRegionFormatAndBirthdaySwitch) {
     RegionalServices services;
     const auto dates = makeRuntime(services)->RuntimeDates();
-    EXPECT_EQ(dates->ParseDate(std::u16string(u"15/3/13"), u"d/m/yy", Today, false), Variant(Friday));
+    EXPECT_EQ(dates->ParseDate(std::u16string(u"15/3/13"), u"d/m/yy", Today, false), Variant(March15));
     EXPECT_EQ(dates->ParseDate(std::u16string(u"15/3/13"), u"d/m/yy", Today, true), Variant(*dateOf({1913, 3, 15})));
-    EXPECT_EQ(dates->ParseDate(std::u16string(u"NOW"), u"m/d/yy", Date{41348.5}, false), Variant(Friday));
+    EXPECT_EQ(dates->ParseDate(std::u16string(u"NOW"), u"m/d/yy", Date{41348.5}, false), Variant(March15));
     services.Region = findRegion(u"de-DE");
-    EXPECT_EQ(dates->ParseDate(std::u16string(u"15. März"), u"d/m/yy", Today, false), Variant(Friday));
+    EXPECT_EQ(dates->ParseDate(std::u16string(u"15. März"), u"d/m/yy", Today, false), Variant(March15));
     EXPECT_EQ(dates->LastDayOfMonth({41348.5}), *dateOf({2013, 3, 31}));
 }
 

@@ -10,7 +10,7 @@
 namespace kel {
 namespace {
 
-constexpr DateParts Today{1987, 6, 24};
+constexpr DateParts TodayParts{1987, 6, 24};
 constexpr std::u16string_view Formats[] = {u"dd/mm/yyyy", u"m/d/yy", u"yyyy-mm-dd", u"ddmmyyyy", u"mm/yyyy"};
 
 using Number = std::u16string_view;
@@ -45,7 +45,7 @@ bool explains(const Numbers& numbers, const DateParts& date) {
     constexpr int Day = 0, Month = 1, Year = 2;
     std::array<int, 3> roles = {Day, Month, Year};
     do {
-        DateParts rest = Today;
+        DateParts rest = TodayParts;
         bool fits = numbers.size() <= roles.size();
         bool isWritten[3] = {};
         for (std::size_t at = 0; fits && at < numbers.size(); ++at) {
@@ -85,7 +85,7 @@ std::size_t readings(std::u16string_view text) {
     static const std::vector<DateFormat> formats(std::begin(Formats), std::end(Formats));
     std::size_t count = 0;
     for (const DateFormat& format : formats) {
-        const auto date = readDate(text, format, *dateOf(Today), TwoDigitYears::AnyTime, defaultRegion());
+        const auto date = readDate(text, format, *dateOf(TodayParts), TwoDigitYears::AnyTime, defaultRegion());
         if (!date) continue;
         ++count;
         if (isExplained(text, datePartsOf(*date))) continue;

@@ -19,15 +19,15 @@ FieldStep step(const char16_t* format, const char* before, std::optional<Date> v
     return stepTime(test::box(before, value), clock(10, 15, 30), delta, {compiled, bounds, defaultRegion()});
 }
 
-struct StepCase {
+struct TimeStepCase {
     const char* before;
     TimeParts value;
     int delta;
     const char* after;
 };
 
-void checkSteps(const char16_t* format, std::initializer_list<StepCase> cases) {
-    for (const StepCase& test : cases) {
+void checkSteps(const char16_t* format, std::initializer_list<TimeStepCase> cases) {
+    for (const TimeStepCase& test : cases) {
         SCOPED_TRACE(::testing::Message() << toUtf8(format) << ": " << test.before << " by " << test.delta);
         EXPECT_EQ(draw(step(format, test.before, timeOf(test.value), test.delta)), test.after);
     }

@@ -14,7 +14,7 @@
 namespace kel {
 namespace {
 
-constexpr double Largest = std::numeric_limits<double>::max();
+constexpr double LargestNumber = std::numeric_limits<double>::max();
 constexpr double Unread = -77;
 
 struct Reading {
@@ -61,7 +61,7 @@ TEST(NumberReader, ReadsWhatPeopleWrite) {
         {u"\u200E\u2212۵", -5, u"fa-IR"},
         {u"9007199254740993", 9007199254740992.0},
         {u"9007199254740993.0000000000000000001", 9007199254740994.0},
-        {u"179769313486231570000000000000000000000000000000000000000000e249", Largest},
+        {u"179769313486231570000000000000000000000000000000000000000000e249", LargestNumber},
         {u"0.00000000000000000000000000000000000123456789012345678901", 1.2345678901234568e-36},
     };
     for (const auto& test : cases) {
@@ -97,12 +97,12 @@ TEST(NumberReader, SaysWhatIsNoNumber) {
 
 TEST(NumberReader, IsNotUpsetByTheEndlessAndTheHuge) {
     EXPECT_EQ(read(u"1e400").kind, NumberReading::TooLarge);
-    EXPECT_EQ(read(u"-1e99999999999999999999").number, -Largest);
+    EXPECT_EQ(read(u"-1e99999999999999999999").number, -LargestNumber);
     constexpr std::size_t Megabyte = 1 << 20;
     const std::u16string nines(Megabyte, u'9');
     const std::u16string zeros(Megabyte, u'0');
     EXPECT_EQ(read(nines).kind, NumberReading::TooLarge);
-    EXPECT_EQ(read(nines).number, Largest);
+    EXPECT_EQ(read(nines).number, LargestNumber);
     EXPECT_EQ(read(zeros + u"5").number, 5);
     EXPECT_EQ(read(u"0." + nines).number, 1);
     EXPECT_EQ(read(u"0." + zeros + u"5").number, 0);
@@ -131,11 +131,11 @@ TEST(NumericValues, AreNumbersAndTextsOfNumbers) {
         {"a text with a half", std::u16string(u"1.005"), true, 1.01},
         {"a general text", generalNumber(1e20, defaultRegion()), true, 1e20},
         {"the empty text", std::u16string(), false, 0},
-        {"too large a text", std::u16string(u"1e400"), false, Largest},
+        {"too large a text", std::u16string(u"1e400"), false, LargestNumber},
         {"no value", Null{}, false, 0},
         {"a day", Date{41639.5}, false, 41639.5},
         {"not a number", std::nan(""), false, 0},
-        {"infinity", infinity, false, Largest},
+        {"infinity", infinity, false, LargestNumber},
     };
     for (const auto& test : cases) {
         SCOPED_TRACE(test.what);

@@ -69,7 +69,7 @@ std::set<std::string_view> headersOf(const ClassModel& model) {
 // ---- Header
 
 /// One that a typed property stands for is for code: tools show and save the typed one.
-void writeProperty(std::ostream& out, const ClassModel& model, const MemberRow& member) {
+void writeQtProperty(std::ostream& out, const ClassModel& model, const MemberRow& member) {
     if (isLeftOut(member) || isWidgetsOwn(member) || writeStandingProperty(out, member)) return;
     const bool isTyped = typedProperty(model, member) != nullptr;
     if (isTyped) writeTypedProperty(out, model, member);
@@ -84,14 +84,14 @@ void writeProperty(std::ostream& out, const ClassModel& model, const MemberRow& 
 }
 
 /// Those that are saved come first, in the order in which a form is loaded: tools set them one after the other.
-void writeProperties(std::ostream& out, const ClassModel& model) {
+void writeQtProperties(std::ostream& out, const ClassModel& model) {
     for (const PersistedRow& saved : model.loaded) {
         const auto member = std::find_if(model.members.begin(), model.members.end(),
                                          [&](const MemberRow& row) { return &row.persisted == &saved; });
-        writeProperty(out, model, *member);
+        writeQtProperty(out, model, *member);
     }
     for (const MemberRow& member : model.members)
-        if (!member.isPersisted() && isQtProperty(member)) writeProperty(out, model, member);
+        if (!member.isPersisted() && isQtProperty(member)) writeQtProperty(out, model, member);
     writeMadeProperties(out, model);
 }
 
@@ -224,7 +224,7 @@ std::string widgetHeader(const ClassModel& model) {
     out << "#include \"platform/qt/control/KelControlWidget.h\"\n\n";
     writeClassComment(out, model);
     out << "class KELCONTROLS8_EXPORT " << widgetName(model) << " : public kel::qt::KelControlWidget {\n    Q_OBJECT\n";
-    writeProperties(out, model);
+    writeQtProperties(out, model);
     out << "\npublic:\n";
     writeEnums(out, model);
     out << "    explicit " << widgetName(model) << "(QWidget* parent = nullptr);\n\n";

@@ -13,8 +13,6 @@ namespace kel::qt {
 
 namespace {
 
-int toInt(std::size_t position) { return static_cast<int>(position); }
-
 QAccessible::Role roleFor(AccessibleRole role) {
     switch (role) {
         case AccessibleRole::ComboBox: return QAccessible::ComboBox;

@@ -12,4 +12,7 @@ inline QStringView qtViewOf(std::u16string_view text) { return {text.data(), sta
 
 inline QString toQString(std::u16string_view text) { return qtViewOf(text).toString(); }
 
+/// Qt counts positions in a text as int.
+inline int toInt(std::size_t position) { return static_cast<int>(position); }
+
 }  // namespace kel::qt

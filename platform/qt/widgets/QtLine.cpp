@@ -54,8 +54,6 @@ PaintedGround& paintedGround() {
 constexpr Qt::InputMethodHints PasswordHints =
     Qt::ImhHiddenText | Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase | Qt::ImhSensitiveData;
 
-int toInt(std::size_t position) { return static_cast<int>(position); }
-
 /// Its letters stand one after the other, none wider than the font's widest.
 bool isPlain(QStringView text) {
     return std::all_of(text.begin(), text.end(), [](QChar unit) { return unit >= u' ' && unit <= u'~'; });
