@@ -98,8 +98,12 @@ const std::string NumbersForm = formOf({{"txtName", "KelText", ""},
 
 // ---- Killed while it saves
 
-/// A file is written by the program that is killed; on a server only the connection goes.
-int killsWanted() { return std::getenv("KEL_POSTGRES") == nullptr ? 200 : 50; }
+/// How often something is done: as a variable of the environment says, for a long look, or else as usual.
+int timesWanted(const char* variable, int usual) {
+    const char* const wanted = std::getenv(variable);
+    return wanted != nullptr ? std::atoi(wanted) : usual;
+}
+
 constexpr int Changed = 1'000'000;  ///< is added to what stands in a record when it is changed
 
 /// Stores and changes records whose columns belong together, and reports each as soon as it is saved: new ones by
@@ -134,7 +138,7 @@ TEST_F(Programs, WhatIsSavedSurvivesAKill) {
         "name <> 'Member ' || CAST(CAST(a AS INTEGER) AS TEXT)";
     int from = 1;
     std::size_t saved = 0;
-    const int kills = killsWanted();
+    const int kills = timesWanted("KEL_KILLS", 50);
     for (int i = 0; i < kills; ++i) {
         const Program program([&](const Program::Report& report) { keepStoring(from, report); });
         program.awaitReport();
@@ -161,12 +165,6 @@ TEST_F(Programs, WhatIsSavedSurvivesAKill) {
 }
 
 // ---- Two programs on the same records
-
-/// How many changes the two make together: KEL_CHANGES of them, for a long look.
-int changesWanted() {
-    const char* const wanted = std::getenv("KEL_CHANGES");
-    return wanted != nullptr ? std::atoi(wanted) : 10'000;
-}
 
 /// Adds 1 to a field of its own and to one that both count in, in records by chance; reports how often it was asked.
 void keepAdding(std::u16string_view own, unsigned seed, int changes, const Program::Report& report) {
@@ -211,7 +209,7 @@ TEST_F(Programs, NoChangeIsLostBetweenTwo) {
     execute(
         "WITH RECURSIVE row (id) AS (SELECT 1 UNION ALL SELECT id + 1 FROM row WHERE id < 100) "
         "INSERT INTO member SELECT id, 'x', id, 0, 0, 0 FROM row");
-    const int each = changesWanted() / 2;
+    const int each = timesWanted("KEL_CHANGES", 2'000) / 2;
     const Program one([&](const Program::Report& report) { keepAdding(u"numA", 1, each, report); });
     const Program two([&](const Program::Report& report) { keepAdding(u"numB", 2, each, report); });
     int asked = 0;
