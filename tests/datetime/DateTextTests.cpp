@@ -9,16 +9,16 @@ namespace {
 
 using test::day;
 using test::draw;
-using enum KelDateDaysFlag;
+using Flag = KelDateDaysFlag;
 
 const Date Today = day(2013, 3, 15);
 
-DayPin pin(KelDateDaysFlag flag) { return {flag, lastDayOfMonth}; }
+DayPin pin(Flag flag) { return {flag, lastDayOfMonth}; }
 
 /// A field under test; the parts of a step that tables leave alone.
 struct Field {
     std::u16string format{DefaultDateFormat};
-    KelDateDaysFlag flag = Allow;
+    Flag flag = Flag::Allow;
     DateBounds bounds = AllDates;
     RegionalSettings region = defaultRegion();
 
@@ -82,7 +82,7 @@ TEST(DateSteps, KnowLettersAndSeparatorsOfOtherScripts) {
     checkSteps({.region = *findRegion(u"sk-SK")}, {{"15.| 03. 2013", {2013, 3, 15}, 1, "15. 04|. 2013"},
                                                    {"15. 03|. 2013", {2013, 3, 15}, 1, "15. 04|. 2013"},
                                                    {"15. 03. 2|013", {2013, 3, 15}, 1, "15. 03. 2014|"}});
-    checkSteps({.flag = FirstDay, .region = *findRegion(u"sk-SK")}, {{"15|", {2013, 3, 15}, 1, "01. 04|. 2013"}});
+    checkSteps({.flag = Flag::FirstDay, .region = *findRegion(u"sk-SK")}, {{"15|", {2013, 3, 15}, 1, "01. 04|. 2013"}});
 
     // The caret ends up in front of the next separator, and what it passes on the way is none.
     Field separated;
@@ -119,7 +119,7 @@ TEST(DateSteps, FindThePartsThatAFormatShows) {
     checkSteps({.format = u"dd.mm;yyyy"}, {{"15.|03", {2013, 3, 15}, 1, "15.04|"}});
     checkSteps({.format = u"aaaa, oooo"}, {{"Fri|day, March", {2013, 3, 15}, 1, "Saturday|, March"},
                                            {"Friday, |March", {2013, 3, 15}, 1, "Monday, April|"}});
-    checkSteps({.format = u"\"From\" d mmm", .flag = FirstDay},
+    checkSteps({.format = u"\"From\" d mmm", .flag = Flag::FirstDay},
                {{"From 1| Mar", {2013, 3, 1}, 1, "From 1| Apr"}, {"march|", {2013, 3, 1}, 1, "From 1 Apr|"}});
     checkSteps({.format = u"Standard"}, {{"41,34|8.00", {2013, 3, 15}, 1, "41,34|9.00"}});
 
@@ -145,15 +145,15 @@ TEST(DateSteps, MoveTheDayOfATextThatIsNotAsShown) {
 }
 
 TEST(DateSteps, NeverMoveAPinnedDay) {
-    checkSteps({.flag = FirstDay}, {
-                                       {"|01/03/2013", {2013, 3, 1}, 1, "01|/04/2013"},
-                                       {"|15/03/2013", {2013, 3, 15}, 1, "01/04|/2013"},
-                                   });
-    checkSteps({.flag = LastDay}, {
-                                      {"31/0|1/2013", {2013, 1, 31}, 1, "28/02|/2013"},
-                                      {"15/03/2013|", {2013, 3, 15}, -1, "28/02|/2013"},
-                                  });
-    checkSteps({.flag = BirthDay}, {{"|15/03/2013", {2013, 3, 15}, 1, "16|/03/2013"}});
+    checkSteps({.flag = Flag::FirstDay}, {
+                                             {"|01/03/2013", {2013, 3, 1}, 1, "01|/04/2013"},
+                                             {"|15/03/2013", {2013, 3, 15}, 1, "01/04|/2013"},
+                                         });
+    checkSteps({.flag = Flag::LastDay}, {
+                                            {"31/0|1/2013", {2013, 1, 31}, 1, "28/02|/2013"},
+                                            {"15/03/2013|", {2013, 3, 15}, -1, "28/02|/2013"},
+                                        });
+    checkSteps({.flag = Flag::BirthDay}, {{"|15/03/2013", {2013, 3, 15}, 1, "16|/03/2013"}});
 }
 
 TEST(DateSteps, LeadToTodayFirst) {
@@ -164,8 +164,8 @@ TEST(DateSteps, LeadToTodayFirst) {
     } cases[] = {
         {{}, "|", "15|/03/2013"},
         {{}, "no date|", "15|/03/2013"},
-        {{.flag = FirstDay}, "|", "01/03|/2013"},
-        {{.flag = LastDay}, "|", "31/03|/2013"},
+        {{.flag = Flag::FirstDay}, "|", "01/03|/2013"},
+        {{.flag = Flag::LastDay}, "|", "31/03|/2013"},
         {{.bounds = {day(2014, 1, 1), day(2014, 12, 31)}}, "|", "01|/01/2014"},
     };
     for (const auto& test : cases) {
@@ -183,8 +183,8 @@ TEST(DateSteps, StopAtTheBoundsBeforeTheDayIsPinned) {
                                        {"10|/03/2013", {2013, 3, 10}, -1, "10|/03/2013"},
                                        {"|01/01/2000", {2000, 1, 1}, 1, "10|/03/2013"},
                                    });
-    checkSteps({.flag = LastDay, .bounds = spring}, {{"30/0|4/2013", {2013, 4, 30}, 1, "31/05|/2013"}});
-    checkSteps({.flag = FirstDay, .bounds = spring}, {{"01/0|4/2013", {2013, 4, 1}, -1, "01/03|/2013"}});
+    checkSteps({.flag = Flag::LastDay, .bounds = spring}, {{"30/0|4/2013", {2013, 4, 30}, 1, "31/05|/2013"}});
+    checkSteps({.flag = Flag::FirstDay, .bounds = spring}, {{"01/0|4/2013", {2013, 4, 1}, -1, "01/03|/2013"}});
 }
 
 TEST(DateSteps, StayAtTheEndsOfTheCalendar) {
@@ -193,25 +193,25 @@ TEST(DateSteps, StayAtTheEndsOfTheCalendar) {
                        {"15/03/|9999", {9999, 3, 15}, 1, "15/03/9999|"},
                        {"|01/01/100", {100, 1, 1}, -1, "01|/01/100"},
                    });
-    checkSteps({.flag = LastDay}, {{"01/12/9999|", {9999, 12, 1}, 1, "31/12|/9999"}});
+    checkSteps({.flag = Flag::LastDay}, {{"01/12/9999|", {9999, 12, 1}, 1, "31/12|/9999"}});
 }
 
 TEST(Dates, ArePinnedByTheRunTimeObject) {
-    const DayPin payday{LastDay, [](Date date) { return Date{firstDayOfMonth(date).Serial + 24}; }};
+    const DayPin payday{Flag::LastDay, [](Date date) { return Date{firstDayOfMonth(date).Serial + 24}; }};
     const FieldFormat format{std::u16string(DefaultDateFormat)};
     const BoxState box{u"31/03/2013", 0, day(2013, 3, 31)};
     const FieldStep step = stepDate(box, Today, 1, {format, AllDates, defaultRegion()}, payday);
     EXPECT_EQ(step.value, day(2013, 4, 25));
     EXPECT_EQ(step.caret, 2U) << "what the calendar's last day shows is the field's own text";
 
-    EXPECT_EQ(pinned(Today, {FirstDay, {}}), day(2013, 3, 1)) << "for that none is needed";
+    EXPECT_EQ(pinned(Today, {Flag::FirstDay, {}}), day(2013, 3, 1)) << "for that none is needed";
 }
 
 TEST(Dates, AreCommittedWithinTheBoundsAndThenPinned) {
     const DateBounds bounds{day(2013, 3, 10), day(2013, 5, 20)};
-    EXPECT_EQ(committed(day(2013, 3, 9), bounds, pin(Allow)), bounds.minimum);
-    EXPECT_EQ(committed(Today, bounds, pin(Allow)), Today);
-    EXPECT_EQ(committed(day(2014, 1, 1), bounds, pin(LastDay)), day(2013, 5, 31));
+    EXPECT_EQ(committed(day(2013, 3, 9), bounds, pin(Flag::Allow)), bounds.minimum);
+    EXPECT_EQ(committed(Today, bounds, pin(Flag::Allow)), Today);
+    EXPECT_EQ(committed(day(2014, 1, 1), bounds, pin(Flag::LastDay)), day(2013, 5, 31));
 }
 
 TEST(Dates, AreSavedInEightDigitsOrAsNow) {

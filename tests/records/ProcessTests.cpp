@@ -49,7 +49,7 @@ public:
     /// What it has reported until its end, and how it ended.
     std::pair<std::vector<int>, int> outcome() const {
         std::vector<int> numbers;
-        for (int number = 0; read(Reports_, &number, sizeof number) == sizeof number;) numbers.push_back(number);
+        for (int number = 0; ::read(Reports_, &number, sizeof number) == sizeof number;) numbers.push_back(number);
         int status = 0;
         waitpid(Id_, &status, 0);
         return {std::move(numbers), status};

@@ -27,7 +27,7 @@ constexpr DWORD Ground = 0xFFF0F0;  ///< of a locked field
 bool isDark(DWORD color) { return (color & 0xFFU) < 0x90; }
 
 /// The control's own size: 240 by 20 pixels.
-constexpr SIZEL Size{6350, 529};
+constexpr SIZEL FieldSize{6350, 529};
 
 void paint(Picture& picture, const RECT& area, DWORD color) {
     HBRUSH const brush = CreateSolidBrush(RGB(color >> 16, (color >> 8) & 0xFF, color & 0xFF));
@@ -94,7 +94,7 @@ void playClassic(IUnknown* control, HDC context, const RECT& area) {
     STGMEDIUM medium = dataOf(control, CF_METAFILEPICT, TYMED_MFPICT);
     const auto* const described = static_cast<METAFILEPICT*>(GlobalLock(medium.hMetaFilePict));
     EXPECT_EQ(described->mm, LONG{MM_ANISOTROPIC});
-    EXPECT_EQ(described->xExt, Size.cx);
+    EXPECT_EQ(described->xExt, FieldSize.cx);
     play(context, area, described->hMF);
     GlobalUnlock(medium.hMetaFilePict);
     ReleaseStgMedium(&medium);
@@ -216,7 +216,7 @@ constexpr Place Places[] = {
 
 Ref<_KelText> lockedField() {
     const auto field = makeText();
-    SIZEL size = Size;
+    SIZEL size = FieldSize;
     EXPECT_CODE(field.as<IOleObject>()->SetExtent(DVASPECT_CONTENT, &size), S_OK);
     Bag bag;
     bag.Texts = {{L"Caption", L"&Name"}, {L"CaptionWidth", L"1200"}, {L"Locked", L"True"}};
@@ -337,7 +337,7 @@ TEST(picture_is_what_the_window_shows) {
         fromRight.Value.vt = VT_BOOL;
         fromRight.Value.boolVal = mirrored ? VARIANT_TRUE : VARIANT_FALSE;
         host.say(DISPID_AMBIENT_RIGHTTOLEFT, std::move(fromRight));
-        SIZEL size{Size.cx, MulDiv(row.height, 2540, 96)};
+        SIZEL size{FieldSize.cx, MulDiv(row.height, 2540, 96)};
         EXPECT_CODE(host.object()->SetExtent(DVASPECT_CONTENT, &size), S_OK);
         Bag bag;
         bag.Texts = row.texts;
@@ -397,7 +397,7 @@ TEST(picture_underlines_the_letter_of_the_mnemonic) {
             fromRight.Value.vt = VT_BOOL;
             fromRight.Value.boolVal = row.mirrored ? VARIANT_TRUE : VARIANT_FALSE;
             host.say(DISPID_AMBIENT_RIGHTTOLEFT, std::move(fromRight));
-            SIZEL size = Size;
+            SIZEL size = FieldSize;
             EXPECT_CODE(host.object()->SetExtent(DVASPECT_CONTENT, &size), S_OK);
             Bag bag;
             bag.Texts = {{L"Caption", caption}, {L"CaptionWidth", L"1200"}};
@@ -431,7 +431,7 @@ TEST(picture_keeps_every_colour_in_a_metafile) {
          {L"KelText", L"KelNumber", L"KelDate", L"KelTime", L"KelCombo", L"KelCheck", L"KelProgressBar"}) {
         for (const bool enabled : {true, false}) {
             const auto control = create((std::wstring(L"KelControls8.") + name).c_str());
-            SIZEL size = Size;
+            SIZEL size = FieldSize;
             EXPECT_CODE(control.as<IOleObject>()->SetExtent(DVASPECT_CONTENT, &size), S_OK);
             Bag bag;
             bag.Texts = {{L"Caption", L"&Caption"},
@@ -481,8 +481,8 @@ TEST(picture_says_what_there_is_of_it) {
     EXPECT_EQ(found, DWORD{VIEWSTATUS_OPAQUE | VIEWSTATUS_SOLIDBKGND});
     RECTL whole{};
     EXPECT_CODE(view->GetRect(DVASPECT_CONTENT, &whole), S_OK);
-    EXPECT_EQ(whole.right, Size.cx);
-    EXPECT_EQ(whole.bottom, Size.cy);
+    EXPECT_EQ(whole.right, FieldSize.cx);
+    EXPECT_EQ(whole.bottom, FieldSize.cy);
     EXPECT_CODE(view->GetRect(DVASPECT_TRANSPARENT, &whole), DV_E_DVASPECT);
     const RECT shown{10, 10, 250, 30};
     const struct {
@@ -502,7 +502,7 @@ TEST(picture_says_what_there_is_of_it) {
     DVEXTENTINFO wanted{sizeof wanted, DVEXTENT_CONTENT, {1, 1}};
     SIZEL natural{};
     EXPECT_CODE(view->GetNaturalExtent(DVASPECT_CONTENT, -1, nullptr, nullptr, &wanted, &natural), S_OK);
-    EXPECT_EQ(natural.cx, Size.cx);
+    EXPECT_EQ(natural.cx, FieldSize.cx);
     wanted.dwExtentMode = DVEXTENT_INTEGRAL;
     EXPECT_CODE(view->GetNaturalExtent(DVASPECT_CONTENT, -1, nullptr, nullptr, &wanted, &natural), E_NOTIMPL);
 }

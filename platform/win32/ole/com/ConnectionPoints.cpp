@@ -82,10 +82,10 @@ ComPtr<IUnknown> EventPoint::accept(IUnknown& sink) const {
 void EventPoint::raise(const EventRow& event, std::span<Variant> arguments) const {
     if (nobodyListens()) return;
     const Sinks now = sinks();
-    constexpr std::size_t MostArguments = 4;
-    std::array<OwnedVariant, MostArguments> values;
-    std::array<VARIANT, MostArguments> passed{};
-    const std::size_t count = std::min(arguments.size(), MostArguments);
+    constexpr std::size_t MostEventArguments = 4;
+    std::array<OwnedVariant, MostEventArguments> values;
+    std::array<VARIANT, MostEventArguments> passed{};
+    const std::size_t count = std::min(arguments.size(), MostEventArguments);
     for (std::size_t i = 0; i < count; ++i) {
         toAutomation(arguments[i], *values[i]);
         VARIANT& argument = passed[count - 1 - i];
