@@ -13,10 +13,8 @@ namespace kel {
 
 namespace {
 
-constexpr std::u16string_view Blanks = u" \t";
-
 void skipBlanks(std::u16string_view& rest) {
-    const std::size_t start = rest.find_first_not_of(Blanks);
+    const std::size_t start = rest.find_first_not_of(ScriptBlanks);
     rest.remove_prefix(start == std::u16string_view::npos ? rest.size() : start);
 }
 

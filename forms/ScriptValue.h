@@ -10,6 +10,9 @@
 /// #2013-03-15 10:15:30#, Empty, Null, ["a", "b"].
 namespace kel {
 
+/// What stands between the words of a script.
+constexpr std::u16string_view ScriptBlanks = u" \t";
+
 /// Takes one value off the front of `rest`, leading blanks too. On a mistake nothing, and `error` says what
 /// is wrong.
 std::optional<Variant> takeScriptValue(std::u16string_view& rest, std::string& error);

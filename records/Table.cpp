@@ -19,14 +19,11 @@ std::u16string letters(std::u16string_view name) {
     return kept;
 }
 
-bool isLower(char16_t unit) { return unit >= u'a' && unit <= u'z'; }
-bool isUpper(char16_t unit) { return unit >= u'A' && unit <= u'Z'; }
-
 /// A name without the letters that tell a control's kind stays.
 std::u16string_view withoutPrefix(std::u16string_view controlName) {
     const bool prefixed = controlName.size() > PrefixLength &&
-                          std::all_of(controlName.begin(), controlName.begin() + PrefixLength, &isLower) &&
-                          (isUpper(controlName[PrefixLength]) || controlName[PrefixLength] == u'_');
+                          std::all_of(controlName.begin(), controlName.begin() + PrefixLength, &isLowerAscii) &&
+                          (isUpperAscii(controlName[PrefixLength]) || controlName[PrefixLength] == u'_');
     return prefixed ? controlName.substr(PrefixLength) : controlName;
 }
 
@@ -63,9 +60,8 @@ std::u16string databaseName(std::u16string_view controlName) {
     std::u16string name;
     char16_t before = 0;
     for (const char16_t unit : withoutPrefix(controlName)) {
-        const bool isUpper = unit >= u'A' && unit <= u'Z';
-        const bool follows = (before >= u'a' && before <= u'z') || (before >= u'0' && before <= u'9');
-        if (isUpper && follows) name += u'_';
+        const bool follows = isLowerAscii(before) || (before >= u'0' && before <= u'9');
+        if (isUpperAscii(unit) && follows) name += u'_';
         name += unit == u' ' || unit == u'-' ? u'_' : toLowerAscii(unit);
         before = unit;
     }

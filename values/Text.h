@@ -37,9 +37,10 @@ constexpr char32_t takeCodePoint(std::u16string_view& text) {
 /// The one or two units of a character.
 void appendCodePoint(std::u16string& text, char32_t code);
 
-constexpr char16_t toLowerAscii(char16_t unit) {
-    return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
-}
+constexpr bool isLowerAscii(char16_t unit) { return unit >= u'a' && unit <= u'z'; }
+constexpr bool isUpperAscii(char16_t unit) { return unit >= u'A' && unit <= u'Z'; }
+
+constexpr char16_t toLowerAscii(char16_t unit) { return isUpperAscii(unit) ? static_cast<char16_t>(unit + 32) : unit; }
 
 /// Equality without regard to the case of ASCII letters, as member and property names are compared.
 constexpr bool equalsIgnoringCase(std::u16string_view left, std::u16string_view right) {

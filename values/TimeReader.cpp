@@ -16,21 +16,21 @@ namespace {
 
 enum class HalfDay : std::uint8_t { None, Morning, Afternoon };
 
-constexpr bool isBlank(char16_t unit) {
+constexpr bool isTimeBlank(char16_t unit) {
     return unit == u' ' || (unit >= 0x09 && unit <= 0x0D) || unit == 0x00A0 || unit == 0x2009 || unit == 0x202F;
 }
 
 /// Marks for the direction of writing have no shape.
 constexpr bool isUnseen(char16_t unit) {
     if (unit > u' ' && unit < 0x0080) return false;
-    return isBlank(unit) || unit == 0x200E || unit == 0x200F || unit == 0x061C;
+    return isTimeBlank(unit) || unit == 0x200E || unit == 0x200F || unit == 0x061C;
 }
 
 void skipBlanks(std::u16string_view& text) {
     while (!text.empty() && isUnseen(text.front())) text.remove_prefix(1);
 }
 
-void trim(std::u16string_view& text) {
+void trimUnseen(std::u16string_view& text) {
     skipBlanks(text);
     while (!text.empty() && isUnseen(text.back())) text.remove_suffix(1);
 }
@@ -233,7 +233,8 @@ std::optional<Date> readBehindDate(std::u16string_view text, const RegionalSetti
     std::optional<Date> found;
     std::u16string_view rest = text;
     for (int words = 0; words < MostWords; ++words) {
-        rest.remove_prefix(static_cast<std::size_t>(std::find_if(rest.begin(), rest.end(), isBlank) - rest.begin()));
+        rest.remove_prefix(
+            static_cast<std::size_t>(std::find_if(rest.begin(), rest.end(), isTimeBlank) - rest.begin()));
         const std::u16string_view front = text.substr(0, text.size() - rest.size());
         skipBlanks(rest);
         if (rest.empty()) break;
@@ -247,7 +248,7 @@ std::optional<Date> readBehindDate(std::u16string_view text, const RegionalSetti
 }  // namespace
 
 std::optional<Date> readTime(std::u16string_view text, const RegionalSettings& region) {
-    trim(text);
+    trimUnseen(text);
     std::optional<Date> time = Reader(text, region).read();
     if (!time) time = readBehindDate(text, region);
     return time;

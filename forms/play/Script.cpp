@@ -252,9 +252,8 @@ void readArguments(LineReader& line, ScriptCommand& command, const VerbRow& row)
 }
 
 std::u16string_view withoutBlanks(std::u16string_view text) {
-    constexpr std::u16string_view Blanks = u" \t";
-    text.remove_prefix(std::min(text.find_first_not_of(Blanks), text.size()));
-    return text.substr(0, text.find_last_not_of(Blanks) + 1);
+    text.remove_prefix(std::min(text.find_first_not_of(ScriptBlanks), text.size()));
+    return text.substr(0, text.find_last_not_of(ScriptBlanks) + 1);
 }
 
 ScriptCommand readCommand(const std::string& file, std::size_t lineNumber, std::u16string_view text) {

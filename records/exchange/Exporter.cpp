@@ -9,7 +9,7 @@ namespace kel::records {
 
 namespace {
 
-constexpr std::int32_t AtOnce = 500;
+constexpr std::int32_t ExportedAtOnce = 500;
 
 bool isNumber(ColumnType type) { return type == ColumnType::Real || type == ColumnType::Decimal; }
 
@@ -50,12 +50,12 @@ std::int64_t Exporter::run(const ListFormat& format, const Write& write, const G
     if (format.hasHeader) take([&](std::size_t column) { return toUtf8(Records_.table().columns[column].name); });
     std::optional<Record> last;
     for (std::int64_t count = 0;;) {
-        std::vector<Record> some = Records_.walk(last ? &*last : nullptr, Way::Forward, AtOnce, Order_);
+        std::vector<Record> some = Records_.walk(last ? &*last : nullptr, Way::Forward, ExportedAtOnce, Order_);
         for (const Record& record : some) take([&](std::size_t column) { return valueOf(record, column, numbers); });
         count += static_cast<std::int64_t>(some.size());
         write(lines);
         lines.clear();
-        if (some.size() < static_cast<std::size_t>(AtOnce) || !goesOn(count)) return count;
+        if (some.size() < static_cast<std::size_t>(ExportedAtOnce) || !goesOn(count)) return count;
         last = std::move(some.back());
     }
 }

@@ -8,19 +8,18 @@ namespace kel::records {
 
 namespace {
 
-bool isUpper(char16_t unit) { return unit >= u'A' && unit <= u'Z'; }
-bool isLower(char16_t unit) { return unit >= u'a' && unit <= u'z'; }
 bool isDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
-bool isLetter(char16_t unit) { return isUpper(unit) || isLower(unit); }
-char16_t toUpper(char16_t unit) { return isLower(unit) ? static_cast<char16_t>(unit - 32) : unit; }
+bool isLetter(char16_t unit) { return isUpperAscii(unit) || isLowerAscii(unit); }
+char16_t toUpper(char16_t unit) { return isLowerAscii(unit) ? static_cast<char16_t>(unit - 32) : unit; }
 
 bool isGap(char16_t unit) { return unit == u' ' || unit == u'_' || unit == u'-' || unit == u'.'; }
 
 /// In "OrderDate" at the D, in "VATRate" at the R.
 bool beginsWord(std::u16string_view name, std::size_t place) {
-    if (place == 0 || !isUpper(name[place])) return false;
-    const bool isFollowedByLower = place + 1 < name.size() && isLower(name[place + 1]);
-    return isLower(name[place - 1]) || isDigit(name[place - 1]) || (isUpper(name[place - 1]) && isFollowedByLower);
+    if (place == 0 || !isUpperAscii(name[place])) return false;
+    const bool isFollowedByLower = place + 1 < name.size() && isLowerAscii(name[place + 1]);
+    return isLowerAscii(name[place - 1]) || isDigit(name[place - 1]) ||
+           (isUpperAscii(name[place - 1]) && isFollowedByLower);
 }
 
 bool isInitials(std::u16string_view word) {

@@ -15,7 +15,7 @@ namespace kel::win32 {
 namespace {
 
 constexpr DWORD FormStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
-constexpr UINT ResolutionChanged = 0x02E0;  // WM_DPICHANGED, younger than what the headers are asked for
+constexpr UINT FormResolutionChanged = 0x02E0;  // WM_DPICHANGED, younger than what the headers are asked for
 constexpr UINT SentKey = WM_APP + 1;
 
 const WindowClass& formClass() {
@@ -173,7 +173,7 @@ bool Win32FormWindow::canHaveFocusAgain(HWND window) const {
 
 LRESULT Win32FormWindow::handleMessage(HWND window, UINT message, WPARAM wide, LPARAM data) {
     switch (message) {
-        case ResolutionChanged: changeResolution(HIWORD(wide)); return 0;
+        case FormResolutionChanged: changeResolution(HIWORD(wide)); return 0;
         case WM_ACTIVATE: activated(wide); return 0;
         case SentKey: strikeSent(static_cast<std::int16_t>(wide)); return 0;
         case WM_TIMER: EndMenu(); return 0;

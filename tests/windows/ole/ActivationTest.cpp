@@ -15,12 +15,6 @@ HWND windowOf(_KelText* field) {
     return reinterpret_cast<HWND>(static_cast<INT_PTR>(handle));
 }
 
-SIZEL extentOf(Host& host) {
-    SIZEL size{};
-    EXPECT_CODE(host.object()->GetExtent(DVASPECT_CONTENT, &size), S_OK);
-    return size;
-}
-
 }  // namespace
 
 TEST(activation_shows_the_control_in_its_place) {

@@ -27,6 +27,8 @@ Ref<IDispatch> create(const wchar_t* programId) {
     return made;
 }
 
+Ref<IDispatch> makeControl(const std::wstring& className) { return create((L"KelControls8." + className).c_str()); }
+
 namespace {
 
 constexpr struct {

@@ -122,6 +122,8 @@ GUID systemGuid(const Guid& guid);
 
 /// A new object of a class, by its program identifier.
 Ref<IDispatch> create(const wchar_t* programId);
+/// A new control of a class, by the class's name.
+Ref<IDispatch> makeControl(const std::wstring& className);
 
 /// A new control of a class.
 Ref<_KelText> makeText();

@@ -191,6 +191,12 @@ void inAnotherApartment(const std::function<void()>& body) {
     if (elsewhere.failure) throw *elsewhere.failure;
 }
 
+SIZEL extentOf(Host& host) {
+    SIZEL size{};
+    EXPECT_CODE(host.object()->GetExtent(DVASPECT_CONTENT, &size), S_OK);
+    return size;
+}
+
 HRESULT canUnload(const wchar_t* file) {
     auto* const asked = win32::procedureOf<HRESULT STDMETHODCALLTYPE()>(file, "DllCanUnloadNow");
     EXPECT(asked != nullptr);

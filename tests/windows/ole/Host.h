@@ -210,6 +210,9 @@ public:
 /// Runs `body` on a thread with an apartment of its own, while this one serves its calls. What fails there fails here.
 void inAnotherApartment(const std::function<void()>& body);
 
+/// Of the control inside, in hundredths of a millimetre.
+SIZEL extentOf(Host& host);
+
 /// What a server that is loaded says when it is asked whether it may go.
 HRESULT canUnload(const wchar_t* file);
 

@@ -24,8 +24,6 @@ std::vector<const ClassModel*> controls() {
     return found;
 }
 
-Ref<IDispatch> makeControl(const std::wstring& className) { return create((L"KelControls8." + className).c_str()); }
-
 /// Another value of the same type; a date where there is none, with a time of day for the class that keeps that.
 Var another(const VARIANT& value) {
     if (value.vt == VT_BSTR) return Var((std::wstring(value.bstrVal, SysStringLen(value.bstrVal)) + L"x").c_str());

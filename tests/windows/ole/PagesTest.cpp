@@ -28,8 +28,6 @@ namespace {
 
 using win32::wide;
 
-Ref<IDispatch> makeControl(const std::wstring& className) { return create((L"KelControls8." + className).c_str()); }
-
 DISPID idOf(IDispatch* object, const wchar_t* name) {
     std::wstring copy = name;
     wchar_t* names = copy.data();

@@ -52,12 +52,6 @@ HWND fieldOf(Host& host) {
     return window;
 }
 
-SIZEL extentOf(Host& host) {
-    SIZEL size{};
-    EXPECT_CODE(host.object()->GetExtent(DVASPECT_CONTENT, &size), S_OK);
-    return size;
-}
-
 LONG fontHeight(HWND window) {
     LOGFONTW font{};
     GetObjectW(reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)), sizeof font, &font);
