@@ -569,6 +569,7 @@ private:
     std::array<Thunk, 32> Puts_{};  ///< of each row; nullptr where it has none
 };
 
+/// What a class model names for making its controls.
 template <class ControlClass>
 std::unique_ptr<Control> makeControl(ControlHost& host) {
     return std::make_unique<ControlClass>(host);

@@ -96,13 +96,13 @@ const std::string NumbersForm = formOf({{"txtName", "KelText", ""},
                                         {"numB", "KelNumber", Large},
                                         {"numC", "KelNumber", Large}});
 
-// ---- Killed while it saves
-
 /// How often something is done: as a variable of the environment says, for a long look, or else as usual.
 int timesWanted(const char* variable, int usual) {
     const char* const wanted = std::getenv(variable);
     return wanted != nullptr ? std::atoi(wanted) : usual;
 }
+
+// ---- Killed while it saves
 
 constexpr int Changed = 1'000'000;  ///< is added to what stands in a record when it is changed
 
